@@ -1,0 +1,13 @@
+#include "foundation/command.h"
+
+namespace winvrx {
+
+Message incorrectData() { return {"Erro", "Dados incorretos!", Icon::Critical}; }
+
+void reportFailure(const Workplace& at, Message message, const std::exception& fault) {
+    at.log.write(message.title + ": " + message.text + " " + fault.what());
+    message.detail = explanationOf(fault);
+    at.person.tell(message);
+}
+
+}  // namespace winvrx

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "foundation/clock.h"
+#include "foundation/faults.h"
+#include "foundation/file_system.h"
+#include "foundation/log.h"
+#include "foundation/operator.h"
+#include "foundation/session.h"
+
+#include <exception>
+
+namespace winvrx {
+
+/// What every command works with. The referred objects outlive all commands.
+struct Workplace {
+    FileSystem& files;
+    Operator& person;
+    const Clock& clock;
+    Log& log;
+    Session& session;
+};
+
+/// "Dados incorretos!" titled "Erro", the answer of most commands to a failure.
+[[nodiscard]] Message incorrectData();
+
+/// Logs the cause and tells the operator `message` with one sentence on what happened.
+void reportFailure(const Workplace& at, Message message, const std::exception& fault);
+
+/// Runs a command under its catch-all. `work` returns whether the command was carried out; a fault
+/// on the way is logged and told, and counts as not carried out.
+template <typename Work>
+[[nodiscard]] bool attempt(const Workplace& at, const Message& onFailure, Work&& work) {
+    try {
+        return work();
+    } catch (const std::exception& fault) {
+        reportFailure(at, onFailure, fault);
+        return false;
+    }
+}
+
+}  // namespace winvrx

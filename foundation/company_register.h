@@ -1,0 +1,39 @@
+#pragma once
+
+#include "foundation/clock.h"
+#include "foundation/company.h"
+#include "foundation/data_folder.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace winvrx {
+
+inline constexpr std::string_view kCompanyRegisterName = "01Empresa";
+
+/// A line of the register. A line whose code is not two digits is kept as it stands and has no
+/// code: it can be shown, but not selected or changed.
+struct CompanyLine {
+    std::string bytes;
+    Company company;
+
+    [[nodiscard]] std::optional<CompanyCode> code() const {
+        return CompanyCode::parse(company.code);
+    }
+};
+
+/// The lines of the register in file order; empty when there is no file.
+[[nodiscard]] std::vector<CompanyLine> loadCompanies(FileSystem& files, const DataFolder& folder);
+
+/// The same, but a missing register is first created with the sample company.
+[[nodiscard]] std::vector<CompanyLine> loadOrCreateCompanies(FileSystem& files,
+                                                             const DataFolder& folder, Date today);
+
+void saveCompanies(FileSystem& files, const DataFolder& folder,
+                   const std::vector<CompanyLine>& lines);
+
+/// The lowest two-digit code from "01" on that no line bears; nullopt when all 99 are taken.
+[[nodiscard]] std::optional<CompanyCode> lowestFreeCode(const std::vector<CompanyLine>& lines);
+
+}  // namespace winvrx

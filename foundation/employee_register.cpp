@@ -1,0 +1,60 @@
+#include "foundation/employee_register.h"
+
+#include "foundation/text.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+std::string backupName(const CompanyCode& company, Clock::Moment now) {
+    std::string date = dateText(now.date);
+    std::replace(date.begin(), date.end(), '/', '-');
+    const auto hour = static_cast<int>(now.time.sinceMidnight.count() / 60);
+    return "bk-" + company.text() + date + "-" + padded(hour, 2) + "-00.bkp";
+}
+
+}  // namespace
+
+EmployeeRegister::EmployeeRegister(FileSystem& files, const DataFolder& folder, CompanyCode company)
+    : files_(files), folder_(folder), company_(std::move(company)) {}
+
+std::vector<EmployeeLine> EmployeeRegister::load() const {
+    std::vector<EmployeeLine> lines;
+    const RecordFile file(files_, folder_.companyFile(company_, kEmployeeListStem));
+    for (std::string& bytes : file.lines()) {
+        Employee employee = decodeEmployee(bytes);
+        lines.push_back({std::move(bytes), std::move(employee)});
+    }
+    return lines;
+}
+
+void EmployeeRegister::save(const std::vector<EmployeeLine>& lines, Clock::Moment now) {
+    const auto listPath = folder_.companyFile(company_, kEmployeeListStem);
+    if (const auto before = files_.read(listPath))
+        files_.replace(folder_.file(backupName(company_, now)), *before);
+    std::vector<std::string> bytes;
+    bytes.reserve(lines.size());
+    for (const EmployeeLine& line : lines) bytes.push_back(line.bytes);
+    RecordFile(files_, listPath).rewrite(bytes);
+}
+
+std::optional<EmployeeCode> EmployeeRegister::lowestFreeCode(
+    const std::vector<EmployeeLine>& lines) {
+    std::vector<bool> taken(EmployeeCode::kHighest + 1, false);
+    for (const EmployeeLine& line : lines)
+        if (const auto code = line.code()) taken[static_cast<std::size_t>(code->number())] = true;
+    for (int number = 1; number <= EmployeeCode::kHighest; ++number)
+        if (!taken[static_cast<std::size_t>(number)]) return EmployeeCode::fromNumber(number);
+    return std::nullopt;
+}
+
+std::vector<Employee> employeesOf(const std::vector<EmployeeLine>& lines, ShiftFilter filter) {
+    std::vector<Employee> chosen;
+    for (const EmployeeLine& line : lines)
+        if (line.code() && passes(filter, line.employee.shiftOr())) chosen.push_back(line.employee);
+    return chosen;
+}
+
+}  // namespace winvrx

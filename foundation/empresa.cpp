@@ -1,0 +1,121 @@
+#include "foundation/empresa.h"
+
+#include "foundation/employee_register.h"
+
+namespace winvrx {
+
+namespace {
+
+const Message kConfirmInclude{"INCLUSÃO", "Confirma a Inclusão?", Icon::Question, Buttons::YesNo};
+const Message kConfirmChange{"ALTERAÇÃO", "Confirma a Alteração do Item Selecionado?",
+                             Icon::Question, Buttons::YesNo};
+const Message kFirstCompany{
+    "Excluindo Empresa",
+    "ATENCAO!!! Não é Possível Excluir a Primeira Empresa. Você Pode Alterar os Dados Cadastrados "
+    "nesta Empresa! ",
+    Icon::Critical};
+const Message kConfirmDelete{"EXCLUSÃO", "Confirma a Exclusão do Item Selecionado?",
+                             Icon::Question, Buttons::YesNo};
+const Message kHasEmployees{
+    "CUIDADO!!! - Excluindo Empresa",
+    "ATENCAO!!! Não é Possível Excluir agora. Existem Funcioários Cadastrados nesta Empresa! "
+    "Deseja Excluir toda lista de Funcionário Incluindo desta Empresa Selecionada?",
+    Icon::Exclamation, Buttons::YesNo};
+const Message kDeletesEmployees{
+    "EXCLUIR",
+    "Este Comando irá Exluir a Empresa e a Lista de Funcionarios. Deseja Continuar?",
+    Icon::Exclamation, Buttons::YesNo};
+const Message kCertain{"EXCLUIR", "Tem Certeza que Deseja Excluir o Item Selecionado?",
+                       Icon::Exclamation, Buttons::YesNo};
+const Message kHelpFailed{"Erro", "Ocorreu Erro", Icon::Exclamation};
+
+CompanyLine lineOf(Company company, const CompanyCode& code, Date today) {
+    company.code = code.text();
+    company.recordDate = dateText(today);
+    std::string bytes = encode(company);
+    return {bytes, decodeCompany(bytes)};
+}
+
+}  // namespace
+
+Empresa::Empresa(const Workplace& at, Browser& browser) : at_(at), browser_(browser) {}
+
+void Empresa::load() {
+    (void)attempt(at_, incorrectData(), [this] {
+        lines_ = loadOrCreateCompanies(at_.files, at_.session.folder, at_.clock.today());
+        return true;
+    });
+}
+
+bool Empresa::include(Company typed) {
+    if (!at_.person.agrees(kConfirmInclude)) return false;
+    return attempt(at_, incorrectData(), [&] {
+        auto lines = loadCompanies(at_.files, at_.session.folder);
+        const auto code = lowestFreeCode(lines);
+        if (!code)
+            throw Fault("no free company code", "Todos os códigos de 01 a 99 já estão em uso.");
+        lines.push_back(lineOf(std::move(typed), *code, at_.clock.today()));
+        save(std::move(lines));
+        return true;
+    });
+}
+
+bool Empresa::change(std::size_t position, Company typed) {
+    if (!at_.person.agrees(kConfirmChange)) return false;
+    return attempt(at_, incorrectData(), [&] {
+        auto lines = loadCompanies(at_.files, at_.session.folder);
+        if (position >= lines.size() || lines[position].bytes != lines_.at(position).bytes)
+            throw Fault("company list changed on disk",
+                        "O cadastro foi alterado por outro computador. Abra a tela novamente.");
+        const auto code = lines[position].code();
+        if (!code)
+            throw Fault("company line without code: " + lines[position].company.code,
+                        "Esta linha do cadastro não tem um código válido.");
+        lines[position] = lineOf(std::move(typed), *code, at_.clock.today());
+        save(std::move(lines));
+        return true;
+    });
+}
+
+bool Empresa::confirmsDeletion(const CompanyLine& line, DeleteOption option) {
+    if (!at_.person.agrees(kConfirmDelete)) return false;
+    const bool hasEmployees =
+        line.code() &&
+        EmployeeRegister(at_.files, at_.session.folder, *line.code()).hasEmployees();
+    const bool onlyCompany = option == DeleteOption::CompanyOnly;
+    if (onlyCompany && hasEmployees && !at_.person.agrees(kHasEmployees)) return false;
+    if ((!onlyCompany || hasEmployees) && !at_.person.agrees(kDeletesEmployees)) return false;
+    return at_.person.agrees(kCertain);
+}
+
+bool Empresa::remove(std::size_t position, DeleteOption option) {
+    if (position == 0) {
+        at_.person.tell(kFirstCompany);
+        return false;
+    }
+    return attempt(at_, incorrectData(), [&] {
+        const CompanyLine chosen = lines_.at(position);
+        if (!confirmsDeletion(chosen, option)) return false;
+        auto lines = loadCompanies(at_.files, at_.session.folder);
+        if (position >= lines.size() || lines[position].bytes != chosen.bytes)
+            throw Fault("company list changed on disk",
+                        "O cadastro foi alterado por outro computador. Abra a tela novamente.");
+        // The files go first: cut short, the command can be given again.
+        if (const auto code = chosen.code())
+            removeRecordsOfCompany(at_.files, at_.session.folder, *code);
+        lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(position));
+        save(std::move(lines));
+        return true;
+    });
+}
+
+void Empresa::help() {
+    if (!browser_.openHelp()) at_.person.tell(kHelpFailed);
+}
+
+void Empresa::save(std::vector<CompanyLine> lines) {
+    saveCompanies(at_.files, at_.session.folder, lines);
+    lines_ = std::move(lines);
+}
+
+}  // namespace winvrx

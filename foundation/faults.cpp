@@ -1,0 +1,45 @@
+#include "foundation/faults.h"
+
+namespace winvrx {
+
+namespace {
+
+std::string operationName(FileFault::Operation operation) {
+    switch (operation) {
+        case FileFault::Operation::Read: return "ler";
+        case FileFault::Operation::Write: return "gravar";
+        case FileFault::Operation::Remove: return "excluir";
+        case FileFault::Operation::List: return "listar";
+        case FileFault::Operation::MakeFolder: return "criar a pasta";
+    }
+    return "usar";
+}
+
+std::string causeText(std::error_code cause) {
+    const std::error_condition condition = cause.default_error_condition();
+    if (condition == std::errc::no_space_on_device) return "o disco está cheio";
+    if (condition == std::errc::permission_denied ||
+        condition == std::errc::operation_not_permitted ||
+        condition == std::errc::read_only_file_system)
+        return "não há permissão de gravação ou leitura";
+    if (condition == std::errc::no_such_file_or_directory) return "a pasta não foi encontrada";
+    if (condition == std::errc::io_error) return "o disco não respondeu";
+    if (condition == std::errc::is_a_directory) return "há uma pasta com esse nome";
+    if (condition == std::errc::file_too_large) return "o arquivo é grande demais";
+    return cause.message();
+}
+
+}  // namespace
+
+FileFault::FileFault(Operation operation, const std::filesystem::path& file, std::error_code cause)
+    : Fault(operationName(operation) + " " + file.string() + ": " + cause.message(),
+            "Não foi possível " + operationName(operation) + " \"" + file.filename().string() +
+                "\": " + causeText(cause) + "."),
+      cause_(cause) {}
+
+std::string explanationOf(const std::exception& fault) {
+    if (const auto* known = dynamic_cast<const Fault*>(&fault)) return known->explanation();
+    return std::string("Erro inesperado: ") + fault.what();
+}
+
+}  // namespace winvrx

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Text is UTF-8 in memory and Windows-1252 on disk. These functions are the only bridge. A width is
+// always a count of characters, which on disk is a count of bytes.
+
+namespace winvrx {
+
+/// Windows-1252 bytes of `utf8`. Throws TextFault when a character has no place in the code page
+/// or is a control character: nothing is replaced silently.
+[[nodiscard]] std::string encodeWindows1252(std::string_view utf8);
+
+/// UTF-8 of `bytes`. Any byte is accepted; the five bytes that the code page leaves undefined come
+/// back as the control characters of the same number.
+[[nodiscard]] std::string decodeWindows1252(std::string_view bytes);
+
+/// Number of characters in `utf8`.
+[[nodiscard]] std::size_t characterCount(std::string_view utf8);
+
+/// The first `count` characters of `utf8`.
+[[nodiscard]] std::string_view firstCharacters(std::string_view utf8, std::size_t count);
+
+/// `text` without leading and trailing blanks.
+[[nodiscard]] std::string_view trimmed(std::string_view text);
+
+/// `text` padded with blanks on the right to `width` characters, or cut to it.
+[[nodiscard]] std::string fitted(std::string_view utf8, std::size_t width);
+
+/// `number` in decimal with at least `digits` digits, zeros in front.
+[[nodiscard]] std::string padded(int number, int digits);
+
+/// Upper-case form, Portuguese accented letters included.
+[[nodiscard]] std::string upperCase(std::string_view utf8);
+
+/// Form for searching and collating: lower case, accents removed.
+[[nodiscard]] std::string foldedForSearch(std::string_view utf8);
+
+/// True when each blank-separated word of `wanted` occurs in `text`; accents and case do not count.
+[[nodiscard]] bool matchesSearch(std::string_view text, std::string_view wanted);
+
+}  // namespace winvrx

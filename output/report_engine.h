@@ -1,0 +1,75 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The engine that fills a layout file with the rows of the table `Tabela_base` and sends the pages
+// to the preview window, a printer or a PDF file.
+
+namespace winvrx {
+
+/// One row of `Tabela_base`: the values of its columns, in the order of kCardColumns.
+/// Header values stand in every row of a card; day values in the row of their day.
+inline constexpr std::array<std::string_view, 26> kCardColumns = {
+    // header block
+    "razao", "cnpj", "registro", "ctps", "admissao", "funcao", "periodo", "descanso", "horario",
+    "refeicao", "nome", "codigo", "mes",
+    // one day
+    "linha", "dia", "semana", "ent1", "sai1", "ent2", "sai2", "ent3", "sai3", "horas", "situacao",
+    // the card's sums
+    "total", "quinzena"};
+
+inline constexpr std::string_view kCardTable = "Tabela_base";
+inline constexpr std::string_view kReportDatabaseName = "qdb.mdb";
+
+using CardRow = std::array<std::string, kCardColumns.size()>;
+
+/// Twips, 1/1440 inch.
+struct Alignment {
+    int horizontalTwips = 0;
+    int verticalTwips = 0;
+    int lines = 0;  ///< further rows to move down, each of the layout's row pitch
+};
+
+enum class ReportOutput { Preview, Printer, PdfFile };
+
+struct ReportRequest {
+    std::string layoutName;      ///< "tilibcenter.rpt"
+    std::string title;           ///< of the print job and the preview window
+    bool printHeader = true;     ///< whether blocks named "header" are drawn
+    Alignment alignment;
+    ReportOutput output = ReportOutput::Preview;
+    std::string printerName;     ///< empty: the default printer
+    std::array<std::string, 3> trays;
+    std::string pdfPath;
+};
+
+/// Gives one card's rows after the other; nullopt ends the run. Called once a card, so that no
+/// more than one card is held in memory. May throw; the run then ends and the fault goes on.
+using CardSource = std::function<std::optional<std::vector<CardRow>>()>;
+
+/// Told after each card; false cancels the run.
+using CardProgress = std::function<bool(int cardsDone)>;
+
+enum class ReportResult {
+    Done,
+    Cancelled,
+    NoPrinter,  ///< no printer is installed
+    Failed      ///< cause in the log
+};
+
+class ReportEngine {
+  public:
+    virtual ~ReportEngine() = default;
+
+    /// A damaged or missing layout prints nothing: file and line go to the log.
+    [[nodiscard]] virtual ReportResult print(const ReportRequest& request, const CardSource& cards,
+                                             const CardProgress& progress) = 0;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "foundation/faults.h"
+#include "foundation/file_system.h"
+
+#include <map>
+#include <set>
+
+namespace winvrx::testing {
+
+/// A disk in memory. `failOn` makes every operation on a file of that name fail.
+class MemoryFiles final : public FileSystem {
+  public:
+    std::map<std::filesystem::path, std::string> content;
+    std::set<std::string> failOn;
+
+    [[nodiscard]] std::optional<std::string> read(const std::filesystem::path& file) const override {
+        check(FileFault::Operation::Read, file);
+        const auto found = content.find(file);
+        return found == content.end() ? std::nullopt : std::optional(found->second);
+    }
+
+    void replace(const std::filesystem::path& file, std::string_view bytes) override {
+        check(FileFault::Operation::Write, file);
+        content[file] = bytes;
+    }
+
+    void replaceAll(const std::vector<NewContent>& files) override {
+        for (const NewContent& one : files) replace(one.file, one.bytes);
+    }
+
+    bool remove(const std::filesystem::path& file) override {
+        check(FileFault::Operation::Remove, file);
+        return content.erase(file) > 0;
+    }
+
+    [[nodiscard]] bool exists(const std::filesystem::path& file) const override {
+        return content.contains(file);
+    }
+
+    [[nodiscard]] std::vector<std::string> names(
+        const std::filesystem::path& folder) const override {
+        std::vector<std::string> names;
+        for (const auto& [file, bytes] : content)
+            if (file.parent_path() == folder) names.push_back(file.filename().string());
+        return names;
+    }
+
+    void makeFolder(const std::filesystem::path&) override {}
+
+  private:
+    void check(FileFault::Operation operation, const std::filesystem::path& file) const {
+        if (failOn.contains(file.filename().string()))
+            throw FileFault(operation, file, std::make_error_code(std::errc::no_space_on_device));
+    }
+};
+
+}  // namespace winvrx::testing

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "foundation/operator.h"
+
+#include <deque>
+#include <vector>
+
+namespace winvrx::testing {
+
+/// Answers from a script and remembers what it was shown. With the script used up it gives the
+/// harmless answer.
+class ScriptedOperator final : public Operator {
+  public:
+    std::deque<Answer> answers;
+    std::vector<Message> shown;
+
+    Answer ask(const Message& message) override {
+        shown.push_back(message);
+        if (message.buttons == Buttons::Ok) return Answer::Ok;
+        if (answers.empty()) return message.buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+        const Answer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+
+    /// The texts shown so far, in order; forgets them.
+    std::vector<std::string> takeTexts() {
+        std::vector<std::string> texts;
+        for (const Message& message : shown) texts.push_back(message.text);
+        shown.clear();
+        return texts;
+    }
+};
+
+}  // namespace winvrx::testing

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "foundation/data_folder.h"
+#include "foundation/date.h"
+#include "foundation/record_file.h"
+#include "foundation/session.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace winvrx {
+
+inline constexpr std::size_t kHolidayCells = 42;
+
+/// "Opções de Formatação do Resultado Resumo Horas:".
+enum class TotalsFormat { HoursAndMinutes, DecimalHours };
+
+/// Which overtime percentages a month uses.
+enum class OvertimeMode { BothLevels, SingleLevel };
+
+/// The settings of one work month: the record "mm-yyyyds.rdx", one value a line.
+struct MonthSettings {
+    WorkMonth month{};
+
+    /// The calendar of six weeks of seven days that starts on a Sunday; cell 0 is the Sunday of the
+    /// week that holds day 1. Ticked cells outside the month mean nothing.
+    std::array<bool, kHolidayCells> holidayCells{};
+
+    int minimumPercent = 50;
+    int nightMinimumPercent = 50;
+    int maximumPercent = 100;
+    int nightMaximumPercent = 100;
+    bool recordTicks = true;             ///< the check box "Gravação"
+    bool differentiatedPercent = false;
+    OvertimeMode mode = OvertimeMode::BothLevels;
+    TotalsFormat totalsFormat = TotalsFormat::HoursAndMinutes;
+    int thresholdHours = 2;
+    int closingDay = 1;          ///< "Iníciar todo dia:"
+    bool fixedMonth = true;      ///< "Mês Fixo"
+    std::vector<std::string> furtherLines;  ///< bytes of lines past those known, kept as they are
+
+    [[nodiscard]] bool isHoliday(Date date) const;
+    void setHoliday(Date date, bool holiday);
+    [[nodiscard]] std::vector<Date> holidays() const;
+
+    [[nodiscard]] bool operator==(const MonthSettings&) const = default;
+};
+
+/// The cell of a date in the grid of its own month, 0 to 41.
+[[nodiscard]] std::size_t holidayCellOf(Date date);
+
+/// "03-2024ds.rdx".
+[[nodiscard]] std::string monthRecordName(WorkMonth month);
+
+[[nodiscard]] bool hasMonthSettings(FileSystem& files, const DataFolder& folder, WorkMonth month);
+
+/// The month's record; the defaults where there is none. A line that is not a number of its range
+/// counts as the default.
+[[nodiscard]] MonthSettings loadMonthSettings(FileSystem& files, const DataFolder& folder,
+                                              WorkMonth month);
+void saveMonthSettings(FileSystem& files, const DataFolder& folder, const MonthSettings& settings);
+
+}  // namespace winvrx

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "foundation/employee.h"
+#include "timecard/month_settings.h"
+#include "timecard/punch_record.h"
+
+#include <vector>
+
+namespace winvrx {
+
+/// Fills the month from the schedule with "Minutos Fixos": no times before admission, on holidays
+/// and on Sundays; the Saturday times on Saturdays; morning and afternoon on any other day.
+[[nodiscard]] std::vector<PunchLine> filledMonth(const StandardSchedule& schedule,
+                                                 const MonthSettings& settings,
+                                                 std::optional<Date> admission);
+
+}  // namespace winvrx

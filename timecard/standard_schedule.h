@@ -1,0 +1,59 @@
+#pragma once
+
+#include "foundation/data_folder.h"
+#include "foundation/date.h"
+#include "foundation/record_file.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace winvrx {
+
+/// "Entrada" and "Saída"; an empty time is nullopt.
+struct TimePair {
+    std::optional<TimeOfDay> entry;
+    std::optional<TimeOfDay> exit;
+
+    [[nodiscard]] bool complete() const { return entry && exit; }
+    [[nodiscard]] bool operator==(const TimePair&) const = default;
+};
+
+/// Morning and afternoon of one kind of day.
+struct DaySchedule {
+    TimePair morning;
+    TimePair afternoon;
+
+    [[nodiscard]] bool operator==(const DaySchedule&) const = default;
+};
+
+/// The standard working hours of one employee: the record `PadrHor`.
+struct StandardSchedule {
+    DaySchedule weekday;
+    DaySchedule saturday;
+    bool saturdayIsNormal = false;  ///< "Sábado(Normal)" / "Sábado(Extra)"
+    bool secondFlag = false;        ///< the panel's second check box
+    std::string opaque;             ///< bytes of columns 43-192, kept as they stand
+
+    [[nodiscard]] bool operator==(const StandardSchedule&) const = default;
+};
+
+inline constexpr std::size_t kScheduleWidth = 192;
+
+[[nodiscard]] std::string encode(const StandardSchedule& schedule);
+[[nodiscard]] StandardSchedule decodeSchedule(std::string_view lineBytes);
+
+/// "PadrHor001.pdx", to be put behind the company code.
+[[nodiscard]] std::string scheduleFileName(const EmployeeCode& employee);
+
+/// nullopt when the employee has no schedule yet.
+[[nodiscard]] std::optional<StandardSchedule> loadSchedule(FileSystem& files,
+                                                           const DataFolder& folder,
+                                                           const CompanyCode& company,
+                                                           const EmployeeCode& employee);
+void saveSchedule(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
+                  const EmployeeCode& employee, const StandardSchedule& schedule);
+
+}  // namespace winvrx
