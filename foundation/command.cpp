@@ -2,7 +2,9 @@
 
 namespace winvrx {
 
-Message incorrectData() { return {"Erro", "Dados incorretos!", Icon::Critical}; }
+Message incorrectData() {
+    return {"Erro", "Dados incorretos!", Icon::Critical};
+}
 
 void reportFailure(const Workplace& at, Message message, const std::exception& fault) {
     at.log.write(message.title + ": " + message.text + " " + fault.what());

@@ -4,7 +4,8 @@ namespace winvrx {
 
 std::string encode(const Company& company) {
     RecordLine line(kCompanyWidth);
-    for (const CompanyField& field : kCompanyFields) line.put(field.column, company.*field.member);
+    for (const CompanyField& field : kCompanyFields)
+        line.put(field.column, company.*field.member);
     return line.bytes();
 }
 

@@ -32,7 +32,8 @@ void saveCompanies(FileSystem& files, const DataFolder& folder,
                    const std::vector<CompanyLine>& lines) {
     std::vector<std::string> bytes;
     bytes.reserve(lines.size());
-    for (const CompanyLine& line : lines) bytes.push_back(line.bytes);
+    for (const CompanyLine& line : lines)
+        bytes.push_back(line.bytes);
     registerFile(files, folder).rewrite(bytes);
 }
 

@@ -16,8 +16,7 @@ std::string withForwardSlashes(std::string_view text) {
 
 /// `part` stands at character `start` (counted from 1) of `name`.
 bool standsAt(std::string_view name, std::size_t start, std::string_view part) {
-    return name.size() >= start - 1 + part.size() &&
-           name.substr(start - 1, part.size()) == part;
+    return name.size() >= start - 1 + part.size() && name.substr(start - 1, part.size()) == part;
 }
 
 bool isPunchOrPayrollFile(std::string_view name) {
@@ -45,7 +44,9 @@ std::filesystem::path pathOnDrive(const Drives& drives, char letter, std::string
     return root / withForwardSlashes(literal.substr(2));
 }
 
-bool isShare(std::string_view programFolder) { return programFolder.starts_with("\\\\"); }
+bool isShare(std::string_view programFolder) {
+    return programFolder.starts_with("\\\\");
+}
 
 std::filesystem::path shareDataFolder(std::string_view programFolder) {
     return withForwardSlashes(std::string(programFolder) + "\\Winvrx\\");
@@ -81,9 +82,8 @@ void removeRecordsOfCompany(FileSystem& files, const DataFolder& folder,
 
 void removeRecordsOfEmployee(FileSystem& files, const DataFolder& folder,
                              const CompanyCode& company, const EmployeeCode& employee) {
-    removeWhere(files, folder, [&](std::string_view name) {
-        return isRecordOfEmployee(name, company, employee);
-    });
+    removeWhere(files, folder,
+                [&](std::string_view name) { return isRecordOfEmployee(name, company, employee); });
 }
 
 }  // namespace winvrx

@@ -10,9 +10,9 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::array kMonthNames = {"janeiro"sv, "fevereiro"sv, "março"sv,    "abril"sv,
-                                    "maio"sv,    "junho"sv,     "julho"sv,    "agosto"sv,
-                                    "setembro"sv, "outubro"sv,  "novembro"sv, "dezembro"sv};
+constexpr std::array kMonthNames = {"janeiro"sv,  "fevereiro"sv, "março"sv,    "abril"sv,
+                                    "maio"sv,     "junho"sv,     "julho"sv,    "agosto"sv,
+                                    "setembro"sv, "outubro"sv,   "novembro"sv, "dezembro"sv};
 constexpr std::array kWeekdayShort = {"dom"sv, "seg"sv, "ter"sv, "qua"sv,
                                       "qui"sv, "sex"sv, "sáb"sv};
 constexpr std::array kWeekdayNames = {"domingo"sv,      "segunda-feira"sv, "terça-feira"sv,
@@ -29,7 +29,9 @@ std::optional<int> digitsAt(std::string_view text, std::size_t start, std::size_
     return value;
 }
 
-int monthNumber(std::chrono::month month) { return static_cast<int>(unsigned{month}); }
+int monthNumber(std::chrono::month month) {
+    return static_cast<int>(unsigned{month});
+}
 
 }  // namespace
 
@@ -78,7 +80,9 @@ std::string monthTitle(WorkMonth month) {
     return std::string(monthName(month.month())) + "/" + padded(int{month.year()}, 4);
 }
 
-std::string_view monthName(std::chrono::month month) { return kMonthNames[unsigned{month} - 1]; }
+std::string_view monthName(std::chrono::month month) {
+    return kMonthNames[unsigned{month} - 1];
+}
 
 std::string_view weekdayShort(std::chrono::weekday weekday) {
     return kWeekdayShort[weekday.c_encoding()];
@@ -93,15 +97,25 @@ std::string dayLabel(Date date) {
            std::string(firstCharacters(monthName(date.month()), 3));
 }
 
-WorkMonth monthOf(Date date) { return date.year() / date.month(); }
+WorkMonth monthOf(Date date) {
+    return date.year() / date.month();
+}
 
-Date firstDay(WorkMonth month) { return month / std::chrono::day{1}; }
+Date firstDay(WorkMonth month) {
+    return month / std::chrono::day{1};
+}
 
-Date lastDay(WorkMonth month) { return month / std::chrono::last; }
+Date lastDay(WorkMonth month) {
+    return month / std::chrono::last;
+}
 
-int daysIn(WorkMonth month) { return dayNumber(lastDay(month)); }
+int daysIn(WorkMonth month) {
+    return dayNumber(lastDay(month));
+}
 
-int dayNumber(Date date) { return static_cast<int>(unsigned{date.day()}); }
+int dayNumber(Date date) {
+    return static_cast<int>(unsigned{date.day()});
+}
 
 std::chrono::weekday weekdayOf(Date date) {
     return std::chrono::weekday{std::chrono::sys_days{date}};

@@ -17,10 +17,10 @@ namespace winvrx {
 struct Employee {
     std::string code;  ///< three digits
     std::string name;
-    std::string function;      ///< "Função": job title
-    std::string occupation;    ///< CBO, six digits
-    std::string state;         ///< two letters
-    std::string address;       ///< street and number
+    std::string function;    ///< "Função": job title
+    std::string occupation;  ///< CBO, six digits
+    std::string state;       ///< two letters
+    std::string address;     ///< street and number
     std::string district;
     std::string identityCard;  ///< RG
     std::string workBooklet;   ///< CTPS number and series

@@ -36,7 +36,8 @@ void EmployeeRegister::save(const std::vector<EmployeeLine>& lines, Clock::Momen
         files_.replace(folder_.file(backupName(company_, now)), *before);
     std::vector<std::string> bytes;
     bytes.reserve(lines.size());
-    for (const EmployeeLine& line : lines) bytes.push_back(line.bytes);
+    for (const EmployeeLine& line : lines)
+        bytes.push_back(line.bytes);
     RecordFile(files_, listPath).rewrite(bytes);
 }
 

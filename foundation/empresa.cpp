@@ -14,16 +14,15 @@ const Message kFirstCompany{
     "ATENCAO!!! Não é Possível Excluir a Primeira Empresa. Você Pode Alterar os Dados Cadastrados "
     "nesta Empresa! ",
     Icon::Critical};
-const Message kConfirmDelete{"EXCLUSÃO", "Confirma a Exclusão do Item Selecionado?",
-                             Icon::Question, Buttons::YesNo};
+const Message kConfirmDelete{"EXCLUSÃO", "Confirma a Exclusão do Item Selecionado?", Icon::Question,
+                             Buttons::YesNo};
 const Message kHasEmployees{
     "CUIDADO!!! - Excluindo Empresa",
     "ATENCAO!!! Não é Possível Excluir agora. Existem Funcioários Cadastrados nesta Empresa! "
     "Deseja Excluir toda lista de Funcionário Incluindo desta Empresa Selecionada?",
     Icon::Exclamation, Buttons::YesNo};
 const Message kDeletesEmployees{
-    "EXCLUIR",
-    "Este Comando irá Exluir a Empresa e a Lista de Funcionarios. Deseja Continuar?",
+    "EXCLUIR", "Este Comando irá Exluir a Empresa e a Lista de Funcionarios. Deseja Continuar?",
     Icon::Exclamation, Buttons::YesNo};
 const Message kCertain{"EXCLUIR", "Tem Certeza que Deseja Excluir o Item Selecionado?",
                        Icon::Exclamation, Buttons::YesNo};
@@ -80,8 +79,7 @@ bool Empresa::change(std::size_t position, Company typed) {
 bool Empresa::confirmsDeletion(const CompanyLine& line, DeleteOption option) {
     if (!at_.person.agrees(kConfirmDelete)) return false;
     const bool hasEmployees =
-        line.code() &&
-        EmployeeRegister(at_.files, at_.session.folder, *line.code()).hasEmployees();
+        line.code() && EmployeeRegister(at_.files, at_.session.folder, *line.code()).hasEmployees();
     const bool onlyCompany = option == DeleteOption::CompanyOnly;
     if (onlyCompany && hasEmployees && !at_.person.agrees(kHasEmployees)) return false;
     if ((!onlyCompany || hasEmployees) && !at_.person.agrees(kDeletesEmployees)) return false;

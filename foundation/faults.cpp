@@ -6,11 +6,16 @@ namespace {
 
 std::string operationName(FileFault::Operation operation) {
     switch (operation) {
-        case FileFault::Operation::Read: return "ler";
-        case FileFault::Operation::Write: return "gravar";
-        case FileFault::Operation::Remove: return "excluir";
-        case FileFault::Operation::List: return "listar";
-        case FileFault::Operation::MakeFolder: return "criar a pasta";
+        case FileFault::Operation::Read:
+            return "ler";
+        case FileFault::Operation::Write:
+            return "gravar";
+        case FileFault::Operation::Remove:
+            return "excluir";
+        case FileFault::Operation::List:
+            return "listar";
+        case FileFault::Operation::MakeFolder:
+            return "criar a pasta";
     }
     return "usar";
 }

@@ -71,7 +71,8 @@ void writeAll(const Descriptor& out, std::string_view bytes, const path& file) {
 /// Removes the temporary unless it was renamed into place.
 class Temporary {
   public:
-    explicit Temporary(const path& target) : name_(target.string() + std::string(kTemporarySuffix)) {}
+    explicit Temporary(const path& target)
+        : name_(target.string() + std::string(kTemporarySuffix)) {}
     ~Temporary() {
         if (!renamed_) ::unlink(name_.c_str());
     }
@@ -125,7 +126,8 @@ class PosixFileSystem final : public FileSystem {
             replaceUnflushed(content.file, content.bytes);
             folders.insert(content.file.parent_path());
         }
-        for (const path& folder : folders) flushFolder(folder, Operation::Write);
+        for (const path& folder : folders)
+            flushFolder(folder, Operation::Write);
     }
 
     bool remove(const path& file) override {
@@ -169,6 +171,8 @@ class PosixFileSystem final : public FileSystem {
 
 }  // namespace
 
-std::unique_ptr<FileSystem> systemFiles() { return std::make_unique<PosixFileSystem>(); }
+std::unique_ptr<FileSystem> systemFiles() {
+    return std::make_unique<PosixFileSystem>();
+}
 
 }  // namespace winvrx

@@ -8,8 +8,7 @@ namespace winvrx {
 
 std::string rawFieldOf(std::string_view lineBytes, Column column) {
     std::string field;
-    if (lineBytes.size() >= column.start)
-        field = lineBytes.substr(column.start - 1, column.width);
+    if (lineBytes.size() >= column.start) field = lineBytes.substr(column.start - 1, column.width);
     field.resize(column.width, ' ');
     return field;
 }
@@ -47,7 +46,8 @@ std::vector<std::string> splitLines(std::string_view fileBytes) {
 
 std::string joinedLines(const std::vector<std::string>& lineBytes) {
     std::string bytes;
-    for (const std::string& line : lineBytes) bytes.append(line).append("\r\n");
+    for (const std::string& line : lineBytes)
+        bytes.append(line).append("\r\n");
     return bytes;
 }
 
@@ -57,7 +57,8 @@ std::vector<std::string> RecordFile::lines() const {
 
 std::vector<std::string> RecordFile::values() const {
     std::vector<std::string> values = lines();
-    for (std::string& value : values) value = decodeWindows1252(trimmed(value));
+    for (std::string& value : values)
+        value = decodeWindows1252(trimmed(value));
     return values;
 }
 
@@ -74,7 +75,8 @@ void RecordFile::rewrite(const std::vector<std::string>& lineBytes) {
 void RecordFile::rewriteValues(const std::vector<std::string>& utf8Values) {
     std::vector<std::string> encoded;
     encoded.reserve(utf8Values.size());
-    for (const std::string& value : utf8Values) encoded.push_back(encodeWindows1252(value));
+    for (const std::string& value : utf8Values)
+        encoded.push_back(encodeWindows1252(value));
     rewrite(encoded);
 }
 

@@ -32,13 +32,25 @@ std::size_t indexOf(Value value) {
 
 }  // namespace
 
-std::string_view codeOf(Shift shift) { return kShiftCodes[indexOf(shift)]; }
-std::string_view codeOf(Scale scale) { return kScaleCodes[indexOf(scale)]; }
-std::string_view codeOf(ShiftFilter filter) { return kFilterCodes[indexOf(filter)]; }
-std::string_view listTextOf(Shift shift) { return kShiftTexts[indexOf(shift)]; }
-std::string_view listTextOf(Scale scale) { return kScaleTexts[indexOf(scale)]; }
+std::string_view codeOf(Shift shift) {
+    return kShiftCodes[indexOf(shift)];
+}
+std::string_view codeOf(Scale scale) {
+    return kScaleCodes[indexOf(scale)];
+}
+std::string_view codeOf(ShiftFilter filter) {
+    return kFilterCodes[indexOf(filter)];
+}
+std::string_view listTextOf(Shift shift) {
+    return kShiftTexts[indexOf(shift)];
+}
+std::string_view listTextOf(Scale scale) {
+    return kScaleTexts[indexOf(scale)];
+}
 
-std::optional<Shift> parseShift(std::string_view code) { return findCode<Shift>(kShiftCodes, code); }
+std::optional<Shift> parseShift(std::string_view code) {
+    return findCode<Shift>(kShiftCodes, code);
+}
 
 std::optional<Scale> parseScale(std::string_view code) {
     const std::string_view cut = kScaleCodes[0].substr(0, kScaleColumnWidth);

@@ -17,7 +17,9 @@ constexpr std::array<char32_t, 32> kWindows1252High = {
 
 constexpr char32_t kInvalid = 0xFFFD;
 
-bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+bool isContinuation(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
 
 /// Reads one code point at `position` and moves past it; a damaged sequence yields kInvalid.
 char32_t nextCodePoint(std::string_view utf8, std::size_t& position) {
@@ -64,9 +66,9 @@ char toByte(char32_t codePoint, std::string_view whole) {
         return static_cast<char>(codePoint);
     const auto* found = std::find(kWindows1252High.begin(), kWindows1252High.end(), codePoint);
     if (found == kWindows1252High.end())
-        throw TextFault("character outside Windows-1252 in \"" + std::string(whole) + "\"",
-                        "O texto \"" + std::string(whole) +
-                            "\" contém um caractere que não pode ser gravado.");
+        throw TextFault(
+            "character outside Windows-1252 in \"" + std::string(whole) + "\"",
+            "O texto \"" + std::string(whole) + "\" contém um caractere que não pode ser gravado.");
     return static_cast<char>(0x80 + (found - kWindows1252High.begin()));
 }
 
@@ -146,7 +148,9 @@ std::string padded(int number, int digits) {
     return text.size() < wanted ? std::string(wanted - text.size(), '0') + text : text;
 }
 
-std::string upperCase(std::string_view utf8) { return mapped(utf8, upperOf); }
+std::string upperCase(std::string_view utf8) {
+    return mapped(utf8, upperOf);
+}
 
 std::string foldedForSearch(std::string_view utf8) {
     return mapped(utf8, [](char32_t c) { return withoutAccent(lowerOf(c)); });

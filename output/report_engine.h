@@ -39,12 +39,12 @@ struct Alignment {
 enum class ReportOutput { Preview, Printer, PdfFile };
 
 struct ReportRequest {
-    std::string layoutName;      ///< "tilibcenter.rpt"
-    std::string title;           ///< of the print job and the preview window
-    bool printHeader = true;     ///< whether blocks named "header" are drawn
+    std::string layoutName;   ///< "tilibcenter.rpt"
+    std::string title;        ///< of the print job and the preview window
+    bool printHeader = true;  ///< whether blocks named "header" are drawn
     Alignment alignment;
     ReportOutput output = ReportOutput::Preview;
-    std::string printerName;     ///< empty: the default printer
+    std::string printerName;  ///< empty: the default printer
     std::array<std::string, 3> trays;
     std::string pdfPath;
 };

@@ -32,13 +32,13 @@ struct MonthSettings {
     int nightMinimumPercent = 50;
     int maximumPercent = 100;
     int nightMaximumPercent = 100;
-    bool recordTicks = true;             ///< the check box "Gravação"
+    bool recordTicks = true;  ///< the check box "Gravação"
     bool differentiatedPercent = false;
     OvertimeMode mode = OvertimeMode::BothLevels;
     TotalsFormat totalsFormat = TotalsFormat::HoursAndMinutes;
     int thresholdHours = 2;
-    int closingDay = 1;          ///< "Iníciar todo dia:"
-    bool fixedMonth = true;      ///< "Mês Fixo"
+    int closingDay = 1;                     ///< "Iníciar todo dia:"
+    bool fixedMonth = true;                 ///< "Mês Fixo"
     std::vector<std::string> furtherLines;  ///< bytes of lines past those known, kept as they are
 
     [[nodiscard]] bool isHoliday(Date date) const;

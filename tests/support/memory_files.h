@@ -14,7 +14,8 @@ class MemoryFiles final : public FileSystem {
     std::map<std::filesystem::path, std::string> content;
     std::set<std::string> failOn;
 
-    [[nodiscard]] std::optional<std::string> read(const std::filesystem::path& file) const override {
+    [[nodiscard]] std::optional<std::string> read(
+        const std::filesystem::path& file) const override {
         check(FileFault::Operation::Read, file);
         const auto found = content.find(file);
         return found == content.end() ? std::nullopt : std::optional(found->second);
@@ -26,7 +27,8 @@ class MemoryFiles final : public FileSystem {
     }
 
     void replaceAll(const std::vector<NewContent>& files) override {
-        for (const NewContent& one : files) replace(one.file, one.bytes);
+        for (const NewContent& one : files)
+            replace(one.file, one.bytes);
     }
 
     bool remove(const std::filesystem::path& file) override {

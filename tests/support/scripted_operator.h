@@ -26,7 +26,8 @@ class ScriptedOperator final : public Operator {
     /// The texts shown so far, in order; forgets them.
     std::vector<std::string> takeTexts() {
         std::vector<std::string> texts;
-        for (const Message& message : shown) texts.push_back(message.text);
+        for (const Message& message : shown)
+            texts.push_back(message.text);
         shown.clear();
         return texts;
     }

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QIcon>
+#include <QPalette>
+#include <QString>
+
+class QApplication;
+class QBoxLayout;
+class QLabel;
+class QWidget;
+
+// How every window looks: colours, sizes, fonts and icons in one place. A window never sets a
+// colour, a font size or a margin by itself.
+
+namespace winvrx::look {
+
+/// Spacing, in device-independent pixels on a grid of 8.
+inline constexpr int kSmallGap = 4;
+inline constexpr int kGap = 8;        ///< between a label and its field
+inline constexpr int kMargin = 16;    ///< around a window's body
+inline constexpr int kGroupGap = 24;  ///< between groups
+inline constexpr int kTileIcon = 32;
+
+/// Named colours; each has a light and a dark value of at least 4.5 : 1 on its ground. A colour
+/// never speaks alone: a word or a sign stands beside it.
+enum class Tint { Accent, Holiday, RestDay, Leave, Absence, Warning, Good, Quiet };
+
+/// Foreground of the tint under this palette.
+[[nodiscard]] QColor color(Tint tint, const QPalette& palette);
+/// A light wash of the tint, to lie behind text of the palette's own colour.
+[[nodiscard]] QColor wash(Tint tint, const QPalette& palette);
+[[nodiscard]] bool isDark(const QPalette& palette);
+
+[[nodiscard]] QPalette lightPalette();
+[[nodiscard]] QPalette darkPalette();
+
+/// Style, palette and style sheet of the whole program. Follows the desktop's choice of light or
+/// dark unless `palette` says otherwise.
+void apply(QApplication& application);
+void apply(QApplication& application, const QPalette& palette);
+
+/// Dresses a widget in one of the sheet's roles: "chip", "panel", "tile" or "command".
+void setRole(QWidget& widget, const char* role);
+
+enum class TextSize { Title, Heading, Body, Hint };
+[[nodiscard]] QFont font(TextSize size);
+/// The system's fixed-pitch font, for times, dates and money in grids.
+[[nodiscard]] QFont fixedFont();
+
+/// A label in one of the sizes; Hint labels are quiet.
+[[nodiscard]] QLabel* label(const QString& text, TextSize size, QWidget* parent = nullptr);
+/// The heading over a group of fields.
+[[nodiscard]] QLabel* heading(const QString& text, QWidget* parent = nullptr);
+
+/// An icon of the program's own set, by its file name without ".svg". It takes its colour from the
+/// palette at the moment of painting, so that it turns with light and dark.
+[[nodiscard]] QIcon icon(const QString& name);
+[[nodiscard]] QIcon icon(const QString& name, Tint tint);
+
+/// Margins and spacing of a window's body.
+void layOutBody(QBoxLayout& layout);
+/// Margins of a part within a body: none; spacing of the grid.
+void layOutPart(QBoxLayout& layout);
+
+}  // namespace winvrx::look
