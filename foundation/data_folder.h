@@ -79,6 +79,10 @@ inline constexpr std::string_view kOvertimeStem = "MedHorExtr";
 inline constexpr std::string_view kLeaveStem = "configAf";
 inline constexpr std::string_view kEmployeeListStem = "CartaPonto";
 
+/// Files of the run: both go when the program ends.
+inline constexpr std::string_view kStartMemoryName = "LocMen.lvc";
+inline constexpr std::string_view kSelectedMonthName = "DataIde.ivc";
+
 /// True for the names of records that go when the company goes: its schedules, overtime figures,
 /// leaves, punches, month files and employee list. Names are read by position: company code in
 /// characters 1-2, then the stem.

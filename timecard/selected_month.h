@@ -15,8 +15,6 @@ struct SelectedMonth {
     ShiftFilter shiftFilter = ShiftFilter::Todos;
 };
 
-inline constexpr std::string_view kSelectedMonthName = "DataIde.ivc";
-
 /// nullopt when no month is chosen, or the file does not hold one.
 [[nodiscard]] std::optional<SelectedMonth> loadSelectedMonth(FileSystem& files,
                                                              const DataFolder& folder);

@@ -8,11 +8,12 @@
 
 namespace winvrx::testing {
 
-/// A disk in memory. `failOn` makes every operation on a file of that name fail.
+/// A disk in memory. Every operation on a file named in `failOn` fails.
 class MemoryFiles final : public FileSystem {
   public:
     std::map<std::filesystem::path, std::string> content;
     std::set<std::string> failOn;
+    std::set<std::filesystem::path> folders;
 
     [[nodiscard]] std::optional<std::string> read(
         const std::filesystem::path& file) const override {
@@ -37,7 +38,7 @@ class MemoryFiles final : public FileSystem {
     }
 
     [[nodiscard]] bool exists(const std::filesystem::path& file) const override {
-        return content.contains(file);
+        return content.contains(file) || folders.contains(file);
     }
 
     [[nodiscard]] std::vector<std::string> names(
@@ -48,7 +49,9 @@ class MemoryFiles final : public FileSystem {
         return names;
     }
 
-    void makeFolder(const std::filesystem::path&) override {}
+    void makeFolder(const std::filesystem::path& folder) override {
+        folders.insert(folder);
+    }
 
   private:
     void check(FileFault::Operation operation, const std::filesystem::path& file) const {
