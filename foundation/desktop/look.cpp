@@ -67,11 +67,6 @@ QString styleSheet(const QPalette& palette) {
 #commandBar { border-bottom: 1px solid %2; }
 *[role="chip"] { background: %4; border-radius: 10px; padding: 2px 10px; }
 *[role="panel"] { background: %1; border: 1px solid %2; border-radius: 8px; }
-*[role="tile"] { background: %1; border: 1px solid %2; border-radius: 8px; text-align: left; }
-*[role="tile"]:hover:enabled { background: %4; border-color: %3; }
-*[role="tile"]:focus { border: 2px solid %3; }
-*[role="tile"][next="true"] { background: %4; border: 2px solid %3; }
-*[role="tile"]:disabled { background: transparent; border-style: dashed; }
 *[role="command"] { border: 1px solid transparent; border-radius: 6px; padding: 4px 8px; }
 *[role="command"]:hover:enabled { background: %4; }
 *[role="command"]:focus { border-color: %3; }

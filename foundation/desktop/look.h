@@ -41,7 +41,7 @@ enum class Tint { Accent, Holiday, RestDay, Leave, Absence, Warning, Good, Quiet
 void apply(QApplication& application);
 void apply(QApplication& application, const QPalette& palette);
 
-/// Dresses a widget in one of the sheet's roles: "chip", "panel", "tile" or "command".
+/// Dresses a widget in one of the sheet's roles: "chip", "panel" or "command".
 void setRole(QWidget& widget, const char* role);
 
 enum class TextSize { Title, Heading, Body, Hint };
