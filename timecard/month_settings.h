@@ -54,6 +54,11 @@ struct MonthSettings {
 /// "03-2024ds.rdx".
 [[nodiscard]] std::string monthRecordName(WorkMonth month);
 
+/// Highest values that the record takes.
+inline constexpr int kHighestPercent = 999;
+inline constexpr int kHighestThreshold = 24;
+inline constexpr int kHighestClosingDay = 31;
+
 [[nodiscard]] bool hasMonthSettings(FileSystem& files, const DataFolder& folder, WorkMonth month);
 
 /// The month's record; the defaults where there is none. A line that is not a number of its range

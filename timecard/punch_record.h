@@ -1,8 +1,12 @@
 #pragma once
 
+#include "foundation/company.h"
 #include "timecard/standard_schedule.h"
 
+#include <array>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace winvrx {
@@ -18,7 +22,7 @@ struct PunchLine {
     std::string extraEntry;
     std::string extraExit;
     std::string shortField;
-    std::string situation;  ///< fifteen characters
+    std::string situation;  ///< the column cuts it to fifteen characters
     std::string further;    ///< bytes past the last column, kept as they stand
 
     [[nodiscard]] bool operator==(const PunchLine&) const = default;
@@ -30,12 +34,33 @@ struct PunchLine {
     [[nodiscard]] TimePair extra() const;
 };
 
-/// What the situation column says of a day; the texts that are longer than the column are
-/// understood as stored.
+/// What the situation column says of a day. The column cuts "DESCANSO SEMANAL" and
+/// "Falta Injustificada"; reading gives them whole again.
 inline constexpr std::string_view kSituationHoliday = "FERIADO";
 inline constexpr std::string_view kSituationWeeklyRest = "DESCANSO SEMANAL";
 inline constexpr std::string_view kSituationLeave = "AFASTAMENTO";
+inline constexpr std::string_view kSituationAbsence = "Falta";
+inline constexpr std::string_view kSituationUnjustified = "Falta Injustificada";
 
+/// One field of the record. The layout's one place; docs/layouts-timecard.md shows it with
+/// examples.
+struct PunchField {
+    std::string PunchLine::*member;
+    Column column;
+};
+
+inline constexpr std::array kPunchFields = {
+    PunchField{&PunchLine::label, {1, 10}},         PunchField{&PunchLine::morningEntry, {11, 5}},
+    PunchField{&PunchLine::morningExit, {16, 5}},   PunchField{&PunchLine::afternoonEntry, {21, 5}},
+    PunchField{&PunchLine::afternoonExit, {26, 5}}, PunchField{&PunchLine::extraEntry, {31, 5}},
+    PunchField{&PunchLine::extraExit, {36, 5}},     PunchField{&PunchLine::shortField, {41, 5}},
+    PunchField{&PunchLine::situation, {46, 15}},
+};
+
+inline constexpr std::size_t kPunchWidth = 60;
+static_assert(isContiguous(kPunchFields, kPunchWidth));
+
+/// Throws TextFault when a text cannot be stored.
 [[nodiscard]] std::string encode(const PunchLine& line);
 [[nodiscard]] PunchLine decodePunchLine(std::string_view lineBytes);
 
@@ -43,8 +68,11 @@ inline constexpr std::string_view kSituationLeave = "AFASTAMENTO";
 [[nodiscard]] std::string punchFileName(const CompanyCode& company, const EmployeeCode& employee,
                                         WorkMonth month);
 
+/// One line for each day of the month with its label only.
+[[nodiscard]] std::vector<PunchLine> blankMonth(WorkMonth month);
+
 /// One line for each day of the month, in date order; days that the record lacks carry their label
-/// only. nullopt when no punches were applied.
+/// only. Of two lines for one day the first counts. nullopt when no punches were applied.
 [[nodiscard]] std::optional<std::vector<PunchLine>> loadPunches(FileSystem& files,
                                                                 const DataFolder& folder,
                                                                 const CompanyCode& company,
@@ -54,6 +82,8 @@ inline constexpr std::string_view kSituationLeave = "AFASTAMENTO";
 /// The bytes of a record: the opening line of two blanks, then the day lines.
 [[nodiscard]] std::string punchRecordBytes(const std::vector<PunchLine>& lines);
 
+/// Replaces the day lines. Lines of the record that stand for no day of the month follow them as
+/// they are.
 void savePunches(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
                  const EmployeeCode& employee, WorkMonth month,
                  const std::vector<PunchLine>& lines);

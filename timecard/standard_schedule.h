@@ -35,14 +35,20 @@ struct StandardSchedule {
     DaySchedule saturday;
     bool saturdayIsNormal = false;  ///< "Sábado(Normal)" / "Sábado(Extra)"
     bool secondFlag = false;        ///< the panel's second check box
-    std::string opaque;             ///< bytes of columns 43-192, kept as they stand
+    std::string opaque;             ///< bytes from column 43 on, kept as they stand
 
     [[nodiscard]] bool operator==(const StandardSchedule&) const = default;
 };
 
 inline constexpr std::size_t kScheduleWidth = 192;
 
+/// A time as hands write it, "8", "800", "8:0", "8,30" or "08:00"; nullopt for anything else, the
+/// blank included.
+[[nodiscard]] std::optional<TimeOfDay> parseTypedTime(std::string_view text);
+
 [[nodiscard]] std::string encode(const StandardSchedule& schedule);
+
+/// What is not a time counts as empty.
 [[nodiscard]] StandardSchedule decodeSchedule(std::string_view lineBytes);
 
 /// "PadrHor001.pdx", to be put behind the company code.
@@ -53,6 +59,7 @@ inline constexpr std::size_t kScheduleWidth = 192;
                                                            const DataFolder& folder,
                                                            const CompanyCode& company,
                                                            const EmployeeCode& employee);
+/// Lines behind the first, if the file has any, stay as they are.
 void saveSchedule(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
                   const EmployeeCode& employee, const StandardSchedule& schedule);
 
