@@ -10,6 +10,10 @@
 
 #include <array>
 
+// The icons lie in a static library, which nothing else draws into the program. The macro works
+// only outside of namespaces.
+static void loadIcons() { Q_INIT_RESOURCE(winvrx); }
+
 namespace winvrx::look {
 
 namespace {
@@ -70,6 +74,8 @@ QString styleSheet(const QPalette& palette) {
 *[role="command"] { border: 1px solid transparent; border-radius: 6px; padding: 4px 8px; }
 *[role="command"]:hover:enabled { background: %4; }
 *[role="command"]:focus { border-color: %3; }
+QListView::item { padding: 5px 4px; border-radius: 4px; }
+QListView::item:selected { background: palette(highlight); color: palette(highlighted-text); }
 QToolTip { border: 1px solid %2; padding: 4px; }
 )");
     return sheet.arg(name(palette.base().color()), name(palette.mid().color()),
@@ -122,6 +128,7 @@ void apply(QApplication& application) {
 }
 
 void apply(QApplication& application, const QPalette& palette) {
+    loadIcons();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(palette);
     application.setStyleSheet(styleSheet(palette));

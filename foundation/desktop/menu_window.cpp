@@ -21,7 +21,7 @@ namespace winvrx {
 namespace {
 
 constexpr int kTilesInRow = 3;
-constexpr int kSideWidth = 17;  ///< of the columns at the sides, in average capital letters
+constexpr int kSideWidth = 19;  ///< of the columns at the sides, in average capital letters
 
 QFrame* panel(QWidget* parent) {
     auto* frame = new QFrame(parent);
