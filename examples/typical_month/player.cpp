@@ -1,0 +1,199 @@
+#include "player.h"
+
+#include "foundation/desktop/look.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+
+#include <cstdlib>
+
+namespace winvrx {
+
+namespace {
+
+QMessageBox::StandardButton buttonOf(Answer answer) {
+    switch (answer) {
+        case Answer::Yes: return QMessageBox::Yes;
+        case Answer::No: return QMessageBox::No;
+        case Answer::Cancel: return QMessageBox::Cancel;
+        case Answer::Ok: return QMessageBox::Ok;
+    }
+    return QMessageBox::Ok;
+}
+
+QString iconName(QMessageBox::Icon icon) {
+    switch (icon) {
+        case QMessageBox::NoIcon: return QStringLiteral("nenhum");
+        case QMessageBox::Information: return QStringLiteral("informação");
+        case QMessageBox::Warning: return QStringLiteral("exclamação");
+        case QMessageBox::Critical: return QStringLiteral("crítico");
+        case QMessageBox::Question: return QStringLiteral("pergunta");
+    }
+    return {};
+}
+
+int rowContaining(const QAbstractItemModel& model, const QString& text) {
+    for (int row = 0; row < model.rowCount(); ++row)
+        if (model.index(row, 0).data().toString().contains(text)) return row;
+    return -1;
+}
+
+}  // namespace
+
+Player::Player(QString folder) : folder_(std::move(folder)) {
+    QDir().mkpath(folder_ + QStringLiteral("/telas"));
+    QFile::remove(folder_ + QStringLiteral("/conversa.txt"));
+}
+
+void Player::then(std::function<void()> step) { steps_.push_back(std::move(step)); }
+
+void Player::click(const QString& name) {
+    then([this, name] { QTest::mouseClick(find(name), Qt::LeftButton); });
+}
+
+void Player::type(const QString& name, const QString& text) {
+    then([this, name, text] {
+        auto* field = qobject_cast<QLineEdit*>(find(name));
+        if (!field) fail(name + QStringLiteral(" is no text field"));
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClick(field, Qt::Key_Delete);
+        for (const QChar letter : text)
+            QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, QString(letter),
+                                Qt::NoModifier);
+        if (field->text() != text) fail(name + QStringLiteral(" did not take: ") + text);
+    });
+}
+
+void Player::choose(const QString& name, const QString& text) {
+    then([this, name, text] {
+        QWidget* widget = find(name);
+        if (auto* box = qobject_cast<QComboBox*>(widget)) {
+            const int row = rowContaining(*box->model(), text);
+            if (row < 0) fail(name + QStringLiteral(" does not offer: ") + text);
+            box->setCurrentIndex(row);
+            emit box->activated(row);
+            emit box->textActivated(box->currentText());
+        } else if (auto* view = qobject_cast<QAbstractItemView*>(widget)) {
+            const int row = rowContaining(*view->model(), text);
+            if (row < 0) fail(name + QStringLiteral(" does not list: ") + text);
+            const QModelIndex index = view->model()->index(row, 0);
+            view->scrollTo(index);
+            QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier,
+                              view->visualRect(index).center());
+        } else {
+            fail(name + QStringLiteral(" is no list"));
+        }
+    });
+}
+
+void Player::tick(const QString& name, bool on) {
+    then([this, name, on] {
+        auto* button = qobject_cast<QAbstractButton*>(find(name));
+        if (!button) fail(name + QStringLiteral(" is no button"));
+        if (button->isChecked() != on) button->click();
+    });
+}
+
+void Player::openTab(const QString& name, const QString& title) {
+    then([this, name, title] {
+        auto* tabs = qobject_cast<QTabWidget*>(find(name));
+        if (!tabs) fail(name + QStringLiteral(" has no tabs"));
+        for (int i = 0; i < tabs->count(); ++i)
+            if (tabs->tabText(i).remove(QLatin1Char('&')).contains(title)) tabs->setCurrentIndex(i);
+    });
+}
+
+void Player::answer(const QString& text, Answer answer) {
+    then([this, text, answer] { answerNow(text, answer); });
+}
+
+void Player::answerNow(const QString& text, Answer answer) {
+    auto* box = qobject_cast<QMessageBox*>(present());
+    if (!box) fail(QStringLiteral("no message box, wanted: ") + text);
+    if (!box->text().startsWith(text))
+        fail(QStringLiteral("the message box says: ") + box->text() + box->informativeText());
+    QAbstractButton* button = box->button(buttonOf(answer));
+    if (!button) fail(QStringLiteral("no such button: ") + text);
+    record(box->windowTitle(), box->text(), iconName(box->icon()),
+           button->text().remove(QLatin1Char('&')));
+    QTest::mouseClick(button, Qt::LeftButton);
+}
+
+void Player::picture(const QString& name) {
+    then([this, name] { savePicture(name); });
+}
+
+void Player::savePicture(const QString& name) {
+    QWidget* window = present();
+    const QString stem =
+        QStringLiteral("%1/telas/%2-%3").arg(folder_).arg(++pictures_, 2, 10, QLatin1Char('0')).arg(name);
+    look::apply(*qApp, look::darkPalette());
+    QCoreApplication::sendPostedEvents();
+    window->grab().save(stem + QStringLiteral("-escuro.png"));
+    look::apply(*qApp, look::lightPalette());
+    QCoreApplication::sendPostedEvents();
+    window->grab().save(stem + QStringLiteral("-claro.png"));
+}
+
+int Player::play() {
+    QTimer::singleShot(0, this, &Player::next);
+    return QApplication::exec();
+}
+
+void Player::next() {
+    if (steps_.empty()) return QCoreApplication::exit(0);
+    const std::function<void()> step = std::move(steps_.front());
+    steps_.pop_front();
+    // Queued first: the step may open a modal window and return only when that is closed.
+    QTimer::singleShot(0, this, &Player::next);
+    step();
+}
+
+void Player::fail(const QString& reason) const {
+    if (QWidget* window = present()) window->grab().save(folder_ + QStringLiteral("/falha.png"));
+    qCritical("typical month: %s", qUtf8Printable(reason));
+    std::_Exit(1);
+}
+
+QWidget* Player::present() {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->isWindow()) return window;
+    return nullptr;
+}
+
+QWidget* Player::find(const QString& name) const {
+    QWidget* window = present();
+    if (!window) fail(QStringLiteral("no window, wanted: ") + name);
+    auto* found = window->findChild<QWidget*>(name);
+    if (!found) {
+        const auto* box = qobject_cast<QMessageBox*>(window);
+        fail(window->objectName() + QStringLiteral(" has no ") + name +
+             (box ? QStringLiteral("; it says: ") + box->text() + box->informativeText()
+                  : QString()));
+    }
+    if (!found->isEnabled()) fail(name + QStringLiteral(" is disabled"));
+    return found;
+}
+
+void Player::record(const QString& title, const QString& text, const QString& icon,
+                    const QString& answer) const {
+    QFile file(folder_ + QStringLiteral("/conversa.txt"));
+    if (!file.open(QIODevice::Append | QIODevice::Text))
+        fail(QStringLiteral("cannot write ") + file.fileName());
+    const QString entry = QStringLiteral("Título: %1\nTexto: %2\nÍcone: %3\nResposta: %4\n\n")
+                              .arg(title, text, icon, answer);
+    file.write(entry.toUtf8());
+}
+
+}  // namespace winvrx

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "foundation/operator.h"
+
+#include <QObject>
+#include <QString>
+
+#include <deque>
+#include <functional>
+
+class QWidget;
+
+namespace winvrx {
+
+/// Plays a script of steps on the windows of a running program, as an operator would: it finds
+/// widgets by their object names, clicks, types and answers message boxes. A step that does not
+/// find what it needs ends the play with a message.
+///
+/// Steps run from the event loop one after the other, so that a step may open a modal window and
+/// the next ones play in it.
+class Player : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Pictures go to `folder`/telas, the record of message boxes to `folder`/conversa.txt.
+    explicit Player(QString folder);
+
+    void click(const QString& name);
+    /// Replaces the text of a field by key presses.
+    void type(const QString& name, const QString& text);
+    /// Picks the entry of a list or combo box whose text contains `text`.
+    void choose(const QString& name, const QString& text);
+    /// Ticks or clears a check box or option button.
+    void tick(const QString& name, bool on);
+    /// Selects a tab by a word of its title.
+    void openTab(const QString& name, const QString& title);
+    /// Answers the message box that is open; its text must begin with `text`.
+    void answer(const QString& text, Answer answer);
+    /// Saves the present window in the light and in the dark palette.
+    void picture(const QString& name);
+    /// Anything else.
+    void then(std::function<void()> step);
+
+    /// Plays all steps; 0 when every one succeeded.
+    [[nodiscard]] int play();
+
+  private:
+    void next();
+    [[noreturn]] void fail(const QString& reason) const;
+    [[nodiscard]] static QWidget* present();
+    [[nodiscard]] QWidget* find(const QString& name) const;
+    void answerNow(const QString& text, Answer answer);
+    void savePicture(const QString& name);
+    void record(const QString& title, const QString& text, const QString& icon,
+                const QString& answer) const;
+
+    QString folder_;
+    std::deque<std::function<void()>> steps_;
+    int pictures_ = 0;
+};
+
+}  // namespace winvrx
