@@ -23,8 +23,8 @@ std::vector<CompanyLine> loadCompanies(FileSystem& files, const DataFolder& fold
 
 std::vector<CompanyLine> loadOrCreateCompanies(FileSystem& files, const DataFolder& folder,
                                                Date today) {
-    RecordFile file = registerFile(files, folder);
-    if (!file.exists()) file.rewrite({encode(sampleCompany(today))});
+    const bool missing = !files.read(folder.file(kCompanyRegisterName));
+    if (missing) registerFile(files, folder).rewrite({encode(sampleCompany(today))});
     return loadCompanies(files, folder);
 }
 

@@ -26,7 +26,8 @@ struct CompanyLine {
 /// The lines of the register in file order; empty when there is no file.
 [[nodiscard]] std::vector<CompanyLine> loadCompanies(FileSystem& files, const DataFolder& folder);
 
-/// The same, but a missing register is first created with the sample company.
+/// The same, but a missing register is first created with the sample company. A register that
+/// cannot be read is not missing: FileFault, and it stays as it is.
 [[nodiscard]] std::vector<CompanyLine> loadOrCreateCompanies(FileSystem& files,
                                                              const DataFolder& folder, Date today);
 

@@ -109,7 +109,7 @@ class PosixFileSystem final : public FileSystem {
     [[nodiscard]] std::optional<std::string> read(const path& file) const override {
         const Descriptor in(file, O_RDONLY | O_NONBLOCK);
         if (!in.open()) {
-            if (errno == ENOENT) return std::nullopt;
+            if (errno == ENOENT || errno == ENOTDIR) return std::nullopt;
             fail(Operation::Read, file);
         }
         return readToEnd(in, file);
@@ -141,7 +141,9 @@ class PosixFileSystem final : public FileSystem {
 
     [[nodiscard]] bool exists(const path& file) const override {
         struct stat status {};
-        return ::stat(file.c_str(), &status) == 0;
+        if (::stat(file.c_str(), &status) == 0) return true;
+        if (errno != ENOENT && errno != ENOTDIR) fail(Operation::Read, file);
+        return false;
     }
 
     [[nodiscard]] std::vector<std::string> names(const path& folder) const override {
