@@ -8,6 +8,9 @@ namespace winvrx {
 
 namespace {
 
+/// "01", "001" and "032024.pdx"; a shorter month file is the company's own.
+constexpr std::size_t kEmployeeMonthFileLength = 15;
+
 std::string withForwardSlashes(std::string_view text) {
     std::string result(text);
     std::replace(result.begin(), result.end(), '\\', '/');
@@ -71,7 +74,8 @@ bool isRecordOfEmployee(std::string_view name, const CompanyCode& company,
     if (!isRecordOfCompany(name, company)) return false;
     for (const std::string_view stem : {kScheduleStem, kOvertimeStem, kLeaveStem})
         if (standsAt(name, 3, stem)) return standsAt(name, 3 + stem.size(), employee.text());
-    return name.substr(2) != kEmployeeListStem && standsAt(name, 3, employee.text());
+    const bool hasEmployee = isPunchOrPayrollFile(name) || name.size() >= kEmployeeMonthFileLength;
+    return hasEmployee && name.substr(2) != kEmployeeListStem && standsAt(name, 3, employee.text());
 }
 
 void removeRecordsOfCompany(FileSystem& files, const DataFolder& folder,

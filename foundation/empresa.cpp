@@ -2,6 +2,8 @@
 
 #include "foundation/employee_register.h"
 
+#include <algorithm>
+
 namespace winvrx {
 
 namespace {
@@ -27,6 +29,9 @@ const Message kDeletesEmployees{
 const Message kCertain{"EXCLUIR", "Tem Certeza que Deseja Excluir o Item Selecionado?",
                        Icon::Exclamation, Buttons::YesNo};
 const Message kHelpFailed{"Erro", "Ocorreu Erro", Icon::Exclamation};
+
+constexpr auto kChangedElsewhere =
+    "O cadastro foi alterado por outro computador. Abra a tela novamente.";
 
 CompanyLine lineOf(Company company, const CompanyCode& code, Date today) {
     company.code = code.text();
@@ -64,8 +69,7 @@ bool Empresa::change(std::size_t position, Company typed) {
     return attempt(at_, incorrectData(), [&] {
         auto lines = loadCompanies(at_.files, at_.session.folder);
         if (position >= lines.size() || lines[position].bytes != lines_.at(position).bytes)
-            throw Fault("company list changed on disk",
-                        "O cadastro foi alterado por outro computador. Abra a tela novamente.");
+            throw Fault("company list changed on disk", kChangedElsewhere);
         const auto code = lines[position].code();
         if (!code)
             throw Fault("company line without code: " + lines[position].company.code,
@@ -96,15 +100,25 @@ bool Empresa::remove(std::size_t position, DeleteOption option) {
         if (!confirmsDeletion(chosen, option)) return false;
         auto lines = loadCompanies(at_.files, at_.session.folder);
         if (position >= lines.size() || lines[position].bytes != chosen.bytes)
-            throw Fault("company list changed on disk",
-                        "O cadastro foi alterado por outro computador. Abra a tela novamente.");
-        // The files go first: cut short, the command can be given again.
-        if (const auto code = chosen.code())
-            removeRecordsOfCompany(at_.files, at_.session.folder, *code);
+            throw Fault("company list changed on disk", kChangedElsewhere);
+        // A disk that refuses the register must do so before anything is gone. Then the files go
+        // first: cut short, the command can be given again.
+        save(lines);
         lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(position));
+        removeFilesOf(chosen, lines);
         save(std::move(lines));
         return true;
     });
+}
+
+void Empresa::removeFilesOf(const CompanyLine& gone, const std::vector<CompanyLine>& remaining) {
+    const auto code = gone.code();
+    const bool stillUsed =
+        std::any_of(remaining.begin(), remaining.end(),
+                    [&](const CompanyLine& line) { return line.code() == code; });
+    if (!code || stillUsed) return;
+    removeRecordsOfCompany(at_.files, at_.session.folder, *code);
+    if (at_.session.company == code) at_.session.company.reset();
 }
 
 void Empresa::help() {

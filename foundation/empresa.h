@@ -35,12 +35,15 @@ class Empresa {
     [[nodiscard]] bool include(Company typed);
     /// Replaces the line at `position`; the code stays. True when it was recorded.
     [[nodiscard]] bool change(std::size_t position, Company typed);
-    /// Deletes the line at `position` and the company's files. True when it is gone.
+    /// Deletes the line at `position` and the company's files; a session that had it selected has
+    /// none afterwards. True when it is gone.
     [[nodiscard]] bool remove(std::size_t position, DeleteOption option);
     void help();
 
   private:
     [[nodiscard]] bool confirmsDeletion(const CompanyLine& line, DeleteOption option);
+    /// Deletes the company's files, unless a damaged list gives its code to another line too.
+    void removeFilesOf(const CompanyLine& gone, const std::vector<CompanyLine>& remaining);
     void save(std::vector<CompanyLine> lines);
 
     Workplace at_;
