@@ -8,12 +8,14 @@
 
 namespace winvrx::testing {
 
-/// A disk in memory. Every operation on a file named in `failOn` fails.
+/// A disk in memory. Every operation on a file named in `failOn` fails; a file named in
+/// `failWritesOn` can be read but not written, as on a full disk.
 class MemoryFiles final : public FileSystem {
   public:
     std::map<std::filesystem::path, std::string> content;
     std::set<std::string> failOn;
     std::set<std::filesystem::path> folders;
+    std::set<std::string> failWritesOn;
 
     [[nodiscard]] std::optional<std::string> read(
         const std::filesystem::path& file) const override {
@@ -55,7 +57,9 @@ class MemoryFiles final : public FileSystem {
 
   private:
     void check(FileFault::Operation operation, const std::filesystem::path& file) const {
-        if (failOn.contains(file.filename().string()))
+        const std::string name = file.filename().string();
+        const bool write = operation == FileFault::Operation::Write;
+        if (failOn.contains(name) || (write && failWritesOn.contains(name)))
             throw FileFault(operation, file, std::make_error_code(std::errc::no_space_on_device));
     }
 };
