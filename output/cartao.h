@@ -1,0 +1,105 @@
+#pragma once
+
+#include "foundation/command.h"
+#include "foundation/company.h"
+#include "output/card_rows.h"
+#include "output/card_stock.h"
+#include "output/report_engine.h"
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace winvrx {
+
+inline constexpr std::string_view kCartaoTitle = "CARTÃO PONTO";
+
+/// "Opção de Impressão do Cartão:".
+enum class PrintMode {
+    OneRun,      ///< all cards are one job
+    OneAtATime,  ///< each card is a job of its own, and confirmed
+};
+
+inline constexpr std::string_view kOneRunCaption = "Imprimir Todos de Uma só Vez";
+inline constexpr std::string_view kOneAtATimeCaption =
+    "Imprimir Todos Intermitente (Um de cada Vez)";
+
+/// What the operator chooses on the printing screen.
+struct PrintChoices {
+    PrintMode mode = PrintMode::OneRun;
+    ReportOutput output = ReportOutput::Preview;
+    TrayPosition tray = TrayPosition::Central;
+    std::array<std::string, 3> trays;  ///< "Bandeja Impressora:"
+    bool printHeader = true;
+};
+
+/// What a run asks of the screen while it lasts. Both may be empty.
+struct PrintRun {
+    /// Told after each card; false cancels the run.
+    std::function<bool(int done, int total)> progress = {};
+    /// Where to save a PDF file, given a name to propose; empty cancels the run. Asked once a job.
+    std::function<std::string(const std::string& proposedName)> choosePdf = {};
+};
+
+/// The time-card printing screen.
+///
+/// Prints the cards of the employees that pass the shift filter, in list order. A card's records
+/// are read when its turn comes. A failed card ends the run; cards already printed stay printed.
+class Cartao {
+  public:
+    Cartao(const Workplace& at, ReportEngine& engine);
+
+    /// Reads company, employees, work month, stock and printer again.
+    void load();
+
+    [[nodiscard]] const std::vector<Employee>& employees() const { return employees_; }
+    [[nodiscard]] const Company& company() const { return company_; }
+    /// The stock's display name; empty when none is chosen.
+    [[nodiscard]] std::string stockLabel() const;
+    /// Empty stands for the system's default printer.
+    [[nodiscard]] const std::string& printerName() const { return printer_; }
+    [[nodiscard]] std::optional<WorkMonth> month() const { return month_; }
+
+    [[nodiscard]] ShiftFilter filter() const { return filter_; }
+    /// Reads the employees of this filter.
+    void setFilter(ShiftFilter filter);
+
+    [[nodiscard]] PrintChoices& choices() { return choices_; }
+
+    /// The header block of the card of the employee at `position`; empty when nobody is selected
+    /// or no work month is chosen.
+    [[nodiscard]] std::string headerPreview(std::optional<std::size_t> position) const;
+
+    /// "Imprimir >": the card of the selected employee. True when it was printed.
+    [[nodiscard]] bool printOne(std::optional<std::size_t> position, const PrintRun& run);
+    /// "Imprimir >>": every card of the list. True when all were printed.
+    [[nodiscard]] bool printAll(const PrintRun& run);
+
+  private:
+    [[nodiscard]] std::vector<Employee> listed() const;
+    [[nodiscard]] bool isReady(bool anyEmployee);
+    [[nodiscard]] bool drivePrints();
+    [[nodiscard]] bool print(const std::vector<Employee>& people, const PrintRun& run);
+    [[nodiscard]] bool printInOneRun(const std::vector<Employee>& people, const PrintRun& run);
+    [[nodiscard]] bool printOneAtATime(const std::vector<Employee>& people, const PrintRun& run);
+    [[nodiscard]] bool confirms(const Employee& employee);
+    [[nodiscard]] std::optional<ReportRequest> requestFor(LayoutSet set, const PrintRun& run,
+                                                          const std::string& subject) const;
+    [[nodiscard]] bool succeeded(ReportResult result);
+    [[nodiscard]] CardData cardOf(const Employee& employee) const;
+
+    Workplace at_;
+    ReportEngine& engine_;
+    PrintChoices choices_;
+    ShiftFilter filter_;
+    Company company_;
+    std::vector<Employee> employees_;
+    std::optional<WorkMonth> month_;
+    const CardStock* stock_ = nullptr;
+    std::string printer_;
+};
+
+}  // namespace winvrx

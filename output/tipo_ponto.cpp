@@ -1,0 +1,34 @@
+#include "output/tipo_ponto.h"
+
+namespace winvrx {
+
+TipoPonto::TipoPonto(const Workplace& at) : at_(at) {}
+
+void TipoPonto::load() {
+    current_ = nullptr;
+    (void)attempt(at_, incorrectData(), [this] {
+        current_ = loadStock(at_.files, at_.session);
+        return true;
+    });
+}
+
+std::vector<const CardStock*> TipoPonto::offered() {
+    std::vector<const CardStock*> stocks;
+    for (const CardStock& stock : kCardStocks)
+        if (stock.offered) stocks.push_back(&stock);
+    return stocks;
+}
+
+std::string TipoPonto::label() const {
+    return current_ ? std::string(current_->displayName) : std::string();
+}
+
+bool TipoPonto::choose(const CardStock& stock) {
+    return attempt(at_, incorrectData(), [&] {
+        saveStock(at_.files, at_.session, stock);
+        current_ = &stock;
+        return true;
+    });
+}
+
+}  // namespace winvrx
