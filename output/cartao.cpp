@@ -7,6 +7,7 @@
 #include "timecard/selected_month.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace winvrx {
@@ -23,14 +24,13 @@ const Message kNoStock{"IMPRIMIR CARTÃO PONTO", "Selecione um Tipo de Cartão n
                        Icon::Exclamation};
 const Message kNoEmployee{"IMPRIMIR CARTÃO PONTO", "Selecione um Funcionário na Lista! ",
                           Icon::Exclamation};
-const Message kNoMonth{"IMPRIMIR CARTÃO PONTO", "Informe um Mês de Trabalho!!",
-                       Icon::Exclamation};
+const Message kNoMonth{"IMPRIMIR CARTÃO PONTO", "Informe um Mês de Trabalho!!", Icon::Exclamation};
 const Message kWrongDrive{"Imprimir",
                           "Diretório Inválido p/ Impressão! Transfira os dados do diretório atual "
                           "para o Diretório 'C'.",
                           Icon::Critical};
-const Message kCancelOthers{"IMPRIMINDO", "Deseja Cancelar as demais Impressões? ",
-                            Icon::Question, Buttons::YesNo};
+const Message kCancelOthers{"IMPRIMINDO", "Deseja Cancelar as demais Impressões? ", Icon::Question,
+                            Buttons::YesNo};
 const Message kPrintFailed{"IMPRESSÃO", "Erro na Impressão do Relatório.", Icon::Critical};
 const Message kNoPrinter{"IMPRESSÃO",
                          "ERRO NA IMPRESSÃO DO RELATÓRIO - Isto ocorre quando não há Impressoras "
@@ -52,7 +52,8 @@ Company companyOf(FileSystem& files, const Session& session) {
 /// A name for the file dialogue, without the characters that part folders.
 std::string pdfNameFor(const std::string& subject, WorkMonth month) {
     std::string name = std::string(kCartaoTitle) + " " + subject + " " + monthKey(month) + ".pdf";
-    std::ranges::replace_if(name, [](char c) { return kNotInFileNames.find(c) != std::string_view::npos; }, '-');
+    std::ranges::replace_if(
+        name, [](char c) { return kNotInFileNames.find(c) != std::string_view::npos; }, '-');
     return name;
 }
 
@@ -68,7 +69,7 @@ void Cartao::load() {
         month_ = selected ? std::optional(selected->month) : std::nullopt;
         stock_ = loadStock(at_.files, at_.session);
         printer_ = loadPrinterName(at_.files, at_.session.folder);
-        employees_ = listed();
+        readEmployees();
         return true;
     });
 }
@@ -79,16 +80,26 @@ std::string Cartao::stockLabel() const {
 
 void Cartao::setFilter(ShiftFilter filter) {
     filter_ = filter;
+    ofShift_.clear();
     employees_.clear();
     (void)attempt(at_, incorrectData(), [this] {
-        employees_ = listed();
+        readEmployees();
         return true;
     });
 }
 
-std::vector<Employee> Cartao::listed() const {
+void Cartao::readEmployees() {
     const EmployeeRegister list(at_.files, at_.session.folder, at_.session.company.value());
-    return employeesOf(list.load(), filter_);
+    ofShift_ = employeesOf(list.load(), filter_);
+    setSearch(search_);
+}
+
+void Cartao::setSearch(std::string text) {
+    search_ = std::move(text);
+    employees_.clear();
+    std::ranges::copy_if(ofShift_, std::back_inserter(employees_), [this](const Employee& one) {
+        return matchesSearch(one.code + " " + one.name, search_);
+    });
 }
 
 std::string Cartao::headerPreview(std::optional<std::size_t> position) const {
@@ -174,7 +185,8 @@ bool Cartao::printOneAtATime(const std::vector<Employee>& people, const PrintRun
 bool Cartao::confirms(const Employee& employee) {
     const Message question = confirmCardOf(employee);
     Answer answer = at_.person.ask(question);
-    while (answer == Answer::No) answer = at_.person.ask(question);
+    while (answer == Answer::No)
+        answer = at_.person.ask(question);
     return answer == Answer::Yes;
 }
 

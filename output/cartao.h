@@ -23,10 +23,6 @@ enum class PrintMode {
     OneAtATime,  ///< each card is a job of its own, and confirmed
 };
 
-inline constexpr std::string_view kOneRunCaption = "Imprimir Todos de Uma só Vez";
-inline constexpr std::string_view kOneAtATimeCaption =
-    "Imprimir Todos Intermitente (Um de cada Vez)";
-
 /// What the operator chooses on the printing screen.
 struct PrintChoices {
     PrintMode mode = PrintMode::OneRun;
@@ -46,7 +42,8 @@ struct PrintRun {
 
 /// The time-card printing screen.
 ///
-/// Prints the cards of the employees that pass the shift filter, in list order. A card's records
+/// Prints the cards of the list: the employees that pass the shift filter and the search, in file
+/// order. A card's records
 /// are read when its turn comes. A failed card ends the run; cards already printed stay printed.
 class Cartao {
   public:
@@ -66,6 +63,8 @@ class Cartao {
     [[nodiscard]] ShiftFilter filter() const { return filter_; }
     /// Reads the employees of this filter.
     void setFilter(ShiftFilter filter);
+    /// Keeps on the list those whose code or name match; an empty text keeps all.
+    void setSearch(std::string text);
 
     [[nodiscard]] PrintChoices& choices() { return choices_; }
 
@@ -79,7 +78,7 @@ class Cartao {
     [[nodiscard]] bool printAll(const PrintRun& run);
 
   private:
-    [[nodiscard]] std::vector<Employee> listed() const;
+    void readEmployees();
     [[nodiscard]] bool isReady(bool anyEmployee);
     [[nodiscard]] bool drivePrints();
     [[nodiscard]] bool print(const std::vector<Employee>& people, const PrintRun& run);
@@ -96,6 +95,8 @@ class Cartao {
     PrintChoices choices_;
     ShiftFilter filter_;
     Company company_;
+    std::string search_;
+    std::vector<Employee> ofShift_;
     std::vector<Employee> employees_;
     std::optional<WorkMonth> month_;
     const CardStock* stock_ = nullptr;

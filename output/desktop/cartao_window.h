@@ -1,0 +1,61 @@
+#pragma once
+
+#include "foundation/desktop/screen_window.h"
+#include "output/cartao.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+class QComboBox;
+class QLabel;
+class QListWidget;
+
+namespace winvrx {
+
+class PrintChoicesBox;
+class SearchBox;
+
+/// The screens that the printing screen opens. Each returns when its screen is closed.
+struct CartaoLinks {
+    std::function<void()> openStocks;
+    std::function<void()> openWorkMonth;
+};
+
+/// The time-card printing screen: employees at the left, header block and choices at the right.
+class CartaoWindow : public ScreenWindow {
+    Q_OBJECT
+
+  public:
+    /// `cartao` outlives the window; it is read again when the window opens.
+    CartaoWindow(Cartao& cartao, CartaoLinks links, QWidget* parent = nullptr);
+
+  private:
+    void buildCommands();
+    [[nodiscard]] QWidget* buildBody();
+    [[nodiscard]] QWidget* buildList(QWidget* parent);
+    [[nodiscard]] QWidget* buildPreview(QWidget* parent);
+    void connectAll();
+
+    void visit(const std::function<void()>& screen);
+    void printOne();
+    void printAll();
+    [[nodiscard]] std::function<std::string(const std::string&)> pdfChooser();
+
+    void showList();
+    void showPreview();
+    void showContext();
+    [[nodiscard]] std::optional<std::size_t> selected() const;
+
+    Cartao& cartao_;
+    CartaoLinks links_;
+    QComboBox* shift_ = nullptr;
+    SearchBox* search_ = nullptr;
+    QListWidget* list_ = nullptr;
+    QLabel* emptyList_ = nullptr;
+    QLabel* header_ = nullptr;
+    QLabel* headerHint_ = nullptr;
+    PrintChoicesBox* choices_ = nullptr;
+};
+
+}  // namespace winvrx

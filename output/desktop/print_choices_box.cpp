@@ -1,0 +1,135 @@
+#include "output/desktop/print_choices_box.h"
+
+#include "foundation/desktop/field_box.h"
+#include "foundation/desktop/look.h"
+#include "foundation/desktop/qt_text.h"
+#include "output/desktop/option_group.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+namespace winvrx {
+
+namespace {
+
+constexpr int kTrayWidth = 30;
+
+template <typename Choice>
+constexpr int idOf(Choice choice) {
+    return static_cast<int>(choice);
+}
+
+}  // namespace
+
+PrintChoicesBox::PrintChoicesBox(const PrintChoices& choices, QWidget* parent)
+    : QWidget(parent), output_(buildOutput()), mode_(buildMode()), tray_(buildTray()) {
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(look::kGroupGap);
+    grid->setVerticalSpacing(look::kGroupGap);
+    grid->addWidget(output_, 0, 0, Qt::AlignTop);
+    grid->addWidget(mode_, 0, 1, Qt::AlignTop);
+    grid->addWidget(tray_, 1, 0, Qt::AlignTop);
+    grid->addWidget(buildHeaderChoice(), 1, 1, Qt::AlignTop);
+    grid->addWidget(buildPrinterTrays(), 2, 0, 1, 2);
+    grid->setColumnStretch(1, 1);
+    showChoices(choices);
+    connectAll();
+}
+
+OptionGroup* PrintChoicesBox::buildOutput() {
+    auto* group =
+        new OptionGroup(QStringLiteral("Saída:"), QStringLiteral("cartao.output"), 3, this);
+    group->addOption(idOf(ReportOutput::Preview), QStringLiteral("&Visualizar"),
+                     QStringLiteral("preview"));
+    group->addOption(idOf(ReportOutput::Printer), QStringLiteral("I&mprimir"),
+                     QStringLiteral("printer"));
+    group->addOption(idOf(ReportOutput::PdfFile), QStringLiteral("Gravar em P&DF"),
+                     QStringLiteral("pdf"));
+    return group;
+}
+
+OptionGroup* PrintChoicesBox::buildMode() {
+    auto* group = new OptionGroup(QStringLiteral("Opção de Impressão do Cartão:"),
+                                  QStringLiteral("cartao.mode"), 2, this);
+    group->addOption(idOf(PrintMode::OneRun), QStringLiteral("Imprimir &Todos de Uma só Vez"),
+                     QStringLiteral("oneRun"));
+    group->addOption(idOf(PrintMode::OneAtATime),
+                     QStringLiteral("Imprimir Todos I&ntermitente (Um de cada Vez)"),
+                     QStringLiteral("oneAtATime"));
+    return group;
+}
+
+OptionGroup* PrintChoicesBox::buildTray() {
+    auto* group = new OptionGroup(QStringLiteral("Posição Cartão na Bandeja:"),
+                                  QStringLiteral("cartao.tray"), 2, this);
+    group->addOption(idOf(TrayPosition::Central), QStringLiteral("&Central"),
+                     QStringLiteral("central"));
+    group->addOption(idOf(TrayPosition::Lateral), QStringLiteral("&Lateral"),
+                     QStringLiteral("lateral"));
+    return group;
+}
+
+QWidget* PrintChoicesBox::buildHeaderChoice() {
+    auto* part = new QWidget(this);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    column->addWidget(look::heading(QStringLiteral("# - Impresso Cabeçalho de Cartão:"), part));
+    printHeader_ = new QCheckBox(QStringLiteral("Imprimir empresa e funcion&ário"), part);
+    printHeader_->setObjectName(QStringLiteral("cartao.printHeader"));
+    printHeader_->setAccessibleName(QStringLiteral("Impresso Cabeçalho de Cartão"));
+    column->addWidget(printHeader_);
+    return part;
+}
+
+QWidget* PrintChoicesBox::buildPrinterTrays() {
+    auto* part = new QWidget(this);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    column->addWidget(look::heading(QStringLiteral("Bandeja Impressora:"), part));
+    auto* row = new QHBoxLayout;
+    row->setSpacing(look::kGap);
+    for (std::size_t at = 0; at < trays_.size(); ++at) {
+        const QString number = QString::number(at + 1);
+        trays_[at] =
+            new TextField(QStringLiteral("Bandeja &") + number,
+                          QStringLiteral("cartao.printerTray") + number, kTrayWidth, nullptr, part);
+        row->addWidget(trays_[at]);
+    }
+    trays_.back()->edit()->setProperty("lastField", true);
+    column->addLayout(row);
+    return part;
+}
+
+void PrintChoicesBox::showChoices(const PrintChoices& choices) {
+    mode_->choose(idOf(choices.mode));
+    output_->choose(idOf(choices.output));
+    tray_->choose(idOf(choices.tray));
+    printHeader_->setChecked(choices.printHeader);
+    for (std::size_t at = 0; at < trays_.size(); ++at)
+        trays_[at]->setText(toQt(choices.trays[at]));
+}
+
+void PrintChoicesBox::connectAll() {
+    for (OptionGroup* group : {mode_, output_, tray_})
+        connect(group, &OptionGroup::picked, this, &PrintChoicesBox::changed);
+    connect(printHeader_, &QCheckBox::toggled, this, &PrintChoicesBox::changed);
+    for (TextField* field : trays_)
+        connect(field, &TextField::edited, this, &PrintChoicesBox::changed);
+}
+
+PrintChoices PrintChoicesBox::choices() const {
+    PrintChoices choices{.mode = static_cast<PrintMode>(mode_->chosen()),
+                         .output = static_cast<ReportOutput>(output_->chosen()),
+                         .tray = static_cast<TrayPosition>(tray_->chosen()),
+                         .trays = {},
+                         .printHeader = printHeader_->isChecked()};
+    for (std::size_t at = 0; at < trays_.size(); ++at)
+        choices.trays[at] = toUtf8(trays_[at]->text());
+    return choices;
+}
+
+}  // namespace winvrx
