@@ -11,7 +11,6 @@ namespace {
 
 constexpr int kFirstHalfEnd = 15;
 constexpr std::size_t kShortWeekday = 3;
-constexpr std::size_t kSituationWidth = 15;
 
 std::chrono::weekday restDayOf(const Employee& employee) {
     const std::string stored = foldedForSearch(firstCharacters(employee.restDay, kShortWeekday));
@@ -59,16 +58,9 @@ bool hasTimes(const PunchLine& line) {
     return false;
 }
 
-/// The situation column is narrower than the longest of the words that it holds.
-std::string storedSituation(std::string_view stored) {
-    const std::string_view text = trimmed(stored);
-    const bool cutRest = text == firstCharacters(kSituationWeeklyRest, kSituationWidth);
-    return std::string(cutRest ? kSituationWeeklyRest : text);
-}
-
 /// The word for a day without times.
 std::string situationOf(const CardData& card, const PunchLine& line, Date date) {
-    if (std::string stored = storedSituation(line.situation); !stored.empty()) return stored;
+    if (const auto stored = trimmed(line.situation); !stored.empty()) return std::string(stored);
     if (card.settings.isHoliday(date)) return std::string(kSituationHoliday);
     const auto weekday = weekdayOf(date);
     if (weekday == std::chrono::Sunday || weekday == restDayOf(card.employee))
