@@ -1,23 +1,19 @@
 #pragma once
 
+#include "app/screens.h"
 #include "foundation/command.h"
 #include "foundation/desktop/message_box_operator.h"
 #include "foundation/menu.h"
 #include "output/report_engine.h"
 #include "timecard/month_overview.h"
 
-#include <QString>
-
 #include <filesystem>
 #include <functional>
 #include <memory>
 
-class QWidget;
-
 namespace winvrx {
 
 class MenuWindow;
-struct MenuEntry;
 
 /// What the program takes from its surroundings. main() gives the real ones; the example gives a
 /// folder for a drive and a clock that stands still.
@@ -44,17 +40,7 @@ class Program {
     [[nodiscard]] MenuWindow& window() { return *window_; }
 
   private:
-    [[nodiscard]] std::vector<MenuEntry> entries();
-    [[nodiscard]] std::vector<MenuEntry> registerEntries();
-    [[nodiscard]] std::vector<MenuEntry> cardEntries();
-    [[nodiscard]] std::vector<MenuEntry> personnelEntries();
-    [[nodiscard]] std::vector<MenuEntry> toolEntries();
-    void openCompanies(QWidget* parent);
-    void openEmployees(QWidget* parent);
-    void openWorkMonth(QWidget* parent);
-    void openTimeCard(QWidget* parent);
-    void openCards(QWidget* parent);
-    void openStocks(QWidget* parent);
+    [[nodiscard]] std::unique_ptr<ReportEngine> makeEngine();
 
     Surroundings surroundings_;
     std::unique_ptr<FileSystem> files_;
@@ -64,6 +50,7 @@ class Program {
     Workplace at_;
     TimecardCalendar calendar_;
     std::unique_ptr<ReportEngine> engine_;
+    Screens screens_;
     Menu menu_;
     std::unique_ptr<MenuWindow> window_;
 };

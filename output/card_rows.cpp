@@ -159,11 +159,10 @@ std::vector<CardRow> cardRows(const CardData& card) {
     PunchWriter writer(card, rows);
     for (int day = 1; day <= daysIn(month); ++day) {
         const Date date = plusDays(firstDay(month), day - 1);
-        if (date < from) continue;
         const auto at = static_cast<std::size_t>(day - 1);
         rows[at][cardColumn("dia")] = padded(day, 2);
         rows[at][cardColumn("semana")] = weekdayShort(weekdayOf(date));
-        if (card.punches) writer.write(card.punches->at(at), date);
+        if (card.punches && date >= from) writer.write(card.punches->at(at), date);
     }
     if (card.punches) writer.writeSums();
     return rows;

@@ -138,12 +138,12 @@ TEST(CardRows, ShortMonthLeavesTheLastRowsBlank) {
     EXPECT_EQ(rows[30][cardColumn("nome")], "JOSÉ DA SILVA");
 }
 
-TEST(CardRows, DaysBeforeAdmissionAreBlankAndNotCounted) {
+TEST(CardRows, DaysBeforeAdmissionAreLabelsOnlyAndNotCounted) {
     CardData card = commercialCard(kMarch);
     card.employee.admission = "28/03/2024";
     const auto rows = cardRows(card);
-    EXPECT_EQ(row(rows, 24), "24||||||||||");
-    EXPECT_EQ(row(rows, 27), "27||||||||||");
+    EXPECT_EQ(row(rows, 24), "24|24|dom||||||||");
+    EXPECT_EQ(row(rows, 27), "27|27|qua||||||||");
     EXPECT_EQ(row(rows, 28), "28|28|qui|08:00|12:00|13:00|17:00|||08:00|");
     EXPECT_EQ(rows[0][cardColumn("total")], "16:00");
     EXPECT_EQ(rows[0][cardColumn("quinzena")], "00:00");

@@ -1,0 +1,48 @@
+#include "app/program.h"
+
+#include "app/menu_entries.h"
+#include "foundation/desktop/desktop_browser.h"
+#include "foundation/desktop/menu_window.h"
+#include "output/desktop/qt_report_engine.h"
+
+namespace winvrx {
+
+namespace {
+
+std::string nativePath(const std::filesystem::path& path) {
+    return path.string();
+}
+
+}  // namespace
+
+Program::Program(const Surroundings& surroundings)
+    : surroundings_(surroundings),
+      files_(systemFiles()),
+      browser_(std::make_unique<DesktopBrowser>(
+          QString::fromStdString((surroundings.programFolder / "help").string()))),
+      at_{*files_, person_, surroundings.clock, surroundings.log, session_},
+      calendar_(at_),
+      engine_(makeEngine()),
+      screens_(at_, *browser_, *engine_),
+      menu_(at_, surroundings.drives, surroundings.instance, *browser_,
+            nativePath(surroundings.programFolder)),
+      window_(std::make_unique<MenuWindow>(menu_, at_, calendar_, menuEntries(menu_, screens_),
+                                           [this] { return screens_.nextStep(); })) {}
+
+Program::~Program() = default;
+
+bool Program::start() {
+    return window_->start();
+}
+
+std::unique_ptr<ReportEngine> Program::makeEngine() {
+    const QtReportEngine::Places places{
+        .layoutFolders =
+            [this] { return layoutFolders(session_.folder.path(), surroundings_.programFolder); },
+        .database = [this] { return session_.folder.file(kReportDatabaseName); }};
+    auto engine = std::make_unique<QtReportEngine>(places, *browser_, surroundings_.log);
+    if (!surroundings_.engine) return engine;
+    return surroundings_.engine(std::move(engine));
+}
+
+}  // namespace winvrx

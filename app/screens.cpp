@@ -1,0 +1,138 @@
+#include "app/screens.h"
+
+#include "foundation/company_register.h"
+#include "foundation/desktop/empregados_window.h"
+#include "foundation/desktop/empresa_window.h"
+#include "foundation/desktop/qt_text.h"
+#include "foundation/employee_register.h"
+#include "output/card_stock.h"
+#include "output/desktop/cartao_window.h"
+#include "output/desktop/tipo_ponto_window.h"
+#include "timecard/desktop/cartao_ponto_dados_window.h"
+#include "timecard/desktop/data_mes_corrente_window.h"
+#include "timecard/punch_record.h"
+#include "timecard/selected_month.h"
+
+#include <set>
+
+namespace winvrx {
+
+namespace {
+
+QString counted(int count, const QString& one, const QString& many) {
+    return QString::number(count) + QLatin1Char(' ') + (count == 1 ? one : many);
+}
+
+}  // namespace
+
+void Screens::openCompanies(QWidget* parent) {
+    Empresa companies(at_, browser_);
+    EmpresaWindow(companies, parent).exec();
+}
+
+void Screens::openEmployees(QWidget* parent) {
+    Empregados employees(at_, browser_);
+    EmpregadosWindow(employees, parent).exec();
+}
+
+void Screens::openWorkMonth(QWidget* parent) {
+    DataMesCorrente month(at_);
+    month.open();
+    DataMesCorrenteWindow(month, browser_, parent).exec();
+}
+
+void Screens::openTimeCard(QWidget* parent) {
+    CartaoPontoDados card(at_);
+    CartaoPontoDadosWindow(
+        card, browser_, [this](QWidget* over) { openWorkMonth(over); }, parent)
+        .exec();
+}
+
+void Screens::openCards(QWidget* parent, bool preview) {
+    Cartao cards(at_, engine_);
+    cards.choices().output = preview ? ReportOutput::Preview : ReportOutput::Printer;
+    CartaoWindow* opened = nullptr;
+    CartaoWindow window(cards,
+                        {.openStocks = [&] { openStocks(opened); },
+                         .openWorkMonth = [&] { openWorkMonth(opened); }},
+                        parent);
+    opened = &window;
+    window.exec();
+}
+
+void Screens::openStocks(QWidget* parent) {
+    TipoPonto stocks(at_);
+    TipoPontoWindow(stocks, parent).exec();
+}
+
+std::optional<Screens::Progress> Screens::progress() const {
+    if (!at_.session.company) return std::nullopt;
+    try {
+        const DataFolder& folder = at_.session.folder;
+        Progress progress;
+        const auto people =
+            employeesOf(EmployeeRegister(at_.files, folder, *at_.session.company).load(),
+                        at_.session.shiftFilter);
+        progress.employees = static_cast<int>(people.size());
+        if (const auto selected = loadSelectedMonth(at_.files, folder)) {
+            progress.month = selected->month;
+            const auto listed = at_.files.names(folder.path());
+            const std::set<std::string> names(listed.begin(), listed.end());
+            for (const Employee& one : people)
+                if (names.contains(
+                        punchFileName(*at_.session.company, *one.employeeCode(), selected->month)))
+                    ++progress.filledCards;
+        }
+        if (const CardStock* stock = loadStock(at_.files, at_.session))
+            progress.stock = toQt(stock->displayName).trimmed();
+        return progress;
+    } catch (const std::exception& fault) {
+        at_.log.write(std::string("state of the commands: ") + fault.what());
+        return std::nullopt;
+    }
+}
+
+QString Screens::companiesState() const {
+    try {
+        const auto lines = loadCompanies(at_.files, at_.session.folder);
+        return counted(static_cast<int>(lines.size()), QStringLiteral("empresa"),
+                       QStringLiteral("empresas"));
+    } catch (const std::exception& fault) {
+        at_.log.write(std::string("state of the companies: ") + fault.what());
+        return {};
+    }
+}
+
+QString Screens::employeesState() const {
+    const auto now = progress();
+    if (!now) return QStringLiteral("Selecione uma empresa");
+    if (now->employees == 0) return QStringLiteral("Incluir o primeiro");
+    return counted(now->employees, QStringLiteral("funcionário"), QStringLiteral("funcionários"));
+}
+
+QString Screens::monthState() const {
+    const auto now = progress();
+    return now && now->month ? toQt(monthTitle(*now->month)) : QStringLiteral("Escolher o mês");
+}
+
+QString Screens::timeCardState() const {
+    const auto now = progress();
+    if (!now || !now->month) return QStringLiteral("Falta o mês de trabalho");
+    return QStringLiteral("%1 de %2 preenchidos").arg(now->filledCards).arg(now->employees);
+}
+
+QString Screens::stockState() const {
+    const auto now = progress();
+    return now && !now->stock.isEmpty() ? now->stock : QStringLiteral("Escolher o tipo de cartão");
+}
+
+std::optional<MenuCommand> Screens::nextStep() const {
+    const auto now = progress();
+    if (!now) return std::nullopt;
+    if (now->employees == 0) return MenuCommand::Employees;
+    if (!now->month) return MenuCommand::WorkMonth;
+    if (now->filledCards < now->employees) return MenuCommand::TimeCard;
+    return MenuCommand::PrintCards;
+}
+
+}  // namespace winvrx

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "foundation/browser.h"
+#include "foundation/command.h"
+#include "foundation/menu.h"
+#include "output/report_engine.h"
+
+#include <QString>
+
+#include <optional>
+
+class QWidget;
+
+namespace winvrx {
+
+/// Opens the screens of the main window's commands, and says in a line how far each subject is.
+class Screens {
+  public:
+    Screens(const Workplace& at, Browser& browser, ReportEngine& engine)
+        : at_(at), browser_(browser), engine_(engine) {}
+
+    void openCompanies(QWidget* parent);
+    void openEmployees(QWidget* parent);
+    void openWorkMonth(QWidget* parent);
+    void openTimeCard(QWidget* parent);
+    /// `preview`: shows the cards before they are printed.
+    void openCards(QWidget* parent, bool preview);
+    void openStocks(QWidget* parent);
+
+    [[nodiscard]] QString companiesState() const;
+    [[nodiscard]] QString employeesState() const;
+    [[nodiscard]] QString monthState() const;
+    [[nodiscard]] QString timeCardState() const;
+    [[nodiscard]] QString stockState() const;
+
+    /// The first subject that still wants something before cards can be printed.
+    [[nodiscard]] std::optional<MenuCommand> nextStep() const;
+
+  private:
+    struct Progress {
+        int employees = 0;
+        std::optional<WorkMonth> month;
+        int filledCards = 0;
+        QString stock;
+    };
+    /// nullopt when no company is selected or its files cannot be read.
+    [[nodiscard]] std::optional<Progress> progress() const;
+
+    Workplace at_;
+    Browser& browser_;
+    ReportEngine& engine_;
+};
+
+}  // namespace winvrx
