@@ -1,0 +1,45 @@
+#pragma once
+
+#include "output/desktop/card_text.h"
+
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+#include <filesystem>
+
+namespace winvrx {
+
+/// The table `Tabela_base` of the report database: it holds the card in hand, and after a run the
+/// last one. It is scratch data, so speed goes before safety; a damaged file is put aside under
+/// the name "qdb.mdb.old" and made anew.
+///
+/// All functions throw Fault, naming the file.
+class CardTable {
+  public:
+    explicit CardTable(std::filesystem::path database);
+    ~CardTable();
+    CardTable(const CardTable&) = delete;
+    CardTable& operator=(const CardTable&) = delete;
+
+    /// Makes `rows` the table's content and gives back what the table holds then. No other program
+    /// on a shared folder can come between the two.
+    [[nodiscard]] CardText exchange(const std::vector<CardRow>& rows);
+
+  private:
+    void openOrReplace();
+    void open();
+    void close();
+    void makeTable();
+    void run(const QString& statement);
+    void check(bool done, const QSqlQuery& query) const;
+    void write(const std::vector<CardRow>& rows);
+    [[nodiscard]] CardText read();
+
+    std::filesystem::path path_;
+    QString connection_;
+    QSqlDatabase database_;
+    QSqlQuery insert_;
+    QSqlQuery select_;
+};
+
+}  // namespace winvrx

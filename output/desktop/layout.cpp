@@ -1,0 +1,47 @@
+#include "output/desktop/layout.h"
+
+#include "output/desktop/layout_reader.h"
+
+#include <QFile>
+
+namespace winvrx {
+
+namespace {
+
+std::optional<std::filesystem::path> findLayout(const std::vector<std::filesystem::path>& folders,
+                                                const std::string& name) {
+    for (const auto& folder : folders) {
+        std::error_code error;
+        const auto file = folder / name;
+        if (std::filesystem::is_regular_file(file, error)) return file;
+    }
+    return std::nullopt;
+}
+
+std::string listed(const std::vector<std::filesystem::path>& folders) {
+    std::string text;
+    for (const auto& folder : folders) text += (text.empty() ? "" : ", ") + folder.string();
+    return text;
+}
+
+}  // namespace
+
+LayoutFault::LayoutFault(const std::string& file, const std::string& cause)
+    : Fault(file + ": " + cause, "O layout " + file + " não pôde ser aberto.") {}
+
+LayoutFault::LayoutFault(const std::string& file, long long line, const std::string& cause)
+    : Fault(file + ":" + std::to_string(line) + ": " + cause,
+            "O layout " + file + " tem um erro na linha " + std::to_string(line) + ".") {}
+
+Layout loadLayout(const std::vector<std::filesystem::path>& folders, const std::string& name) {
+    if (name.empty() || std::filesystem::path(name).filename() != name)
+        throw LayoutFault(name, "not the name of a layout file");
+    const auto path = findLayout(folders, name);
+    if (!path) throw LayoutFault(name, "not found in " + listed(folders));
+    QFile file(*path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw LayoutFault(path->string(), file.errorString().toStdString());
+    return readLayout(file, path->string());
+}
+
+}  // namespace winvrx

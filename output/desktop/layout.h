@@ -1,0 +1,104 @@
+#pragma once
+
+#include "foundation/faults.h"
+#include "output/report_engine.h"
+
+#include <QColor>
+#include <QLineF>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <variant>
+#include <vector>
+
+// A layout file compiled into draw calls. Lengths are hundredths of a millimetre from the top left
+// corner of the paper, fine enough that whole numbers place a glyph. How a file is written stands
+// in docs/layout-files.md.
+
+namespace winvrx {
+
+inline constexpr double kLayoutUnitsPerMillimetre = 100.0;
+inline constexpr double kLayoutUnitsPerInch = 2540.0;
+inline constexpr double kTwipsPerInch = 1440.0;
+
+/// One way of writing: texts of the same ink are drawn together.
+struct Ink {
+    QStringList families;  ///< in order of preference
+    int size = 0;
+    int weight = 400;
+    bool italic = false;
+    QColor colour;
+
+    [[nodiscard]] bool operator==(const Ink&) const = default;
+};
+
+struct LayoutText {
+    enum class Anchor { Start, Middle, End };
+
+    /// A text as it stands, or a column of the card table.
+    struct Piece {
+        QString literal;
+        std::optional<std::size_t> column;
+    };
+
+    QPointF baseline;
+    Anchor anchor = Anchor::Start;
+    std::size_t ink = 0;
+    std::optional<double> width;      ///< what is longer is squeezed, then cut
+    std::vector<Piece> pieces;
+    std::vector<std::size_t> unless;  ///< drawn only where these columns are blank
+};
+
+/// An invalid colour draws nothing.
+struct LayoutLine {
+    QLineF line;
+    QColor stroke;
+    double strokeWidth = 0;
+};
+
+struct LayoutRect {
+    QRectF area;
+    QColor fill;
+    QColor stroke;
+    double strokeWidth = 0;
+};
+
+using LayoutMark = std::variant<LayoutText, LayoutLine, LayoutRect>;
+
+enum class LayoutBlock {
+    Always,
+    Header,  ///< company and employee, left out when the stock has them pre-printed
+    Stock    ///< the picture of the pre-printed card, shown in the preview window only
+};
+
+struct LayoutSection {
+    LayoutBlock block = LayoutBlock::Always;
+    int rows = 0;      ///< drawn once for each of the card's rows, at most so often; 0: drawn once
+    double pitch = 0;  ///< from one row down to the next
+    std::vector<LayoutMark> marks;
+};
+
+struct Layout {
+    QSizeF page;          ///< millimetres
+    double rowPitch = 0;  ///< what one line of the alignment's line offset moves
+    std::vector<Ink> inks;
+    std::vector<LayoutSection> sections;
+};
+
+/// A layout that is missing or damaged. `what()` reads "tilibcenter.rpt:12: cause".
+class LayoutFault : public Fault {
+  public:
+    LayoutFault(const std::string& file, const std::string& cause);
+    LayoutFault(const std::string& file, long long line, const std::string& cause);
+};
+
+/// The file of that name in the first of the folders that has it. Throws LayoutFault.
+[[nodiscard]] Layout loadLayout(const std::vector<std::filesystem::path>& folders,
+                                const std::string& name);
+
+}  // namespace winvrx
