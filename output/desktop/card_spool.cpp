@@ -15,7 +15,8 @@ void CardSpool::append(const CardText& rows) {
     QDataStream out(&file_);
     out << static_cast<quint32>(rows.size());
     for (const CardTextRow& row : rows)
-        for (const QString& value : row) out << value.toUtf8();
+        for (const QString& value : row)
+            out << value.toUtf8();
     if (out.status() != QDataStream::Ok || !file_.flush()) fail();
     starts_.push_back(end_);
     end_ = file_.pos();

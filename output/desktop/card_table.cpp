@@ -1,5 +1,6 @@
 #include "output/desktop/card_table.h"
 
+#include "foundation/desktop/qt_text.h"
 #include "foundation/faults.h"
 
 #include <QSqlError>
@@ -28,13 +29,10 @@ class TableFault : public Fault {
     bool damaged_;
 };
 
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
 QString columnList() {
     QStringList names;
-    for (const std::string_view column : kCardColumns) names << text(column);
+    for (const std::string_view column : kCardColumns)
+        names << toQt(column);
     return names.join(QStringLiteral(", "));
 }
 
@@ -51,7 +49,9 @@ CardTable::CardTable(std::filesystem::path database)
     }
 }
 
-CardTable::~CardTable() { close(); }
+CardTable::~CardTable() {
+    close();
+}
 
 void CardTable::openOrReplace() {
     try {
@@ -75,13 +75,14 @@ void CardTable::open() {
     const QString places = QStringList(kCardColumns.size(), QStringLiteral("?")).join(u',');
     insert_ = QSqlQuery(database_);
     check(insert_.prepare(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                              .arg(text(kCardTable), columnList(), places)),
+                              .arg(toQt(kCardTable), columnList(), places)),
           insert_);
     select_ = QSqlQuery(database_);
     select_.setForwardOnly(true);
-    check(select_.prepare(QStringLiteral("SELECT %1 FROM %2 ORDER BY rowid")
-                              .arg(columnList(), text(kCardTable))),
-          select_);
+    check(
+        select_.prepare(
+            QStringLiteral("SELECT %1 FROM %2 ORDER BY rowid").arg(columnList(), toQt(kCardTable))),
+        select_);
 }
 
 void CardTable::close() {
@@ -96,13 +97,14 @@ void CardTable::close() {
 void CardTable::makeTable() {
     run(QStringLiteral("BEGIN IMMEDIATE"));
     QSqlQuery columns(database_);
-    check(columns.exec(QStringLiteral("SELECT group_concat(name, ', ') FROM pragma_table_info('%1')")
-                           .arg(text(kCardTable))) &&
-              columns.next(),
-          columns);
+    check(
+        columns.exec(QStringLiteral("SELECT group_concat(name, ', ') FROM pragma_table_info('%1')")
+                         .arg(toQt(kCardTable))) &&
+            columns.next(),
+        columns);
     if (columns.value(0).toString() != columnList()) {
-        run(QStringLiteral("DROP TABLE IF EXISTS %1").arg(text(kCardTable)));
-        run(QStringLiteral("CREATE TABLE %1 (%2)").arg(text(kCardTable), columnList()));
+        run(QStringLiteral("DROP TABLE IF EXISTS %1").arg(toQt(kCardTable)));
+        run(QStringLiteral("CREATE TABLE %1 (%2)").arg(toQt(kCardTable), columnList()));
     }
     columns.finish();
     run(QStringLiteral("COMMIT"));
@@ -131,10 +133,10 @@ CardText CardTable::exchange(const std::vector<CardRow>& rows) {
 }
 
 void CardTable::write(const std::vector<CardRow>& rows) {
-    run(QStringLiteral("DELETE FROM %1").arg(text(kCardTable)));
+    run(QStringLiteral("DELETE FROM %1").arg(toQt(kCardTable)));
     for (const CardRow& row : rows) {
         for (std::size_t i = 0; i < row.size(); ++i)
-            insert_.bindValue(static_cast<int>(i), text(row[i]));
+            insert_.bindValue(static_cast<int>(i), toQt(row[i]));
         check(insert_.exec(), insert_);
     }
 }

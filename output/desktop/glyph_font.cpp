@@ -40,7 +40,8 @@ bool GlyphFont::covers(const QString& text) {
 
 double GlyphFont::widthOf(const QString& text) {
     double width = 0;
-    for (const QChar character : text) width += glyphOf(character).advance;
+    for (const QChar character : text)
+        width += glyphOf(character).advance;
     return width;
 }
 

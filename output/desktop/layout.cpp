@@ -20,7 +20,8 @@ std::optional<std::filesystem::path> findLayout(const std::vector<std::filesyste
 
 std::string listed(const std::vector<std::filesystem::path>& folders) {
     std::string text;
-    for (const auto& folder : folders) text += (text.empty() ? "" : ", ") + folder.string();
+    for (const auto& folder : folders)
+        text += (text.empty() ? "" : ", ") + folder.string();
     return text;
 }
 

@@ -49,7 +49,7 @@ struct LayoutText {
     QPointF baseline;
     Anchor anchor = Anchor::Start;
     std::size_t ink = 0;
-    std::optional<double> width;      ///< what is longer is squeezed, then cut
+    std::optional<double> width;  ///< what is longer is squeezed, then cut
     std::vector<Piece> pieces;
     std::vector<std::size_t> unless;  ///< drawn only where these columns are blank
 };

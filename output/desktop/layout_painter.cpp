@@ -36,7 +36,8 @@ bool isLeftOut(const LayoutText& text, const CardTextRow& row) {
 /// Cuts `text`, an ellipsis at its end, until `widthOf` it is at most `width`.
 template <typename Measure>
 void cut(QString& text, double width, Measure widthOf) {
-    while (!text.isEmpty() && widthOf(text + u'…') > width) text.chop(1);
+    while (!text.isEmpty() && widthOf(text + u'…') > width)
+        text.chop(1);
     text += u'…';
 }
 
@@ -57,7 +58,8 @@ LayoutPainter::LayoutPainter(Layout layout, const Choice& choice)
       choice_(choice),
       shift_(shiftOf(choice.alignment, layout_.rowPitch)),
       runs_(layout_.inks.size()) {
-    for (const Ink& ink : layout_.inks) fonts_.push_back(std::make_unique<GlyphFont>(ink));
+    for (const Ink& ink : layout_.inks)
+        fonts_.push_back(std::make_unique<GlyphFont>(ink));
 }
 
 LayoutPainter::~LayoutPainter() = default;
@@ -81,7 +83,8 @@ void LayoutPainter::paintSection(QPainter& painter, const LayoutSection& section
         const auto position = static_cast<std::size_t>(i);
         const CardTextRow& row = position < rows.size() ? rows[position] : kNoRow;
         const QPointF shift = origin + QPointF(0, i * section.pitch);
-        for (const LayoutMark& mark : section.marks) paintMark(painter, mark, row, shift);
+        for (const LayoutMark& mark : section.marks)
+            paintMark(painter, mark, row, shift);
     }
 }
 
@@ -119,8 +122,7 @@ void LayoutPainter::write(QPainter& painter, const LayoutText& text, const CardT
         width = widthOf(written_);
     }
     const double squeeze = width > room ? room / width : 1.0;
-    const QPointF start =
-        text.baseline + shift + QPointF(startOf(text.anchor, width * squeeze), 0);
+    const QPointF start = text.baseline + shift + QPointF(startOf(text.anchor, width * squeeze), 0);
     if (covered && squeeze == 1.0)
         writeGlyphs(text.ink, written_, start);
     else

@@ -63,7 +63,8 @@ class LayoutReader {
         if (layout_.rowPitch == 0)
             throw BadValue(QStringLiteral(
                 "no group with data-rows and data-pitch, and no data-pitch on the svg element"));
-        while (!xml_.atEnd()) xml_.readNext();
+        while (!xml_.atEnd())
+            xml_.readNext();
     }
 
     void readPage(const ElementValues& values, Context& context) {

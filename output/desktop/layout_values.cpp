@@ -113,14 +113,16 @@ std::vector<double> numberList(const QString& text) {
 
 std::size_t columnNamed(const QString& name) {
     const auto found = std::ranges::find(kCardColumns, name.toStdString());
-    if (found == kCardColumns.end()) throw BadValue(QStringLiteral("unknown field \"%1\"").arg(name));
+    if (found == kCardColumns.end())
+        throw BadValue(QStringLiteral("unknown field \"%1\"").arg(name));
     return static_cast<std::size_t>(found - kCardColumns.begin());
 }
 
 std::vector<std::size_t> columnsNamed(const QString& names) {
     std::vector<std::size_t> columns;
     const QStringList parts = words(names);
-    for (const QString& name : parts) columns.push_back(columnNamed(name));
+    for (const QString& name : parts)
+        columns.push_back(columnNamed(name));
     return columns;
 }
 

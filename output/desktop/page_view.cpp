@@ -1,0 +1,51 @@
+#include "output/desktop/page_view.h"
+
+#include "output/desktop/layout_painter.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+constexpr double kMillimetresPerInch = kLayoutUnitsPerInch / kLayoutUnitsPerMillimetre;
+
+}  // namespace
+
+PageView::PageView(LayoutPainter& painter, QWidget* parent) : QWidget(parent), painter_(painter) {
+    setAccessibleName(QStringLiteral("Folha"));
+    setZoom(1);
+}
+
+void PageView::showCard(CardText rows) {
+    rows_ = std::move(rows);
+    update();
+}
+
+void PageView::setZoom(double zoom) {
+    zoom_ = zoom;
+    setFixedSize((realSize() * zoom_).toSize());
+}
+
+double PageView::zoomToFit(QSize room) const {
+    const QSizeF real = realSize();
+    return std::min(room.width() / real.width(), room.height() / real.height());
+}
+
+QSizeF PageView::realSize() const {
+    return painter_.layout().page * logicalDpiX() / kMillimetresPerInch;
+}
+
+/// Paper is white and ink is black whatever the palette.
+void PageView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    const double scale = layoutScale(logicalDpiX()) * zoom_;
+    painter.scale(scale, scale);
+    painter_.paint(painter, rows_);
+}
+
+}  // namespace winvrx

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "output/desktop/card_text.h"
+
+#include <QWidget>
+
+namespace winvrx {
+
+class LayoutPainter;
+
+/// A sheet of paper on the screen, painted by the same code as paper and PDF.
+class PageView : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// `painter` outlives the view.
+    explicit PageView(LayoutPainter& painter, QWidget* parent = nullptr);
+
+    void showCard(CardText rows);
+    /// 1 shows the sheet in its real size.
+    void setZoom(double zoom);
+    /// The zoom at which the whole sheet fits into `room`.
+    [[nodiscard]] double zoomToFit(QSize room) const;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    [[nodiscard]] QSizeF realSize() const;
+
+    LayoutPainter& painter_;
+    CardText rows_;
+    double zoom_ = 1;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "foundation/desktop/screen_window.h"
+
+class QScrollArea;
+
+namespace winvrx {
+
+class CardSpool;
+class LayoutPainter;
+class PageView;
+
+/// The pages of a run, shown before they are printed. A page is painted when it is looked at.
+class PreviewWindow : public ScreenWindow {
+    Q_OBJECT
+
+  public:
+    /// `cards` holds one card or more; it and `painter` outlive the window.
+    PreviewWindow(const QString& title, LayoutPainter& painter, CardSpool& cards, QWidget* parent);
+
+    /// Says in the state bar what became of a command.
+    void tell(const QString& text);
+
+  signals:
+    void printRequested();
+    /// The operator chose this file.
+    void pdfRequested(const QString& path);
+
+  protected:
+    void wheelEvent(QWheelEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+  private:
+    void buildPageCommands();
+    void buildZoomCommands();
+    void buildOutputCommands();
+    QWidget* buildBody(LayoutPainter& painter);
+    QToolButton* command(const char* icon, const QString& text, const QKeySequence& key,
+                         const char* name);
+    void showPage(int page);
+    void zoomBy(int steps);
+    void zoomToPage();
+    void showZoom();
+    void choosePdf();
+
+    CardSpool& cards_;
+    PageView* view_;
+    QScrollArea* scroll_;
+    QToolButton* previous_ = nullptr;
+    QToolButton* next_ = nullptr;
+    int page_ = 0;
+    double zoom_ = 1;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,155 @@
+#include "output/desktop/qt_report_engine.h"
+
+#include "foundation/browser.h"
+#include "foundation/desktop/qt_text.h"
+#include "foundation/log.h"
+#include "output/desktop/card_spool.h"
+#include "output/desktop/card_table.h"
+#include "output/desktop/layout.h"
+#include "output/desktop/layout_painter.h"
+#include "output/desktop/preview_window.h"
+#include "output/desktop/report_device.h"
+
+#include <QApplication>
+
+#include <exception>
+
+namespace winvrx {
+
+namespace {
+
+/// Carries a fault of the caller's functions past the engine's own catch-all.
+struct CallerFault {
+    std::exception_ptr cause;
+};
+
+template <typename Call>
+auto callBack(Call&& call) {
+    try {
+        return call();
+    } catch (...) {
+        throw CallerFault{std::current_exception()};
+    }
+}
+
+template <typename Place>
+ReportResult forEachPage(const std::function<std::optional<CardText>()>& pages,
+                         const CardProgress& progress, Place place) {
+    int done = 0;
+    while (const auto rows = pages()) {
+        place(*rows);
+        ++done;
+        if (!callBack([&] { return progress(done); })) return ReportResult::Cancelled;
+    }
+    return ReportResult::Done;
+}
+
+ReportResult printPages(const ReportRequest& request, const Layout& layout,
+                        const std::function<std::optional<CardText>()>& pages,
+                        const CardProgress& progress) {
+    if (request.output == ReportOutput::Printer && !hasPrinters()) return ReportResult::NoPrinter;
+    const auto device = openDevice(request, layout.page);
+    LayoutPainter painter(layout, {.header = request.printHeader, .alignment = request.alignment});
+    const ReportResult result = forEachPage(
+        pages, progress, [&](const CardText& rows) { painter.paint(device->nextPage(), rows); });
+    if (result == ReportResult::Done) device->finish();
+    return result;
+}
+
+QString sentence(qsizetype count) {
+    return count == 1 ? QStringLiteral("1 cartão enviado à impressora")
+                      : QStringLiteral("%1 cartões enviados à impressora").arg(count);
+}
+
+}  // namespace
+
+std::vector<std::filesystem::path> layoutFolders(const std::filesystem::path& dataFolder,
+                                                 const std::filesystem::path& programFolder) {
+    return {dataFolder / "layouts", programFolder / "layouts",
+            programFolder / ".." / "share" / "winvrx" / "layouts"};
+}
+
+QtReportEngine::QtReportEngine(Places places, Browser& browser, Log& log)
+    : places_(std::move(places)), browser_(browser), log_(log) {}
+
+ReportResult QtReportEngine::print(const ReportRequest& request, const CardSource& cards,
+                                   const CardProgress& progress) {
+    try {
+        return attempt([&] { return run(request, cards, progress); });
+    } catch (const CallerFault& fault) {
+        std::rethrow_exception(fault.cause);
+    }
+}
+
+ReportResult QtReportEngine::attempt(const std::function<ReportResult()>& run) {
+    try {
+        return run();
+    } catch (const std::exception& fault) {
+        log_.write(std::string("report: ") + fault.what());
+        return ReportResult::Failed;
+    }
+}
+
+ReportResult QtReportEngine::run(const ReportRequest& request, const CardSource& cards,
+                                 const CardProgress& progress) {
+    const Layout layout = loadLayout(places_.layoutFolders(), request.layoutName);
+    CardTable table(places_.database());
+    const Pages pages = [&]() -> std::optional<CardText> {
+        const auto rows = callBack(cards);
+        return rows ? std::optional(table.exchange(*rows)) : std::nullopt;
+    };
+    if (request.output == ReportOutput::Preview) return preview(request, layout, pages, progress);
+    return printPages(request, layout, pages, progress);
+}
+
+ReportResult QtReportEngine::preview(const ReportRequest& request, const Layout& layout,
+                                     const Pages& pages, const CardProgress& progress) {
+    CardSpool spool;
+    const ReportResult gathered =
+        forEachPage(pages, progress, [&](const CardText& rows) { spool.append(rows); });
+    if (gathered != ReportResult::Done || spool.size() == 0) return gathered;
+    LayoutPainter painter(
+        layout, {.header = request.printHeader, .stock = true, .alignment = request.alignment});
+    PreviewWindow window(toQt(request.title), painter, spool, QApplication::activeWindow());
+    ReportResult result = ReportResult::Done;
+    connectCommands(window, request, layout, spool, result);
+    window.exec();
+    return result;
+}
+
+/// A print that fails closes the preview, so that the caller tells it in the system's words.
+void QtReportEngine::connectCommands(PreviewWindow& window, const ReportRequest& request,
+                                     const Layout& layout, CardSpool& spool, ReportResult& result) {
+    QObject::connect(&window, &PreviewWindow::printRequested, &window, [&] {
+        ReportRequest toPrinter = request;
+        toPrinter.output = ReportOutput::Printer;
+        result = printSpool(toPrinter, layout, spool);
+        if (result == ReportResult::Done)
+            window.tell(sentence(static_cast<qsizetype>(spool.size())));
+        else
+            window.accept();
+    });
+    QObject::connect(&window, &PreviewWindow::pdfRequested, &window, [&](const QString& path) {
+        ReportRequest toFile = request;
+        toFile.output = ReportOutput::PdfFile;
+        toFile.pdfPath = path.toStdString();
+        const bool saved = printSpool(toFile, layout, spool) == ReportResult::Done;
+        window.tell(saved ? QStringLiteral("Gravado em %1").arg(path)
+                          : QStringLiteral("⚠ Não foi possível gravar %1").arg(path));
+    });
+    QObject::connect(&window, &PreviewWindow::helpRequested, &window, [&] {
+        if (!browser_.openHelp()) window.tell(QStringLiteral("⚠ Não foi possível abrir a ajuda"));
+    });
+}
+
+ReportResult QtReportEngine::printSpool(ReportRequest request, const Layout& layout,
+                                        CardSpool& spool) {
+    std::size_t next = 0;
+    const Pages pages = [&]() -> std::optional<CardText> {
+        return next < spool.size() ? std::optional(spool.at(next++)) : std::nullopt;
+    };
+    const CardProgress goOn = [](int) { return true; };
+    return attempt([&] { return printPages(request, layout, pages, goOn); });
+}
+
+}  // namespace winvrx
