@@ -1,0 +1,36 @@
+// The program's own start, up to the first painted main window: run by bench_start.
+#include "app/desktop_setup.h"
+#include "app/program.h"
+#include "foundation/desktop/file_log.h"
+#include "foundation/desktop/menu_window.h"
+#include "foundation/desktop/system_clock.h"
+#include "foundation/desktop/system_drives.h"
+
+#include <QApplication>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+struct AlwaysFree final : winvrx::SingleInstance {
+    bool claim() override { return true; }
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    winvrx::setUpDesktop(application);
+    winvrx::FileLog log(QString::fromLocal8Bit(argv[1]) + QStringLiteral("/winvrx.log"));
+    const winvrx::FolderDrives drives(argv[1]);
+    const winvrx::SystemClock clock;
+    AlwaysFree instance;
+    winvrx::Program program(
+        {drives, clock, log, instance, QApplication::applicationDirPath().toStdString()});
+    if (!program.start()) return 1;
+    QApplication::processEvents();
+    std::puts("shown");
+    std::fflush(stdout);
+    std::_Exit(program.window().isVisible() ? 0 : 1);
+}
