@@ -108,6 +108,7 @@ std::filesystem::path Menu::localFolder(char letter) const {
 void Menu::openFolder(char letter) {
     at_.session.folder = DataFolder(letter, localFolder(letter));
     at_.files.makeFolder(at_.session.folder.path());
+    at_.files.removeLeftovers(at_.session.folder.path());
     if (!isShare(programFolder_)) return;
     try {
         const auto share = shareDataFolder(programFolder_);
@@ -115,6 +116,7 @@ void Menu::openFolder(char letter) {
             throw FileFault(FileFault::Operation::List, share,
                             std::make_error_code(std::errc::no_such_file_or_directory));
         at_.files.makeFolder(share);
+        at_.files.removeLeftovers(share);
         at_.session.folder = DataFolder(letter, share);
     } catch (const FileFault& fault) {
         reportFailure(at_, kShareNotFound, fault);

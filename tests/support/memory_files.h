@@ -55,6 +55,8 @@ class MemoryFiles final : public FileSystem {
         folders.insert(folder);
     }
 
+    void removeLeftovers(const std::filesystem::path&) override {}
+
   private:
     void check(FileFault::Operation operation, const std::filesystem::path& file) const {
         const std::string name = file.filename().string();

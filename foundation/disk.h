@@ -1,0 +1,54 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace winvrx {
+
+/// The few operations of an operating system's disk from which safe files are made. What is
+/// written or renamed is lasting only after the flush that follows it: a power cut may undo the
+/// rest, in any order.
+///
+/// Every function throws FileFault.
+class Disk {
+  public:
+    virtual ~Disk() = default;
+
+    /// The file's bytes; nullopt when there is no such file.
+    [[nodiscard]] virtual std::optional<std::string> read(
+        const std::filesystem::path& file) const = 0;
+
+    /// Makes a file with these bytes, or makes them the content of the file that stands. Anything
+    /// may be in the file when this fails.
+    virtual void write(const std::filesystem::path& file, std::string_view bytes) = 0;
+
+    /// Makes the content of these files lasting.
+    virtual void flush(const std::vector<std::filesystem::path>& files) = 0;
+
+    /// Gives `from` the name `to` in one step; a file of that name is gone.
+    virtual void rename(const std::filesystem::path& from, const std::filesystem::path& to) = 0;
+
+    /// False when there was no such file.
+    virtual bool remove(const std::filesystem::path& file) = 0;
+
+    /// Makes what was renamed and removed in the folder lasting.
+    virtual void flushFolder(const std::filesystem::path& folder) = 0;
+
+    [[nodiscard]] virtual bool exists(const std::filesystem::path& path) const = 0;
+
+    /// Names of the files in `folder`; none when there is no such folder.
+    [[nodiscard]] virtual std::vector<std::string> names(
+        const std::filesystem::path& folder) const = 0;
+
+    /// Makes the folder and its parents; nothing to do when it stands.
+    virtual void makeFolder(const std::filesystem::path& folder) = 0;
+};
+
+/// The disk of this computer.
+[[nodiscard]] std::unique_ptr<Disk> systemDisk();
+
+}  // namespace winvrx

@@ -1,0 +1,116 @@
+#include "foundation/faults.h"
+#include "foundation/standard_folders.h"
+
+#include <algorithm>
+#include <array>
+
+#define NOMINMAX
+#include <windows.h>
+
+namespace winvrx {
+
+namespace {
+
+using Operation = FileFault::Operation;
+using std::filesystem::path;
+
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr std::size_t kLargestPiece = 1U << 30U;
+
+[[noreturn]] void fail(Operation operation, const path& file, DWORD error = ::GetLastError()) {
+    throw FileFault(operation, file,
+                    std::error_code(static_cast<int>(error), std::system_category()));
+}
+
+bool isMissing(DWORD error) {
+    return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+}
+
+class Handle {
+  public:
+    Handle(const path& file, DWORD access, DWORD disposition)
+        : handle_(::CreateFileW(file.c_str(), access, kShareAll, nullptr, disposition,
+                                FILE_ATTRIBUTE_NORMAL, nullptr)) {}
+    ~Handle() {
+        if (open()) ::CloseHandle(handle_);
+    }
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+
+    [[nodiscard]] bool open() const { return handle_ != INVALID_HANDLE_VALUE; }
+    [[nodiscard]] HANDLE get() const { return handle_; }
+
+  private:
+    HANDLE handle_;
+};
+
+class WindowsDisk final : public StandardFolders {
+  public:
+    [[nodiscard]] std::optional<std::string> read(const path& file) const override {
+        const Handle in(file, GENERIC_READ, OPEN_EXISTING);
+        if (!in.open()) {
+            if (isMissing(::GetLastError())) return std::nullopt;
+            fail(Operation::Read, file);
+        }
+        std::string bytes;
+        std::array<char, 65536> chunk;
+        DWORD count = 0;
+        do {
+            if (!::ReadFile(in.get(), chunk.data(), static_cast<DWORD>(chunk.size()), &count,
+                            nullptr))
+                fail(Operation::Read, file);
+            bytes.append(chunk.data(), count);
+        } while (count > 0);
+        return bytes;
+    }
+
+    void write(const path& file, std::string_view bytes) override {
+        const Handle out(file, GENERIC_WRITE, CREATE_ALWAYS);
+        if (!out.open()) fail(Operation::Write, file);
+        while (!bytes.empty()) {
+            DWORD count = 0;
+            const auto piece = static_cast<DWORD>(std::min(bytes.size(), kLargestPiece));
+            if (!::WriteFile(out.get(), bytes.data(), piece, &count, nullptr))
+                fail(Operation::Write, file);
+            bytes.remove_prefix(count);
+        }
+    }
+
+    void flush(const std::vector<path>& files) override {
+        for (const path& file : files) {
+            const Handle handle(file, GENERIC_WRITE, OPEN_EXISTING);
+            if (!handle.open() || !::FlushFileBuffers(handle.get())) fail(Operation::Write, file);
+        }
+    }
+
+    /// Written through: the new name lasts when this returns.
+    void rename(const path& from, const path& to) override {
+        if (!::MoveFileExW(from.c_str(), to.c_str(),
+                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            fail(Operation::Write, to);
+    }
+
+    bool remove(const path& file) override {
+        if (::DeleteFileW(file.c_str())) return true;
+        if (!isMissing(::GetLastError())) fail(Operation::Remove, file);
+        return false;
+    }
+
+    /// Windows has no flush of a folder: renames are written through, and its file systems keep
+    /// removals in their journal.
+    void flushFolder(const path&) override {}
+
+    [[nodiscard]] bool exists(const path& file) const override {
+        if (::GetFileAttributesW(file.c_str()) != INVALID_FILE_ATTRIBUTES) return true;
+        if (!isMissing(::GetLastError())) fail(Operation::Read, file);
+        return false;
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<Disk> systemDisk() {
+    return std::make_unique<WindowsDisk>();
+}
+
+}  // namespace winvrx
