@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <array>
 
+#ifndef NOMINMAX
 #define NOMINMAX
+#endif
 #include <windows.h>
 
 namespace winvrx {
