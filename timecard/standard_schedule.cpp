@@ -31,6 +31,7 @@ constexpr Column kSaturdayFlag{21, 1};
 constexpr Column kSecondFlag{22, 1};
 constexpr Column kOpaque{43, 150};
 
+static_assert(kTimeFields.size() == kScheduleTimes);
 static_assert(kTimeFields[3].column.end() == kSaturdayFlag.start);
 static_assert(kSaturdayFlag.end() == kSecondFlag.start);
 static_assert(kSecondFlag.end() == kTimeFields[4].column.start);
@@ -57,6 +58,16 @@ RecordFile recordOf(FileSystem& files, const DataFolder& folder, const CompanyCo
 }
 
 }  // namespace
+
+std::optional<TimeOfDay>& timeAt(StandardSchedule& schedule, std::size_t position) {
+    const TimeField& field = kTimeFields.at(position);
+    return schedule.*field.day.*field.pair.*field.time;
+}
+
+const std::optional<TimeOfDay>& timeAt(const StandardSchedule& schedule, std::size_t position) {
+    const TimeField& field = kTimeFields.at(position);
+    return schedule.*field.day.*field.pair.*field.time;
+}
 
 std::optional<TimeOfDay> parseTypedTime(std::string_view text) {
     const std::size_t separator = text.find_first_of(kSeparators);

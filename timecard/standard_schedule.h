@@ -42,6 +42,14 @@ struct StandardSchedule {
 
 inline constexpr std::size_t kScheduleWidth = 192;
 
+/// The eight times in the order of the panel: Monday to Friday's morning entry, morning exit,
+/// afternoon entry and afternoon exit, then Saturday's.
+inline constexpr std::size_t kScheduleTimes = 8;
+inline constexpr std::size_t kFirstSaturdayTime = 4;
+[[nodiscard]] std::optional<TimeOfDay>& timeAt(StandardSchedule& schedule, std::size_t position);
+[[nodiscard]] const std::optional<TimeOfDay>& timeAt(const StandardSchedule& schedule,
+                                                     std::size_t position);
+
 /// A time as hands write it, "8", "800", "8:0", "8,30" or "08:00"; nullopt for anything else, the
 /// blank included.
 [[nodiscard]] std::optional<TimeOfDay> parseTypedTime(std::string_view text);

@@ -1,0 +1,167 @@
+#include "timecard/data_mes_corrente.h"
+
+#include "tests/support/test_workplace.h"
+#include "timecard/selected_month.h"
+
+#include <gmock/gmock.h>
+
+namespace winvrx {
+namespace {
+
+using ::testing::ElementsAre;
+using testing::TestWorkplace;
+using namespace std::chrono_literals;
+
+const std::string kMarch = "03-2024ds.rdx";
+
+/// The screen as it opens at the desk of 15/03/2024.
+struct MonthScreen : ::testing::Test {
+    TestWorkplace desk;
+    DataMesCorrente screen{desk.at};
+
+    void SetUp() override { screen.open(); }
+    void tick(const char* date) { screen.tick(*parseDate(date), true); }
+};
+
+const MonthNumberField& fieldOf(std::string MonthNumbers::*typed) {
+    for (const MonthNumberField& field : kMonthNumberFields)
+        if (field.typed == typed) return field;
+    throw std::logic_error("no such field");
+}
+
+TEST_F(MonthScreen, OpensOnTheSelectedMonthElseOnThePresentOne) {
+    EXPECT_EQ(screen.settings().month, 2024y / 3);
+    saveSelectedMonth(desk.files, desk.session.folder, {2023y / 12, ShiftFilter::Todos});
+    screen.open();
+    EXPECT_EQ(screen.monthCaption(), "DEZEMBRO/2023");
+    EXPECT_EQ(screen.holidayHeading(), "Selecione os feriados no mês de: DEZEMBRO/2023");
+}
+
+TEST_F(MonthScreen, ReferenceGoesRoundAndNamesItself) {
+    std::vector<std::string> captions;
+    for (int i = 0; i < 4; ++i) {
+        captions.emplace_back(screen.referenceCaption());
+        ASSERT_TRUE(screen.chooseNextReference());
+    }
+    EXPECT_THAT(captions,
+                ElementsAre("Referente ao Mês: Atual", "Referente ao Mês: Atual ao Posterior",
+                            "Referente ao Mês: Anterior ao Atual", "Referente ao Mês: Atual"));
+}
+
+TEST_F(MonthScreen, GridShowsTheDaysOfTheMonthOnly) {
+    struct Case {
+        WorkMonth month;
+        std::size_t first;
+        std::size_t last;
+    };
+    for (const Case& c : {Case{2026y / 2, 0, 27}, Case{2024y / 6, 6, 35}, Case{2024y / 2, 4, 32}}) {
+        ASSERT_TRUE(screen.chooseMonth(c.month));
+        for (std::size_t cell = 0; cell < kHolidayCells; ++cell)
+            EXPECT_EQ(screen.dateOfCell(cell).has_value(), cell >= c.first && cell <= c.last)
+                << monthKey(c.month) << " cell " << cell;
+        EXPECT_EQ(screen.dateOfCell(c.last), lastDay(c.month));
+    }
+}
+
+TEST_F(MonthScreen, CaptionOfThePercentageFollowsSwitchAndNumbers) {
+    EXPECT_EQ(screen.differentiatedCaption(),
+              "Usar Percentual de Horas Extras Diárias Normais de 50% até 2 hs. Acima de 2 hs será "
+              "de 100%.");
+    screen.setDifferentiatedPercent(true);
+    screen.type(fieldOf(&MonthNumbers::minimumPercent), "60");
+    screen.type(fieldOf(&MonthNumbers::thresholdHours), "3");
+    EXPECT_EQ(screen.differentiatedCaption(),
+              "Ativado o uso de Percentual de Horas Extras Diárias Normais Diferenciado. Será de "
+              "60% até 3 hs Extras diárias. Acima de 3 hs Extras será de 100%.");
+    screen.setDifferentiatedPercent(false);
+    EXPECT_EQ(screen.differentiatedCaption(),
+              "Desativado o uso de Percentual de Horas Extras Diárias Normais Diferenciado");
+    screen.setMode(OvertimeMode::SingleLevel);
+    screen.type(fieldOf(&MonthNumbers::maximumPercent), "120");
+    EXPECT_EQ(screen.modeNotice(),
+              "Usar Somente 1 (um) Único Percentual de Horas Extras para 120%");
+}
+
+TEST_F(MonthScreen, RecordsAndConfirms) {
+    tick("29/03/2024");
+    screen.type(fieldOf(&MonthNumbers::nightMaximumPercent), " 130 ");
+    screen.setTotalsFormat(TotalsFormat::DecimalHours);
+    EXPECT_TRUE(screen.changed());
+    EXPECT_TRUE(screen.record());
+    EXPECT_FALSE(screen.changed());
+    EXPECT_FALSE(desk.files.content.contains("/data/DataIde.ivc"));
+    const auto written = loadMonthSettings(desk.files, desk.session.folder, 2024y / 3);
+    EXPECT_THAT(written.holidays(), ElementsAre(*parseDate("29/03/2024")));
+    EXPECT_EQ(written.nightMaximumPercent, 130);
+    EXPECT_EQ(written.totalsFormat, TotalsFormat::DecimalHours);
+
+    desk.session.shiftFilter = ShiftFilter::Tres;
+    EXPECT_TRUE(screen.confirm());
+    EXPECT_EQ(desk.file("DataIde.ivc"), "03-2024\r\nTres\r\n");
+    EXPECT_TRUE(desk.person.shown.empty());
+}
+
+TEST_F(MonthScreen, ANumberOutOfRangeIsRefusedAndNothingIsWritten) {
+    ASSERT_TRUE(screen.confirm());
+    const auto before = desk.files.content;
+    for (const MonthNumberField& field : kMonthNumberFields) {
+        const std::string good = screen.numbers().*field.typed;
+        for (const char* typed : {"", "abc", "5,5", "-1", "1000", "50%", "99999999999999"}) {
+            screen.type(field, typed);
+            EXPECT_FALSE(screen.findingOf(field).empty()) << typed;
+            EXPECT_FALSE(screen.confirm()) << field.caption << typed;
+            ASSERT_EQ(desk.person.shown.size(), 1U);
+            const Message& refusal = desk.person.shown.back();
+            EXPECT_EQ(refusal.title, "Erro");
+            EXPECT_EQ(refusal.text, "Dados incorretos!");
+            EXPECT_THAT(refusal.detail, ::testing::HasSubstr(": informe um número de "));
+            desk.person.shown.clear();
+        }
+        screen.type(field, good);
+        EXPECT_EQ(screen.findingOf(field), "");
+    }
+    EXPECT_EQ(desk.files.content, before);
+}
+
+TEST_F(MonthScreen, WithoutGravacaoTheTicksOnRecordStay) {
+    tick("29/03/2024");
+    ASSERT_TRUE(screen.record());
+    screen.clearTicks();
+    EXPECT_EQ(screen.counts().restDays, 5);
+    screen.setRecordTicks(false);
+    ASSERT_TRUE(screen.record());
+    EXPECT_FALSE(screen.changed());
+    screen.restoreTicks();
+    EXPECT_THAT(screen.settings().holidays(), ElementsAre(*parseDate("29/03/2024")));
+    screen.setRecordTicks(true);
+    screen.clearTicks();
+    ASSERT_TRUE(screen.record());
+    EXPECT_THAT(loadMonthSettings(desk.files, desk.session.folder, 2024y / 3).holidays(),
+                ::testing::IsEmpty());
+}
+
+TEST_F(MonthScreen, ChangesAreGivenUpOnlyWhenTheOperatorSaysSo) {
+    tick("29/03/2024");
+    EXPECT_FALSE(screen.chooseMonth(2024y / 4));
+    EXPECT_EQ(screen.settings().month, 2024y / 3);
+    EXPECT_FALSE(screen.mayLeave());
+    desk.person.answers = {Answer::Yes};
+    EXPECT_TRUE(screen.chooseMonth(2024y / 4));
+    EXPECT_EQ(screen.settings().month, 2024y / 4);
+    EXPECT_TRUE(desk.files.content.empty());
+}
+
+TEST_F(MonthScreen, AFailingDiskIsToldAndTheScreenKeepsItsChanges) {
+    desk.file(kMarch) = "";
+    screen.open();
+    tick("29/03/2024");
+    desk.files.failOn = {kMarch};
+    EXPECT_FALSE(screen.record());
+    EXPECT_THAT(desk.person.takeTexts(), ElementsAre("Dados incorretos!"));
+    EXPECT_EQ(desk.log.entries.size(), 1U);
+    EXPECT_TRUE(screen.changed());
+    EXPECT_EQ(desk.file(kMarch), "");
+}
+
+}  // namespace
+}  // namespace winvrx

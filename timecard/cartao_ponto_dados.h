@@ -1,0 +1,92 @@
+#pragma once
+
+#include "foundation/command.h"
+#include "foundation/employee_register.h"
+#include "timecard/card_sheet.h"
+#include "timecard/month_settings.h"
+#include "timecard/typed_schedule.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace winvrx {
+
+/// What a day is by the calendar and its situation.
+enum class DayKind { Work, Holiday, WeeklyRest, Leave, Absence };
+
+/// The situations that the grid offers; any other text may be typed.
+inline constexpr std::array kOfferedSituations = {kSituationAbsence, kSituationUnjustified,
+                                                  kSituationHoliday, kSituationWeeklyRest};
+
+/// The time-card data screen: the standard schedule of each employee of the selected company and
+/// the punches of the work month.
+///
+/// Holds the employee list and the card of the employee chosen. A refusal or a failure leaves every
+/// record as it was, and what was typed stays on the screen.
+class CartaoPontoDados {
+  public:
+    explicit CartaoPontoDados(const Workplace& at);
+
+    /// Loads the work month and the list, filtered as the month was chosen; the card of the
+    /// employee chosen before stays chosen if the list has it. False when no company or no month is
+    /// chosen.
+    [[nodiscard]] bool open();
+    /// The company that the list belongs to.
+    [[nodiscard]] const std::optional<CompanyCode>& company() const { return company_; }
+    [[nodiscard]] const MonthSettings& settings() const { return settings_; }
+    [[nodiscard]] ShiftFilter filter() const { return filter_; }
+    /// False when the operator keeps unrecorded changes.
+    [[nodiscard]] bool filterBy(ShiftFilter filter);
+    [[nodiscard]] const std::vector<Employee>& employees() const { return employees_; }
+
+    /// Loads the card of the employee at `position` of the list. False when the operator stays with
+    /// unrecorded changes, or it cannot be read.
+    [[nodiscard]] bool select(std::size_t position);
+    [[nodiscard]] std::optional<std::size_t> selectedPosition() const { return position_; }
+    /// nullptr when none is selected.
+    [[nodiscard]] const Employee* selected() const;
+
+    [[nodiscard]] TypedSchedule& schedule() { return schedule_; }
+    [[nodiscard]] std::string weeklyCaption() const;   ///< "44,0 HORAS SEMANAIS"
+    [[nodiscard]] std::string monthlyCaption() const;  ///< "220,0 HORAS MENSAIS"
+    [[nodiscard]] std::string_view saturdayCaption() const;
+    [[nodiscard]] bool saveSchedule();
+
+    /// True when the employee has a punch record for the month.
+    [[nodiscard]] bool applied() const { return applied_; }
+    /// "Aplicar Ponto": fills the month from the standard schedule.
+    [[nodiscard]] bool applyPunches();
+
+    [[nodiscard]] CardSheet& sheet() { return sheet_; }
+    [[nodiscard]] const CardSheet& sheet() const { return sheet_; }
+    [[nodiscard]] DayKind kindOf(int day) const;
+    /// What was worked on the day, in the month's format; empty for a day without worked time.
+    [[nodiscard]] std::string totalOf(int day) const;
+    [[nodiscard]] std::string totalOf(HalfMonth half) const;
+    [[nodiscard]] bool savePunches();
+
+    [[nodiscard]] bool changed() const { return schedule_.changed() || sheet_.changed(); }
+    /// Asks whether unrecorded changes are to be recorded. True when the screen may go on to
+    /// something else: they are recorded or given up.
+    [[nodiscard]] bool mayLeave();
+
+  private:
+    void loadList(const CompanyCode& company, const MonthSettings& settings, ShiftFilter filter);
+    void loadCard(std::size_t position);
+    [[nodiscard]] bool requireSelection();
+    [[nodiscard]] bool passesApplicationChecks();
+    [[nodiscard]] EmployeeCode selectedCode() const;
+
+    Workplace at_;
+    std::optional<CompanyCode> company_;
+    MonthSettings settings_;
+    ShiftFilter filter_ = ShiftFilter::Todos;
+    std::vector<Employee> employees_;
+    std::optional<std::size_t> position_;
+    TypedSchedule schedule_;
+    CardSheet sheet_;
+    bool applied_ = false;
+};
+
+}  // namespace winvrx

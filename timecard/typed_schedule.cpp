@@ -1,0 +1,38 @@
+#include "timecard/typed_schedule.h"
+
+#include "foundation/text.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+TypedSchedule::TypedSchedule(const StandardSchedule& recorded) : recorded_(recorded) {
+    for (std::size_t position = 0; position < kScheduleTimes; ++position)
+        if (const auto& time = timeAt(recorded_, position)) texts_[position] = timeText(*time);
+}
+
+void TypedSchedule::type(std::size_t position, std::string_view text) {
+    const std::string_view typed = trimmed(text);
+    const auto time = parseTypedTime(typed);
+    texts_.at(position) = time ? timeText(*time) : std::string(typed);
+}
+
+std::string TypedSchedule::findingAt(std::size_t position) const {
+    const std::string& typed = texts_.at(position);
+    if (typed.empty() || parseTypedTime(typed)) return {};
+    return "\"" + typed + "\" não é uma hora de 00:00 a 23:59.";
+}
+
+bool TypedSchedule::hasSaturdayTimes() const {
+    return std::any_of(texts_.begin() + kFirstSaturdayTime, texts_.end(),
+                       [](const std::string& text) { return !text.empty(); });
+}
+
+StandardSchedule TypedSchedule::schedule() const {
+    StandardSchedule schedule = recorded_;
+    for (std::size_t position = 0; position < kScheduleTimes; ++position)
+        timeAt(schedule, position) = parseTypedTime(texts_[position]);
+    return schedule;
+}
+
+}  // namespace winvrx

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "timecard/standard_schedule.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace winvrx {
+
+/// The schedule panel: an employee's standard schedule as recorded, and its eight times as typed.
+class TypedSchedule {
+  public:
+    TypedSchedule() = default;
+    explicit TypedSchedule(const StandardSchedule& recorded);
+
+    /// Positions as `timeAt` counts them.
+    [[nodiscard]] const std::string& text(std::size_t position) const { return texts_[position]; }
+    /// Takes what was typed, brought to "hh:mm" when it is a time.
+    void type(std::size_t position, std::string_view text);
+    /// Why a time as typed cannot be recorded, in one sentence; empty when it can.
+    [[nodiscard]] std::string findingAt(std::size_t position) const;
+
+    [[nodiscard]] bool hasSaturdayTimes() const;
+    [[nodiscard]] bool saturdayIsNormal() const { return recorded_.saturdayIsNormal; }
+
+    [[nodiscard]] bool changed() const { return texts_ != TypedSchedule(recorded_).texts_; }
+    /// The recorded schedule with the typed times; what is no time counts as empty.
+    [[nodiscard]] StandardSchedule schedule() const;
+    [[nodiscard]] const StandardSchedule& recorded() const { return recorded_; }
+
+  private:
+    StandardSchedule recorded_;
+    std::array<std::string, kScheduleTimes> texts_;
+};
+
+}  // namespace winvrx
