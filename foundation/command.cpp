@@ -6,6 +6,11 @@ Message incorrectData() {
     return {"Erro", "Dados incorretos!", Icon::Critical};
 }
 
+Message discardTyped() {
+    return {"Aviso", "Há dados digitados que não foram gravados. Deseja descartá-los?",
+            Icon::Exclamation, Buttons::YesNo};
+}
+
 void reportFailure(const Workplace& at, Message message, const std::exception& fault) {
     at.log.write(message.title + ": " + message.text + " " + fault.what());
     message.detail = explanationOf(fault);

@@ -23,6 +23,10 @@ struct Workplace {
 /// "Dados incorretos!" titled "Erro", the answer of most commands to a failure.
 [[nodiscard]] Message incorrectData();
 
+/// "Há dados digitados que não foram gravados. Deseja descartá-los?", asked before typed text is
+/// left behind.
+[[nodiscard]] Message discardTyped();
+
 /// Logs the cause and tells the operator `message` with one sentence on what happened.
 void reportFailure(const Workplace& at, Message message, const std::exception& fault);
 

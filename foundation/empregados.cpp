@@ -1,9 +1,9 @@
 #include "foundation/empregados.h"
 
+#include "foundation/company_register.h"
 #include "foundation/text.h"
 
 #include <algorithm>
-#include <array>
 
 namespace winvrx {
 
@@ -22,9 +22,6 @@ const Message kConfirmDelete{"EXCLUSÃO",
                              Icon::Exclamation, Buttons::YesNo};
 const Message kHelpFailed{"Erro", "Ocorreu Erro", Icon::Exclamation};
 
-constexpr std::array kRequired = {&Employee::code, &Employee::name, &Employee::admission,
-                                  &Employee::shift, &Employee::scale};
-
 Message withDetail(Message message, std::string detail) {
     message.detail = std::move(detail);
     return message;
@@ -34,9 +31,7 @@ Message withDetail(Message message, std::string detail) {
 std::string missingFields(const Employee& typed) {
     std::string missing;
     for (const EmployeeField& field : kEmployeeFields) {
-        const bool required =
-            std::find(kRequired.begin(), kRequired.end(), field.member) != kRequired.end();
-        if (!required || !trimmed(typed.*field.member).empty()) continue;
+        if (!isRequired(field.member) || !trimmed(typed.*field.member).empty()) continue;
         missing.append(missing.empty() ? "" : ", ").append(field.caption);
     }
     return missing;
@@ -65,12 +60,25 @@ bool bears(const std::vector<EmployeeLine>& lines, const std::optional<EmployeeC
                        [&](const EmployeeLine& line) { return line.code() == code; });
 }
 
+std::string titleOf(const std::vector<CompanyLine>& companies,
+                    const std::optional<CompanyCode>& code) {
+    for (const CompanyLine& line : companies)
+        if (code && line.code() == code) return code->text() + " " + line.company.name;
+    return {};
+}
+
 }  // namespace
+
+bool isRequired(std::string Employee::*field) {
+    return std::find(kRequiredEmployeeFields.begin(), kRequiredEmployeeFields.end(), field) !=
+           kRequiredEmployeeFields.end();
+}
 
 Empregados::Empregados(const Workplace& at, Browser& browser) : at_(at), browser_(browser) {}
 
 void Empregados::load() {
     (void)attempt(at_, incorrectData(), [this] {
+        companyTitle_ = titleOf(loadCompanies(at_.files, at_.session.folder), at_.session.company);
         lines_ = at_.session.company ? employeeRegister().load() : std::vector<EmployeeLine>();
         return true;
     });
@@ -123,6 +131,10 @@ bool Empregados::remove(std::size_t position) {
         save(std::move(lines));
         return true;
     });
+}
+
+bool Empregados::mayDiscardTyped() {
+    return at_.person.agrees(discardTyped());
 }
 
 void Empregados::help() {

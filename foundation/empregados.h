@@ -4,7 +4,9 @@
 #include "foundation/command.h"
 #include "foundation/employee_register.h"
 
+#include <array>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -15,6 +17,12 @@ inline constexpr std::string_view kEmployeeListTitle = "LISTA DE FUNCIONARIOS";
 inline constexpr std::string_view kShiftListTitle = "TURNOS";
 inline constexpr std::string_view kScaleListTitle = "ESCALS";
 inline constexpr std::string_view kScaleBoxTitle = "Escala - Turno - Horario";
+
+/// What an employee cannot be recorded without.
+inline constexpr std::array kRequiredEmployeeFields = {
+    &Employee::code, &Employee::name, &Employee::admission, &Employee::shift, &Employee::scale};
+
+[[nodiscard]] bool isRequired(std::string Employee::*field);
 
 /// The employee register's screen: include, change and delete employees of the selected company.
 ///
@@ -28,7 +36,8 @@ class Empregados {
     /// Reads the list of the company selected in the session; none selected gives an empty list.
     void load();
     [[nodiscard]] const std::vector<EmployeeLine>& lines() const { return lines_; }
-    [[nodiscard]] const Session& session() const { return at_.session; }
+    /// "01 EMPRESA MODELO LTDA"; empty when no company is selected.
+    [[nodiscard]] const std::string& companyTitle() const { return companyTitle_; }
     /// The code that the next employee gets unless another is typed; nullopt when all are taken.
     [[nodiscard]] std::optional<EmployeeCode> proposedCode() const {
         return EmployeeRegister::lowestFreeCode(lines_);
@@ -42,6 +51,8 @@ class Empregados {
     [[nodiscard]] bool change(std::size_t position, Employee typed);
     /// Deletes the line at `position` and the employee's files. True when it is gone.
     [[nodiscard]] bool remove(std::size_t position);
+    /// Asks before typed but unrecorded text is left behind. True when it may go.
+    [[nodiscard]] bool mayDiscardTyped();
     void help();
 
   private:
@@ -57,6 +68,7 @@ class Empregados {
     Workplace at_;
     Browser& browser_;
     std::vector<EmployeeLine> lines_;
+    std::string companyTitle_;
 };
 
 }  // namespace winvrx

@@ -121,6 +121,10 @@ void Empresa::removeFilesOf(const CompanyLine& gone, const std::vector<CompanyLi
     if (at_.session.company == code) at_.session.company.reset();
 }
 
+bool Empresa::mayDiscardTyped() {
+    return at_.person.agrees(discardTyped());
+}
+
 void Empresa::help() {
     if (!browser_.openHelp()) at_.person.tell(kHelpFailed);
 }

@@ -38,6 +38,8 @@ class Empresa {
     /// Deletes the line at `position` and the company's files; a session that had it selected has
     /// none afterwards. True when it is gone.
     [[nodiscard]] bool remove(std::size_t position, DeleteOption option);
+    /// Asks before typed but unrecorded text is left behind. True when it may go.
+    [[nodiscard]] bool mayDiscardTyped();
     void help();
 
   private:

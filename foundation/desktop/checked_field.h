@@ -1,0 +1,22 @@
+#pragma once
+
+#include "foundation/desktop/field_box.h"
+
+#include <cstddef>
+#include <string_view>
+
+namespace winvrx {
+
+/// What a field watches for while it is typed in.
+enum class FieldCheck { None, Date, Cnpj, Cpf, CnpjOrCpf, Pis };
+
+/// A text field that says under it what it finds in what the operator types; text that was only
+/// shown is not judged. A date is brought into its full form when the field is left.
+[[nodiscard]] TextField* checkedField(const QString& caption, const QString& objectName,
+                                      std::size_t width, FieldCheck check, QWidget* parent);
+
+/// The caption with its Alt letter marked: the first `letter` in it, whatever its case. A caption
+/// without the letter comes back as it is.
+[[nodiscard]] QString withMnemonic(std::string_view caption, char letter);
+
+}  // namespace winvrx

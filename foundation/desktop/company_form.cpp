@@ -1,0 +1,138 @@
+#include "foundation/desktop/company_form.h"
+
+#include "foundation/desktop/checked_field.h"
+#include "foundation/desktop/look.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+#include <array>
+
+namespace winvrx {
+
+namespace {
+
+enum Group { kCompany, kOwner, kUnion };
+
+/// Where a field stands and what it is called; caption and width come from the record's layout.
+struct Placement {
+    std::string Company::*member;
+    const char* name;
+    char mnemonic;
+    int group;
+    int row;
+    int span;  ///< of the twelve columns of the grid
+    FieldCheck check = FieldCheck::None;
+};
+
+constexpr std::array kPlacements = {
+    Placement{&Company::code, "code", 'K', kCompany, 0, 1},
+    Placement{&Company::name, "name", 'E', kCompany, 0, 8},
+    Placement{&Company::taxId, "taxId", 'C', kCompany, 0, 3, FieldCheck::CnpjOrCpf},
+    Placement{&Company::address, "address", 'N', kCompany, 1, 6},
+    Placement{&Company::district, "district", 'B', kCompany, 1, 4},
+    Placement{&Company::recordDate, "recordDate", 'K', kCompany, 1, 2},
+    Placement{&Company::city, "city", 'D', kCompany, 2, 4},
+    Placement{&Company::state, "state", 'U', kCompany, 2, 1},
+    Placement{&Company::postalCode, "postalCode", 'P', kCompany, 2, 2},
+    Placement{&Company::telephone, "telephone", 'T', kCompany, 2, 2},
+    Placement{&Company::stateRegistration, "stateRegistration", 'I', kCompany, 2, 3},
+    Placement{&Company::owner, "owner", 'O', kOwner, 0, 6},
+    Placement{&Company::ownerNationality, "ownerNationality", 'L', kOwner, 0, 3},
+    Placement{&Company::ownerMaritalStatus, "ownerMaritalStatus", 'V', kOwner, 0, 3},
+    Placement{&Company::ownerProfession, "ownerProfession", 'F', kOwner, 1, 6},
+    Placement{&Company::ownerIdentityCard, "ownerIdentityCard", 'R', kOwner, 1, 3},
+    Placement{&Company::ownerTaxId, "ownerTaxId", 'C', kOwner, 1, 3, FieldCheck::Cpf},
+    Placement{&Company::ownerAddress, "ownerAddress", 'M', kOwner, 2, 4},
+    Placement{&Company::ownerDistrict, "ownerDistrict", 'B', kOwner, 2, 3},
+    Placement{&Company::ownerPostalCode, "ownerPostalCode", 'P', kOwner, 2, 2},
+    Placement{&Company::ownerCity, "ownerCity", 'D', kOwner, 2, 2},
+    Placement{&Company::ownerState, "ownerState", 'A', kOwner, 2, 1},
+    Placement{&Company::unionName, "unionName", 'N', kUnion, 0, 8},
+    Placement{&Company::unionTaxId, "unionTaxId", 'J', kUnion, 0, 4, FieldCheck::Cnpj},
+};
+
+static_assert(kPlacements.size() == kCompanyFields.size());
+
+constexpr int kGridColumns = 12;
+
+const CompanyField& layoutOf(std::string Company::*member) {
+    for (const CompanyField& field : kCompanyFields)
+        if (field.member == member) return field;
+    throw std::logic_error("company member without a column");
+}
+
+TextField* fieldFor(const Placement& place, QWidget* parent) {
+    const CompanyField& layout = layoutOf(place.member);
+    TextField* field = checkedField(withMnemonic(layout.caption, place.mnemonic),
+                                    QStringLiteral("empresa.") + QLatin1String(place.name),
+                                    layout.column.width, place.check, parent);
+    if (place.member == &Company::code || place.member == &Company::recordDate) {
+        field->edit()->setReadOnly(true);
+        field->edit()->setFocusPolicy(Qt::NoFocus);
+        field->edit()->setToolTip(QStringLiteral("Preenchido pelo sistema ao gravar"));
+    }
+    return field;
+}
+
+}  // namespace
+
+CompanyForm::CompanyForm(QWidget* parent) : QScrollArea(parent) {
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    auto* panel = new QFrame(this);
+    panel->setObjectName(QStringLiteral("empresa.form"));
+    look::setRole(*panel, "panel");
+    auto* column = new QVBoxLayout(panel);
+    look::layOutBody(*column);
+    column->addWidget(look::heading(QStringLiteral("Cadastro:"), panel));
+    addGroup(*column, QStringLiteral("Empresa"), kCompany);
+    addGroup(*column, QStringLiteral("Proprietário"), kOwner);
+    addGroup(*column, QStringLiteral("Sindicato"), kUnion);
+    column->addStretch();
+    setWidget(panel);
+    fields_.fieldOf(&Company::unionTaxId)->edit()->setProperty("lastField", true);
+}
+
+void CompanyForm::addGroup(QVBoxLayout& column, const QString& heading, int group) {
+    column.addWidget(look::label(heading, look::TextSize::Heading, this));
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(look::kGap);
+    grid->setVerticalSpacing(look::kSmallGap / 2);
+    for (int i = 0; i < kGridColumns; ++i)
+        grid->setColumnStretch(i, 1);
+    int row = -1;
+    int next = 0;
+    for (const Placement& place : kPlacements) {
+        if (place.group != group) continue;
+        if (place.row != row) next = 0;
+        row = place.row;
+        TextField* field = fieldFor(place, this);
+        grid->addWidget(field, row, next, 1, place.span, Qt::AlignTop);
+        next += place.span;
+        fields_.bind(place.member, field);
+        connect(field, &TextField::edited, this, &CompanyForm::edited);
+    }
+    column.addLayout(grid);
+}
+
+void CompanyForm::showCompany(const Company& company) {
+    shown_ = company;
+    fields_.show(company);
+    ensureVisible(0, 0);
+}
+
+Company CompanyForm::typed() const {
+    Company company = shown_;
+    fields_.readInto(company);
+    return company;
+}
+
+void CompanyForm::focusFirst() {
+    QLineEdit* first = fields_.fieldOf(&Company::name)->edit();
+    first->setFocus(Qt::TabFocusReason);
+    first->selectAll();
+}
+
+}  // namespace winvrx

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+
+#include <optional>
+#include <vector>
+
+class QLabel;
+class QPushButton;
+class QStackedWidget;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace winvrx {
+
+class SearchBox;
+
+/// The left side of a register's window: the records with a search box over them. With nothing to
+/// show it says what to do next.
+class RegisterList : public QWidget {
+    Q_OBJECT
+
+  public:
+    struct Row {
+        QStringList cells;
+        QString searched;  ///< the text that the search looks into
+    };
+
+    /// `screen` is the prefix of the object names: "empresa.list", "empresa.search".
+    RegisterList(const QString& screen, const QString& searchHint, const QStringList& headings,
+                 QWidget* parent);
+
+    /// What an empty list says, and the button that it offers.
+    void setEmptyTexts(const QString& text, const QString& action);
+
+    void setRows(const std::vector<Row>& rows);
+    [[nodiscard]] std::size_t count() const;
+    /// Marks the row without emitting chosen(); nullopt marks none.
+    void mark(std::optional<std::size_t> position);
+    /// Moves by so many of the rows that the search shows.
+    void moveBy(int rows);
+    void takeFocus();
+
+  signals:
+    /// The operator moved to another row.
+    void chosen(std::size_t position);
+    /// Enter on a row.
+    void entered();
+    /// The button of the empty list.
+    void firstRequested();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void buildTree(const QString& screen, const QStringList& headings);
+    void buildEmptyPage(const QString& screen);
+    void filter();
+    void showPage(bool anyVisible);
+
+    SearchBox* search_;
+    QStackedWidget* pages_;
+    QTreeWidget* tree_;
+    QLabel* emptyText_;
+    QPushButton* first_;
+    QString whenEmpty_;
+};
+
+}  // namespace winvrx
