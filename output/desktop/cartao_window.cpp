@@ -15,6 +15,7 @@
 #include <QListWidget>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QStandardPaths>
 #include <QToolButton>
@@ -25,7 +26,7 @@ namespace winvrx {
 namespace {
 
 constexpr int kHeaderLines = 6;
-constexpr int kListCharacters = 34;
+constexpr int kListCharacters = 46;
 
 QString countText(std::size_t cards) {
     return cards == 1 ? QStringLiteral("1 cartão")
@@ -43,8 +44,9 @@ CartaoWindow::CartaoWindow(Cartao& cartao, CartaoLinks links, QWidget* parent)
       cartao_(cartao),
       links_(std::move(links)) {
     cartao_.load();
-    setBody(buildBody());
     buildCommands();
+    setBody(buildBody());
+    buildClosingButtons();
     connectAll();
     search_->serve(list_);
     showList();
@@ -64,19 +66,24 @@ void CartaoWindow::buildCommands() {
         addCommand(QStringLiteral("printer-settings"), QStringLiteral("Selecionar Impressora"), {},
                    QStringLiteral("cartao.printer"));
     printer->setEnabled(false);
+}
 
+void CartaoWindow::buildClosingButtons() {
     QPushButton* one =
         addClosingButton(QStringLiteral("&Imprimir >"), QStringLiteral("cartao.printOne"));
     one->setIcon(look::icon(QStringLiteral("print")));
     one->setToolTip(QStringLiteral("Imprimir Somente Um Cartão Selecionado"));
-    one->setShortcut(QKeySequence::Print);
     one->setDefault(true);
     connect(one, &QPushButton::clicked, this, &CartaoWindow::printOne);
+    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, one,
+            &QPushButton::click);
     QPushButton* all =
         addClosingButton(QStringLiteral("Imprimi&r >>"), QStringLiteral("cartao.printAll"));
     all->setIcon(look::icon(QStringLiteral("print")));
     all->setToolTip(QStringLiteral("Imprimir Todos os Cartão da Lista"));
     connect(all, &QPushButton::clicked, this, &CartaoWindow::printAll);
+    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P), this),
+            &QShortcut::activated, all, &QPushButton::click);
     QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("cartao.close"));
     connect(close, &QPushButton::clicked, this, &CartaoWindow::reject);
 }
@@ -120,6 +127,7 @@ QWidget* CartaoWindow::buildList(QWidget* parent) {
     list_->setObjectName(QStringLiteral("cartao.employees"));
     list_->setAccessibleName(QStringLiteral("Funcionários"));
     list_->setMinimumWidth(list_->fontMetrics().averageCharWidth() * kListCharacters);
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     column->addWidget(list_, 1);
     emptyList_ = look::label(QString(), look::TextSize::Hint, part);
     emptyList_->setObjectName(QStringLiteral("cartao.emptyList"));
@@ -169,8 +177,8 @@ void CartaoWindow::connectAll() {
     connect(list_, &QListWidget::currentRowChanged, this, &CartaoWindow::showPreview);
 }
 
-void CartaoWindow::visit(const std::function<void()>& screen) {
-    if (screen) screen();
+void CartaoWindow::visit(const std::function<void(QWidget*)>& screen) {
+    if (screen) screen(this);
     cartao_.load();
     showList();
 }

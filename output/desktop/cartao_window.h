@@ -18,8 +18,8 @@ class SearchBox;
 
 /// The screens that the printing screen opens. Each returns when its screen is closed.
 struct CartaoLinks {
-    std::function<void()> openStocks;
-    std::function<void()> openWorkMonth;
+    std::function<void(QWidget* parent)> openStocks;
+    std::function<void(QWidget* parent)> openWorkMonth;
 };
 
 /// The time-card printing screen: employees at the left, header block and choices at the right.
@@ -32,12 +32,13 @@ class CartaoWindow : public ScreenWindow {
 
   private:
     void buildCommands();
+    void buildClosingButtons();
     [[nodiscard]] QWidget* buildBody();
     [[nodiscard]] QWidget* buildList(QWidget* parent);
     [[nodiscard]] QWidget* buildPreview(QWidget* parent);
     void connectAll();
 
-    void visit(const std::function<void()>& screen);
+    void visit(const std::function<void(QWidget*)>& screen);
     void printOne();
     void printAll();
     [[nodiscard]] std::function<std::string(const std::string&)> pdfChooser();

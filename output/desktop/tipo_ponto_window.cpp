@@ -37,6 +37,7 @@ TipoPontoWindow::TipoPontoWindow(TipoPonto& stocks, QWidget* parent)
     connect(options_, &OptionGroup::picked, this, &TipoPontoWindow::choose);
     stocks_.load();
     showCurrent();
+    options_->setFocus();
 }
 
 QWidget* TipoPontoWindow::buildBody() {
