@@ -51,13 +51,11 @@ void Screens::openTimeCard(QWidget* parent) {
 void Screens::openCards(QWidget* parent, bool preview) {
     Cartao cards(at_, engine_);
     cards.choices().output = preview ? ReportOutput::Preview : ReportOutput::Printer;
-    CartaoWindow* opened = nullptr;
-    CartaoWindow window(cards,
-                        {.openStocks = [&] { openStocks(opened); },
-                         .openWorkMonth = [&] { openWorkMonth(opened); }},
-                        parent);
-    opened = &window;
-    window.exec();
+    CartaoWindow(cards,
+                 {.openStocks = [this](QWidget* over) { openStocks(over); },
+                  .openWorkMonth = [this](QWidget* over) { openWorkMonth(over); }},
+                 parent)
+        .exec();
 }
 
 void Screens::openStocks(QWidget* parent) {
