@@ -25,6 +25,7 @@ namespace winvrx {
 
 namespace {
 
+constexpr int kPatience = 500;  // milliseconds without progress shown
 constexpr int kHeaderLines = 6;
 constexpr int kListCharacters = 46;
 
@@ -197,6 +198,7 @@ void CartaoWindow::printAll() {
     dialog.setObjectName(QStringLiteral("cartao.progress"));
     dialog.setWindowTitle(QStringLiteral("IMPRIMINDO"));
     dialog.setWindowModality(Qt::WindowModal);
+    dialog.setMinimumDuration(kPatience);
     const auto progress = [&dialog](int done, int total) {
         dialog.setLabelText(QStringLiteral("Cartão %1 de %2").arg(done).arg(total));
         dialog.setValue(done);
