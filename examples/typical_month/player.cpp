@@ -22,21 +22,30 @@ namespace {
 
 QMessageBox::StandardButton buttonOf(Answer answer) {
     switch (answer) {
-        case Answer::Yes: return QMessageBox::Yes;
-        case Answer::No: return QMessageBox::No;
-        case Answer::Cancel: return QMessageBox::Cancel;
-        case Answer::Ok: return QMessageBox::Ok;
+        case Answer::Yes:
+            return QMessageBox::Yes;
+        case Answer::No:
+            return QMessageBox::No;
+        case Answer::Cancel:
+            return QMessageBox::Cancel;
+        case Answer::Ok:
+            return QMessageBox::Ok;
     }
     return QMessageBox::Ok;
 }
 
 QString iconName(QMessageBox::Icon icon) {
     switch (icon) {
-        case QMessageBox::NoIcon: return QStringLiteral("nenhum");
-        case QMessageBox::Information: return QStringLiteral("informação");
-        case QMessageBox::Warning: return QStringLiteral("exclamação");
-        case QMessageBox::Critical: return QStringLiteral("crítico");
-        case QMessageBox::Question: return QStringLiteral("pergunta");
+        case QMessageBox::NoIcon:
+            return QStringLiteral("nenhum");
+        case QMessageBox::Information:
+            return QStringLiteral("informação");
+        case QMessageBox::Warning:
+            return QStringLiteral("exclamação");
+        case QMessageBox::Critical:
+            return QStringLiteral("crítico");
+        case QMessageBox::Question:
+            return QStringLiteral("pergunta");
     }
     return {};
 }
@@ -54,7 +63,9 @@ Player::Player(QString folder) : folder_(std::move(folder)) {
     QFile::remove(folder_ + QStringLiteral("/conversa.txt"));
 }
 
-void Player::then(std::function<void()> step) { steps_.push_back(std::move(step)); }
+void Player::then(std::function<void()> step) {
+    steps_.push_back(std::move(step));
+}
 
 void Player::click(const QString& name) {
     then([this, name] { QTest::mouseClick(find(name), Qt::LeftButton); });
@@ -135,8 +146,10 @@ void Player::picture(const QString& name) {
 
 void Player::savePicture(const QString& name) {
     QWidget* window = present();
-    const QString stem =
-        QStringLiteral("%1/telas/%2-%3").arg(folder_).arg(++pictures_, 2, 10, QLatin1Char('0')).arg(name);
+    const QString stem = QStringLiteral("%1/telas/%2-%3")
+                             .arg(folder_)
+                             .arg(++pictures_, 2, 10, QLatin1Char('0'))
+                             .arg(name);
     look::apply(*qApp, look::darkPalette());
     QCoreApplication::sendPostedEvents();
     window->grab().save(stem + QStringLiteral("-escuro.png"));

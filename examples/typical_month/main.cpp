@@ -1,0 +1,84 @@
+// Plays a typical month through the program's own windows: a company, three employees, a work
+// month with a holiday, schedules, punches, a card stock and the printing of all cards.
+#include "app/desktop_setup.h"
+#include "app/program.h"
+#include "foundation/desktop/desktop_browser.h"
+#include "foundation/desktop/file_log.h"
+#include "foundation/desktop/look.h"
+#include "foundation/desktop/menu_window.h"
+#include "foundation/desktop/system_drives.h"
+#include "month_script.h"
+#include "player.h"
+
+#include <QApplication>
+#include <QDir>
+
+namespace winvrx {
+
+namespace {
+
+struct OnlyCopy final : SingleInstance {
+    bool claim() override { return true; }
+};
+
+/// A printer whose paper is a PDF file: what the operator prints lands in `path`.
+class PaperInAFile final : public ReportEngine {
+  public:
+    PaperInAFile(std::unique_ptr<ReportEngine> engine, std::string path)
+        : engine_(std::move(engine)), path_(std::move(path)) {}
+
+    [[nodiscard]] ReportResult print(const ReportRequest& request, const CardSource& cards,
+                                     const CardProgress& progress) override {
+        ReportRequest toFile = request;
+        if (toFile.output == ReportOutput::Printer) {
+            toFile.output = ReportOutput::PdfFile;
+            toFile.pdfPath = path_;
+        }
+        return engine_->print(toFile, cards, progress);
+    }
+
+  private:
+    std::unique_ptr<ReportEngine> engine_;
+    std::string path_;
+};
+
+/// The letters of a desktop, on a machine that has none.
+void chooseFont() {
+    QFont font(QStringLiteral("Open Sans"));
+    font.setPointSize(10);
+    QApplication::setFont(font);
+}
+
+}  // namespace
+
+}  // namespace winvrx
+
+int main(int argc, char** argv) {
+    using namespace winvrx;
+    QApplication application(argc, argv);
+    if (argc != 2) {
+        qCritical("usage: typical_month FOLDER");
+        return 2;
+    }
+    const QString folder = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();
+    QDir(folder).removeRecursively();
+    QDir().mkpath(folder);
+    chooseFont();
+    setUpDesktop(application);
+    look::apply(application, look::lightPalette());
+
+    const FolderDrives drives((folder + QStringLiteral("/disco-c")).toStdString());
+    const FixedClock clock({*parseDate("15/03/2024"), *parseTime("10:20")});
+    FileLog log(folder + QStringLiteral("/winvrx.log"));
+    OnlyCopy instance;
+    Program program({drives, clock, log, instance, QApplication::applicationDirPath().toStdString(),
+                     [&](std::unique_ptr<ReportEngine> engine) -> std::unique_ptr<ReportEngine> {
+                         return std::make_unique<PaperInAFile>(
+                             std::move(engine),
+                             (folder + QStringLiteral("/cartoes.pdf")).toStdString());
+                     }});
+    if (!program.start()) return 1;
+    Player player(folder);
+    writeMonth(player);
+    return player.play();
+}

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "foundation/disk.h"
+#include "foundation/faults.h"
+
+namespace winvrx::testing {
+
+/// Thrown where the power goes: no handler of the program catches it.
+struct PowerCut {};
+
+/// Passes everything on to another disk until operation number `failAt`, counted from 1.
+class FaultyDisk final : public Disk {
+  public:
+    enum class Failure {
+        Once,     ///< that operation fails, later ones succeed
+        ForGood,  ///< that operation and all after it fail
+        Power     ///< a PowerCut is thrown there
+    };
+
+    FaultyDisk(Disk& disk, int failAt, Failure failure, std::errc error)
+        : disk_(disk), failAt_(failAt), failure_(failure), error_(error) {}
+
+    [[nodiscard]] bool failed() const { return operations_ >= failAt_; }
+
+    [[nodiscard]] std::optional<std::string> read(const std::filesystem::path& file) const override {
+        step(FileFault::Operation::Read, file);
+        return disk_.read(file);
+    }
+    /// A write that fails leaves half of the bytes behind.
+    void write(const std::filesystem::path& file, std::string_view bytes) override {
+        try {
+            step(FileFault::Operation::Write, file);
+        } catch (...) {
+            if (operations_ == failAt_) disk_.write(file, bytes.substr(0, bytes.size() / 2));
+            throw;
+        }
+        disk_.write(file, bytes);
+    }
+    void flush(const std::vector<std::filesystem::path>& files) override {
+        step(FileFault::Operation::Write, files.front());
+        disk_.flush(files);
+    }
+    void rename(const std::filesystem::path& from, const std::filesystem::path& to) override {
+        step(FileFault::Operation::Write, to);
+        disk_.rename(from, to);
+    }
+    bool remove(const std::filesystem::path& file) override {
+        step(FileFault::Operation::Remove, file);
+        return disk_.remove(file);
+    }
+    void flushFolder(const std::filesystem::path& folder) override {
+        step(FileFault::Operation::Write, folder);
+        disk_.flushFolder(folder);
+    }
+    [[nodiscard]] bool exists(const std::filesystem::path& path) const override {
+        step(FileFault::Operation::Read, path);
+        return disk_.exists(path);
+    }
+    [[nodiscard]] std::vector<std::string> names(
+        const std::filesystem::path& folder) const override {
+        step(FileFault::Operation::List, folder);
+        return disk_.names(folder);
+    }
+    void makeFolder(const std::filesystem::path& folder) override {
+        step(FileFault::Operation::MakeFolder, folder);
+        disk_.makeFolder(folder);
+    }
+
+  private:
+    void step(FileFault::Operation operation, const std::filesystem::path& path) const {
+        const int number = ++operations_;
+        if (number < failAt_ || (number > failAt_ && failure_ == Failure::Once)) return;
+        if (failure_ == Failure::Power) throw PowerCut{};
+        throw FileFault(operation, path, std::make_error_code(error_));
+    }
+
+    Disk& disk_;
+    int failAt_;
+    Failure failure_;
+    std::errc error_;
+    mutable int operations_ = 0;
+};
+
+}  // namespace winvrx::testing
