@@ -1,5 +1,6 @@
 #include "timecard/cartao_ponto_dados.h"
 
+#include "foundation/company_register.h"
 #include "timecard/hours.h"
 #include "timecard/punch_application.h"
 #include "timecard/selected_month.h"
@@ -52,6 +53,12 @@ constexpr std::string_view kSaturdayExtra = "Sábado(Extra)";
 constexpr std::string_view kChangedElsewhere =
     "Este registro foi alterado por outro computador. Selecione o funcionário novamente.";
 
+std::string nameOf(const Workplace& at, const CompanyCode& code) {
+    for (const CompanyLine& line : loadCompanies(at.files, at.session.folder))
+        if (line.code() == code) return line.company.name;
+    return {};
+}
+
 Message inPunchEntry(Message message) {
     message.title = "DIGITAÇÃO DO PONTO";
     return message;
@@ -82,8 +89,10 @@ bool CartaoPontoDados::open() {
 void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings& settings,
                                 ShiftFilter filter) {
     const auto lines = EmployeeRegister(at_.files, at_.session.folder, company).load();
+    std::string name = nameOf(at_, company);
     const std::string chosen = company_ == company && selected() ? selected()->code : "";
     company_ = company;
+    companyName_ = std::move(name);
     settings_ = settings;
     filter_ = filter;
     employees_ = employeesOf(lines, filter);
@@ -246,12 +255,16 @@ bool CartaoPontoDados::savePunches() {
     });
 }
 
+bool CartaoPontoDados::saveChanges() {
+    return (!schedule_.changed() || saveSchedule()) && (!sheet_.changed() || savePunches());
+}
+
 bool CartaoPontoDados::mayLeave() {
     if (!changed()) return true;
     const Answer answer = at_.person.ask(kRecordChanges);
     if (answer == Answer::Cancel) return false;
     if (answer == Answer::No) return true;
-    return (!schedule_.changed() || saveSchedule()) && (!sheet_.changed() || savePunches());
+    return saveChanges();
 }
 
 }  // namespace winvrx

@@ -34,6 +34,7 @@ class CartaoPontoDados {
     [[nodiscard]] bool open();
     /// The company that the list belongs to.
     [[nodiscard]] const std::optional<CompanyCode>& company() const { return company_; }
+    [[nodiscard]] const std::string& companyName() const { return companyName_; }
     [[nodiscard]] const MonthSettings& settings() const { return settings_; }
     [[nodiscard]] ShiftFilter filter() const { return filter_; }
     /// False when the operator keeps unrecorded changes.
@@ -66,6 +67,8 @@ class CartaoPontoDados {
     [[nodiscard]] std::string totalOf(HalfMonth half) const;
     [[nodiscard]] bool savePunches();
 
+    /// Records the schedule and the punches, each when it was changed. False when one was refused.
+    [[nodiscard]] bool saveChanges();
     [[nodiscard]] bool changed() const { return schedule_.changed() || sheet_.changed(); }
     /// Asks whether unrecorded changes are to be recorded. True when the screen may go on to
     /// something else: they are recorded or given up.
@@ -80,6 +83,7 @@ class CartaoPontoDados {
 
     Workplace at_;
     std::optional<CompanyCode> company_;
+    std::string companyName_;
     MonthSettings settings_;
     ShiftFilter filter_ = ShiftFilter::Todos;
     std::vector<Employee> employees_;

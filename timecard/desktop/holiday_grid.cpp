@@ -1,0 +1,107 @@
+#include "timecard/desktop/holiday_grid.h"
+
+#include "foundation/desktop/look.h"
+#include "foundation/desktop/qt_text.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+constexpr int kDaysOfWeek = 7;
+
+QLabel* weekdayLabel(int column, QWidget* parent) {
+    const std::chrono::weekday weekday{static_cast<unsigned>(column)};
+    return look::label(toQt(weekdayShort(weekday)), look::TextSize::Hint, parent);
+}
+
+}  // namespace
+
+HolidayGrid::HolidayGrid(DataMesCorrente& command, QWidget* parent)
+    : QWidget(parent), command_(command) {
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(look::kGap);
+    for (int column = 0; column < kDaysOfWeek; ++column) {
+        grid->addWidget(weekdayLabel(column, this), 0, column);
+        grid->setColumnStretch(column, 1);
+    }
+    for (std::size_t cell = 0; cell < kHolidayCells; ++cell) {
+        cells_[cell] = buildCell(cell);
+        const int place = static_cast<int>(cell);
+        grid->addWidget(cells_[cell], 1 + place / kDaysOfWeek, place % kDaysOfWeek);
+    }
+}
+
+QCheckBox* HolidayGrid::buildCell(std::size_t cell) {
+    auto* box = new QCheckBox(this);
+    box->setObjectName(QStringLiteral("month.day%1").arg(cell + 1));
+    QSizePolicy policy = box->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    box->setSizePolicy(policy);
+    box->installEventFilter(this);
+    connect(box, &QCheckBox::toggled, this, [this, cell](bool on) { take(cell, on); });
+    return box;
+}
+
+void HolidayGrid::refresh() {
+    for (std::size_t cell = 0; cell < kHolidayCells; ++cell) {
+        QCheckBox* box = cells_[cell];
+        const QSignalBlocker quiet(box);
+        const auto date = command_.dateOfCell(cell);
+        box->setVisible(date.has_value());
+        const bool holiday = date && command_.settings().isHoliday(*date);
+        box->setChecked(holiday);
+        if (!date) continue;
+        box->setText(QString::number(dayNumber(*date)));
+        box->setAccessibleName(toQt(dateText(*date)) + QStringLiteral(", ") +
+                               toQt(weekdayName(weekdayOf(*date))));
+        QPalette colors = palette();
+        if (holiday || isRestDay(command_.settings(), *date))
+            colors.setColor(
+                QPalette::WindowText,
+                look::color(holiday ? look::Tint::Holiday : look::Tint::RestDay, colors));
+        QFont font = look::font(look::TextSize::Body);
+        font.setBold(holiday);
+        box->setPalette(colors);
+        box->setFont(font);
+    }
+}
+
+void HolidayGrid::take(std::size_t cell, bool holiday) {
+    if (const auto date = command_.dateOfCell(cell)) command_.tick(*date, holiday);
+    emit ticked();
+}
+
+bool HolidayGrid::moveFrom(std::size_t cell, int key) {
+    int step = 0;
+    if (key == Qt::Key_Left) step = -1;
+    if (key == Qt::Key_Right) step = 1;
+    if (key == Qt::Key_Up) step = -kDaysOfWeek;
+    if (key == Qt::Key_Down) step = kDaysOfWeek;
+    const int target = static_cast<int>(cell) + step;
+    if (step == 0) return false;
+    if (target >= 0 && target < static_cast<int>(kHolidayCells) &&
+        command_.dateOfCell(static_cast<std::size_t>(target)))
+        cells_[static_cast<std::size_t>(target)]->setFocus(Qt::TabFocusReason);
+    return true;
+}
+
+bool HolidayGrid::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const auto* found = std::find(cells_.begin(), cells_.end(), watched);
+        const auto cell = static_cast<std::size_t>(found - cells_.begin());
+        if (cell < kHolidayCells && moveFrom(cell, static_cast<QKeyEvent*>(event)->key()))
+            return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+}  // namespace winvrx

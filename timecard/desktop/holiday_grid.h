@@ -1,0 +1,40 @@
+#pragma once
+
+#include "timecard/data_mes_corrente.h"
+
+#include <QWidget>
+
+#include <array>
+
+class QCheckBox;
+
+namespace winvrx {
+
+/// The calendar of the month shown, one check box a day, six weeks that start on Sunday. The arrow
+/// keys go from day to day.
+class HolidayGrid : public QWidget {
+    Q_OBJECT
+
+  public:
+    HolidayGrid(DataMesCorrente& command, QWidget* parent = nullptr);
+
+    /// Shows the command's month and ticks.
+    void refresh();
+
+  signals:
+    /// The operator ticked or cleared a day; the command holds it already.
+    void ticked();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    [[nodiscard]] QCheckBox* buildCell(std::size_t cell);
+    void take(std::size_t cell, bool holiday);
+    [[nodiscard]] bool moveFrom(std::size_t cell, int key);
+
+    DataMesCorrente& command_;
+    std::array<QCheckBox*, kHolidayCells> cells_{};
+};
+
+}  // namespace winvrx

@@ -1,0 +1,156 @@
+#include "timecard/desktop/punch_grid.h"
+
+#include "foundation/desktop/look.h"
+#include "foundation/desktop/qt_text.h"
+
+#include <QComboBox>
+#include <QCompleter>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QStyledItemDelegate>
+
+namespace winvrx {
+
+namespace {
+
+constexpr int kLongestTime = 5;
+constexpr int kLongestSituation = 19;
+
+/// Editors of the cells: a field of five characters, and the list of situations.
+class PunchDelegate : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                          const QModelIndex& index) const override {
+        if (index.column() == PunchModel::Situation) return situationEditor(parent);
+        auto* edit = new QLineEdit(parent);
+        edit->setObjectName(QStringLiteral("punch.editor"));
+        edit->setMaxLength(kLongestTime);
+        edit->setAlignment(Qt::AlignCenter);
+        edit->setFont(look::fixedFont());
+        edit->setFrame(false);
+        edit->setAccessibleName(index.data(Qt::AccessibleTextRole).toString());
+        return edit;
+    }
+
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+        if (auto* box = qobject_cast<QComboBox*>(editor))
+            box->setEditText(index.data(Qt::EditRole).toString());
+        else
+            QStyledItemDelegate::setEditorData(editor, index);
+    }
+
+    void setModelData(QWidget* editor, QAbstractItemModel* model,
+                      const QModelIndex& index) const override {
+        if (auto* box = qobject_cast<QComboBox*>(editor))
+            model->setData(index, box->currentText(), Qt::EditRole);
+        else
+            QStyledItemDelegate::setModelData(editor, model, index);
+    }
+
+  private:
+    static QWidget* situationEditor(QWidget* parent) {
+        auto* box = new QComboBox(parent);
+        box->setObjectName(QStringLiteral("punch.situation"));
+        box->setAccessibleName(QStringLiteral("Situação"));
+        box->setEditable(true);
+        box->addItem(QString());
+        for (const std::string_view situation : kOfferedSituations)
+            box->addItem(toQt(situation));
+        box->lineEdit()->setMaxLength(kLongestSituation);
+        box->completer()->setCompletionMode(QCompleter::PopupCompletion);
+        return box;
+    }
+};
+
+}  // namespace
+
+PunchGrid::PunchGrid(PunchModel* model, const QString& objectName, QWidget* parent)
+    : QTableView(parent), punches_(model) {
+    setObjectName(objectName);
+    setAccessibleName(objectName.endsWith(QLatin1Char('1')) ? QStringLiteral("1º Quinzena")
+                                                            : QStringLiteral("2º Quinzena"));
+    setModel(model);
+    setItemDelegate(new PunchDelegate(this));
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::AnyKeyPressed |
+                    QAbstractItemView::EditKeyPressed);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    verticalHeader()->hide();
+    layOutColumns();
+}
+
+void PunchGrid::layOutColumns() {
+    const int digit = QFontMetrics(look::fixedFont()).horizontalAdvance(QLatin1Char('0'));
+    const int rowHeight = QFontMetrics(look::fixedFont()).height() + look::kGap;
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setMinimumSectionSize(rowHeight);
+    verticalHeader()->setDefaultSectionSize(rowHeight);
+    QHeaderView* header = horizontalHeader();
+    header->setSectionsClickable(false);
+    header->setHighlightSections(false);
+    header->setSectionResizeMode(QHeaderView::Fixed);
+    for (int column = 0; column < PunchModel::Columns; ++column)
+        header->resizeSection(column, digit * (column == PunchModel::Day ? 12 : 8));
+    header->setSectionResizeMode(PunchModel::Situation, QHeaderView::Stretch);
+    comfortableWidth_ = digit * (12 + 8 * 8 + 20);
+    setMinimumWidth(comfortableWidth_ / 2);
+}
+
+bool PunchGrid::isNextCellKey(int key) const {
+    return key == nextCellKey_ || (nextCellKey_ == Qt::Key_Return && key == Qt::Key_Enter);
+}
+
+void PunchGrid::setNextCellKey(Qt::Key key) {
+    nextCellKey_ = key;
+    setTabKeyNavigation(key == Qt::Key_Tab);
+}
+
+void PunchGrid::goToStart() {
+    setCurrentIndex(punches_->index(0, PunchModel::FirstCell));
+    setFocus(Qt::OtherFocusReason);
+}
+
+void PunchGrid::goToNextCell() {
+    const QModelIndex at = currentIndex();
+    if (!at.isValid()) return;
+    const bool lastOfRow = at.column() >= PunchModel::Situation;
+    if (lastOfRow && at.row() + 1 == punches_->rowCount())
+        emit leftAtEnd();
+    else if (lastOfRow)
+        setCurrentIndex(punches_->index(at.row() + 1, PunchModel::FirstCell));
+    else
+        setCurrentIndex(punches_->index(at.row(), at.column() + 1));
+}
+
+void PunchGrid::keyPressEvent(QKeyEvent* event) {
+    // An open editor's ENTER comes through here too; closing the editor moves on by itself.
+    if (state() == EditingState)
+        event->accept();
+    else if (isNextCellKey(event->key()))
+        goToNextCell();
+    else if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace)
+        model()->setData(currentIndex(), QString());
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void PunchGrid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    // The delegate reports ENTER as SubmitModelCache and TAB as EditNextItem.
+    const bool byTab = hint == QAbstractItemDelegate::EditNextItem;
+    const bool byEnter = hint == QAbstractItemDelegate::SubmitModelCache;
+    const bool onwards = nextCellKey_ == Qt::Key_Tab ? byTab : byEnter;
+    QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    if (onwards) goToNextCell();
+    emit cellChanged();
+}
+
+void PunchGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    emit cellChanged();
+}
+
+}  // namespace winvrx

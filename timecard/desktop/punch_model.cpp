@@ -1,0 +1,152 @@
+#include "timecard/desktop/punch_model.h"
+
+#include "foundation/desktop/look.h"
+#include "foundation/desktop/qt_text.h"
+
+#include <QApplication>
+
+#include <array>
+#include <optional>
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::array<const char*, PunchModel::Columns> kHeadings = {
+    "Dia",          "Manhã\nEntrada", "Manhã\nSaída", "Tarde\nEntrada",
+    "Tarde\nSaída", "Extra\nEntrada", "Extra\nSaída", "Obs.",
+    "Situação",     "Total"};
+
+std::optional<PunchCell> cellOf(int column) {
+    if (column < PunchModel::FirstCell || column > PunchModel::Situation) return std::nullopt;
+    return kPunchCells[static_cast<std::size_t>(column - PunchModel::FirstCell)];
+}
+
+std::optional<look::Tint> tintOf(DayKind kind) {
+    switch (kind) {
+        case DayKind::Work:
+            return std::nullopt;
+        case DayKind::Holiday:
+            return look::Tint::Holiday;
+        case DayKind::WeeklyRest:
+            return look::Tint::RestDay;
+        case DayKind::Leave:
+            return look::Tint::Leave;
+        case DayKind::Absence:
+            return look::Tint::Absence;
+    }
+    return std::nullopt;
+}
+
+/// The word that stands for a day's colour where its situation is not written.
+QString calendarWord(DayKind kind) {
+    if (kind == DayKind::Holiday) return QStringLiteral("(feriado)");
+    return kind == DayKind::WeeklyRest ? QStringLiteral("(descanso)") : QString();
+}
+
+}  // namespace
+
+PunchModel::PunchModel(CartaoPontoDados& command, HalfMonth half, QObject* parent)
+    : QAbstractTableModel(parent), command_(command), half_(half) {
+    days_ = daysOf(half_, command_.settings().month);
+}
+
+void PunchModel::refresh() {
+    beginResetModel();
+    days_ = daysOf(half_, command_.settings().month);
+    endResetModel();
+}
+
+int PunchModel::rowCount(const QModelIndex& parent) const {
+    const int days = static_cast<int>(command_.sheet().lines().size());
+    return parent.isValid() ? 0 : std::max(0, std::min(days_.last, days) - days_.first + 1);
+}
+
+int PunchModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : Columns;
+}
+
+int PunchModel::dayOf(const QModelIndex& index) const {
+    return days_.first + index.row();
+}
+
+QString PunchModel::textOf(const QModelIndex& index) const {
+    const int day = dayOf(index);
+    if (index.column() == Day) return toQt(command_.sheet().line(day).label);
+    if (index.column() == Total) return toQt(command_.totalOf(day));
+    return toQt(command_.sheet().text(day, *cellOf(index.column())));
+}
+
+QString PunchModel::findingAt(const QModelIndex& index) const {
+    const auto cell = index.isValid() ? cellOf(index.column()) : std::nullopt;
+    return cell ? toQt(command_.sheet().findingAt(dayOf(index), *cell)) : QString();
+}
+
+QString PunchModel::spokenNameOf(const QModelIndex& index) const {
+    QString heading = QString::fromUtf8(kHeadings[static_cast<std::size_t>(index.column())]);
+    return toQt(command_.sheet().line(dayOf(index)).label) + QLatin1Char(' ') +
+           heading.replace(QLatin1Char('\n'), QLatin1Char(' ')) + QStringLiteral(": ") +
+           textOf(index);
+}
+
+QVariant PunchModel::foregroundOf(const QModelIndex& index) const {
+    const QPalette palette = QApplication::palette();
+    if (!findingAt(index).isEmpty()) return look::color(look::Tint::Warning, palette);
+    const auto tint = tintOf(command_.kindOf(dayOf(index)));
+    if (tint && (index.column() == Day || index.column() == Situation))
+        return look::color(*tint, palette);
+    return {};
+}
+
+QVariant PunchModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid()) return {};
+    const DayKind kind = command_.kindOf(dayOf(index));
+    switch (role) {
+        case Qt::DisplayRole: {
+            const QString text = textOf(index);
+            if (!findingAt(index).isEmpty()) return QString(QStringLiteral("⚠ ") + text);
+            return index.column() == Situation && text.isEmpty() ? calendarWord(kind) : text;
+        }
+        case Qt::EditRole:
+            return textOf(index);
+        case Qt::ToolTipRole:
+            return findingAt(index);
+        case Qt::AccessibleTextRole:
+            return spokenNameOf(index);
+        case Qt::FontRole:
+            return index.column() == Situation ? look::font(look::TextSize::Body)
+                                               : look::fixedFont();
+        case Qt::TextAlignmentRole:
+            return index.column() == Situation || index.column() == Day
+                       ? QVariant(Qt::AlignVCenter | Qt::AlignLeft)
+                       : QVariant(Qt::AlignCenter);
+        case Qt::ForegroundRole:
+            return foregroundOf(index);
+        case Qt::BackgroundRole:
+            if (const auto tint = tintOf(kind)) return look::wash(*tint, QApplication::palette());
+            return {};
+        default:
+            return {};
+    }
+}
+
+QVariant PunchModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+    return QString::fromUtf8(kHeadings[static_cast<std::size_t>(section)]);
+}
+
+Qt::ItemFlags PunchModel::flags(const QModelIndex& index) const {
+    const auto flags = QAbstractTableModel::flags(index);
+    return command_.selected() && cellOf(index.column()) ? flags | Qt::ItemIsEditable : flags;
+}
+
+bool PunchModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    const auto cell = index.isValid() ? cellOf(index.column()) : std::nullopt;
+    if (role != Qt::EditRole || !cell || !command_.selected()) return false;
+    command_.sheet().type(dayOf(index), *cell, toUtf8(value.toString()));
+    emit dataChanged(this->index(index.row(), Day), this->index(index.row(), Total));
+    emit edited();
+    return true;
+}
+
+}  // namespace winvrx

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "timecard/cartao_ponto_dados.h"
+
+#include <QAbstractTableModel>
+
+namespace winvrx {
+
+/// A half-month of the card as a table: day, six times, the short field, situation, total.
+class PunchModel : public QAbstractTableModel {
+    Q_OBJECT
+
+  public:
+    enum Column { Day, FirstCell, Situation = 8, Total, Columns };
+
+    PunchModel(CartaoPontoDados& command, HalfMonth half, QObject* parent);
+
+    /// The card or its month changed altogether.
+    void refresh();
+    [[nodiscard]] HalfMonth half() const { return half_; }
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                      int role) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+    /// Why the cell cannot be recorded as it stands; empty when it can.
+    [[nodiscard]] QString findingAt(const QModelIndex& index) const;
+
+  signals:
+    void edited();
+
+  private:
+    [[nodiscard]] int dayOf(const QModelIndex& index) const;
+    [[nodiscard]] QString textOf(const QModelIndex& index) const;
+    [[nodiscard]] QString spokenNameOf(const QModelIndex& index) const;
+    [[nodiscard]] QVariant foregroundOf(const QModelIndex& index) const;
+
+    CartaoPontoDados& command_;
+    HalfMonth half_;
+    DayRange days_;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "timecard/cartao_ponto_dados.h"
+
+#include <QFrame>
+
+#include <array>
+
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace winvrx {
+
+/// The standard schedule of the employee chosen: eight times, the weekly and monthly hours.
+class SchedulePanel : public QFrame {
+    Q_OBJECT
+
+  public:
+    explicit SchedulePanel(CartaoPontoDados& command, QWidget* parent = nullptr);
+
+    /// Shows the command's employee and schedule.
+    void refresh();
+
+  signals:
+    void edited();
+    /// "Gravar Horário" was pressed.
+    void saveRequested();
+
+  private:
+    [[nodiscard]] QGridLayout* buildTimes();
+    [[nodiscard]] QLineEdit* buildTime(std::size_t position);
+    void take(std::size_t position);
+    void showTotals();
+    [[nodiscard]] QString employeeFacts() const;
+
+    CartaoPontoDados& command_;
+    QLabel* name_;
+    QLabel* facts_;
+    std::array<QLineEdit*, kScheduleTimes> times_{};
+    QLabel* saturday_ = nullptr;
+    QLabel* weekly_;
+    QLabel* monthly_;
+    QLabel* hint_;
+    QPushButton* save_;
+};
+
+}  // namespace winvrx
