@@ -71,7 +71,7 @@ Hint idHint(IdCheck check, std::string_view name, Entry entry) {
         case IdCheck::Valid:
             return {Hint::Tone::Good, number + " válido"};
         case IdCheck::Wrong:
-            return {Hint::Tone::Warning, number + " não confere: verifique os dígitos."};
+            return {Hint::Tone::Warning, number + " não confere."};
         case IdCheck::TooShort:
             break;
     }

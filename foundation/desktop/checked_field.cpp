@@ -60,6 +60,13 @@ TextField* checkedField(const QString& caption, const QString& objectName, std::
     return field;
 }
 
+void makeReadOnly(TextField& field, const QString& why) {
+    field.edit()->setReadOnly(true);
+    field.edit()->setFrame(false);
+    field.edit()->setFocusPolicy(Qt::NoFocus);
+    field.edit()->setToolTip(why);
+}
+
 QString withMnemonic(std::string_view caption, char letter) {
     QString text = toQt(caption);
     const auto place = text.indexOf(QLatin1Char(letter), 0, Qt::CaseInsensitive);

@@ -15,6 +15,9 @@ enum class FieldCheck { None, Date, Cnpj, Cpf, CnpjOrCpf, Pis };
 [[nodiscard]] TextField* checkedField(const QString& caption, const QString& objectName,
                                       std::size_t width, FieldCheck check, QWidget* parent);
 
+/// Shows what the system fills in: no frame, never in the way of the keyboard.
+void makeReadOnly(TextField& field, const QString& why);
+
 /// The caption with its Alt letter marked: the first `letter` in it, whatever its case. A caption
 /// without the letter comes back as it is.
 [[nodiscard]] QString withMnemonic(std::string_view caption, char letter);

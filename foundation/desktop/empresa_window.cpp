@@ -13,6 +13,7 @@ namespace winvrx {
 EmpresaWindow::EmpresaWindow(Empresa& empresa, QWidget* parent)
     : RegisterWindow({.screen = QStringLiteral("empresa"),
                       .title = QStringLiteral("Registro de Empresas"),
+                      .listTitle = QStringLiteral("Empresas"),
                       .searchHint = QStringLiteral("Pesquisar empresa…"),
                       .emptyList = QStringLiteral("Nenhuma empresa ainda. Preencha o cadastro ao "
                                                   "lado e grave."),

@@ -22,25 +22,27 @@ constexpr int kSearchedRole = Qt::UserRole;
 
 }  // namespace
 
-RegisterList::RegisterList(const QString& screen, const QString& searchHint,
+RegisterList::RegisterList(const QString& screen, const QString& title, const QString& searchHint,
                            const QStringList& headings, QWidget* parent)
     : QWidget(parent) {
     auto* column = new QVBoxLayout(this);
     look::layOutPart(*column);
+    column->addWidget(look::heading(title, this));
     search_ = new SearchBox(screen + QStringLiteral(".search"), searchHint, this);
     column->addWidget(search_);
     pages_ = new QStackedWidget(this);
     column->addWidget(pages_, 1);
-    buildTree(screen, headings);
+    buildTree(screen, title, headings);
     buildEmptyPage(screen);
     search_->serve(tree_);
     connect(search_, &QLineEdit::textChanged, this, &RegisterList::filter);
 }
 
-void RegisterList::buildTree(const QString& screen, const QStringList& headings) {
+void RegisterList::buildTree(const QString& screen, const QString& title,
+                             const QStringList& headings) {
     tree_ = new QTreeWidget(pages_);
     tree_->setObjectName(screen + QStringLiteral(".list"));
-    tree_->setAccessibleName(QStringLiteral("Lista"));
+    tree_->setAccessibleName(title);
     tree_->setHeaderLabels(headings);
     tree_->setRootIsDecorated(false);
     tree_->setUniformRowHeights(true);

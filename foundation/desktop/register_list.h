@@ -28,8 +28,8 @@ class RegisterList : public QWidget {
     };
 
     /// `screen` is the prefix of the object names: "empresa.list", "empresa.search".
-    RegisterList(const QString& screen, const QString& searchHint, const QStringList& headings,
-                 QWidget* parent);
+    RegisterList(const QString& screen, const QString& title, const QString& searchHint,
+                 const QStringList& headings, QWidget* parent);
 
     /// What an empty list says, and the button that it offers.
     void setEmptyTexts(const QString& text, const QString& action);
@@ -54,7 +54,7 @@ class RegisterList : public QWidget {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void buildTree(const QString& screen, const QStringList& headings);
+    void buildTree(const QString& screen, const QString& title, const QStringList& headings);
     void buildEmptyPage(const QString& screen);
     void filter();
     void showPage(bool anyVisible);

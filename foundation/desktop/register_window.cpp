@@ -12,14 +12,14 @@ namespace winvrx {
 
 namespace {
 
-constexpr int kListWidth = 340;
+constexpr int kListWidth = 400;
 constexpr QSize kWindowSize(1240, 690);
 
 }  // namespace
 
 RegisterWindow::RegisterWindow(const Texts& texts, QWidget* parent)
     : ScreenWindow(texts.screen, texts.title, parent) {
-    list_ = new RegisterList(texts.screen, texts.searchHint, texts.headings, this);
+    list_ = new RegisterList(texts.screen, texts.listTitle, texts.searchHint, texts.headings, this);
     list_->setEmptyTexts(texts.emptyList, texts.emptyAction);
     connect(list_, &RegisterList::chosen, this, &RegisterWindow::choose);
     connect(list_, &RegisterList::entered, this, [this] { focusForm(); });

@@ -23,6 +23,7 @@ class RegisterWindow : public ScreenWindow {
     struct Texts {
         QString screen;  ///< prefix of the object names: "empresa"
         QString title;
+        QString listTitle;
         QString searchHint;
         QString emptyList;
         QString emptyAction;

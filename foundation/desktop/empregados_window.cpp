@@ -1,0 +1,118 @@
+#include "foundation/desktop/empregados_window.h"
+
+#include "foundation/desktop/employee_form.h"
+#include "foundation/desktop/qt_text.h"
+#include "foundation/empregados.h"
+
+#include <QKeyEvent>
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+/// "12 ativos", "1 ativo".
+QString counted(std::ptrdiff_t count, const QString& what) {
+    return QStringLiteral("%1 %2%3").arg(count).arg(what,
+                                                    count == 1 ? QString() : QStringLiteral("s"));
+}
+
+}  // namespace
+
+EmpregadosWindow::EmpregadosWindow(Empregados& empregados, QWidget* parent)
+    : RegisterWindow({.screen = QStringLiteral("empregados"),
+                      .title = QStringLiteral("Registro de Funcionários"),
+                      .listTitle = toQt(kEmployeeListTitle),
+                      .searchHint = QStringLiteral("Pesquisar nome, código, função ou CPF…"),
+                      .emptyList = QStringLiteral("Nenhum funcionário ainda. Preencha o cadastro "
+                                                  "ao lado e grave."),
+                      .emptyAction = QStringLiteral("Incluir o primeiro"),
+                      .headings = {QStringLiteral("Código"), QStringLiteral("Nome"),
+                                   QStringLiteral("Função")}},
+                     parent),
+      empregados_(empregados) {
+    form_ = new EmployeeForm(this);
+    connect(form_, &EmployeeForm::edited, this, &EmpregadosWindow::showState);
+    connect(this, &ScreenWindow::helpRequested, this, [this] { empregados_.help(); });
+    assemble(form_, nullptr);
+    empregados_.load();
+    if (!empregados_.companyTitle().empty()) setChips({toQt(empregados_.companyTitle())});
+    refresh(0);
+    focusForm();
+}
+
+std::vector<RegisterList::Row> EmpregadosWindow::rows() const {
+    std::vector<RegisterList::Row> rows;
+    for (const EmployeeLine& line : empregados_.lines()) {
+        const Employee& employee = line.employee;
+        const QString status = employee.status.empty()
+                                   ? QString()
+                                   : QStringLiteral(" (%1)").arg(toQt(employee.status));
+        const QStringList cells = {toQt(employee.code), toQt(employee.name) + status,
+                                   toQt(employee.function)};
+        rows.push_back(
+            {cells, cells.join(QLatin1Char(' ')) + QLatin1Char(' ') + toQt(employee.taxId)});
+    }
+    return rows;
+}
+
+void EmpregadosWindow::showRecord(std::optional<std::size_t> position) {
+    Employee employee;
+    if (position)
+        employee = empregados_.lines().at(*position).employee;
+    else if (const auto code = empregados_.proposedCode())
+        employee.code = code->text();
+    form_->showEmployee(employee, !position);
+    showCounts();
+}
+
+void EmpregadosWindow::showCounts() {
+    const auto& lines = empregados_.lines();
+    const auto inactive = std::count_if(lines.begin(), lines.end(), [](const EmployeeLine& line) {
+        return !line.employee.status.empty();
+    });
+    const auto active = static_cast<std::ptrdiff_t>(lines.size()) - inactive;
+    setSubtitle(counted(active, QStringLiteral("ativo")) + QStringLiteral(", ") +
+                counted(inactive, QStringLiteral("inativo")));
+}
+
+bool EmpregadosWindow::isDirty() const {
+    return form_->isDirty();
+}
+
+void EmpregadosWindow::focusForm() {
+    form_->focusFirst();
+}
+
+QString EmpregadosWindow::newRecordTitle() const {
+    return QStringLiteral("Novo funcionário · * preenchimento obrigatório");
+}
+
+bool EmpregadosWindow::includeTyped() {
+    if (empregados_.include(form_->typed())) return true;
+    form_->focusMissing();
+    return false;
+}
+
+bool EmpregadosWindow::changeTyped(std::size_t position) {
+    if (empregados_.change(position, form_->typed())) return true;
+    form_->focusMissing();
+    return false;
+}
+
+bool EmpregadosWindow::removeRecord(std::size_t position) {
+    return empregados_.remove(position);
+}
+
+bool EmpregadosWindow::mayDiscardTyped() {
+    return empregados_.mayDiscardTyped();
+}
+
+void EmpregadosWindow::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && form_->moveToNextTab()) return;
+    RegisterWindow::keyPressEvent(event);
+}
+
+}  // namespace winvrx
