@@ -256,6 +256,15 @@ TEST_F(CartaoOpened, RecordsAreReadWhenTheirCardsTurnComes) {
     EXPECT_EQ(desk.log.entries.size(), 1U);
 }
 
+TEST_F(CartaoTest, UnreadableRegisterIsToldOnce) {
+    for (const char* name : {"01Empresa", "01CartaPonto"}) {
+        desk.files.failOn = {name};
+        screen.load();
+        EXPECT_EQ(desk.person.takeTexts(), Texts{"Dados incorretos!"}) << name;
+        EXPECT_TRUE(screen.employees().empty());
+    }
+}
+
 TEST_F(CartaoOpened, ProgressCancelsTheRun) {
     EXPECT_FALSE(screen.printAll({.progress = [](int done, int) { return done < 2; }}));
     EXPECT_EQ(printed(), (Texts{"JOSÉ DA SILVA", "ANA PAULA"}));
