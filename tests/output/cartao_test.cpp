@@ -158,15 +158,29 @@ TEST_F(CartaoOpened, OneRunIsOneJobOfSetA) {
     EXPECT_FALSE(request.printHeader);
 }
 
-TEST_F(CartaoOpened, LateralTrayOfRhj) {
-    screen.choices().tray = TrayPosition::Lateral;
-    EXPECT_TRUE(screen.printAll({}));
-    EXPECT_EQ(engine.jobs.at(0).request.layoutName, "RHJleft.rpt");
+TEST_F(CartaoOpened, LayoutFollowsStockTrayAndMode) {
+    struct Case {
+        const char* stock;
+        TrayPosition tray;
+        PrintMode mode;
+        const char* layout;
+    };
+    for (const Case& one :
+         {Case{"20RHJ", TrayPosition::Lateral, PrintMode::OneRun, "RHJleft.rpt"},
+          Case{"10DISNIBRA", TrayPosition::Central, PrintMode::OneRun, "disnibracenter.rpt"},
+          Case{"10DISNIBRA", TrayPosition::Central, PrintMode::OneAtATime, "DISNIBRAcenter.rpt"},
+          Case{"05", TrayPosition::Lateral, PrintMode::OneAtATime, "madisleft.rpt"}}) {
+        desk.file("01CartaoDePontoTipo") = one.stock;
+        screen.load();
+        screen.choices().tray = one.tray;
+        screen.choices().mode = one.mode;
+        desk.person.answers = {Answer::Yes, Answer::Yes};
+        EXPECT_TRUE(screen.printOne(0, {}));
+        EXPECT_EQ(engine.jobs.back().request.layoutName, one.layout);
+    }
 }
 
-TEST_F(CartaoOpened, OneAtATimeIsAJobOfSetBForEachConfirmedCard) {
-    desk.file("01CartaoDePontoTipo") = "10DISNIBRA\r\n";
-    screen.load();
+TEST_F(CartaoOpened, OneAtATimeIsAJobForEachConfirmedCard) {
     screen.choices().mode = PrintMode::OneAtATime;
     struct Case {
         const char* name;
@@ -201,8 +215,6 @@ TEST_F(CartaoOpened, OneAtATimeIsAJobOfSetBForEachConfirmedCard) {
         EXPECT_EQ(desk.person.takeTexts(), one.asked) << one.name;
         EXPECT_EQ(printed(), one.printed) << one.name;
         EXPECT_EQ(engine.jobs.size(), one.printed.size()) << one.name;
-        for (const auto& job : engine.jobs)
-            EXPECT_EQ(job.request.layoutName, "DISNIBRAcenter.rpt");
     }
 }
 
