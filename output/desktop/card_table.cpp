@@ -7,6 +7,8 @@
 #include <QUuid>
 #include <QVariant>
 
+#include <algorithm>
+
 namespace winvrx {
 
 namespace {
@@ -29,6 +31,10 @@ class TableFault : public Fault {
     bool damaged_;
 };
 
+QString places(std::size_t count) {
+    return QStringList(static_cast<qsizetype>(count), QStringLiteral("?")).join(u',');
+}
+
 QString columnList() {
     QStringList names;
     for (const std::string_view column : kCardColumns)
@@ -36,10 +42,29 @@ QString columnList() {
     return names.join(QStringLiteral(", "));
 }
 
+QString selection(const std::vector<std::size_t>& columns, const QString& limit) {
+    QStringList names{QStringLiteral("rowid")};
+    for (const std::size_t column : columns)
+        names << toQt(kCardColumns[column]);
+    return QStringLiteral("SELECT %1 FROM %2 ORDER BY rowid %3")
+        .arg(names.join(QStringLiteral(", ")), toQt(kCardTable), limit);
+}
+
+/// How many leading columns say the same in every row: those of the header block, or none.
+std::size_t sharedColumns(const std::vector<CardRow>& rows) {
+    const auto headerEnd = std::ranges::find(kCardColumns, std::string_view("linha"));
+    const auto count = headerEnd - kCardColumns.begin();
+    const auto sameHeader = [&](const CardRow& row) {
+        return std::equal(row.begin(), row.begin() + count, rows.front().begin());
+    };
+    return std::ranges::all_of(rows, sameHeader) ? static_cast<std::size_t>(count) : 0;
+}
+
 }  // namespace
 
-CardTable::CardTable(std::filesystem::path database)
+CardTable::CardTable(std::filesystem::path database, DrawnColumns drawn)
     : path_(std::move(database)),
+      drawn_(std::move(drawn)),
       connection_(QStringLiteral("cards-") + QUuid::createUuid().toString(QUuid::WithoutBraces)) {
     try {
         openOrReplace();
@@ -72,22 +97,14 @@ void CardTable::open() {
     run(QStringLiteral("PRAGMA synchronous=OFF"));
     run(QStringLiteral("PRAGMA journal_mode=MEMORY"));
     makeTable();
-    const QString places = QStringList(kCardColumns.size(), QStringLiteral("?")).join(u',');
-    insert_ = QSqlQuery(database_);
-    check(insert_.prepare(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                              .arg(toQt(kCardTable), columnList(), places)),
-          insert_);
-    select_ = QSqlQuery(database_);
-    select_.setForwardOnly(true);
-    check(
-        select_.prepare(
-            QStringLiteral("SELECT %1 FROM %2 ORDER BY rowid").arg(columnList(), toQt(kCardTable))),
-        select_);
+    prepare(selectOnce_, selection(drawn_.once, QStringLiteral("LIMIT 1")));
+    prepare(selectRows_, selection(drawn_.inRows, QString()));
 }
 
 void CardTable::close() {
     insert_ = QSqlQuery();
-    select_ = QSqlQuery();
+    selectOnce_ = QSqlQuery();
+    selectRows_ = QSqlQuery();
     database_.close();
     database_ = QSqlDatabase();
     QSqlDatabase::removeDatabase(connection_);
@@ -132,25 +149,58 @@ CardText CardTable::exchange(const std::vector<CardRow>& rows) {
     }
 }
 
+void CardTable::prepare(QSqlQuery& query, const QString& statement) {
+    query = QSqlQuery(database_);
+    query.setForwardOnly(true);
+    check(query.prepare(statement), query);
+}
+
+/// One statement writes a card: binding a value costs more than storing it, so the header values
+/// are bound once for all rows.
+void CardTable::prepareInsert(std::size_t rows, std::size_t shared) {
+    if (rows == insertedRows_ && shared == insertedShared_) return;
+    const QString row = u'(' + places(kCardColumns.size() - shared) + u')';
+    const QString values =
+        QStringLiteral("VALUES ") + QStringList(static_cast<qsizetype>(rows), row).join(u',');
+    const QString source = shared == 0 ? values
+                                       : QStringLiteral("SELECT * FROM (SELECT %1) CROSS JOIN (%2)")
+                                             .arg(places(shared), values);
+    prepare(insert_,
+            QStringLiteral("INSERT INTO %1 (%2) %3").arg(toQt(kCardTable), columnList(), source));
+    insertedRows_ = rows;
+    insertedShared_ = shared;
+}
+
 void CardTable::write(const std::vector<CardRow>& rows) {
     run(QStringLiteral("DELETE FROM %1").arg(toQt(kCardTable)));
-    for (const CardRow& row : rows) {
-        for (std::size_t i = 0; i < row.size(); ++i)
-            insert_.bindValue(static_cast<int>(i), toQt(row[i]));
-        check(insert_.exec(), insert_);
-    }
+    if (rows.empty()) return;
+    const std::size_t shared = sharedColumns(rows);
+    prepareInsert(rows.size(), shared);
+    int place = 0;
+    for (std::size_t i = 0; i < shared; ++i)
+        insert_.bindValue(place++, toQt(rows.front()[i]));
+    for (const CardRow& row : rows)
+        for (std::size_t i = shared; i < row.size(); ++i)
+            insert_.bindValue(place++, toQt(row[i]));
+    check(insert_.exec(), insert_);
 }
 
 CardText CardTable::read() {
-    check(select_.exec(), select_);
     CardText rows;
-    while (select_.next()) {
-        CardTextRow& row = rows.emplace_back();
-        for (std::size_t i = 0; i < row.size(); ++i)
-            row[i] = select_.value(static_cast<int>(i)).toString();
-    }
-    select_.finish();
+    readInto(rows, selectRows_, drawn_.inRows);
+    readInto(rows, selectOnce_, drawn_.once);
     return rows;
+}
+
+void CardTable::readInto(CardText& rows, QSqlQuery& query,
+                         const std::vector<std::size_t>& columns) {
+    check(query.exec(), query);
+    for (std::size_t row = 0; query.next(); ++row) {
+        if (row == rows.size()) rows.emplace_back();
+        for (std::size_t i = 0; i < columns.size(); ++i)
+            rows[row][columns[i]] = query.value(static_cast<int>(i) + 1).toString();
+    }
+    query.finish();
 }
 
 }  // namespace winvrx

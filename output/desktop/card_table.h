@@ -1,6 +1,7 @@
 #pragma once
 
 #include "output/desktop/card_text.h"
+#include "output/desktop/layout.h"
 
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -16,13 +17,14 @@ namespace winvrx {
 /// All functions throw Fault, naming the file.
 class CardTable {
   public:
-    explicit CardTable(std::filesystem::path database);
+    /// `drawn` says which columns are read back.
+    CardTable(std::filesystem::path database, DrawnColumns drawn);
     ~CardTable();
     CardTable(const CardTable&) = delete;
     CardTable& operator=(const CardTable&) = delete;
 
-    /// Makes `rows` the table's content and gives back what the table holds then. No other program
-    /// on a shared folder can come between the two.
+    /// Makes `rows` the table's content and gives back what the table holds then, in the drawn
+    /// columns. No other program on a shared folder can come between the two.
     [[nodiscard]] CardText exchange(const std::vector<CardRow>& rows);
 
   private:
@@ -32,14 +34,21 @@ class CardTable {
     void makeTable();
     void run(const QString& statement);
     void check(bool done, const QSqlQuery& query) const;
+    void prepare(QSqlQuery& query, const QString& statement);
+    void prepareInsert(std::size_t rows, std::size_t shared);
     void write(const std::vector<CardRow>& rows);
     [[nodiscard]] CardText read();
+    void readInto(CardText& rows, QSqlQuery& query, const std::vector<std::size_t>& columns);
 
     std::filesystem::path path_;
+    DrawnColumns drawn_;
     QString connection_;
     QSqlDatabase database_;
     QSqlQuery insert_;
-    QSqlQuery select_;
+    std::size_t insertedRows_ = 0;
+    std::size_t insertedShared_ = 0;
+    QSqlQuery selectOnce_;
+    QSqlQuery selectRows_;
 };
 
 }  // namespace winvrx

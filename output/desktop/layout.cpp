@@ -4,6 +4,8 @@
 
 #include <QFile>
 
+#include <algorithm>
+
 namespace winvrx {
 
 namespace {
@@ -25,7 +27,30 @@ std::string listed(const std::vector<std::filesystem::path>& folders) {
     return text;
 }
 
+void collect(const LayoutText& text, std::vector<std::size_t>& columns) {
+    for (const LayoutText::Piece& piece : text.pieces)
+        if (piece.column) columns.push_back(*piece.column);
+    columns.insert(columns.end(), text.unless.begin(), text.unless.end());
+}
+
+void makeUnique(std::vector<std::size_t>& columns) {
+    std::ranges::sort(columns);
+    const auto repeated = std::ranges::unique(columns);
+    columns.erase(repeated.begin(), repeated.end());
+}
+
 }  // namespace
+
+DrawnColumns drawnColumns(const Layout& layout) {
+    DrawnColumns columns;
+    for (const LayoutSection& section : layout.sections)
+        for (const LayoutMark& mark : section.marks)
+            if (const auto* text = std::get_if<LayoutText>(&mark))
+                collect(*text, section.rows > 0 ? columns.inRows : columns.once);
+    makeUnique(columns.once);
+    makeUnique(columns.inRows);
+    return columns;
+}
 
 LayoutFault::LayoutFault(const std::string& file, const std::string& cause)
     : Fault(file + ": " + cause, "O layout " + file + " não pôde ser aberto.") {}

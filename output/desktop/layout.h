@@ -83,12 +83,20 @@ struct LayoutSection {
     std::vector<LayoutMark> marks;
 };
 
+/// The columns that a layout draws, each named once.
+struct DrawnColumns {
+    std::vector<std::size_t> once;    ///< of the card's first row
+    std::vector<std::size_t> inRows;  ///< of every row
+};
+
 struct Layout {
     QSizeF page;          ///< millimetres
     double rowPitch = 0;  ///< what one line of the alignment's line offset moves
     std::vector<Ink> inks;
     std::vector<LayoutSection> sections;
 };
+
+[[nodiscard]] DrawnColumns drawnColumns(const Layout& layout);
 
 /// A layout that is missing or damaged. `what()` reads "tilibcenter.rpt:12: cause".
 class LayoutFault : public Fault {

@@ -113,8 +113,12 @@ void PreviewWindow::zoomToPage() {
     showZoom();
 }
 
+/// What was in the middle stays there.
 void PreviewWindow::showZoom() {
+    QScrollBar* across = scroll_->horizontalScrollBar();
+    const double middle = (across->value() + across->pageStep() / 2.0) / view_->width();
     view_->setZoom(zoom_);
+    across->setValue(qRound(middle * view_->width() - across->pageStep() / 2.0));
     setSubtitle(QStringLiteral("Tamanho na tela: %1 %").arg(std::lround(zoom_ * 100)));
 }
 
@@ -136,7 +140,7 @@ void PreviewWindow::wheelEvent(QWheelEvent* event) {
         ScreenWindow::wheelEvent(event);
 }
 
-/// The card lies at the top of the sheet and in the middle of its width.
+/// Cards lie in the middle of a sheet's width more often than at its edge.
 void PreviewWindow::showEvent(QShowEvent* event) {
     ScreenWindow::showEvent(event);
     QScrollBar* across = scroll_->horizontalScrollBar();

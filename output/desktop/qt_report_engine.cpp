@@ -93,7 +93,7 @@ ReportResult QtReportEngine::attempt(const std::function<ReportResult()>& run) {
 ReportResult QtReportEngine::run(const ReportRequest& request, const CardSource& cards,
                                  const CardProgress& progress) {
     const Layout layout = loadLayout(places_.layoutFolders(), request.layoutName);
-    CardTable table(places_.database());
+    CardTable table(places_.database(), drawnColumns(layout));
     const Pages pages = [&]() -> std::optional<CardText> {
         const auto rows = callBack(cards);
         return rows ? std::optional(table.exchange(*rows)) : std::nullopt;
