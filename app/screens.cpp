@@ -5,9 +5,13 @@
 #include "foundation/desktop/empresa_window.h"
 #include "foundation/desktop/qt_text.h"
 #include "foundation/employee_register.h"
+#include "foundation/empregados.h"
+#include "foundation/empresa.h"
 #include "output/card_stock.h"
+#include "output/cartao.h"
 #include "output/desktop/cartao_window.h"
 #include "output/desktop/tipo_ponto_window.h"
+#include "output/tipo_ponto.h"
 #include "timecard/desktop/cartao_ponto_dados_window.h"
 #include "timecard/desktop/data_mes_corrente_window.h"
 #include "timecard/punch_record.h"
@@ -35,32 +39,44 @@ void Screens::openEmployees(QWidget* parent) {
     EmpregadosWindow(employees, parent).exec();
 }
 
+void Screens::show(ScreenWindow& window) {
+    QObject::connect(&window, &ScreenWindow::helpRequested, &window,
+                     [this] { openHelp(at_, browser_); });
+    window.exec();
+}
+
 void Screens::openWorkMonth(QWidget* parent) {
     DataMesCorrente month(at_);
     month.open();
-    DataMesCorrenteWindow(month, browser_, parent).exec();
+    DataMesCorrenteWindow window(month, parent);
+    show(window);
 }
 
 void Screens::openTimeCard(QWidget* parent) {
     CartaoPontoDados card(at_);
-    CartaoPontoDadosWindow(
-        card, browser_, [this](QWidget* over) { openWorkMonth(over); }, parent)
-        .exec();
+    if (!card.open()) return;
+    CartaoPontoDadosWindow window(card, parent);
+    QObject::connect(&window, &CartaoPontoDadosWindow::monthSettingsRequested, &window, [&] {
+        openWorkMonth(&window);
+        if (card.open()) window.refresh();
+    });
+    show(window);
 }
 
 void Screens::openCards(QWidget* parent, bool preview) {
     Cartao cards(at_, engine_);
     cards.choices().output = preview ? ReportOutput::Preview : ReportOutput::Printer;
-    CartaoWindow(cards,
-                 {.openStocks = [this](QWidget* over) { openStocks(over); },
-                  .openWorkMonth = [this](QWidget* over) { openWorkMonth(over); }},
-                 parent)
-        .exec();
+    CartaoWindow window(cards,
+                        {.openStocks = [this](QWidget* over) { openStocks(over); },
+                         .openWorkMonth = [this](QWidget* over) { openWorkMonth(over); }},
+                        parent);
+    show(window);
 }
 
 void Screens::openStocks(QWidget* parent) {
     TipoPonto stocks(at_);
-    TipoPontoWindow(stocks, parent).exec();
+    TipoPontoWindow window(stocks, parent);
+    show(window);
 }
 
 std::optional<Screens::Progress> Screens::progress() const {

@@ -1,5 +1,7 @@
 #include "foundation/command.h"
 
+#include "foundation/browser.h"
+
 namespace winvrx {
 
 Message incorrectData() {
@@ -15,6 +17,10 @@ void reportFailure(const Workplace& at, Message message, const std::exception& f
     at.log.write(message.title + ": " + message.text + " " + fault.what());
     message.detail = explanationOf(fault);
     at.person.tell(message);
+}
+
+void openHelp(const Workplace& at, Browser& browser) {
+    if (!browser.openHelp()) at.person.tell({"Erro", "Ocorreu Erro", Icon::Exclamation});
 }
 
 }  // namespace winvrx

@@ -11,6 +11,8 @@
 
 namespace winvrx {
 
+class Browser;
+
 /// What every command works with. The referred objects outlive all commands.
 struct Workplace {
     FileSystem& files;
@@ -29,6 +31,9 @@ struct Workplace {
 
 /// Logs the cause and tells the operator `message` with one sentence on what happened.
 void reportFailure(const Workplace& at, Message message, const std::exception& fault);
+
+/// Opens the help page; "Ocorreu Erro" when no browser shows it.
+void openHelp(const Workplace& at, Browser& browser);
 
 /// Runs a command under its catch-all. `work` returns whether the command was carried out; a fault
 /// on the way is logged and told, and counts as not carried out.

@@ -20,7 +20,6 @@ const Message kConfirmChange{"ALTERAÇÃO", "Confirma Alteração deste ITEM?", 
 const Message kConfirmDelete{"EXCLUSÃO",
                              "Deseja Excluir o ìtem Selecionado da LISTA DE FUNCIONARIOS?",
                              Icon::Exclamation, Buttons::YesNo};
-const Message kHelpFailed{"Erro", "Ocorreu Erro", Icon::Exclamation};
 
 Message withDetail(Message message, std::string detail) {
     message.detail = std::move(detail);
@@ -138,7 +137,7 @@ bool Empregados::mayDiscardTyped() {
 }
 
 void Empregados::help() {
-    if (!browser_.openHelp()) at_.person.tell(kHelpFailed);
+    openHelp(at_, browser_);
 }
 
 EmployeeRegister Empregados::employeeRegister() const {

@@ -28,7 +28,6 @@ const Message kDeletesEmployees{
     Icon::Exclamation, Buttons::YesNo};
 const Message kCertain{"EXCLUIR", "Tem Certeza que Deseja Excluir o Item Selecionado?",
                        Icon::Exclamation, Buttons::YesNo};
-const Message kHelpFailed{"Erro", "Ocorreu Erro", Icon::Exclamation};
 
 constexpr auto kChangedElsewhere =
     "O cadastro foi alterado por outro computador. Abra a tela novamente.";
@@ -126,7 +125,7 @@ bool Empresa::mayDiscardTyped() {
 }
 
 void Empresa::help() {
-    if (!browser_.openHelp()) at_.person.tell(kHelpFailed);
+    openHelp(at_, browser_);
 }
 
 void Empresa::save(std::vector<CompanyLine> lines) {

@@ -211,7 +211,7 @@ void Menu::discardEarlier(const std::filesystem::path& earlier) {
 }
 
 void Menu::openHelp() {
-    if (!browser_.openHelp()) at_.person.tell(kFailure);
+    winvrx::openHelp(at_, browser_);
 }
 
 void Menu::exit() {
