@@ -66,7 +66,10 @@ Message inPunchEntry(Message message) {
 
 }  // namespace
 
-CartaoPontoDados::CartaoPontoDados(const Workplace& at) : at_(at) {}
+CartaoPontoDados::CartaoPontoDados(const Workplace& at) : at_(at) {
+    settings_.month = monthOf(at_.clock.today());
+    sheet_ = CardSheet(blankMonth(settings_.month));
+}
 
 bool CartaoPontoDados::open() {
     return attempt(at_, incorrectData(), [this] {

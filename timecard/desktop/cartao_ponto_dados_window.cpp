@@ -24,7 +24,13 @@ namespace {
 
 constexpr std::array kShiftFilters = {ShiftFilter::Todos, ShiftFilter::Unico, ShiftFilter::Um,
                                       ShiftFilter::Dois, ShiftFilter::Tres};
-constexpr int kListWidth = 256;
+constexpr int kNarrowestList = 216;
+constexpr int kWidestList = 320;
+const QString kNoEmployees = QStringLiteral(
+    "Nenhum funcionário neste turno. Escolha outro turno acima ou inclua funcionários no "
+    "cadastro.");
+const QString kNoMonth = QStringLiteral(
+    "Escolha primeiro o mês de trabalho em \"Configurações Feriados e Horas extras\" (F7).");
 
 QString nameOf(HalfMonth half) {
     return half == HalfMonth::First ? QStringLiteral("1º Quinzena") : QStringLiteral("2º Quinzena");
@@ -36,17 +42,27 @@ HalfMonth otherThan(HalfMonth half) {
 
 }  // namespace
 
-CartaoPontoDadosWindow::CartaoPontoDadosWindow(CartaoPontoDados& command, QWidget* parent)
+CartaoPontoDadosWindow::CartaoPontoDadosWindow(CartaoPontoDados& command, Browser& browser,
+                                               std::function<void(QWidget*)> openWorkMonth,
+                                               QWidget* parent)
     : ScreenWindow(QStringLiteral("cartaoPontoDados"), QStringLiteral("Aplicação de Ponto"),
                    parent),
-      command_(command) {
+      command_(command),
+      browser_(browser),
+      openWorkMonth_(std::move(openWorkMonth)) {
     setBody(buildBody());
     buildCommands();
     connectList();
     addEmployeeKeys();
-    if (!command_.selected() && !command_.employees().empty()) (void)command_.select(0);
-    refresh();
+    connect(this, &ScreenWindow::helpRequested, this, &CartaoPontoDadosWindow::openHelp);
+    openCommand();
     list_->setFocus();
+}
+
+void CartaoPontoDadosWindow::openCommand() {
+    const bool opened = command_.open();
+    if (opened && !command_.selected() && !command_.employees().empty()) (void)command_.select(0);
+    refresh();
 }
 
 QWidget* CartaoPontoDadosWindow::buildBody() {
@@ -54,14 +70,15 @@ QWidget* CartaoPontoDadosWindow::buildBody() {
     auto* row = new QHBoxLayout(body);
     look::layOutBody(*row);
     row->setSpacing(look::kMargin);
-    row->addWidget(buildList());
-    row->addWidget(buildCard(), 1);
+    row->addWidget(buildList(), 1);
+    row->addWidget(buildCard(), 4);
     return body;
 }
 
 QWidget* CartaoPontoDadosWindow::buildList() {
     auto* widget = new QWidget(this);
-    widget->setFixedWidth(kListWidth);
+    widget->setMinimumWidth(kNarrowestList);
+    widget->setMaximumWidth(kWidestList);
     auto* column = new QVBoxLayout(widget);
     look::layOutPart(*column);
     shift_ = new QComboBox(widget);
@@ -86,10 +103,8 @@ QWidget* CartaoPontoDadosWindow::buildList() {
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     search_->serve(list_);
     column->addWidget(list_, 1);
-    emptyHint_ = look::label(
-        QStringLiteral("Nenhum funcionário neste turno. Escolha outro turno acima ou inclua "
-                       "funcionários no cadastro."),
-        look::TextSize::Hint, widget);
+    emptyHint_ = look::label(QString(), look::TextSize::Hint, widget);
+    emptyHint_->setObjectName(QStringLiteral("card.emptyHint"));
     emptyHint_->setWordWrap(true);
     column->addWidget(emptyHint_);
     return widget;
@@ -204,7 +219,7 @@ CartaoPontoDadosWindow::HalfWidgets& CartaoPontoDadosWindow::half(HalfMonth half
 
 bool CartaoPontoDadosWindow::isWide() const {
     const int grids = 2 * halves_[0].grid->comfortableWidth();
-    return width() >= kListWidth + grids + 3 * look::kMargin + look::kGap;
+    return width() >= kWidestList + grids + 3 * look::kMargin + look::kGap;
 }
 
 void CartaoPontoDadosWindow::showHalf(HalfMonth half) {
@@ -228,10 +243,10 @@ void CartaoPontoDadosWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void CartaoPontoDadosWindow::refresh() {
-    setChips({toQt(command_.company() ? command_.company()->text() : "") + QLatin1Char(' ') +
-                  toQt(command_.companyName()),
-              toQt(monthTitle(command_.settings().month)),
-              QStringLiteral("Turno: ") + toQt(codeOf(command_.filter()))});
+    if (command_.company())
+        setChips({toQt(command_.company()->text() + " " + command_.companyName()),
+                  toQt(monthTitle(command_.settings().month)),
+                  QStringLiteral("Turno: ") + toQt(codeOf(command_.filter()))});
     showList();
     showCard();
 }
@@ -246,6 +261,8 @@ void CartaoPontoDadosWindow::showList() {
     list_->setCurrentRow(static_cast<int>(command_.selectedPosition().value_or(0)));
     const bool empty = command_.employees().empty();
     emptyHint_->setVisible(empty);
+    emptyHint_->setText(command_.company() ? kNoEmployees : kNoMonth);
+    shift_->setEnabled(command_.company().has_value());
     filterList(search_->text());
 }
 
@@ -301,6 +318,10 @@ void CartaoPontoDadosWindow::showState() {
         setState(command_.selected() ? QStringLiteral("Ponto gravado") : QString());
 }
 
+void CartaoPontoDadosWindow::openHelp() {
+    if (!browser_.openHelp()) setState(QStringLiteral("⚠ Não foi possível abrir a ajuda"));
+}
+
 void CartaoPontoDadosWindow::apply() {
     (void)command_.applyPunches();
     showCard();
@@ -313,9 +334,8 @@ void CartaoPontoDadosWindow::save() {
 
 void CartaoPontoDadosWindow::changeMonth() {
     if (!command_.mayLeave()) return;
-    emit monthSettingsRequested();
-    (void)command_.open();
-    refresh();
+    openWorkMonth_(this);
+    openCommand();
 }
 
 bool CartaoPontoDadosWindow::mayClose() {

@@ -4,49 +4,23 @@
 #include "foundation/desktop/qt_text.h"
 #include "foundation/text.h"
 #include "timecard/desktop/holiday_grid.h"
-#include "timecard/desktop/wrapped_check_box.h"
+#include "timecard/desktop/month_rules_panel.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGridLayout>
-#include <QIntValidator>
+#include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QScrollArea>
 #include <QSignalBlocker>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace winvrx {
 
 namespace {
-
-const QString kTolerance = QStringLiteral(
-    "Art. 58  § 1o Não serão descontadas nem computadas como jornada extraordinária as variações "
-    "de horário no registro de ponto não excedentes de 5 minutos, observado o limite máximo de 10 "
-    "minutos diários. ");
-
-/// How a number stands on the screen, in the order of kMonthNumberFields.
-struct NumberText {
-    const char* objectName;
-    const char* label;
-    const char* suffix;
-};
-constexpr std::array<NumberText, kMonthNumberFields.size()> kNumberTexts = {{
-    {"month.minimumPercent", "Hora Extra Índice Mí&nimo:", "%"},
-    {"month.maximumPercent", "Hora Extra Índice Má&ximo:", "%"},
-    {"month.nightMinimumPercent", "Hora Extra N&oturna Mínima:", "%"},
-    {"month.nightMaximumPercent", "Hora Extra Noturna Máx&ima:", "%"},
-    {"month.thresholdHours", "&Limite diário:", "Horas"},
-    {"month.closingDay", "", ""},
-}};
-constexpr std::size_t kThreshold = 4;
-constexpr std::size_t kClosingDay = 5;
-constexpr int kLongestNumber = 3;
-constexpr int kColumnsOfNumber = 3;
 
 QVBoxLayout* columnIn(QWidget* widget) {
     auto* column = new QVBoxLayout(widget);
@@ -54,17 +28,14 @@ QVBoxLayout* columnIn(QWidget* widget) {
     return column;
 }
 
-void addGroup(QVBoxLayout& column, const QString& caption, QWidget* parent) {
-    if (column.count() > 0) column.addSpacing(look::kGap);
-    column.addWidget(look::heading(caption, parent));
-}
-
 }  // namespace
 
-DataMesCorrenteWindow::DataMesCorrenteWindow(DataMesCorrente& command, QWidget* parent)
+DataMesCorrenteWindow::DataMesCorrenteWindow(DataMesCorrente& command, Browser& browser,
+                                             QWidget* parent)
     : ScreenWindow(QStringLiteral("dataMesCorrente"),
                    QStringLiteral("Configurações Horas Extras - Mes de Trabalho"), parent),
-      command_(command) {
+      command_(command),
+      browser_(browser) {
     setBody(buildBody());
     QToolButton* record = addCommand(QStringLiteral("save"), QStringLiteral("Gravar"),
                                      QKeySequence::Save, QStringLiteral("month.record"));
@@ -76,8 +47,7 @@ DataMesCorrenteWindow::DataMesCorrenteWindow(DataMesCorrente& command, QWidget* 
     QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("month.close"));
     connect(close, &QPushButton::clicked, this, &DataMesCorrenteWindow::reject);
     connectMonth();
-    connectRules();
-    command_.open();
+    connect(this, &ScreenWindow::helpRequested, this, &DataMesCorrenteWindow::openHelp);
     showMonth();
     month_->setFocus();
 }
@@ -88,7 +58,9 @@ QWidget* DataMesCorrenteWindow::buildBody() {
     look::layOutBody(*row);
     row->setSpacing(look::kGroupGap);
     row->addWidget(buildMonthColumn(), 2);
-    row->addWidget(buildRulesColumn(), 3);
+    rules_ = new MonthRulesPanel(command_, page);
+    connect(rules_, &MonthRulesPanel::edited, this, &DataMesCorrenteWindow::showState);
+    row->addWidget(rules_, 3);
     auto* scroll = new QScrollArea(this);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
@@ -171,117 +143,6 @@ QWidget* DataMesCorrenteWindow::buildHolidayList() {
     return widget;
 }
 
-QWidget* DataMesCorrenteWindow::buildRulesColumn() {
-    auto* widget = new QWidget(this);
-    QVBoxLayout* column = columnIn(widget);
-    addClosing(*column);
-    addOvertime(*column);
-    addTotals(*column);
-    column->addStretch();
-    QLabel* tolerance = look::label(kTolerance, look::TextSize::Hint, widget);
-    tolerance->setObjectName(QStringLiteral("month.tolerance"));
-    tolerance->setWordWrap(true);
-    column->addWidget(tolerance);
-    return widget;
-}
-
-QRadioButton* DataMesCorrenteWindow::addChoice(const QString& caption, const QString& objectName) {
-    auto* choice = new QRadioButton(caption, this);
-    choice->setObjectName(objectName);
-    choice->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
-    return choice;
-}
-
-void DataMesCorrenteWindow::addClosing(QVBoxLayout& column) {
-    addGroup(column, QStringLiteral("Fechamento do ponto (Início)"), this);
-    fixedMonth_ = addChoice(QStringLiteral("Mês &Fixo"), QStringLiteral("month.fixedMonth"));
-    startDay_ = addChoice(QStringLiteral("Iníciar todo &dia:"), QStringLiteral("month.startDay"));
-    auto* group = new QButtonGroup(this);
-    group->addButton(fixedMonth_);
-    group->addButton(startDay_);
-    auto* grid = new QGridLayout;
-    grid->setSpacing(look::kGap);
-    grid->addWidget(fixedMonth_, 0, 0);
-    grid->addWidget(startDay_, 0, 1);
-    addNumber(*grid, 0, 2, kClosingDay);
-    grid->setColumnStretch(kColumnsOfNumber + 2, 1);
-    column.addLayout(grid);
-}
-
-void DataMesCorrenteWindow::addNumber(QGridLayout& grid, int row, int column, std::size_t field) {
-    const NumberText& text = kNumberTexts[field];
-    auto* edit = new QLineEdit(this);
-    edit->setObjectName(QString::fromUtf8(text.objectName));
-    edit->setAccessibleName(toQt(kMonthNumberFields[field].caption));
-    edit->setMaxLength(kLongestNumber);
-    edit->setAlignment(Qt::AlignRight);
-    edit->setFont(look::fixedFont());
-    edit->setMaximumWidth(edit->fontMetrics().horizontalAdvance(QLatin1Char('0')) * 8);
-    QLabel* label = look::label(QString::fromUtf8(text.label), look::TextSize::Body, this);
-    label->setBuddy(edit);
-    QLabel* hint = look::label(QString(), look::TextSize::Hint, this);
-    hint->setObjectName(edit->objectName() + QStringLiteral(".hint"));
-    QPalette colors = palette();
-    colors.setColor(QPalette::PlaceholderText, look::color(look::Tint::Warning, colors));
-    hint->setPalette(colors);
-    grid.addWidget(label, row, column);
-    grid.addWidget(edit, row, column + 1);
-    grid.addWidget(look::label(QString::fromUtf8(text.suffix), look::TextSize::Body, this), row,
-                   column + 2);
-    grid.addWidget(hint, row + 1, column, 1, kColumnsOfNumber);
-    numbers_[field] = {edit, hint};
-}
-
-void DataMesCorrenteWindow::addOvertime(QVBoxLayout& column) {
-    addGroup(column, QStringLiteral("Configurações de Horas Extras:"), this);
-    differentiated_ = new WrappedCheckBox(QStringLiteral("month.differentiated"), this);
-    column.addWidget(differentiated_);
-    auto* grid = new QGridLayout;
-    grid->setSpacing(look::kSmallGap);
-    grid->setHorizontalSpacing(look::kGap);
-    for (std::size_t field = 0; field < kThreshold; ++field) {
-        const int place = static_cast<int>(field);
-        addNumber(*grid, place / 2 * 2, place % 2 * (kColumnsOfNumber + 1), field);
-    }
-    addNumber(*grid, 4, 0, kThreshold);
-    grid->setColumnMinimumWidth(kColumnsOfNumber, look::kGroupGap);
-    grid->setColumnStretch(kColumnsOfNumber * 2 + 1, 1);
-    column.addLayout(grid);
-    bothLevels_ =
-        addChoice(QStringLiteral("Usar as &2 (duas) Opções de Horas Extras Minima e Máxima"),
-                  QStringLiteral("month.bothLevels"));
-    singleLevel_ =
-        addChoice(QStringLiteral("Usar Somente &1 (um) Unico Percentual de Horas Extras para 100%"),
-                  QStringLiteral("month.singleLevel"));
-    auto* group = new QButtonGroup(this);
-    for (QRadioButton* choice : {bothLevels_, singleLevel_}) {
-        group->addButton(choice);
-        column.addWidget(choice);
-    }
-    modeNotice_ = look::label(QString(), look::TextSize::Hint, this);
-    modeNotice_->setObjectName(QStringLiteral("month.modeNotice"));
-    modeNotice_->setWordWrap(true);
-    column.addWidget(modeNotice_);
-}
-
-void DataMesCorrenteWindow::addTotals(QVBoxLayout& column) {
-    addGroup(column, QStringLiteral("Opções de Formatação do Resultado Resumo Horas:"), this);
-    clockTotals_ =
-        addChoice(QStringLiteral("Formatação &Hora: 09:16"), QStringLiteral("month.clockTotals"));
-    decimalTotals_ = addChoice(QStringLiteral("Formatação Decim&al: 8,76"),
-                               QStringLiteral("month.decimalTotals"));
-    auto* group = new QButtonGroup(this);
-    auto* row = new QHBoxLayout;
-    look::layOutPart(*row);
-    for (QRadioButton* choice : {clockTotals_, decimalTotals_}) {
-        group->addButton(choice);
-        row->addWidget(choice);
-        row->addSpacing(look::kGroupGap);
-    }
-    row->addStretch();
-    column.addLayout(row);
-}
-
 void DataMesCorrenteWindow::connectMonth() {
     connect(month_, &QComboBox::activated, this, [this](int place) {
         (void)command_.chooseMonth(command_.months().at(static_cast<std::size_t>(place)));
@@ -295,32 +156,6 @@ void DataMesCorrenteWindow::connectMonth() {
     connect(recordTicks_, &QCheckBox::toggled, this, [this](bool on) {
         command_.setRecordTicks(on);
         showState();
-    });
-}
-
-void DataMesCorrenteWindow::connectRules() {
-    for (std::size_t field = 0; field < numbers_.size(); ++field)
-        connect(numbers_[field].edit, &QLineEdit::textEdited, this,
-                [this, field](const QString& text) {
-                    command_.type(kMonthNumberFields[field], toUtf8(text));
-                    if (field == kClosingDay) startDay_->setChecked(true);
-                    showRules();
-                });
-    connect(fixedMonth_, &QRadioButton::toggled, this, [this](bool on) {
-        command_.setFixedMonth(on);
-        showRules();
-    });
-    connect(differentiated_->box(), &QCheckBox::toggled, this, [this](bool on) {
-        command_.setDifferentiatedPercent(on);
-        showRules();
-    });
-    connect(bothLevels_, &QRadioButton::toggled, this, [this](bool on) {
-        command_.setMode(on ? OvertimeMode::BothLevels : OvertimeMode::SingleLevel);
-        showRules();
-    });
-    connect(clockTotals_, &QRadioButton::toggled, this, [this](bool on) {
-        command_.setTotalsFormat(on ? TotalsFormat::HoursAndMinutes : TotalsFormat::DecimalHours);
-        showRules();
     });
 }
 
@@ -340,21 +175,10 @@ void DataMesCorrenteWindow::showMonth() {
     reference_->setChecked(command_.refersToPresentMonth());
     heading_->setText(toQt(command_.holidayHeading()));
     setChips({toQt(command_.monthCaption())});
-    const MonthSettings& settings = command_.settings();
-    // Each choice is shown before any of them reports back what the others still show.
-    const QSignalBlocker quiet[] = {QSignalBlocker(recordTicks_), QSignalBlocker(fixedMonth_),
-                                    QSignalBlocker(bothLevels_), QSignalBlocker(clockTotals_),
-                                    QSignalBlocker(differentiated_->box())};
-    recordTicks_->setChecked(settings.recordTicks);
-    (settings.fixedMonth ? fixedMonth_ : startDay_)->setChecked(true);
-    (settings.mode == OvertimeMode::BothLevels ? bothLevels_ : singleLevel_)->setChecked(true);
-    const bool clock = settings.totalsFormat == TotalsFormat::HoursAndMinutes;
-    (clock ? clockTotals_ : decimalTotals_)->setChecked(true);
-    differentiated_->box()->setChecked(settings.differentiatedPercent);
-    for (std::size_t field = 0; field < numbers_.size(); ++field)
-        numbers_[field].edit->setText(toQt(command_.numbers().*kMonthNumberFields[field].typed));
+    const QSignalBlocker quiet(recordTicks_);
+    recordTicks_->setChecked(command_.settings().recordTicks);
+    rules_->refresh();
     showHolidays();
-    showRules();
 }
 
 void DataMesCorrenteWindow::showHolidays() {
@@ -370,19 +194,12 @@ void DataMesCorrenteWindow::showHolidays() {
     showState();
 }
 
-void DataMesCorrenteWindow::showRules() {
-    differentiated_->setCaption(toQt(command_.differentiatedCaption()));
-    modeNotice_->setText(toQt(command_.modeNotice()));
-    for (std::size_t field = 0; field < numbers_.size(); ++field) {
-        const std::string finding = command_.findingOf(kMonthNumberFields[field]);
-        numbers_[field].hint->setText(finding.empty() ? QString()
-                                                      : QStringLiteral("⚠ ") + toQt(finding));
-    }
-    showState();
-}
-
 void DataMesCorrenteWindow::showState() {
     setState(command_.changed() ? QStringLiteral("Alterações não gravadas") : QString());
+}
+
+void DataMesCorrenteWindow::openHelp() {
+    if (!browser_.openHelp()) setState(QStringLiteral("⚠ Não foi possível abrir a ajuda"));
 }
 
 void DataMesCorrenteWindow::recordMonth() {

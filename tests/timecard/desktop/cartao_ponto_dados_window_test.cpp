@@ -1,0 +1,191 @@
+#include "timecard/desktop/cartao_ponto_dados_window.h"
+
+#include "foundation/company.h"
+#include "tests/support/driven_window.h"
+#include "tests/support/test_browser.h"
+#include "tests/support/test_workplace.h"
+#include "timecard/desktop/punch_grid.h"
+#include "timecard/selected_month.h"
+
+#include <gmock/gmock.h>
+#include <QListWidget>
+
+namespace winvrx {
+namespace {
+
+using testing::DrivenWindow;
+using testing::TestBrowser;
+using testing::TestWorkplace;
+
+const std::string kPunches = "01001-03-2024.bdx";
+
+/// The window over March 2024 with two employees.
+struct CardWindow : ::testing::Test {
+    TestWorkplace desk;
+    TestBrowser browser;
+    CartaoPontoDados command{desk.at};
+    int monthOpened = 0;
+    std::unique_ptr<DrivenWindow<CartaoPontoDadosWindow>> driven;
+
+    void SetUp() override {
+        Employee ana;
+        ana.code = "001";
+        ana.name = "ANA";
+        Employee jose;
+        jose.code = "002";
+        jose.name = "JOSÉ";
+        jose.shift = "Dois";
+        desk.file("01CartaPonto") = joinedLines({encode(ana), encode(jose)});
+        desk.file("01PadrHor001.pdx") = "08:0012:0013:0017:00";
+        chooseMonth();
+    }
+
+    void chooseMonth() {
+        saveSelectedMonth(desk.files, desk.session.folder,
+                          {*parseMonthKey("03-2024"), ShiftFilter::Todos});
+    }
+
+    void open() {
+        driven = std::make_unique<DrivenWindow<CartaoPontoDadosWindow>>(
+            command, browser, [this](QWidget*) { ++monthOpened; });
+    }
+
+    [[nodiscard]] PunchGrid& grid(int half) {
+        return driven->get<PunchGrid>(half == 1 ? "card.half1" : "card.half2");
+    }
+    [[nodiscard]] std::string cell(int half, int row, int column) {
+        return grid(half).model()->index(row, column).data().toString().toStdString();
+    }
+    /// Types into the cell under the cursor and ends with `key`.
+    void enter(const char* text, Qt::Key key = Qt::Key_Return) {
+        for (const char* c = text; *c; ++c) {
+            QWidget* focus = QApplication::focusWidget();
+            QTest::keyClick(focus, *c);
+        }
+        driven->press(key);
+        QCoreApplication::processEvents();
+    }
+};
+
+TEST_F(CardWindow, TypingFillsCellAfterCellAndRowAfterRow) {
+    open();
+    grid(1).goToStart();
+    for (const char* typed : {"8", "1200", "13:0", "17,30", "", "", "", ""})
+        enter(typed);
+    EXPECT_EQ(cell(1, 0, 1), "08:00");
+    EXPECT_EQ(cell(1, 0, 2), "12:00");
+    EXPECT_EQ(cell(1, 0, 3), "13:00");
+    EXPECT_EQ(cell(1, 0, 4), "17:30");
+    EXPECT_EQ(cell(1, 0, PunchModel::Total), "08:30");
+    EXPECT_EQ(driven->text("card.heading1"), "1º Quinzena  ·  08:30");
+    EXPECT_EQ(grid(1).currentIndex(), grid(1).model()->index(1, 1));
+    driven->press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_THAT(desk.file(kPunches), ::testing::HasSubstr("\r\n01/sex/mar08:0012:0013:0017:30"));
+    EXPECT_EQ(driven->text("state"), "Ponto gravado");
+}
+
+TEST_F(CardWindow, TheTabKeyMovesOnWhenItIsChosen) {
+    open();
+    driven->click("card.useTab");
+    grid(1).goToStart();
+    enter("8", Qt::Key_Tab);
+    enter("", Qt::Key_Tab);
+    EXPECT_EQ(cell(1, 0, 1), "08:00");
+    EXPECT_EQ(grid(1).currentIndex(), grid(1).model()->index(0, 3));
+}
+
+TEST_F(CardWindow, AWrongTimeStaysInItsCellAndIsNotRecorded) {
+    open();
+    grid(1).goToStart();
+    enter("2500");
+    EXPECT_EQ(cell(1, 0, 1), "⚠ 2500");
+    grid(1).setCurrentIndex(grid(1).model()->index(0, 1));
+    EXPECT_EQ(driven->text("state"), "⚠ \"2500\" não é uma hora de 00:00 a 23:59.");
+    driven->press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(desk.person.shown.back().title, "DIGITAÇÃO DO PONTO");
+    EXPECT_FALSE(desk.files.content.contains("/data/" + kPunches));
+    EXPECT_EQ(cell(1, 0, 1), "⚠ 2500");
+    driven->press(Qt::Key_Delete);
+    EXPECT_EQ(cell(1, 0, 1), "");
+}
+
+TEST_F(CardWindow, F6ChangesTheHalfAndAWideWindowShowsBoth) {
+    open();
+    EXPECT_TRUE(grid(1).isVisible());
+    EXPECT_FALSE(grid(2).isVisible());
+    driven->press(Qt::Key_F6);
+    EXPECT_FALSE(grid(1).isVisible());
+    ASSERT_TRUE(grid(2).isVisible());
+    EXPECT_EQ(cell(2, 0, 0), "16/sáb/mar");
+    EXPECT_EQ(grid(2).model()->rowCount(), 16);
+    driven->window.resize(1920, 1000);
+    EXPECT_TRUE(grid(1).isVisible());
+    driven->window.resize(1280, 720);
+    EXPECT_FALSE(grid(1).isVisible());
+    grid(2).setCurrentIndex(grid(2).model()->index(15, PunchModel::Situation));
+    enter("");
+    EXPECT_TRUE(grid(1).isVisible());
+}
+
+TEST_F(CardWindow, ApplicationShowsTheFilledMonth) {
+    open();
+    EXPECT_EQ(driven->text("state"), "Ponto ainda não aplicado neste mês");
+    EXPECT_EQ(cell(1, 2, PunchModel::Situation), "(descanso)");
+    desk.person.answers = {Answer::Yes};
+    driven->press(Qt::Key_F9);
+    EXPECT_EQ(cell(1, 0, 1), "08:00");
+    EXPECT_EQ(cell(1, 2, PunchModel::Situation), "DESCANSO SEMANAL");
+    EXPECT_EQ(driven->text("schedule.weekly"), "40,0 HORAS SEMANAIS");
+}
+
+TEST_F(CardWindow, AnotherEmployeeComesOnlyAfterTheChangesAreSettled) {
+    open();
+    driven->type("schedule.time1", "7");
+    driven->press(Qt::Key_PageDown);  // answered Cancel
+    auto& list = driven->get<QListWidget>("card.employees");
+    EXPECT_EQ(list.currentRow(), 0);
+    EXPECT_EQ(driven->get<QLineEdit>("schedule.time1").text(), QStringLiteral("7"));
+    desk.person.answers = {Answer::Yes};
+    driven->press(Qt::Key_PageDown);
+    EXPECT_EQ(list.currentRow(), 1);
+    EXPECT_EQ(desk.file("01PadrHor001.pdx").substr(0, 5), "07:00");
+    EXPECT_EQ(driven->get<QLineEdit>("schedule.time1").text(), QString());
+}
+
+TEST_F(CardWindow, SearchAndShiftNarrowTheList) {
+    open();
+    auto& list = driven->get<QListWidget>("card.employees");
+    driven->type("card.search", "jose");
+    EXPECT_TRUE(list.item(0)->isHidden());
+    EXPECT_FALSE(list.item(1)->isHidden());
+    driven->type("card.search", "x");
+    auto& shift = driven->get<QComboBox>("card.shift");
+    shift.setCurrentIndex(3);
+    emit shift.activated(3);
+    ASSERT_EQ(list.count(), 1);
+    EXPECT_EQ(command.selected()->name, "JOSÉ");
+}
+
+TEST_F(CardWindow, WithoutAMonthItLeadsToTheMonth) {
+    desk.files.content.erase("/data/DataIde.ivc");
+    open();
+    EXPECT_THAT(desk.person.takeTexts(), ::testing::ElementsAre("Informe um Mês de Trabalho!!"));
+    EXPECT_THAT(driven->text("card.emptyHint"), ::testing::HasSubstr("(F7)"));
+    EXPECT_EQ(driven->get<QListWidget>("card.employees").count(), 0);
+    chooseMonth();
+    driven->press(Qt::Key_F7);
+    EXPECT_EQ(monthOpened, 1);
+    EXPECT_EQ(driven->get<QListWidget>("card.employees").count(), 2);
+    EXPECT_EQ(command.selected()->name, "ANA");
+}
+
+TEST_F(CardWindow, EveryWidgetHasAName) {
+    open();
+    EXPECT_THAT(driven->namelessWidgets(), ::testing::IsEmpty());
+    browser.works = false;
+    driven->press(Qt::Key_F1);
+    EXPECT_EQ(driven->text("state"), "⚠ Não foi possível abrir a ajuda");
+}
+
+}  // namespace
+}  // namespace winvrx
