@@ -1,7 +1,8 @@
 #pragma once
 
-#include "foundation/desktop/look.h"
+#include "foundation/desktop/qt_text.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
@@ -31,14 +32,16 @@ class WindowDriver {
     }
 
     /// Replaces the field's text, key by key.
-    void type(const char* name, const QString& text) const {
+    void type(const char* name, std::string_view text) const {
         auto& edit = find<QLineEdit>(name);
         edit.setFocus();
         edit.selectAll();
-        QTest::keyClicks(&edit, text);
+        QTest::keyClicks(&edit, toQt(text));
     }
 
-    [[nodiscard]] QString text(const char* name) const { return find<QLineEdit>(name).text(); }
+    [[nodiscard]] std::string text(const char* name) const {
+        return find<QLineEdit>(name).text().toStdString();
+    }
     /// What is said under the field.
     [[nodiscard]] std::string hint(const char* name) const {
         return find<QLabel>((std::string(name) + ".hint").c_str()).text().toStdString();
@@ -50,7 +53,7 @@ class WindowDriver {
         QTest::keyClick(focus(), key, modifiers);
         QApplication::processEvents();
     }
-    void typeHere(const QString& text) const { QTest::keyClicks(focus(), text); }
+    void typeHere(std::string_view text) const { QTest::keyClicks(focus(), toQt(text)); }
     [[nodiscard]] std::string focusName() const { return focus()->objectName().toStdString(); }
 
   private:
@@ -65,7 +68,8 @@ class WindowDriver {
 inline std::string namelessWidgets(const QWidget& window) {
     std::string nameless;
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
-        const bool isOwn = !widget->objectName().startsWith(QLatin1String("qt_"));
+        const bool isOwn =
+            widget->window() == &window && !widget->objectName().startsWith(QLatin1String("qt_"));
         const bool isUsed = widget->focusPolicy() != Qt::NoFocus && widget->isEnabled() &&
                             !qobject_cast<const QAbstractScrollArea*>(widget->parentWidget()) &&
                             !widget->inherits("QScrollArea") && !widget->inherits("QTabBar");

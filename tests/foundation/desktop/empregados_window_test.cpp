@@ -61,7 +61,7 @@ TEST_F(EmpregadosWindowTest, IncludesWithTheKeyboardAlone) {
     open();
     EXPECT_EQ(screen_->text("empregados.code"), "001");
     EXPECT_EQ(screen_->focusName(), "empregados.name");
-    screen_->typeHere(QStringLiteral("ANA CONCEIÇÃO"));
+    screen_->typeHere("ANA CONCEIÇÃO");
     for (int field = 0; field < 6; ++field)
         screen_->press(Qt::Key_Return);
     ASSERT_EQ(screen_->focusName(), "empregados.admission") << "Enter leads into the next tab";
@@ -124,7 +124,7 @@ TEST_F(EmpregadosWindowTest, AScaleThatBarsTheShiftIsSaid) {
     open({employee("001", "ANA")});
     auto& scale = screen_->find<QComboBox>("empregados.scale");
     scale.setCurrentIndex(2);
-    EXPECT_EQ(scale.currentText(), "12x36 -> Turnos 1 e 3");
+    EXPECT_EQ(toUtf8(scale.currentText()), "12x36 -> Turnos 1 e 3");
     EXPECT_EQ(screen_->hint("empregados.scale"), "⚠ 12x36 somente nos turnos 1 e 3.");
     screen_->find<QComboBox>("empregados.shift").setCurrentIndex(3);
     EXPECT_EQ(screen_->hint("empregados.scale"), "");
@@ -174,12 +174,12 @@ TEST_F(EmpregadosWindowTest, SearchLooksIntoNameCodeFunctionAndCpf) {
 TEST_F(EmpregadosWindowTest, NotesTakeNoMoreThanTheirColumn) {
     open({employee("001", "ANA")});
     auto& notes = screen_->find<QPlainTextEdit>("empregados.notes");
-    notes.setPlainText(QString(239, 'x'));
+    notes.setPlainText(toQt(std::string(239, 'x')));
     notes.moveCursor(QTextCursor::Start);
     screen_->find("empregados.notes").setFocus();
     screen_->typeHere("ABC");
-    EXPECT_EQ(notes.toPlainText(), "A" + QString(239, 'x'));
-    notes.setPlainText("duas\nlinhas");
+    EXPECT_EQ(toUtf8(notes.toPlainText()), "A" + std::string(239, 'x'));
+    notes.setPlainText(QStringLiteral("duas\nlinhas"));
     EXPECT_THAT(screen_->hint("empregados.notes"), HasSubstr("não pode ser gravado"));
 }
 
