@@ -39,44 +39,29 @@ void Screens::openEmployees(QWidget* parent) {
     EmpregadosWindow(employees, parent).exec();
 }
 
-void Screens::show(ScreenWindow& window) {
-    QObject::connect(&window, &ScreenWindow::helpRequested, &window,
-                     [this] { openHelp(at_, browser_); });
-    window.exec();
-}
-
 void Screens::openWorkMonth(QWidget* parent) {
     DataMesCorrente month(at_);
     month.open();
-    DataMesCorrenteWindow window(month, parent);
-    show(window);
+    DataMesCorrenteWindow(month, browser_, parent).exec();
 }
 
 void Screens::openTimeCard(QWidget* parent) {
     CartaoPontoDados card(at_);
-    if (!card.open()) return;
-    CartaoPontoDadosWindow window(card, parent);
-    QObject::connect(&window, &CartaoPontoDadosWindow::monthSettingsRequested, &window, [&] {
-        openWorkMonth(&window);
-        if (card.open()) window.refresh();
-    });
-    show(window);
+    const auto openMonth = [this](QWidget* over) { openWorkMonth(over); };
+    CartaoPontoDadosWindow(card, browser_, openMonth, parent).exec();
 }
 
 void Screens::openCards(QWidget* parent, bool preview) {
-    Cartao cards(at_, engine_);
+    Cartao cards(at_, browser_, engine_);
     cards.choices().output = preview ? ReportOutput::Preview : ReportOutput::Printer;
-    CartaoWindow window(cards,
-                        {.openStocks = [this](QWidget* over) { openStocks(over); },
-                         .openWorkMonth = [this](QWidget* over) { openWorkMonth(over); }},
-                        parent);
-    show(window);
+    const CartaoLinks links{.openStocks = [this](QWidget* over) { openStocks(over); },
+                            .openWorkMonth = [this](QWidget* over) { openWorkMonth(over); }};
+    CartaoWindow(cards, links, parent).exec();
 }
 
 void Screens::openStocks(QWidget* parent) {
-    TipoPonto stocks(at_);
-    TipoPontoWindow window(stocks, parent);
-    show(window);
+    TipoPonto stocks(at_, browser_);
+    TipoPontoWindow(stocks, parent).exec();
 }
 
 std::optional<Screens::Progress> Screens::progress() const {

@@ -59,8 +59,8 @@ std::string pdfNameFor(const std::string& subject, WorkMonth month) {
 
 }  // namespace
 
-Cartao::Cartao(const Workplace& at, ReportEngine& engine)
-    : at_(at), engine_(engine), filter_(at.session.shiftFilter) {}
+Cartao::Cartao(const Workplace& at, Browser& browser, ReportEngine& engine)
+    : at_(at), browser_(browser), engine_(engine), filter_(at.session.shiftFilter) {}
 
 void Cartao::load() {
     (void)attempt(at_, incorrectData(), [this] {
@@ -120,6 +120,10 @@ bool Cartao::printOne(std::optional<std::size_t> position, const PrintRun& run) 
 
 bool Cartao::printAll(const PrintRun& run) {
     return isReady(!employees_.empty()) && print(employees_, run);
+}
+
+void Cartao::help() {
+    openHelp(at_, browser_);
 }
 
 bool Cartao::isReady(bool anyEmployee) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/browser.h"
 #include "foundation/command.h"
 #include "foundation/company.h"
 #include "output/card_rows.h"
@@ -47,7 +48,7 @@ struct PrintRun {
 /// are read when its turn comes. A failed card ends the run; cards already printed stay printed.
 class Cartao {
   public:
-    Cartao(const Workplace& at, ReportEngine& engine);
+    Cartao(const Workplace& at, Browser& browser, ReportEngine& engine);
 
     /// Reads company, employees, work month, stock and printer again.
     void load();
@@ -77,6 +78,8 @@ class Cartao {
     /// "Imprimir >>": every card of the list. True when all were printed.
     [[nodiscard]] bool printAll(const PrintRun& run);
 
+    void help();
+
   private:
     void readEmployees();
     [[nodiscard]] bool isReady(bool anyEmployee);
@@ -91,6 +94,7 @@ class Cartao {
     [[nodiscard]] CardData cardOf(const Employee& employee) const;
 
     Workplace at_;
+    Browser& browser_;
     ReportEngine& engine_;
     PrintChoices choices_;
     ShiftFilter filter_;

@@ -2,7 +2,7 @@
 
 namespace winvrx {
 
-TipoPonto::TipoPonto(const Workplace& at) : at_(at) {}
+TipoPonto::TipoPonto(const Workplace& at, Browser& browser) : at_(at), browser_(browser) {}
 
 void TipoPonto::load() {
     current_ = nullptr;
@@ -29,6 +29,10 @@ bool TipoPonto::choose(const CardStock& stock) {
         current_ = &stock;
         return true;
     });
+}
+
+void TipoPonto::help() {
+    openHelp(at_, browser_);
 }
 
 }  // namespace winvrx

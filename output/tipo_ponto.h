@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/browser.h"
 #include "foundation/command.h"
 #include "output/card_stock.h"
 
@@ -11,7 +12,7 @@ namespace winvrx {
 /// The stock screen: which make of card the selected company uses.
 class TipoPonto {
   public:
-    explicit TipoPonto(const Workplace& at);
+    TipoPonto(const Workplace& at, Browser& browser);
 
     /// Reads the stored choice again.
     void load();
@@ -27,8 +28,11 @@ class TipoPonto {
     /// Stores `stock`. False when it could not be stored; the former choice then stands.
     [[nodiscard]] bool choose(const CardStock& stock);
 
+    void help();
+
   private:
     Workplace at_;
+    Browser& browser_;
     const CardStock* current_ = nullptr;
 };
 

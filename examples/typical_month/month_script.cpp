@@ -44,17 +44,16 @@ void registerCompany(Player& player) {
 }
 
 void registerPerson(Player& player, const Person& person) {
-    player.click("empregados.include"_t);
     player.openTab("empregados.tabs"_t, "Identificação"_t);
     player.type("empregados.name"_t, person.name);
-    player.openTab("empregados.tabs"_t, "Contrato"_t);
     player.type("empregados.function"_t, person.function);
+    player.openTab("empregados.tabs"_t, "Contrato"_t);
     player.type("empregados.admission"_t, person.admission);
-    player.type("empregados.registration"_t, person.registration);
     player.choose("empregados.shift"_t, person.shift);
     player.choose("empregados.scale"_t, "Normal"_t);
     player.openTab("empregados.tabs"_t, "Documentos"_t);
     player.type("empregados.workBooklet"_t, person.workBooklet);
+    player.type("empregados.registration"_t, person.registration);
     player.click("empregados.include"_t);
     player.answer("Confirma a Inclusão na LISTA DE FUNCIONARIOS?"_t, Answer::Yes);
 }
@@ -64,34 +63,34 @@ void registerEmployees(Player& player) {
     player.picture("funcionarios-vazio"_t);
     registerPerson(player, {"001"_t, "JOSÉ DA CONCEIÇÃO"_t, "PADEIRO"_t, "12345/00010-SP"_t,
                             "00001"_t, "02/05/2019"_t, "Comercial"_t});
+    player.click("empregados.include"_t);
     registerPerson(player, {"002"_t, "ANA PAULA D'ÁVILA"_t, "BALCONISTA"_t, "67890/00022-SP"_t,
                             "00002"_t, "12/03/2024"_t, "Comercial"_t});
+    player.click("empregados.include"_t);
     registerPerson(player, {"003"_t, "JOÃO BATISTA LIMA"_t, "VIGIA NOTURNO"_t, "24680/00031-SP"_t,
                             "00003"_t, "10/01/2022"_t, "Noite"_t});
     player.choose("empregados.list"_t, "001"_t);
+    player.openTab("empregados.tabs"_t, "Identificação"_t);
     player.picture("funcionarios"_t);
+    player.openTab("empregados.tabs"_t, "Contrato"_t);
+    player.picture("funcionarios-contrato"_t);
     player.click("empregados.close"_t);
 }
 
 void chooseMonth(Player& player) {
     player.click("menu.month.open"_t);
     player.choose("month.month"_t, "março/2024"_t);
-    player.click("month.day.29"_t);
+    player.click("month.day34"_t);
     player.picture("mes"_t);
     player.click("month.confirm"_t);
     player.picture("janela-com-mes"_t);
 }
 
 void applyCard(Player& player, const Text& code, const std::array<Text, 8>& times) {
-    static const std::array<Text, 8> fields = {
-        "card.weekday.morningEntry"_t,    "card.weekday.morningExit"_t,
-        "card.weekday.afternoonEntry"_t,  "card.weekday.afternoonExit"_t,
-        "card.saturday.morningEntry"_t,   "card.saturday.morningExit"_t,
-        "card.saturday.afternoonEntry"_t, "card.saturday.afternoonExit"_t};
     player.choose("card.employees"_t, code);
-    for (std::size_t i = 0; i < fields.size(); ++i)
-        if (!times[i].isEmpty()) player.type(fields[i], times[i]);
-    player.click("card.saveSchedule"_t);
+    for (std::size_t i = 0; i < times.size(); ++i)
+        if (!times[i].isEmpty()) player.type("schedule.time%1"_t.arg(i + 1), times[i]);
+    player.click("schedule.save"_t);
     player.answer("No SÁBADO Será HORA NORMAL?"_t, Answer::Yes);
     player.click("card.apply"_t);
     player.answer("Confirma Aplicação de Ponto"_t, Answer::Yes);
@@ -110,16 +109,16 @@ void applyCards(Player& player) {
 void printCards(Player& player) {
     player.click("menu.print.open"_t);
     player.click("cartao.stock"_t);
-    player.click("tipoPonto.stocks.01"_t);
+    player.tick("tipoPonto.stocks.01"_t, true);
     player.picture("tipo"_t);
     player.click("tipoPonto.close"_t);
     player.choose("cartao.employees"_t, "001"_t);
     player.picture("imprimir"_t);
-    player.click("cartao.output.preview"_t);
+    player.tick("cartao.output.preview"_t, true);
     player.click("cartao.printAll"_t);
     player.picture("previa"_t);
     player.click("preview.close"_t);
-    player.click("cartao.output.printer"_t);
+    player.tick("cartao.output.printer"_t, true);
     player.click("cartao.printAll"_t);
     player.click("cartao.close"_t);
     player.picture("janela-principal"_t);

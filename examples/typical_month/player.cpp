@@ -20,6 +20,9 @@ namespace winvrx {
 
 namespace {
 
+/// Milliseconds between two steps: a timer's, for a pause of none would be a posted event.
+constexpr int kStepPause = 1;
+
 QMessageBox::StandardButton buttonOf(Answer answer) {
     switch (answer) {
         case Answer::Yes:
@@ -168,7 +171,7 @@ void Player::next() {
     const std::function<void()> step = std::move(steps_.front());
     steps_.pop_front();
     // Queued first: the step may open a modal window and return only when that is closed.
-    QTimer::singleShot(0, this, &Player::next);
+    QTimer::singleShot(kStepPause, this, &Player::next);
     step();
 }
 

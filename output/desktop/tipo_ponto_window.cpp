@@ -35,6 +35,7 @@ TipoPontoWindow::TipoPontoWindow(TipoPonto& stocks, QWidget* parent)
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &TipoPontoWindow::reject);
     connect(options_, &OptionGroup::picked, this, &TipoPontoWindow::choose);
+    connect(this, &ScreenWindow::helpRequested, this, [this] { stocks_.help(); });
     stocks_.load();
     showCurrent();
     options_->setFocus();

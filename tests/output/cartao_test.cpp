@@ -3,6 +3,7 @@
 #include "foundation/company_register.h"
 #include "foundation/employee_register.h"
 #include "tests/support/recording_engine.h"
+#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 #include "timecard/selected_month.h"
 
@@ -12,6 +13,7 @@ namespace winvrx {
 namespace {
 
 using testing::RecordingEngine;
+using testing::TestBrowser;
 using testing::TestWorkplace;
 using Texts = std::vector<std::string>;
 
@@ -62,8 +64,9 @@ class CartaoTest : public ::testing::Test {
     }
 
     TestWorkplace desk;
+    TestBrowser browser;
     RecordingEngine engine;
-    Cartao screen{desk.at, engine};
+    Cartao screen{desk.at, browser, engine};
 };
 
 class CartaoOpened : public CartaoTest {
@@ -275,6 +278,15 @@ TEST_F(CartaoTest, UnreadableRegisterIsToldOnce) {
         EXPECT_EQ(desk.person.takeTexts(), Texts{"Dados incorretos!"}) << name;
         EXPECT_TRUE(screen.employees().empty());
     }
+}
+
+TEST_F(CartaoOpened, HelpIsOpenedOrItsFailureTold) {
+    screen.help();
+    EXPECT_EQ(browser.opened, 1);
+    EXPECT_TRUE(desk.person.shown.empty());
+    browser.works = false;
+    screen.help();
+    EXPECT_EQ(desk.person.takeTexts(), Texts{"Ocorreu Erro"});
 }
 
 TEST_F(CartaoOpened, ProgressCancelsTheRun) {

@@ -1,5 +1,6 @@
 #include "output/tipo_ponto.h"
 
+#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +10,12 @@
 namespace winvrx {
 namespace {
 
+using testing::TestBrowser;
 using testing::TestWorkplace;
+
+struct Desk : TestWorkplace {
+    TestBrowser browser;
+};
 
 constexpr const char* kSetting = "/data/01CartaoDePontoTipo";
 
@@ -69,14 +75,14 @@ TEST(TipoPonto, ChoosingWritesOneLineAndShowsTheName) {
           Case{"03", "03Dimep/Topdata\r\n", "Dimep/TopData"}, Case{"04", "04\r\n", "Real Ponto"},
           Case{"05", "05\r\n", "MADIS"}, Case{"06", "06 BMVIX - TRIX\r\n", " BMVIX - TRIX"},
           Case{"12", "12SDN\r\n", "SD-N"}}) {
-        TestWorkplace desk;
+        Desk desk;
         desk.file("01CartaoDePontoTipo") = "01Tilibra\r\nfurther line\r\n";
-        TipoPonto screen(desk.at);
+        TipoPonto screen(desk.at, desk.browser);
         EXPECT_TRUE(screen.choose(*findStock(one.code)));
         EXPECT_EQ(screen.label(), one.label);
         EXPECT_EQ(desk.files.content.at(kSetting), one.line);
 
-        TipoPonto reopened(desk.at);
+        TipoPonto reopened(desk.at, desk.browser);
         reopened.load();
         EXPECT_EQ(reopened.label(), one.label);
     }
@@ -84,23 +90,23 @@ TEST(TipoPonto, ChoosingWritesOneLineAndShowsTheName) {
 
 TEST(TipoPonto, UnknownOrMissingCodeLeavesTheLabelEmpty) {
     for (const char* content : {"", "\r\n", "77Outro\r\n", "Tilibra\r\n", " 1Tilibra\r\n"}) {
-        TestWorkplace desk;
+        Desk desk;
         desk.file("01CartaoDePontoTipo") = content;
-        TipoPonto screen(desk.at);
+        TipoPonto screen(desk.at, desk.browser);
         screen.load();
         EXPECT_EQ(screen.label(), "") << content;
     }
-    TestWorkplace desk;
-    TipoPonto screen(desk.at);
+    Desk desk;
+    TipoPonto screen(desk.at, desk.browser);
     screen.load();
     EXPECT_EQ(screen.label(), "");
     EXPECT_TRUE(desk.person.shown.empty());
 }
 
 TEST(TipoPonto, FailedChoiceIsToldAndTheFormerOneStands) {
-    TestWorkplace desk;
+    Desk desk;
     desk.file("01CartaoDePontoTipo") = "05\r\n";
-    TipoPonto screen(desk.at);
+    TipoPonto screen(desk.at, desk.browser);
     screen.load();
     desk.files.failOn.insert("01CartaoDePontoTipo");
     EXPECT_FALSE(screen.choose(*findStock("01")));

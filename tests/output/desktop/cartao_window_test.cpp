@@ -6,6 +6,7 @@
 #include "output/desktop/tipo_ponto_window.h"
 #include "output/tipo_ponto.h"
 #include "tests/support/recording_engine.h"
+#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 #include "timecard/selected_month.h"
 
@@ -23,6 +24,7 @@ namespace winvrx {
 namespace {
 
 using testing::RecordingEngine;
+using testing::TestBrowser;
 using testing::TestWorkplace;
 
 template <typename Widget>
@@ -68,8 +70,9 @@ class CartaoWindowTest : public ::testing::Test {
     }
 
     TestWorkplace desk;
+    TestBrowser browser;
     RecordingEngine engine;
-    Cartao cartao{desk.at, engine};
+    Cartao cartao{desk.at, browser, engine};
 };
 
 TEST_F(CartaoWindowTest, ChoicesReachThePrintedJob) {
@@ -151,6 +154,8 @@ TEST_F(CartaoWindowTest, ReturnsFromTheOtherScreensUpToDate) {
     press(window, "cartao.stock");
     EXPECT_TRUE(find<QLabel>(window, "state")->text().contains(QStringLiteral("MADIS")));
     EXPECT_EQ(find<QListWidget>(window, "cartao.employees")->currentRow(), 1);
+    QTest::keyClick(&window, Qt::Key_F1);
+    EXPECT_EQ(browser.opened, 1);
 }
 
 /// A person at the keyboard or with a screen reader reaches everything.
@@ -180,7 +185,7 @@ TEST_F(CartaoWindowTest, FitsASmallScreenAndIsReachable) {
 }
 
 TEST_F(CartaoWindowTest, StockIsChosenByMouseAndByKeyboard) {
-    TipoPonto stocks(desk.at);
+    TipoPonto stocks(desk.at, browser);
     TipoPontoWindow window(stocks);
     open(window);
     expectReachable(window);
@@ -196,13 +201,15 @@ TEST_F(CartaoWindowTest, StockIsChosenByMouseAndByKeyboard) {
     press(window, "tipoPonto.stocks.01");
     EXPECT_EQ(current->text(), QStringLiteral("DATAPRINT"));
     EXPECT_TRUE(find<QAbstractButton>(window, "tipoPonto.stocks.13")->isChecked());
+    QTest::keyClick(&window, Qt::Key_F1);
+    EXPECT_EQ(browser.opened, 1);
     press(window, "tipoPonto.close");
     EXPECT_FALSE(window.isVisible());
 }
 
 TEST_F(CartaoWindowTest, NoStockLeavesNoOptionChosen) {
     desk.file("01CartaoDePontoTipo") = "14Etiqueta\r\n";
-    TipoPonto stocks(desk.at);
+    TipoPonto stocks(desk.at, browser);
     TipoPontoWindow window(stocks);
     for (const auto* option : window.findChildren<QAbstractButton*>())
         EXPECT_FALSE(option->isChecked()) << option->objectName().toStdString();
