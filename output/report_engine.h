@@ -42,11 +42,11 @@ struct ReportRequest {
     std::string layoutName;   ///< "tilibcenter.rpt"
     std::string title;        ///< of the print job and the preview window
     bool printHeader = true;  ///< whether blocks named "header" are drawn
-    Alignment alignment;
+    Alignment alignment = {};
     ReportOutput output = ReportOutput::Preview;
-    std::string printerName;  ///< empty: the default printer
-    std::array<std::string, 3> trays;
-    std::string pdfPath;
+    std::string printerName = {};           ///< empty: the default printer
+    std::array<std::string, 3> trays = {};  ///< the first that is not blank names the source
+    std::string pdfPath = {};
 };
 
 /// Gives one card's rows after the other; nullopt ends the run. Called once a card, so that no

@@ -119,11 +119,12 @@ void CardTable::makeTable() {
                          .arg(toQt(kCardTable))) &&
             columns.next(),
         columns);
-    if (columns.value(0).toString() != columnList()) {
+    const bool isOurs = columns.value(0).toString() == columnList();
+    columns.finish();
+    if (!isOurs) {
         run(QStringLiteral("DROP TABLE IF EXISTS %1").arg(toQt(kCardTable)));
         run(QStringLiteral("CREATE TABLE %1 (%2)").arg(toQt(kCardTable), columnList()));
     }
-    columns.finish();
     run(QStringLiteral("COMMIT"));
 }
 

@@ -28,7 +28,8 @@ inline QString outputOf(const QString& program, const QStringList& arguments) {
     QProcess process;
     process.start(program, arguments);
     if (!process.waitForFinished() || process.exitCode() != 0)
-        throw std::runtime_error((program + process.readAllStandardError()).toStdString());
+        throw std::runtime_error(program.toStdString() +
+                                 process.readAllStandardError().toStdString());
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/text.h"
 #include "output/desktop/qt_report_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"

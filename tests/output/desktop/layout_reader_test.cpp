@@ -36,7 +36,7 @@ TEST(LayoutReader, NamesTheLineOfADamage) {
         {"not XML", "time card", "card.rpt:1: ", ""},
         {"empty", "", "card.rpt:1: ", ""},
         {"cut short", sheet("<g>\n<text x='1' y='2'>a"), "card.rpt:3: ", ""},
-        {"text after the end", sheet("") + "\n<g/>", "card.rpt:2: ", ""},
+        {"text after the end", sheet("") + "\n<g/>", "card.rpt:3: ", ""},
         {"another root", "<html/>", "card.rpt:1: ", "not an svg file"},
         {"no millimetres", "<svg width='210' height='297' viewBox='0 0 1 1'/>",
          "card.rpt:1: ", "not in mm"},
@@ -96,12 +96,12 @@ TEST(LayoutReader, NamesTheLineOfADamage) {
 }
 
 TEST(LayoutReader, MeasuresInHundredthsOfAMillimetre) {
-    const Layout layout = read(sheet(R"(
+    const Layout layout = read(sheet(R"svg(
         <g transform="translate(100, 50)">
           <g transform="translate(20)" data-rows="31" data-pitch="45">
             <text x="10" y="30" data-width="200" text-anchor="end" data-field="nome">X</text>
           </g>
-        </g>)"));
+        </g>)svg"));
     EXPECT_EQ(layout.page, QSizeF(210, 297));
     EXPECT_EQ(layout.rowPitch, 400);
     ASSERT_EQ(layout.sections.size(), 1U);
@@ -115,20 +115,19 @@ TEST(LayoutReader, MeasuresInHundredthsOfAMillimetre) {
 }
 
 TEST(LayoutReader, TakesWhatADrawingProgramSaves) {
-    const Layout layout =
-        read(R"(<?xml version="1.0"?>
+    const Layout layout = read(R"svg(<?xml version="1.0"?>
         <svg xmlns="http://www.w3.org/2000/svg" xmlns:sodipodi="urn:sodipodi"
              xmlns:inkscape="urn:inkscape" width="100mm" height="50mm" viewBox="10 20 100 50"
              data-pitch="4" inkscape:version="1.3">
           <sodipodi:namedview inkscape:zoom="2"><inkscape:grid/></sodipodi:namedview>
           <title>Card</title><desc>of mine</desc><metadata><x/></metadata><defs><path/></defs>
           <g inkscape:label="Layer 1" id="layer1" style="font-size:9px">
-            <text xml:space="preserve" transform="matrix(1,0,0,1,5,0)" x = "10" y = "25" fill =
-                 "red" style =
-                     "font-size:2.5px;font-family:'Liberation Sans';font-weight:bold;fill:#0000ff" >
-                     < tspan sodipodi
-             : role = "line" x = "10" y = "25" > olá</ tspan></ text></ g></ svg>) ");
-        const auto& text = std::get<LayoutText>(layout.sections.at(0).marks.at(0));
+            <text xml:space="preserve" transform="matrix(1,0,0,1,5,0)" x="10" y="25" fill="red"
+                  style="font-size:2.5px;font-family:'Liberation Sans';font-weight:bold;fill:#0000ff"
+                  ><tspan sodipodi:role="line" x="10" y="25">olá</tspan></text>
+          </g>
+        </svg>)svg");
+    const auto& text = std::get<LayoutText>(layout.sections.at(0).marks.at(0));
     EXPECT_EQ(text.baseline, QPointF(500, 500));
     EXPECT_EQ(text.pieces.at(0).literal, QStringLiteral("olá"));
     const Ink ink{{QStringLiteral("Liberation Sans")}, 250, 700, false, QColor(Qt::blue)};

@@ -1,0 +1,97 @@
+#include "tests/support/print_server.h"
+#include "tests/support/printed_text.h"
+#include "tests/support/report_desk.h"
+
+#include <QCoreApplication>
+
+#include <gmock/gmock.h>
+
+namespace winvrx::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+constexpr double kPointsPerMillimetre = 72 / 25.4;
+
+class Cups : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        const QString obstacle = PrintServer::obstacle();
+        if (!obstacle.isEmpty()) GTEST_SKIP() << obstacle.toStdString();
+        if (!canReadPdf()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
+        printServer.start();
+        desk_.request.output = ReportOutput::Printer;
+        desk_.request.title = "winvrx-" + std::to_string(QCoreApplication::applicationPid());
+    }
+    void TearDown() override { printServer.stop(); }
+
+    ReportDesk desk_;
+};
+
+TEST(Printing, SaysWhenNoPrinterIsInstalled) {
+    ReportDesk desk;
+    desk.request.output = ReportOutput::Printer;
+    EXPECT_EQ(desk.print(1), ReportResult::NoPrinter);
+}
+
+TEST_F(Cups, PrintsTheCardsOfARunAsOneJob) {
+    printServer.addPrinter(QStringLiteral("cartao"));
+    desk_.request.printerName = "cartao";
+    desk_.request.alignment = {720, 1440, 0};
+    desk_.request.trays = {"", "Manual", "Lower"};
+    ASSERT_EQ(desk_.print(3), ReportResult::Done) << ::testing::PrintToString(desk_.log.entries);
+
+    const QString file = printServer.printedFile(QString::fromStdString(desk_.request.title));
+    const auto words = printedWords(file);
+    QFile::remove(file);
+    EXPECT_EQ(std::ranges::count(words, QStringLiteral("Razão:"), &PrintedWord::text), 3);
+    EXPECT_EQ(wordOf(words, QStringLiteral("3")).page, 3);
+    const double half = 36;
+    EXPECT_NEAR(wordOf(words, QStringLiteral("Razão:")).left, 65.5 * kPointsPerMillimetre + half,
+                1);
+    EXPECT_THAT(printServer.lastJobOptions().toStdString(), HasSubstr("Manual"));
+}
+
+TEST_F(Cups, PrintsOnTheDefaultPrinter) {
+    printServer.addPrinter(QStringLiteral("cartao"));
+    EXPECT_EQ(desk_.print(1), ReportResult::Failed) << "no default printer is set";
+    printServer.makeDefault(QStringLiteral("cartao"));
+    ASSERT_EQ(desk_.print(1), ReportResult::Done);
+    QFile::remove(printServer.printedFile(QString::fromStdString(desk_.request.title)));
+}
+
+TEST_F(Cups, KeepsTheCardsPrintedBeforeACancel) {
+    printServer.addPrinter(QStringLiteral("cartao"));
+    desk_.request.printerName = "cartao";
+    const CardSource endless = [] { return std::optional(sampleCard(9)); };
+    EXPECT_EQ(desk_.engine.print(desk_.request, endless, [](int done) { return done < 2; }),
+              ReportResult::Cancelled);
+    const QString file = printServer.printedFile(QString::fromStdString(desk_.request.title));
+    EXPECT_EQ(printedWords(file).back().page, 2);
+    QFile::remove(file);
+}
+
+TEST_F(Cups, FailsOnAPrinterThatIsNotThere) {
+    printServer.addPrinter(QStringLiteral("cartao"));
+    printServer.addPrinter(QStringLiteral("outra"));
+    printServer.removePrinter(QStringLiteral("cartao"));
+    desk_.request.printerName = "cartao";
+    EXPECT_EQ(desk_.print(1), ReportResult::Failed);
+    EXPECT_THAT(desk_.log.entries, ElementsAre(HasSubstr("cartao")));
+}
+
+TEST_F(Cups, FailsWhenThePrinterGoesDuringTheRun) {
+    printServer.addPrinter(QStringLiteral("cartao"));
+    desk_.request.printerName = "cartao";
+    int given = 0;
+    const CardSource one = [&] { return given++ ? std::nullopt : std::optional(sampleCard(1)); };
+    const CardProgress unplug = [](int) {
+        printServer.removePrinter(QStringLiteral("cartao"));
+        return true;
+    };
+    EXPECT_EQ(desk_.engine.print(desk_.request, one, unplug), ReportResult::Failed);
+}
+
+}  // namespace
+}  // namespace winvrx::testing

@@ -1,0 +1,157 @@
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <memory>
+#include <stdexcept>
+
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
+namespace winvrx::testing {
+
+/// A print server of the tests' own: a cupsd in a scratch folder, reached through a socket there.
+/// The address is set before main(), ahead of the first question for printers, so that no test
+/// meets the printers of the machine; until start() there is none at all.
+class PrintServer {
+  public:
+    PrintServer() {
+        for (const char* name : {"ppd", "spool", "cache", "state", "tmp", "log"})
+            QDir(folder_.path()).mkdir(QLatin1String(name));
+        const auto all = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
+                         QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
+        QFile::setPermissions(folder_.path(), all);
+        qputenv("CUPS_SERVER", path("socket").toUtf8());
+        qputenv("CUPS_USER", kUser);
+    }
+    ~PrintServer() { stop(); }
+    PrintServer(const PrintServer&) = delete;
+    PrintServer& operator=(const PrintServer&) = delete;
+
+    /// What keeps the server from running here; empty when nothing does.
+    [[nodiscard]] static QString obstacle() {
+#ifdef _WIN32
+        return QStringLiteral("no CUPS on this system");
+#else
+        if (geteuid() != 0) return QStringLiteral("the cups-pdf backend runs as root only");
+        if (!QFile::exists(QStringLiteral("/usr/sbin/cupsd")))
+            return QStringLiteral("cupsd is not installed");
+        if (!QFile::exists(QStringLiteral("/usr/lib/cups/backend/cups-pdf")))
+            return QStringLiteral("cups-pdf is not installed");
+        return {};
+#endif
+    }
+
+    void start() {
+        write("cupsd.conf", R"(Listen %1/socket
+Browsing No
+WebInterface No
+DefaultAuthType None
+<Location />
+  Order allow,deny
+  Allow all
+</Location>
+<Policy default>
+  <Limit All>
+    Order allow,deny
+    Allow all
+  </Limit>
+</Policy>
+)");
+        write("cups-files.conf", R"(ServerRoot %1
+RequestRoot %1/spool
+CacheDir %1/cache
+StateDir %1/state
+TempDir %1/tmp
+AccessLog %1/log/access
+ErrorLog %1/log/error
+PageLog %1/log/page
+SystemGroup root
+)");
+        daemon_ = std::make_unique<QProcess>();
+        daemon_->start(QStringLiteral("/usr/sbin/cupsd"),
+                       {QStringLiteral("-f"), QStringLiteral("-c"), path("cupsd.conf"),
+                        QStringLiteral("-s"), path("cups-files.conf")});
+        waitFor([this] { return QFile::exists(path("socket")); });
+    }
+
+    void stop() {
+        if (!daemon_) return;
+        daemon_->terminate();
+        daemon_->waitForFinished();
+        daemon_.reset();
+    }
+
+    void addPrinter(const QString& name) {
+        admin({QStringLiteral("-p"), name, QStringLiteral("-E"), QStringLiteral("-v"),
+               QStringLiteral("cups-pdf:/"), QStringLiteral("-P"),
+               QStringLiteral("/usr/share/ppd/cups-pdf/CUPS-PDF_noopt.ppd")});
+    }
+    void makeDefault(const QString& name) {
+        admin({QStringLiteral("-d"), name});
+    }
+    void removePrinter(const QString& name) {
+        admin({QStringLiteral("-x"), name});
+    }
+
+    /// The PDF that the backend made of the job with this title, once it is whole.
+    [[nodiscard]] QString printedFile(const QString& title) const {
+        const QDir printed(QStringLiteral("/var/spool/cups-pdf/ANONYMOUS"));
+        const QStringList pattern{title + QStringLiteral("*.pdf")};
+        waitFor([&] {
+            const auto files = printed.entryInfoList(pattern, QDir::Files);
+            if (files.isEmpty()) return false;
+            QFile file(files.first().filePath());
+            return file.open(QIODevice::ReadOnly) && file.readAll().contains("%%EOF");
+        });
+        return printed.filePath(printed.entryList(pattern, QDir::Files).first());
+    }
+
+    /// The options that came with the last job, as the server keeps them.
+    [[nodiscard]] QByteArray lastJobOptions() const {
+        const QDir spool(path("spool"));
+        QFile file(spool.filePath(
+            spool.entryList({QStringLiteral("c*")}, QDir::Files, QDir::Name).last()));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+  private:
+    /// A user that the system does not know: the backend files such jobs apart from real users'.
+    static constexpr const char* kUser = "winvrx-test";
+
+    [[nodiscard]] QString path(const char* name) const {
+        return folder_.filePath(QLatin1String(name));
+    }
+
+    void write(const char* name, const char* text) const {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly)) throw std::runtime_error("no configuration");
+        file.write(QString::fromLatin1(text).arg(folder_.path()).toUtf8());
+    }
+
+    static void admin(const QStringList& arguments) {
+        if (QProcess::execute(QStringLiteral("/usr/sbin/lpadmin"), arguments) != 0)
+            throw std::runtime_error("lpadmin failed");
+    }
+
+    template <typename Condition>
+    static void waitFor(Condition condition) {
+        constexpr int kSteps = 300;
+        for (int i = 0; i < kSteps && !condition(); ++i)
+            QThread::msleep(100);
+        if (!condition()) throw std::runtime_error("the print server does not answer");
+    }
+
+    QTemporaryDir folder_;
+    std::unique_ptr<QProcess> daemon_;
+};
+
+inline PrintServer printServer;
+
+}  // namespace winvrx::testing
