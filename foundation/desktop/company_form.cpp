@@ -83,8 +83,7 @@ CompanyForm::CompanyForm(QWidget* parent) : QScrollArea(parent) {
     look::setRole(*panel, "panel");
     auto* column = new QVBoxLayout(panel);
     look::layOutBody(*column);
-    column->addWidget(look::heading(QStringLiteral("Cadastro:"), panel));
-    addGroup(*column, QStringLiteral("Empresa"), kCompany);
+    addGroup(*column, QStringLiteral("Cadastro:"), kCompany);
     addGroup(*column, QStringLiteral("Proprietário"), kOwner);
     addGroup(*column, QStringLiteral("Sindicato"), kUnion);
     column->addStretch();

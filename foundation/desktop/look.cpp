@@ -1,18 +1,20 @@
 #include "foundation/desktop/look.h"
 
+#include "foundation/desktop/style.h"
 #include "foundation/desktop/svg_icon.h"
 
 #include <QApplication>
 #include <QBoxLayout>
 #include <QFontDatabase>
 #include <QLabel>
-#include <QStyleFactory>
 
 #include <array>
 
 // The icons lie in a static library, which nothing else draws into the program. The macro works
 // only outside of namespaces.
-static void loadIcons() { Q_INIT_RESOURCE(winvrx); }
+static void loadIcons() {
+    Q_INIT_RESOURCE(winvrx);
+}
 
 namespace winvrx::look {
 
@@ -55,7 +57,7 @@ QPalette paletteOf(QRgb window, QRgb base, QRgb alternate, QRgb text, QRgb borde
     set(QPalette::Link, accent);
     QColor faint(text);
     faint.setAlpha(130);
-    palette.setColor(QPalette::PlaceholderText, faint);
+    palette.setColor(QPalette::PlaceholderText, color(Tint::Quiet, palette));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, faint);
     return palette;
@@ -129,7 +131,7 @@ void apply(QApplication& application) {
 
 void apply(QApplication& application, const QPalette& palette) {
     loadIcons();
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new Style);
     QApplication::setPalette(palette);
     application.setStyleSheet(styleSheet(palette));
 }

@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QIcon>
 #include <QPalette>
+#include <QSize>
 #include <QString>
 
 class QApplication;
@@ -22,6 +23,9 @@ inline constexpr int kGap = 8;        ///< between a label and its field
 inline constexpr int kMargin = 16;    ///< around a window's body
 inline constexpr int kGroupGap = 24;  ///< between groups
 inline constexpr int kTileIcon = 32;
+
+/// What a window with a list or a grid opens with: fits a screen of 1280 x 720.
+inline constexpr QSize kWindowSize(1240, 690);
 
 /// Named colours; each has a light and a dark value of at least 4.5 : 1 on its ground. A colour
 /// never speaks alone: a word or a sign stands beside it.

@@ -64,7 +64,7 @@ MenuWindow::MenuWindow(Menu& menu, const Workplace& at, const MonthCalendar& cal
     columns->addWidget(buildCommands(), 1);
     columns->addWidget(buildOverview());
     frame->addLayout(columns, 1);
-    resize(1240, 690);
+    resize(look::kWindowSize);
 }
 
 void MenuWindow::buildTitleBand(QVBoxLayout& frame) {
@@ -146,7 +146,7 @@ QWidget* MenuWindow::buildCommands() {
 }
 
 void MenuWindow::addGroup(QVBoxLayout& column, const QString& group) {
-    if (column.count() > 0) column.addSpacing(look::kGap);
+    if (column.count() > 0) column.addSpacing(look::kMargin);
     column.addWidget(look::heading(group, this));
     auto* grid = new QGridLayout;
     grid->setSpacing(look::kGap);

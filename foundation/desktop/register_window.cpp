@@ -13,7 +13,6 @@ namespace winvrx {
 namespace {
 
 constexpr int kListWidth = 400;
-constexpr QSize kWindowSize(1240, 690);
 
 }  // namespace
 
@@ -25,7 +24,6 @@ RegisterWindow::RegisterWindow(const Texts& texts, QWidget* parent)
     connect(list_, &RegisterList::entered, this, [this] { focusForm(); });
     connect(list_, &RegisterList::firstRequested, this, &RegisterWindow::startNew);
     addCommands();
-    resize(kWindowSize);
 }
 
 void RegisterWindow::addCommands() {

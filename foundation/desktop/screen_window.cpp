@@ -51,6 +51,7 @@ ScreenWindow::ScreenWindow(const QString& objectName, const QString& title, QWid
     buildTitleBand(title);
     buildCommandBar();
     buildStateBar();
+    resize(look::kWindowSize);
 }
 
 void ScreenWindow::buildTitleBand(const QString& title) {
@@ -109,7 +110,7 @@ void ScreenWindow::setChips(const QStringList& chips) {
     for (const QString& text : chips) {
         QLabel* chip = look::label(text, look::TextSize::Body, this);
         look::setRole(*chip, "chip");
-        chips_->addWidget(chip);
+        chips_->addWidget(chip, 0, Qt::AlignVCenter);
     }
 }
 

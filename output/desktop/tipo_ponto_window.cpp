@@ -39,6 +39,7 @@ TipoPontoWindow::TipoPontoWindow(TipoPonto& stocks, QWidget* parent)
     stocks_.load();
     showCurrent();
     options_->setFocus();
+    resize(sizeHint());
 }
 
 QWidget* TipoPontoWindow::buildBody() {

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace winvrx::look {
+
+/// The Fusion style with the outlines of fields, lists, check boxes and option buttons drawn in
+/// the palette's border colour: Fusion darkens the window's colour for them, which a dark palette
+/// hides.
+class Style final : public QProxyStyle {
+    Q_OBJECT
+
+  public:
+    Style();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+};
+
+}  // namespace winvrx::look
