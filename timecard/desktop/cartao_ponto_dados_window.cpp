@@ -29,8 +29,6 @@ constexpr int kWidestList = 320;
 const QString kNoEmployees = QStringLiteral(
     "Nenhum funcionário neste turno. Escolha outro turno acima ou inclua funcionários no "
     "cadastro.");
-const QString kNoMonth = QStringLiteral(
-    "Escolha primeiro o mês de trabalho em \"Configurações Feriados e Horas extras\" (F7).");
 
 QString nameOf(HalfMonth half) {
     return half == HalfMonth::First ? QStringLiteral("1º Quinzena") : QStringLiteral("2º Quinzena");
@@ -42,27 +40,16 @@ HalfMonth otherThan(HalfMonth half) {
 
 }  // namespace
 
-CartaoPontoDadosWindow::CartaoPontoDadosWindow(CartaoPontoDados& command, Browser& browser,
-                                               std::function<void(QWidget*)> openWorkMonth,
-                                               QWidget* parent)
+CartaoPontoDadosWindow::CartaoPontoDadosWindow(CartaoPontoDados& command, QWidget* parent)
     : ScreenWindow(QStringLiteral("cartaoPontoDados"), QStringLiteral("Aplicação de Ponto"),
                    parent),
-      command_(command),
-      browser_(browser),
-      openWorkMonth_(std::move(openWorkMonth)) {
+      command_(command) {
     setBody(buildBody());
     buildCommands();
     connectList();
     addEmployeeKeys();
-    connect(this, &ScreenWindow::helpRequested, this, &CartaoPontoDadosWindow::openHelp);
-    openCommand();
-    list_->setFocus();
-}
-
-void CartaoPontoDadosWindow::openCommand() {
-    const bool opened = command_.open();
-    if (opened && !command_.selected() && !command_.employees().empty()) (void)command_.select(0);
     refresh();
+    list_->setFocus();
 }
 
 QWidget* CartaoPontoDadosWindow::buildBody() {
@@ -103,7 +90,7 @@ QWidget* CartaoPontoDadosWindow::buildList() {
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     search_->serve(list_);
     column->addWidget(list_, 1);
-    emptyHint_ = look::label(QString(), look::TextSize::Hint, widget);
+    emptyHint_ = look::label(kNoEmployees, look::TextSize::Hint, widget);
     emptyHint_->setObjectName(QStringLiteral("card.emptyHint"));
     emptyHint_->setWordWrap(true);
     column->addWidget(emptyHint_);
@@ -196,7 +183,6 @@ QWidget* CartaoPontoDadosWindow::buildEntryMode() {
 void CartaoPontoDadosWindow::connectList() {
     connect(shift_, &QComboBox::activated, this, [this](int place) {
         (void)command_.filterBy(kShiftFilters[static_cast<std::size_t>(place)]);
-        if (!command_.selected() && !command_.employees().empty()) (void)command_.select(0);
         refresh();
     });
     connect(search_, &SearchBox::textChanged, this, &CartaoPontoDadosWindow::filterList);
@@ -243,6 +229,7 @@ void CartaoPontoDadosWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void CartaoPontoDadosWindow::refresh() {
+    if (!command_.selected() && !command_.employees().empty()) (void)command_.select(0);
     if (command_.company())
         setChips({toQt(command_.company()->text() + " " + command_.companyName()),
                   toQt(monthTitle(command_.settings().month)),
@@ -261,8 +248,6 @@ void CartaoPontoDadosWindow::showList() {
     list_->setCurrentRow(static_cast<int>(command_.selectedPosition().value_or(0)));
     const bool empty = command_.employees().empty();
     emptyHint_->setVisible(empty);
-    emptyHint_->setText(command_.company() ? kNoEmployees : kNoMonth);
-    shift_->setEnabled(command_.company().has_value());
     filterList(search_->text());
 }
 
@@ -318,10 +303,6 @@ void CartaoPontoDadosWindow::showState() {
         setState(command_.selected() ? QStringLiteral("Ponto gravado") : QString());
 }
 
-void CartaoPontoDadosWindow::openHelp() {
-    if (!browser_.openHelp()) setState(QStringLiteral("⚠ Não foi possível abrir a ajuda"));
-}
-
 void CartaoPontoDadosWindow::apply() {
     (void)command_.applyPunches();
     showCard();
@@ -333,9 +314,7 @@ void CartaoPontoDadosWindow::save() {
 }
 
 void CartaoPontoDadosWindow::changeMonth() {
-    if (!command_.mayLeave()) return;
-    openWorkMonth_(this);
-    openCommand();
+    if (command_.mayLeave()) emit monthSettingsRequested();
 }
 
 bool CartaoPontoDadosWindow::mayClose() {
