@@ -209,6 +209,7 @@ bool CartaoPontoDadosWindow::isWide() const {
 }
 
 void CartaoPontoDadosWindow::showHalf(HalfMonth half) {
+    commitEditors();
     shown_ = half;
     layOutHalves();
 }
@@ -260,6 +261,7 @@ void CartaoPontoDadosWindow::filterList(const QString& wanted) {
 
 void CartaoPontoDadosWindow::chooseEmployee(int row) {
     if (row < 0) return;
+    commitEditors();
     const auto position = static_cast<std::size_t>(row);
     if (command_.selectedPosition() != position) (void)command_.select(position);
     const QSignalBlocker quiet(list_);
@@ -303,21 +305,30 @@ void CartaoPontoDadosWindow::showState() {
         setState(command_.selected() ? QStringLiteral("Ponto gravado") : QString());
 }
 
+void CartaoPontoDadosWindow::commitEditors() {
+    for (HalfWidgets& widgets : halves_)
+        widgets.grid->commitEditor();
+}
+
 void CartaoPontoDadosWindow::apply() {
+    commitEditors();
     (void)command_.applyPunches();
     showCard();
 }
 
 void CartaoPontoDadosWindow::save() {
+    commitEditors();
     (void)command_.saveChanges();
     showCard();
 }
 
 void CartaoPontoDadosWindow::changeMonth() {
+    commitEditors();
     if (command_.mayLeave()) emit monthSettingsRequested();
 }
 
 bool CartaoPontoDadosWindow::mayClose() {
+    commitEditors();
     return command_.mayLeave();
 }
 

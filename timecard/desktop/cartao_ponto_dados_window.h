@@ -66,6 +66,7 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     void stepEmployee(int step);
     void showCard();
     void showState();
+    void commitEditors();
     void apply();
     void save();
     void changeMonth();

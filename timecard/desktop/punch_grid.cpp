@@ -114,6 +114,13 @@ void PunchGrid::goToStart() {
     setFocus(Qt::OtherFocusReason);
 }
 
+void PunchGrid::commitEditor() {
+    QWidget* editor = state() == EditingState ? indexWidget(currentIndex()) : nullptr;
+    if (!editor) return;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
 void PunchGrid::goToNextCell() {
     const QModelIndex at = currentIndex();
     if (!at.isValid()) return;

@@ -18,6 +18,8 @@ class PunchGrid : public QTableView {
     void setNextCellKey(Qt::Key key);
     /// The cursor on the first time of the first day.
     void goToStart();
+    /// Takes over what stands in an open editor and closes it.
+    void commitEditor();
     /// The width at which every column can be read.
     [[nodiscard]] int comfortableWidth() const { return comfortableWidth_; }
     [[nodiscard]] PunchModel* punches() const { return punches_; }

@@ -103,6 +103,19 @@ TEST_F(CardWindow, AWrongTimeStaysInItsCellAndIsNotRecorded) {
     EXPECT_EQ(cell(1, 0, 1), "");
 }
 
+TEST_F(CardWindow, WhatStandsInAnOpenEditorIsNotLost) {
+    open();
+    grid(1).goToStart();
+    QTest::keyClick(&grid(1), '8');
+    driven->press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_THAT(desk.file(kPunches), ::testing::HasSubstr("\r\n01/sex/mar08:00"));
+    grid(1).goToStart();
+    QTest::keyClick(&grid(1), '9');
+    driven->press(Qt::Key_PageDown);  // answered Cancel
+    EXPECT_EQ(command.selectedPosition(), 0U);
+    EXPECT_EQ(cell(1, 0, 1), "09:00");
+}
+
 TEST_F(CardWindow, F6ChangesTheHalfAndAWideWindowShowsBoth) {
     open();
     EXPECT_TRUE(grid(1).isVisible());
