@@ -60,11 +60,13 @@ TextField* checkedField(const QString& caption, const QString& objectName, std::
     return field;
 }
 
-void makeReadOnly(TextField& field, const QString& why) {
-    field.edit()->setReadOnly(true);
-    field.edit()->setFrame(false);
-    field.edit()->setFocusPolicy(Qt::NoFocus);
-    field.edit()->setToolTip(why);
+void setReadOnly(TextField& field, bool readOnly) {
+    QLineEdit* edit = field.edit();
+    edit->setFrame(true);
+    edit->setMinimumHeight(edit->sizeHint().height());
+    edit->setFrame(!readOnly);
+    edit->setReadOnly(readOnly);
+    edit->setFocusPolicy(readOnly ? Qt::NoFocus : Qt::StrongFocus);
 }
 
 QString withMnemonic(std::string_view caption, char letter) {

@@ -15,8 +15,8 @@ enum class FieldCheck { None, Date, Cnpj, Cpf, CnpjOrCpf, Pis };
 [[nodiscard]] TextField* checkedField(const QString& caption, const QString& objectName,
                                       std::size_t width, FieldCheck check, QWidget* parent);
 
-/// Shows what the system fills in: no frame, never in the way of the keyboard.
-void makeReadOnly(TextField& field, const QString& why);
+/// Shows what the system fills in, when `readOnly`: no frame, never in the way of the keyboard.
+void setReadOnly(TextField& field, bool readOnly = true);
 
 /// The caption with its Alt letter marked: the first `letter` in it, whatever its case. A caption
 /// without the letter comes back as it is.

@@ -68,8 +68,7 @@ TextField* fieldFor(const Placement& place, QWidget* parent) {
     TextField* field = checkedField(withMnemonic(layout.caption, place.mnemonic),
                                     QStringLiteral("empresa.") + QLatin1String(place.name),
                                     layout.column.width, place.check, parent);
-    if (place.member == &Company::code || place.member == &Company::recordDate)
-        makeReadOnly(*field, QStringLiteral("Preenchido pelo sistema ao gravar"));
+    if (place.member == &Company::code || place.member == &Company::recordDate) setReadOnly(*field);
     return field;
 }
 

@@ -115,8 +115,7 @@ EmployeeForm::EmployeeForm(QWidget* parent) : QTabWidget(parent) {
     addPage(QStringLiteral("&4 Endereço"), kAddress);
     addPage(QStringLiteral("&5 Observações"), kNotes);
     fields_.fieldOf(&Employee::status)->edit()->setPlaceholderText(QStringLiteral("Ativo"));
-    makeReadOnly(*fields_.fieldOf(&Employee::status),
-                 QStringLiteral("Muda pela tela de afastamentos"));
+    setReadOnly(*fields_.fieldOf(&Employee::status));
 }
 
 void EmployeeForm::addPage(const QString& title, int tab) {
@@ -190,10 +189,7 @@ void EmployeeForm::showEmployee(const Employee& employee, bool isNew) {
     for (const BoundChoice& choice : choices_)
         choice.field->setStored(employee.*choice.member);
     notes_->setText(toQt(employee.notes));
-    QLineEdit* code = fields_.fieldOf(&Employee::code)->edit();
-    code->setReadOnly(!isNew);
-    code->setFrame(isNew);
-    code->setFocusPolicy(isNew ? Qt::StrongFocus : Qt::NoFocus);
+    setReadOnly(*fields_.fieldOf(&Employee::code), !isNew);
     checkScale();
 }
 

@@ -73,8 +73,11 @@ void EmpregadosWindow::showCounts() {
         return !line.employee.status.empty();
     });
     const auto active = static_cast<std::ptrdiff_t>(lines.size()) - inactive;
-    setSubtitle(counted(active, QStringLiteral("ativo")) + QStringLiteral(", ") +
-                counted(inactive, QStringLiteral("inativo")));
+    if (lines.empty())
+        setSubtitle(QStringLiteral("nenhum funcionário"));
+    else
+        setSubtitle(counted(active, QStringLiteral("ativo")) + QStringLiteral(", ") +
+                    counted(inactive, QStringLiteral("inativo")));
 }
 
 bool EmpregadosWindow::isDirty() const {

@@ -19,6 +19,7 @@ namespace winvrx {
 namespace {
 
 constexpr int kSearchedRole = Qt::UserRole;
+constexpr int kFewestRows = 3;
 
 }  // namespace
 
@@ -44,6 +45,7 @@ void RegisterList::buildTree(const QString& screen, const QString& title,
     tree_->setObjectName(screen + QStringLiteral(".list"));
     tree_->setAccessibleName(title);
     tree_->setHeaderLabels(headings);
+    tree_->setMinimumSize(1, kFewestRows * tree_->fontMetrics().height());
     tree_->setRootIsDecorated(false);
     tree_->setUniformRowHeights(true);
     tree_->setAlternatingRowColors(true);

@@ -12,7 +12,8 @@ namespace winvrx {
 
 namespace {
 
-constexpr int kListWidth = 400;
+constexpr int kListShare = 1;
+constexpr int kFormShare = 2;
 
 }  // namespace
 
@@ -68,9 +69,10 @@ void RegisterWindow::assemble(QWidget* form, QWidget* underList) {
     if (underList) column->addWidget(underList);
     split->addWidget(left);
     split->addWidget(form);
-    split->setStretchFactor(1, 1);
+    split->setStretchFactor(0, kListShare);
+    split->setStretchFactor(1, kFormShare);
     split->setHandleWidth(look::kMargin);
-    split->setSizes({kListWidth, width() - kListWidth});
+    split->setSizes({kListShare * width(), kFormShare * width()});
     row->addWidget(split);
     setBody(body);
 }
