@@ -63,7 +63,7 @@ void RegisterList::buildTree(const QString& screen, const QString& title,
 void RegisterList::buildEmptyPage(const QString& screen) {
     auto* page = new QWidget(pages_);
     auto* column = new QVBoxLayout(page);
-    look::layOutBody(*column);
+    look::layOutPart(*column);
     column->addStretch();
     emptyText_ = look::label(QString(), look::TextSize::Body, page);
     emptyText_->setObjectName(screen + QStringLiteral(".empty"));
