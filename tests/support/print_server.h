@@ -13,6 +13,10 @@
 #ifndef _WIN32
 #include <unistd.h>
 #endif
+#ifdef __linux__
+#include <sys/prctl.h>
+#include <csignal>
+#endif
 
 namespace winvrx::testing {
 
@@ -27,6 +31,7 @@ class PrintServer {
         const auto all = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
                          QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
         QFile::setPermissions(folder_.path(), all);
+        QFile::setPermissions(path("tmp"), all | QFile::WriteGroup | QFile::WriteOther);
         qputenv("CUPS_SERVER", path("socket").toUtf8());
         qputenv("CUPS_USER", kUser);
     }
@@ -53,6 +58,7 @@ class PrintServer {
 Browsing No
 WebInterface No
 DefaultAuthType None
+PreserveJobFiles Yes
 <Location />
   Order allow,deny
   Allow all
@@ -75,6 +81,9 @@ PageLog %1/log/page
 SystemGroup root
 )");
         daemon_ = std::make_unique<QProcess>();
+#ifdef __linux__
+        daemon_->setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
+#endif
         daemon_->start(QStringLiteral("/usr/sbin/cupsd"),
                        {QStringLiteral("-f"), QStringLiteral("-c"), path("cupsd.conf"),
                         QStringLiteral("-s"), path("cups-files.conf")});
@@ -100,24 +109,25 @@ SystemGroup root
         admin({QStringLiteral("-x"), name});
     }
 
-    /// The PDF that the backend made of the job with this title, once it is whole.
+    /// The PDF that the backend made of the job with this title, once the job is done.
     [[nodiscard]] QString printedFile(const QString& title) const {
         const QDir printed(QStringLiteral("/var/spool/cups-pdf/ANONYMOUS"));
-        const QStringList pattern{title + QStringLiteral("*.pdf")};
-        waitFor([&] {
-            const auto files = printed.entryInfoList(pattern, QDir::Files);
-            if (files.isEmpty()) return false;
-            QFile file(files.first().filePath());
-            return file.open(QIODevice::ReadOnly) && file.readAll().contains("%%EOF");
-        });
-        return printed.filePath(printed.entryList(pattern, QDir::Files).first());
+        const auto files = [&] {
+            return printed.entryList({title + QStringLiteral("_*.pdf")}, QDir::Files);
+        };
+        waitFor([&] { return !files().isEmpty() && !isBusy(); });
+        return printed.filePath(files().first());
     }
 
-    /// The options that came with the last job, as the server keeps them.
-    [[nodiscard]] QByteArray lastJobOptions() const {
-        const QDir spool(path("spool"));
-        QFile file(spool.filePath(
-            spool.entryList({QStringLiteral("c*")}, QDir::Files, QDir::Name).last()));
+    /// The document of the last job as the program handed it over.
+    [[nodiscard]] QString lastDocument() const {
+        return lastSpooled("d*");
+    }
+
+    /// The last job's options as the server records them, which it does when it stops.
+    [[nodiscard]] QByteArray lastOptionsOnStop() {
+        stop();
+        QFile file(lastSpooled("c*"));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
@@ -133,6 +143,19 @@ SystemGroup root
         QFile file(path(name));
         if (!file.open(QIODevice::WriteOnly)) throw std::runtime_error("no configuration");
         file.write(QString::fromLatin1(text).arg(folder_.path()).toUtf8());
+    }
+
+    [[nodiscard]] QString lastSpooled(const char* pattern) const {
+        const QDir spool(path("spool"));
+        const auto names = spool.entryList({QLatin1String(pattern)}, QDir::Files, QDir::Name);
+        if (names.isEmpty()) throw std::runtime_error("no job in the spool");
+        return spool.filePath(names.last());
+    }
+
+    static bool isBusy() {
+        QProcess jobs;
+        jobs.start(QStringLiteral("lpstat"), {QStringLiteral("-o")});
+        return !jobs.waitForFinished() || !jobs.readAllStandardOutput().isEmpty();
     }
 
     static void admin(const QStringList& arguments) {

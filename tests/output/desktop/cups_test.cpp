@@ -22,9 +22,19 @@ class Cups : public ::testing::Test {
         if (!canReadPdf()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
         printServer.start();
         desk_.request.output = ReportOutput::Printer;
-        desk_.request.title = "winvrx-" + std::to_string(QCoreApplication::applicationPid());
+        desk_.request.title = "winvrx-" + std::to_string(QCoreApplication::applicationPid()) +
+                              ::testing::UnitTest::GetInstance()->current_test_info()->name();
     }
     void TearDown() override { printServer.stop(); }
+
+    /// Pages of the job of this test, as they left the queue; takes them away.
+    [[nodiscard]] int printedPages() const {
+        const QString file = printServer.printedFile(QString::fromStdString(desk_.request.title));
+        const QString text = outputOf(QStringLiteral("pdftotext"),
+                                      {QStringLiteral("-bbox"), file, QStringLiteral("-")});
+        QFile::remove(file);
+        return static_cast<int>(text.count(QStringLiteral("<page ")));
+    }
 
     ReportDesk desk_;
 };
@@ -42,15 +52,13 @@ TEST_F(Cups, PrintsTheCardsOfARunAsOneJob) {
     desk_.request.trays = {"", "Manual", "Lower"};
     ASSERT_EQ(desk_.print(3), ReportResult::Done) << ::testing::PrintToString(desk_.log.entries);
 
-    const QString file = printServer.printedFile(QString::fromStdString(desk_.request.title));
-    const auto words = printedWords(file);
-    QFile::remove(file);
-    EXPECT_EQ(std::ranges::count(words, QStringLiteral("Razão:"), &PrintedWord::text), 3);
+    EXPECT_EQ(printedPages(), 3);
+    const auto words = printedWords(printServer.lastDocument());
     EXPECT_EQ(wordOf(words, QStringLiteral("3")).page, 3);
-    const double half = 36;
-    EXPECT_NEAR(wordOf(words, QStringLiteral("Razão:")).left, 65.5 * kPointsPerMillimetre + half,
-                1);
-    EXPECT_THAT(printServer.lastJobOptions().toStdString(), HasSubstr("Manual"));
+    const double halfInch = 36;
+    EXPECT_NEAR(wordOf(words, QStringLiteral("Razão:")).left,
+                65.5 * kPointsPerMillimetre + halfInch, 0.01);
+    EXPECT_THAT(printServer.lastOptionsOnStop().toStdString(), HasSubstr("Manual"));
 }
 
 TEST_F(Cups, PrintsOnTheDefaultPrinter) {
@@ -58,7 +66,7 @@ TEST_F(Cups, PrintsOnTheDefaultPrinter) {
     EXPECT_EQ(desk_.print(1), ReportResult::Failed) << "no default printer is set";
     printServer.makeDefault(QStringLiteral("cartao"));
     ASSERT_EQ(desk_.print(1), ReportResult::Done);
-    QFile::remove(printServer.printedFile(QString::fromStdString(desk_.request.title)));
+    EXPECT_EQ(printedPages(), 1);
 }
 
 TEST_F(Cups, KeepsTheCardsPrintedBeforeACancel) {
@@ -67,9 +75,7 @@ TEST_F(Cups, KeepsTheCardsPrintedBeforeACancel) {
     const CardSource endless = [] { return std::optional(sampleCard(9)); };
     EXPECT_EQ(desk_.engine.print(desk_.request, endless, [](int done) { return done < 2; }),
               ReportResult::Cancelled);
-    const QString file = printServer.printedFile(QString::fromStdString(desk_.request.title));
-    EXPECT_EQ(printedWords(file).back().page, 2);
-    QFile::remove(file);
+    EXPECT_EQ(printedPages(), 2);
 }
 
 TEST_F(Cups, FailsOnAPrinterThatIsNotThere) {
