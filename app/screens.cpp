@@ -39,16 +39,29 @@ void Screens::openEmployees(QWidget* parent) {
     EmpregadosWindow(employees, parent).exec();
 }
 
+void Screens::show(ScreenWindow& window) {
+    QObject::connect(&window, &ScreenWindow::helpRequested, &window,
+                     [this] { openHelp(at_, browser_); });
+    window.exec();
+}
+
 void Screens::openWorkMonth(QWidget* parent) {
     DataMesCorrente month(at_);
     month.open();
-    DataMesCorrenteWindow(month, browser_, parent).exec();
+    DataMesCorrenteWindow window(month, parent);
+    show(window);
 }
 
 void Screens::openTimeCard(QWidget* parent) {
     CartaoPontoDados card(at_);
-    const auto openMonth = [this](QWidget* over) { openWorkMonth(over); };
-    CartaoPontoDadosWindow(card, browser_, openMonth, parent).exec();
+    (void)card.open();
+    CartaoPontoDadosWindow window(card, parent);
+    QObject::connect(&window, &CartaoPontoDadosWindow::monthSettingsRequested, &window, [&] {
+        openWorkMonth(&window);
+        (void)card.open();
+        window.refresh();
+    });
+    show(window);
 }
 
 void Screens::openCards(QWidget* parent, bool preview) {

@@ -13,6 +13,8 @@ class QWidget;
 
 namespace winvrx {
 
+class ScreenWindow;
+
 /// Opens the screens of the main window's commands, and says in a line how far each subject is.
 class Screens {
   public:
@@ -37,6 +39,9 @@ class Screens {
     [[nodiscard]] std::optional<MenuCommand> nextStep() const;
 
   private:
+    /// Runs a screen until it is closed; its help command opens the help page.
+    void show(ScreenWindow& window);
+
     struct Progress {
         int employees = 0;
         std::optional<WorkMonth> month;
