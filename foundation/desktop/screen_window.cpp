@@ -65,6 +65,7 @@ void ScreenWindow::buildTitleBand(const QString& title) {
     texts->addWidget(look::label(title, look::TextSize::Title, frame));
     subtitle_ = look::label(QString(), look::TextSize::Hint, frame);
     subtitle_->setObjectName(QStringLiteral("subtitle"));
+    subtitle_->hide();
     texts->addWidget(subtitle_);
     row->addLayout(texts);
     row->addStretch();
@@ -100,6 +101,7 @@ void ScreenWindow::buildStateBar() {
 
 void ScreenWindow::setSubtitle(const QString& text) {
     subtitle_->setText(text);
+    subtitle_->setVisible(!text.isEmpty());
 }
 
 void ScreenWindow::setChips(const QStringList& chips) {

@@ -104,6 +104,7 @@ QWidget* DataMesCorrenteWindow::buildHolidayList() {
     holidays_->setObjectName(QStringLiteral("month.holidays"));
     holidays_->setAccessibleName(QStringLiteral("Feriados"));
     holidays_->setMinimumHeight(holidays_->fontMetrics().height() * 3);
+    holidays_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     QLabel* label = look::label(QStringLiteral("F&eriados:"), look::TextSize::Body, widget);
     label->setBuddy(holidays_);
     auto* list = new QVBoxLayout;
