@@ -29,6 +29,8 @@ constexpr int kWidestList = 320;
 const QString kNoEmployees = QStringLiteral(
     "Nenhum funcionário neste turno. Escolha outro turno acima ou inclua funcionários no "
     "cadastro.");
+const QString kNoMonth = QStringLiteral(
+    "Escolha primeiro o mês de trabalho em \"Configurações Feriados e Horas extras\" (F7).");
 
 QString nameOf(HalfMonth half) {
     return half == HalfMonth::First ? QStringLiteral("1º Quinzena") : QStringLiteral("2º Quinzena");
@@ -40,16 +42,27 @@ HalfMonth otherThan(HalfMonth half) {
 
 }  // namespace
 
-CartaoPontoDadosWindow::CartaoPontoDadosWindow(CartaoPontoDados& command, QWidget* parent)
+CartaoPontoDadosWindow::CartaoPontoDadosWindow(CartaoPontoDados& command, Browser& browser,
+                                               std::function<void(QWidget*)> openWorkMonth,
+                                               QWidget* parent)
     : ScreenWindow(QStringLiteral("cartaoPontoDados"), QStringLiteral("Aplicação de Ponto"),
                    parent),
-      command_(command) {
+      command_(command),
+      browser_(browser),
+      openWorkMonth_(std::move(openWorkMonth)) {
     setBody(buildBody());
     buildCommands();
     connectList();
     addEmployeeKeys();
-    refresh();
+    connect(this, &ScreenWindow::helpRequested, this, &CartaoPontoDadosWindow::openHelp);
+    openCommand();
     list_->setFocus();
+}
+
+void CartaoPontoDadosWindow::openCommand() {
+    const bool opened = command_.open();
+    if (opened && !command_.selected() && !command_.employees().empty()) (void)command_.select(0);
+    refresh();
 }
 
 QWidget* CartaoPontoDadosWindow::buildBody() {
@@ -90,7 +103,7 @@ QWidget* CartaoPontoDadosWindow::buildList() {
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     search_->serve(list_);
     column->addWidget(list_, 1);
-    emptyHint_ = look::label(kNoEmployees, look::TextSize::Hint, widget);
+    emptyHint_ = look::label(QString(), look::TextSize::Hint, widget);
     emptyHint_->setObjectName(QStringLiteral("card.emptyHint"));
     emptyHint_->setWordWrap(true);
     column->addWidget(emptyHint_);
@@ -183,6 +196,7 @@ QWidget* CartaoPontoDadosWindow::buildEntryMode() {
 void CartaoPontoDadosWindow::connectList() {
     connect(shift_, &QComboBox::activated, this, [this](int place) {
         (void)command_.filterBy(kShiftFilters[static_cast<std::size_t>(place)]);
+        if (!command_.selected() && !command_.employees().empty()) (void)command_.select(0);
         refresh();
     });
     connect(search_, &SearchBox::textChanged, this, &CartaoPontoDadosWindow::filterList);
@@ -230,7 +244,6 @@ void CartaoPontoDadosWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void CartaoPontoDadosWindow::refresh() {
-    if (!command_.selected() && !command_.employees().empty()) (void)command_.select(0);
     if (command_.company())
         setChips({toQt(command_.company()->text() + " " + command_.companyName()),
                   toQt(monthTitle(command_.settings().month)),
@@ -249,6 +262,8 @@ void CartaoPontoDadosWindow::showList() {
     list_->setCurrentRow(static_cast<int>(command_.selectedPosition().value_or(0)));
     const bool empty = command_.employees().empty();
     emptyHint_->setVisible(empty);
+    emptyHint_->setText(command_.company() ? kNoEmployees : kNoMonth);
+    shift_->setEnabled(command_.company().has_value());
     filterList(search_->text());
 }
 
@@ -305,6 +320,10 @@ void CartaoPontoDadosWindow::showState() {
         setState(command_.selected() ? QStringLiteral("Ponto gravado") : QString());
 }
 
+void CartaoPontoDadosWindow::openHelp() {
+    if (!browser_.openHelp()) setState(QStringLiteral("⚠ Não foi possível abrir a ajuda"));
+}
+
 void CartaoPontoDadosWindow::commitEditors() {
     for (HalfWidgets& widgets : halves_)
         widgets.grid->commitEditor();
@@ -324,7 +343,9 @@ void CartaoPontoDadosWindow::save() {
 
 void CartaoPontoDadosWindow::changeMonth() {
     commitEditors();
-    if (command_.mayLeave()) emit monthSettingsRequested();
+    if (!command_.mayLeave()) return;
+    openWorkMonth_(this);
+    openCommand();
 }
 
 bool CartaoPontoDadosWindow::mayClose() {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "foundation/browser.h"
 #include "foundation/desktop/screen_window.h"
 #include "timecard/cartao_ponto_dados.h"
 
 #include <array>
+#include <functional>
 
 class QComboBox;
 class QListWidget;
@@ -24,16 +26,14 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     Q_OBJECT
 
   public:
-    /// `command` is open and outlives the window.
-    explicit CartaoPontoDadosWindow(CartaoPontoDados& command, QWidget* parent = nullptr);
+    /// Opens the command. `openWorkMonth` shows the work month's window over the one given and
+    /// returns when it is closed; the card is then read again. Command and browser outlive the
+    /// window.
+    CartaoPontoDadosWindow(CartaoPontoDados& command, Browser& browser,
+                           std::function<void(QWidget*)> openWorkMonth, QWidget* parent = nullptr);
 
     /// Shows again what the command holds.
     void refresh();
-
-  signals:
-    /// "Configurações Feriados e Horas extras": whoever listens shows that window, opens the
-    /// command again and refreshes this one.
-    void monthSettingsRequested();
 
   protected:
     bool mayClose() override;
@@ -60,18 +60,22 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     [[nodiscard]] bool isWide() const;
     void showHalf(HalfMonth half);
     void layOutHalves();
+    void openCommand();
     void showList();
     void filterList(const QString& wanted);
     void chooseEmployee(int row);
     void stepEmployee(int step);
     void showCard();
     void showState();
+    void openHelp();
     void commitEditors();
     void apply();
     void save();
     void changeMonth();
 
     CartaoPontoDados& command_;
+    Browser& browser_;
+    std::function<void(QWidget*)> openWorkMonth_;
     HalfMonth shown_ = HalfMonth::First;
     QComboBox* shift_ = nullptr;
     SearchBox* search_ = nullptr;

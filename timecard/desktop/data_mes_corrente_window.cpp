@@ -30,10 +30,12 @@ QVBoxLayout* columnIn(QWidget* widget) {
 
 }  // namespace
 
-DataMesCorrenteWindow::DataMesCorrenteWindow(DataMesCorrente& command, QWidget* parent)
+DataMesCorrenteWindow::DataMesCorrenteWindow(DataMesCorrente& command, Browser& browser,
+                                             QWidget* parent)
     : ScreenWindow(QStringLiteral("dataMesCorrente"),
                    QStringLiteral("Configurações Horas Extras - Mes de Trabalho"), parent),
-      command_(command) {
+      command_(command),
+      browser_(browser) {
     setBody(buildBody());
     QToolButton* record = addCommand(QStringLiteral("save"), QStringLiteral("Gravar"),
                                      QKeySequence::Save, QStringLiteral("month.record"));
@@ -45,6 +47,7 @@ DataMesCorrenteWindow::DataMesCorrenteWindow(DataMesCorrente& command, QWidget* 
     QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("month.close"));
     connect(close, &QPushButton::clicked, this, &DataMesCorrenteWindow::reject);
     connectMonth();
+    connect(this, &ScreenWindow::helpRequested, this, &DataMesCorrenteWindow::openHelp);
     showMonth();
     month_->setFocus();
 }
@@ -194,6 +197,10 @@ void DataMesCorrenteWindow::showHolidays() {
 
 void DataMesCorrenteWindow::showState() {
     setState(command_.changed() ? QStringLiteral("Alterações não gravadas") : QString());
+}
+
+void DataMesCorrenteWindow::openHelp() {
+    if (!browser_.openHelp()) setState(QStringLiteral("⚠ Não foi possível abrir a ajuda"));
 }
 
 void DataMesCorrenteWindow::recordMonth() {
