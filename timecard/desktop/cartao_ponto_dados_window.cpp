@@ -65,6 +65,10 @@ void CartaoPontoDadosWindow::openCommand() {
     refresh();
 }
 
+CartaoPontoDadosWindow::~CartaoPontoDadosWindow() {
+    hide();
+}
+
 QWidget* CartaoPontoDadosWindow::buildBody() {
     auto* body = new QWidget(this);
     auto* row = new QHBoxLayout(body);

@@ -32,6 +32,9 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     CartaoPontoDadosWindow(CartaoPontoDados& command, Browser& browser,
                            std::function<void(QWidget*)> openWorkMonth, QWidget* parent = nullptr);
 
+    /// Hides the window while it is whole: an open cell reports back when it loses the focus.
+    ~CartaoPontoDadosWindow() override;
+
     /// Shows again what the command holds.
     void refresh();
 

@@ -120,6 +120,10 @@ TEST_F(CardWindow, WhatStandsInAnOpenEditorIsNotLost) {
     driven->press(Qt::Key_PageDown);  // answered Cancel
     EXPECT_EQ(command.selectedPosition(), 0U);
     EXPECT_EQ(cell(1, 0, 1), "09:00");
+    grid(1).goToStart();
+    QTest::keyClick(&grid(1), '7');
+    driven.reset();  // with the cell still open
+    EXPECT_EQ(command.sheet().text(1, PunchCell::MorningEntry), "07:00");
 }
 
 TEST_F(CardWindow, F6ChangesTheHalfAndAWideWindowShowsBoth) {
