@@ -26,11 +26,11 @@ constexpr std::array kShiftFilters = {ShiftFilter::Todos, ShiftFilter::Unico, Sh
                                       ShiftFilter::Dois, ShiftFilter::Tres};
 constexpr int kNarrowestList = 216;
 constexpr int kWidestList = 320;
+const QString kNoMonth = QStringLiteral(
+    "Escolha primeiro o mês de trabalho em \"Configurações Feriados e Horas extras\" (F7).");
 const QString kNoEmployees = QStringLiteral(
     "Nenhum funcionário neste turno. Escolha outro turno acima ou inclua funcionários no "
     "cadastro.");
-const QString kNoMonth = QStringLiteral(
-    "Escolha primeiro o mês de trabalho em \"Configurações Feriados e Horas extras\" (F7).");
 
 QString nameOf(HalfMonth half) {
     return half == HalfMonth::First ? QStringLiteral("1º Quinzena") : QStringLiteral("2º Quinzena");
@@ -42,27 +42,16 @@ HalfMonth otherThan(HalfMonth half) {
 
 }  // namespace
 
-CartaoPontoDadosWindow::CartaoPontoDadosWindow(CartaoPontoDados& command, Browser& browser,
-                                               std::function<void(QWidget*)> openWorkMonth,
-                                               QWidget* parent)
+CartaoPontoDadosWindow::CartaoPontoDadosWindow(CartaoPontoDados& command, QWidget* parent)
     : ScreenWindow(QStringLiteral("cartaoPontoDados"), QStringLiteral("Aplicação de Ponto"),
                    parent),
-      command_(command),
-      browser_(browser),
-      openWorkMonth_(std::move(openWorkMonth)) {
+      command_(command) {
     setBody(buildBody());
     buildCommands();
     connectList();
     addEmployeeKeys();
-    connect(this, &ScreenWindow::helpRequested, this, &CartaoPontoDadosWindow::openHelp);
-    openCommand();
-    list_->setFocus();
-}
-
-void CartaoPontoDadosWindow::openCommand() {
-    const bool opened = command_.open();
-    if (opened && !command_.selected() && !command_.employees().empty()) (void)command_.select(0);
     refresh();
+    list_->setFocus();
 }
 
 CartaoPontoDadosWindow::~CartaoPontoDadosWindow() {
@@ -107,7 +96,7 @@ QWidget* CartaoPontoDadosWindow::buildList() {
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     search_->serve(list_);
     column->addWidget(list_, 1);
-    emptyHint_ = look::label(QString(), look::TextSize::Hint, widget);
+    emptyHint_ = look::label(kNoEmployees, look::TextSize::Hint, widget);
     emptyHint_->setObjectName(QStringLiteral("card.emptyHint"));
     emptyHint_->setWordWrap(true);
     column->addWidget(emptyHint_);
@@ -200,7 +189,6 @@ QWidget* CartaoPontoDadosWindow::buildEntryMode() {
 void CartaoPontoDadosWindow::connectList() {
     connect(shift_, &QComboBox::activated, this, [this](int place) {
         (void)command_.filterBy(kShiftFilters[static_cast<std::size_t>(place)]);
-        if (!command_.selected() && !command_.employees().empty()) (void)command_.select(0);
         refresh();
     });
     connect(search_, &SearchBox::textChanged, this, &CartaoPontoDadosWindow::filterList);
@@ -248,6 +236,7 @@ void CartaoPontoDadosWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void CartaoPontoDadosWindow::refresh() {
+    if (!command_.selected() && !command_.employees().empty()) (void)command_.select(0);
     if (command_.company())
         setChips({toQt(command_.company()->text() + " " + command_.companyName()),
                   toQt(monthTitle(command_.settings().month)),
@@ -324,10 +313,6 @@ void CartaoPontoDadosWindow::showState() {
         setState(command_.selected() ? QStringLiteral("Ponto gravado") : QString());
 }
 
-void CartaoPontoDadosWindow::openHelp() {
-    if (!browser_.openHelp()) setState(QStringLiteral("⚠ Não foi possível abrir a ajuda"));
-}
-
 void CartaoPontoDadosWindow::commitEditors() {
     for (HalfWidgets& widgets : halves_)
         widgets.grid->commitEditor();
@@ -347,9 +332,7 @@ void CartaoPontoDadosWindow::save() {
 
 void CartaoPontoDadosWindow::changeMonth() {
     commitEditors();
-    if (!command_.mayLeave()) return;
-    openWorkMonth_(this);
-    openCommand();
+    if (command_.mayLeave()) emit monthSettingsRequested();
 }
 
 bool CartaoPontoDadosWindow::mayClose() {

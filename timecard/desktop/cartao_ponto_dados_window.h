@@ -1,11 +1,9 @@
 #pragma once
 
-#include "foundation/browser.h"
 #include "foundation/desktop/screen_window.h"
 #include "timecard/cartao_ponto_dados.h"
 
 #include <array>
-#include <functional>
 
 class QComboBox;
 class QListWidget;
@@ -26,17 +24,19 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     Q_OBJECT
 
   public:
-    /// Opens the command. `openWorkMonth` shows the work month's window over the one given and
-    /// returns when it is closed; the card is then read again. Command and browser outlive the
-    /// window.
-    CartaoPontoDadosWindow(CartaoPontoDados& command, Browser& browser,
-                           std::function<void(QWidget*)> openWorkMonth, QWidget* parent = nullptr);
+    /// A `command` that could not be opened leads to the month's settings. It outlives the window.
+    explicit CartaoPontoDadosWindow(CartaoPontoDados& command, QWidget* parent = nullptr);
 
     /// Hides the window while it is whole: an open cell reports back when it loses the focus.
     ~CartaoPontoDadosWindow() override;
 
     /// Shows again what the command holds.
     void refresh();
+
+  signals:
+    /// "Configurações Feriados e Horas extras": whoever listens shows that window, opens the
+    /// command again and refreshes this one.
+    void monthSettingsRequested();
 
   protected:
     bool mayClose() override;
@@ -63,22 +63,18 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     [[nodiscard]] bool isWide() const;
     void showHalf(HalfMonth half);
     void layOutHalves();
-    void openCommand();
     void showList();
     void filterList(const QString& wanted);
     void chooseEmployee(int row);
     void stepEmployee(int step);
     void showCard();
     void showState();
-    void openHelp();
     void commitEditors();
     void apply();
     void save();
     void changeMonth();
 
     CartaoPontoDados& command_;
-    Browser& browser_;
-    std::function<void(QWidget*)> openWorkMonth_;
     HalfMonth shown_ = HalfMonth::First;
     QComboBox* shift_ = nullptr;
     SearchBox* search_ = nullptr;

@@ -30,12 +30,10 @@ QVBoxLayout* columnIn(QWidget* widget) {
 
 }  // namespace
 
-DataMesCorrenteWindow::DataMesCorrenteWindow(DataMesCorrente& command, Browser& browser,
-                                             QWidget* parent)
+DataMesCorrenteWindow::DataMesCorrenteWindow(DataMesCorrente& command, QWidget* parent)
     : ScreenWindow(QStringLiteral("dataMesCorrente"),
                    QStringLiteral("Configurações Horas Extras - Mes de Trabalho"), parent),
-      command_(command),
-      browser_(browser) {
+      command_(command) {
     setBody(buildBody());
     QToolButton* record = addCommand(QStringLiteral("save"), QStringLiteral("Gravar"),
                                      QKeySequence::Save, QStringLiteral("month.record"));
@@ -47,7 +45,6 @@ DataMesCorrenteWindow::DataMesCorrenteWindow(DataMesCorrente& command, Browser& 
     QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("month.close"));
     connect(close, &QPushButton::clicked, this, &DataMesCorrenteWindow::reject);
     connectMonth();
-    connect(this, &ScreenWindow::helpRequested, this, &DataMesCorrenteWindow::openHelp);
     showMonth();
     month_->setFocus();
 }
@@ -197,10 +194,6 @@ void DataMesCorrenteWindow::showHolidays() {
 
 void DataMesCorrenteWindow::showState() {
     setState(command_.changed() ? QStringLiteral("Alterações não gravadas") : QString());
-}
-
-void DataMesCorrenteWindow::openHelp() {
-    if (!browser_.openHelp()) setState(QStringLiteral("⚠ Não foi possível abrir a ajuda"));
 }
 
 void DataMesCorrenteWindow::recordMonth() {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/browser.h"
 #include "foundation/desktop/screen_window.h"
 #include "timecard/data_mes_corrente.h"
 
@@ -19,8 +18,8 @@ class DataMesCorrenteWindow : public ScreenWindow {
     Q_OBJECT
 
   public:
-    /// `command` is open. Both outlive the window.
-    DataMesCorrenteWindow(DataMesCorrente& command, Browser& browser, QWidget* parent = nullptr);
+    /// `command` is open and outlives the window.
+    explicit DataMesCorrenteWindow(DataMesCorrente& command, QWidget* parent = nullptr);
 
   protected:
     bool mayClose() override;
@@ -35,12 +34,10 @@ class DataMesCorrenteWindow : public ScreenWindow {
     void showMonth();
     void showHolidays();
     void showState();
-    void openHelp();
     void recordMonth();
     void confirmMonth();
 
     DataMesCorrente& command_;
-    Browser& browser_;
     QComboBox* month_ = nullptr;
     QCheckBox* reference_ = nullptr;
     QLabel* heading_ = nullptr;

@@ -1,8 +1,6 @@
 #include "timecard/desktop/cartao_ponto_dados_window.h"
 
-#include "foundation/company.h"
 #include "tests/support/driven_window.h"
-#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 #include "timecard/desktop/punch_grid.h"
 #include "timecard/selected_month.h"
@@ -14,7 +12,6 @@ namespace winvrx {
 namespace {
 
 using testing::DrivenWindow;
-using testing::TestBrowser;
 using testing::TestWorkplace;
 
 const std::string kPunches = "01001-03-2024.bdx";
@@ -22,7 +19,6 @@ const std::string kPunches = "01001-03-2024.bdx";
 /// The window over March 2024 with two employees.
 struct CardWindow : ::testing::Test {
     TestWorkplace desk;
-    TestBrowser browser;
     CartaoPontoDados command{desk.at};
     int monthOpened = 0;
     std::unique_ptr<DrivenWindow<CartaoPontoDadosWindow>> driven;
@@ -37,17 +33,15 @@ struct CardWindow : ::testing::Test {
         jose.shift = "Dois";
         desk.file("01CartaPonto") = joinedLines({encode(ana), encode(jose)});
         desk.file("01PadrHor001.pdx") = "08:0012:0013:0017:00";
-        chooseMonth();
-    }
-
-    void chooseMonth() {
         saveSelectedMonth(desk.files, desk.session.folder,
                           {*parseMonthKey("03-2024"), ShiftFilter::Todos});
     }
 
     void open() {
-        driven = std::make_unique<DrivenWindow<CartaoPontoDadosWindow>>(
-            command, browser, [this](QWidget*) { ++monthOpened; });
+        ASSERT_TRUE(command.open());
+        driven = std::make_unique<DrivenWindow<CartaoPontoDadosWindow>>(command);
+        QObject::connect(&driven->window, &CartaoPontoDadosWindow::monthSettingsRequested,
+                         &driven->window, [this] { ++monthOpened; });
     }
 
     [[nodiscard]] PunchGrid& grid(int half) {
@@ -183,25 +177,19 @@ TEST_F(CardWindow, SearchAndShiftNarrowTheList) {
     EXPECT_EQ(command.selected()->name, "JOSÉ");
 }
 
-TEST_F(CardWindow, WithoutAMonthItLeadsToTheMonth) {
-    desk.files.content.erase("/data/DataIde.ivc");
+TEST_F(CardWindow, TheMonthIsChangedOnlyAfterTheChangesAreSettled) {
     open();
-    EXPECT_THAT(desk.person.takeTexts(), ::testing::ElementsAre("Informe um Mês de Trabalho!!"));
-    EXPECT_THAT(driven->text("card.emptyHint"), ::testing::HasSubstr("(F7)"));
-    EXPECT_EQ(driven->get<QListWidget>("card.employees").count(), 0);
-    chooseMonth();
+    driven->type("schedule.time1", "7");
+    driven->press(Qt::Key_F7);  // answered Cancel
+    EXPECT_EQ(monthOpened, 0);
+    desk.person.answers = {Answer::No};
     driven->press(Qt::Key_F7);
     EXPECT_EQ(monthOpened, 1);
-    EXPECT_EQ(driven->get<QListWidget>("card.employees").count(), 2);
-    EXPECT_EQ(command.selected()->name, "ANA");
 }
 
 TEST_F(CardWindow, EveryWidgetHasAName) {
     open();
     EXPECT_THAT(driven->namelessWidgets(), ::testing::IsEmpty());
-    browser.works = false;
-    driven->press(Qt::Key_F1);
-    EXPECT_EQ(driven->text("state"), "⚠ Não foi possível abrir a ajuda");
 }
 
 }  // namespace

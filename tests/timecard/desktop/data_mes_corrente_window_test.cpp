@@ -1,7 +1,6 @@
 #include "timecard/desktop/data_mes_corrente_window.h"
 
 #include "tests/support/driven_window.h"
-#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 #include "timecard/selected_month.h"
 
@@ -14,19 +13,17 @@ namespace winvrx {
 namespace {
 
 using testing::DrivenWindow;
-using testing::TestBrowser;
 using testing::TestWorkplace;
 
 /// The window over March 2024, which begins on a Friday: day 1 is cell 6.
 struct MonthWindow : ::testing::Test {
     TestWorkplace desk;
-    TestBrowser browser;
     DataMesCorrente command{desk.at};
     std::unique_ptr<DrivenWindow<DataMesCorrenteWindow>> driven;
 
     void SetUp() override {
         command.open();
-        driven = std::make_unique<DrivenWindow<DataMesCorrenteWindow>>(command, browser);
+        driven = std::make_unique<DrivenWindow<DataMesCorrenteWindow>>(command);
     }
     [[nodiscard]] MonthSettings recorded() {
         return loadMonthSettings(desk.files, desk.session.folder, *parseMonthKey("03-2024"));
@@ -117,8 +114,6 @@ TEST_F(MonthWindow, EscapeAsksBeforeChangesAreLost) {
 
 TEST_F(MonthWindow, EveryWidgetHasAName) {
     EXPECT_THAT(driven->namelessWidgets(), ::testing::IsEmpty());
-    driven->press(Qt::Key_F1);
-    EXPECT_EQ(browser.opened, 1);
 }
 
 }  // namespace
