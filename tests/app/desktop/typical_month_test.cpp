@@ -1,0 +1,133 @@
+// What a played month leaves behind, read as a user would read it: the printed cards, the record
+// files, the pictures and the conversation.
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using ::testing::Contains;
+using ::testing::HasSubstr;
+
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+class TypicalMonth : public ::testing::Test {
+  protected:
+    static void SetUpTestSuite() {
+        folder_ = std::make_unique<QTemporaryDir>();
+        QProcess play;
+        play.start(QCoreApplication::applicationDirPath() + QStringLiteral("/typical_month"),
+                   {folder_->path()});
+        ASSERT_TRUE(play.waitForFinished(120'000));
+        ASSERT_EQ(play.exitCode(), 0) << play.readAllStandardError().toStdString();
+    }
+    static void TearDownTestSuite() { folder_.reset(); }
+
+    static QString file(const char* name) { return folder_->filePath(QString::fromUtf8(name)); }
+    static QByteArray record(const char* name) {
+        return bytesOf(file("disco-c/Users/Public/Documents/Winvrx/") + QString::fromUtf8(name));
+    }
+
+    /// The text of each printed page.
+    static QStringList pages() {
+        QProcess reader;
+        reader.start(QStringLiteral("pdftotext"),
+                     {QStringLiteral("-layout"), file("cartoes.pdf"), QStringLiteral("-")});
+        EXPECT_TRUE(reader.waitForFinished(30'000));
+        return QString::fromUtf8(reader.readAllStandardOutput())
+            .split(QLatin1Char('\f'), Qt::SkipEmptyParts);
+    }
+
+    /// The printed row of a day, its blanks folded: "01 sex 08:00 12:00".
+    static std::string dayRow(const QString& page, int day) {
+        const QRegularExpression row(
+            QStringLiteral("^ *%1 +(dom|seg|ter|qua|qui|sex|sáb).*$")
+                .arg(day, 2, 10, QLatin1Char('0')),
+            QRegularExpression::MultilineOption | QRegularExpression::UseUnicodePropertiesOption);
+        return row.match(page).captured().simplified().toStdString();
+    }
+
+    static std::unique_ptr<QTemporaryDir> folder_;
+};
+
+std::unique_ptr<QTemporaryDir> TypicalMonth::folder_;
+
+TEST_F(TypicalMonth, PrintsOnePageAnEmployeeWithTheHeaderBlock) {
+    const QStringList cards = pages();
+    ASSERT_EQ(cards.size(), 3);
+    for (const QString& card : cards)
+        for (const char* caption :
+             {"Razão: ", "Cnpj: ", " - Reg.: ", " CTPS: ", "Admiss: ", "Função: ", "Período.: ",
+              " - Descanso Semanal: ", "Ent:", " Saí:", " - Inter.Refei.: "})
+            EXPECT_THAT(card.toStdString(), HasSubstr(caption));
+    EXPECT_THAT(cards[1].toStdString(), HasSubstr("ANA PAULA D'ÁVILA"));
+}
+
+TEST_F(TypicalMonth, PrintsARowForEachOfThirtyOneDays) {
+    const QStringList cards = pages();
+    ASSERT_EQ(cards.size(), 3);
+    for (int card = 0; card < 3; ++card) {
+        for (int day = 1; day <= 31; ++day) {
+            const std::string row = dayRow(cards[card], day);
+            ASSERT_FALSE(row.empty()) << "card " << card << " day " << day;
+            const bool sunday = day % 7 == 3;
+            const bool holiday = day == 29;
+            const bool beforeAdmission = card == 1 && day < 12;
+            const bool worked = !sunday && !holiday && !beforeAdmission;
+            EXPECT_EQ(row.find(':') != std::string::npos, worked) << row;
+        }
+    }
+    EXPECT_EQ(dayRow(cards[0], 1), "01 sex 08:00 12:00 13:00 17:00 08:00");
+    EXPECT_EQ(dayRow(cards[1], 11), "11 seg");
+    EXPECT_EQ(dayRow(cards[1], 12), "12 ter 09:00 13:00 14:00 18:00 08:00");
+    EXPECT_EQ(dayRow(cards[2], 4), "04 seg 22:00 02:00 03:00 06:00 07:00");
+    EXPECT_EQ(dayRow(cards[0], 29), "29 sex FERIADO");
+}
+
+TEST_F(TypicalMonth, LeavesRecordsOfTheirLayout) {
+    const QByteArray companies = record("01Empresa");
+    ASSERT_EQ(companies.size(), 2 * (549 + 2));
+    EXPECT_EQ(companies.mid(549, 2), "\r\n");
+    EXPECT_EQ(companies.mid(551, 10), "02 PADARIA");
+    EXPECT_EQ(record("DataIde.ivc"), "03-2024\r\nTodos\r\n");
+    EXPECT_EQ(record("02CartaoDePontoTipo"), "01Tilibra\r\n");
+    const QList<QByteArray> month = record("03-2024ds.rdx").split('\n');
+    ASSERT_GT(month.size(), 52);
+    EXPECT_EQ(month[33], "1\r");
+    const QList<QByteArray> punches = record("02003-03-2024.bdx").split('\n');
+    ASSERT_EQ(punches.size(), 33);
+    EXPECT_EQ(punches[0], "  \r");
+    EXPECT_EQ(punches[1].left(60), QByteArray("01/sex/mar22:0002:0003:0006:00").leftJustified(60));
+    EXPECT_EQ(punches[3].mid(45, 15), "DESCANSO SEMANA");
+    EXPECT_EQ(punches[29].mid(45, 15), QByteArray("FERIADO").leftJustified(15));
+}
+
+TEST_F(TypicalMonth, KeepsPicturesInBothPalettesAndTheConversation) {
+    const QStringList pictures = QDir(file("telas")).entryList({QStringLiteral("*.png")});
+    std::vector<std::string> names;
+    for (const QString& name : pictures)
+        names.push_back(name.mid(3).toStdString());
+    for (const char* window : {"janela-principal", "empresas", "funcionarios", "mes", "dados",
+                               "tipo", "imprimir", "previa"}) {
+        EXPECT_THAT(names, Contains(std::string(window) + "-claro.png"));
+        EXPECT_THAT(names, Contains(std::string(window) + "-escuro.png"));
+    }
+    const std::string conversation = bytesOf(file("conversa.txt")).toStdString();
+    EXPECT_THAT(conversation, HasSubstr("Título: INCLUSÃO\n"
+                                        "Texto: Confirma a Inclusão na LISTA DE FUNCIONARIOS?\n"
+                                        "Ícone: pergunta\n"
+                                        "Resposta: Sim\n"));
+    EXPECT_THAT(conversation,
+                HasSubstr("Texto: Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão "
+                          "para o Item Selecionado?\n"));
+}
+
+}  // namespace
