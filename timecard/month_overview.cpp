@@ -17,8 +17,8 @@ MonthOverview TimecardCalendar::overview(Date today) const {
     overview.businessDays = counts.businessDays;
     overview.restDays = counts.restDays;
     if (hasMonthSettings(at_.files, folder, monthOf(today)))
-        overview.notices = businessDayNotices(
-            loadMonthSettings(at_.files, folder, monthOf(today)), today);
+        overview.notices =
+            businessDayNotices(loadMonthSettings(at_.files, folder, monthOf(today)), today);
     return overview;
 }
 

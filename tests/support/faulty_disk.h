@@ -22,7 +22,8 @@ class FaultyDisk final : public Disk {
 
     [[nodiscard]] bool failed() const { return operations_ >= failAt_; }
 
-    [[nodiscard]] std::optional<std::string> read(const std::filesystem::path& file) const override {
+    [[nodiscard]] std::optional<std::string> read(
+        const std::filesystem::path& file) const override {
         step(FileFault::Operation::Read, file);
         return disk_.read(file);
     }

@@ -33,7 +33,9 @@ void MemoryDisk::rename(const path& from, const path& to) {
     now_.erase(from);
 }
 
-bool MemoryDisk::remove(const path& file) { return now_.erase(file) > 0; }
+bool MemoryDisk::remove(const path& file) {
+    return now_.erase(file) > 0;
+}
 
 void MemoryDisk::flushFolder(const path& folder) {
     std::erase_if(lasting_, [&](const auto& entry) { return entry.first.parent_path() == folder; });
@@ -41,7 +43,9 @@ void MemoryDisk::flushFolder(const path& folder) {
         if (file.parent_path() == folder) lasting_[file] = content;
 }
 
-bool MemoryDisk::exists(const path& file) const { return now_.contains(file); }
+bool MemoryDisk::exists(const path& file) const {
+    return now_.contains(file);
+}
 
 std::vector<std::string> MemoryDisk::names(const path& folder) const {
     std::vector<std::string> names;

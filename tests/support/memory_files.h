@@ -51,9 +51,7 @@ class MemoryFiles final : public FileSystem {
         return names;
     }
 
-    void makeFolder(const std::filesystem::path& folder) override {
-        folders.insert(folder);
-    }
+    void makeFolder(const std::filesystem::path& folder) override { folders.insert(folder); }
 
     void removeLeftovers(const std::filesystem::path&) override {}
 
