@@ -6,6 +6,7 @@
 #include "foundation/faults.h"
 #include "foundation/text.h"
 
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
@@ -53,10 +54,22 @@ void FieldBox::setInformation(const QString& text) {
 
 void FieldBox::setHint(const QString& sign, const QString& text, bool warning) {
     hint_->setText(text.isEmpty() ? text : sign + text);
+    warning_ = warning;
+    colorHint();
+}
+
+void FieldBox::colorHint() {
     QPalette colors = palette();
     colors.setColor(QPalette::PlaceholderText,
-                    look::color(warning ? look::Tint::Warning : look::Tint::Quiet, colors));
+                    look::color(warning_ ? look::Tint::Warning : look::Tint::Quiet, colors));
     hint_->setPalette(colors);
+}
+
+void FieldBox::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    const bool recolored =
+        event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange;
+    if (recolored && hint_) colorHint();
 }
 
 TextField::TextField(const QString& caption, const QString& objectName, int width, TextCheck check,
