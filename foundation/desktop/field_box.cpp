@@ -6,7 +6,6 @@
 #include "foundation/faults.h"
 #include "foundation/text.h"
 
-#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
@@ -45,31 +44,13 @@ FieldBox::FieldBox(const QString& caption, QWidget* field, QWidget* parent) : QW
 }
 
 void FieldBox::setWarning(const QString& text) {
-    setHint(QStringLiteral("⚠ "), text, true);
+    hint_->setText(text.isEmpty() ? text : QStringLiteral("⚠ ") + text);
+    look::setTint(*hint_, look::Tint::Warning);
 }
 
 void FieldBox::setInformation(const QString& text) {
-    setHint(QString(), text, false);
-}
-
-void FieldBox::setHint(const QString& sign, const QString& text, bool warning) {
-    hint_->setText(text.isEmpty() ? text : sign + text);
-    warning_ = warning;
-    colorHint();
-}
-
-void FieldBox::colorHint() {
-    QPalette colors = palette();
-    colors.setColor(QPalette::PlaceholderText,
-                    look::color(warning_ ? look::Tint::Warning : look::Tint::Quiet, colors));
-    hint_->setPalette(colors);
-}
-
-void FieldBox::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    const bool recolored =
-        event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange;
-    if (recolored && hint_) colorHint();
+    hint_->setText(text);
+    look::setTint(*hint_, look::Tint::Quiet);
 }
 
 TextField::TextField(const QString& caption, const QString& objectName, int width, TextCheck check,

@@ -22,15 +22,8 @@ class FieldBox : public QWidget {
     void setWarning(const QString& text);
     void setInformation(const QString& text);
 
-  protected:
-    void changeEvent(QEvent* event) override;
-
   private:
-    void setHint(const QString& sign, const QString& text, bool warning);
-    void colorHint();
-
-    QLabel* hint_ = nullptr;
-    bool warning_ = false;
+    QLabel* hint_;
 };
 
 /// Says what is wrong with a text, in a short sentence; empty when nothing is.

@@ -7,6 +7,7 @@
 #include <QBoxLayout>
 #include <QFontDatabase>
 #include <QLabel>
+#include <QStyle>
 
 #include <array>
 
@@ -63,6 +64,16 @@ QPalette paletteOf(QRgb window, QRgb base, QRgb alternate, QRgb text, QRgb borde
     return palette;
 }
 
+/// One rule for each tint that a label may bear.
+QString tintRules(const QPalette& palette) {
+    QString rules;
+    for (std::size_t tint = 0; tint < kTints.size(); ++tint)
+        rules += QStringLiteral("QLabel[tint=\"%1\"]:enabled { color: %2; }\n")
+                     .arg(tint)
+                     .arg(color(static_cast<Tint>(tint), palette).name());
+    return rules;
+}
+
 /// Only what the program's own widgets need; fields and buttons are drawn by the style.
 QString styleSheet(const QPalette& palette) {
     const auto name = [](const QColor& value) { return value.name(QColor::HexArgb); };
@@ -80,8 +91,9 @@ QListView::item { padding: 5px 4px; border-radius: 4px; }
 QListView::item:selected { background: palette(highlight); color: palette(highlighted-text); }
 QToolTip { border: 1px solid %2; padding: 4px; }
 )");
-    return sheet.arg(name(palette.base().color()), name(palette.mid().color()),
-                     name(color(Tint::Accent, palette)), name(wash(Tint::Accent, palette)));
+    return tintRules(palette) + sheet.arg(name(palette.base().color()), name(palette.mid().color()),
+                                          name(color(Tint::Accent, palette)),
+                                          name(wash(Tint::Accent, palette)));
 }
 
 qreal factorOf(TextSize size) {
@@ -153,10 +165,18 @@ QFont fixedFont() {
     return font;
 }
 
+void setTint(QLabel& label, Tint tint) {
+    const int value = static_cast<int>(tint);
+    if (label.property("tint") == value) return;
+    label.setProperty("tint", value);
+    label.style()->unpolish(&label);
+    label.style()->polish(&label);
+}
+
 QLabel* label(const QString& text, TextSize size, QWidget* parent) {
     auto* label = new QLabel(text, parent);
     label->setFont(font(size));
-    if (size == TextSize::Hint) label->setForegroundRole(QPalette::PlaceholderText);
+    if (size == TextSize::Hint) setTint(*label, Tint::Quiet);
     return label;
 }
 

@@ -53,6 +53,9 @@ enum class TextSize { Title, Heading, Body, Hint };
 /// The system's fixed-pitch font, for times, dates and money in grids.
 [[nodiscard]] QFont fixedFont();
 
+/// Writes the label in the tint; follows a change of palette.
+void setTint(QLabel& label, Tint tint);
+
 /// A label in one of the sizes; Hint labels are quiet.
 [[nodiscard]] QLabel* label(const QString& text, TextSize size, QWidget* parent = nullptr);
 /// The heading over a group of fields.

@@ -100,9 +100,7 @@ void MonthRulesPanel::addNumber(QGridLayout& grid, int row, int column, std::siz
     label->setBuddy(edit);
     QLabel* hint = look::label(QString(), look::TextSize::Hint, this);
     hint->setObjectName(edit->objectName() + QStringLiteral(".hint"));
-    QPalette colors = palette();
-    colors.setColor(QPalette::PlaceholderText, look::color(look::Tint::Warning, colors));
-    hint->setPalette(colors);
+    look::setTint(*hint, look::Tint::Warning);
     grid.addWidget(label, row, column);
     grid.addWidget(edit, row, column + 1);
     grid.addWidget(look::label(QString::fromUtf8(text.suffix), look::TextSize::Body, this), row,

@@ -32,6 +32,7 @@ SchedulePanel::SchedulePanel(CartaoPontoDados& command, QWidget* parent)
     monthly_->setObjectName(QStringLiteral("schedule.monthly"));
     hint_ = look::label(QString(), look::TextSize::Hint, this);
     hint_->setObjectName(QStringLiteral("schedule.hint"));
+    look::setTint(*hint_, look::Tint::Warning);
     save_ = new QPushButton(look::icon(QStringLiteral("save")), QStringLiteral("Gravar &Horário"));
     save_->setObjectName(QStringLiteral("schedule.save"));
     save_->setAccessibleName(QStringLiteral("Gravar Horário"));
@@ -132,9 +133,6 @@ void SchedulePanel::showTotals() {
     QString finding;
     for (std::size_t position = 0; position < kScheduleTimes && finding.isEmpty(); ++position)
         finding = toQt(command_.schedule().findingAt(position));
-    QPalette colors = palette();
-    colors.setColor(QPalette::PlaceholderText, look::color(look::Tint::Warning, colors));
-    hint_->setPalette(colors);
     hint_->setText(finding.isEmpty() ? finding : QStringLiteral("⚠ ") + finding);
 }
 
