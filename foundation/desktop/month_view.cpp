@@ -70,7 +70,6 @@ void MonthView::paintDay(QPainter& painter, Date date, const QRectF& area) const
                             : palette().color(QPalette::WindowText));
     QFont dayFont = font();
     dayFont.setBold(holiday || date == today_);
-    dayFont.setItalic(sunday);
     painter.setFont(dayFont);
     painter.drawText(area, Qt::AlignCenter, QString::number(dayNumber(date)));
 }

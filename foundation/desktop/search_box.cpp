@@ -29,8 +29,12 @@ SearchBox::SearchBox(const QString& objectName, const QString& placeholder, QWid
     setObjectName(objectName);
     setAccessibleName(placeholder);
     setPlaceholderText(placeholder);
-    setClearButtonEnabled(true);
     addAction(look::icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    QAction* clearAll = addAction(look::icon(QStringLiteral("clear")), QLineEdit::TrailingPosition);
+    clearAll->setVisible(false);
+    connect(clearAll, &QAction::triggered, this, &QLineEdit::clear);
+    connect(this, &QLineEdit::textChanged, clearAll,
+            [clearAll](const QString& text) { clearAll->setVisible(!text.isEmpty()); });
 }
 
 void SearchBox::serve(QAbstractItemView* list) {
