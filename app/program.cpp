@@ -20,7 +20,10 @@ Program::Program(const Surroundings& surroundings)
       files_(systemFiles()),
       browser_(std::make_unique<DesktopBrowser>(
           QString::fromStdString((surroundings.programFolder / "help").string()))),
-      at_{*files_, person_, surroundings.clock, surroundings.log, session_},
+      disk_(systemDisk()),
+      host_(systemHost()),
+      lock_(*disk_, *host_),
+      at_{*files_, person_, surroundings.clock, surroundings.log, session_, lock_},
       calendar_(at_),
       engine_(makeEngine()),
       screens_(at_, *browser_, *engine_),

@@ -47,6 +47,9 @@ class Program {
     std::unique_ptr<Browser> browser_;
     MessageBoxOperator person_;
     Session session_;
+    std::unique_ptr<Disk> disk_;
+    std::unique_ptr<Host> host_;
+    FolderLock lock_;
     Workplace at_;
     TimecardCalendar calendar_;
     std::unique_ptr<ReportEngine> engine_;

@@ -4,6 +4,18 @@
 
 namespace winvrx {
 
+namespace {
+
+Message takeOver(const std::optional<LockHolder>& holder) {
+    const std::string who = holder ? holder->description() : "outro computador";
+    return {"Pasta de Dados em Uso",
+            "A pasta de dados está em uso por " + who + ". Deseja continuar mesmo assim?",
+            Icon::Exclamation, Buttons::YesNo,
+            "Continue somente se esse computador foi desligado ou travou durante uma gravação."};
+}
+
+}  // namespace
+
 Message incorrectData() {
     return {"Erro", "Dados incorretos!", Icon::Critical};
 }
@@ -17,6 +29,16 @@ void reportFailure(const Workplace& at, Message message, const std::exception& f
     at.log.write(message.title + ": " + message.text + " " + fault.what());
     message.detail = explanationOf(fault);
     at.person.tell(message);
+}
+
+FolderLock::Hold holdFolder(const Workplace& at) {
+    return holdFolder(at, at.session.folder.path());
+}
+
+FolderLock::Hold holdFolder(const Workplace& at, const std::filesystem::path& folder) {
+    return at.lock.take(folder, at.clock.now(), [&at](const std::optional<LockHolder>& holder) {
+        return at.person.agrees(takeOver(holder));
+    });
 }
 
 void openHelp(const Workplace& at, Browser& browser) {

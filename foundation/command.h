@@ -3,6 +3,7 @@
 #include "foundation/clock.h"
 #include "foundation/faults.h"
 #include "foundation/file_system.h"
+#include "foundation/folder_lock.h"
 #include "foundation/log.h"
 #include "foundation/operator.h"
 #include "foundation/session.h"
@@ -20,6 +21,7 @@ struct Workplace {
     const Clock& clock;
     Log& log;
     Session& session;
+    FolderLock& lock;
 };
 
 /// "Dados incorretos!" titled "Erro", the answer of most commands to a failure.
@@ -45,6 +47,23 @@ template <typename Work>
         reportFailure(at, onFailure, fault);
         return false;
     }
+}
+
+/// Keeps other writers out of the data folder while the returned value lives; may be nested. Waits
+/// a few seconds for another writer, and asks before it takes over what another computer left
+/// behind. Throws Fault, naming who writes.
+[[nodiscard]] FolderLock::Hold holdFolder(const Workplace& at);
+[[nodiscard]] FolderLock::Hold holdFolder(const Workplace& at, const std::filesystem::path& folder);
+
+/// `attempt` for a command that writes: `work` runs while the data folder is held. It reads again
+/// what it is about to change, because another writer may have been there before. A command that
+/// asks the operator asks first, under `attempt`, and calls `holdFolder` when it has its answer.
+template <typename Work>
+[[nodiscard]] bool attemptWriting(const Workplace& at, const Message& onFailure, Work&& work) {
+    return attempt(at, onFailure, [&] {
+        const FolderLock::Hold hold = holdFolder(at);
+        return work();
+    });
 }
 
 }  // namespace winvrx

@@ -21,11 +21,15 @@ std::vector<CompanyLine> loadCompanies(FileSystem& files, const DataFolder& fold
     return lines;
 }
 
-std::vector<CompanyLine> loadOrCreateCompanies(FileSystem& files, const DataFolder& folder,
-                                               Date today) {
-    const bool missing = !files.read(folder.file(kCompanyRegisterName));
-    if (missing) registerFile(files, folder).rewrite({encode(sampleCompany(today))});
-    return loadCompanies(files, folder);
+std::vector<CompanyLine> loadOrCreateCompanies(const Workplace& at) {
+    const DataFolder& folder = at.session.folder;
+    const auto missing = [&] { return !at.files.read(folder.file(kCompanyRegisterName)); };
+    if (missing()) {
+        const auto hold = holdFolder(at);
+        const std::string sample = encode(sampleCompany(at.clock.today()));
+        if (missing()) registerFile(at.files, folder).rewrite({sample});
+    }
+    return loadCompanies(at.files, folder);
 }
 
 void saveCompanies(FileSystem& files, const DataFolder& folder,

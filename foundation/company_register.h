@@ -1,8 +1,7 @@
 #pragma once
 
-#include "foundation/clock.h"
+#include "foundation/command.h"
 #include "foundation/company.h"
-#include "foundation/data_folder.h"
 
 #include <optional>
 #include <string>
@@ -28,8 +27,7 @@ struct CompanyLine {
 
 /// The same, but a missing register is first created with the sample company. A register that
 /// cannot be read is not missing: FileFault, and it stays as it is.
-[[nodiscard]] std::vector<CompanyLine> loadOrCreateCompanies(FileSystem& files,
-                                                             const DataFolder& folder, Date today);
+[[nodiscard]] std::vector<CompanyLine> loadOrCreateCompanies(const Workplace& at);
 
 void saveCompanies(FileSystem& files, const DataFolder& folder,
                    const std::vector<CompanyLine>& lines);

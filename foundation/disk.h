@@ -26,6 +26,11 @@ class Disk {
     /// may be in the file when this fails.
     virtual void write(const std::filesystem::path& file, std::string_view bytes) = 0;
 
+    /// Makes a file that was not there; false when there is one of that name. Of several processes
+    /// only one makes it, on a network share too. Part of the bytes may be in it when this fails.
+    [[nodiscard]] virtual bool create(const std::filesystem::path& file,
+                                      std::string_view bytes) = 0;
+
     /// Makes the content of these files lasting.
     virtual void flush(const std::vector<std::filesystem::path>& files) = 0;
 

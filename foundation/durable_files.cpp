@@ -1,7 +1,9 @@
 #include "foundation/durable_files.h"
 
 #include "foundation/faults.h"
+#include "foundation/folder_lock.h"
 
+#include <algorithm>
 #include <set>
 
 namespace winvrx {
@@ -12,6 +14,10 @@ using std::filesystem::path;
 
 path temporaryOf(const path& file) {
     return file.string() + std::string(kTemporarySuffix);
+}
+
+bool isTemporary(const std::string& name) {
+    return name.ends_with(kTemporarySuffix);
 }
 
 }  // namespace
@@ -80,7 +86,9 @@ bool DurableFiles::exists(const path& file) const {
 
 std::vector<std::string> DurableFiles::names(const path& folder) const {
     std::vector<std::string> names = disk_->names(folder);
-    std::erase_if(names, [](const std::string& name) { return name.ends_with(kTemporarySuffix); });
+    std::erase_if(names, [](const std::string& name) {
+        return isTemporary(name) || name.ends_with(kLockSuffix);
+    });
     return names;
 }
 
@@ -88,9 +96,13 @@ void DurableFiles::makeFolder(const path& folder) {
     disk_->makeFolder(folder);
 }
 
+bool DurableFiles::hasLeftovers(const path& folder) const {
+    return std::ranges::any_of(disk_->names(folder), isTemporary);
+}
+
 void DurableFiles::removeLeftovers(const path& folder) {
     for (const std::string& name : disk_->names(folder))
-        if (name.ends_with(kTemporarySuffix)) disk_->remove(folder / name);
+        if (isTemporary(name)) disk_->remove(folder / name);
 }
 
 }  // namespace winvrx

@@ -13,7 +13,7 @@ inline constexpr std::string_view kTemporarySuffix = ".winvrx-tmp";
 /// the new ones.
 class DurableFiles final : public FileSystem {
   public:
-    explicit DurableFiles(std::unique_ptr<Disk> disk) : disk_(std::move(disk)) {}
+    explicit DurableFiles(std::shared_ptr<Disk> disk) : disk_(std::move(disk)) {}
 
     [[nodiscard]] std::optional<std::string> read(const std::filesystem::path& file) const override;
     void replace(const std::filesystem::path& file, std::string_view bytes) override;
@@ -24,6 +24,7 @@ class DurableFiles final : public FileSystem {
         const std::filesystem::path& folder) const override;
     void makeFolder(const std::filesystem::path& folder) override;
 
+    [[nodiscard]] bool hasLeftovers(const std::filesystem::path& folder) const override;
     /// Removes the temporaries that a crash left in the folder. Records are not touched.
     void removeLeftovers(const std::filesystem::path& folder) override;
 
@@ -31,7 +32,7 @@ class DurableFiles final : public FileSystem {
     void writeTemporary(const NewContent& content);
     void discard(const std::vector<NewContent>& files) noexcept;
 
-    std::unique_ptr<Disk> disk_;
+    std::shared_ptr<Disk> disk_;
 };
 
 }  // namespace winvrx

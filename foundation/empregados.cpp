@@ -92,6 +92,7 @@ bool Empregados::include(const Employee& typed) {
     return attempt(at_, incorrectData(), [&] {
         if (refusesTakenCode(typed, employeeRegister().load())) return false;
         if (!at_.person.agrees(kConfirmInclude)) return false;
+        const auto hold = holdFolder(at_);
         auto lines = employeeRegister().load();
         if (refusesTakenCode(typed, lines)) return false;
         lines.push_back(lineOf(typed));
@@ -103,15 +104,16 @@ bool Empregados::include(const Employee& typed) {
 bool Empregados::change(std::size_t position, Employee typed) {
     if (!at_.person.agrees(kConfirmChange)) return false;
     return attempt(at_, incorrectData(), [&] {
-        auto lines = loadUnchanged(position);
-        EmployeeLine& line = lines[position];
+        const EmployeeLine line = loadUnchanged(position)[position];
         if (!line.code())
             throw Fault("employee line without code: " + line.employee.code,
                         "Esta linha da lista não tem um código válido.");
         typed.code = line.employee.code;
         typed.status = line.employee.status;
         if (!accepts(typed)) return false;
-        line = lineOf(typed, line.bytes);
+        const auto hold = holdFolder(at_);
+        auto lines = loadUnchanged(position);
+        lines[position] = lineOf(typed, line.bytes);
         save(std::move(lines));
         return true;
     });
@@ -119,7 +121,7 @@ bool Empregados::change(std::size_t position, Employee typed) {
 
 bool Empregados::remove(std::size_t position) {
     if (!at_.person.agrees(kConfirmDelete)) return false;
-    return attempt(at_, incorrectData(), [&] {
+    return attemptWriting(at_, incorrectData(), [&] {
         auto lines = loadUnchanged(position);
         const EmployeeLine chosen = lines[position];
         // A disk that refuses the list must do so before anything is gone. Then the files go

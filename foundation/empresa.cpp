@@ -45,14 +45,14 @@ Empresa::Empresa(const Workplace& at, Browser& browser) : at_(at), browser_(brow
 
 void Empresa::load() {
     (void)attempt(at_, incorrectData(), [this] {
-        lines_ = loadOrCreateCompanies(at_.files, at_.session.folder, at_.clock.today());
+        lines_ = loadOrCreateCompanies(at_);
         return true;
     });
 }
 
 bool Empresa::include(Company typed) {
     if (!at_.person.agrees(kConfirmInclude)) return false;
-    return attempt(at_, incorrectData(), [&] {
+    return attemptWriting(at_, incorrectData(), [&] {
         auto lines = loadCompanies(at_.files, at_.session.folder);
         const auto code = lowestFreeCode(lines);
         if (!code)
@@ -65,7 +65,7 @@ bool Empresa::include(Company typed) {
 
 bool Empresa::change(std::size_t position, Company typed) {
     if (!at_.person.agrees(kConfirmChange)) return false;
-    return attempt(at_, incorrectData(), [&] {
+    return attemptWriting(at_, incorrectData(), [&] {
         auto lines = loadCompanies(at_.files, at_.session.folder);
         if (position >= lines.size() || lines[position].bytes != lines_.at(position).bytes)
             throw Fault("company list changed on disk", kChangedElsewhere);
@@ -79,10 +79,13 @@ bool Empresa::change(std::size_t position, Company typed) {
     });
 }
 
-bool Empresa::confirmsDeletion(const CompanyLine& line, DeleteOption option) {
+bool Empresa::hasEmployees(const CompanyLine& line) const {
+    return line.code() &&
+           EmployeeRegister(at_.files, at_.session.folder, *line.code()).hasEmployees();
+}
+
+bool Empresa::confirmsDeletion(bool hasEmployees, DeleteOption option) {
     if (!at_.person.agrees(kConfirmDelete)) return false;
-    const bool hasEmployees =
-        line.code() && EmployeeRegister(at_.files, at_.session.folder, *line.code()).hasEmployees();
     const bool onlyCompany = option == DeleteOption::CompanyOnly;
     if (onlyCompany && hasEmployees && !at_.person.agrees(kHasEmployees)) return false;
     if ((!onlyCompany || hasEmployees) && !at_.person.agrees(kDeletesEmployees)) return false;
@@ -96,9 +99,12 @@ bool Empresa::remove(std::size_t position, DeleteOption option) {
     }
     return attempt(at_, incorrectData(), [&] {
         const CompanyLine chosen = lines_.at(position);
-        if (!confirmsDeletion(chosen, option)) return false;
+        const bool hadEmployees = hasEmployees(chosen);
+        if (!confirmsDeletion(hadEmployees, option)) return false;
+        const auto hold = holdFolder(at_);
         auto lines = loadCompanies(at_.files, at_.session.folder);
-        if (position >= lines.size() || lines[position].bytes != chosen.bytes)
+        if (position >= lines.size() || lines[position].bytes != chosen.bytes ||
+            hasEmployees(chosen) != hadEmployees)
             throw Fault("company list changed on disk", kChangedElsewhere);
         // A disk that refuses the register must do so before anything is gone. Then the files go
         // first: cut short, the command can be given again.

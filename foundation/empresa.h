@@ -43,7 +43,8 @@ class Empresa {
     void help();
 
   private:
-    [[nodiscard]] bool confirmsDeletion(const CompanyLine& line, DeleteOption option);
+    [[nodiscard]] bool confirmsDeletion(bool hasEmployees, DeleteOption option);
+    [[nodiscard]] bool hasEmployees(const CompanyLine& line) const;
     /// Deletes the company's files, unless a damaged list gives its code to another line too.
     void removeFilesOf(const CompanyLine& gone, const std::vector<CompanyLine>& remaining);
     void save(std::vector<CompanyLine> lines);

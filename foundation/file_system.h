@@ -38,15 +38,19 @@ class FileSystem {
 
     [[nodiscard]] virtual bool exists(const std::filesystem::path& file) const = 0;
 
-    /// Names of the files in `folder`, in no particular order, half-written ones left out; none
-    /// when the folder is missing.
+    /// Names of the files in `folder`, in no particular order, half-written ones and locks left
+    /// out; none when the folder is missing.
     [[nodiscard]] virtual std::vector<std::string> names(
         const std::filesystem::path& folder) const = 0;
 
     /// Makes the folder and its parents; nothing to do when it stands.
     virtual void makeFolder(const std::filesystem::path& folder) = 0;
 
-    /// Removes what a crash left half-written in the folder. Records are not touched.
+    /// True when a crash, or a command that is running elsewhere, left something half-written.
+    [[nodiscard]] virtual bool hasLeftovers(const std::filesystem::path& folder) const = 0;
+
+    /// Removes what a crash left half-written in the folder. Records are not touched. Who calls
+    /// holds the folder's lock.
     virtual void removeLeftovers(const std::filesystem::path& folder) = 0;
 };
 

@@ -91,6 +91,7 @@ bool Menu::start() {
 void Menu::readDriveLetter() {
     RecordFile memory(at_.files, localFolder(kDefaultDrive) / kStartMemoryName);
     if (!memory.exists()) {
+        const auto hold = holdFolder(at_, memory.path().parent_path());
         memory.append(std::string(1, at_.session.folder.driveLetter()));
         return;
     }
@@ -108,7 +109,7 @@ std::filesystem::path Menu::localFolder(char letter) const {
 void Menu::openFolder(char letter) {
     at_.session.folder = DataFolder(letter, localFolder(letter));
     at_.files.makeFolder(at_.session.folder.path());
-    at_.files.removeLeftovers(at_.session.folder.path());
+    removeLeftovers(at_.session.folder.path());
     if (!isShare(programFolder_)) return;
     try {
         const auto share = shareDataFolder(programFolder_);
@@ -116,16 +117,28 @@ void Menu::openFolder(char letter) {
             throw FileFault(FileFault::Operation::List, share,
                             std::make_error_code(std::errc::no_such_file_or_directory));
         at_.files.makeFolder(share);
-        at_.files.removeLeftovers(share);
+        removeLeftovers(share);
         at_.session.folder = DataFolder(letter, share);
     } catch (const FileFault& fault) {
         reportFailure(at_, kShareNotFound, fault);
     }
 }
 
+void Menu::removeLeftovers(const std::filesystem::path& folder) {
+    if (!at_.files.hasLeftovers(folder)) return;
+    if (const auto hold = at_.lock.tryTake(folder, at_.clock.now()))
+        at_.files.removeLeftovers(folder);
+}
+
+void Menu::removeHeld(const std::filesystem::path& file) {
+    if (!at_.files.exists(file)) return;
+    const auto hold = holdFolder(at_, file.parent_path());
+    at_.files.remove(file);
+}
+
 void Menu::reloadCompanies() {
     const bool loaded = attempt(at_, incorrectData(), [this] {
-        companies_ = loadOrCreateCompanies(at_.files, at_.session.folder, at_.clock.today());
+        companies_ = loadOrCreateCompanies(at_);
         return true;
     });
     if (!loaded) companies_.clear();
@@ -143,7 +156,7 @@ const CompanyLine* Menu::selected() const {
 void Menu::select(std::size_t position) {
     (void)attempt(at_, kFailure, [&] {
         at_.session.company = companies_.at(position).code();
-        at_.files.remove(at_.session.folder.file(kSelectedMonthName));
+        removeHeld(at_.session.folder.file(kSelectedMonthName));
         return true;
     });
 }
@@ -154,8 +167,9 @@ void Menu::useDrive(char letter) {
     const DataFolder before = at_.session.folder;
     const bool moved = attempt(at_, kFailure, [&] {
         openFolder(letter);
-        RecordFile(at_.files, localFolder(kDefaultDrive) / kStartMemoryName)
-            .rewrite({std::string(1, letter)});
+        const auto memory = localFolder(kDefaultDrive) / kStartMemoryName;
+        const auto hold = holdFolder(at_, memory.parent_path());
+        RecordFile(at_.files, memory).rewrite({std::string(1, letter)});
         return true;
     });
     if (!moved) at_.session.folder = before;
@@ -194,6 +208,7 @@ void Menu::offerEarlierData() {
 
 void Menu::importEarlier(const std::filesystem::path& earlier) {
     if (!at_.person.agrees(kConfirmUse)) return;
+    const auto hold = holdFolder(at_);
     const auto first = companies_.empty() ? std::nullopt : companies_.front().code();
     if (!first) throw Fault("no company to import into", "Não há empresa para receber os dados.");
     std::vector<EmployeeLine> lines;
@@ -216,9 +231,9 @@ void Menu::openHelp() {
 
 void Menu::exit() {
     (void)attempt(at_, kFailure, [this] {
-        at_.files.remove(at_.session.folder.file(kSelectedMonthName));
-        at_.files.remove(at_.session.folder.file(kStartMemoryName));
-        at_.files.remove(localFolder(kDefaultDrive) / kStartMemoryName);
+        removeHeld(at_.session.folder.file(kSelectedMonthName));
+        removeHeld(at_.session.folder.file(kStartMemoryName));
+        removeHeld(localFolder(kDefaultDrive) / kStartMemoryName);
         return true;
     });
 }

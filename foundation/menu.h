@@ -75,6 +75,9 @@ class Menu {
   private:
     void readDriveLetter();
     void openFolder(char letter);
+    /// Leaves them to the next start while another computer writes.
+    void removeLeftovers(const std::filesystem::path& folder);
+    void removeHeld(const std::filesystem::path& file);
     void importEarlier(const std::filesystem::path& earlier);
     void discardEarlier(const std::filesystem::path& earlier);
     [[nodiscard]] std::filesystem::path localFolder(char letter) const;

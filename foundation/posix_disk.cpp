@@ -94,6 +94,20 @@ class PosixDisk final : public StandardFolders {
         if (out.close() != 0) fail(Operation::Write, file);
     }
 
+    [[nodiscard]] bool create(const path& file, std::string_view bytes) override {
+        Descriptor out(file, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, 0666);
+        if (!out.open() && errno == EEXIST) return false;
+        if (!out.open()) fail(Operation::Write, file);
+        try {
+            writeAll(out, bytes, file);
+            if (out.close() != 0) fail(Operation::Write, file);
+        } catch (...) {
+            ::unlink(file.c_str());
+            throw;
+        }
+        return true;
+    }
+
     void flush(const std::vector<path>& files) override {
 #ifdef __linux__
         if (files.size() >= kFlushWhole) {

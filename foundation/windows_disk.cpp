@@ -28,6 +28,10 @@ bool isMissing(DWORD error) {
     return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
 }
 
+bool isTaken(DWORD error) {
+    return error == ERROR_FILE_EXISTS || error == ERROR_ALREADY_EXISTS;
+}
+
 class Handle {
   public:
     Handle(const path& file, DWORD access, DWORD disposition)
@@ -45,6 +49,16 @@ class Handle {
   private:
     HANDLE handle_;
 };
+
+void writeAll(const Handle& out, std::string_view bytes, const path& file) {
+    while (!bytes.empty()) {
+        DWORD count = 0;
+        const auto piece = static_cast<DWORD>(std::min(bytes.size(), kLargestPiece));
+        if (!::WriteFile(out.get(), bytes.data(), piece, &count, nullptr))
+            fail(Operation::Write, file);
+        bytes.remove_prefix(count);
+    }
+}
 
 class WindowsDisk final : public StandardFolders {
   public:
@@ -69,13 +83,22 @@ class WindowsDisk final : public StandardFolders {
     void write(const path& file, std::string_view bytes) override {
         const Handle out(file, GENERIC_WRITE, CREATE_ALWAYS);
         if (!out.open()) fail(Operation::Write, file);
-        while (!bytes.empty()) {
-            DWORD count = 0;
-            const auto piece = static_cast<DWORD>(std::min(bytes.size(), kLargestPiece));
-            if (!::WriteFile(out.get(), bytes.data(), piece, &count, nullptr))
-                fail(Operation::Write, file);
-            bytes.remove_prefix(count);
+        writeAll(out, bytes, file);
+    }
+
+    [[nodiscard]] bool create(const path& file, std::string_view bytes) override {
+        bool created = false;
+        try {
+            const Handle out(file, GENERIC_WRITE, CREATE_NEW);
+            if (!out.open() && isTaken(::GetLastError())) return false;
+            if (!out.open()) fail(Operation::Write, file);
+            created = true;
+            writeAll(out, bytes, file);
+        } catch (const FileFault&) {
+            if (created) ::DeleteFileW(file.c_str());
+            throw;
         }
+        return true;
     }
 
     void flush(const std::vector<path>& files) override {

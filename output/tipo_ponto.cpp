@@ -2,6 +2,13 @@
 
 namespace winvrx {
 
+namespace {
+
+constexpr std::string_view kChangedElsewhere =
+    "O tipo de cartão foi alterado por outro computador. Abra a tela novamente.";
+
+}  // namespace
+
 TipoPonto::TipoPonto(const Workplace& at, Browser& browser) : at_(at), browser_(browser) {}
 
 void TipoPonto::load() {
@@ -24,7 +31,9 @@ std::string TipoPonto::label() const {
 }
 
 bool TipoPonto::choose(const CardStock& stock) {
-    return attempt(at_, incorrectData(), [&] {
+    return attemptWriting(at_, incorrectData(), [&] {
+        if (loadStock(at_.files, at_.session) != current_)
+            throw Fault("stock changed on disk", std::string(kChangedElsewhere));
         saveStock(at_.files, at_.session, stock);
         current_ = &stock;
         return true;

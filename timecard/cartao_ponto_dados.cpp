@@ -166,17 +166,24 @@ bool CartaoPontoDados::saveSchedule() {
         for (std::size_t position = 0; position < kScheduleTimes; ++position)
             if (const std::string finding = schedule_.findingAt(position); !finding.empty())
                 throw Fault("standard schedule: " + schedule_.text(position), finding);
-        const CompanyCode& company = company_.value();
-        const auto onDisk = loadSchedule(at_.files, at_.session.folder, company, selectedCode());
-        if (onDisk.value_or(StandardSchedule()) != schedule_.recorded())
-            throw Fault("schedule changed on disk", std::string(kChangedElsewhere));
+        requireScheduleAsShown();
         StandardSchedule schedule = schedule_.schedule();
         if (schedule_.hasSaturdayTimes())
             schedule.saturdayIsNormal = at_.person.agrees(kSaturdayIsNormal);
-        winvrx::saveSchedule(at_.files, at_.session.folder, company, selectedCode(), schedule);
+        const auto hold = holdFolder(at_);
+        requireScheduleAsShown();
+        winvrx::saveSchedule(at_.files, at_.session.folder, company_.value(), selectedCode(),
+                             schedule);
         schedule_ = TypedSchedule(decodeSchedule(encode(schedule)));
         return true;
     });
+}
+
+void CartaoPontoDados::requireScheduleAsShown() const {
+    const auto onDisk =
+        loadSchedule(at_.files, at_.session.folder, company_.value(), selectedCode());
+    if (onDisk.value_or(StandardSchedule()) != schedule_.recorded())
+        throw Fault("schedule changed on disk", std::string(kChangedElsewhere));
 }
 
 bool CartaoPontoDados::passesApplicationChecks() {
@@ -208,8 +215,13 @@ bool CartaoPontoDados::applyPunches() {
         const CompanyCode& company = company_.value();
         const auto file =
             at_.session.folder.file(punchFileName(company, selectedCode(), settings_.month));
-        applied_ = applied_ || at_.files.exists(file);
+        const auto before = at_.files.read(file);
+        applied_ = applied_ || before;
         if (!passesApplicationChecks()) return false;
+        const auto hold = holdFolder(at_);
+        requireScheduleAsShown();
+        if (at_.files.read(file) != before)
+            throw Fault("punches changed on disk", std::string(kChangedElsewhere));
         const auto lines =
             filledMonth(schedule_.recorded(), settings_, selected()->admissionDate());
         at_.files.replace(file, punchRecordBytes(lines));
@@ -243,7 +255,7 @@ std::string CartaoPontoDados::totalOf(HalfMonth half) const {
 
 bool CartaoPontoDados::savePunches() {
     if (!requireSelection()) return false;
-    return attempt(at_, inPunchEntry(incorrectData()), [this] {
+    return attemptWriting(at_, inPunchEntry(incorrectData()), [this] {
         if (const auto finding = sheet_.firstFinding()) throw Fault("punches typed", *finding);
         const CompanyCode& company = company_.value();
         const auto onDisk =

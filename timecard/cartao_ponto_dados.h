@@ -79,6 +79,7 @@ class CartaoPontoDados {
     void loadCard(std::size_t position);
     [[nodiscard]] bool requireSelection();
     [[nodiscard]] bool passesApplicationChecks();
+    void requireScheduleAsShown() const;
     [[nodiscard]] EmployeeCode selectedCode() const;
 
     Workplace at_;

@@ -23,6 +23,8 @@ constexpr std::string_view kDifferentiatedOff =
 constexpr std::string_view kBothLevels = "Usar as 2 (duas) Opções de Horas Extras Minima e Máxima.";
 constexpr std::string_view kSingleLevel =
     "Usar Somente 1 (um) Único Percentual de Horas Extras para ";
+constexpr std::string_view kChangedElsewhere =
+    "Este mês foi alterado por outro computador. Abra a tela novamente.";
 constexpr int kMonthsBack = 24;
 constexpr int kMonthsAhead = 12;
 
@@ -204,6 +206,7 @@ MonthSettings DataMesCorrente::checked() const {
 void DataMesCorrente::write() {
     MonthSettings toWrite = checked();
     const auto onDisk = loadMonthSettings(at_.files, at_.session.folder, settings_.month);
+    if (onDisk != recorded_) throw Fault("month changed on disk", std::string(kChangedElsewhere));
     toWrite.furtherLines = onDisk.furtherLines;
     if (!toWrite.recordTicks) toWrite.holidayCells = onDisk.holidayCells;
     saveMonthSettings(at_.files, at_.session.folder, toWrite);
@@ -214,14 +217,14 @@ void DataMesCorrente::write() {
 }
 
 bool DataMesCorrente::record() {
-    return attempt(at_, incorrectData(), [this] {
+    return attemptWriting(at_, incorrectData(), [this] {
         write();
         return true;
     });
 }
 
 bool DataMesCorrente::confirm() {
-    return attempt(at_, incorrectData(), [this] {
+    return attemptWriting(at_, incorrectData(), [this] {
         write();
         saveSelectedMonth(at_.files, at_.session.folder,
                           {settings_.month, at_.session.shiftFilter});

@@ -1,7 +1,7 @@
 #include "foundation/company_register.h"
 
 #include "foundation/faults.h"
-#include "tests/support/memory_files.h"
+#include "tests/support/test_workplace.h"
 
 #include <gtest/gtest.h>
 
@@ -9,6 +9,7 @@ namespace winvrx {
 namespace {
 
 using testing::MemoryFiles;
+using testing::TestWorkplace;
 
 const Date kToday = *parseDate("15/03/2024");
 const DataFolder kFolder('C', "/data");
@@ -56,20 +57,20 @@ TEST(Company, LongTextsAreCutToTheirField) {
 }
 
 TEST(CompanyRegister, AMissingRegisterBeginsWithTheSampleCompany) {
-    MemoryFiles files;
-    EXPECT_TRUE(loadCompanies(files, kFolder).empty());
-    const auto lines = loadOrCreateCompanies(files, kFolder, kToday);
+    TestWorkplace desk;
+    EXPECT_TRUE(loadCompanies(desk.files, kFolder).empty());
+    const auto lines = loadOrCreateCompanies(desk.at);
     ASSERT_EQ(lines.size(), 1U);
     EXPECT_EQ(lines[0].company, sampleCompany(kToday));
-    EXPECT_EQ(files.content.at("/data/01Empresa").size(), 551U);
+    EXPECT_EQ(desk.file("01Empresa").size(), 551U);
 }
 
 TEST(CompanyRegister, AnUnreadableRegisterIsNotReplaced) {
-    MemoryFiles files;
-    files.content["/data/01Empresa"] = "02 ANTIGA\r\n";
-    files.failOn.insert("01Empresa");
-    EXPECT_THROW((void)loadOrCreateCompanies(files, kFolder, kToday), FileFault);
-    EXPECT_EQ(files.content["/data/01Empresa"], "02 ANTIGA\r\n");
+    TestWorkplace desk;
+    desk.file("01Empresa") = "02 ANTIGA\r\n";
+    desk.files.failOn.insert("01Empresa");
+    EXPECT_THROW((void)loadOrCreateCompanies(desk.at), FileFault);
+    EXPECT_EQ(desk.file("01Empresa"), "02 ANTIGA\r\n");
 }
 
 TEST(CompanyRegister, LinesThatNobodyUnderstandsComeBackAsTheyWere) {

@@ -78,6 +78,7 @@ TEST(TipoPonto, ChoosingWritesOneLineAndShowsTheName) {
         Desk desk;
         desk.file("01CartaoDePontoTipo") = "01Tilibra\r\nfurther line\r\n";
         TipoPonto screen(desk.at, desk.browser);
+        screen.load();
         EXPECT_TRUE(screen.choose(*findStock(one.code)));
         EXPECT_EQ(screen.label(), one.label);
         EXPECT_EQ(desk.files.content.at(kSetting), one.line);
@@ -101,6 +102,19 @@ TEST(TipoPonto, UnknownOrMissingCodeLeavesTheLabelEmpty) {
     screen.load();
     EXPECT_EQ(screen.label(), "");
     EXPECT_TRUE(desk.person.shown.empty());
+}
+
+TEST(TipoPonto, AChoiceMadeElsewhereMeanwhileStands) {
+    Desk desk;
+    desk.file("01CartaoDePontoTipo") = "05\r\n";
+    TipoPonto screen(desk.at, desk.browser);
+    screen.load();
+    desk.file("01CartaoDePontoTipo") = "12SDN\r\n";
+    EXPECT_FALSE(screen.choose(*findStock("01")));
+    EXPECT_EQ(desk.files.content.at(kSetting), "12SDN\r\n");
+    ASSERT_EQ(desk.person.shown.size(), 1U);
+    EXPECT_EQ(desk.person.shown[0].detail,
+              "O tipo de cartão foi alterado por outro computador. Abra a tela novamente.");
 }
 
 TEST(TipoPonto, FailedChoiceIsToldAndTheFormerOneStands) {

@@ -37,6 +37,17 @@ class FaultyDisk final : public Disk {
         }
         disk_.write(file, bytes);
     }
+    /// Cut short for good, half of the bytes stay behind as after a write.
+    [[nodiscard]] bool create(const std::filesystem::path& file, std::string_view bytes) override {
+        try {
+            step(FileFault::Operation::Write, file);
+        } catch (...) {
+            if (operations_ == failAt_ && failure_ != Failure::Once)
+                (void)disk_.create(file, bytes.substr(0, bytes.size() / 2));
+            throw;
+        }
+        return disk_.create(file, bytes);
+    }
     void flush(const std::vector<std::filesystem::path>& files) override {
         step(FileFault::Operation::Write, files.front());
         disk_.flush(files);

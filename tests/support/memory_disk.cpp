@@ -23,6 +23,12 @@ void MemoryDisk::write(const path& file, std::string_view bytes) {
     content->bytes = bytes;
 }
 
+bool MemoryDisk::create(const path& file, std::string_view bytes) {
+    if (now_.contains(file)) return false;
+    write(file, bytes);
+    return true;
+}
+
 void MemoryDisk::flush(const std::vector<path>& files) {
     for (const path& file : files)
         now_.at(file)->lasting = now_.at(file)->bytes;

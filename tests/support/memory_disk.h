@@ -21,6 +21,7 @@ class MemoryDisk final : public Disk {
 
     [[nodiscard]] std::optional<std::string> read(const std::filesystem::path& file) const override;
     void write(const std::filesystem::path& file, std::string_view bytes) override;
+    [[nodiscard]] bool create(const std::filesystem::path& file, std::string_view bytes) override;
     void flush(const std::vector<std::filesystem::path>& files) override;
     void rename(const std::filesystem::path& from, const std::filesystem::path& to) override;
     bool remove(const std::filesystem::path& file) override;

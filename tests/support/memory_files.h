@@ -53,6 +53,7 @@ class MemoryFiles final : public FileSystem {
 
     void makeFolder(const std::filesystem::path& folder) override { folders.insert(folder); }
 
+    [[nodiscard]] bool hasLeftovers(const std::filesystem::path&) const override { return false; }
     void removeLeftovers(const std::filesystem::path&) override {}
 
   private:

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "foundation/command.h"
+#include "tests/support/memory_disk.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/scripted_operator.h"
+#include "tests/support/test_host.h"
 
 #include <string>
 #include <vector>
@@ -22,7 +24,10 @@ struct TestWorkplace {
     FixedClock clock{{*parseDate("15/03/2024"), *parseTime("10:20")}};
     RecordedLog log;
     Session session{.folder = DataFolder('C', "/data"), .company = CompanyCode::parse("01")};
-    Workplace at{files, person, clock, log, session};
+    TestHost host;
+    MemoryDisk lockDisk;  ///< locks are kept apart from the records
+    FolderLock lock{lockDisk, host};
+    Workplace at{files, person, clock, log, session, lock};
 
     [[nodiscard]] std::string& file(const std::string& name) {
         return files.content["/data/" + name];

@@ -1,0 +1,104 @@
+#pragma once
+
+#include "foundation/clock.h"
+#include "foundation/disk.h"
+#include "foundation/host.h"
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+// One writer at a time in a data folder that several computers share. Who writes leaves a file in
+// the folder for the length of a command, one value a line:
+//
+//     CAIXA-2                      machine
+//     ana                          user
+//     4711 88231 6f0c0d4e-…        process
+//     21/11/2026 08:40             since when
+//     3                            which hold of that process
+//
+// The file is made by an exclusive creation, so that one of two gets it. Reading needs no lock.
+
+namespace winvrx {
+
+/// Ends the names of a folder's locks. They are no records and are not listed among them.
+inline constexpr std::string_view kLockSuffix = ".winvrx-lock";
+inline constexpr std::string_view kFolderLockName = "pasta-em-uso.winvrx-lock";
+
+/// What a lock says of who holds it.
+struct LockHolder {
+    std::string machine;
+    std::string user;
+    std::string process;
+    std::string since;
+    std::string serial;
+
+    /// "ana, no computador CAIXA-2, desde 21/11/2026 08:40".
+    [[nodiscard]] std::string description() const;
+};
+
+[[nodiscard]] std::string encode(const LockHolder& holder);
+/// nullopt for a lock that was cut short.
+[[nodiscard]] std::optional<LockHolder> decodeLock(std::string_view bytes);
+
+/// Takes and frees the locks of data folders for one process. A folder may be taken again while it
+/// is held; it is free when the last hold ends. Disk and host outlive the lock.
+class FolderLock {
+  public:
+    FolderLock(Disk& disk, Host& host) : disk_(disk), host_(host) {}
+    FolderLock(const FolderLock&) = delete;
+    FolderLock& operator=(const FolderLock&) = delete;
+
+    /// The folder is this process's own while a hold lives. A lock that cannot be removed at the
+    /// end is taken over by the next hold of this process, or by others when it has ended.
+    class Hold {
+      public:
+        Hold(Hold&& other) noexcept
+            : lock_(std::exchange(other.lock_, nullptr)), folder_(std::move(other.folder_)) {}
+        Hold& operator=(Hold&&) = delete;
+        ~Hold() {
+            if (lock_) lock_->release(folder_);
+        }
+
+      private:
+        friend class FolderLock;
+        Hold(FolderLock& lock, std::filesystem::path folder)
+            : lock_(&lock), folder_(std::move(folder)) {}
+
+        FolderLock* lock_;
+        std::filesystem::path folder_;
+    };
+
+    /// Asked whether a lock may be taken over whose process cannot be looked at; nullopt stands for
+    /// a lock that does not tell its holder.
+    using Question = std::function<bool(const std::optional<LockHolder>&)>;
+
+    /// Waits a few seconds for another holder. A lock left by a process of this computer is taken
+    /// over at once. One of another computer that has not changed while we waited is taken over
+    /// when `mayTakeOver` says so. Throws a Fault that names the holder; FileFault.
+    [[nodiscard]] Hold take(const std::filesystem::path& folder, Clock::Moment since,
+                            const Question& mayTakeOver);
+
+    /// The same without waiting and asking; nullopt when another holds the folder.
+    [[nodiscard]] std::optional<Hold> tryTake(const std::filesystem::path& folder,
+                                              Clock::Moment since);
+
+  private:
+    [[nodiscard]] bool create(const std::filesystem::path& file, Clock::Moment since);
+    /// True when the process that made the lock is gone, or is this one.
+    [[nodiscard]] bool isLeft(std::string_view bytes) const;
+    [[nodiscard]] bool mayBeLeft(std::string_view bytes) const;
+    void removeLeft(const std::filesystem::path& folder, std::string_view bytes,
+                    Clock::Moment since);
+    void release(const std::filesystem::path& folder) noexcept;
+
+    Disk& disk_;
+    Host& host_;
+    std::map<std::filesystem::path, int> held_;
+    int serial_ = 0;
+};
+
+}  // namespace winvrx
