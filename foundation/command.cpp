@@ -6,10 +6,10 @@ namespace winvrx {
 
 namespace {
 
-Message takeOver(const std::optional<LockHolder>& holder) {
-    const std::string who = holder ? holder->description() : "outro computador";
+Message takeOver(const LockHolder& holder) {
     return {"Pasta de Dados em Uso",
-            "A pasta de dados está em uso por " + who + ". Deseja continuar mesmo assim?",
+            "A pasta de dados está em uso por " + holder.description() +
+                ". Deseja continuar mesmo assim?",
             Icon::Exclamation, Buttons::YesNo,
             "Continue somente se esse computador foi desligado ou travou durante uma gravação."};
 }
@@ -36,7 +36,7 @@ FolderLock::Hold holdFolder(const Workplace& at) {
 }
 
 FolderLock::Hold holdFolder(const Workplace& at, const std::filesystem::path& folder) {
-    return at.lock.take(folder, at.clock.now(), [&at](const std::optional<LockHolder>& holder) {
+    return at.lock.take(folder, at.clock.now(), [&at](const LockHolder& holder) {
         return at.person.agrees(takeOver(holder));
     });
 }

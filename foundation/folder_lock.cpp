@@ -1,6 +1,5 @@
 #include "foundation/folder_lock.h"
 
-#include "foundation/faults.h"
 #include "foundation/record_file.h"
 
 namespace winvrx {
@@ -15,18 +14,15 @@ constexpr std::size_t kLines = 5;
 constexpr std::chrono::milliseconds kPause{10};
 constexpr std::chrono::milliseconds kPatience{4000};
 
-Fault heldBy(const path& folder, std::string_view bytes) {
-    const auto holder = decodeLock(bytes);
-    const std::string who = holder ? holder->description() : "outro computador";
-    return {"lock of " + folder.string() + " is held by " + who,
-            "A pasta de dados está em uso por " + who + ". Tente novamente."};
-}
-
 }  // namespace
 
 std::string LockHolder::description() const {
     return user + ", no computador " + machine + ", desde " + since;
 }
+
+FolderInUse::FolderInUse(const path& folder, const std::string& who)
+    : Fault("lock of " + folder.string() + " is held by " + who,
+            "A pasta de dados está em uso por " + who + ". Tente novamente.") {}
 
 std::string encode(const LockHolder& holder) {
     return joinedLines({holder.machine, holder.user, holder.process, holder.since, holder.serial});
@@ -39,7 +35,7 @@ std::optional<LockHolder> decodeLock(std::string_view bytes) {
 }
 
 FolderLock::Hold FolderLock::take(const path& folder, Clock::Moment since,
-                                  const Question& mayTakeOver) {
+                                  const Question& question) {
     const auto present = [&] { return disk_.read(folder / kFolderLockName).value_or(""); };
     const std::string first = present();
     for (std::chrono::milliseconds waited{0}; waited <= kPatience; waited += kPause) {
@@ -47,26 +43,28 @@ FolderLock::Hold FolderLock::take(const path& folder, Clock::Moment since,
         host_.pause(kPause);
     }
     const std::string last = present();
-    if (last != first || !mayBeLeft(last) || !mayTakeOver(decodeLock(last)))
-        throw heldBy(folder, last);
-    disk_.remove(folder / kTakeOverName);
-    removeLeft(folder, last, since);
-    if (auto hold = tryTake(folder, since)) return std::move(*hold);
-    throw heldBy(folder, present());
+    if (last == first && mayTakeOver(last, question)) {
+        disk_.remove(folder / kTakeOverName);
+        removeLeft(folder, last, since);
+        if (auto hold = tryTake(folder, since)) return std::move(*hold);
+    }
+    const auto holder = decodeLock(present());
+    throw FolderInUse(folder, holder ? holder->description() : "outro computador");
 }
 
 std::optional<FolderLock::Hold> FolderLock::tryTake(const path& folder, Clock::Moment since) {
     const path file = folder / kFolderLockName;
-    if (held_.contains(folder) || create(file, since)) {
-        ++held_[folder];
-        return Hold(*this, folder);
-    }
+    if (held_.contains(file) || create(file, since)) return hold(file);
     const auto bytes = disk_.read(file);
     if (bytes && !isLeft(*bytes)) return std::nullopt;
     if (bytes) removeLeft(folder, *bytes, since);
     if (!create(file, since)) return std::nullopt;
-    held_[folder] = 1;
-    return Hold(*this, folder);
+    return hold(file);
+}
+
+FolderLock::Hold FolderLock::hold(const path& file) {
+    ++held_[file];
+    return {*this, file};
 }
 
 bool FolderLock::create(const path& file, Clock::Moment since) {
@@ -82,9 +80,10 @@ bool FolderLock::isLeft(std::string_view bytes) const {
     return holder->process == host_.process() || !host_.runs(holder->process);
 }
 
-bool FolderLock::mayBeLeft(std::string_view bytes) const {
+bool FolderLock::mayTakeOver(std::string_view bytes, const Question& question) const {
     const auto holder = decodeLock(bytes);
-    return !holder || holder->machine != host_.machine() || isLeft(bytes);
+    if (!holder || isLeft(bytes)) return true;
+    return holder->machine != host_.machine() && question(*holder);
 }
 
 void FolderLock::removeLeft(const path& folder, std::string_view bytes, Clock::Moment since) {
@@ -103,11 +102,10 @@ void FolderLock::removeLeft(const path& folder, std::string_view bytes, Clock::M
     disk_.remove(guard);
 }
 
-void FolderLock::release(const path& folder) noexcept {
+void FolderLock::release(const path& file) noexcept {
     try {
-        if (--held_.at(folder) > 0) return;
-        held_.erase(folder);
-        const path file = folder / kFolderLockName;
+        if (--held_.at(file) > 0) return;
+        held_.erase(file);
         const auto holder = decodeLock(disk_.read(file).value_or(""));
         const bool mine =
             holder && holder->machine == host_.machine() && holder->process == host_.process();

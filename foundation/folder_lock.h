@@ -2,6 +2,7 @@
 
 #include "foundation/clock.h"
 #include "foundation/disk.h"
+#include "foundation/faults.h"
 #include "foundation/host.h"
 
 #include <functional>
@@ -40,6 +41,12 @@ struct LockHolder {
     [[nodiscard]] std::string description() const;
 };
 
+/// Another writer has the folder.
+class FolderInUse : public Fault {
+  public:
+    FolderInUse(const std::filesystem::path& folder, const std::string& who);
+};
+
 [[nodiscard]] std::string encode(const LockHolder& holder);
 /// nullopt for a lock that was cut short.
 [[nodiscard]] std::optional<LockHolder> decodeLock(std::string_view bytes);
@@ -57,47 +64,45 @@ class FolderLock {
     class Hold {
       public:
         Hold(Hold&& other) noexcept
-            : lock_(std::exchange(other.lock_, nullptr)), folder_(std::move(other.folder_)) {}
+            : lock_(std::exchange(other.lock_, nullptr)), file_(std::move(other.file_)) {}
         Hold& operator=(Hold&&) = delete;
         ~Hold() {
-            if (lock_) lock_->release(folder_);
+            if (lock_) lock_->release(file_);
         }
 
       private:
         friend class FolderLock;
-        Hold(FolderLock& lock, std::filesystem::path folder)
-            : lock_(&lock), folder_(std::move(folder)) {}
+        Hold(FolderLock& lock, std::filesystem::path file) : lock_(&lock), file_(std::move(file)) {}
 
         FolderLock* lock_;
-        std::filesystem::path folder_;
+        std::filesystem::path file_;
     };
 
-    /// Asked whether a lock may be taken over whose process cannot be looked at; nullopt stands for
-    /// a lock that does not tell its holder.
-    using Question = std::function<bool(const std::optional<LockHolder>&)>;
+    /// Asked whether the lock of another computer may be taken over.
+    using Question = std::function<bool(const LockHolder&)>;
 
     /// Waits a few seconds for another holder. A lock left by a process of this computer is taken
-    /// over at once. One of another computer that has not changed while we waited is taken over
-    /// when `mayTakeOver` says so. Throws a Fault that names the holder; FileFault.
+    /// over at once, one that a power cut left without a holder after the wait, and one of another
+    /// computer that has not changed while we waited when `question` says so. Throws FolderInUse;
+    /// FileFault.
     [[nodiscard]] Hold take(const std::filesystem::path& folder, Clock::Moment since,
-                            const Question& mayTakeOver);
-
-    /// The same without waiting and asking; nullopt when another holds the folder.
-    [[nodiscard]] std::optional<Hold> tryTake(const std::filesystem::path& folder,
-                                              Clock::Moment since);
+                            const Question& question);
 
   private:
+    [[nodiscard]] std::optional<Hold> tryTake(const std::filesystem::path& folder,
+                                              Clock::Moment since);
     [[nodiscard]] bool create(const std::filesystem::path& file, Clock::Moment since);
     /// True when the process that made the lock is gone, or is this one.
     [[nodiscard]] bool isLeft(std::string_view bytes) const;
-    [[nodiscard]] bool mayBeLeft(std::string_view bytes) const;
+    [[nodiscard]] bool mayTakeOver(std::string_view bytes, const Question& question) const;
     void removeLeft(const std::filesystem::path& folder, std::string_view bytes,
                     Clock::Moment since);
-    void release(const std::filesystem::path& folder) noexcept;
+    [[nodiscard]] Hold hold(const std::filesystem::path& file);
+    void release(const std::filesystem::path& file) noexcept;
 
     Disk& disk_;
     Host& host_;
-    std::map<std::filesystem::path, int> held_;
+    std::map<std::filesystem::path, int> held_;  ///< by lock file: how many holds live
     int serial_ = 0;
 };
 

@@ -126,8 +126,14 @@ void Menu::openFolder(char letter) {
 
 void Menu::removeLeftovers(const std::filesystem::path& folder) {
     if (!at_.files.hasLeftovers(folder)) return;
-    if (const auto hold = at_.lock.tryTake(folder, at_.clock.now()))
+    try {
+        const auto notNow = [](const LockHolder&) { return false; };
+        const auto hold = at_.lock.take(folder, at_.clock.now(), notNow);
         at_.files.removeLeftovers(folder);
+    } catch (const FolderInUse&) {
+        // Another computer is writing these files; a later start looks again.
+        return;
+    }
 }
 
 void Menu::removeHeld(const std::filesystem::path& file) {
@@ -195,8 +201,8 @@ void Menu::offerEarlierData() {
     for (const std::string_view literal : kEarlierFolders) {
         const auto folder = pathOnDrive(drives_, at_.session.folder.driveLetter(), literal);
         const auto earlier = folder / kEmployeeListStem;
-        if (folder.empty() || !at_.files.exists(earlier)) continue;
         (void)attempt(at_, kFailure, [&] {
+            if (folder.empty() || !at_.files.exists(earlier)) return false;
             if (at_.person.agrees(kUseEarlier))
                 importEarlier(earlier);
             else
@@ -208,16 +214,25 @@ void Menu::offerEarlierData() {
 
 void Menu::importEarlier(const std::filesystem::path& earlier) {
     if (!at_.person.agrees(kConfirmUse)) return;
-    const auto hold = holdFolder(at_);
     const auto first = companies_.empty() ? std::nullopt : companies_.front().code();
     if (!first) throw Fault("no company to import into", "Não há empresa para receber os dados.");
+    const auto hold = holdFolder(at_);
+    importList(earlier, *first);
+    at_.files.remove(earlier);
+}
+
+void Menu::importList(const std::filesystem::path& earlier, const CompanyCode& company) {
     std::vector<EmployeeLine> lines;
     for (std::string& bytes : RecordFile(at_.files, earlier).lines()) {
         Employee employee = decodeEmployee(bytes);
         lines.push_back({std::move(bytes), std::move(employee)});
     }
-    EmployeeRegister(at_.files, at_.session.folder, *first).save(lines, at_.clock.now());
-    at_.files.remove(earlier);
+    EmployeeRegister list(at_.files, at_.session.folder, company);
+    // An import that was cut short has written the list already, and the copy of the list that it
+    // replaced must stay.
+    const bool imported =
+        std::ranges::equal(lines, list.load(), {}, &EmployeeLine::bytes, &EmployeeLine::bytes);
+    if (!imported) list.save(lines, at_.clock.now());
 }
 
 void Menu::discardEarlier(const std::filesystem::path& earlier) {

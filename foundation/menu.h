@@ -79,6 +79,7 @@ class Menu {
     void removeLeftovers(const std::filesystem::path& folder);
     void removeHeld(const std::filesystem::path& file);
     void importEarlier(const std::filesystem::path& earlier);
+    void importList(const std::filesystem::path& earlier, const CompanyCode& company);
     void discardEarlier(const std::filesystem::path& earlier);
     [[nodiscard]] std::filesystem::path localFolder(char letter) const;
 

@@ -3,6 +3,8 @@
 #include "foundation/disk.h"
 #include "foundation/faults.h"
 
+#include <functional>
+
 namespace winvrx::testing {
 
 /// Thrown where the power goes: no handler of the program catches it.
@@ -13,6 +15,7 @@ class FaultyDisk final : public Disk {
   public:
     enum class Failure {
         Once,     ///< that operation fails, later ones succeed
+        Late,     ///< that operation is carried out and then fails, as when an answer is lost
         ForGood,  ///< that operation and all after it fail
         Power     ///< a PowerCut is thrown there
     };
@@ -29,40 +32,34 @@ class FaultyDisk final : public Disk {
     }
     /// A write that fails leaves half of the bytes behind.
     void write(const std::filesystem::path& file, std::string_view bytes) override {
-        try {
-            step(FileFault::Operation::Write, file);
-        } catch (...) {
-            if (operations_ == failAt_) disk_.write(file, bytes.substr(0, bytes.size() / 2));
-            throw;
-        }
-        disk_.write(file, bytes);
+        change(
+            FileFault::Operation::Write, file, [&] { disk_.write(file, bytes); },
+            [&] { disk_.write(file, bytes.substr(0, bytes.size() / 2)); });
     }
     /// Cut short for good, half of the bytes stay behind as after a write.
     [[nodiscard]] bool create(const std::filesystem::path& file, std::string_view bytes) override {
-        try {
-            step(FileFault::Operation::Write, file);
-        } catch (...) {
-            if (operations_ == failAt_ && failure_ != Failure::Once)
-                (void)disk_.create(file, bytes.substr(0, bytes.size() / 2));
-            throw;
-        }
-        return disk_.create(file, bytes);
+        bool made = false;
+        change(
+            FileFault::Operation::Write, file, [&] { made = disk_.create(file, bytes); },
+            [&] {
+                if (failure_ != Failure::Once)
+                    (void)disk_.create(file, bytes.substr(0, bytes.size() / 2));
+            });
+        return made;
     }
     void flush(const std::vector<std::filesystem::path>& files) override {
-        step(FileFault::Operation::Write, files.front());
-        disk_.flush(files);
+        change(FileFault::Operation::Write, files.front(), [&] { disk_.flush(files); });
     }
     void rename(const std::filesystem::path& from, const std::filesystem::path& to) override {
-        step(FileFault::Operation::Write, to);
-        disk_.rename(from, to);
+        change(FileFault::Operation::Write, to, [&] { disk_.rename(from, to); });
     }
     bool remove(const std::filesystem::path& file) override {
-        step(FileFault::Operation::Remove, file);
-        return disk_.remove(file);
+        bool there = false;
+        change(FileFault::Operation::Remove, file, [&] { there = disk_.remove(file); });
+        return there;
     }
     void flushFolder(const std::filesystem::path& folder) override {
-        step(FileFault::Operation::Write, folder);
-        disk_.flushFolder(folder);
+        change(FileFault::Operation::Write, folder, [&] { disk_.flushFolder(folder); });
     }
     [[nodiscard]] bool exists(const std::filesystem::path& path) const override {
         step(FileFault::Operation::Read, path);
@@ -74,16 +71,32 @@ class FaultyDisk final : public Disk {
         return disk_.names(folder);
     }
     void makeFolder(const std::filesystem::path& folder) override {
-        step(FileFault::Operation::MakeFolder, folder);
-        disk_.makeFolder(folder);
+        change(FileFault::Operation::MakeFolder, folder, [&] { disk_.makeFolder(folder); });
     }
 
   private:
+    /// Carries out `whole`, or, where it fails, what is left of it.
+    void change(
+        FileFault::Operation operation, const std::filesystem::path& path,
+        const std::function<void()>& whole, const std::function<void()>& part = [] {}) {
+        try {
+            step(operation, path);
+        } catch (...) {
+            if (operations_ == failAt_) (failure_ == Failure::Late ? whole : part)();
+            throw;
+        }
+        whole();
+    }
+
     void step(FileFault::Operation operation, const std::filesystem::path& path) const {
         const int number = ++operations_;
-        if (number < failAt_ || (number > failAt_ && failure_ == Failure::Once)) return;
+        if (number < failAt_ || (number > failAt_ && isPassing())) return;
         if (failure_ == Failure::Power) throw PowerCut{};
         throw FileFault(operation, path, std::make_error_code(error_));
+    }
+
+    [[nodiscard]] bool isPassing() const {
+        return failure_ == Failure::Once || failure_ == Failure::Late;
     }
 
     Disk& disk_;

@@ -56,7 +56,8 @@ bool MemoryDisk::exists(const path& file) const {
 std::vector<std::string> MemoryDisk::names(const path& folder) const {
     std::vector<std::string> names;
     for (const auto& [file, content] : now_)
-        if (file.parent_path() == folder) names.push_back(file.filename().string());
+        if (file.parent_path() == (folder / "").parent_path())
+            names.push_back(file.filename().string());
     return names;
 }
 

@@ -1,0 +1,121 @@
+#include "tests/support/faulty_disk.h"
+#include "tests/support/writing_commands.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+// Every writing command on a disk that fails at operation 1, 2, 3 … until it fails no more.
+
+namespace winvrx {
+namespace {
+
+using namespace testing;
+using Failure = FaultyDisk::Failure;
+
+const std::filesystem::path kRoot = "/root";
+
+/// A later run of the program: the process before it is gone.
+TestHost laterHost() {
+    TestHost host;
+    host.own = "200";
+    host.running = {"200"};
+    return host;
+}
+
+class EveryCommand : public ::testing::TestWithParam<WritingCommand> {
+  protected:
+    const WritingCommand& command = GetParam();
+    const FileTable after = filesAfter(command);
+
+    /// Each file is the one before or after; a start removes what lies about; the command given
+    /// again ends right.
+    void expectWholeAndRepeatable(MemoryDisk& disk) const {
+        TestHost host = laterHost();
+        EXPECT_TRUE(startAgain(disk, host, kRoot).done);
+        const FileTable now = recordsOf(disk.files(), kRoot);
+        ASSERT_EQ(neitherBeforeNorAfter(now, command.before, after), "");
+        if (now == after) return;
+        EXPECT_TRUE(runCommand(command, disk, host, kRoot).done);
+        EXPECT_EQ(recordsOf(disk.files(), kRoot), after);
+    }
+
+    /// The records are those after the command; a lock that stayed keeps no later run away.
+    void expectDone(MemoryDisk& disk) const {
+        EXPECT_EQ(recordsOf(disk.files(), kRoot), after);
+        TestHost host = laterHost();
+        EXPECT_TRUE(startAgain(disk, host, kRoot).done);
+    }
+};
+
+/// The operator is told, and the log names the file and the cause.
+void expectTold(const Outcome& outcome, std::errc error) {
+    EXPECT_FALSE(outcome.failures.empty());
+    EXPECT_TRUE(std::ranges::all_of(outcome.failures,
+                                    [](const Message& told) { return !told.detail.empty(); }));
+    EXPECT_THAT(outcome.logged,
+                ::testing::Contains(::testing::AllOf(
+                    ::testing::ContainsRegex("(ler|gravar|excluir|listar|criar a pasta) /root"),
+                    ::testing::HasSubstr(std::make_error_code(error).message()))));
+}
+
+TEST_P(EveryCommand, LeavesEachFileWholeWhereverTheDiskFails) {
+    struct Case {
+        Failure failure;
+        std::errc error;
+    };
+    for (const Case& one : {Case{Failure::Once, std::errc::io_error},
+                            Case{Failure::Once, std::errc::permission_denied},
+                            Case{Failure::Late, std::errc::io_error},
+                            Case{Failure::ForGood, std::errc::no_space_on_device}}) {
+        bool failed = true;
+        for (int operation = 1; failed; ++operation) {
+            SCOPED_TRACE("operation " + std::to_string(operation) + ", failure " +
+                         std::to_string(static_cast<int>(one.failure)));
+            MemoryDisk disk(placed(command.before, kRoot));
+            FaultyDisk faulty(disk, operation, one.failure, one.error);
+            TestHost host;
+            const Outcome outcome = runCommand(command, faulty, host, kRoot);
+            failed = faulty.failed();
+            if (outcome.done) {
+                expectDone(disk);
+            } else {
+                expectTold(outcome, one.error);
+                expectWholeAndRepeatable(disk);
+            }
+            if (HasFailure()) return;
+        }
+    }
+}
+
+TEST_P(EveryCommand, LeavesEachFileWholeWhereverThePowerGoes) {
+    for (unsigned seed = 1; seed <= 8; ++seed) {
+        std::mt19937 dice(seed);
+        bool cut = true;
+        for (int operation = 1; cut; ++operation) {
+            SCOPED_TRACE("operation " + std::to_string(operation) + ", dice " +
+                         std::to_string(seed));
+            MemoryDisk disk(placed(command.before, kRoot));
+            FaultyDisk faulty(disk, operation, Failure::Power, std::errc::io_error);
+            TestHost host;
+            try {
+                const Outcome outcome = runCommand(command, faulty, host, kRoot);
+                ASSERT_TRUE(outcome.done);
+                // The lock's own removal needs no flush; what was recorded lasts.
+                disk.cutPower(dice);
+                expectDone(disk);
+            } catch (const PowerCut&) {
+                disk.cutPower(dice);
+                expectWholeAndRepeatable(disk);
+            }
+            cut = faulty.failed();
+            if (HasFailure()) return;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, EveryCommand, ::testing::ValuesIn(writingCommands()),
+                         ::testing::PrintToStringParamName());
+
+}  // namespace
+}  // namespace winvrx
