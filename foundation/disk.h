@@ -18,7 +18,8 @@ class Disk {
   public:
     virtual ~Disk() = default;
 
-    /// The file's bytes; nullopt when there is no such file.
+    /// The file's bytes; nullopt when there is no such file. Refuses, without waiting, what is not
+    /// a plain file of at most kLargestFile bytes.
     [[nodiscard]] virtual std::optional<std::string> read(
         const std::filesystem::path& file) const = 0;
 
@@ -34,7 +35,8 @@ class Disk {
     /// Makes the content of these files lasting.
     virtual void flush(const std::vector<std::filesystem::path>& files) = 0;
 
-    /// Gives `from` the name `to` in one step; a file of that name is gone.
+    /// Gives `from` the name `to` in one step; a plain file of that name is gone, anything else
+    /// there is refused.
     virtual void rename(const std::filesystem::path& from, const std::filesystem::path& to) = 0;
 
     /// False when there was no such file.
@@ -43,6 +45,7 @@ class Disk {
     /// Makes what was renamed and removed in the folder lasting.
     virtual void flushFolder(const std::filesystem::path& folder) = 0;
 
+    /// True for whatever bears the name, a dangling link included.
     [[nodiscard]] virtual bool exists(const std::filesystem::path& path) const = 0;
 
     /// Names of the files in `folder`; none when there is no such folder.

@@ -37,6 +37,9 @@ void DurableFiles::replace(const path& file, std::string_view bytes) {
 void DurableFiles::replaceAll(const std::vector<NewContent>& files) {
     std::vector<path> temporaries;
     std::set<path> folders;
+    for (const NewContent& content : files)
+        if (content.bytes.size() > kLargestFile)
+            throw FileFault(FileFault::Operation::Write, content.file, FileProblem::TooLarge);
     try {
         for (const NewContent& content : files) {
             temporaries.push_back(temporaryOf(content.file));

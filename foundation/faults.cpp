@@ -1,5 +1,8 @@
 #include "foundation/faults.h"
 
+#include "foundation/file_system.h"
+#include "foundation/record_file.h"
+
 namespace winvrx {
 
 namespace {
@@ -20,6 +23,24 @@ std::string operationName(FileFault::Operation operation) {
     return "usar";
 }
 
+class FileProblemCategory final : public std::error_category {
+  public:
+    [[nodiscard]] const char* name() const noexcept override { return "record"; }
+    [[nodiscard]] std::string message(int problem) const override {
+        switch (static_cast<FileProblem>(problem)) {
+            case FileProblem::Link:
+                return "há um atalho (link) no lugar do arquivo";
+            case FileProblem::NotAPlainFile:
+                return "há um dispositivo no lugar do arquivo";
+            case FileProblem::TooLarge:
+                return "o arquivo passa de " + std::to_string(kLargestFile >> 20U) + " MB";
+            case FileProblem::TooManyLines:
+                return "o arquivo passa de " + std::to_string(kMostLines) + " linhas";
+        }
+        return "problema desconhecido";
+    }
+};
+
 std::string causeText(std::error_code cause) {
     const std::error_condition condition = cause.default_error_condition();
     if (condition == std::errc::no_space_on_device) return "o disco está cheio";
@@ -35,6 +56,11 @@ std::string causeText(std::error_code cause) {
 }
 
 }  // namespace
+
+std::error_code make_error_code(FileProblem problem) {
+    static const FileProblemCategory category;
+    return {static_cast<int>(problem), category};
+}
 
 FileFault::FileFault(Operation operation, const std::filesystem::path& file, std::error_code cause)
     : Fault(operationName(operation) + " " + file.string() + ": " + cause.message(),

@@ -20,6 +20,15 @@ class Fault : public std::runtime_error {
     std::string explanation_;
 };
 
+/// What keeps a file from being used as a record although the system would let it.
+enum class FileProblem {
+    Link = 1,       ///< a symbolic link stands in the file's place
+    NotAPlainFile,  ///< a pipe, a device or a socket does
+    TooLarge,       ///< more than kLargestFile bytes
+    TooManyLines    ///< more than kMostLines lines
+};
+[[nodiscard]] std::error_code make_error_code(FileProblem problem);
+
 /// An operation of the file system that failed. Names the operation, the file and the cause.
 class FileFault : public Fault {
   public:
@@ -43,3 +52,6 @@ class TextFault : public Fault {
 [[nodiscard]] std::string explanationOf(const std::exception& fault);
 
 }  // namespace winvrx
+
+template <>
+struct std::is_error_code_enum<winvrx::FileProblem> : std::true_type {};

@@ -9,10 +9,14 @@
 
 namespace winvrx {
 
+/// Far above any record file, and what a file read whole may hold.
+inline constexpr std::size_t kLargestFile = std::size_t{64} << 20U;
+
 /// Everything that the program asks of the disk. Files are small and handled whole.
 ///
 /// Every function throws FileFault, naming operation, file and cause. A file that is missing is
-/// no fault.
+/// no fault. A record is a plain file of at most kLargestFile bytes: anything else in its place, a
+/// symbolic link included, is neither read nor replaced, but a fault.
 class FileSystem {
   public:
     struct NewContent {
@@ -33,9 +37,10 @@ class FileSystem {
     /// `replace` for many files, each with the same promise, with one flush of the folder.
     virtual void replaceAll(const std::vector<NewContent>& files) = 0;
 
-    /// Removes the file; false when there was none.
+    /// Removes the file; false when there was none. Of a symbolic link only the link goes.
     virtual bool remove(const std::filesystem::path& file) = 0;
 
+    /// True for whatever bears the name, a dangling link included.
     [[nodiscard]] virtual bool exists(const std::filesystem::path& file) const = 0;
 
     /// Names of the files in `folder`, in no particular order, half-written ones and locks left

@@ -1,6 +1,8 @@
 #include "foundation/faults.h"
+#include "foundation/file_system.h"
 #include "foundation/standard_folders.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 
@@ -20,6 +22,20 @@ constexpr std::size_t kFlushWhole = 8;
 
 [[noreturn]] void fail(Operation operation, const path& file, int error = errno) {
     throw FileFault(operation, file, std::error_code(error, std::generic_category()));
+}
+
+/// What open() says of a link that it must not follow, and of a pipe or a socket.
+[[noreturn]] void failToOpen(Operation operation, const path& file) {
+    if (errno == ELOOP) throw FileFault(operation, file, FileProblem::Link);
+    if (errno == ENXIO) throw FileFault(operation, file, FileProblem::NotAPlainFile);
+    fail(operation, file);
+}
+
+void requirePlain(mode_t mode, Operation operation, const path& file) {
+    if (S_ISREG(mode)) return;
+    if (S_ISDIR(mode)) fail(operation, file, EISDIR);
+    throw FileFault(operation, file,
+                    S_ISLNK(mode) ? FileProblem::Link : FileProblem::NotAPlainFile);
 }
 
 class Descriptor {
@@ -44,12 +60,21 @@ class Descriptor {
     int number_;
 };
 
+void requirePlain(const Descriptor& open, Operation operation, const path& file) {
+    struct stat status {};
+    if (::fstat(open.number(), &status) != 0) fail(operation, file);
+    requirePlain(status.st_mode, operation, file);
+}
+
+/// Counts what comes, whatever size the file is said to have: it may grow meanwhile.
 std::string readToEnd(const Descriptor& in, const path& file) {
     std::string bytes;
     std::array<char, 65536> chunk;
     while (true) {
         const ssize_t count = ::read(in.number(), chunk.data(), chunk.size());
         if (count == 0) return bytes;
+        if (bytes.size() + static_cast<std::size_t>(std::max<ssize_t>(count, 0)) > kLargestFile)
+            throw FileFault(Operation::Read, file, FileProblem::TooLarge);
         if (count > 0)
             bytes.append(chunk.data(), static_cast<std::size_t>(count));
         else if (errno != EINTR)
@@ -79,17 +104,19 @@ void flushOne(const path& file) {
 class PosixDisk final : public StandardFolders {
   public:
     [[nodiscard]] std::optional<std::string> read(const path& file) const override {
-        const Descriptor in(file, O_RDONLY | O_NONBLOCK);
+        const Descriptor in(file, O_RDONLY | O_NONBLOCK | O_NOFOLLOW);
         if (!in.open()) {
             if (isMissing(errno)) return std::nullopt;
-            fail(Operation::Read, file);
+            failToOpen(Operation::Read, file);
         }
+        requirePlain(in, Operation::Read, file);
         return readToEnd(in, file);
     }
 
     void write(const path& file, std::string_view bytes) override {
-        Descriptor out(file, O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW, 0666);
-        if (!out.open()) fail(Operation::Write, file);
+        Descriptor out(file, O_WRONLY | O_CREAT | O_TRUNC | O_NONBLOCK | O_NOFOLLOW, 0666);
+        if (!out.open()) failToOpen(Operation::Write, file);
+        requirePlain(out, Operation::Write, file);
         writeAll(out, bytes, file);
         if (out.close() != 0) fail(Operation::Write, file);
     }
@@ -121,6 +148,8 @@ class PosixDisk final : public StandardFolders {
     }
 
     void rename(const path& from, const path& to) override {
+        struct stat status {};
+        if (::lstat(to.c_str(), &status) == 0) requirePlain(status.st_mode, Operation::Write, to);
         if (::rename(from.c_str(), to.c_str()) != 0) fail(Operation::Write, to);
     }
 
@@ -139,7 +168,7 @@ class PosixDisk final : public StandardFolders {
 
     [[nodiscard]] bool exists(const path& file) const override {
         struct stat status {};
-        if (::stat(file.c_str(), &status) == 0) return true;
+        if (::lstat(file.c_str(), &status) == 0) return true;
         if (!isMissing(errno)) fail(Operation::Read, file);
         return false;
     }

@@ -25,6 +25,9 @@
 
 namespace winvrx {
 
+/// Far above any record file; a file of more lines is refused, since each line costs memory.
+inline constexpr std::size_t kMostLines = 100'000;
+
 /// A field's place in a line: `start` counts characters from 1.
 struct Column {
     std::size_t start;
@@ -49,7 +52,8 @@ class RecordLine {
     /// An existing line, made at least `width` characters long; what no column covers is kept.
     RecordLine(std::string existing, std::size_t width);
 
-    /// Writes `utf8` into the column: trimmed, padded with blanks, cut to the width.
+    /// Writes `utf8` into the column: trimmed, padded with blanks, cut to the width. A column that
+    /// holds this text already keeps its bytes, storable or not.
     /// Throws TextFault when the text cannot be stored; the line is then unchanged.
     void put(Column column, std::string_view utf8);
 
@@ -73,7 +77,7 @@ class RecordFile {
     [[nodiscard]] bool exists() const { return files_.exists(path_); }
 
     /// The lines as bytes, without their line ends. Accepts CR LF, bare LF and a last line without
-    /// an end.
+    /// an end. Refuses more than kMostLines.
     [[nodiscard]] std::vector<std::string> lines() const;
 
     /// The lines as trimmed UTF-8: for setting files of one value a line.

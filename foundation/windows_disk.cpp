@@ -1,4 +1,5 @@
 #include "foundation/faults.h"
+#include "foundation/file_system.h"
 #include "foundation/standard_folders.h"
 
 #include <algorithm>
@@ -32,6 +33,20 @@ bool isTaken(DWORD error) {
     return error == ERROR_FILE_EXISTS || error == ERROR_ALREADY_EXISTS;
 }
 
+/// Only true links: the placeholders of a folder kept in the cloud are reparse points as well.
+bool isLink(const path& file) {
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = ::FindFirstFileW(file.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return false;
+    ::FindClose(search);
+    return (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+           found.dwReserved0 == IO_REPARSE_TAG_SYMLINK;
+}
+
+void requireNoLink(Operation operation, const path& file) {
+    if (isLink(file)) throw FileFault(operation, file, FileProblem::Link);
+}
+
 class Handle {
   public:
     Handle(const path& file, DWORD access, DWORD disposition)
@@ -63,11 +78,14 @@ void writeAll(const Handle& out, std::string_view bytes, const path& file) {
 class WindowsDisk final : public StandardFolders {
   public:
     [[nodiscard]] std::optional<std::string> read(const path& file) const override {
+        requireNoLink(Operation::Read, file);
         const Handle in(file, GENERIC_READ, OPEN_EXISTING);
         if (!in.open()) {
             if (isMissing(::GetLastError())) return std::nullopt;
             fail(Operation::Read, file);
         }
+        if (::GetFileType(in.get()) != FILE_TYPE_DISK)
+            throw FileFault(Operation::Read, file, FileProblem::NotAPlainFile);
         std::string bytes;
         std::array<char, 65536> chunk;
         DWORD count = 0;
@@ -75,12 +93,15 @@ class WindowsDisk final : public StandardFolders {
             if (!::ReadFile(in.get(), chunk.data(), static_cast<DWORD>(chunk.size()), &count,
                             nullptr))
                 fail(Operation::Read, file);
+            if (bytes.size() + count > kLargestFile)
+                throw FileFault(Operation::Read, file, FileProblem::TooLarge);
             bytes.append(chunk.data(), count);
         } while (count > 0);
         return bytes;
     }
 
     void write(const path& file, std::string_view bytes) override {
+        requireNoLink(Operation::Write, file);
         const Handle out(file, GENERIC_WRITE, CREATE_ALWAYS);
         if (!out.open()) fail(Operation::Write, file);
         writeAll(out, bytes, file);
@@ -110,6 +131,7 @@ class WindowsDisk final : public StandardFolders {
 
     /// Written through: the new name lasts when this returns.
     void rename(const path& from, const path& to) override {
+        requireNoLink(Operation::Write, to);
         if (!::MoveFileExW(from.c_str(), to.c_str(),
                            MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
             fail(Operation::Write, to);
