@@ -2,8 +2,8 @@
 
 namespace winvrx {
 
-std::string encode(const Company& company) {
-    RecordLine line(kCompanyWidth);
+std::string encode(const Company& company, std::string existing) {
+    RecordLine line(std::move(existing), kCompanyWidth);
     for (const CompanyField& field : kCompanyFields)
         line.put(field.column, company.*field.member);
     return line.bytes();

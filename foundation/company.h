@@ -91,8 +91,9 @@ template <typename Fields>
 
 static_assert(isContiguous(kCompanyFields, kCompanyWidth));
 
-/// The line's bytes. Throws TextFault when a text cannot be stored.
-[[nodiscard]] std::string encode(const Company& company);
+/// The line's bytes, built upon `existing` so that whatever stands behind the table is kept. Throws
+/// TextFault when a text cannot be stored.
+[[nodiscard]] std::string encode(const Company& company, std::string existing = {});
 [[nodiscard]] Company decodeCompany(std::string_view lineBytes);
 
 /// The company that a fresh register begins with; `today` becomes its record date.

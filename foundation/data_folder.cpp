@@ -26,6 +26,10 @@ bool isPunchOrPayrollFile(std::string_view name) {
     return name.size() > 9 && (name.ends_with(".bdx") || name.ends_with(".prd"));
 }
 
+bool isControl(char c) {
+    return static_cast<unsigned char>(c) < ' ';
+}
+
 /// "mmyyyy.pdx" at the end of the name.
 bool isMonthFile(std::string_view name) {
     if (name.size() < 12 || !name.ends_with(".pdx")) return false;
@@ -57,7 +61,7 @@ std::filesystem::path shareDataFolder(std::string_view programFolder) {
 
 std::filesystem::path DataFolder::file(std::string_view name) const {
     if (name.empty() || name.find_first_of("/\\:") != std::string_view::npos ||
-        name.starts_with("."))
+        name.starts_with(".") || std::any_of(name.begin(), name.end(), isControl))
         throw std::invalid_argument("not a bare file name: " + std::string(name));
     return path_ / name;
 }

@@ -32,10 +32,11 @@ const Message kCertain{"EXCLUIR", "Tem Certeza que Deseja Excluir o Item Selecio
 constexpr auto kChangedElsewhere =
     "O cadastro foi alterado por outro computador. Abra a tela novamente.";
 
-CompanyLine lineOf(Company company, const CompanyCode& code, Date today) {
+CompanyLine lineOf(Company company, const CompanyCode& code, Date today,
+                   std::string existing = {}) {
     company.code = code.text();
     company.recordDate = dateText(today);
-    std::string bytes = encode(company);
+    std::string bytes = encode(company, std::move(existing));
     return {bytes, decodeCompany(bytes)};
 }
 
@@ -73,7 +74,7 @@ bool Empresa::change(std::size_t position, Company typed) {
         if (!code)
             throw Fault("company line without code: " + lines[position].company.code,
                         "Esta linha do cadastro não tem um código válido.");
-        lines[position] = lineOf(std::move(typed), *code, at_.clock.today());
+        lines[position] = lineOf(std::move(typed), *code, at_.clock.today(), lines[position].bytes);
         save(std::move(lines));
         return true;
     });

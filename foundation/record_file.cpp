@@ -1,10 +1,20 @@
 #include "foundation/record_file.h"
 
+#include "foundation/faults.h"
 #include "foundation/text.h"
 
 #include <algorithm>
 
 namespace winvrx {
+
+namespace {
+
+void requireFewLines(std::size_t count, FileFault::Operation operation,
+                     const std::filesystem::path& file) {
+    if (count > kMostLines) throw FileFault(operation, file, FileProblem::TooManyLines);
+}
+
+}  // namespace
 
 std::string rawFieldOf(std::string_view lineBytes, Column column) {
     std::string field;
@@ -22,7 +32,8 @@ RecordLine::RecordLine(std::string existing, std::size_t width) : bytes_(std::mo
 }
 
 void RecordLine::put(Column column, std::string_view utf8) {
-    putRaw(column, encodeWindows1252(trimmed(utf8)));
+    const std::string_view text = trimmed(utf8);
+    if (text != fieldOf(bytes_, column)) putRaw(column, encodeWindows1252(text));
 }
 
 void RecordLine::putRaw(Column column, std::string_view bytes) {
@@ -52,7 +63,10 @@ std::string joinedLines(const std::vector<std::string>& lineBytes) {
 }
 
 std::vector<std::string> RecordFile::lines() const {
-    return splitLines(files_.read(path_).value_or(std::string()));
+    const std::string bytes = files_.read(path_).value_or(std::string());
+    const auto ends = std::count(bytes.begin(), bytes.end(), '\n');
+    requireFewLines(static_cast<std::size_t>(ends), FileFault::Operation::Read, path_);
+    return splitLines(bytes);
 }
 
 std::vector<std::string> RecordFile::values() const {
@@ -69,6 +83,7 @@ void RecordFile::append(std::string_view lineBytes) {
 }
 
 void RecordFile::rewrite(const std::vector<std::string>& lineBytes) {
+    requireFewLines(lineBytes.size(), FileFault::Operation::Write, path_);
     files_.replace(path_, joinedLines(lineBytes));
 }
 

@@ -58,6 +58,13 @@ bool isControl(char32_t codePoint) {
     return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
 }
 
+/// A control character, or a byte that the code page leaves undefined.
+bool isUnprintable(char byte) {
+    const auto value = static_cast<unsigned char>(byte);
+    const bool high = value >= 0x80 && value < 0xA0;
+    return isControl(high ? kWindows1252High[value - 0x80U] : value);
+}
+
 char toByte(char32_t codePoint, std::string_view whole) {
     if (isControl(codePoint))
         throw TextFault("control character in \"" + std::string(whole) + "\"",
@@ -116,6 +123,15 @@ std::string decodeWindows1252(std::string_view bytes) {
         appendUtf8(utf8, high ? kWindows1252High[value - 0x80U] : value);
     }
     return utf8;
+}
+
+std::string readableText(std::string_view windows1252) {
+    constexpr std::size_t kMost = 80;
+    constexpr char kMiddleDot = '\xB7';
+    std::string bytes(trimmed(windows1252).substr(0, kMost));
+    for (char& byte : bytes)
+        if (isUnprintable(byte)) byte = kMiddleDot;
+    return decodeWindows1252(bytes).append(trimmed(windows1252).size() > kMost ? "…" : "");
 }
 
 std::size_t characterCount(std::string_view utf8) {

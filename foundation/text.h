@@ -24,6 +24,10 @@ namespace winvrx {
 /// The first `count` characters of `utf8`.
 [[nodiscard]] std::string_view firstCharacters(std::string_view utf8, std::size_t count);
 
+/// What can be shown of bytes that nobody understands: their text, a dot for each control
+/// character, "…" where it is cut.
+[[nodiscard]] std::string readableText(std::string_view windows1252);
+
 /// `text` without leading and trailing blanks.
 [[nodiscard]] std::string_view trimmed(std::string_view text);
 

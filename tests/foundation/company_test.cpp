@@ -56,6 +56,16 @@ TEST(Company, LongTextsAreCutToTheirField) {
     EXPECT_EQ(stored.taxId, company.taxId);
 }
 
+TEST(Company, BytesThatNobodyUnderstandsAreKept) {
+    std::string line = encode(sampleCompany(kToday)) + " tail \x81";
+    line.replace(120, 3, "\x01\x8D\t");
+    Company company = decodeCompany(line);
+    EXPECT_EQ(encode(company, line), line);
+    company.name = "OUTRA";
+    line.replace(3, 68, "OUTRA" + std::string(63, ' '));
+    EXPECT_EQ(encode(company, line), line);
+}
+
 TEST(CompanyRegister, AMissingRegisterBeginsWithTheSampleCompany) {
     TestWorkplace desk;
     EXPECT_TRUE(loadCompanies(desk.files, kFolder).empty());

@@ -45,8 +45,10 @@ TEST(DataFolder, ASharedProgramKeepsItsDataBesideItself) {
 
 TEST(DataFolder, NoNameLeadsOutside) {
     const DataFolder folder('C', "/data");
-    for (const char* name : {"", ".", "..", "../x", "a/b", "a\\b", "C:x", "/etc/passwd"})
+    for (const char* name :
+         {"", ".", "..", "../x", "a/b", "a\\b", "C:x", "/etc/passwd", "01\n", "01\x1F"})
         EXPECT_THROW((void)folder.file(name), std::invalid_argument) << name;
+    EXPECT_THROW((void)folder.file(std::string_view("01\0x", 4)), std::invalid_argument);
 }
 
 TEST(DataFolder, NamesAreReadByPosition) {

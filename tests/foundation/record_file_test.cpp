@@ -51,6 +51,14 @@ TEST(RecordLine, ARefusedTextChangesNothing) {
     EXPECT_EQ(line.bytes(), "001 ANA     ");
 }
 
+TEST(RecordLine, AColumnThatSaysTheSameKeepsItsBytes) {
+    for (const char* bytes : {"001  ANA    ", "001 \x81\t\x01     ", "001 AN\xC3\xA3    "}) {
+        RecordLine line(bytes, 12);
+        line.put(kName, fieldOf(bytes, kName));
+        EXPECT_EQ(line.bytes(), bytes);
+    }
+}
+
 TEST(RecordFile, LinesComeBackWhateverEndsThem) {
     struct Case {
         const char* bytes;
@@ -61,11 +69,32 @@ TEST(RecordFile, LinesComeBackWhateverEndsThem) {
                           {"a\nb\n", {"a", "b"}},
                           {"a\r\nb", {"a", "b"}},
                           {"a\r\n\r\nb\r\n", {"a", "", "b"}},
-                          {"a\rb\r\n", {"a\rb"}}}) {
+                          {"a\rb\r\n", {"a\rb"}},
+                          {"a\r\r\n", {"a\r"}},
+                          {"\n\n", {"", ""}},
+                          {"\r", {""}},
+                          {"\xEF\xBB\xBF"
+                           "01\n",
+                           {"\xEF\xBB\xBF"
+                            "01"}}}) {
         EXPECT_EQ(splitLines(c.bytes), c.lines) << c.bytes;
         EXPECT_EQ(splitLines(joinedLines(c.lines)), c.lines) << c.bytes;
     }
     EXPECT_EQ(joinedLines({"a", "b"}), "a\r\nb\r\n");
+    const std::string withNul("a\0b\n\0", 5);
+    EXPECT_EQ(splitLines(withNul), (std::vector<std::string>{withNul.substr(0, 3), {'\0'}}));
+}
+
+TEST(RecordFile, TooManyLinesAreRefusedAndLeftAlone) {
+    MemoryFiles files;
+    RecordFile file(files, "/data/list");
+    const std::string most(kMostLines, '\n');
+    files.content["/data/list"] = most;
+    EXPECT_EQ(file.lines().size(), kMostLines);
+    EXPECT_THROW(file.append("one more"), FileFault);
+    EXPECT_EQ(files.content["/data/list"], most);
+    files.content["/data/list"] += '\n';
+    EXPECT_THROW((void)file.lines(), FileFault);
 }
 
 TEST(RecordFile, ReadsMissingAsEmptyAndCreatesOnFirstWrite) {

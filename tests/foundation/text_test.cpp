@@ -41,5 +41,12 @@ TEST(Text, SearchIgnoresAccentsAndCase) {
     EXPECT_EQ(upperCase("março às 8"), "MARÇO ÀS 8");
 }
 
+TEST(Text, AnyBytesCanBeShown) {
+    EXPECT_EQ(readableText("  x\xE3\t\x01\x81\x7F\x80 "), "xã····€");
+    EXPECT_EQ(readableText(std::string("a\0b", 3)), "a·b");
+    EXPECT_EQ(readableText(std::string(90, 'n')), std::string(80, 'n') + "…");
+    EXPECT_EQ(readableText("   "), "");
+}
+
 }  // namespace
 }  // namespace winvrx
