@@ -207,7 +207,6 @@ void DataMesCorrente::write() {
     MonthSettings toWrite = checked();
     const auto onDisk = loadMonthSettings(at_.files, at_.session.folder, settings_.month);
     if (onDisk != recorded_) throw Fault("month changed on disk", std::string(kChangedElsewhere));
-    toWrite.furtherLines = onDisk.furtherLines;
     if (!toWrite.recordTicks) toWrite.holidayCells = onDisk.holidayCells;
     saveMonthSettings(at_.files, at_.session.folder, toWrite);
     recorded_ = toWrite;

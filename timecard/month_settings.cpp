@@ -75,14 +75,12 @@ MonthSettings decode(WorkMonth month, const std::vector<std::string>& lines) {
         record.number(kThresholdHours, 0, kHighestThreshold, settings.thresholdHours);
     settings.closingDay = record.number(kClosingDay, 1, kHighestClosingDay, settings.closingDay);
     settings.fixedMonth = record.flag(kFixedMonth, settings.fixedMonth);
-    if (lines.size() > kKnownLines)
-        settings.furtherLines.assign(lines.begin() + kKnownLines, lines.end());
     return settings;
 }
 
 std::vector<std::string> encode(const MonthSettings& settings) {
     std::vector<std::string> lines;
-    lines.reserve(kKnownLines + settings.furtherLines.size());
+    lines.reserve(kKnownLines);
     const auto flag = [&lines](bool value) { lines.emplace_back(value ? "1" : "0"); };
     const auto number = [&lines](int value) { lines.push_back(std::to_string(value)); };
     for (const bool ticked : settings.holidayCells)
@@ -98,8 +96,21 @@ std::vector<std::string> encode(const MonthSettings& settings) {
     number(settings.thresholdHours);
     number(settings.closingDay);
     flag(settings.fixedMonth);
-    lines.insert(lines.end(), settings.furtherLines.begin(), settings.furtherLines.end());
     return lines;
+}
+
+/// `settings` put into a record that stands.
+std::vector<std::string> encodeInto(std::vector<std::string> record,
+                                    const MonthSettings& settings) {
+    const std::vector<std::string> before = encode(decode(settings.month, record));
+    const std::vector<std::string> after = encode(settings);
+    for (std::size_t line = 0; line < after.size(); ++line) {
+        if (line >= record.size())
+            record.push_back(after[line]);
+        else if (before[line] != after[line] || trimmed(record[line]).empty())
+            record[line] = after[line];
+    }
+    return record;
 }
 
 RecordFile recordOf(FileSystem& files, const DataFolder& folder, WorkMonth month) {
@@ -143,7 +154,8 @@ MonthSettings loadMonthSettings(FileSystem& files, const DataFolder& folder, Wor
 }
 
 void saveMonthSettings(FileSystem& files, const DataFolder& folder, const MonthSettings& settings) {
-    recordOf(files, folder, settings.month).rewrite(encode(settings));
+    RecordFile record = recordOf(files, folder, settings.month);
+    record.rewrite(encodeInto(record.lines(), settings));
 }
 
 }  // namespace winvrx

@@ -37,9 +37,8 @@ struct MonthSettings {
     OvertimeMode mode = OvertimeMode::BothLevels;
     TotalsFormat totalsFormat = TotalsFormat::HoursAndMinutes;
     int thresholdHours = 2;
-    int closingDay = 1;                     ///< "Iníciar todo dia:"
-    bool fixedMonth = true;                 ///< "Mês Fixo"
-    std::vector<std::string> furtherLines;  ///< bytes of lines past those known, kept as they are
+    int closingDay = 1;      ///< "Iníciar todo dia:"
+    bool fixedMonth = true;  ///< "Mês Fixo"
 
     [[nodiscard]] bool isHoliday(Date date) const;
     void setHoliday(Date date, bool holiday);
@@ -65,6 +64,8 @@ inline constexpr int kHighestClosingDay = 31;
 /// counts as the default.
 [[nodiscard]] MonthSettings loadMonthSettings(FileSystem& files, const DataFolder& folder,
                                               WorkMonth month);
+/// A line whose meaning does not change keeps its bytes, those that are not understood and those
+/// past the known ones included.
 void saveMonthSettings(FileSystem& files, const DataFolder& folder, const MonthSettings& settings);
 
 }  // namespace winvrx

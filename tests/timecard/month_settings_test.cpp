@@ -26,13 +26,13 @@ MonthSettings unusualSettings() {
     settings.thresholdHours = 3;
     settings.closingDay = 21;
     settings.fixedMonth = false;
-    settings.furtherLines = {"de outra vers\xE3o", ""};
     return settings;
 }
 
 TEST(MonthSettings, RecordHasItsValuesOnTheirLines) {
     TestWorkplace desk;
     const MonthSettings settings = unusualSettings();
+    desk.file("03-2024ds.rdx") = std::string(53, '\n') + "de outra vers\xE3o\n\n";
     saveMonthSettings(desk.files, desk.session.folder, settings);
     const auto lines = splitLines(desk.file("03-2024ds.rdx"));
     ASSERT_EQ(lines.size(), 55U);
@@ -62,6 +62,25 @@ TEST(MonthSettings, WhatIsNoNumberOfItsRangeCountsAsDefault) {
     MonthSettings cutShort = defaults;
     cutShort.setHoliday(*parseDate("01/03/2024"), true);
     EXPECT_EQ(loadMonthSettings(desk.files, desk.session.folder, 2024y / 3), cutShort);
+}
+
+TEST(MonthSettings, ALineWhoseMeaningStaysKeepsItsBytes) {
+    TestWorkplace desk;
+    std::vector<std::string> lines(54, "0");
+    lines[2] = "sim";
+    lines[42] = "50%";
+    lines[43] = " 070";
+    lines[53] = "alheia \x81";
+    desk.file("03-2024ds.rdx") = joinedLines(lines);
+    MonthSettings settings = loadMonthSettings(desk.files, desk.session.folder, 2024y / 3);
+    settings.maximumPercent = 120;
+    saveMonthSettings(desk.files, desk.session.folder, settings);
+    lines[44] = "120";
+    EXPECT_EQ(splitLines(desk.file("03-2024ds.rdx")), lines);
+    settings.minimumPercent = 60;
+    saveMonthSettings(desk.files, desk.session.folder, settings);
+    lines[42] = "60";
+    EXPECT_EQ(splitLines(desk.file("03-2024ds.rdx")), lines);
 }
 
 TEST(MonthSettings, CellsFollowTheCalendar) {
