@@ -11,8 +11,10 @@ using std::filesystem::path;
 /// Held while a lock that was left behind is removed, so that of two who find it only one does.
 constexpr std::string_view kTakeOverName = "retomada-da-pasta.winvrx-lock";
 constexpr std::size_t kLines = 5;
-constexpr std::chrono::milliseconds kPause{10};
+constexpr std::chrono::milliseconds kPause{2};
 constexpr std::chrono::milliseconds kPatience{4000};
+/// Who takes the folder again and again leaves a gap in which one who waits finds it free.
+constexpr std::chrono::milliseconds kGap{3 * kPause};
 
 }  // namespace
 
@@ -37,6 +39,7 @@ std::optional<LockHolder> decodeLock(std::string_view bytes) {
 FolderLock::Hold FolderLock::take(const path& folder, Clock::Moment since,
                                   const Question& question) {
     const auto present = [&] { return disk_.read(folder / kFolderLockName).value_or(""); };
+    giveWay(folder);
     const std::string first = present();
     for (std::chrono::milliseconds waited{0}; waited <= kPatience; waited += kPause) {
         if (auto hold = tryTake(folder, since)) return std::move(*hold);
@@ -50,6 +53,11 @@ FolderLock::Hold FolderLock::take(const path& folder, Clock::Moment since,
     }
     const auto holder = decodeLock(present());
     throw FolderInUse(folder, holder ? holder->description() : "outro computador");
+}
+
+void FolderLock::giveWay(const path& folder) {
+    if (held_.contains(folder / kFolderLockName)) return;
+    if (std::chrono::steady_clock::now() - released_ < kGap) host_.pause(kGap);
 }
 
 std::optional<FolderLock::Hold> FolderLock::tryTake(const path& folder, Clock::Moment since) {
@@ -110,6 +118,7 @@ void FolderLock::release(const path& file) noexcept {
         const bool mine =
             holder && holder->machine == host_.machine() && holder->process == host_.process();
         if (mine) disk_.remove(file);
+        released_ = std::chrono::steady_clock::now();
     } catch (...) {
         // What was written stands. The next hold takes the lock over.
         return;

@@ -5,6 +5,7 @@
 #include "foundation/faults.h"
 #include "foundation/host.h"
 
+#include <chrono>
 #include <functional>
 #include <map>
 #include <optional>
@@ -89,6 +90,7 @@ class FolderLock {
                             const Question& question);
 
   private:
+    void giveWay(const std::filesystem::path& folder);
     [[nodiscard]] std::optional<Hold> tryTake(const std::filesystem::path& folder,
                                               Clock::Moment since);
     [[nodiscard]] bool create(const std::filesystem::path& file, Clock::Moment since);
@@ -103,6 +105,7 @@ class FolderLock {
     Disk& disk_;
     Host& host_;
     std::map<std::filesystem::path, int> held_;  ///< by lock file: how many holds live
+    std::chrono::steady_clock::time_point released_{};
     int serial_ = 0;
 };
 

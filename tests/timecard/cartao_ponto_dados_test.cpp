@@ -254,6 +254,28 @@ TEST_F(CardScreen, AnotherMachinesChangeIsNotOverwritten) {
     EXPECT_THAT(titles(), ElementsAre("Aplicação Ponto", "Aplicação Ponto"));
 }
 
+TEST_F(CardScreen, PunchesThatCameWhileTheQuestionStoodAreNotReplaced) {
+    // Another computer applies them while this operator reads the question.
+    struct SlowOperator final : Operator {
+        std::string* record = nullptr;
+        std::string explanation;
+        Answer ask(const Message& message) override {
+            if (message.text == kConfirm) *record = "  \r\n01/sex/mar07:00\r\n";
+            explanation = message.detail;
+            return message.buttons == Buttons::YesNo ? Answer::Yes : Answer::Ok;
+        }
+    } slow;
+    const Workplace at{desk.files, slow, desk.clock, desk.log, desk.session, desk.lock};
+    CartaoPontoDados applying(at);
+    ASSERT_TRUE(applying.open());
+    ASSERT_TRUE(applying.select(0));
+    slow.record = &desk.file(kPunches);
+    desk.file(kPunches) = "  \r\n01/sex/mar06:00\r\n";
+    EXPECT_FALSE(applying.applyPunches());
+    EXPECT_EQ(desk.file(kPunches), "  \r\n01/sex/mar07:00\r\n");
+    EXPECT_THAT(slow.explanation, ::testing::HasSubstr("outro computador"));
+}
+
 TEST_F(CardScreen, LeavingAnEditedCardAsksFirst) {
     struct Case {
         Answer answer;

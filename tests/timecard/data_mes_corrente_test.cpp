@@ -140,6 +140,19 @@ TEST_F(MonthScreen, WithoutGravacaoTheTicksOnRecordStay) {
                 ::testing::IsEmpty());
 }
 
+TEST_F(MonthScreen, AMonthChangedElsewhereMeanwhileIsNotOverwritten) {
+    MonthSettings elsewhere = screen.settings();
+    elsewhere.closingDay = 21;
+    saveMonthSettings(desk.files, desk.session.folder, elsewhere);
+    const auto untouched = desk.files.content;
+    tick("29/03/2024");
+    EXPECT_FALSE(screen.record());
+    EXPECT_FALSE(screen.confirm());
+    EXPECT_EQ(desk.files.content, untouched);
+    EXPECT_EQ(desk.person.shown.back().detail,
+              "Este mês foi alterado por outro computador. Abra a tela novamente.");
+}
+
 TEST_F(MonthScreen, ChangesAreGivenUpOnlyWhenTheOperatorSaysSo) {
     tick("29/03/2024");
     EXPECT_FALSE(screen.chooseMonth(2024y / 4));

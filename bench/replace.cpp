@@ -1,0 +1,136 @@
+// A thousand record files replaced in one batch, beside the floor.
+//
+// `replace-1000`: the same bytes written to the same names, each flushed, the folder flushed once.
+// `replace-1000-nosync`: the same protocol with flushes that do nothing, beside plain writes.
+
+#include "foundation/disk.h"
+#include "foundation/durable_files.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <random>
+#include <string>
+
+namespace {
+
+using namespace winvrx;
+using std::filesystem::path;
+
+constexpr int kFiles = 1000;
+constexpr int kRounds = 7;
+
+/// Passes everything on but the flushes.
+class UnflushedDisk final : public Disk {
+  public:
+    explicit UnflushedDisk(Disk& disk) : disk_(disk) {}
+
+    [[nodiscard]] std::optional<std::string> read(const path& file) const override {
+        return disk_.read(file);
+    }
+    void write(const path& file, std::string_view bytes) override { disk_.write(file, bytes); }
+    [[nodiscard]] bool create(const path& file, std::string_view bytes) override {
+        return disk_.create(file, bytes);
+    }
+    void flush(const std::vector<path>&) override {}
+    void rename(const path& from, const path& to) override { disk_.rename(from, to); }
+    bool remove(const path& file) override { return disk_.remove(file); }
+    void flushFolder(const path&) override {}
+    [[nodiscard]] bool exists(const path& file) const override { return disk_.exists(file); }
+    [[nodiscard]] std::vector<std::string> names(const path& folder) const override {
+        return disk_.names(folder);
+    }
+    void makeFolder(const path& folder) override { disk_.makeFolder(folder); }
+
+  private:
+    Disk& disk_;
+};
+
+/// The size of a month's punch record.
+std::vector<FileSystem::NewContent> batchIn(const path& folder, char fill) {
+    constexpr std::size_t kRecordBytes = 4 + 31 * 62;
+    std::vector<FileSystem::NewContent> batch;
+    for (int number = 0; number < kFiles; ++number)
+        batch.push_back(
+            {folder / (std::to_string(number) + ".bdx"), std::string(kRecordBytes, fill)});
+    return batch;
+}
+
+double milliseconds(const std::function<void()>& work) {
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+        .count();
+}
+
+void writePlain(Disk& disk, const std::vector<FileSystem::NewContent>& batch) {
+    for (const FileSystem::NewContent& one : batch)
+        disk.write(one.file, one.bytes);
+}
+
+void writeFlushed(Disk& disk, const std::vector<FileSystem::NewContent>& batch) {
+    for (const FileSystem::NewContent& one : batch) {
+        disk.write(one.file, one.bytes);
+        disk.flush({one.file});
+    }
+    disk.flushFolder(batch.front().file.parent_path());
+}
+
+double median(std::vector<double> values) {
+    std::ranges::sort(values);
+    return values[values.size() / 2];
+}
+
+void report(const char* name, const std::vector<double>& ours, const std::vector<double>& floor) {
+    std::printf("bench %s ours=%.1f floor=%.1f ratio=%.2f\n", name, median(ours), median(floor),
+                median(ours) / median(floor));
+}
+
+/// A folder of its own under the one in which the bench is run: the system's temporary folder may
+/// be memory, which has nothing to flush.
+class BenchFolder {
+  public:
+    BenchFolder() : path_("bench-replace-" + std::to_string(std::random_device{}())) {
+        std::filesystem::create_directories(path_ / "ours");
+        std::filesystem::create_directories(path_ / "floor");
+    }
+    ~BenchFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    BenchFolder(const BenchFolder&) = delete;
+    BenchFolder& operator=(const BenchFolder&) = delete;
+
+    [[nodiscard]] path ours() const { return path_ / "ours"; }
+    [[nodiscard]] path floor() const { return path_ / "floor"; }
+
+  private:
+    path path_;
+};
+
+}  // namespace
+
+int main() {
+    const BenchFolder folder;
+    const std::shared_ptr<Disk> disk = systemDisk();
+    DurableFiles files(disk);
+    DurableFiles unflushed(std::make_shared<UnflushedDisk>(*disk));
+    std::array<std::vector<double>, 4> times;
+    for (int round = 0; round <= kRounds; ++round) {
+        const char fill = static_cast<char>('a' + round);
+        const auto ours = batchIn(folder.ours(), fill);
+        const auto floor = batchIn(folder.floor(), fill);
+        const std::array<std::function<void()>, 4> works = {
+            [&] { files.replaceAll(ours); }, [&] { writeFlushed(*disk, floor); },
+            [&] { unflushed.replaceAll(ours); }, [&] { writePlain(*disk, floor); }};
+        for (std::size_t i = 0; i < works.size(); ++i) {
+            const double time = milliseconds(works[i]);
+            if (round > 0) times[i].push_back(time);
+        }
+    }
+    report("replace-1000", times[0], times[1]);
+    report("replace-1000-nosync", times[2], times[3]);
+    return 0;
+}
