@@ -83,6 +83,9 @@ inline constexpr std::string_view kEmployeeListStem = "CartaPonto";
 inline constexpr std::string_view kStartMemoryName = "LocMen.lvc";
 inline constexpr std::string_view kSelectedMonthName = "DataIde.ivc";
 
+/// The scratch database of the report engine: no record.
+inline constexpr std::string_view kReportDatabaseName = "qdb.mdb";
+
 /// True for the names of records that go when the company goes: its schedules, overtime figures,
 /// leaves, punches, month files and employee list. Names are read by position: company code in
 /// characters 1-2, then the stem.

@@ -25,7 +25,6 @@ inline constexpr std::array<std::string_view, 26> kCardColumns = {
     "total", "quinzena"};
 
 inline constexpr std::string_view kCardTable = "Tabela_base";
-inline constexpr std::string_view kReportDatabaseName = "qdb.mdb";
 
 using CardRow = std::array<std::string, kCardColumns.size()>;
 

@@ -47,7 +47,7 @@ class MemoryFiles final : public FileSystem {
         const std::filesystem::path& folder) const override {
         std::vector<std::string> names;
         for (const auto& [file, bytes] : content)
-            if (file.parent_path() == folder) names.push_back(file.filename().string());
+            if (file.parent_path() / "" == folder / "") names.push_back(file.filename().string());
         return names;
     }
 
