@@ -70,11 +70,15 @@ void addPersonnel(std::vector<MenuEntry>& entries) {
         entry(MenuCommand::Documents, group, "documents.open", "documents", "Documentos", {}));
 }
 
-void addTools(std::vector<MenuEntry>& entries, Menu& menu) {
+void addTools(std::vector<MenuEntry>& entries, Menu& menu, Screens& screens) {
     const QString group = QStringLiteral("Ferramentas");
     entries.push_back(entry(MenuCommand::Labels, group, "labels.open", "labels", "Etiquetas", {}));
     entries.push_back(
         entry(MenuCommand::Backup, group, "backup.open", "backup", "Cópia de Segurança", {}));
+    entries.push_back(entry(
+        MenuCommand::Restore, group, "restore.open", "restore", "&Restaurar Cópia", Qt::Key_F8,
+        [&](QWidget* parent) { screens.openCopies(parent); },
+        [] { return QStringLiteral("Voltar a um dia anterior"); }));
     entries.push_back(entry(
         MenuCommand::Help, group, "help.open", "help", "&Ajuda", Qt::Key_F1,
         [&](QWidget*) { menu.openHelp(); }, [] { return QStringLiteral("Como usar cada tela"); }));
@@ -87,7 +91,7 @@ std::vector<MenuEntry> menuEntries(Menu& menu, Screens& screens) {
     addRegisters(entries, screens);
     addCards(entries, screens);
     addPersonnel(entries);
-    addTools(entries, menu);
+    addTools(entries, menu, screens);
     return entries;
 }
 

@@ -2,7 +2,9 @@
 
 #include "app/screens.h"
 #include "foundation/command.h"
+#include "foundation/daily_copy_files.h"
 #include "foundation/desktop/message_box_operator.h"
+#include "foundation/desktop/zip_archiver.h"
 #include "foundation/menu.h"
 #include "output/report_engine.h"
 #include "timecard/month_overview.h"
@@ -47,6 +49,9 @@ class Program {
     std::unique_ptr<Browser> browser_;
     MessageBoxOperator person_;
     Session session_;
+    ZipArchiver archiver_;
+    SafetyCopies copies_;
+    DailyCopyFiles copiedFiles_;
     std::unique_ptr<Disk> disk_;
     std::unique_ptr<Host> host_;
     FolderLock lock_;

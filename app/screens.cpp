@@ -4,9 +4,11 @@
 #include "foundation/desktop/empregados_window.h"
 #include "foundation/desktop/empresa_window.h"
 #include "foundation/desktop/qt_text.h"
+#include "foundation/desktop/restaurar_copia_window.h"
 #include "foundation/employee_register.h"
 #include "foundation/empregados.h"
 #include "foundation/empresa.h"
+#include "foundation/restaurar_copia.h"
 #include "output/card_stock.h"
 #include "output/cartao.h"
 #include "output/desktop/cartao_window.h"
@@ -75,6 +77,11 @@ void Screens::openCards(QWidget* parent, bool preview) {
 void Screens::openStocks(QWidget* parent) {
     TipoPonto stocks(at_, browser_);
     TipoPontoWindow(stocks, parent).exec();
+}
+
+void Screens::openCopies(QWidget* parent) {
+    RestaurarCopia copies(at_, copies_, browser_);
+    RestaurarCopiaWindow(copies, parent).exec();
 }
 
 std::optional<Screens::Progress> Screens::progress() const {

@@ -3,6 +3,7 @@
 #include "foundation/browser.h"
 #include "foundation/command.h"
 #include "foundation/menu.h"
+#include "foundation/safety_copies.h"
 #include "output/report_engine.h"
 
 #include <QString>
@@ -18,8 +19,8 @@ class ScreenWindow;
 /// Opens the screens of the main window's commands, and says in a line how far each subject is.
 class Screens {
   public:
-    Screens(const Workplace& at, Browser& browser, ReportEngine& engine)
-        : at_(at), browser_(browser), engine_(engine) {}
+    Screens(const Workplace& at, Browser& browser, ReportEngine& engine, SafetyCopies& copies)
+        : at_(at), browser_(browser), engine_(engine), copies_(copies) {}
 
     void openCompanies(QWidget* parent);
     void openEmployees(QWidget* parent);
@@ -28,6 +29,7 @@ class Screens {
     /// `preview`: shows the cards before they are printed.
     void openCards(QWidget* parent, bool preview);
     void openStocks(QWidget* parent);
+    void openCopies(QWidget* parent);
 
     [[nodiscard]] QString companiesState() const;
     [[nodiscard]] QString employeesState() const;
@@ -54,6 +56,7 @@ class Screens {
     Workplace at_;
     Browser& browser_;
     ReportEngine& engine_;
+    SafetyCopies& copies_;
 };
 
 }  // namespace winvrx

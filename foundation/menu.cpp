@@ -43,6 +43,7 @@ bool needsCompany(MenuCommand command) {
     switch (command) {
         case MenuCommand::Companies:
         case MenuCommand::Backup:
+        case MenuCommand::Restore:
         case MenuCommand::Internet:
         case MenuCommand::Help:
             return false;

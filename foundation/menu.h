@@ -26,6 +26,7 @@ enum class MenuCommand {
     Contract,
     Labels,
     Backup,
+    Restore,
     Internet,
     Help
 };

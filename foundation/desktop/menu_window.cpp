@@ -338,7 +338,7 @@ void MenuWindow::showDrive() {
 void MenuWindow::open(const MenuEntry& entry) {
     if (!menu_.mayOpen(entry.command)) return;
     entry.open(this);
-    if (entry.command == MenuCommand::Companies) {
+    if (entry.command == MenuCommand::Companies || entry.command == MenuCommand::Restore) {
         menu_.reloadCompanies();
         fillCompanies();
     }

@@ -4,7 +4,9 @@
 #include "foundation/empregados.h"
 #include "foundation/empresa.h"
 #include "foundation/menu.h"
+#include "foundation/restaurar_copia.h"
 #include "output/tipo_ponto.h"
+#include "tests/support/plain_archiver.h"
 #include "tests/support/test_browser.h"
 #include "timecard/cartao_ponto_dados.h"
 #include "timecard/data_mes_corrente.h"
@@ -142,6 +144,26 @@ bool chooseStock(const Workplace& at, const Drives&) {
     return screen.choose(*findStock("12"));
 }
 
+const CopyName kCopyOfYesterday{.made = {*parseDate("14/03/2024"), *parseTime("08:12")}};
+
+/// The office with a copy that lacks files, has another, and knows one differently.
+FileTable officeWithACopy() {
+    FileTable files = office();
+    std::string copy = PlainArchiver::packedFile("01Empresa", "01 ANTES\r\n") +
+                       PlainArchiver::packedFile("03CartaPonto", "001 JANE\r\n");
+    const std::string same = "02CartaPonto";
+    copy += PlainArchiver::packedFile(same, files.at(inDataFolder(same)));
+    files[inDataFolder(std::string(kCopiesSubfolder) + "/" + kCopyOfYesterday.text())] = copy;
+    return files;
+}
+
+bool restoreCopy(const Workplace& at, const Drives&) {
+    const PlainArchiver archiver;
+    SafetyCopies copies(at.files, archiver, at.log);
+    TestBrowser browser;
+    return RestaurarCopia(at, copies, browser).restore(kCopyOfYesterday);
+}
+
 std::vector<WritingCommand> registerCommands() {
     Company third = sampleCompany(*parseDate("10/01/2024"));
     third.name = "TERCEIRA";
@@ -174,6 +196,7 @@ std::vector<WritingCommand> menuCommands() {
          officeOfAnEarlierVersion(),
          inMenu([](Menu& menu) { menu.offerEarlierData(); }),
          {kUseEarlier}},
+        {"restore copy", officeWithACopy(), restoreCopy},
         {"exit", office(), inMenu([](Menu& menu) { menu.exit(); })},
     };
 }
@@ -305,7 +328,8 @@ MemoryDisk::Files placed(const FileTable& files, const path& root) {
 FileTable recordsOf(const MemoryDisk::Files& files, const path& root) {
     FileTable table;
     for (const auto& [file, bytes] : files)
-        if (!file.string().ends_with(kLockSuffix))
+        if (!file.string().ends_with(kLockSuffix) &&
+            file.parent_path().filename() != kCopiesSubfolder)
             table[file.lexically_relative(root).generic_string()] = bytes;
     return table;
 }

@@ -71,7 +71,8 @@ struct Outcome {
 [[nodiscard]] std::string neitherBeforeNorAfter(const FileTable& now, const FileTable& before,
                                                 const FileTable& after);
 
-/// The paths made absolute under `root`, and back. A lock is no record and is left out.
+/// The paths made absolute under `root`, and back. Locks and safety copies are no
+/// records and are left out.
 [[nodiscard]] MemoryDisk::Files placed(const FileTable& files, const std::filesystem::path& root);
 [[nodiscard]] FileTable recordsOf(const MemoryDisk::Files& files,
                                   const std::filesystem::path& root);
