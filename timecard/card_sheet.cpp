@@ -70,6 +70,14 @@ std::string CardSheet::findingAt(int day, PunchCell cell) const {
     return storageFinding(typed);
 }
 
+std::string CardSheet::noticeAt(int day, PunchCell cell) const {
+    const std::string finding = findingAt(day, cell);
+    const std::string& recorded = text(day, cell);
+    if (!finding.empty() || !isTime(cell) || recorded.empty() || parseTypedTime(recorded))
+        return finding;
+    return "\"" + recorded + "\" não é uma hora: fica como está e não conta.";
+}
+
 std::optional<std::string> CardSheet::firstFinding() const {
     for (int day = 1; day <= static_cast<int>(lines_.size()); ++day)
         for (const PunchCell cell : kPunchCells)

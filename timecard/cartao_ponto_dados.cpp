@@ -102,6 +102,7 @@ void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings&
     position_.reset();
     schedule_ = TypedSchedule();
     sheet_ = CardSheet(blankMonth(settings_.month));
+    unreadLines_.clear();
     applied_ = false;
     const auto found = std::find_if(employees_.begin(), employees_.end(),
                                     [&](const Employee& one) { return one.code == chosen; });
@@ -113,6 +114,8 @@ void CartaoPontoDados::loadCard(std::size_t position) {
     const CompanyCode& company = company_.value();
     const auto schedule = loadSchedule(at_.files, at_.session.folder, company, code);
     auto punches = loadPunches(at_.files, at_.session.folder, company, code, settings_.month);
+    unreadLines_ =
+        unreadPunchLines(at_.files, at_.session.folder, company, code, settings_.month);
     position_ = position;
     schedule_ = TypedSchedule(schedule.value_or(StandardSchedule()));
     applied_ = punches.has_value();
@@ -163,9 +166,7 @@ std::string_view CartaoPontoDados::saturdayCaption() const {
 bool CartaoPontoDados::saveSchedule() {
     if (!requireSelection()) return false;
     return attempt(at_, incorrectData(), [this] {
-        for (std::size_t position = 0; position < kScheduleTimes; ++position)
-            if (const std::string finding = schedule_.findingAt(position); !finding.empty())
-                throw Fault("standard schedule: " + schedule_.text(position), finding);
+        requireReadableSchedule();
         requireScheduleAsShown();
         StandardSchedule schedule = schedule_.schedule();
         if (schedule_.hasSaturdayTimes())
@@ -184,6 +185,11 @@ void CartaoPontoDados::requireScheduleAsShown() const {
         loadSchedule(at_.files, at_.session.folder, company_.value(), selectedCode());
     if (onDisk.value_or(StandardSchedule()) != schedule_.recorded())
         throw Fault("schedule changed on disk", std::string(kChangedElsewhere));
+}
+
+void CartaoPontoDados::requireReadableSchedule() const {
+    if (const auto finding = schedule_.firstFinding())
+        throw Fault("standard schedule: " + *finding, *finding);
 }
 
 bool CartaoPontoDados::passesApplicationChecks() {
@@ -205,6 +211,7 @@ bool CartaoPontoDados::passesApplicationChecks() {
         at_.person.tell(kAdmissionTooLate);
         return false;
     }
+    requireReadableSchedule();
     if (!at_.person.agrees(kConfirmApplication)) return false;
     return !schedule_.changed() || (at_.person.agrees(kScheduleNotRecorded) && saveSchedule());
 }

@@ -59,6 +59,9 @@ class CartaoPontoDados {
     /// "Aplicar Ponto": fills the month from the standard schedule.
     [[nodiscard]] bool applyPunches();
 
+    /// What can be shown of the lines of the record that stand for no day; they are kept.
+    [[nodiscard]] const std::vector<std::string>& unreadLines() const { return unreadLines_; }
+
     [[nodiscard]] CardSheet& sheet() { return sheet_; }
     [[nodiscard]] const CardSheet& sheet() const { return sheet_; }
     [[nodiscard]] DayKind kindOf(int day) const;
@@ -78,6 +81,7 @@ class CartaoPontoDados {
     void loadList(const CompanyCode& company, const MonthSettings& settings, ShiftFilter filter);
     void loadCard(std::size_t position);
     [[nodiscard]] bool requireSelection();
+    void requireReadableSchedule() const;
     [[nodiscard]] bool passesApplicationChecks();
     void requireScheduleAsShown() const;
     [[nodiscard]] EmployeeCode selectedCode() const;
@@ -91,6 +95,7 @@ class CartaoPontoDados {
     std::optional<std::size_t> position_;
     TypedSchedule schedule_;
     CardSheet sheet_;
+    std::vector<std::string> unreadLines_;
     bool applied_ = false;
 };
 

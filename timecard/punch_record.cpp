@@ -24,11 +24,13 @@ TimePair pairOf(std::string_view entry, std::string_view exit) {
 /// that nor blank.
 struct RecordContent {
     std::vector<PunchLine> days;
+    std::vector<std::string> dayBytes;
     std::vector<std::string> others;
 };
 
 RecordContent contentOf(const std::vector<std::string>& lines, WorkMonth month) {
-    RecordContent content{blankMonth(month), {}};
+    RecordContent content{blankMonth(month), {}, {}};
+    content.dayBytes.resize(content.days.size());
     std::vector<bool> seen(content.days.size(), false);
     for (const std::string& bytes : lines) {
         PunchLine line = decodePunchLine(bytes);
@@ -36,6 +38,7 @@ RecordContent contentOf(const std::vector<std::string>& lines, WorkMonth month) 
         if (place < seen.size() && !seen[place]) {
             seen[place] = true;
             content.days[place] = std::move(line);
+            content.dayBytes[place] = bytes;
         } else if (!trimmed(bytes).empty()) {
             content.others.push_back(bytes);
         }
@@ -71,8 +74,8 @@ TimePair PunchLine::extra() const {
     return pairOf(extraEntry, extraExit);
 }
 
-std::string encode(const PunchLine& line) {
-    RecordLine record(kPunchWidth);
+std::string encode(const PunchLine& line, std::string_view existing) {
+    RecordLine record(std::string(existing.substr(0, kPunchWidth)), kPunchWidth);
     for (const PunchField& field : kPunchFields)
         record.put(field.column, line.*field.member);
     return record.bytes() + line.further;
@@ -107,6 +110,16 @@ std::optional<std::vector<PunchLine>> loadPunches(FileSystem& files, const DataF
     return contentOf(record.lines(), month).days;
 }
 
+std::vector<std::string> unreadPunchLines(FileSystem& files, const DataFolder& folder,
+                                          const CompanyCode& company, const EmployeeCode& employee,
+                                          WorkMonth month) {
+    std::vector<std::string> unread =
+        contentOf(recordOf(files, folder, company, employee, month).lines(), month).others;
+    for (std::string& line : unread)
+        line = readableText(line);
+    return unread;
+}
+
 std::string punchRecordBytes(const std::vector<PunchLine>& lines) {
     std::vector<std::string> encoded{std::string(kOpeningLine)};
     for (const PunchLine& line : lines)
@@ -117,10 +130,14 @@ std::string punchRecordBytes(const std::vector<PunchLine>& lines) {
 void savePunches(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
                  const EmployeeCode& employee, WorkMonth month,
                  const std::vector<PunchLine>& lines) {
-    const RecordFile record = recordOf(files, folder, company, employee, month);
-    const std::string bytes =
-        punchRecordBytes(lines) + joinedLines(contentOf(record.lines(), month).others);
-    files.replace(record.path(), bytes);
+    RecordFile record = recordOf(files, folder, company, employee, month);
+    const RecordContent before = contentOf(record.lines(), month);
+    std::vector<std::string> encoded{std::string(kOpeningLine)};
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        encoded.push_back(
+            encode(lines[i], i < before.dayBytes.size() ? before.dayBytes[i] : std::string()));
+    encoded.insert(encoded.end(), before.others.begin(), before.others.end());
+    record.rewrite(encoded);
 }
 
 }  // namespace winvrx

@@ -60,8 +60,9 @@ inline constexpr std::array kPunchFields = {
 inline constexpr std::size_t kPunchWidth = 60;
 static_assert(isContiguous(kPunchFields, kPunchWidth));
 
+/// Built upon `existing`, the day's line as it stands: a column that says the same keeps its bytes.
 /// Throws TextFault when a text cannot be stored.
-[[nodiscard]] std::string encode(const PunchLine& line);
+[[nodiscard]] std::string encode(const PunchLine& line, std::string_view existing = {});
 [[nodiscard]] PunchLine decodePunchLine(std::string_view lineBytes);
 
 /// "01001-03-2024.bdx": company in characters 1-2, employee in 3-5, ".bdx" in 14-17.
@@ -78,6 +79,12 @@ static_assert(isContiguous(kPunchFields, kPunchWidth));
                                                                 const CompanyCode& company,
                                                                 const EmployeeCode& employee,
                                                                 WorkMonth month);
+
+/// What can be shown of the lines of a record that stand for no day of the month, in file order.
+[[nodiscard]] std::vector<std::string> unreadPunchLines(FileSystem& files, const DataFolder& folder,
+                                                        const CompanyCode& company,
+                                                        const EmployeeCode& employee,
+                                                        WorkMonth month);
 
 /// The bytes of a record: the opening line of two blanks, then the day lines.
 [[nodiscard]] std::string punchRecordBytes(const std::vector<PunchLine>& lines);

@@ -52,6 +52,15 @@ std::optional<int> shortNumber(std::string_view digits, int highest) {
     return value <= highest ? std::optional(value) : std::nullopt;
 }
 
+bool flagIn(std::string_view lineBytes, Column column) {
+    return fieldOf(lineBytes, column) == "1";
+}
+
+void putFlag(RecordLine& line, Column column, bool value) {
+    const bool blank = fieldOf(line.bytes(), column).empty();
+    if (blank || flagIn(line.bytes(), column) != value) line.put(column, value ? "1" : "0");
+}
+
 RecordFile recordOf(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
                     const EmployeeCode& employee) {
     return {files, folder.companyFile(company, scheduleFileName(employee))};
@@ -85,25 +94,33 @@ std::optional<TimeOfDay> parseTypedTime(std::string_view text) {
     return TimeOfDay{std::chrono::hours{*hour} + std::chrono::minutes{*minute}};
 }
 
-std::string encode(const StandardSchedule& schedule) {
-    RecordLine line(kScheduleWidth);
-    for (const TimeField& field : kTimeFields) {
-        const auto& time = schedule.*field.day.*field.pair.*field.time;
-        line.put(field.column, time ? timeText(*time) : std::string());
+std::string encode(const StandardSchedule& schedule, std::string existing) {
+    RecordLine line(std::move(existing), kScheduleWidth);
+    for (std::size_t position = 0; position < kScheduleTimes; ++position) {
+        const Column column = kTimeFields[position].column;
+        const auto& time = timeAt(schedule, position);
+        if (!time)
+            line.putRaw(column, schedule.unread[position]);
+        else if (parseTypedTime(fieldOf(line.bytes(), column)) != time)
+            line.put(column, timeText(*time));
     }
-    line.put(kSaturdayFlag, schedule.saturdayIsNormal ? "1" : "0");
-    line.put(kSecondFlag, schedule.secondFlag ? "1" : "0");
+    putFlag(line, kSaturdayFlag, schedule.saturdayIsNormal);
+    putFlag(line, kSecondFlag, schedule.secondFlag);
     line.putRaw({kOpaque.start, std::max(kOpaque.width, schedule.opaque.size())}, schedule.opaque);
     return line.bytes();
 }
 
 StandardSchedule decodeSchedule(std::string_view lineBytes) {
     StandardSchedule schedule;
-    for (const TimeField& field : kTimeFields)
-        schedule.*field.day.*field.pair.*field.time =
-            parseTypedTime(fieldOf(lineBytes, field.column));
-    schedule.saturdayIsNormal = fieldOf(lineBytes, kSaturdayFlag) == "1";
-    schedule.secondFlag = fieldOf(lineBytes, kSecondFlag) == "1";
+    for (std::size_t position = 0; position < kScheduleTimes; ++position) {
+        const Column column = kTimeFields[position].column;
+        const std::string text = fieldOf(lineBytes, column);
+        timeAt(schedule, position) = parseTypedTime(text);
+        if (!text.empty() && !timeAt(schedule, position))
+            schedule.unread[position] = rawFieldOf(lineBytes, column);
+    }
+    schedule.saturdayIsNormal = flagIn(lineBytes, kSaturdayFlag);
+    schedule.secondFlag = flagIn(lineBytes, kSecondFlag);
     if (lineBytes.size() >= kOpaque.start) schedule.opaque = lineBytes.substr(kOpaque.start - 1);
     return schedule;
 }
@@ -124,7 +141,7 @@ void saveSchedule(FileSystem& files, const DataFolder& folder, const CompanyCode
     RecordFile record = recordOf(files, folder, company, employee);
     std::vector<std::string> lines = record.lines();
     if (lines.empty()) lines.emplace_back();
-    lines.front() = encode(schedule);
+    lines.front() = encode(schedule, std::move(lines.front()));
     record.rewrite(lines);
 }
 

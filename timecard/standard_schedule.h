@@ -29,22 +29,25 @@ struct DaySchedule {
     [[nodiscard]] bool operator==(const DaySchedule&) const = default;
 };
 
+/// The eight times in the order of the panel: Monday to Friday's morning entry, morning exit,
+/// afternoon entry and afternoon exit, then Saturday's.
+inline constexpr std::size_t kScheduleTimes = 8;
+
 /// The standard working hours of one employee: the record `PadrHor`.
 struct StandardSchedule {
     DaySchedule weekday;
     DaySchedule saturday;
     bool saturdayIsNormal = false;  ///< "Sábado(Normal)" / "Sábado(Extra)"
     bool secondFlag = false;        ///< the panel's second check box
-    std::string opaque;             ///< bytes from column 43 on, kept as they stand
+    /// Bytes of the columns that hold no time and are not blank, kept until a time is put there.
+    std::array<std::string, kScheduleTimes> unread;
+    std::string opaque;  ///< bytes from column 43 on, kept as they stand
 
     [[nodiscard]] bool operator==(const StandardSchedule&) const = default;
 };
 
 inline constexpr std::size_t kScheduleWidth = 192;
 
-/// The eight times in the order of the panel: Monday to Friday's morning entry, morning exit,
-/// afternoon entry and afternoon exit, then Saturday's.
-inline constexpr std::size_t kScheduleTimes = 8;
 inline constexpr std::size_t kFirstSaturdayTime = 4;
 [[nodiscard]] std::optional<TimeOfDay>& timeAt(StandardSchedule& schedule, std::size_t position);
 [[nodiscard]] const std::optional<TimeOfDay>& timeAt(const StandardSchedule& schedule,
@@ -54,9 +57,10 @@ inline constexpr std::size_t kFirstSaturdayTime = 4;
 /// blank included.
 [[nodiscard]] std::optional<TimeOfDay> parseTypedTime(std::string_view text);
 
-[[nodiscard]] std::string encode(const StandardSchedule& schedule);
+/// Built upon `existing`: what means the same there keeps its bytes.
+[[nodiscard]] std::string encode(const StandardSchedule& schedule, std::string existing = {});
 
-/// What is not a time counts as empty.
+/// What is not a time counts as empty and is kept as unread.
 [[nodiscard]] StandardSchedule decodeSchedule(std::string_view lineBytes);
 
 /// "PadrHor001.pdx", to be put behind the company code.

@@ -6,15 +6,30 @@
 
 namespace winvrx {
 
+namespace {
+
+std::string recordedText(const StandardSchedule& schedule, std::size_t position) {
+    if (const auto& time = timeAt(schedule, position)) return timeText(*time);
+    return decodeWindows1252(trimmed(schedule.unread[position]));
+}
+
+}  // namespace
+
 TypedSchedule::TypedSchedule(const StandardSchedule& recorded) : recorded_(recorded) {
     for (std::size_t position = 0; position < kScheduleTimes; ++position)
-        if (const auto& time = timeAt(recorded_, position)) texts_[position] = timeText(*time);
+        texts_[position] = recordedText(recorded_, position);
 }
 
 void TypedSchedule::type(std::size_t position, std::string_view text) {
     const std::string_view typed = trimmed(text);
     const auto time = parseTypedTime(typed);
     texts_.at(position) = time ? timeText(*time) : std::string(typed);
+}
+
+std::optional<std::string> TypedSchedule::firstFinding() const {
+    for (std::size_t position = 0; position < kScheduleTimes; ++position)
+        if (std::string finding = findingAt(position); !finding.empty()) return finding;
+    return std::nullopt;
 }
 
 std::string TypedSchedule::findingAt(std::size_t position) const {
@@ -30,8 +45,11 @@ bool TypedSchedule::hasSaturdayTimes() const {
 
 StandardSchedule TypedSchedule::schedule() const {
     StandardSchedule schedule = recorded_;
-    for (std::size_t position = 0; position < kScheduleTimes; ++position)
+    for (std::size_t position = 0; position < kScheduleTimes; ++position) {
+        if (texts_[position] == recordedText(recorded_, position)) continue;
         timeAt(schedule, position) = parseTypedTime(texts_[position]);
+        schedule.unread[position].clear();
+    }
     return schedule;
 }
 

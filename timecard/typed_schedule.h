@@ -3,6 +3,7 @@
 #include "timecard/standard_schedule.h"
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,8 +19,10 @@ class TypedSchedule {
     [[nodiscard]] const std::string& text(std::size_t position) const { return texts_[position]; }
     /// Takes what was typed, brought to "hh:mm" when it is a time.
     void type(std::size_t position, std::string_view text);
-    /// Why a time as typed cannot be recorded, in one sentence; empty when it can.
+    /// Why a time, as typed or as recorded, is none, in one sentence; empty when it is one.
     [[nodiscard]] std::string findingAt(std::size_t position) const;
+
+    [[nodiscard]] std::optional<std::string> firstFinding() const;
 
     [[nodiscard]] bool hasSaturdayTimes() const;
     [[nodiscard]] bool saturdayIsNormal() const { return recorded_.saturdayIsNormal; }

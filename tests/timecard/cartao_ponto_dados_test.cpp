@@ -116,6 +116,23 @@ TEST_F(CardScreen, AnInvalidScheduleTimeIsRefused) {
     EXPECT_EQ(screen.schedule().text(1), "25:00");
 }
 
+TEST_F(CardScreen, ARecordedTimeThatIsNoneIsShownAndNeverLost) {
+    const std::string damaged = "08:0012h0013:0017:0000" + std::string(170, ' ') + "\r\n";
+    desk.file(kSchedule) = damaged;
+    openOn(0);
+    EXPECT_EQ(screen.schedule().text(1), "12h00");
+    EXPECT_FALSE(screen.changed());
+    desk.person.answers = {Answer::Yes};
+    for (const bool done : {screen.saveSchedule(), screen.applyPunches()}) {
+        EXPECT_FALSE(done);
+        EXPECT_EQ(desk.person.shown.back().detail, "\"12h00\" não é uma hora de 00:00 a 23:59.");
+    }
+    EXPECT_EQ(desk.file(kSchedule), damaged);
+    screen.schedule().type(1, "");
+    EXPECT_TRUE(screen.saveSchedule());
+    EXPECT_EQ(desk.file(kSchedule).substr(0, 15), "08:00     13:00");
+}
+
 TEST_F(CardScreen, ApplicationFillsTheMonth) {
     openOn(0);
     typeSchedule({"8", "12", "13", "17"});

@@ -85,12 +85,28 @@ TEST(PunchRecord, DamagedRecordGivesEveryDayAndKeepsWhatItDoesNotKnow) {
     EXPECT_EQ((*lines)[4].morningEntry, "08:0");
     EXPECT_EQ((*lines)[30].label, "31/dom/mar");
 
+    EXPECT_THAT(unreadPunchLines(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 3),
+                ::testing::ElementsAre("anotação de alguém", "01/sex/mar07:00"));
+
     savePunches(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 3, *lines);
     const auto written = splitLines(desk.file(kName));
     ASSERT_EQ(written.size(), 34U);
     EXPECT_EQ(written[32], "anota\xE7\xE3o de algu\xE9m");
     EXPECT_EQ(written[33], "01/sex/mar07:00");
     EXPECT_EQ(loadPunches(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 3), lines);
+}
+
+TEST(PunchRecord, ADayWithStrangeBytesDoesNotKeepTheOthersFromBeingSaved) {
+    TestWorkplace desk;
+    const std::string strange =
+        "02/sab/mar\x01\x81:00      \t" + std::string(37, ' ') + "further\x8D";
+    desk.file(kName) = "  \r\n" + strange + "\r\n";
+    auto lines = *loadPunches(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 3);
+    lines[4].morningEntry = "08:00";
+    savePunches(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 3, lines);
+    const auto written = splitLines(desk.file(kName));
+    EXPECT_EQ(written[2], strange);
+    EXPECT_THAT(written[5], ::testing::StartsWith("05/ter/mar08:00"));
 }
 
 TEST(PunchRecord, ADayPastTheMonthsEndIsNoDay) {

@@ -44,6 +44,20 @@ TEST(StandardSchedule, ShortAndDamagedLinesGiveWhatTheyHold) {
     EXPECT_FALSE(damaged.saturdayIsNormal);
 }
 
+TEST(StandardSchedule, WhatIsNoTimeStaysUntilATimeIsPutThere) {
+    std::string line = sampleLine();
+    line.replace(5, 5, "12h\x81 ").replace(20, 1, "S").replace(22, 5, " 8:00");
+    StandardSchedule schedule = decodeSchedule(line);
+    EXPECT_FALSE(schedule.weekday.morning.exit);
+    EXPECT_EQ(encode(schedule, line), line);
+    EXPECT_EQ(decodeSchedule(encode(schedule)), schedule);
+
+    schedule.secondFlag = true;
+    schedule.weekday.morning.exit = parseTime("12:15");
+    line.replace(5, 5, "12:15").replace(21, 1, "1");
+    EXPECT_EQ(encode(schedule, line), line);
+}
+
 TEST(StandardSchedule, SavingReplacesTheFirstLineOnly) {
     TestWorkplace desk;
     EXPECT_FALSE(loadSchedule(desk.files, desk.session.folder, kCompany, kEmployee));
