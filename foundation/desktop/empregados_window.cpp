@@ -45,6 +45,10 @@ EmpregadosWindow::EmpregadosWindow(Empregados& empregados, QWidget* parent)
 std::vector<RegisterList::Row> EmpregadosWindow::rows() const {
     std::vector<RegisterList::Row> rows;
     for (const EmployeeLine& line : empregados_.lines()) {
+        if (!line.code()) {
+            rows.push_back(RegisterList::unreadRow(line.bytes));
+            continue;
+        }
         const Employee& employee = line.employee;
         const QString status = employee.status.empty()
                                    ? QString()
@@ -70,14 +74,17 @@ void EmpregadosWindow::showRecord(std::optional<std::size_t> position) {
 void EmpregadosWindow::showCounts() {
     const auto& lines = empregados_.lines();
     const auto inactive = std::count_if(lines.begin(), lines.end(), [](const EmployeeLine& line) {
-        return !line.employee.status.empty();
+        return line.code() && !line.employee.status.empty();
     });
-    const auto active = static_cast<std::ptrdiff_t>(lines.size()) - inactive;
+    const auto unread = std::count_if(lines.begin(), lines.end(),
+                                      [](const EmployeeLine& line) { return !line.code(); });
+    const auto active = static_cast<std::ptrdiff_t>(lines.size()) - inactive - unread;
     if (lines.empty())
         setSubtitle(QStringLiteral("nenhum funcionário"));
     else
         setSubtitle(counted(active, QStringLiteral("ativo")) + QStringLiteral(", ") +
-                    counted(inactive, QStringLiteral("inativo")));
+                    counted(inactive, QStringLiteral("inativo")) +
+                    RegisterList::unreadCount(unread));
 }
 
 bool EmpregadosWindow::isDirty() const {

@@ -8,6 +8,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace winvrx {
 
 EmpresaWindow::EmpresaWindow(Empresa& empresa, QWidget* parent)
@@ -50,6 +52,10 @@ QWidget* EmpresaWindow::buildOptions() {
 std::vector<RegisterList::Row> EmpresaWindow::rows() const {
     std::vector<RegisterList::Row> rows;
     for (const CompanyLine& line : empresa_.lines()) {
+        if (!line.code()) {
+            rows.push_back(RegisterList::unreadRow(line.bytes));
+            continue;
+        }
         const QString code = toQt(line.company.code);
         const QString name = toQt(line.company.name);
         rows.push_back({{code, name}, code + QLatin1Char(' ') + name});
@@ -64,9 +70,18 @@ void EmpresaWindow::showRecord(std::optional<std::size_t> position) {
     else if (const auto code = empresa_.proposedCode())
         company.code = code->text();
     form_->showCompany(company);
-    const std::size_t count = empresa_.lines().size();
-    setSubtitle(count == 1 ? QStringLiteral("1 empresa")
-                           : QStringLiteral("%1 empresas").arg(count));
+    showCounts();
+}
+
+void EmpresaWindow::showCounts() {
+    const auto& lines = empresa_.lines();
+    const auto companies = std::count_if(lines.begin(), lines.end(), [](const CompanyLine& line) {
+        return line.code().has_value();
+    });
+    const auto unread = static_cast<std::ptrdiff_t>(lines.size()) - companies;
+    setSubtitle((companies == 1 ? QStringLiteral("1 empresa")
+                                : QStringLiteral("%1 empresas").arg(companies)) +
+                RegisterList::unreadCount(unread));
 }
 
 bool EmpresaWindow::isDirty() const {

@@ -29,6 +29,7 @@ class EmpresaWindow : public RegisterWindow {
 
   private:
     [[nodiscard]] QWidget* buildOptions();
+    void showCounts();
 
     Empresa& empresa_;
     CompanyForm* form_;

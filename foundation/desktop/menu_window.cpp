@@ -4,6 +4,7 @@
 #include "foundation/desktop/look.h"
 #include "foundation/desktop/month_view.h"
 #include "foundation/desktop/qt_text.h"
+#include "foundation/desktop/register_list.h"
 #include "foundation/desktop/search_box.h"
 #include "foundation/text.h"
 
@@ -264,11 +265,11 @@ void MenuWindow::fillCompanies() {
     companies_->clear();
     for (const CompanyLine& line : menu_.companies()) {
         auto* item = new QListWidgetItem(toQt(line.company.code + "  " + line.company.name));
-        item->setToolTip(item->text());
         if (!line.code()) {
+            item->setText(RegisterList::unreadRow(line.bytes).cells.join(QLatin1Char(' ')));
             item->setFlags(Qt::NoItemFlags);
-            item->setToolTip(QStringLiteral("Linha do cadastro que não pôde ser entendida."));
         }
+        item->setToolTip(item->text());
         companies_->addItem(item);
         if (menu_.selected() == &line) companies_->setCurrentItem(item);
     }

@@ -19,6 +19,7 @@ namespace winvrx {
 namespace {
 
 constexpr int kSearchedRole = Qt::UserRole;
+constexpr int kUnderstoodRole = Qt::UserRole + 1;
 constexpr int kFewestRows = 3;
 
 }  // namespace
@@ -86,20 +87,42 @@ void RegisterList::setEmptyTexts(const QString& text, const QString& action) {
     filter();
 }
 
+RegisterList::Row RegisterList::unreadRow(std::string_view lineBytes) {
+    const QString shown = toQt(readableText(lineBytes));
+    const QString text = shown.isEmpty() ? QStringLiteral("Linha em branco")
+                                         : QStringLiteral("Linha não entendida: ") + shown;
+    return {{QStringLiteral("⚠"), text}, text, false};
+}
+
+QString RegisterList::unreadCount(std::ptrdiff_t lines) {
+    if (lines == 0) return {};
+    return lines == 1 ? QStringLiteral(", 1 linha não entendida")
+                      : QStringLiteral(", %1 linhas não entendidas").arg(lines);
+}
+
 void RegisterList::setRows(const std::vector<Row>& rows) {
     const QSignalBlocker quiet(tree_);
     tree_->clear();
     for (const Row& row : rows) {
         auto* item = new QTreeWidgetItem(tree_, row.cells);
         item->setData(0, kSearchedRole, row.searched);
-        for (int cell = 0; cell < row.cells.size(); ++cell)
+        item->setData(0, kUnderstoodRole, row.understood);
+        for (int cell = 0; cell < row.cells.size(); ++cell) {
             item->setToolTip(cell, row.cells[cell]);
+            if (!row.understood)
+                item->setForeground(cell, look::color(look::Tint::Quiet, palette()));
+        }
     }
     filter();
 }
 
 std::size_t RegisterList::count() const {
     return static_cast<std::size_t>(tree_->topLevelItemCount());
+}
+
+bool RegisterList::isUnderstood(std::size_t position) const {
+    const QTreeWidgetItem* item = tree_->topLevelItem(static_cast<int>(position));
+    return item && item->data(0, kUnderstoodRole).toBool();
 }
 
 void RegisterList::mark(std::optional<std::size_t> position) {

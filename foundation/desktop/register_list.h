@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include <optional>
+#include <string_view>
 #include <vector>
 
 class QLabel;
@@ -24,8 +25,14 @@ class RegisterList : public QWidget {
   public:
     struct Row {
         QStringList cells;
-        QString searched;  ///< the text that the search looks into
+        QString searched;        ///< the text that the search looks into
+        bool understood = true;  ///< false: shown apart, it cannot be changed
     };
+
+    /// The row of a line that nobody understands, with what can be shown of it.
+    [[nodiscard]] static Row unreadRow(std::string_view lineBytes);
+    /// ", 2 linhas não entendidas", to stand behind a count of records; empty for none.
+    [[nodiscard]] static QString unreadCount(std::ptrdiff_t lines);
 
     /// `screen` is the prefix of the object names: "empresa.list", "empresa.search".
     RegisterList(const QString& screen, const QString& title, const QString& searchHint,
@@ -36,6 +43,7 @@ class RegisterList : public QWidget {
 
     void setRows(const std::vector<Row>& rows);
     [[nodiscard]] std::size_t count() const;
+    [[nodiscard]] bool isUnderstood(std::size_t position) const;
     /// Marks the row without emitting chosen(); nullopt marks none.
     void mark(std::optional<std::size_t> position);
     /// Moves by so many of the rows that the search shows.

@@ -89,7 +89,7 @@ void RegisterWindow::turnTo(std::optional<std::size_t> position) {
     current_ = position;
     list_->mark(position);
     showRecord(position);
-    change_->setEnabled(position.has_value());
+    change_->setEnabled(position && list_->isUnderstood(*position));
     remove_->setEnabled(position.has_value());
     showState();
 }
@@ -97,6 +97,8 @@ void RegisterWindow::turnTo(std::optional<std::size_t> position) {
 void RegisterWindow::showState() {
     QString text = newRecordTitle();
     if (current_) text = QStringLiteral("%1 de %2").arg(*current_ + 1).arg(list_->count());
+    if (current_ && !list_->isUnderstood(*current_))
+        text += QStringLiteral(" · Linha não entendida: fica no arquivo como está");
     if (isDirty()) text += QStringLiteral(" · Alterações não gravadas");
     setState(text);
 }

@@ -176,7 +176,10 @@ QWidget* CartaoPontoDadosWindow::buildEntryMode() {
     auto* tab = new QRadioButton(QStringLiteral("Usar Tecla TA&BE"), widget);
     tab->setObjectName(QStringLiteral("card.useTab"));
     enter->setChecked(true);
-    row->addStretch();
+    unread_ = look::label(QString(), look::TextSize::Hint, widget);
+    unread_->setObjectName(QStringLiteral("card.unread"));
+    unread_->setWordWrap(true);
+    row->addWidget(unread_, 1);
     row->addWidget(enter);
     row->addWidget(tab);
     connect(tab, &QRadioButton::toggled, this, [this](bool on) {
@@ -293,8 +296,25 @@ void CartaoPontoDadosWindow::showCard() {
         widgets.grid->setCurrentIndex(widgets.model->index(at.row(), at.column()));
     }
     apply_->setEnabled(command_.selected() != nullptr);
+    showUnread();
     layOutHalves();
     showState();
+}
+
+void CartaoPontoDadosWindow::showUnread() {
+    const auto& lines = command_.unreadLines();
+    QStringList texts;
+    for (const std::string& line : lines)
+        texts << toQt(line);
+    unread_->setToolTip(texts.join(QLatin1Char('\n')));
+    if (lines.empty())
+        unread_->clear();
+    else if (lines.size() == 1)
+        unread_->setText(QStringLiteral("⚠ Linha não entendida, mantida no registro: ") + texts[0]);
+    else
+        unread_->setText(QStringLiteral("⚠ %1 linhas não entendidas, mantidas no registro: %2 …")
+                             .arg(lines.size())
+                             .arg(texts[0]));
 }
 
 void CartaoPontoDadosWindow::showState() {
@@ -302,9 +322,9 @@ void CartaoPontoDadosWindow::showState() {
         half(one).heading->setText(nameOf(one) + QStringLiteral("  ·  ") +
                                    toQt(command_.totalOf(one)));
     const PunchGrid* grid = half(shown_).grid;
-    const QString finding = grid->punches()->findingAt(grid->currentIndex());
-    if (!finding.isEmpty())
-        setState(QStringLiteral("⚠ ") + finding);
+    const QString notice = grid->punches()->noticeAt(grid->currentIndex());
+    if (!notice.isEmpty())
+        setState(QStringLiteral("⚠ ") + notice);
     else if (command_.changed())
         setState(QStringLiteral("Alterações não gravadas"));
     else if (command_.selected() && !command_.applied())

@@ -69,6 +69,7 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     void stepEmployee(int step);
     void showCard();
     void showState();
+    void showUnread();
     void commitEditors();
     void apply();
     void save();
@@ -80,6 +81,7 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     SearchBox* search_ = nullptr;
     QListWidget* list_ = nullptr;
     QLabel* emptyHint_ = nullptr;
+    QLabel* unread_ = nullptr;
     SchedulePanel* schedule_ = nullptr;
     std::array<HalfWidgets, 2> halves_{};
     QToolButton* otherHalf_ = nullptr;

@@ -77,9 +77,9 @@ QString PunchModel::textOf(const QModelIndex& index) const {
     return toQt(command_.sheet().text(day, *cellOf(index.column())));
 }
 
-QString PunchModel::findingAt(const QModelIndex& index) const {
+QString PunchModel::noticeAt(const QModelIndex& index) const {
     const auto cell = index.isValid() ? cellOf(index.column()) : std::nullopt;
-    return cell ? toQt(command_.sheet().findingAt(dayOf(index), *cell)) : QString();
+    return cell ? toQt(command_.sheet().noticeAt(dayOf(index), *cell)) : QString();
 }
 
 QString PunchModel::spokenNameOf(const QModelIndex& index) const {
@@ -91,7 +91,7 @@ QString PunchModel::spokenNameOf(const QModelIndex& index) const {
 
 QVariant PunchModel::foregroundOf(const QModelIndex& index) const {
     const QPalette palette = QApplication::palette();
-    if (!findingAt(index).isEmpty()) return look::color(look::Tint::Warning, palette);
+    if (!noticeAt(index).isEmpty()) return look::color(look::Tint::Warning, palette);
     const auto tint = tintOf(command_.kindOf(dayOf(index)));
     if (tint && (index.column() == Day || index.column() == Situation))
         return look::color(*tint, palette);
@@ -104,13 +104,13 @@ QVariant PunchModel::data(const QModelIndex& index, int role) const {
     switch (role) {
         case Qt::DisplayRole: {
             const QString text = textOf(index);
-            if (!findingAt(index).isEmpty()) return QString(QStringLiteral("⚠ ") + text);
+            if (!noticeAt(index).isEmpty()) return QString(QStringLiteral("⚠ ") + text);
             return index.column() == Situation && text.isEmpty() ? calendarWord(kind) : text;
         }
         case Qt::EditRole:
             return textOf(index);
         case Qt::ToolTipRole:
-            return findingAt(index);
+            return noticeAt(index);
         case Qt::AccessibleTextRole:
             return spokenNameOf(index);
         case Qt::FontRole:

@@ -27,8 +27,8 @@ class PunchModel : public QAbstractTableModel {
     [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
-    /// Why the cell cannot be recorded as it stands; empty when it can.
-    [[nodiscard]] QString findingAt(const QModelIndex& index) const;
+    /// What is wrong with the cell; empty when nothing is.
+    [[nodiscard]] QString noticeAt(const QModelIndex& index) const;
 
   signals:
     void edited();
