@@ -27,11 +27,15 @@ char32_t nextCodePoint(std::string_view utf8, std::size_t& position) {
     if (lead < 0x80) return lead;
     const int following = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0xC2 ? 1 : -1;
     if (following < 0 || lead > 0xF4) return kInvalid;
+    static constexpr std::array<char32_t, 4> kLowest = {0, 0x80, 0x800, 0x10000};
     char32_t value = lead & (0x3FU >> following);
     for (int i = 0; i < following; ++i) {
         if (position >= utf8.size() || !isContinuation(utf8[position])) return kInvalid;
         value = (value << 6U) | (static_cast<unsigned char>(utf8[position++]) & 0x3FU);
     }
+    const bool surrogate = value >= 0xD800 && value <= 0xDFFF;
+    if (value < kLowest[static_cast<std::size_t>(following)] || value > 0x10FFFF || surrogate)
+        return kInvalid;
     return value;
 }
 

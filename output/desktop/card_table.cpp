@@ -31,6 +31,15 @@ class TableFault : public Fault {
     bool damaged_;
 };
 
+/// A link could lead the cards to another folder's table, and a pipe would never answer.
+void requirePlainFile(const std::filesystem::path& file) {
+    const auto type = std::filesystem::symlink_status(file).type();
+    if (type != std::filesystem::file_type::not_found &&
+        type != std::filesystem::file_type::regular)
+        throw Fault(file.string() + ": not a plain file",
+                    "O arquivo " + file.filename().string() + " não pôde ser usado.");
+}
+
 QString places(std::size_t count) {
     return QStringList(static_cast<qsizetype>(count), QStringLiteral("?")).join(u',');
 }
@@ -66,6 +75,7 @@ CardTable::CardTable(std::filesystem::path database, DrawnColumns drawn)
     : path_(std::move(database)),
       drawn_(std::move(drawn)),
       connection_(QStringLiteral("cards-") + QUuid::createUuid().toString(QUuid::WithoutBraces)) {
+    requirePlainFile(path_);
     try {
         openOrReplace();
     } catch (...) {

@@ -34,9 +34,8 @@ void collect(const LayoutText& text, std::vector<std::size_t>& columns) {
 }
 
 void makeUnique(std::vector<std::size_t>& columns) {
-    std::ranges::sort(columns);
-    const auto repeated = std::ranges::unique(columns);
-    columns.erase(repeated.begin(), repeated.end());
+    std::sort(columns.begin(), columns.end());
+    columns.erase(std::unique(columns.begin(), columns.end()), columns.end());
 }
 
 }  // namespace

@@ -19,6 +19,11 @@ const QString kSvgNamespace = QStringLiteral("http://www.w3.org/2000/svg");
 const QStringList kSilentElements = {QStringLiteral("metadata"), QStringLiteral("title"),
                                      QStringLiteral("desc"), QStringLiteral("defs")};
 
+constexpr double kNarrowestPage = 1;  // millimetres
+constexpr double kWidestPage = 2000;
+constexpr double kCoarsestScale = 1e4;
+constexpr double kLargestLetter = 1e5;  // a metre
+
 /// What an element hands down to those inside it.
 struct Context {
     QPointF origin;
@@ -68,8 +73,8 @@ class LayoutReader {
     }
 
     void readPage(const ElementValues& values, Context& context) {
-        const double width = values.requiredMillimetres(QStringLiteral("width"));
-        const double height = values.requiredMillimetres(QStringLiteral("height"));
+        const double width = pageLength(values, QStringLiteral("width"));
+        const double height = pageLength(values, QStringLiteral("height"));
         const auto box = numberList(values.text(QStringLiteral("viewBox")).value_or(QString()));
         if (box.size() != 4 || box[2] <= 0 || box[3] <= 0)
             throw BadValue(QStringLiteral("viewBox is missing or not four numbers"));
@@ -78,12 +83,30 @@ class LayoutReader {
             throw BadValue(QStringLiteral("viewBox has not the proportions of width and height"));
         layout_.page = QSizeF(width, height);
         scale_ = width * kLayoutUnitsPerMillimetre / box[2];
+        if (scale_ > kCoarsestScale)
+            throw BadValue(QStringLiteral("viewBox is too small for width and height"));
         context.origin = QPointF(-box[0], -box[1]) * scale_;
         if (const auto pitch = values.number(QStringLiteral("data-pitch")))
             layout_.rowPitch = positive(*pitch, QStringLiteral("data-pitch")) * scale_;
     }
 
+    static double pageLength(const ElementValues& values, const QString& name) {
+        const double length = values.requiredMillimetres(name);
+        if (length < kNarrowestPage || length > kWidestPage)
+            throw BadValue(QStringLiteral("%1 is not from %2mm to %3mm")
+                               .arg(name)
+                               .arg(kNarrowestPage)
+                               .arg(kWidestPage));
+        return length;
+    }
+
     void readChildren(const Context& context) {
+        if (++depth_ > kDeepestGroup) throw BadValue(QStringLiteral("groups nested too deep"));
+        readChildrenOf(context);
+        --depth_;
+    }
+
+    void readChildrenOf(const Context& context) {
         while (xml_.readNextStartElement()) {
             const QStringView name = xml_.name();
             const bool foreign =
@@ -213,16 +236,22 @@ class LayoutReader {
 
     std::size_t inkOf(const Context& context) {
         if (context.fontSize <= 0) throw BadValue(QStringLiteral("font-size is missing"));
-        const Ink ink{context.families, std::max(1, qRound(context.fontSize * scale_)),
-                      context.fontWeight, context.italic, context.fill};
+        const double size = context.fontSize * scale_;
+        if (size > kLargestLetter) throw BadValue(QStringLiteral("font-size is too large"));
+        const Ink ink{context.families, std::max(1, qRound(size)), context.fontWeight,
+                      context.italic, context.fill};
         const auto found = std::ranges::find(layout_.inks, ink);
         if (found != layout_.inks.end())
             return static_cast<std::size_t>(found - layout_.inks.begin());
+        if (layout_.inks.size() == kMostInks)
+            throw BadValue(QStringLiteral("more than %1 fonts and colours").arg(kMostInks));
         layout_.inks.push_back(ink);
         return layout_.inks.size() - 1;
     }
 
     void add(LayoutMark mark, const Context& context) {
+        if (++marks_ > kMostMarks)
+            throw BadValue(QStringLiteral("more than %1 elements").arg(kMostMarks));
         auto& sections = layout_.sections;
         if (sections.empty() || sections.back().block != context.block ||
             sections.back().rows != context.rows || sections.back().pitch != context.pitch)
@@ -234,11 +263,15 @@ class LayoutReader {
     const std::string& name_;
     Layout layout_;
     double scale_ = 1;
+    int depth_ = 0;
+    std::size_t marks_ = 0;
 };
 
 }  // namespace
 
 Layout readLayout(QIODevice& file, const std::string& name) {
+    if (file.size() > kLargestLayout)
+        throw LayoutFault(name, "larger than " + std::to_string(kLargestLayout >> 20) + " MB");
     return LayoutReader(file, name).read();
 }
 

@@ -9,11 +9,15 @@ namespace winvrx {
 
 namespace {
 
+constexpr double kGreatestNumber = 1e6;
+
 double toNumber(const QString& text, const QString& name) {
     bool valid = false;
     const double number = text.toDouble(&valid);
     if (!valid || !std::isfinite(number))
         throw BadValue(QStringLiteral("%1=\"%2\" is not a number").arg(name, text));
+    if (std::abs(number) > kGreatestNumber)
+        throw BadValue(QStringLiteral("%1=\"%2\" is too large").arg(name, text));
     return number;
 }
 

@@ -25,6 +25,14 @@ QByteArray sheet(const QByteArray& body) {
            body + "</svg>";
 }
 
+/// A text in each of 201 sizes.
+QByteArray manyInks() {
+    QByteArray texts;
+    for (int size = 1; size <= 201; ++size)
+        texts += "<text x='1' y='1' font-size='" + QByteArray::number(size) + "'>a</text>";
+    return texts;
+}
+
 TEST(LayoutReader, NamesTheLineOfADamage) {
     struct Case {
         const char* what;
@@ -79,6 +87,30 @@ TEST(LayoutReader, NamesTheLineOfADamage) {
          "card.rpt:2: ", "centre"},
         {"bad weight", sheet("<text x='1' y='2' font-weight='fat'>a</text>"),
          "card.rpt:2: ", "fat"},
+        {"number past all paper", sheet("<line x1='1e7' y1='2' x2='3' y2='4'/>"),
+         "card.rpt:2: ", "too large"},
+        {"page of nothing", "<svg width='1e-300mm' height='1e-300mm' viewBox='0 0 1 1'/>",
+         "card.rpt:1: ", "width"},
+        {"page of a field", "<svg width='9000mm' height='1mm' viewBox='0 0 9000 1'/>",
+         "card.rpt:1: ", "width"},
+        {"viewBox of nothing", "<svg width='10mm' height='10mm' viewBox='0 0 1e-9 1e-9'/>",
+         "card.rpt:1: ", "viewBox"},
+        {"letters of a field", sheet("<text x='1' y='2' font-size='1e6'>a</text>"),
+         "card.rpt:2: ", "font-size"},
+        {"groups without end", sheet(QByteArray("<g>").repeated(200'000)), "card.rpt:2: ", "deep"},
+        {"marks without end",
+         sheet(QByteArray("<line x1='1' y1='1' x2='1' y2='1'/>").repeated(20'001)),
+         "card.rpt:2: ", "20000 elements"},
+        {"inks without end", sheet(manyInks()), "card.rpt:2: ", "200 fonts"},
+        {"4 MB", sheet(QByteArray(4 << 20, ' ')), "card.rpt: ", "4 MB"},
+        {"entities in entities",
+         "<!DOCTYPE svg [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;'>"
+         "<!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'><!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;'>]>" +
+             sheet("<text x='1' y='2'>&d;</text>"),
+         "card.rpt:", ""},
+        {"NUL", sheet(QByteArray(1, '\0')), "card.rpt:2: ", ""},
+        {"Windows-1252 where UTF-8 is due", sheet("<text x='1' y='2'>\xC7\xC3O</text>"),
+         "card.rpt:2: ", ""},
         {"what cannot be drawn", sheet("\n<path d='M 0 0'/>"), "card.rpt:3: ", "<path>"},
         {"lines in a text", sheet("<text x='1' y='2'><tspan>a</tspan><tspan>b</tspan></text>"),
          "card.rpt:2: ", "several lines"},
