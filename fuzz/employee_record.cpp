@@ -1,0 +1,37 @@
+#include "foundation/employee_register.h"
+#include "foundation/faults.h"
+#include "fuzz/invariant.h"
+
+using namespace winvrx;
+using fuzz::require;
+
+namespace {
+
+void checkLine(const EmployeeLine& line) {
+    require(encode(line.employee, line.bytes) == fuzz::widened(line.bytes, kEmployeeWidth),
+            "an unchanged employee keeps its bytes");
+    if (const auto code = line.code()) fuzz::requireInside(*code);
+    try {
+        require(decodeEmployee(encode(line.employee)) == line.employee, "an employee comes back");
+    } catch (const TextFault&) {
+        // A control character in the file cannot be typed into a new line.
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    testing::MemoryFiles files;
+    const auto file = fuzz::kFolder.companyFile(fuzz::kCompany, kEmployeeListStem);
+    files.content[file] = fuzz::textOf(data, size);
+    const auto before = splitLines(files.content[file]);
+    EmployeeRegister employees(files, fuzz::kFolder, fuzz::kCompany);
+    const auto lines = employees.load();
+    for (const EmployeeLine& line : lines)
+        checkLine(line);
+    employees.save(lines, {*parseDate("15/03/2024"), *parseTime("10:20")});
+    require(splitLines(files.content[file]) == before, "every line is kept");
+    const auto copy = fuzz::kFolder.file("bk-0115-03-2024-10-00.bkp");
+    require(files.content[copy] == fuzz::textOf(data, size), "the hourly copy is the list before");
+    return 0;
+}

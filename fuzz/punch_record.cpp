@@ -1,0 +1,57 @@
+#include "timecard/punch_record.h"
+#include "foundation/faults.h"
+#include "fuzz/invariant.h"
+
+#include <algorithm>
+
+using namespace winvrx;
+using namespace std::chrono_literals;
+using fuzz::require;
+
+namespace {
+
+constexpr WorkMonth kMonth = 2024y / 3;
+
+void checkLine(const std::string& bytes) {
+    const PunchLine line = decodePunchLine(bytes);
+    require(encode(line, bytes) == fuzz::widened(bytes, kPunchWidth),
+            "an unchanged day keeps its bytes");
+    try {
+        require(decodePunchLine(encode(line)) == line, "a day comes back");
+    } catch (const TextFault&) {
+        // A control character in the file cannot be typed into a new line.
+    }
+}
+
+bool isKept(const std::string& line, const std::vector<std::string>& written) {
+    return trimmed(line).empty() || std::ranges::count(written, line) > 0 ||
+           std::ranges::count(written, fuzz::widened(line, kPunchWidth)) > 0;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    testing::MemoryFiles files;
+    const auto name = punchFileName(fuzz::kCompany, fuzz::kEmployee, kMonth);
+    std::string& file = files.content[fuzz::kFolder.file(name)];
+    file = fuzz::textOf(data, size);
+    const auto before = splitLines(file);
+    for (const std::string& line : before)
+        checkLine(line);
+
+    const auto load = [&] {
+        return loadPunches(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee, kMonth).value();
+    };
+    const auto unread = [&] {
+        return unreadPunchLines(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee, kMonth);
+    };
+    const auto days = load();
+    const auto unreadBefore = unread();
+    savePunches(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee, kMonth, days);
+    const auto written = splitLines(file);
+    for (const std::string& line : before)
+        require(isKept(line, written), "every line is kept");
+    require(written.size() == 1 + days.size() + unreadBefore.size(), "no line is doubled");
+    require(load() == days && unread() == unreadBefore, "a record comes back");
+    return 0;
+}

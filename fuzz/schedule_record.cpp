@@ -1,0 +1,44 @@
+#include "fuzz/invariant.h"
+#include "timecard/typed_schedule.h"
+
+using namespace winvrx;
+using fuzz::require;
+
+namespace {
+
+constexpr std::size_t kFirstFlag = 20;
+constexpr std::size_t kOpaqueWidth = 150;
+
+/// A line as it is written when nothing was changed: full width, blank flags as 0.
+std::string unchanged(std::string line) {
+    line = fuzz::widened(std::move(line), kScheduleWidth);
+    for (const std::size_t flag : {kFirstFlag, kFirstFlag + 1})
+        if (line[flag] == ' ') line[flag] = '0';
+    return line;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    testing::MemoryFiles files;
+    std::string& file = files.content["/data/01PadrHor001.pdx"];
+    file = fuzz::textOf(data, size);
+    auto lines = splitLines(file);
+    auto schedule = loadSchedule(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee);
+    require(schedule.has_value() != lines.empty(), "a schedule is the first line");
+    if (!schedule) return 0;
+
+    saveSchedule(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee, *schedule);
+    lines.front() = unchanged(lines.front());
+    require(splitLines(file) == lines, "an unchanged schedule keeps its bytes");
+    schedule->opaque = fuzz::widened(std::move(schedule->opaque), kOpaqueWidth);
+    require(decodeSchedule(encode(*schedule)) == *schedule, "a schedule comes back");
+
+    TypedSchedule typed(*schedule);
+    require(!typed.changed() && typed.schedule() == *schedule, "showing changes nothing");
+    typed.type(1, "12:15");
+    saveSchedule(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee, typed.schedule());
+    require(loadSchedule(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee) == typed.schedule(),
+            "a change comes back");
+    return 0;
+}
