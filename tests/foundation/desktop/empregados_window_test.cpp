@@ -213,5 +213,27 @@ TEST_F(EmpregadosWindowTest, TheCodeOfARecordedEmployeeIsFixed) {
     EXPECT_EQ(screen_->text("empregados.code"), "123");
 }
 
+TEST_F(EmpregadosWindowTest, ALineThatIsNotUnderstoodIsShownAndKept) {
+    const std::string damaged = "\x81 rasgada\r\n\r\n" + encode(employee("002", "BIA")) + "\r\n";
+    desk_.file("01CartaPonto") = damaged;
+    open();
+    const auto& list = screen_->find<QTreeWidget>("empregados.list");
+    EXPECT_EQ(list.topLevelItem(0)->text(1).toStdString(), "Linha não entendida: · rasgada");
+    EXPECT_EQ(list.topLevelItem(1)->text(1).toStdString(), "Linha em branco");
+    EXPECT_EQ(list.topLevelItem(2)->text(1).toStdString(), "BIA");
+    EXPECT_EQ(screen_->find<QLabel>("subtitle").text().toStdString(),
+              "1 ativo, 0 inativos, 2 linhas não entendidas");
+    EXPECT_THAT(screen_->state(), HasSubstr("Linha não entendida"));
+    EXPECT_FALSE(screen_->find("empregados.change").isEnabled());
+    screen_->press(Qt::Key_PageDown);
+    screen_->press(Qt::Key_PageDown);
+    EXPECT_TRUE(screen_->find("empregados.change").isEnabled());
+    screen_->type("empregados.name", "BIA MARIA");
+    desk_.person.answers = {Answer::Yes};
+    screen_->press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(desk_.file("01CartaPonto").substr(0, 15), damaged.substr(0, 15));
+    EXPECT_THAT(desk_.file("01CartaPonto"), HasSubstr("002 BIA MARIA"));
+}
+
 }  // namespace
 }  // namespace winvrx

@@ -6,6 +6,7 @@
 #include "tests/support/window_driver.h"
 
 #include <QRadioButton>
+#include <QTreeWidget>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -169,6 +170,27 @@ TEST_F(EmpresaWindowTest, TypedTextIsAskedAboutBeforeItIsLeft) {
 TEST_F(EmpresaWindowTest, HelpOpens) {
     screen_.press(Qt::Key_F1);
     EXPECT_EQ(browser_.opened, 1);
+}
+
+TEST_F(EmpresaWindowTest, ALineThatIsNotUnderstoodIsShownAndCanOnlyBeDeleted) {
+    file() += "XX rasgada\r\n";
+    const std::string damaged = file();
+    EmpresaWindow window(empresa_);
+    const WindowDriver screen(window);
+    const auto& list = screen.find<QTreeWidget>("empresa.list");
+    EXPECT_EQ(list.topLevelItem(1)->text(1).toStdString(), "Linha não entendida: XX rasgada");
+    EXPECT_EQ(screen.find<QLabel>("subtitle").text().toStdString(),
+              "1 empresa, 1 linha não entendida");
+    screen.press(Qt::Key_PageDown);
+    EXPECT_THAT(screen.state(), HasSubstr("Linha não entendida"));
+    EXPECT_FALSE(screen.find("empresa.change").isEnabled());
+    screen.type("empresa.name", "X");
+    desk_.person.answers = {Answer::Yes};
+    screen.press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(file(), damaged);
+    desk_.person.answers = {Answer::Yes, Answer::Yes};
+    screen.find<QToolButton>("empresa.delete").click();
+    EXPECT_EQ(file(), damaged.substr(0, 551));
 }
 
 }  // namespace

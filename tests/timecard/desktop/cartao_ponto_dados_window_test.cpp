@@ -192,5 +192,21 @@ TEST_F(CardWindow, EveryWidgetHasAName) {
     EXPECT_THAT(driven->namelessWidgets(), ::testing::IsEmpty());
 }
 
+TEST_F(CardWindow, WhatIsNotUnderstoodIsShownAndKept) {
+    const std::string damaged =
+        "  \r\n01/sex/marfolga12:00\r\nanota\xE7\xE3o\r\n01/sex/mar07:00\r\n";
+    desk.file(kPunches) = damaged;
+    open();
+    const auto& unread = driven->get<QLabel>("card.unread");
+    EXPECT_EQ(unread.text().toStdString(),
+              "⚠ 2 linhas não entendidas, mantidas no registro: anotação …");
+    EXPECT_EQ(unread.toolTip().toStdString(), "anotação\n01/sex/mar07:00");
+    EXPECT_EQ(cell(1, 0, 1), "⚠ folga");
+    EXPECT_EQ(cell(1, 0, 2), "12:00");
+    EXPECT_EQ(desk.file(kPunches), damaged);
+    driven->get<QListWidget>("card.employees").setCurrentRow(1);
+    EXPECT_EQ(unread.text(), QString());
+}
+
 }  // namespace
 }  // namespace winvrx

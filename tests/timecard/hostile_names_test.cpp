@@ -1,0 +1,37 @@
+#include "tests/support/fenced_files.h"
+#include "tests/support/test_workplace.h"
+#include "timecard/cartao_ponto_dados.h"
+#include "timecard/selected_month.h"
+
+#include <gmock/gmock.h>
+
+namespace winvrx {
+namespace {
+
+using testing::FencedFiles;
+using ::testing::IsEmpty;
+using testing::TestWorkplace;
+
+TEST(HostileNames, AStoredMonthOrCodeNamesNoFileOutside) {
+    TestWorkplace desk;
+    FencedFiles fenced(desk.files, "/data");
+    const Workplace at{fenced, desk.person, desk.clock, desk.log, desk.session};
+    desk.file("01CartaPonto") = "../ SAI\r\na/b SAI\r\n001 ANA\r\n";
+    for (const char* month :
+         {"../2024", "03-20/4", "..", "/etc/pa", "03-2024/../../x", "+3-2024"}) {
+        desk.file("DataIde.ivc") = std::string(month) + "\r\n../../Todos\r\n";
+        CartaoPontoDados screen(at);
+        EXPECT_FALSE(screen.open()) << month;
+    }
+    desk.file("DataIde.ivc") = "03-2024\r\n../../Todos\r\n";
+    CartaoPontoDados screen(at);
+    ASSERT_TRUE(screen.open());
+    ASSERT_EQ(screen.employees().size(), 1U);
+    ASSERT_TRUE(screen.select(0));
+    desk.person.answers = {Answer::Yes};
+    EXPECT_TRUE(screen.applyPunches());
+    EXPECT_THAT(fenced.trespasses(), IsEmpty());
+}
+
+}  // namespace
+}  // namespace winvrx
