@@ -103,14 +103,15 @@ QString RegisterList::unreadCount(std::ptrdiff_t lines) {
 void RegisterList::setRows(const std::vector<Row>& rows) {
     const QSignalBlocker quiet(tree_);
     tree_->clear();
+    QFont apart = tree_->font();
+    apart.setItalic(true);
     for (const Row& row : rows) {
         auto* item = new QTreeWidgetItem(tree_, row.cells);
         item->setData(0, kSearchedRole, row.searched);
         item->setData(0, kUnderstoodRole, row.understood);
         for (int cell = 0; cell < row.cells.size(); ++cell) {
             item->setToolTip(cell, row.cells[cell]);
-            if (!row.understood)
-                item->setForeground(cell, look::color(look::Tint::Quiet, palette()));
+            if (!row.understood) item->setFont(cell, apart);
         }
     }
     filter();

@@ -27,7 +27,7 @@ struct HostileNames : ::testing::Test {
     TestWorkplace desk;
     FencedFiles fenced{desk.files, "/data"};
     NoBrowser browser;
-    Workplace at{fenced, desk.person, desk.clock, desk.log, desk.session};
+    Workplace at{fenced, desk.person, desk.clock, desk.log, desk.session, desk.lock};
 
     void answerYes(int times) {
         desk.person.answers.assign(static_cast<std::size_t>(times), Answer::Yes);

@@ -46,6 +46,10 @@ class FencedFiles final : public FileSystem {
         watch(folder / "any");
         files_.makeFolder(folder);
     }
+    [[nodiscard]] bool hasLeftovers(const std::filesystem::path& folder) const override {
+        watch(folder / "any");
+        return files_.hasLeftovers(folder);
+    }
     void removeLeftovers(const std::filesystem::path& folder) override {
         watch(folder / "any");
         files_.removeLeftovers(folder);

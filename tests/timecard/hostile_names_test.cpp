@@ -15,7 +15,7 @@ using testing::TestWorkplace;
 TEST(HostileNames, AStoredMonthOrCodeNamesNoFileOutside) {
     TestWorkplace desk;
     FencedFiles fenced(desk.files, "/data");
-    const Workplace at{fenced, desk.person, desk.clock, desk.log, desk.session};
+    const Workplace at{fenced, desk.person, desk.clock, desk.log, desk.session, desk.lock};
     desk.file("01CartaPonto") = "../ SAI\r\na/b SAI\r\n001 ANA\r\n";
     for (const char* month :
          {"../2024", "03-20/4", "..", "/etc/pa", "03-2024/../../x", "+3-2024"}) {

@@ -336,6 +336,20 @@ TEST(CardTable, TakesTheTableOfAnotherVersion) {
     EXPECT_EQ(desk.print(1), ReportResult::Done);
 }
 
+TEST(CardTable, ALinkInItsPlaceIsNotFollowed) {
+    for (const char* target : {"other.mdb", "missing.mdb"}) {
+        ReportDesk desk;
+        QFile other(desk.folder / "other.mdb");
+        ASSERT_TRUE(other.open(QIODevice::WriteOnly));
+        other.close();
+        std::filesystem::create_symlink(target, desk.database);
+        EXPECT_EQ(desk.print(1), ReportResult::Failed) << target;
+        EXPECT_THAT(desk.log.entries, ElementsAre(HasSubstr("qdb.mdb"))) << target;
+        EXPECT_EQ(other.size(), 0) << target;
+        EXPECT_FALSE(std::filesystem::exists(desk.folder / "missing.mdb"));
+    }
+}
+
 TEST(CardTable, FaultNamesTheFile) {
     ReportDesk desk;
     desk.database = desk.folder / "missing" / "qdb.mdb";
