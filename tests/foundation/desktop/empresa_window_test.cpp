@@ -173,7 +173,7 @@ TEST_F(EmpresaWindowTest, HelpOpens) {
 }
 
 TEST_F(EmpresaWindowTest, ALineThatIsNotUnderstoodIsShownAndCanOnlyBeDeleted) {
-    file() += "XX rasgada\r\n";
+    desk_.file("01Empresa") += "XX rasgada\r\n";
     const std::string damaged = file();
     EmpresaWindow window(empresa_);
     const WindowDriver screen(window);

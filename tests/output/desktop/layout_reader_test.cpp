@@ -110,7 +110,7 @@ TEST(LayoutReader, NamesTheLineOfADamage) {
          "card.rpt:", ""},
         {"NUL", sheet(QByteArray(1, '\0')), "card.rpt:2: ", ""},
         {"Windows-1252 where UTF-8 is due", sheet("<text x='1' y='2'>\xC7\xC3O</text>"),
-         "card.rpt:2: ", ""},
+         "card.rpt:", ""},
         {"what cannot be drawn", sheet("\n<path d='M 0 0'/>"), "card.rpt:3: ", "<path>"},
         {"lines in a text", sheet("<text x='1' y='2'><tspan>a</tspan><tspan>b</tspan></text>"),
          "card.rpt:2: ", "several lines"},
