@@ -49,13 +49,14 @@ bool SafetyCopies::hasDailyCopy(const DataFolder& folder, Date day) const {
     });
 }
 
-void SafetyCopies::makeDailyCopy(const DataFolder& folder, Clock::Moment now) {
+bool SafetyCopies::makeDailyCopy(const DataFolder& folder, Clock::Moment now) {
     const Packed state = packed(folder, Unreadable::LeaveOut);
-    if (state.files.empty()) return;
+    if (state.files.empty()) return false;
     files_.makeFolder(copiesFolder(folder));
     files_.removeLeftovers(copiesFolder(folder));
     files_.replace(pathOf(folder, {.made = now}), state.archive);
     removeOutdated(folder, now.date);
+    return true;
 }
 
 void SafetyCopies::removeOutdated(const DataFolder& folder, Date today) {

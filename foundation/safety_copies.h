@@ -48,10 +48,10 @@ class SafetyCopies {
 
     [[nodiscard]] bool hasDailyCopy(const DataFolder& folder, Date day) const;
 
-    /// Copies the folder and removes the copies that are outdated by then; nothing to do in a
-    /// folder without records. A file that cannot be read is logged and left out: the others are
-    /// worth keeping.
-    void makeDailyCopy(const DataFolder& folder, Clock::Moment now);
+    /// Copies the folder and removes the copies that are outdated by then. False when there is
+    /// nothing to copy yet. A file that cannot be read is logged and left out: the others are worth
+    /// keeping.
+    bool makeDailyCopy(const DataFolder& folder, Clock::Moment now);
 
     /// Newest first.
     [[nodiscard]] std::vector<SafetyCopy> list(const DataFolder& folder) const;

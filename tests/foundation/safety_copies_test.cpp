@@ -104,10 +104,12 @@ TEST_F(SafetyCopiesTest, OnlyRecordsOfTheFolderBringACopyAbout) {
     EXPECT_THAT(copyNames(), ElementsAre("2024-03-15-0812.zip"));
 }
 
-TEST_F(SafetyCopiesTest, AnEmptyFolderIsNotCopied) {
+TEST_F(SafetyCopiesTest, AnEmptyFolderIsCopiedWhenThereIsSomethingInIt) {
     desk.files.content.clear();
     files.replace("/data/01Empresa", "01 EMPRESA\r\n");
     EXPECT_THAT(copyNames(), IsEmpty());
+    files.replace("/data/01CartaPonto", "001 ANA\r\n");
+    EXPECT_THAT(copyNames(), ElementsAre("2024-03-15-0812.zip"));
 }
 
 TEST_F(SafetyCopiesTest, AFailedCopyIsLoggedAndStopsNothing) {
