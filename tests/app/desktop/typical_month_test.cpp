@@ -71,6 +71,15 @@ TEST_F(TypicalMonth, PrintsOnePageAnEmployeeWithTheHeaderBlock) {
     EXPECT_THAT(cards[1].toStdString(), HasSubstr("ANA PAULA D'ÁVILA"));
 }
 
+TEST_F(TypicalMonth, KeepsOneCopyOfTheFolderAsTheDayFoundIt) {
+    const QDir copies(file("disco-c/Users/Public/Documents/Winvrx/Copias"));
+    const QStringList names = copies.entryList({QStringLiteral("*.zip")}, QDir::Files);
+    ASSERT_EQ(names.size(), 1);
+    const QByteArray bytes = bytesOf(copies.filePath(names.front()));
+    EXPECT_TRUE(bytes.contains("01Empresa"));
+    EXPECT_FALSE(bytes.contains("01CartaPonto"));
+}
+
 TEST_F(TypicalMonth, PrintsARowForEachOfThirtyOneDays) {
     const QStringList cards = pages();
     ASSERT_EQ(cards.size(), 3);
