@@ -114,8 +114,7 @@ void CartaoPontoDados::loadCard(std::size_t position) {
     const CompanyCode& company = company_.value();
     const auto schedule = loadSchedule(at_.files, at_.session.folder, company, code);
     auto punches = loadPunches(at_.files, at_.session.folder, company, code, settings_.month);
-    unreadLines_ =
-        unreadPunchLines(at_.files, at_.session.folder, company, code, settings_.month);
+    unreadLines_ = unreadPunchLines(at_.files, at_.session.folder, company, code, settings_.month);
     position_ = position;
     schedule_ = TypedSchedule(schedule.value_or(StandardSchedule()));
     applied_ = punches.has_value();

@@ -63,9 +63,10 @@ std::vector<RegisterList::Row> EmpregadosWindow::rows() const {
 
 void EmpregadosWindow::showRecord(std::optional<std::size_t> position) {
     Employee employee;
-    if (position)
-        employee = empregados_.lines().at(*position).employee;
-    else if (const auto code = empregados_.proposedCode())
+    const EmployeeLine* line = position ? &empregados_.lines().at(*position) : nullptr;
+    if (line && line->code())
+        employee = line->employee;
+    else if (const auto code = empregados_.proposedCode(); !line && code)
         employee.code = code->text();
     form_->showEmployee(employee, !position);
     showCounts();

@@ -65,9 +65,10 @@ std::vector<RegisterList::Row> EmpresaWindow::rows() const {
 
 void EmpresaWindow::showRecord(std::optional<std::size_t> position) {
     Company company;
-    if (position)
-        company = empresa_.lines().at(*position).company;
-    else if (const auto code = empresa_.proposedCode())
+    const CompanyLine* line = position ? &empresa_.lines().at(*position) : nullptr;
+    if (line && line->code())
+        company = line->company;
+    else if (const auto code = empresa_.proposedCode(); !line && code)
         company.code = code->text();
     form_->showCompany(company);
     showCounts();

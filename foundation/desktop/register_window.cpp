@@ -57,6 +57,7 @@ void RegisterWindow::addCommands() {
 }
 
 void RegisterWindow::assemble(QWidget* form, QWidget* underList) {
+    form_ = form;
     auto* body = new QWidget(this);
     auto* row = new QHBoxLayout(body);
     look::layOutBody(*row);
@@ -89,7 +90,9 @@ void RegisterWindow::turnTo(std::optional<std::size_t> position) {
     current_ = position;
     list_->mark(position);
     showRecord(position);
-    change_->setEnabled(position && list_->isUnderstood(*position));
+    const bool understood = position && list_->isUnderstood(*position);
+    form_->setEnabled(!position || understood);
+    change_->setEnabled(understood);
     remove_->setEnabled(position.has_value());
     showState();
 }

@@ -66,6 +66,7 @@ class RegisterWindow : public ScreenWindow {
     void save();
 
     RegisterList* list_;
+    QWidget* form_ = nullptr;
     QToolButton* change_ = nullptr;
     QToolButton* remove_ = nullptr;
     std::optional<std::size_t> current_;

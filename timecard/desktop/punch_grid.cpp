@@ -17,6 +17,11 @@ namespace {
 constexpr int kLongestTime = 5;
 constexpr int kLongestSituation = 19;
 
+/// Widths of columns, in digits; a cell has room for five of them behind a warning sign.
+constexpr int kDayDigits = 12;
+constexpr int kCellDigits = 9;
+constexpr int kSituationDigits = 20;
+
 /// Editors of the cells: a field of five characters, and the list of situations.
 class PunchDelegate : public QStyledItemDelegate {
   public:
@@ -94,9 +99,10 @@ void PunchGrid::layOutColumns() {
     header->setHighlightSections(false);
     header->setSectionResizeMode(QHeaderView::Fixed);
     for (int column = 0; column < PunchModel::Columns; ++column)
-        header->resizeSection(column, digit * (column == PunchModel::Day ? 12 : 8));
+        header->resizeSection(column,
+                              digit * (column == PunchModel::Day ? kDayDigits : kCellDigits));
     header->setSectionResizeMode(PunchModel::Situation, QHeaderView::Stretch);
-    comfortableWidth_ = digit * (12 + 8 * 8 + 20);
+    comfortableWidth_ = digit * (kDayDigits + 8 * kCellDigits + kSituationDigits);
     setMinimumWidth(comfortableWidth_ / 2);
 }
 
