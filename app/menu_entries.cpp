@@ -34,7 +34,10 @@ void addRegisters(std::vector<MenuEntry>& entries, Screens& screens) {
         MenuCommand::Employees, group, "employees.open", "employees", "&Funcionários", Qt::Key_F3,
         [&](QWidget* parent) { screens.openEmployees(parent); },
         [&] { return screens.employeesState(); }));
-    entries.push_back(entry(MenuCommand::Shifts, group, "shifts.open", "shifts", "Turnos", {}));
+    entries.push_back(entry(
+        MenuCommand::Shifts, group, "shifts.open", "shifts", "&Turnos", Qt::Key_F8,
+        [&](QWidget* parent) { screens.openShifts(parent); },
+        [&] { return screens.shiftsState(); }));
 }
 
 void addCards(std::vector<MenuEntry>& entries, Screens& screens) {

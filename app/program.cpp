@@ -2,6 +2,7 @@
 
 #include "app/menu_entries.h"
 #include "foundation/desktop/desktop_browser.h"
+#include "foundation/desktop/desktop_text_editor.h"
 #include "foundation/desktop/menu_window.h"
 #include "output/desktop/qt_report_engine.h"
 
@@ -20,6 +21,7 @@ Program::Program(const Surroundings& surroundings)
       files_(systemFiles()),
       browser_(std::make_unique<DesktopBrowser>(
           QString::fromStdString((surroundings.programFolder / "help").string()))),
+      editor_(makeEditor()),
       copies_(*files_, archiver_, surroundings.log),
       copiedFiles_(*files_, copies_, session_, surroundings.clock, surroundings.log),
       disk_(systemDisk()),
@@ -28,7 +30,7 @@ Program::Program(const Surroundings& surroundings)
       at_{copiedFiles_, person_, surroundings.clock, surroundings.log, session_, lock_},
       calendar_(at_),
       engine_(makeEngine()),
-      screens_(at_, *browser_, *engine_, copies_),
+      screens_(at_, *browser_, *editor_, *engine_, copies_),
       menu_(at_, surroundings.drives, surroundings.instance, *browser_,
             nativePath(surroundings.programFolder)),
       window_(std::make_unique<MenuWindow>(menu_, at_, calendar_, menuEntries(menu_, screens_),
@@ -38,6 +40,11 @@ Program::~Program() = default;
 
 bool Program::start() {
     return window_->start();
+}
+
+std::unique_ptr<TextEditor> Program::makeEditor() {
+    if (surroundings_.editor) return surroundings_.editor(*files_, *browser_);
+    return std::make_unique<DesktopTextEditor>(*files_, *browser_);
 }
 
 std::unique_ptr<ReportEngine> Program::makeEngine() {

@@ -27,6 +27,8 @@ struct Surroundings {
     std::filesystem::path programFolder;  ///< layouts/ and help/ lie in it
     /// Where pages go: takes the program's own engine and may put another before it.
     std::function<std::unique_ptr<ReportEngine>(std::unique_ptr<ReportEngine>)> engine = nullptr;
+    /// Where text reports are shown; the desktop's editor when nullptr.
+    std::function<std::unique_ptr<TextEditor>(const FileSystem&, Browser&)> editor = nullptr;
 };
 
 /// Joins rules, adapters and windows into the running program.
@@ -42,11 +44,13 @@ class Program {
     [[nodiscard]] MenuWindow& window() { return *window_; }
 
   private:
+    [[nodiscard]] std::unique_ptr<TextEditor> makeEditor();
     [[nodiscard]] std::unique_ptr<ReportEngine> makeEngine();
 
     Surroundings surroundings_;
     std::unique_ptr<FileSystem> files_;
     std::unique_ptr<Browser> browser_;
+    std::unique_ptr<TextEditor> editor_;
     MessageBoxOperator person_;
     Session session_;
     ZipArchiver archiver_;

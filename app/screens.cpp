@@ -5,10 +5,14 @@
 #include "foundation/desktop/empresa_window.h"
 #include "foundation/desktop/qt_text.h"
 #include "foundation/desktop/restaurar_copia_window.h"
+#include "foundation/desktop/turnos_window.h"
+#include "foundation/desktop/xlsx_spreadsheet.h"
+#include "foundation/employee_import.h"
 #include "foundation/employee_register.h"
 #include "foundation/empregados.h"
 #include "foundation/empresa.h"
 #include "foundation/restaurar_copia.h"
+#include "foundation/turnos.h"
 #include "output/card_stock.h"
 #include "output/cartao.h"
 #include "output/desktop/cartao_window.h"
@@ -37,8 +41,15 @@ void Screens::openCompanies(QWidget* parent) {
 }
 
 void Screens::openEmployees(QWidget* parent) {
-    Empregados employees(at_, browser_);
-    EmpregadosWindow(employees, parent).exec();
+    XlsxSpreadsheet spreadsheet;
+    Empregados employees(at_, {browser_, editor_, spreadsheet, locks_, locks_});
+    EmployeeImport import(at_);
+    EmpregadosWindow(employees, import, parent).exec();
+}
+
+void Screens::openShifts(QWidget* parent) {
+    Turnos shifts(at_, browser_, locks_);
+    TurnosWindow(shifts, parent).exec();
 }
 
 void Screens::show(ScreenWindow& window) {
@@ -127,6 +138,10 @@ QString Screens::employeesState() const {
     if (!now) return QStringLiteral("Selecione uma empresa");
     if (now->employees == 0) return QStringLiteral("Incluir o primeiro");
     return counted(now->employees, QStringLiteral("funcionário"), QStringLiteral("funcionários"));
+}
+
+QString Screens::shiftsState() const {
+    return QStringLiteral("Mostrar: ") + toQt(codeOf(at_.session.shiftFilter));
 }
 
 QString Screens::monthState() const {

@@ -2,8 +2,10 @@
 
 #include "foundation/browser.h"
 #include "foundation/command.h"
+#include "foundation/employee_queries.h"
 #include "foundation/menu.h"
 #include "foundation/safety_copies.h"
+#include "foundation/text_editor.h"
 #include "output/report_engine.h"
 
 #include <QString>
@@ -19,11 +21,18 @@ class ScreenWindow;
 /// Opens the screens of the main window's commands, and says in a line how far each subject is.
 class Screens {
   public:
-    Screens(const Workplace& at, Browser& browser, ReportEngine& engine, SafetyCopies& copies)
-        : at_(at), browser_(browser), engine_(engine), copies_(copies) {}
+    Screens(const Workplace& at, Browser& browser, TextEditor& editor, ReportEngine& engine,
+            SafetyCopies& copies)
+        : at_(at),
+          browser_(browser),
+          editor_(editor),
+          engine_(engine),
+          copies_(copies),
+          locks_(at.files, at.session.folder) {}
 
     void openCompanies(QWidget* parent);
     void openEmployees(QWidget* parent);
+    void openShifts(QWidget* parent);
     void openWorkMonth(QWidget* parent);
     void openTimeCard(QWidget* parent);
     /// `preview`: shows the cards before they are printed.
@@ -33,6 +42,7 @@ class Screens {
 
     [[nodiscard]] QString companiesState() const;
     [[nodiscard]] QString employeesState() const;
+    [[nodiscard]] QString shiftsState() const;
     [[nodiscard]] QString monthState() const;
     [[nodiscard]] QString timeCardState() const;
     [[nodiscard]] QString stockState() const;
@@ -55,8 +65,10 @@ class Screens {
 
     Workplace at_;
     Browser& browser_;
+    TextEditor& editor_;
     ReportEngine& engine_;
     SafetyCopies& copies_;
+    RecordedLocks locks_;
 };
 
 }  // namespace winvrx

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,6 +14,7 @@ namespace winvrx {
 template <int Digits>
 class DigitCode {
   public:
+    static constexpr std::size_t kDigits = Digits;
     static constexpr int kHighest = Digits == 2 ? 99 : 999;
 
     /// nullopt unless `text` is exactly the right count of digits.

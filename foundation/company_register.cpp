@@ -41,6 +41,13 @@ void saveCompanies(FileSystem& files, const DataFolder& folder,
     registerFile(files, folder).rewrite(bytes);
 }
 
+std::string titleOf(const std::vector<CompanyLine>& companies,
+                    const std::optional<CompanyCode>& code) {
+    for (const CompanyLine& line : companies)
+        if (code && line.code() == code) return code->text() + " " + line.company.name;
+    return {};
+}
+
 std::optional<CompanyCode> lowestFreeCode(const std::vector<CompanyLine>& lines) {
     for (int number = 1; number <= CompanyCode::kHighest; ++number) {
         const auto code = CompanyCode::fromNumber(number);

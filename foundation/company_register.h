@@ -32,6 +32,10 @@ struct CompanyLine {
 void saveCompanies(FileSystem& files, const DataFolder& folder,
                    const std::vector<CompanyLine>& lines);
 
+/// "01 EMPRESA MODELO LTDA"; empty when no line has the code.
+[[nodiscard]] std::string titleOf(const std::vector<CompanyLine>& companies,
+                                  const std::optional<CompanyCode>& code);
+
 /// The lowest two-digit code from "01" on that no line bears; nullopt when all 99 are taken.
 [[nodiscard]] std::optional<CompanyCode> lowestFreeCode(const std::vector<CompanyLine>& lines);
 

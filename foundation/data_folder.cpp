@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <stdexcept>
 
 namespace winvrx {
@@ -10,6 +11,13 @@ namespace {
 
 /// "01", "001" and "032024.pdx"; a shorter month file is the company's own.
 constexpr std::size_t kEmployeeMonthFileLength = 15;
+
+/// "01", "001", "-03-2024", then ".bdx".
+constexpr std::size_t kPunchSuffixStart = 14;
+
+/// The stem, and the zeros that make three digits five.
+constexpr std::string_view kPayrollZeros = "fp00";
+static_assert(kPayrollZeros.starts_with(kPayrollStem));
 
 std::string withForwardSlashes(std::string_view text) {
     std::string result(text);
@@ -35,6 +43,23 @@ bool isMonthFile(std::string_view name) {
     if (name.size() < 12 || !name.ends_with(".pdx")) return false;
     const std::string_view month = name.substr(name.size() - 10, 6);
     return std::all_of(month.begin(), month.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+/// "01fp" and the five digits of an employee code.
+bool isPayrollFile(std::string_view name) {
+    return standsAt(name, 3, kPayrollZeros) && name.ends_with(".bdx");
+}
+
+std::optional<std::string_view> stemOf(std::string_view name) {
+    for (const std::string_view stem : {kScheduleStem, kOvertimeStem, kLeaveStem})
+        if (standsAt(name, 3, stem)) return stem;
+    return std::nullopt;
+}
+
+/// Where the name of an employee's file carries the employee code, counted from 1.
+std::size_t employeeCodeStart(std::string_view name) {
+    if (isPayrollFile(name)) return 3 + kPayrollZeros.size();
+    return 3 + stemOf(name).value_or(std::string_view()).size();
 }
 
 void removeWhere(FileSystem& files, const DataFolder& folder,
@@ -75,11 +100,30 @@ bool isRecordOfCompany(std::string_view name, const CompanyCode& company) {
 
 bool isRecordOfEmployee(std::string_view name, const CompanyCode& company,
                         const EmployeeCode& employee) {
-    if (!isRecordOfCompany(name, company)) return false;
-    for (const std::string_view stem : {kScheduleStem, kOvertimeStem, kLeaveStem})
-        if (standsAt(name, 3, stem)) return standsAt(name, 3 + stem.size(), employee.text());
-    const bool hasEmployee = isPunchOrPayrollFile(name) || name.size() >= kEmployeeMonthFileLength;
-    return hasEmployee && name.substr(2) != kEmployeeListStem && standsAt(name, 3, employee.text());
+    if (!isRecordOfCompany(name, company) || name.substr(2) == kEmployeeListStem) return false;
+    const bool hasEmployee =
+        stemOf(name) || isPunchOrPayrollFile(name) || name.size() >= kEmployeeMonthFileLength;
+    return hasEmployee && standsAt(name, employeeCodeStart(name), employee.text());
+}
+
+bool isPayrollOfEmployee(std::string_view name, const CompanyCode& company,
+                         const EmployeeCode& employee) {
+    return isPayrollFile(name) && isRecordOfEmployee(name, company, employee);
+}
+
+bool isPunchRecordOfEmployee(std::string_view name, const CompanyCode& company,
+                             const EmployeeCode& employee) {
+    return standsAt(name, kPunchSuffixStart, ".bdx") && !isPayrollFile(name) &&
+           isRecordOfEmployee(name, company, employee);
+}
+
+std::string renamedForEmployee(std::string_view name, const CompanyCode& company,
+                               const EmployeeCode& employee) {
+    const std::size_t start = employeeCodeStart(name);
+    std::string renamed(name);
+    renamed.replace(start - 1, employee.text().size(), employee.text());
+    renamed.replace(0, company.text().size(), company.text());
+    return renamed;
 }
 
 void removeRecordsOfCompany(FileSystem& files, const DataFolder& folder,

@@ -78,6 +78,9 @@ inline constexpr std::string_view kScheduleStem = "PadrHor";
 inline constexpr std::string_view kOvertimeStem = "MedHorExtr";
 inline constexpr std::string_view kLeaveStem = "configAf";
 inline constexpr std::string_view kEmployeeListStem = "CartaPonto";
+/// Opens the name of a payroll file, behind the company code; the employee code follows with five
+/// digits, then the month "mm-yyyy" and ".bdx".
+inline constexpr std::string_view kPayrollStem = "fp";
 
 /// Files of the run: both go when the program ends.
 inline constexpr std::string_view kStartMemoryName = "LocMen.lvc";
@@ -94,6 +97,18 @@ inline constexpr std::string_view kReportDatabaseName = "qdb.mdb";
 /// The same for one employee: the employee code stands behind the stem, or in characters 3-5.
 [[nodiscard]] bool isRecordOfEmployee(std::string_view name, const CompanyCode& company,
                                       const EmployeeCode& employee);
+
+[[nodiscard]] bool isPayrollOfEmployee(std::string_view name, const CompanyCode& company,
+                                       const EmployeeCode& employee);
+
+/// True for the employee's punch records: ".bdx" in characters 14-17 behind both codes.
+[[nodiscard]] bool isPunchRecordOfEmployee(std::string_view name, const CompanyCode& company,
+                                           const EmployeeCode& employee);
+
+/// The name that an employee's file takes when the employee moves to `company` under `employee`.
+/// `name` must be a record of one employee.
+[[nodiscard]] std::string renamedForEmployee(std::string_view name, const CompanyCode& company,
+                                             const EmployeeCode& employee);
 
 /// Deletes the files of a company. Can be run again after a failure.
 void removeRecordsOfCompany(FileSystem& files, const DataFolder& folder,

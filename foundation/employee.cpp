@@ -3,9 +3,12 @@
 namespace winvrx {
 
 std::string encode(const Employee& employee, std::string existing) {
-    RecordLine line(std::move(existing), kEmployeeWidth);
+    const bool isNew = existing.empty();
+    const Employee before = isNew ? Employee() : decodeEmployee(existing);
+    RecordLine line(std::move(existing), isNew ? kEmployeeWidth : 0);
     for (const EmployeeField& field : kEmployeeFields)
-        line.put(field.column, employee.*field.member);
+        if (employee.*field.member != before.*field.member)
+            line.put(field.column, employee.*field.member);
     return line.bytes();
 }
 

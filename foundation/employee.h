@@ -58,6 +58,9 @@ struct Employee {
     }
 };
 
+/// The status word of an employee who was taken off the list but is kept in it.
+inline constexpr std::string_view kDeletedStatus = "Excluido";
+
 /// One field of the record, with the caption that the screen shows.
 struct EmployeeField {
     std::string Employee::*member;
@@ -112,8 +115,9 @@ template <typename Fields>
 
 static_assert(isOrdered(kEmployeeFields, kEmployeeWidth));
 
-/// The line's bytes, built upon `existing` so that whatever the table does not know is kept.
-/// Throws TextFault when a text cannot be stored.
+/// The line's bytes, built upon `existing`: only fields whose text changed are written, so that
+/// encode(decodeEmployee(line), line) is `line`, whatever stands in it. Throws TextFault when a
+/// text cannot be stored.
 [[nodiscard]] std::string encode(const Employee& employee, std::string existing = {});
 [[nodiscard]] Employee decodeEmployee(std::string_view lineBytes);
 

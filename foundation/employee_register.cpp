@@ -17,13 +17,21 @@ std::string backupName(const CompanyCode& company, Clock::Moment now) {
 
 }  // namespace
 
+EmployeeLine lineOf(const Employee& employee, std::string existing) {
+    std::string bytes = encode(employee, std::move(existing));
+    Employee stored = decodeEmployee(bytes);
+    return {std::move(bytes), std::move(stored)};
+}
+
 EmployeeRegister::EmployeeRegister(FileSystem& files, const DataFolder& folder, CompanyCode company)
     : files_(files), folder_(folder), company_(std::move(company)) {}
 
 std::vector<EmployeeLine> EmployeeRegister::load() const {
     std::vector<EmployeeLine> lines;
     const RecordFile file(files_, folder_.companyFile(company_, kEmployeeListStem));
-    for (std::string& bytes : file.lines()) {
+    std::vector<std::string> stored = file.lines();
+    lines.reserve(stored.size());
+    for (std::string& bytes : stored) {
         Employee employee = decodeEmployee(bytes);
         lines.push_back({std::move(bytes), std::move(employee)});
     }
@@ -31,14 +39,21 @@ std::vector<EmployeeLine> EmployeeRegister::load() const {
 }
 
 void EmployeeRegister::save(const std::vector<EmployeeLine>& lines, Clock::Moment now) {
-    const auto listPath = folder_.companyFile(company_, kEmployeeListStem);
-    if (const auto before = files_.read(listPath))
+    keepCopy(now);
+    files_.replaceAll({contentOf(lines)});
+}
+
+void EmployeeRegister::keepCopy(Clock::Moment now) {
+    if (const auto before = files_.read(folder_.companyFile(company_, kEmployeeListStem)))
         files_.replace(folder_.file(backupName(company_, now)), *before);
+}
+
+FileSystem::NewContent EmployeeRegister::contentOf(const std::vector<EmployeeLine>& lines) const {
     std::vector<std::string> bytes;
     bytes.reserve(lines.size());
     for (const EmployeeLine& line : lines)
         bytes.push_back(line.bytes);
-    RecordFile(files_, listPath).rewrite(bytes);
+    return {folder_.companyFile(company_, kEmployeeListStem), joinedLines(bytes)};
 }
 
 std::optional<EmployeeCode> EmployeeRegister::lowestFreeCode(
@@ -49,6 +64,11 @@ std::optional<EmployeeCode> EmployeeRegister::lowestFreeCode(
     for (int number = 1; number <= EmployeeCode::kHighest; ++number)
         if (!taken[static_cast<std::size_t>(number)]) return EmployeeCode::fromNumber(number);
     return std::nullopt;
+}
+
+bool bears(const std::vector<EmployeeLine>& lines, const std::optional<EmployeeCode>& code) {
+    return std::any_of(lines.begin(), lines.end(),
+                       [&](const EmployeeLine& line) { return line.code() == code; });
 }
 
 std::vector<Employee> employeesOf(const std::vector<EmployeeLine>& lines, ShiftFilter filter) {

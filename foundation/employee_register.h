@@ -19,6 +19,9 @@ struct EmployeeLine {
     [[nodiscard]] std::optional<EmployeeCode> code() const { return employee.employeeCode(); }
 };
 
+/// The line of an employee, built upon `existing` as `encode` does.
+[[nodiscard]] EmployeeLine lineOf(const Employee& employee, std::string existing = {});
+
 /// The employee list of one company: the file named by the company code and "CartaPonto".
 class EmployeeRegister {
   public:
@@ -31,6 +34,11 @@ class EmployeeRegister {
     /// "dd-mm-yyyy-hh-00" and ".bkp", so that one copy an hour is kept. Throws FileFault.
     void save(const std::vector<EmployeeLine>& lines, Clock::Moment now);
 
+    /// The two steps of `save`, for a caller that writes more along with the list: the copy must
+    /// last before the list is written, or a list cut short could be copied over it.
+    void keepCopy(Clock::Moment now);
+    [[nodiscard]] FileSystem::NewContent contentOf(const std::vector<EmployeeLine>& lines) const;
+
     [[nodiscard]] bool hasEmployees() const { return !load().empty(); }
 
     /// The lowest three-digit code from "001" on that no line bears; nullopt when all are taken.
@@ -42,6 +50,10 @@ class EmployeeRegister {
     DataFolder folder_;
     CompanyCode company_;
 };
+
+/// Whether a line of the list has the code.
+[[nodiscard]] bool bears(const std::vector<EmployeeLine>& lines,
+                         const std::optional<EmployeeCode>& code);
 
 /// The employees with a code whose shift passes the filter, in list order.
 [[nodiscard]] std::vector<Employee> employeesOf(const std::vector<EmployeeLine>& lines,

@@ -1,9 +1,9 @@
 #include "foundation/empregados.h"
 
-#include "foundation/company_register.h"
+#include "foundation/employee_checks.h"
+#include "foundation/employee_transfer.h"
+#include "foundation/leave_status.h"
 #include "foundation/text.h"
-
-#include <algorithm>
 
 namespace winvrx {
 
@@ -21,74 +21,100 @@ const Message kConfirmDelete{"EXCLUSÃO",
                              "Deseja Excluir o ìtem Selecionado da LISTA DE FUNCIONARIOS?",
                              Icon::Exclamation, Buttons::YesNo};
 
+const Message kRotationMember{
+    "ALTERAÇÃO",
+    "Não Permitido Alteração de TURNO ou ESCALA deste Funcionário pois consta na lista de um dos "
+    "Grupos de Escala de Revezamento. Para Alterar, Primeiro Remova-o da Lista de Revezamento. ",
+    Icon::Exclamation};
+const Message kPayrollClosed{
+    "ALTERAÇÃO",
+    "ATENÇÃO! Não é Recomendável Alterar o Cadastro de Funcionário! Já Foi Gerada a Folha de "
+    "Pagamento para este Funcionário!!",
+    Icon::Exclamation};
+const Message kConfirmDespitePayroll{
+    "ALTERAÇÃO", "Confirma Gravar Alteração dos Dados do Funcionário Selecionado?", Icon::Question,
+    Buttons::YesNo};
+const Message kRegisteredThere{
+    "Transferência", "Este Funcionário Já Está Cadastrado na Outra Empresa!! ", Icon::Exclamation};
+const Message kHasPunches{"Transferência",
+                          "Este Funcionário Possui Dados de Ponto e não poderá ser Transferido "
+                          "para Outra Empresa!! ",
+                          Icon::Exclamation};
+const Message kDeletesMember{
+    "EXCLUSÃO",
+    "Não Permitido Excluir este Funcionário pois O COLABORADOR Consta na na Lista de um dos Grupos "
+    "da Escala de Revezamento. Para Alterar, Primeiro Remova-o da Lista de Revezamento. ",
+    Icon::Exclamation};
+const Message kDeleteDespiteGroup{"EXCLUSÃO", "Deseja Excluir Mesmo Assim?", Icon::Exclamation,
+                                  Buttons::YesNo};
+const Message kConfirmDeleteAll{"EXCLUSÃO", "Deseja Excluir Toda LISTA DE FUNCIONARIOS?",
+                                Icon::Exclamation, Buttons::YesNo};
+const Message kCertainDeleteAll{"EXCLUSÃO",
+                                "Tem Certeza de que Deseja Excluir Toda LISTA DE FUNCIONARIOS?",
+                                Icon::Exclamation, Buttons::YesNo};
+
 Message withDetail(Message message, std::string detail) {
     message.detail = std::move(detail);
     return message;
 }
 
-/// "Nome, Turno": the captions of required fields that are empty.
-std::string missingFields(const Employee& typed) {
-    std::string missing;
-    for (const EmployeeField& field : kEmployeeFields) {
-        if (!isRequired(field.member) || !trimmed(typed.*field.member).empty()) continue;
-        missing.append(missing.empty() ? "" : ", ").append(field.caption);
-    }
-    return missing;
+Fault noCode(const EmployeeLine& line) {
+    return Fault("employee line without code: " + line.employee.code,
+                 "Esta linha da lista não tem um código válido.");
 }
 
-/// What is wrong with the texts that have a form of their own; empty when nothing is.
-std::string incorrectField(const Employee& typed) {
-    if (!typed.employeeCode()) return "O código tem três algarismos.";
-    const auto shift = parseShift(typed.shift);
-    const auto scale = parseScale(typed.scale);
-    if (!shift || !scale) return "Escolha o turno e a escala nas listas.";
-    if (!allows(*scale, *shift)) return "A escala 12x36 é permitida somente nos turnos 1 e 3.";
-    for (const auto field : {&Employee::birthDate, &Employee::dismissal})
-        if (!(typed.*field).empty() && !parseDate(typed.*field))
-            return "\"" + typed.*field + "\" não é uma data do calendário.";
-    return {};
-}
-
-EmployeeLine lineOf(const Employee& employee, std::string existing = {}) {
-    std::string bytes = encode(employee, std::move(existing));
-    return {bytes, decodeEmployee(bytes)};
-}
-
-bool bears(const std::vector<EmployeeLine>& lines, const std::optional<EmployeeCode>& code) {
-    return std::any_of(lines.begin(), lines.end(),
-                       [&](const EmployeeLine& line) { return line.code() == code; });
-}
-
-std::string titleOf(const std::vector<CompanyLine>& companies,
-                    const std::optional<CompanyCode>& code) {
-    for (const CompanyLine& line : companies)
-        if (code && line.code() == code) return code->text() + " " + line.company.name;
-    return {};
+/// Whether shift or scale would mean something else.
+bool changesRotation(const Employee& before, const Employee& after) {
+    return before.shiftOr() != after.shiftOr() || before.scaleOr() != after.scaleOr();
 }
 
 }  // namespace
 
-bool isRequired(std::string Employee::*field) {
-    return std::find(kRequiredEmployeeFields.begin(), kRequiredEmployeeFields.end(), field) !=
-           kRequiredEmployeeFields.end();
+Fault changedElsewhere() {
+    return {"employee list changed on disk",
+            "A lista foi alterada por outro computador. Abra a tela novamente."};
 }
 
-Empregados::Empregados(const Workplace& at, Browser& browser) : at_(at), browser_(browser) {}
+Empregados::Empregados(const Workplace& at, const EmployeeSurroundings& around)
+    : at_(at), around_(around) {}
 
 void Empregados::load() {
     (void)attempt(at_, incorrectData(), [this] {
-        companyTitle_ = titleOf(loadCompanies(at_.files, at_.session.folder), at_.session.company);
-        lines_ = at_.session.company ? employeeRegister().load() : std::vector<EmployeeLine>();
+        read();
         return true;
     });
 }
 
-bool Empregados::include(const Employee& typed) {
-    if (!at_.session.company) {
-        at_.person.tell(kNoCompany);
-        return false;
+void Empregados::read() {
+    auto companies = loadCompanies(at_.files, at_.session.folder);
+    companyTitle_ = titleOf(companies, at_.session.company);
+    std::erase_if(companies, [this](const CompanyLine& line) {
+        return !line.code() || line.code() == at_.session.company;
+    });
+    others_ = std::move(companies);
+    std::vector<EmployeeLine> lines;
+    std::map<EmployeeCode, Date> inactive;
+    if (at_.session.company) {
+        lines = employeeRegister().load();
+        inactive = inactiveEmployees(at_.files, at_.session.folder, *at_.session.company);
     }
-    if (!accepts(typed)) return false;
+    lines_ = std::move(lines);
+    inactive_ = std::move(inactive);
+}
+
+std::optional<Date> Empregados::inactiveSince(const EmployeeLine& line) const {
+    const auto code = line.code();
+    const auto found = code ? inactive_.find(*code) : inactive_.end();
+    return found == inactive_.end() ? std::nullopt : std::optional(found->second);
+}
+
+bool Empregados::hasCompany() const {
+    if (!at_.session.company) at_.person.tell(kNoCompany);
+    return at_.session.company.has_value();
+}
+
+bool Empregados::include(const Employee& typed) {
+    if (!hasCompany() || !accepts(typed)) return false;
     return attempt(at_, incorrectData(), [&] {
         if (refusesTakenCode(typed, employeeRegister().load())) return false;
         if (!at_.person.agrees(kConfirmInclude)) return false;
@@ -105,12 +131,14 @@ bool Empregados::change(std::size_t position, Employee typed) {
     if (!at_.person.agrees(kConfirmChange)) return false;
     return attempt(at_, incorrectData(), [&] {
         const EmployeeLine line = loadUnchanged(position)[position];
-        if (!line.code())
-            throw Fault("employee line without code: " + line.employee.code,
-                        "Esta linha da lista não tem um código válido.");
+        if (!line.code()) throw noCode(line);
         typed.code = line.employee.code;
         typed.status = line.employee.status;
-        if (!accepts(typed)) return false;
+        if (changesRotation(line.employee, typed) && isRotationMember(line)) {
+            at_.person.tell(kRotationMember);
+            return false;
+        }
+        if (!accepts(typed) || !agreesDespitePayroll(line)) return false;
         const auto hold = holdFolder(at_);
         auto lines = loadUnchanged(position);
         lines[position] = lineOf(typed, line.bytes);
@@ -119,11 +147,58 @@ bool Empregados::change(std::size_t position, Employee typed) {
     });
 }
 
+bool Empregados::isRotationMember(const EmployeeLine& line) const {
+    return line.code() && around_.rotation.isMember(at_.session.company.value(), *line.code());
+}
+
+bool Empregados::agreesDespitePayroll(const EmployeeLine& line) const {
+    if (!around_.payroll.hasClosedMonth(at_.session.company.value(), line.code().value()))
+        return true;
+    at_.person.tell(kPayrollClosed);
+    return at_.person.agrees(kConfirmDespitePayroll);
+}
+
+bool Empregados::mayTransfer(const EmployeeLine& leaving, const CompanyCode& target) const {
+    const DataFolder& folder = at_.session.folder;
+    const CompanyCode company = at_.session.company.value();
+    const auto refuses = [this](const Message& message) {
+        at_.person.tell(message);
+        return false;
+    };
+    if (isRotationMember(leaving)) return refuses(kRotationMember);
+    const auto there = EmployeeRegister(at_.files, folder, target).load();
+    if (!arrivedLine(there, leaving) && isRegistered(there, leaving.employee))
+        return refuses(kRegisteredThere);
+    if (hasPunchRecords(at_.files, folder, company, leaving.code().value()))
+        return refuses(kHasPunches);
+    return true;
+}
+
+bool Empregados::transfer(std::size_t position, const CompanyCode& target) {
+    if (!at_.person.agrees(kConfirmChange)) return false;
+    return attempt(at_, incorrectData(), [&] {
+        const EmployeeLine leaving = loadUnchanged(position)[position];
+        if (!leaving.code()) throw noCode(leaving);
+        if (!mayTransfer(leaving, target) || !agreesDespitePayroll(leaving)) return false;
+        const auto hold = holdFolder(at_);
+        auto lines = loadUnchanged(position);
+        EmployeeTransfer(at_.files, at_.session.folder, *at_.session.company, target)
+            .move(lines, position, at_.clock.now());
+        lines_ = std::move(lines);
+        return true;
+    });
+}
+
 bool Empregados::remove(std::size_t position) {
     if (!at_.person.agrees(kConfirmDelete)) return false;
-    return attemptWriting(at_, incorrectData(), [&] {
+    return attempt(at_, incorrectData(), [&] {
+        const EmployeeLine chosen = loadUnchanged(position)[position];
+        if (isRotationMember(chosen)) {
+            at_.person.tell(kDeletesMember);
+            if (!at_.person.agrees(kDeleteDespiteGroup)) return false;
+        }
+        const auto hold = holdFolder(at_);
         auto lines = loadUnchanged(position);
-        const EmployeeLine chosen = lines[position];
         // A disk that refuses the list must do so before anything is gone. Then the files go
         // first: cut short, the command can be given again.
         save(lines);
@@ -134,12 +209,26 @@ bool Empregados::remove(std::size_t position) {
     });
 }
 
+bool Empregados::removeAll() {
+    if (!hasCompany() || !at_.person.agrees(kConfirmDeleteAll) ||
+        !at_.person.agrees(kCertainDeleteAll))
+        return false;
+    return attemptWriting(at_, incorrectData(), [&] {
+        auto lines = employeeRegister().load();
+        save(lines);
+        for (const EmployeeLine& line : lines)
+            removeFilesOf(line, {});
+        save({});
+        return true;
+    });
+}
+
 bool Empregados::mayDiscardTyped() {
     return at_.person.agrees(discardTyped());
 }
 
 void Empregados::help() {
-    openHelp(at_, browser_);
+    openHelp(at_, around_.browser);
 }
 
 EmployeeRegister Empregados::employeeRegister() const {
@@ -150,8 +239,7 @@ std::vector<EmployeeLine> Empregados::loadUnchanged(std::size_t position) const 
     auto lines = employeeRegister().load();
     if (position >= lines.size() || position >= lines_.size() ||
         lines[position].bytes != lines_[position].bytes)
-        throw Fault("employee list changed on disk",
-                    "A lista foi alterada por outro computador. Abra a tela novamente.");
+        throw changedElsewhere();
     return lines;
 }
 
@@ -161,8 +249,7 @@ bool Empregados::accepts(const Employee& typed) const {
         return false;
     }
     if (!typed.admissionDate()) {
-        at_.person.tell(withDetail(kWrongAdmission,
-                                   "\"" + typed.admission + "\" não é uma data do calendário."));
+        at_.person.tell(withDetail(kWrongAdmission, noSuchDate(typed.admission)));
         return false;
     }
     if (std::string wrong = incorrectField(typed); !wrong.empty()) {
@@ -175,8 +262,7 @@ bool Empregados::accepts(const Employee& typed) const {
 bool Empregados::refusesTakenCode(const Employee& typed,
                                   const std::vector<EmployeeLine>& lines) const {
     if (!bears(lines, typed.employeeCode())) return false;
-    at_.person.tell(
-        withDetail(kNotAccepted, "O código " + typed.code + " já pertence a outro funcionário."));
+    at_.person.tell(withDetail(kNotAccepted, takenCode(typed)));
     return true;
 }
 

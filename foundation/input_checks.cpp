@@ -2,6 +2,7 @@
 
 #include "foundation/date.h"
 #include "foundation/faults.h"
+#include "foundation/money.h"
 #include "foundation/text.h"
 
 #include <algorithm>
@@ -13,6 +14,7 @@ namespace winvrx {
 namespace {
 
 constexpr std::size_t kDateWidth = 10;
+constexpr std::size_t kOccupationDigits = 6;
 
 bool isDigit(char c) {
     return c >= '0' && c <= '9';
@@ -36,6 +38,19 @@ std::optional<std::vector<std::string>> dateParts(std::string_view text) {
         parts = {parts[0].substr(0, 2), parts[0].substr(2, 2), parts[0].substr(4)};
     if (parts.size() != 3 || parts[2].size() != 4) return std::nullopt;
     return parts;
+}
+
+/// The digits of a number typed with or without points, dashes, bars and blanks; nullopt when it
+/// has another count of digits or other characters.
+std::optional<std::string> digitsOf(std::string_view text, std::size_t count) {
+    std::string digits;
+    for (const char c : text) {
+        if (isDigit(c))
+            digits += c;
+        else if (c != '.' && c != '-' && c != '/' && c != ' ')
+            return std::nullopt;
+    }
+    return digits.size() == count ? std::optional(digits) : std::nullopt;
 }
 
 std::string twoDigits(const std::string& digits) {
@@ -77,6 +92,35 @@ Hint idHint(IdCheck check, std::string_view name, Entry entry) {
     }
     if (entry == Entry::Typing) return {};
     return {Hint::Tone::Warning, number + " incompleto."};
+}
+
+Hint moneyHint(std::string_view text, Entry entry) {
+    if (trimmed(text).empty() || entry == Entry::Typing || parseMoney(text)) return {};
+    return {Hint::Tone::Warning, "Digite o valor como 1.234,56."};
+}
+
+Hint occupationHint(std::string_view text, Entry entry) {
+    if (trimmed(text).empty() || digitsOf(text, kOccupationDigits)) return {};
+    const bool mayBecome = std::all_of(text.begin(), text.end(), isDigit);
+    if (entry == Entry::Typing && mayBecome) return {};
+    return {Hint::Tone::Warning, "O CBO tem seis algarismos."};
+}
+
+std::string completedCpf(std::string_view text) {
+    const auto digits = digitsOf(text, 11);
+    if (!digits) return std::string(text);
+    return digits->substr(0, 3) + "." + digits->substr(3, 3) + "." + digits->substr(6, 3) + "-" +
+           digits->substr(9);
+}
+
+std::string completedPostalCode(std::string_view text) {
+    const auto digits = digitsOf(text, 8);
+    return digits ? digits->substr(0, 5) + "-" + digits->substr(5) : std::string(text);
+}
+
+std::string completedMoney(std::string_view text) {
+    const auto money = parseMoney(text);
+    return money ? "R$ " + moneyText(*money) : std::string(text);
 }
 
 std::string completedDate(std::string_view text) {

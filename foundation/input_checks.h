@@ -31,6 +31,21 @@ enum class Entry { Typing, Left };
 /// Puts a check of a number in words; `name` is what the number is called: "CPF".
 [[nodiscard]] Hint idHint(IdCheck check, std::string_view name, Entry entry);
 
+/// Warns of an amount that cannot be read.
+[[nodiscard]] Hint moneyHint(std::string_view text, Entry entry);
+
+/// Warns of a CBO that has not six digits; the dash before the last two may be typed.
+[[nodiscard]] Hint occupationHint(std::string_view text, Entry entry);
+
+/// "52998224725" as "529.982.247-25"; what has not eleven digits comes back as it is.
+[[nodiscard]] std::string completedCpf(std::string_view text);
+
+/// "12080700" as "12080-700"; what has not eight digits comes back as it is.
+[[nodiscard]] std::string completedPostalCode(std::string_view text);
+
+/// "1850" and "R$1.850,0" as "R$ 1.850,00"; what is no amount comes back as it is.
+[[nodiscard]] std::string completedMoney(std::string_view text);
+
 /// A date typed on the keypad in its full form: "12032024", "1/3/2024" and "12-03-2024" become
 /// "12/03/2024" and the like. What is no such date comes back as it is.
 [[nodiscard]] std::string completedDate(std::string_view text);

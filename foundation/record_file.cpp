@@ -24,7 +24,8 @@ std::string rawFieldOf(std::string_view lineBytes, Column column) {
 }
 
 std::string fieldOf(std::string_view lineBytes, Column column) {
-    return decodeWindows1252(trimmed(rawFieldOf(lineBytes, column)));
+    if (lineBytes.size() < column.start) return {};
+    return decodeWindows1252(trimmed(lineBytes.substr(column.start - 1, column.width)));
 }
 
 RecordLine::RecordLine(std::string existing, std::size_t width) : bytes_(std::move(existing)) {

@@ -119,6 +119,8 @@ std::string encodeWindows1252(std::string_view utf8) {
 }
 
 std::string decodeWindows1252(std::string_view bytes) {
+    const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+    if (std::all_of(bytes.begin(), bytes.end(), isAscii)) return std::string(bytes);
     std::string utf8;
     utf8.reserve(bytes.size() + bytes.size() / 8);
     for (const char byte : bytes) {
@@ -136,6 +138,12 @@ std::string readableText(std::string_view windows1252) {
     for (char& byte : bytes)
         if (isUnprintable(byte)) byte = kMiddleDot;
     return decodeWindows1252(bytes).append(trimmed(windows1252).size() > kMost ? "…" : "");
+}
+
+bool isUtf8(std::string_view bytes) {
+    for (std::size_t position = 0; position < bytes.size();)
+        if (nextCodePoint(bytes, position) == kInvalid) return false;
+    return true;
 }
 
 std::size_t characterCount(std::string_view utf8) {

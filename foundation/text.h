@@ -18,6 +18,9 @@ namespace winvrx {
 /// back as the control characters of the same number.
 [[nodiscard]] std::string decodeWindows1252(std::string_view bytes);
 
+/// Whether the bytes are well-formed UTF-8.
+[[nodiscard]] bool isUtf8(std::string_view bytes);
+
 /// Number of characters in `utf8`.
 [[nodiscard]] std::size_t characterCount(std::string_view utf8);
 

@@ -3,6 +3,7 @@
 #include "app/desktop_setup.h"
 #include "app/program.h"
 #include "foundation/desktop/desktop_browser.h"
+#include "foundation/desktop/desktop_text_editor.h"
 #include "foundation/desktop/file_log.h"
 #include "foundation/desktop/look.h"
 #include "foundation/desktop/menu_window.h"
@@ -76,6 +77,9 @@ int main(int argc, char** argv) {
                          return std::make_unique<PaperInAFile>(
                              std::move(engine),
                              (folder + QStringLiteral("/cartoes.pdf")).toStdString());
+                     },
+                     [](const FileSystem& files, Browser& browser) -> std::unique_ptr<TextEditor> {
+                         return std::make_unique<TextViewer>(files, browser);
                      }});
     if (!program.start()) return 1;
     Player player(folder);

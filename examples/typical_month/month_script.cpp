@@ -2,6 +2,8 @@
 
 #include "player.h"
 
+#include <QFile>
+
 #include <array>
 
 namespace winvrx {
@@ -58,6 +60,33 @@ void registerPerson(Player& player, const Person& person) {
     player.answer("Confirma a Inclusão na LISTA DE FUNCIONARIOS?"_t, Answer::Yes);
 }
 
+/// Both reports, in the viewer that stands in for a desktop's editor.
+void lookAtReports(Player& player) {
+    player.pictureBeside("relatorio"_t, "relatorio"_t);
+    player.pictureBeside("relatorio"_t, "relatorio-dois"_t);
+}
+
+/// A spreadsheet with a good row, a doubtful one and two that cannot be taken.
+void lookAtImport(Player& player) {
+    const QString path = player.folder() + "/planilha.csv"_t;
+    player.then([path] {
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly)) return;
+        file.write(
+            "Nome;Função;Admissão;Turno;CPF\n"
+            "RITA DE CÁSSIA NUNES;CONFEITEIRA;4/3/2024;Manhã;529.982.247-25\n"
+            "PEDRO HENRIQUE SÁ;AJUDANTE;11/03/2024;Comercial;111.111.111-11\n"
+            "JOÃO BATISTA LIMA;VIGIA NOTURNO;10/01/2022;Noite;\n"
+            "MARINA COUTO;CAIXA;31/02/2024;Tarde;\n");
+    });
+    player.trigger("empregados.import"_t);
+    player.chooseFile(path);
+    player.picture("importar"_t);
+    player.click("importar.include"_t);
+    player.answer("Confirma a Inclusão na LISTA DE FUNCIONARIOS?"_t, Answer::No);
+    player.click("importar.cancel"_t);
+}
+
 void registerEmployees(Player& player) {
     player.click("menu.employees.open"_t);
     player.picture("funcionarios-vazio"_t);
@@ -74,7 +103,21 @@ void registerEmployees(Player& player) {
     player.picture("funcionarios"_t);
     player.openTab("empregados.tabs"_t, "Contrato"_t);
     player.picture("funcionarios-contrato"_t);
+    player.trigger("empregados.sortByName"_t);
+    player.answer("Confirma Ordenação Alfabetica dos ITENS?"_t, Answer::Yes);
+    player.trigger("empregados.report"_t);
+    player.answer("Confirma Geração do Relatório de Colaboradores Ativos e Inativos?"_t,
+                  Answer::Yes);
+    lookAtReports(player);
+    lookAtImport(player);
     player.click("empregados.close"_t);
+}
+
+void lookAtShifts(Player& player) {
+    player.click("menu.shifts.open"_t);
+    player.choose("turnos.list"_t, "003"_t);
+    player.picture("turnos"_t);
+    player.click("turnos.close"_t);
 }
 
 void chooseMonth(Player& player) {
@@ -129,6 +172,7 @@ void printCards(Player& player) {
 void writeMonth(Player& player) {
     registerCompany(player);
     registerEmployees(player);
+    lookAtShifts(player);
     chooseMonth(player);
     applyCards(player);
     printCards(player);

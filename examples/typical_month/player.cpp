@@ -4,10 +4,12 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTabWidget>
@@ -72,6 +74,23 @@ void Player::then(std::function<void()> step) {
 
 void Player::click(const QString& name) {
     then([this, name] { QTest::mouseClick(find(name), Qt::LeftButton); });
+}
+
+void Player::trigger(const QString& name) {
+    then([this, name] {
+        auto* action = present()->findChild<QAction*>(name);
+        if (!action) fail(QStringLiteral("no command ") + name);
+        action->trigger();
+    });
+}
+
+void Player::chooseFile(const QString& path) {
+    then([this, path] {
+        auto* dialog = qobject_cast<QFileDialog*>(present());
+        if (!dialog) fail(QStringLiteral("no file dialog for ") + path);
+        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
 }
 
 void Player::type(const QString& name, const QString& text) {
@@ -144,11 +163,24 @@ void Player::answerNow(const QString& text, Answer answer) {
 }
 
 void Player::picture(const QString& name) {
-    then([this, name] { savePicture(name); });
+    then([this, name] { savePicture(present(), name); });
 }
 
-void Player::savePicture(const QString& name) {
-    QWidget* window = present();
+void Player::pictureBeside(const QString& objectName, const QString& name) {
+    then([this, objectName, name] {
+        QWidget* window = beside(objectName);
+        savePicture(window, name);
+        window->close();
+    });
+}
+
+QWidget* Player::beside(const QString& objectName) const {
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->objectName() == objectName) return window;
+    fail(QStringLiteral("no window ") + objectName);
+}
+
+void Player::savePicture(QWidget* window, const QString& name) {
     const QString stem = QStringLiteral("%1/telas/%2-%3")
                              .arg(folder_)
                              .arg(++pictures_, 2, 10, QLatin1Char('0'))

@@ -26,6 +26,10 @@ class Player : public QObject {
     explicit Player(QString folder);
 
     void click(const QString& name);
+    /// Gives a command of a menu.
+    void trigger(const QString& name);
+    /// Picks the file in the file dialog that is open.
+    void chooseFile(const QString& path);
     /// Replaces the text of a field by key presses.
     void type(const QString& name, const QString& text);
     /// Picks the entry of a list or combo box whose text contains `text`.
@@ -38,8 +42,12 @@ class Player : public QObject {
     void answer(const QString& text, Answer answer);
     /// Saves the present window in the light and in the dark palette.
     void picture(const QString& name);
+    /// The same of a window that lies beside it; closes it.
+    void pictureBeside(const QString& objectName, const QString& name);
     /// Anything else.
     void then(std::function<void()> step);
+
+    [[nodiscard]] const QString& folder() const { return folder_; }
 
     /// Plays all steps; 0 when every one succeeded.
     [[nodiscard]] int play();
@@ -50,7 +58,8 @@ class Player : public QObject {
     [[nodiscard]] static QWidget* present();
     [[nodiscard]] QWidget* find(const QString& name) const;
     void answerNow(const QString& text, Answer answer);
-    void savePicture(const QString& name);
+    void savePicture(QWidget* window, const QString& name);
+    [[nodiscard]] QWidget* beside(const QString& objectName) const;
     void record(const QString& title, const QString& text, const QString& icon,
                 const QString& answer) const;
 

@@ -12,6 +12,7 @@ namespace {
 Hint hintFor(FieldCheck check, const std::string& text, Entry entry) {
     switch (check) {
         case FieldCheck::None:
+        case FieldCheck::PostalCode:
             return {};
         case FieldCheck::Date:
             return dateHint(text, entry);
@@ -23,6 +24,10 @@ Hint hintFor(FieldCheck check, const std::string& text, Entry entry) {
             return idHint(checkCnpjOrCpf(text), "CNPJ/CPF", entry);
         case FieldCheck::Pis:
             return idHint(checkPis(text), "PIS", entry);
+        case FieldCheck::Occupation:
+            return occupationHint(text, entry);
+        case FieldCheck::Money:
+            return moneyHint(text, entry);
     }
     return {};
 }
@@ -38,9 +43,24 @@ void showHint(TextField& field, FieldCheck check, Entry entry) {
         field.setWarning(toQt(hint.text));
 }
 
+std::string completedText(FieldCheck check, const std::string& text) {
+    switch (check) {
+        case FieldCheck::Date:
+            return completedDate(text);
+        case FieldCheck::Cpf:
+            return completedCpf(text);
+        case FieldCheck::PostalCode:
+            return completedPostalCode(text);
+        case FieldCheck::Money:
+            return completedMoney(text);
+        default:
+            return text;
+    }
+}
+
 /// As if typed, so that the field counts as edited.
-void completeDate(QLineEdit& edit) {
-    const QString completed = toQt(completedDate(toUtf8(edit.text().trimmed())));
+void complete(QLineEdit& edit, FieldCheck check) {
+    const QString completed = toQt(completedText(check, toUtf8(edit.text().trimmed())));
     if (completed == edit.text() || completed.size() > edit.maxLength()) return;
     edit.selectAll();
     edit.insert(completed);
@@ -54,7 +74,7 @@ TextField* checkedField(const QString& caption, const QString& objectName, std::
     QObject::connect(field->edit(), &QLineEdit::textChanged, field,
                      [field, check] { showHint(*field, check, Entry::Typing); });
     QObject::connect(field->edit(), &QLineEdit::editingFinished, field, [field, check] {
-        if (check == FieldCheck::Date && field->edit()->isModified()) completeDate(*field->edit());
+        if (field->edit()->isModified()) complete(*field->edit(), check);
         showHint(*field, check, Entry::Left);
     });
     return field;

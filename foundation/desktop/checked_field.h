@@ -8,10 +8,11 @@
 namespace winvrx {
 
 /// What a field watches for while it is typed in.
-enum class FieldCheck { None, Date, Cnpj, Cpf, CnpjOrCpf, Pis };
+enum class FieldCheck { None, Date, Cnpj, Cpf, CnpjOrCpf, Pis, Occupation, PostalCode, Money };
 
 /// A text field that says under it what it finds in what the operator types; text that was only
-/// shown is not judged. A date is brought into its full form when the field is left.
+/// shown is not judged. Dates, CPFs, postal codes and amounts are brought into their full form when
+/// the field is left.
 [[nodiscard]] TextField* checkedField(const QString& caption, const QString& objectName,
                                       std::size_t width, FieldCheck check, QWidget* parent);
 

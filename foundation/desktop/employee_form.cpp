@@ -4,7 +4,10 @@
 #include "foundation/desktop/choice_field.h"
 #include "foundation/desktop/look.h"
 #include "foundation/desktop/notes_field.h"
+#include "foundation/employee_checks.h"
 #include "foundation/empregados.h"
+#include "foundation/input_checks.h"
+#include "foundation/money.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -37,14 +40,14 @@ constexpr std::array kPlacements = {
     Placement{&Employee::code, "code", 'C', kIdentity, 0, 2},
     Placement{&Employee::name, "name", 'N', kIdentity, 0, 10},
     Placement{&Employee::function, "function", 'F', kIdentity, 1, 8},
-    Placement{&Employee::occupation, "occupation", 'B', kIdentity, 1, 4},
+    Placement{&Employee::occupation, "occupation", 'B', kIdentity, 1, 4, FieldCheck::Occupation},
     Placement{&Employee::birthDate, "birthDate", 'M', kIdentity, 2, 4, FieldCheck::Date},
     Placement{&Employee::telephone, "telephone", 'T', kIdentity, 2, 5},
     Placement{&Employee::dependants, "dependants", 'P', kIdentity, 2, 3},
     Placement{&Employee::status, "status", 'Y', kIdentity, 3, 4},
     Placement{&Employee::admission, "admission", 'A', kContract, 0, 4, FieldCheck::Date},
     Placement{&Employee::dismissal, "dismissal", 'D', kContract, 0, 4, FieldCheck::Date},
-    Placement{&Employee::salary, "salary", 'L', kContract, 0, 4},
+    Placement{&Employee::salary, "salary", 'L', kContract, 0, 4, FieldCheck::Money},
     Placement{&Employee::bank, "bank", 'B', kContract, 1, 12},
     Placement{&Employee::taxId, "taxId", 'P', kDocuments, 0, 6, FieldCheck::Cpf},
     Placement{&Employee::identityCard, "identityCard", 'R', kDocuments, 0, 6},
@@ -56,15 +59,23 @@ constexpr std::array kPlacements = {
     Placement{&Employee::district, "district", 'B', kAddress, 1, 6},
     Placement{&Employee::city, "city", 'D', kAddress, 1, 6},
     Placement{&Employee::state, "state", 'U', kAddress, 2, 2},
-    Placement{&Employee::postalCode, "postalCode", 'P', kAddress, 2, 4},
+    Placement{&Employee::postalCode, "postalCode", 'P', kAddress, 2, 4, FieldCheck::PostalCode},
 };
 
 constexpr int kGridColumns = 12;
+constexpr int kLongestStatus = 32;  ///< "Inativo desde 10/02/2024" is no text of the record
+constexpr std::string_view kCurrency = "R$ ";
 
 const EmployeeField& layoutOf(std::string Employee::*member) {
     for (const EmployeeField& field : kEmployeeFields)
         if (field.member == member) return field;
     throw std::logic_error("employee member without a column");
+}
+
+/// An amount is shown with the "R$ " that the record leaves out.
+std::size_t typedWidth(const Placement& place) {
+    const std::size_t width = layoutOf(place.member).column.width;
+    return place.check == FieldCheck::Money ? width + kCurrency.size() : width;
 }
 
 QString objectNameOf(const char* thing) {
@@ -114,8 +125,9 @@ EmployeeForm::EmployeeForm(QWidget* parent) : QTabWidget(parent) {
     addPage(QStringLiteral("&3 Documentos"), kDocuments);
     addPage(QStringLiteral("&4 Endereço"), kAddress);
     addPage(QStringLiteral("&5 Observações"), kNotes);
-    fields_.fieldOf(&Employee::status)->edit()->setPlaceholderText(QStringLiteral("Ativo"));
-    setReadOnly(*fields_.fieldOf(&Employee::status));
+    TextField* status = fields_.fieldOf(&Employee::status);
+    status->edit()->setMaxLength(kLongestStatus);
+    setReadOnly(*status);
 }
 
 void EmployeeForm::addPage(const QString& title, int tab) {
@@ -136,7 +148,7 @@ void EmployeeForm::addPage(const QString& title, int tab) {
         if (place.tab != tab) continue;
         TextField* field =
             checkedField(captionOf(place.member, place.mnemonic), objectNameOf(place.name),
-                         layoutOf(place.member).column.width, place.check, page);
+                         typedWidth(place), place.check, page);
         int& at = next[static_cast<std::size_t>(place.row)];
         grid->addWidget(field, place.row, at, 1, place.span, Qt::AlignTop);
         at += place.span;
@@ -183,9 +195,11 @@ void EmployeeForm::addNotes(QWidget* page) {
     connect(notes_, &NotesField::edited, this, &EmployeeForm::edited);
 }
 
-void EmployeeForm::showEmployee(const Employee& employee, bool isNew) {
+void EmployeeForm::showEmployee(const Employee& employee, bool isNew, const QString& status) {
     shown_ = employee;
     fields_.show(employee);
+    fields_.fieldOf(&Employee::status)->setText(status);
+    fields_.fieldOf(&Employee::salary)->setText(toQt(completedMoney(employee.salary)));
     for (const BoundChoice& choice : choices_)
         choice.field->setStored(employee.*choice.member);
     notes_->setText(toQt(employee.notes));
@@ -199,6 +213,11 @@ Employee EmployeeForm::typed() const {
     for (const BoundChoice& choice : choices_)
         employee.*choice.member = choice.field->stored();
     employee.notes = trimmed(toUtf8(notes_->text()));
+    employee.status = shown_.status;
+    if (employee.salary == completedMoney(shown_.salary))
+        employee.salary = shown_.salary;
+    else if (const auto salary = parseMoney(employee.salary))
+        employee.salary = moneyText(*salary);
     return employee;
 }
 

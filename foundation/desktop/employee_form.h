@@ -20,7 +20,8 @@ class EmployeeForm : public QTabWidget {
     explicit EmployeeForm(QWidget* parent);
 
     /// `isNew`: the code may be typed. The code of a recorded employee stands in file names.
-    void showEmployee(const Employee& employee, bool isNew);
+    /// `status` is shown as the employee's situation.
+    void showEmployee(const Employee& employee, bool isNew, const QString& status);
     /// The employee shown, with what was typed since.
     [[nodiscard]] Employee typed() const;
     [[nodiscard]] bool isDirty() const { return typed() != shown_; }

@@ -4,6 +4,7 @@
 #include "foundation/desktop/qt_text.h"
 #include "foundation/empregados.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -20,7 +21,7 @@ QString counted(std::ptrdiff_t count, const QString& what) {
 
 }  // namespace
 
-EmpregadosWindow::EmpregadosWindow(Empregados& empregados, QWidget* parent)
+EmpregadosWindow::EmpregadosWindow(Empregados& empregados, EmployeeImport& import, QWidget* parent)
     : RegisterWindow({.screen = QStringLiteral("empregados"),
                       .title = QStringLiteral("Registro de Funcionários"),
                       .listTitle = toQt(kEmployeeListTitle),
@@ -29,13 +30,19 @@ EmpregadosWindow::EmpregadosWindow(Empregados& empregados, QWidget* parent)
                                                   "ao lado e grave."),
                       .emptyAction = QStringLiteral("Incluir o primeiro"),
                       .headings = {QStringLiteral("Código"), QStringLiteral("Nome"),
-                                   QStringLiteral("Função")}},
+                                   QStringLiteral("Função"), QStringLiteral("Situação")}},
                      parent),
-      empregados_(empregados) {
+      empregados_(empregados),
+      import_(import) {
     form_ = new EmployeeForm(this);
     connect(form_, &EmployeeForm::edited, this, &EmpregadosWindow::showState);
     connect(this, &ScreenWindow::helpRequested, this, [this] { empregados_.help(); });
+    addListCommands();
     assemble(form_, nullptr);
+    empregados_.tellWaiting([this](std::string_view text) {
+        setState(toQt(text));
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    });
     empregados_.load();
     if (!empregados_.companyTitle().empty()) setChips({toQt(empregados_.companyTitle())});
     refresh(0);
@@ -50,33 +57,40 @@ std::vector<RegisterList::Row> EmpregadosWindow::rows() const {
             continue;
         }
         const Employee& employee = line.employee;
-        const QString status = employee.status.empty()
-                                   ? QString()
-                                   : QStringLiteral(" (%1)").arg(toQt(employee.status));
-        const QStringList cells = {toQt(employee.code), toQt(employee.name) + status,
-                                   toQt(employee.function)};
+        const QStringList cells = {toQt(employee.code), toQt(employee.name),
+                                   toQt(employee.function), statusOf(line)};
         rows.push_back(
             {cells, cells.join(QLatin1Char(' ')) + QLatin1Char(' ') + toQt(employee.taxId)});
     }
     return rows;
 }
 
+QString EmpregadosWindow::statusOf(const EmployeeLine& line) const {
+    if (empregados_.inactiveSince(line)) return QStringLiteral("Inativo");
+    return line.employee.status == kDeletedStatus ? toQt(kDeletedStatus) : QStringLiteral("Ativo");
+}
+
 void EmpregadosWindow::showRecord(std::optional<std::size_t> position) {
     Employee employee;
+    QString status;
     const EmployeeLine* line = position ? &empregados_.lines().at(*position) : nullptr;
-    if (line && line->code())
+    if (line && line->code()) {
         employee = line->employee;
-    else if (const auto code = empregados_.proposedCode(); !line && code)
+        status = statusOf(*line);
+        if (const auto since = empregados_.inactiveSince(*line))
+            status += QStringLiteral(" desde ") + toQt(dateText(*since));
+    } else if (const auto code = empregados_.proposedCode(); !line && code) {
         employee.code = code->text();
-    form_->showEmployee(employee, !position);
+    }
+    form_->showEmployee(employee, !position, status);
     showCounts();
 }
 
 void EmpregadosWindow::showCounts() {
     const auto& lines = empregados_.lines();
-    const auto inactive = std::count_if(lines.begin(), lines.end(), [](const EmployeeLine& line) {
-        return line.code() && !line.employee.status.empty();
-    });
+    const auto inactive = std::count_if(
+        lines.begin(), lines.end(),
+        [this](const EmployeeLine& line) { return empregados_.inactiveSince(line).has_value(); });
     const auto unread = std::count_if(lines.begin(), lines.end(),
                                       [](const EmployeeLine& line) { return !line.code(); });
     const auto active = static_cast<std::ptrdiff_t>(lines.size()) - inactive - unread;

@@ -173,6 +173,12 @@ void setTint(QLabel& label, Tint tint) {
     label.style()->polish(&label);
 }
 
+QFont reportFont() {
+    QFont font(QStringLiteral("Courier New"), 10);
+    font.setStyleHint(QFont::Monospace);
+    return font;
+}
+
 QLabel* label(const QString& text, TextSize size, QWidget* parent) {
     auto* label = new QLabel(text, parent);
     label->setFont(font(size));

@@ -52,6 +52,8 @@ enum class TextSize { Title, Heading, Body, Hint };
 [[nodiscard]] QFont font(TextSize size);
 /// The system's fixed-pitch font, for times, dates and money in grids.
 [[nodiscard]] QFont fixedFont();
+/// The font that printed text reports are laid out for.
+[[nodiscard]] QFont reportFont();
 
 /// Writes the label in the tint; follows a change of palette.
 void setTint(QLabel& label, Tint tint);

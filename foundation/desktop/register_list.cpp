@@ -14,6 +14,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace winvrx {
 
 namespace {
@@ -21,6 +23,8 @@ namespace {
 constexpr int kSearchedRole = Qt::UserRole;
 constexpr int kUnderstoodRole = Qt::UserRole + 1;
 constexpr int kFewestRows = 3;
+constexpr int kStretched = 1;  ///< the column that takes the room left, a name
+constexpr int kCellMargin = 2 * look::kGap;
 
 }  // namespace
 
@@ -51,8 +55,7 @@ void RegisterList::buildTree(const QString& screen, const QString& title,
     tree_->setUniformRowHeights(true);
     tree_->setAlternatingRowColors(true);
     tree_->setAllColumnsShowFocus(true);
-    tree_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    tree_->header()->setSectionResizeMode(1, QHeaderView::Stretch);
+    tree_->header()->setSectionResizeMode(kStretched, QHeaderView::Stretch);
     tree_->header()->setStretchLastSection(false);
     tree_->installEventFilter(this);
     connect(tree_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
@@ -105,16 +108,32 @@ void RegisterList::setRows(const std::vector<Row>& rows) {
     tree_->clear();
     QFont apart = tree_->font();
     apart.setItalic(true);
+    QList<QTreeWidgetItem*> items;
+    items.reserve(static_cast<qsizetype>(rows.size()));
     for (const Row& row : rows) {
-        auto* item = new QTreeWidgetItem(tree_, row.cells);
+        auto* item = new QTreeWidgetItem(row.cells);
         item->setData(0, kSearchedRole, row.searched);
         item->setData(0, kUnderstoodRole, row.understood);
-        for (int cell = 0; cell < row.cells.size(); ++cell) {
-            item->setToolTip(cell, row.cells[cell]);
-            if (!row.understood) item->setFont(cell, apart);
-        }
+        item->setToolTip(kStretched, row.cells.value(kStretched));
+        for (int cell = 0; !row.understood && cell < row.cells.size(); ++cell)
+            item->setFont(cell, apart);
+        items << item;
     }
+    tree_->addTopLevelItems(items);
+    fitColumns(rows);
     filter();
+}
+
+void RegisterList::fitColumns(const std::vector<Row>& rows) {
+    const QFontMetrics metrics = tree_->fontMetrics();
+    for (int column = 0; column < tree_->columnCount(); ++column) {
+        if (column == kStretched) continue;
+        QString longest = tree_->headerItem()->text(column);
+        for (const Row& row : rows)
+            if (row.cells.value(column).size() > longest.size()) longest = row.cells[column];
+        tree_->setColumnWidth(column, std::max(tree_->header()->sectionSizeHint(column),
+                                               metrics.horizontalAdvance(longest) + kCellMargin));
+    }
 }
 
 std::size_t RegisterList::count() const {

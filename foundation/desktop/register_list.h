@@ -64,6 +64,8 @@ class RegisterList : public QWidget {
   private:
     void buildTree(const QString& screen, const QString& title, const QStringList& headings);
     void buildEmptyPage(const QString& screen);
+    /// Measures the longest text of each column only: measuring every cell of a long list shows.
+    void fitColumns(const std::vector<Row>& rows);
     void filter();
     void showPage(bool anyVisible);
 

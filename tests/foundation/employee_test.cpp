@@ -59,6 +59,14 @@ TEST(Employee, ARewrittenLineKeepsWhatTheTableDoesNotKnow) {
     EXPECT_EQ(changed.substr(34), line.substr(34));
 }
 
+TEST(Employee, ALineComesBackAsItWas) {
+    std::string leadingBlank = encode(decodeEmployee("001 ANA"));
+    leadingBlank.replace(4, 5, "  ANA");
+    for (const std::string& line : {std::string("001 ANA"), std::string("X"), leadingBlank,
+                                    std::string("001 \x81\x8D\x90 ?"), std::string(900, '\x9D')})
+        EXPECT_EQ(encode(decodeEmployee(line), line), line);
+}
+
 TEST(Employee, RecordTextsHaveAMeaning) {
     Employee employee;
     employee.scale = "Normal";

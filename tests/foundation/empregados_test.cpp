@@ -1,7 +1,6 @@
 #include "foundation/empregados.h"
 
-#include "tests/support/test_browser.h"
-#include "tests/support/test_workplace.h"
+#include "tests/support/employee_desk.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -10,8 +9,7 @@ namespace winvrx {
 namespace {
 
 using ::testing::ElementsAre;
-using testing::TestBrowser;
-using testing::TestWorkplace;
+using testing::EmployeeDesk;
 
 constexpr auto kInclusion = "Confirma a Inclusão na LISTA DE FUNCIONARIOS?";
 
@@ -52,9 +50,8 @@ class EmpregadosTest : public ::testing::Test {
         desk_.person.shown.clear();
     }
 
-    TestWorkplace desk_;
-    TestBrowser browser_;
-    Empregados empregados_{desk_.at, browser_};
+    EmployeeDesk desk_;
+    Empregados& empregados_ = desk_.empregados;
 };
 
 TEST_F(EmpregadosTest, IncludeAppendsToTheCompanysList) {
@@ -201,6 +198,94 @@ TEST_F(EmpregadosTest, AListChangedElsewhereIsNotOverwritten) {
     Employee second = ana();
     second.code = "002";
     expectRefusal("Dado Incorreto!", [&] { return empregados_.include(second); });
+}
+
+TEST_F(EmpregadosTest, AMemberOfARotationGroupKeepsShiftAndScale) {
+    addEmployees();
+    desk_.locks.members = {"001"};
+    Employee typed = empregados_.lines()[0].employee;
+    constexpr auto kRefusal =
+        "Não Permitido Alteração de TURNO ou ESCALA deste Funcionário pois consta na lista de um "
+        "dos Grupos de Escala de Revezamento. Para Alterar, Primeiro Remova-o da Lista de "
+        "Revezamento. ";
+    typed.shift = "Dois";
+    expectRefusal(kRefusal, [&] { return empregados_.change(0, typed); });
+    typed.shift = "UNICO";
+    typed.scale = "5x1";
+    typed.admission = "31/02/2024";
+    expectRefusal(kRefusal, [&] { return empregados_.change(0, typed); });
+    typed.scale = "Normal";
+    typed.admission = "12/03/2024";
+    desk_.person.answers = {Answer::Yes};
+    EXPECT_TRUE(empregados_.change(0, typed)) << "another spelling of the same shift";
+}
+
+TEST_F(EmpregadosTest, AClosedPayrollIsWarnedOf) {
+    addEmployees();
+    desk_.locks.closed = {"001"};
+    Employee typed = ana();
+    typed.function = "GERENTE";
+    desk_.person.answers = {Answer::Yes, Answer::No};
+    EXPECT_FALSE(empregados_.change(0, typed));
+    EXPECT_THAT(
+        desk_.person.takeTexts(),
+        ElementsAre("Confirma Alteração deste ITEM?",
+                    "ATENÇÃO! Não é Recomendável Alterar o Cadastro de Funcionário! Já Foi Gerada "
+                    "a Folha de Pagamento para este Funcionário!!",
+                    "Confirma Gravar Alteração dos Dados do Funcionário Selecionado?"));
+    desk_.person.answers = {Answer::Yes, Answer::Yes};
+    EXPECT_TRUE(empregados_.change(0, typed));
+}
+
+TEST_F(EmpregadosTest, AMemberIsDeletedOnlyAfterASecondYes) {
+    addEmployees();
+    desk_.locks.members = {"001"};
+    desk_.person.answers = {Answer::Yes, Answer::No};
+    EXPECT_FALSE(empregados_.remove(0));
+    EXPECT_THAT(desk_.person.takeTexts(),
+                ElementsAre("Deseja Excluir o ìtem Selecionado da LISTA DE FUNCIONARIOS?",
+                            "Não Permitido Excluir este Funcionário pois O COLABORADOR Consta na "
+                            "na Lista de um dos Grupos da Escala de Revezamento. Para Alterar, "
+                            "Primeiro Remova-o da Lista de Revezamento. ",
+                            "Deseja Excluir Mesmo Assim?"));
+    EXPECT_EQ(desk_.codes(), "001 002 ");
+    desk_.person.answers = {Answer::Yes, Answer::Yes};
+    EXPECT_TRUE(empregados_.remove(0));
+    EXPECT_EQ(desk_.codes(), "002 ");
+}
+
+TEST_F(EmpregadosTest, DeleteAllAsksTwiceAndLeavesOtherCompaniesAlone) {
+    addEmployees();
+    for (const char* name : {"01configAf001", "01MedHorExtr002", "01001-03-2024.bdx",
+                             "01001022024.pdx", "01002122023.pdx", "01fp0000203-2024.bdx"})
+        desk_.file(name) = "x";
+    const std::vector<std::string> staying = {
+        "02CartaPonto",      "02PadrHor001.pdx",    "02001022024.pdx",  "03configAf001",
+        "03001-03-2024.bdx", "01CartaoDePontoTipo", "01PadrHor003.pdx", "01032024ds.rdx"};
+    for (const std::string& name : staying)
+        desk_.file(name) = "stays";
+    const auto before = desk_.files.content;
+    desk_.person.answers = {Answer::Yes, Answer::No};
+    EXPECT_FALSE(empregados_.removeAll());
+    EXPECT_EQ(desk_.files.content, before);
+    EXPECT_EQ(desk_.person.shown.at(0).title, "EXCLUSÃO");
+    EXPECT_EQ(desk_.person.shown.at(1).title, "EXCLUSÃO");
+    EXPECT_THAT(desk_.person.takeTexts(),
+                ElementsAre("Deseja Excluir Toda LISTA DE FUNCIONARIOS?",
+                            "Tem Certeza de que Deseja Excluir Toda LISTA DE FUNCIONARIOS?"));
+    desk_.person.answers = {Answer::Yes, Answer::Yes};
+    EXPECT_TRUE(empregados_.removeAll());
+    EXPECT_EQ(desk_.codes(), "");
+    for (const std::string& name : staying)
+        EXPECT_EQ(desk_.file(name), "stays") << name;
+    EXPECT_EQ(desk_.files.content.size(), staying.size() + 2) << "beside list and copy";
+}
+
+TEST_F(EmpregadosTest, AFullDiskStopsDeleteAllBeforeAnythingIsGone) {
+    addEmployees();
+    desk_.file("bk-0115-03-2024-10-00.bkp") = desk_.file("01CartaPonto");
+    desk_.files.failWritesOn = {"01CartaPonto"};
+    expectRefusal("Dados incorretos!", [&] { return empregados_.removeAll(); });
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
-#include "foundation/empregados.h"
 #include "foundation/empresa.h"
+#include "tests/support/employee_desk.h"
 #include "tests/support/fenced_files.h"
-#include "tests/support/test_workplace.h"
 
 #include <gmock/gmock.h>
 
@@ -27,6 +26,9 @@ struct HostileNames : ::testing::Test {
     TestWorkplace desk;
     FencedFiles fenced{desk.files, "/data"};
     NoBrowser browser;
+    testing::TestEditor editor;
+    testing::TestSpreadsheet spreadsheet;
+    testing::TestLocks locks;
     Workplace at{fenced, desk.person, desk.clock, desk.log, desk.session, desk.lock};
 
     void answerYes(int times) {
@@ -60,7 +62,7 @@ TEST_F(HostileNames, AnEmployeeLineNamesNoFileOutside) {
     for (const std::string& code : kHostileCodes)
         bytes += code + " NOME\r\n";
     desk.file("01CartaPonto") = bytes;
-    Empregados screen(at, browser);
+    Empregados screen(at, {browser, editor, spreadsheet, locks, locks});
     screen.load();
     ASSERT_EQ(screen.lines().size(), kHostileCodes.size());
     EXPECT_THAT(employeesOf(screen.lines(), ShiftFilter::Todos), IsEmpty());
@@ -78,7 +80,7 @@ TEST_F(HostileNames, ATypedCodeNamesNoFileOutside) {
     typed.admission = "01/02/2020";
     typed.shift = "Unico";
     typed.scale = "Normal";
-    Empregados screen(at, browser);
+    Empregados screen(at, {browser, editor, spreadsheet, locks, locks});
     screen.load();
     for (const std::string& code : kHostileCodes) {
         typed.code = code;

@@ -110,5 +110,37 @@ TEST(InputChecks, TextsThatNoRecordHoldsAreNamed) {
         EXPECT_EQ(textHint(text).tone, Hint::Tone::Warning) << text;
 }
 
+TEST(InputChecks, NumbersAreBroughtIntoTheirForm) {
+    struct Case {
+        std::string (*completed)(std::string_view);
+        const char* typed;
+        const char* text;
+    };
+    for (const Case& c : {Case{completedCpf, "52998224725", "529.982.247-25"},
+                          {completedCpf, "529.982.247-25", "529.982.247-25"},
+                          {completedCpf, "5299822472", "5299822472"},
+                          {completedCpf, "529982247ab", "529982247ab"},
+                          {completedPostalCode, "12080700", "12080-700"},
+                          {completedPostalCode, "1208070", "1208070"},
+                          {completedMoney, "1850", "R$ 1.850,00"},
+                          {completedMoney, "R$1.234.567,8", "R$ 1.234.567,80"},
+                          {completedMoney, "0,05", "R$ 0,05"},
+                          {completedMoney, "1.85", "1.85"},
+                          {completedMoney, "-3", "-3"},
+                          {completedMoney, "1,234", "1,234"},
+                          {completedMoney, ".123", ".123"},
+                          {completedMoney, "9999999999999", "9999999999999"},
+                          {completedMoney, "", ""}})
+        EXPECT_EQ(c.completed(c.typed), c.text) << c.typed;
+}
+
+TEST(InputChecks, AnOccupationHasSixDigits) {
+    EXPECT_EQ(occupationHint("521110", Entry::Left), Hint{});
+    EXPECT_EQ(occupationHint("5211-10", Entry::Left), Hint{});
+    EXPECT_EQ(occupationHint("5211", Entry::Typing), Hint{});
+    EXPECT_EQ(occupationHint("5211", Entry::Left).text, "O CBO tem seis algarismos.");
+    EXPECT_EQ(occupationHint("52a", Entry::Typing).text, "O CBO tem seis algarismos.");
+}
+
 }  // namespace
 }  // namespace winvrx

@@ -1,11 +1,14 @@
 #include "tests/support/writing_commands.h"
 
 #include "foundation/durable_files.h"
-#include "foundation/empregados.h"
+#include "foundation/employee_checks.h"
+#include "foundation/employee_import.h"
 #include "foundation/empresa.h"
 #include "foundation/menu.h"
 #include "foundation/restaurar_copia.h"
+#include "foundation/turnos.h"
 #include "output/tipo_ponto.h"
+#include "tests/support/employee_desk.h"
 #include "tests/support/plain_archiver.h"
 #include "tests/support/test_browser.h"
 #include "timecard/cartao_ponto_dados.h"
@@ -113,7 +116,10 @@ template <typename Give>
 auto inEmpregados(Give give) {
     return [give](const Workplace& at, const Drives&) {
         TestBrowser browser;
-        Empregados screen(at, browser);
+        TestEditor editor;
+        TestSpreadsheet spreadsheet;
+        TestLocks locks;
+        Empregados screen(at, {browser, editor, spreadsheet, locks, locks});
         screen.load();
         return screen.lines().size() > 1 && give(screen);
     };
@@ -182,6 +188,46 @@ std::vector<WritingCommand> registerCommands() {
          })},
         {"delete employee", office(),
          inEmpregados([](Empregados& screen) { return screen.remove(1); })},
+        {"delete all employees", office(),
+         inEmpregados([](Empregados& screen) { return screen.removeAll(); })},
+    };
+}
+
+/// An employee without punches, with two files to take along.
+FileTable officeBeforeTransfer() {
+    FileTable files = office();
+    files[inDataFolder("01PadrHor001.pdx")] = "08:00\r\n";
+    files[inDataFolder("01configAf001")] = "**** \r\n";
+    return files;
+}
+
+bool changeShift(const Workplace& at, const Drives&) {
+    TestBrowser browser;
+    TestLocks locks;
+    Turnos screen(at, browser, locks);
+    screen.load();
+    return screen.change(*EmployeeCode::parse("002"), Shift::Dois);
+}
+
+bool importEmployees(const Workplace& at, const Drives&) {
+    EmployeeImport import(at);
+    return import.open(at.session.folder.file("lista.csv")) && import.include();
+}
+
+std::vector<WritingCommand> listCommands() {
+    FileTable withCsv = office();
+    withCsv[inDataFolder("lista.csv")] = "Nome;Admissão\nFLAVIA;12/03/2024\n";
+    return {
+        {"transfer employee", officeBeforeTransfer(), inEmpregados([](Empregados& screen) {
+             return screen.lines()[0].employee.name == "ANA" &&
+                    screen.transfer(0, *CompanyCode::parse("02"));
+         })},
+        {"sort employees", office(),
+         inEmpregados([](Empregados& screen) { return screen.sortByName(); })},
+        {"report employees", office(),
+         inEmpregados([](Empregados& screen) { return screen.report(); })},
+        {"change shift", office(), changeShift},
+        {"import employees", withCsv, importEmployees},
     };
 }
 
@@ -260,7 +306,8 @@ void PrintTo(const WritingCommand& command, std::ostream* out) {
 const std::vector<WritingCommand>& writingCommands() {
     static const std::vector<WritingCommand> commands = [] {
         std::vector<WritingCommand> all;
-        for (const auto& part : {registerCommands(), menuCommands(), cardCommands()})
+        for (const auto& part :
+             {registerCommands(), listCommands(), menuCommands(), cardCommands()})
             all.insert(all.end(), part.begin(), part.end());
         return all;
     }();

@@ -1,10 +1,10 @@
 #include "foundation/desktop/empregados_window.h"
 
-#include "foundation/empregados.h"
-#include "tests/support/test_browser.h"
-#include "tests/support/test_workplace.h"
+#include "foundation/employee_import.h"
+#include "tests/support/employee_desk.h"
 #include "tests/support/window_driver.h"
 
+#include <QAction>
 #include <QPlainTextEdit>
 #include <QTreeWidget>
 
@@ -16,10 +16,9 @@
 namespace winvrx {
 namespace {
 
+using testing::EmployeeDesk;
 using ::testing::HasSubstr;
 using ::testing::Not;
-using testing::TestBrowser;
-using testing::TestWorkplace;
 using testing::WindowDriver;
 
 class EmpregadosWindowTest : public ::testing::Test {
@@ -29,7 +28,7 @@ class EmpregadosWindowTest : public ::testing::Test {
         for (const Employee& employee : employees)
             lines.push_back(encode(employee));
         if (!lines.empty()) desk_.file("01CartaPonto") = joinedLines(lines);
-        screen_.emplace(window_.emplace(empregados_));
+        screen_.emplace(window_.emplace(desk_.empregados, import_));
     }
 
     static Employee employee(const char* code, const char* name) {
@@ -50,9 +49,8 @@ class EmpregadosWindowTest : public ::testing::Test {
         return count;
     }
 
-    TestWorkplace desk_;
-    TestBrowser browser_;
-    Empregados empregados_{desk_.at, browser_};
+    EmployeeDesk desk_;
+    EmployeeImport import_{desk_.at};
     std::optional<EmpregadosWindow> window_;
     std::optional<WindowDriver> screen_;
 };
@@ -203,6 +201,48 @@ TEST_F(EmpregadosWindowTest, DeletesTheSelectedEmployee) {
     EXPECT_EQ(screen_->state(), "1 de 1");
     EXPECT_EQ(screen_->text("empregados.name"), "BIA");
     EXPECT_FALSE(desk_.files.exists("/data/01PadrHor001.pdx"));
+}
+
+TEST_F(EmpregadosWindowTest, TheStatusComesFromTheLeaveFile) {
+    desk_.file("01configAf002") = "**** 10/02/2024\r\n";
+    open({employee("001", "ANA"), employee("002", "BIA")});
+    EXPECT_EQ(screen_->find<QLabel>("subtitle").text().toStdString(), "1 ativo, 1 inativo");
+    EXPECT_EQ(screen_->text("empregados.status"), "Ativo");
+    screen_->press(Qt::Key_PageDown);
+    EXPECT_EQ(screen_->text("empregados.status"), "Inativo desde 10/02/2024");
+    EXPECT_THAT(screen_->state(), Not(HasSubstr("Alterações")));
+}
+
+TEST_F(EmpregadosWindowTest, AmountsAndNumbersGetTheirForm) {
+    Employee ana = employee("001", "ANA");
+    ana.salary = "1850";
+    open({ana});
+    EXPECT_EQ(screen_->text("empregados.salary"), "R$ 1.850,00");
+    EXPECT_EQ(screen_->state(), "1 de 1") << "another form is no edit";
+    screen_->type("empregados.salary", "2000,5");
+    screen_->type("empregados.taxId", "52998224725");
+    screen_->type("empregados.postalCode", "12080700");
+    screen_->find("empregados.name").setFocus();
+    EXPECT_EQ(screen_->text("empregados.salary"), "R$ 2.000,50");
+    desk_.person.answers = {Answer::Yes};
+    screen_->press(Qt::Key_F2);
+    const Employee stored = decodeEmployee(desk_.file("01CartaPonto"));
+    EXPECT_EQ(stored.salary, "2.000,50");
+    EXPECT_EQ(stored.taxId, "529.982.247-25");
+    EXPECT_EQ(stored.postalCode, "12080-700");
+}
+
+TEST_F(EmpregadosWindowTest, SortingKeepsTheSelectionAndAsksAboutTypedText) {
+    open({employee("001", "ZULMIRA"), employee("002", "ANA")});
+    screen_->type("empregados.telephone", "5555");
+    screen_->find<QAction>("empregados.sortByName").trigger();
+    EXPECT_EQ(desk_.codes(), "001 002 ") << "the typed text is asked about first";
+    EXPECT_EQ(screen_->text("empregados.telephone"), "5555");
+    desk_.person.answers = {Answer::Yes, Answer::Yes};
+    screen_->find<QAction>("empregados.sortByName").trigger();
+    EXPECT_EQ(desk_.codes(), "002 001 ");
+    EXPECT_EQ(screen_->text("empregados.name"), "ZULMIRA");
+    EXPECT_EQ(screen_->state(), "2 de 2");
 }
 
 TEST_F(EmpregadosWindowTest, TheCodeOfARecordedEmployeeIsFixed) {

@@ -1,0 +1,50 @@
+#include "foundation/desktop/text_viewer_window.h"
+
+#include "foundation/desktop/look.h"
+
+#include <QPlainTextEdit>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QTextDocument>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace winvrx {
+
+TextViewerWindow::TextViewerWindow(const QString& title, const QString& text, QWidget* parent)
+    : ScreenWindow(QStringLiteral("relatorio"), QStringLiteral("Relatório"), parent) {
+    setSubtitle(title);
+    QToolButton* print = addCommand(QStringLiteral("print"), QStringLiteral("Imprimir"),
+                                    QKeySequence::Print, QStringLiteral("relatorio.print"));
+    connect(print, &QToolButton::clicked, this, &TextViewerWindow::print);
+    auto* body = new QWidget(this);
+    auto* column = new QVBoxLayout(body);
+    look::layOutBody(*column);
+    text_ = new QPlainTextEdit(text, body);
+    text_->setObjectName(QStringLiteral("relatorio.text"));
+    text_->setAccessibleName(title);
+    text_->setReadOnly(true);
+    text_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    text_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    text_->setFont(look::fixedFont());
+    column->addWidget(text_);
+    setBody(body);
+    QPushButton* close =
+        addClosingButton(QStringLiteral("&Sair"), QStringLiteral("relatorio.close"));
+    connect(close, &QPushButton::clicked, this, &TextViewerWindow::reject);
+    text_->setFocus();
+}
+
+void TextViewerWindow::print() {
+    QPrinter printer;
+    printer.setDocName(windowTitle());
+    QPrintDialog dialog(&printer, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    QTextDocument page;
+    page.setDefaultFont(look::reportFont());
+    page.setPlainText(text_->toPlainText());
+    page.print(&printer);
+}
+
+}  // namespace winvrx

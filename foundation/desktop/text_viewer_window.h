@@ -1,0 +1,22 @@
+#pragma once
+
+#include "foundation/desktop/screen_window.h"
+
+class QPlainTextEdit;
+
+namespace winvrx {
+
+/// Shows a fixed-width text report and prints it: for desktops without a text editor.
+class TextViewerWindow : public ScreenWindow {
+    Q_OBJECT
+
+  public:
+    TextViewerWindow(const QString& title, const QString& text, QWidget* parent = nullptr);
+
+  private:
+    void print();
+
+    QPlainTextEdit* text_;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,34 @@
+#include "foundation/employee_queries.h"
+
+#include "foundation/record_file.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::string_view kGroupStem = "GRUPO-";
+
+}  // namespace
+
+bool RecordedLocks::isMember(const CompanyCode& company, const EmployeeCode& employee) const {
+    const std::string beginning = company.text() + std::string(kGroupStem);
+    for (const std::string& name : files_.names(folder_.path())) {
+        if (!name.starts_with(beginning)) continue;
+        const auto lines = splitLines(files_.read(folder_.file(name)).value_or(std::string()));
+        if (std::any_of(lines.begin(), lines.end(),
+                        [&](const std::string& line) { return line.starts_with(employee.text()); }))
+            return true;
+    }
+    return false;
+}
+
+bool RecordedLocks::hasClosedMonth(const CompanyCode& company, const EmployeeCode& employee) const {
+    const auto names = files_.names(folder_.path());
+    return std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+        return isPayrollOfEmployee(name, company, employee);
+    });
+}
+
+}  // namespace winvrx

@@ -1,0 +1,79 @@
+#include "foundation/turnos.h"
+
+#include "foundation/company_register.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+const Message kConfirmChange{"ALTERAÇÃO", "Confirma Alteração deste ITEM?", Icon::Question,
+                             Buttons::YesNo};
+const Message kRotationMember{
+    "ALTERAÇÃO",
+    "Não Permitido Alteração de Turno deste Funcionário pois consta na lista de um dos Grupos da "
+    "Escala de Revezamento. Para Alterar, Primeiro Remova-o da Lista de Revezamento. ",
+    Icon::Exclamation};
+const Message kBarredByScale{
+    "Aviso", "Dado Incorreto!", Icon::Exclamation, Buttons::Ok,
+    "A escala 12x36 é permitida somente nos turnos 1 e 3. Altere primeiro a escala."};
+const Message kNobodySelected{"Aviso", "Selecione um Funcionário na Lista!", Icon::Exclamation};
+
+}  // namespace
+
+void Turnos::load() {
+    (void)attempt(at_, incorrectData(), [this] {
+        companyTitle_ = titleOf(loadCompanies(at_.files, at_.session.folder), at_.session.company);
+        lines_.clear();
+        if (at_.session.company)
+            lines_ = EmployeeRegister(at_.files, at_.session.folder, *at_.session.company).load();
+        return true;
+    });
+}
+
+bool Turnos::change(const EmployeeCode& employee, Shift shift) {
+    if (!at_.person.agrees(kConfirmChange)) return false;
+    return attempt(at_, incorrectData(), [&] {
+        const CompanyCode company = at_.session.company.value();
+        EmployeeRegister list(at_.files, at_.session.folder, company);
+        auto lines = list.load();
+        if (rotation_.isMember(company, employee)) {
+            at_.person.tell(kRotationMember);
+            return false;
+        }
+        if (!allows(lineOfEmployee(lines, employee).employee.scaleOr(), shift)) {
+            at_.person.tell(kBarredByScale);
+            return false;
+        }
+        const auto hold = holdFolder(at_);
+        lines = list.load();
+        EmployeeLine& line = lineOfEmployee(lines, employee);
+        Employee changed = line.employee;
+        changed.shift = codeOf(shift);
+        line = lineOf(changed, line.bytes);
+        list.save(lines, at_.clock.now());
+        lines_ = std::move(lines);
+        return true;
+    });
+}
+
+EmployeeLine& Turnos::lineOfEmployee(std::vector<EmployeeLine>& lines,
+                                     const EmployeeCode& employee) {
+    const auto line = std::find_if(lines.begin(), lines.end(),
+                                   [&](const EmployeeLine& one) { return one.code() == employee; });
+    if (line == lines.end())
+        throw Fault("employee " + employee.text() + " is not in the list",
+                    "O funcionário não está mais na lista. Abra a tela novamente.");
+    return *line;
+}
+
+void Turnos::askForEmployee() {
+    at_.person.tell(kNobodySelected);
+}
+
+void Turnos::help() {
+    openHelp(at_, browser_);
+}
+
+}  // namespace winvrx

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "foundation/browser.h"
+#include "foundation/command.h"
+#include "foundation/employee_queries.h"
+#include "foundation/employee_register.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace winvrx {
+
+/// The filters that the screen offers, in its order.
+inline constexpr std::array kTurnosFilters = {
+    ShiftFilter::Unico, ShiftFilter::Um, ShiftFilter::Dois, ShiftFilter::Tres, ShiftFilter::Todos};
+
+/// The small screen that changes the shift of employees already registered. Holds the list as the
+/// screen shows it; a command that is refused or fails leaves list and file as they were.
+class Turnos {
+  public:
+    Turnos(const Workplace& at, Browser& browser, const RotationMembership& rotation)
+        : at_(at), browser_(browser), rotation_(rotation), filter_(at.session.shiftFilter) {}
+
+    /// Reads the list of the selected company; none selected gives an empty list.
+    void load();
+    [[nodiscard]] ShiftFilter filter() const { return filter_; }
+    void setFilter(ShiftFilter filter) { filter_ = filter; }
+    /// The employees with a code whose shift passes the filter, in list order.
+    [[nodiscard]] std::vector<Employee> shown() const { return employeesOf(lines_, filter_); }
+    /// "01 EMPRESA MODELO LTDA"; empty when no company is selected.
+    [[nodiscard]] const std::string& companyTitle() const { return companyTitle_; }
+
+    /// Gives the employee another shift, unless he is in a rotation group or his scale bars it.
+    /// True when it was recorded.
+    [[nodiscard]] bool change(const EmployeeCode& employee, Shift shift);
+    /// Tells that an employee has to be selected first.
+    void askForEmployee();
+    void help();
+
+  private:
+    /// The employee's place in the list; throws Fault when he is no longer there.
+    [[nodiscard]] static EmployeeLine& lineOfEmployee(std::vector<EmployeeLine>& lines,
+                                                      const EmployeeCode& employee);
+
+    Workplace at_;
+    Browser& browser_;
+    const RotationMembership& rotation_;
+    ShiftFilter filter_;
+    std::vector<EmployeeLine> lines_;
+    std::string companyTitle_;
+};
+
+}  // namespace winvrx

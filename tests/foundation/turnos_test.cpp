@@ -1,0 +1,79 @@
+#include "foundation/turnos.h"
+
+#include "tests/support/employee_desk.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace winvrx {
+namespace {
+
+using ::testing::ElementsAre;
+using testing::EmployeeDesk;
+
+class TurnosTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        Employee bia = EmployeeDesk::employee("002", "BIA");
+        bia.shift = "Tres";
+        bia.scale = "12x36";
+        desk_.record("01", {EmployeeDesk::employee("001", "ANA"), bia});
+        turnos_.load();
+    }
+
+    [[nodiscard]] std::string shown() const {
+        std::string codes;
+        for (const Employee& one : turnos_.shown())
+            codes += one.code + " ";
+        return codes;
+    }
+
+    EmployeeDesk desk_;
+    Turnos turnos_{desk_.at, desk_.browser, desk_.locks};
+    EmployeeCode ana_ = *EmployeeCode::parse("001");
+    EmployeeCode bia_ = *EmployeeCode::parse("002");
+};
+
+TEST_F(TurnosTest, ChangesTheShiftOnly) {
+    const Employee before = decodeEmployee(splitLines(desk_.file("01CartaPonto"))[0]);
+    EXPECT_FALSE(turnos_.change(ana_, Shift::Dois)) << "No leaves the shift";
+    desk_.person.takeTexts();
+    desk_.person.answers = {Answer::Yes};
+    EXPECT_TRUE(turnos_.change(ana_, Shift::Dois));
+    EXPECT_EQ(desk_.person.shown[0].title, "ALTERAÇÃO");
+    EXPECT_THAT(desk_.person.takeTexts(), ElementsAre("Confirma Alteração deste ITEM?"));
+    Employee after = decodeEmployee(splitLines(desk_.file("01CartaPonto"))[0]);
+    EXPECT_EQ(after.shift, "Dois");
+    after.shift = before.shift;
+    EXPECT_EQ(after, before);
+    EXPECT_TRUE(desk_.files.exists("/data/bk-0115-03-2024-10-00.bkp"));
+}
+
+TEST_F(TurnosTest, TheListFollowsTheFilter) {
+    EXPECT_EQ(shown(), "001 002 ");
+    turnos_.setFilter(ShiftFilter::Tres);
+    EXPECT_EQ(shown(), "002 ");
+    turnos_.setFilter(ShiftFilter::Um);
+    EXPECT_EQ(shown(), "");
+    desk_.session.shiftFilter = ShiftFilter::Unico;
+    EXPECT_EQ(Turnos(desk_.at, desk_.browser, desk_.locks).filter(), ShiftFilter::Unico);
+}
+
+TEST_F(TurnosTest, Refuses) {
+    const auto before = desk_.files.content;
+    desk_.locks.members = {"001"};
+    desk_.person.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
+    EXPECT_FALSE(turnos_.change(ana_, Shift::Dois));
+    EXPECT_EQ(desk_.person.shown.back().text,
+              "Não Permitido Alteração de Turno deste Funcionário pois consta na lista de um dos "
+              "Grupos da Escala de Revezamento. Para Alterar, Primeiro Remova-o da Lista de "
+              "Revezamento. ");
+    EXPECT_FALSE(turnos_.change(bia_, Shift::Dois));
+    EXPECT_EQ(desk_.person.shown.back().text, "Dado Incorreto!") << "12x36 bars the second shift";
+    EXPECT_FALSE(turnos_.change(*EmployeeCode::parse("077"), Shift::Dois));
+    EXPECT_EQ(desk_.person.shown.back().text, "Dados incorretos!");
+    EXPECT_EQ(desk_.files.content, before);
+}
+
+}  // namespace
+}  // namespace winvrx

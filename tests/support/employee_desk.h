@@ -1,0 +1,84 @@
+#pragma once
+
+#include "foundation/empregados.h"
+#include "tests/support/test_browser.h"
+#include "tests/support/test_workplace.h"
+
+#include <set>
+
+namespace winvrx::testing {
+
+/// Remembers what it was asked to show; `works` is its answer.
+class TestEditor final : public TextEditor {
+  public:
+    bool works = true;
+    std::vector<std::string> opened;
+
+    bool open(const std::filesystem::path& file) override {
+        opened.push_back(file.filename().string());
+        return works;
+    }
+};
+
+/// Remembers the table; the workbook is a word.
+class TestSpreadsheet final : public Spreadsheet {
+  public:
+    Table table;
+
+    std::string workbookOf(const Table& written, const std::string&) override {
+        table = written;
+        return "workbook";
+    }
+};
+
+/// Answers with the employees that the test names.
+struct TestLocks final : RotationMembership, PayrollLock {
+    std::set<std::string> members;
+    std::set<std::string> closed;
+
+    bool isMember(const CompanyCode&, const EmployeeCode& employee) const override {
+        return members.contains(employee.text());
+    }
+    bool hasClosedMonth(const CompanyCode&, const EmployeeCode& employee) const override {
+        return closed.contains(employee.text());
+    }
+};
+
+/// A desk with the employee register's screen on it.
+struct EmployeeDesk : TestWorkplace {
+    TestBrowser browser;
+    TestEditor editor;
+    TestSpreadsheet spreadsheet;
+    TestLocks locks;
+    Empregados empregados{at, {browser, editor, spreadsheet, locks, locks}};
+
+    /// An employee who can be recorded.
+    [[nodiscard]] static Employee employee(const char* code, const char* name,
+                                           const char* admission = "12/03/2024") {
+        Employee made;
+        made.code = code;
+        made.name = name;
+        made.admission = admission;
+        made.shift = "Unico";
+        made.scale = "Normal";
+        return made;
+    }
+
+    void record(const char* company, const std::vector<Employee>& employees) {
+        std::vector<std::string> lines;
+        for (const Employee& one : employees)
+            lines.push_back(encode(one));
+        file(std::string(company) + "CartaPonto") = joinedLines(lines);
+        empregados.load();
+    }
+
+    /// The codes of the company's list on disk, in its order.
+    [[nodiscard]] std::string codes(const char* company = "01") {
+        std::string codes;
+        for (const std::string& line : splitLines(file(std::string(company) + "CartaPonto")))
+            codes += line.substr(0, 3) + " ";
+        return codes;
+    }
+};
+
+}  // namespace winvrx::testing
