@@ -8,7 +8,7 @@ using fuzz::require;
 namespace {
 
 void checkLine(const EmployeeLine& line) {
-    require(encode(line.employee, line.bytes) == fuzz::widened(line.bytes, kEmployeeWidth),
+    require(line.bytes.empty() || encode(line.employee, line.bytes) == line.bytes,
             "an unchanged employee keeps its bytes");
     if (const auto code = line.code()) fuzz::requireInside(*code);
     try {

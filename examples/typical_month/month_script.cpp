@@ -103,8 +103,6 @@ void registerEmployees(Player& player) {
     player.picture("funcionarios"_t);
     player.openTab("empregados.tabs"_t, "Contrato"_t);
     player.picture("funcionarios-contrato"_t);
-    player.trigger("empregados.sortByName"_t);
-    player.answer("Confirma Ordenação Alfabetica dos ITENS?"_t, Answer::Yes);
     player.trigger("empregados.report"_t);
     player.answer("Confirma Geração do Relatório de Colaboradores Ativos e Inativos?"_t,
                   Answer::Yes);

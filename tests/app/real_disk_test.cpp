@@ -1,9 +1,8 @@
 #ifndef _WIN32
 
-#include "foundation/empregados.h"
 #include "foundation/empresa.h"
+#include "tests/support/employee_desk.h"
 #include "tests/support/real_office.h"
-#include "tests/support/test_browser.h"
 
 #include <gmock/gmock.h>
 
@@ -204,7 +203,10 @@ constexpr int kTurns = 500;
 bool countsUp(const Workplace& at, std::size_t position) {
     TestBrowser browser;
     for (int turn = 0; turn < kTurns; ++turn) {
-        Empregados people(at, browser);
+        TestEditor editor;
+        TestSpreadsheet spreadsheet;
+        TestLocks locks;
+        Empregados people(at, {browser, editor, spreadsheet, locks, locks});
         people.load();
         Employee mine = people.lines().at(position).employee;
         if (mine.notes != std::to_string(turn)) return false;
@@ -234,7 +236,10 @@ TEST(TwoProcesses, WriteToOneListFiveHundredTimesEachAndLoseNothing) {
         companies.load();
         Company zero = companies.lines().at(0).company;
         zero.telephone = "0";
-        Empregados people(at, browser);
+        TestEditor editor;
+        TestSpreadsheet spreadsheet;
+        TestLocks locks;
+        Empregados people(at, {browser, editor, spreadsheet, locks, locks});
         people.load();
         bool done = companies.change(0, zero);
         for (const std::size_t position : {0U, 1U}) {
