@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QPlainTextEdit>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include <gmock/gmock.h>
@@ -230,6 +231,19 @@ TEST_F(EmpregadosWindowTest, AmountsAndNumbersGetTheirForm) {
     EXPECT_EQ(stored.salary, "2.000,50");
     EXPECT_EQ(stored.taxId, "529.982.247-25");
     EXPECT_EQ(stored.postalCode, "12080-700");
+}
+
+TEST_F(EmpregadosWindowTest, AKeyOpensTheMenuOfTheList) {
+    open({employee("001", "ANA")});
+    std::string opened;
+    QTimer::singleShot(0, &*window_, [&] {
+        if (QWidget* popup = QApplication::activePopupWidget()) {
+            opened = popup->objectName().toStdString();
+            popup->close();
+        }
+    });
+    screen_->press(Qt::Key_F9);
+    EXPECT_EQ(opened, "empregados.menu");
 }
 
 TEST_F(EmpregadosWindowTest, SortingKeepsTheSelectionAndAsksAboutTypedText) {
