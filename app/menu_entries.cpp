@@ -35,7 +35,7 @@ void addRegisters(std::vector<MenuEntry>& entries, Screens& screens) {
         [&](QWidget* parent) { screens.openEmployees(parent); },
         [&] { return screens.employeesState(); }));
     entries.push_back(entry(
-        MenuCommand::Shifts, group, "shifts.open", "shifts", "&Turnos", Qt::Key_F8,
+        MenuCommand::Shifts, group, "shifts.open", "shifts", "&Turnos", Qt::Key_F9,
         [&](QWidget* parent) { screens.openShifts(parent); },
         [&] { return screens.shiftsState(); }));
 }
