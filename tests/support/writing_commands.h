@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/command.h"
+#include "tests/support/filled_office.h"
 #include "tests/support/memory_disk.h"
 #include "tests/support/test_workplace.h"
 
@@ -11,9 +12,6 @@
 #include <vector>
 
 namespace winvrx::testing {
-
-/// Bytes by path, the path relative to the root of drive "C".
-using FileTable = std::map<std::string, std::string>;
 
 /// One writing command of the program, given in a freshly started program at a filled office.
 /// Everything that writes records has an entry; the trials of the disk run them all.
@@ -29,11 +27,14 @@ struct WritingCommand {
 /// For the names of test cases: "delete_company".
 void PrintTo(const WritingCommand& command, std::ostream* out);
 
+/// The entries by subject.
+[[nodiscard]] std::vector<WritingCommand> registerCommands();
+[[nodiscard]] std::vector<WritingCommand> listCommands();
+[[nodiscard]] std::vector<WritingCommand> menuCommands();
+[[nodiscard]] std::vector<WritingCommand> cardCommands();
+
 [[nodiscard]] const std::vector<WritingCommand>& writingCommands();
 [[nodiscard]] const WritingCommand& writingCommand(const std::string& name);
-
-/// The path of a file of the data folder in a FileTable.
-[[nodiscard]] std::string inDataFolder(const std::string& name);
 
 /// Drive "C" is a folder; "D" one beside it.
 class FolderDrives final : public Drives {

@@ -1,0 +1,67 @@
+// What the screens of the time card and of its printing write.
+#include "output/tipo_ponto.h"
+#include "tests/support/test_browser.h"
+#include "tests/support/writing_commands.h"
+#include "timecard/cartao_ponto_dados.h"
+#include "timecard/data_mes_corrente.h"
+
+namespace winvrx::testing {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+template <typename Give>
+auto onCardOf(std::size_t position, Give give) {
+    return [position, give](const Workplace& at, const Drives&) {
+        CartaoPontoDados screen(at);
+        return screen.open() && screen.select(position) && give(screen);
+    };
+}
+
+template <typename Give>
+auto inMonth(Give give) {
+    return [give](const Workplace& at, const Drives&) {
+        DataMesCorrente screen(at);
+        screen.open();
+        screen.tick(*parseDate("29/03/2024"), true);
+        return give(screen);
+    };
+}
+
+bool chooseStock(const Workplace& at, const Drives&) {
+    TestBrowser browser;
+    TipoPonto screen(at, browser);
+    screen.load();
+    return screen.choose(*findStock("12"));
+}
+
+}  // namespace
+
+std::vector<WritingCommand> cardCommands() {
+    return {
+        {"record month", filledOffice(),
+         inMonth([](DataMesCorrente& screen) { return screen.record(); })},
+        {"confirm month", filledOffice(), inMonth([](DataMesCorrente& screen) {
+             return screen.chooseMonth(2024y / 4) && screen.confirm();
+         })},
+        {"save schedule", filledOffice(),
+         onCardOf(0,
+                  [](CartaoPontoDados& screen) {
+                      for (std::size_t i = 0; i < 6; ++i)
+                          screen.schedule().type(i, i % 2 == 0 ? "08:00" : "12:00");
+                      return screen.saveSchedule();
+                  })},
+        {"apply punches", filledOffice(),
+         onCardOf(1, [](CartaoPontoDados& screen) { return screen.applyPunches(); })},
+        {"save punches", filledOffice(),
+         onCardOf(1,
+                  [](CartaoPontoDados& screen) {
+                      screen.sheet().type(4, PunchCell::MorningEntry, "09:00");
+                      return screen.savePunches();
+                  })},
+        {"choose stock", filledOffice(), chooseStock},
+    };
+}
+
+}  // namespace winvrx::testing

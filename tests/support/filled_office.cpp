@@ -1,0 +1,69 @@
+#include "tests/support/filled_office.h"
+
+#include "foundation/company.h"
+#include "foundation/employee_checks.h"
+#include "foundation/record_file.h"
+
+#include <vector>
+
+namespace winvrx::testing {
+
+namespace {
+
+std::string companyLine(const std::string& code, const std::string& name) {
+    Company company = sampleCompany(*parseDate("10/01/2024"));
+    company.code = code;
+    company.name = name;
+    return encode(company);
+}
+
+}  // namespace
+
+std::string inDataFolder(const std::string& name) {
+    return kDataPath + name;
+}
+
+Employee officeEmployee(const std::string& code, const std::string& name,
+                        const std::string& admission) {
+    Employee one;
+    for (const auto member : kRequiredEmployeeFields)
+        one.*member = "1";
+    one.code = code;
+    one.name = name;
+    one.admission = admission;
+    one.shift = "Unico";
+    one.scale = "Norma";
+    return one;
+}
+
+FileTable filledOffice() {
+    const auto list = [](const std::vector<Employee>& people) {
+        std::vector<std::string> lines;
+        for (const Employee& one : people)
+            lines.push_back(encode(one));
+        return joinedLines(lines);
+    };
+    FileTable files;
+    const auto file = [&files](const char* name) -> std::string& {
+        return files[inDataFolder(name)];
+    };
+    file("01Empresa") = joinedLines({companyLine("01", "PRIMEIRA"), companyLine("02", "SEGUNDA")});
+    file("01CartaPonto") =
+        list({officeEmployee("001", "ANA"), officeEmployee("002", "BIA", "05/03/2018"),
+              officeEmployee("003", "CAIO")});
+    file("02CartaPonto") = list({officeEmployee("001", "DORA"), officeEmployee("002", "EVA")});
+    for (const char* company : {"01", "02"}) {
+        file((company + std::string("PadrHor002.pdx")).c_str()) = "08:0012:0013:0017:00\r\n";
+        file((company + std::string("002-03-2024.bdx")).c_str()) =
+            "  \r\n01/sex/mar08:0012:0013:0017:00\r\n";
+        file((company + std::string("002-02-2024.bdx")).c_str()) =
+            "  \r\n01/qui/fev08:0012:0013:0017:00\r\n";
+    }
+    file("01CartaoDePontoTipo") = "05\r\n";
+    file("03-2024ds.rdx") = "";
+    file("DataIde.ivc") = "03-2024\r\nTodos\r\n";
+    file("LocMen.lvc") = "C\r\n";
+    return files;
+}
+
+}  // namespace winvrx::testing
