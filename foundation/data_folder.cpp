@@ -53,6 +53,8 @@ bool isPayrollFile(std::string_view name) {
 std::optional<std::string_view> stemOf(std::string_view name) {
     for (const std::string_view stem : {kScheduleStem, kOvertimeStem, kLeaveStem})
         if (standsAt(name, 3, stem)) return stem;
+    for (const std::string_view stem : kTerminationStems)
+        if (standsAt(name, 3, stem)) return stem;
     return std::nullopt;
 }
 
@@ -93,9 +95,8 @@ std::filesystem::path DataFolder::file(std::string_view name) const {
 
 bool isRecordOfCompany(std::string_view name, const CompanyCode& company) {
     if (!name.starts_with(company.text())) return false;
-    return standsAt(name, 3, kScheduleStem) || standsAt(name, 3, kOvertimeStem) ||
-           name.find(kLeaveStem) != std::string_view::npos || isPunchOrPayrollFile(name) ||
-           isMonthFile(name) || name.substr(2) == kEmployeeListStem;
+    return stemOf(name) || name.find(kLeaveStem) != std::string_view::npos ||
+           isPunchOrPayrollFile(name) || isMonthFile(name) || name.substr(2) == kEmployeeListStem;
 }
 
 bool isRecordOfEmployee(std::string_view name, const CompanyCode& company,

@@ -3,6 +3,7 @@
 #include "foundation/codes.h"
 #include "foundation/file_system.h"
 
+#include <array>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -77,6 +78,8 @@ class DataFolder {
 inline constexpr std::string_view kScheduleStem = "PadrHor";
 inline constexpr std::string_view kOvertimeStem = "MedHorExtr";
 inline constexpr std::string_view kLeaveStem = "configAf";
+/// Stems of an employee's termination documents, which are named like his leave file.
+inline constexpr std::array<std::string_view, 3> kTerminationStems = {"TRTC", "THRTC", "AviTRTC"};
 inline constexpr std::string_view kEmployeeListStem = "CartaPonto";
 /// Opens the name of a payroll file, behind the company code; the employee code follows with five
 /// digits, then the month "mm-yyyy" and ".bdx".
@@ -90,8 +93,8 @@ inline constexpr std::string_view kSelectedMonthName = "DataIde.ivc";
 inline constexpr std::string_view kReportDatabaseName = "qdb.mdb";
 
 /// True for the names of records that go when the company goes: its schedules, overtime figures,
-/// leaves, punches, month files and employee list. Names are read by position: company code in
-/// characters 1-2, then the stem.
+/// leaves, termination documents, punches, month files and employee list. Names are read by
+/// position: company code in characters 1-2, then the stem.
 [[nodiscard]] bool isRecordOfCompany(std::string_view name, const CompanyCode& company);
 
 /// The same for one employee: the employee code stands behind the stem, or in characters 3-5.

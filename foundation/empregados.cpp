@@ -120,7 +120,7 @@ bool Empregados::include(const Employee& typed) {
         if (!at_.person.agrees(kConfirmInclude)) return false;
         const auto hold = holdFolder(at_);
         auto lines = employeeRegister().load();
-        if (refusesTakenCode(typed, lines)) return false;
+        if (bears(lines, typed.employeeCode())) throw changedElsewhere();
         lines.push_back(lineOf(typed));
         save(std::move(lines));
         return true;
