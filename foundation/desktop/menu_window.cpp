@@ -107,7 +107,7 @@ QWidget* MenuWindow::buildCompanies() {
     column->addWidget(companies_, 1);
     search_->serve(companies_);
     auto* filter = new QHBoxLayout;
-    auto* caption = new QLabel(QStringLiteral("&Turno:"), side);
+    auto* caption = new QLabel(QStringLiteral("T&urno:"), side);
     shift_ = new QComboBox(side);
     shift_->setObjectName(QStringLiteral("menu.shift"));
     shift_->setAccessibleName(QStringLiteral("Turno"));
@@ -200,7 +200,7 @@ QWidget* MenuWindow::buildDataFolder() {
     look::layOutPart(*column);
     column->addWidget(look::heading(QStringLiteral("(Diretório de Dados)"), part));
     auto* row = new QHBoxLayout;
-    auto* caption = new QLabel(QStringLiteral("&Drive de Origem:"), part);
+    auto* caption = new QLabel(QStringLiteral("Dri&ve de Origem:"), part);
     drive_ = new QComboBox(part);
     drive_->setObjectName(QStringLiteral("menu.drive"));
     drive_->setAccessibleName(QStringLiteral("Drive de Origem"));
