@@ -120,7 +120,9 @@ bool Empregados::include(const Employee& typed) {
         if (!at_.person.agrees(kConfirmInclude)) return false;
         const auto hold = holdFolder(at_);
         auto lines = employeeRegister().load();
-        if (bears(lines, typed.employeeCode())) throw changedElsewhere();
+        // A list that is gone: the folder of another drive stands in the place of the one shown.
+        if (bears(lines, typed.employeeCode()) || (lines.empty() && !lines_.empty()))
+            throw changedElsewhere();
         lines.push_back(lineOf(typed));
         save(std::move(lines));
         return true;

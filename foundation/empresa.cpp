@@ -55,6 +55,8 @@ bool Empresa::include(Company typed) {
     if (!at_.person.agrees(kConfirmInclude)) return false;
     return attemptWriting(at_, incorrectData(), [&] {
         auto lines = loadCompanies(at_.files, at_.session.folder);
+        // An empty folder in the place of the one shown, as an unmounted drive leaves it.
+        if (lines.empty() && !lines_.empty()) throw Fault("company list gone", kChangedElsewhere);
         const auto code = lowestFreeCode(lines);
         if (!code)
             throw Fault("no free company code", "Todos os códigos de 01 a 99 já estão em uso.");

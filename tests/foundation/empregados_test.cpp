@@ -115,6 +115,7 @@ TEST_F(EmpregadosTest, ScalesAllowTheirShifts) {
     for (const Scale scale : kScales)
         for (const Shift shift : kShifts) {
             desk_.files.content.clear();
+            empregados_.load();
             Employee typed = ana();
             typed.shift = codeOf(shift);
             typed.scale = codeOf(scale);
@@ -198,6 +199,9 @@ TEST_F(EmpregadosTest, AListChangedElsewhereIsNotOverwritten) {
     Employee second = ana();
     second.code = "002";
     expectRefusal("Dado Incorreto!", [&] { return empregados_.include(second); });
+    desk_.files.content.clear();
+    second.code = "003";
+    expectRefusal("Dados incorretos!", [&] { return empregados_.include(second); });
 }
 
 TEST_F(EmpregadosTest, AMemberOfARotationGroupKeepsShiftAndScale) {

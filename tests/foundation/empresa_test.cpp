@@ -193,6 +193,11 @@ TEST_F(EmpresaTest, AListChangedElsewhereIsNotOverwritten) {
     desk_.person.answers = {Answer::Yes};
     EXPECT_TRUE(empresa_.include(named("NOVA")));
     EXPECT_EQ(empresa_.lines()[1].company.telephone, "11 5555-0000");
+    desk_.files.content.clear();
+    desk_.person.answers = {Answer::Yes};
+    EXPECT_FALSE(empresa_.include(named("OUTRA")))
+        << "another folder stands in the old one's place";
+    EXPECT_TRUE(desk_.files.content.empty());
 }
 
 TEST_F(EmpresaTest, HelpThatCannotBeShownIsTold) {
