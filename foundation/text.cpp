@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 
 namespace winvrx {
 
@@ -174,6 +175,15 @@ std::string padded(int number, int digits) {
     std::string text = std::to_string(number);
     const auto wanted = static_cast<std::size_t>(digits);
     return text.size() < wanted ? std::string(wanted - text.size(), '0') + text : text;
+}
+
+std::optional<int> parseWholeNumber(std::string_view text, int lowest, int highest) {
+    const std::string_view digits = trimmed(text);
+    int number = 0;
+    const auto [end, fault] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    const bool whole = fault == std::errc() && end == digits.data() + digits.size();
+    if (!whole || number < lowest || number > highest) return std::nullopt;
+    return number;
 }
 
 std::string upperCase(std::string_view utf8) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,6 +40,10 @@ namespace winvrx {
 
 /// `number` in decimal with at least `digits` digits, zeros in front.
 [[nodiscard]] std::string padded(int number, int digits);
+
+/// A decimal number from `lowest` to `highest`, blanks around it allowed; nullopt for anything
+/// else.
+[[nodiscard]] std::optional<int> parseWholeNumber(std::string_view text, int lowest, int highest);
 
 /// Upper-case form, Portuguese accented letters included.
 [[nodiscard]] std::string upperCase(std::string_view utf8);

@@ -104,7 +104,7 @@ class PunchWriter {
 
   private:
     [[nodiscard]] std::string shown(std::chrono::seconds duration) const {
-        return formatted(duration, card_.settings.totalsFormat);
+        return formatted(duration, card_.settings.overtime.totalsFormat);
     }
 
     const CardData& card_;

@@ -248,7 +248,7 @@ DayKind CartaoPontoDados::kindOf(int day) const {
 
 std::string CartaoPontoDados::totalOf(int day) const {
     const auto worked = workedOn(sheet_.line(day));
-    return worked.count() == 0 ? std::string() : formatted(worked, settings_.totalsFormat);
+    return worked.count() == 0 ? std::string() : formatted(worked, settings_.overtime.totalsFormat);
 }
 
 std::string CartaoPontoDados::totalOf(HalfMonth half) const {
@@ -256,7 +256,7 @@ std::string CartaoPontoDados::totalOf(HalfMonth half) const {
     std::chrono::seconds worked{0};
     for (int day = days.first; day <= days.last; ++day)
         worked += workedOn(sheet_.line(day));
-    return formatted(worked, settings_.totalsFormat);
+    return formatted(worked, settings_.overtime.totalsFormat);
 }
 
 bool CartaoPontoDados::savePunches() {

@@ -4,7 +4,6 @@
 #include "timecard/selected_month.h"
 
 #include <algorithm>
-#include <charconv>
 
 namespace winvrx {
 
@@ -30,12 +29,7 @@ constexpr int kMonthsAhead = 12;
 
 /// The value of a typed number; nullopt when it is none of the field's range.
 std::optional<int> valueOf(const MonthNumberField& field, std::string_view typed) {
-    const std::string_view text = trimmed(typed);
-    int value = 0;
-    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), value);
-    const bool whole = fault == std::errc() && end == text.data() + text.size();
-    if (!whole || value < field.lowest || value > field.highest) return std::nullopt;
-    return value;
+    return parseWholeNumber(typed, field.lowest, field.highest);
 }
 
 std::string withoutColon(std::string_view caption) {
@@ -60,7 +54,7 @@ void DataMesCorrente::load(WorkMonth month) {
     recorded_ = loadMonthSettings(at_.files, at_.session.folder, month);
     settings_ = recorded_;
     for (const MonthNumberField& field : kMonthNumberFields)
-        numbers_.*field.typed = std::to_string(settings_.*field.value);
+        numbers_.*field.typed = std::to_string(field.valueIn(settings_));
     switched_ = false;
 }
 
@@ -127,16 +121,16 @@ std::string DataMesCorrente::findingOf(const MonthNumberField& field) const {
 }
 
 void DataMesCorrente::setDifferentiatedPercent(bool on) {
-    settings_.differentiatedPercent = on;
+    settings_.overtime.differentiatedPercent = on;
     switched_ = true;
 }
 
 void DataMesCorrente::setMode(OvertimeMode mode) {
-    settings_.mode = mode;
+    settings_.overtime.mode = mode;
 }
 
 void DataMesCorrente::setTotalsFormat(TotalsFormat format) {
-    settings_.totalsFormat = format;
+    settings_.overtime.totalsFormat = format;
 }
 
 void DataMesCorrente::setFixedMonth(bool fixed) {
@@ -163,7 +157,7 @@ bool DataMesCorrente::refersToPresentMonth() const {
 
 std::string DataMesCorrente::differentiatedCaption() const {
     const auto& [minimum, maximum, nightMinimum, nightMaximum, threshold, closingDay] = numbers_;
-    if (settings_.differentiatedPercent)
+    if (settings_.overtime.differentiatedPercent)
         return "Ativado o uso de Percentual de Horas Extras Diárias Normais Diferenciado. Será "
                "de " +
                minimum + "% até " + threshold + " hs Extras diárias. Acima de " + threshold +
@@ -174,7 +168,7 @@ std::string DataMesCorrente::differentiatedCaption() const {
 }
 
 std::string DataMesCorrente::modeNotice() const {
-    if (settings_.mode == OvertimeMode::BothLevels) return std::string(kBothLevels);
+    if (settings_.overtime.mode == OvertimeMode::BothLevels) return std::string(kBothLevels);
     return std::string(kSingleLevel) + numbers_.maximumPercent + "%";
 }
 
@@ -183,7 +177,7 @@ bool DataMesCorrente::changed() const {
     if (!shown.recordTicks) shown.holidayCells = recorded_.holidayCells;
     const bool typed = std::any_of(
         kMonthNumberFields.begin(), kMonthNumberFields.end(), [&](const MonthNumberField& field) {
-            return valueOf(field, numbers_.*field.typed) != recorded_.*field.value;
+            return valueOf(field, numbers_.*field.typed) != field.valueIn(recorded_);
         });
     return typed || shown != recorded_;
 }
@@ -198,7 +192,7 @@ MonthSettings DataMesCorrente::checked() const {
                         withoutColon(field.caption) + ": informe um número de " +
                             std::to_string(field.lowest) + " a " + std::to_string(field.highest) +
                             ".");
-        checked.*field.value = *value;
+        field.put(checked, *value);
     }
     return checked;
 }

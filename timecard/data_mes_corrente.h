@@ -27,24 +27,31 @@ struct MonthNumbers {
 /// One typed number: where it goes, which values it takes and what the screen calls it.
 struct MonthNumberField {
     std::string MonthNumbers::*typed;
-    int MonthSettings::*value;
+    int OvertimeRules::*rule;  ///< nullptr for the closing day
     int lowest;
     int highest;
     std::string_view caption;
+
+    [[nodiscard]] int valueIn(const MonthSettings& settings) const {
+        return rule ? settings.overtime.*rule : settings.closingDay;
+    }
+    void put(MonthSettings& settings, int value) const {
+        (rule ? settings.overtime.*rule : settings.closingDay) = value;
+    }
 };
 
 inline constexpr std::array kMonthNumberFields = {
-    MonthNumberField{&MonthNumbers::minimumPercent, &MonthSettings::minimumPercent, 0,
+    MonthNumberField{&MonthNumbers::minimumPercent, &OvertimeRules::minimumPercent, 0,
                      kHighestPercent, "Hora Extra Índice Mínimo:"},
-    MonthNumberField{&MonthNumbers::maximumPercent, &MonthSettings::maximumPercent, 0,
+    MonthNumberField{&MonthNumbers::maximumPercent, &OvertimeRules::maximumPercent, 0,
                      kHighestPercent, "Hora Extra Índice Máximo:"},
-    MonthNumberField{&MonthNumbers::nightMinimumPercent, &MonthSettings::nightMinimumPercent, 0,
+    MonthNumberField{&MonthNumbers::nightMinimumPercent, &OvertimeRules::nightMinimumPercent, 0,
                      kHighestPercent, "Hora Extra Noturna Mínima:"},
-    MonthNumberField{&MonthNumbers::nightMaximumPercent, &MonthSettings::nightMaximumPercent, 0,
+    MonthNumberField{&MonthNumbers::nightMaximumPercent, &OvertimeRules::nightMaximumPercent, 0,
                      kHighestPercent, "Hora Extra Noturna Máxima:"},
-    MonthNumberField{&MonthNumbers::thresholdHours, &MonthSettings::thresholdHours, 0,
+    MonthNumberField{&MonthNumbers::thresholdHours, &OvertimeRules::thresholdHours, 0,
                      kHighestThreshold, "Horas"},
-    MonthNumberField{&MonthNumbers::closingDay, &MonthSettings::closingDay, 1, kHighestClosingDay,
+    MonthNumberField{&MonthNumbers::closingDay, nullptr, 1, kHighestClosingDay,
                      "Iníciar todo dia:"},
 };
 

@@ -2,8 +2,6 @@
 
 #include "foundation/text.h"
 
-#include <charconv>
-
 namespace winvrx {
 
 namespace {
@@ -24,7 +22,7 @@ enum RecordLineIndex : std::size_t {
     kKnownLines
 };
 
-// Counted from 1, as docs/layouts-timecard.md counts them.
+// Counted from 1, as docs/record-layouts.md counts them.
 static_assert(kMinimumPercent + 1 == 43);
 static_assert(kRecordTicks + 1 == 47);
 static_assert(kThresholdHours + 1 == 51);
@@ -37,11 +35,7 @@ class RecordReader {
 
     [[nodiscard]] int number(std::size_t line, int lowest, int highest, int otherwise) const {
         if (line >= lines_.size()) return otherwise;
-        const std::string_view text = trimmed(lines_[line]);
-        int value = 0;
-        const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), value);
-        const bool whole = fault == std::errc() && end == text.data() + text.size();
-        return whole && value >= lowest && value <= highest ? value : otherwise;
+        return parseWholeNumber(lines_[line], lowest, highest).value_or(otherwise);
     }
 
     [[nodiscard]] bool flag(std::size_t line, bool otherwise) const {
@@ -61,18 +55,19 @@ MonthSettings decode(WorkMonth month, const std::vector<std::string>& lines) {
     const auto percent = [&](std::size_t line, int& field) {
         field = record.number(line, 0, kHighestPercent, field);
     };
-    percent(kMinimumPercent, settings.minimumPercent);
-    percent(kNightMinimumPercent, settings.nightMinimumPercent);
-    percent(kMaximumPercent, settings.maximumPercent);
-    percent(kNightMaximumPercent, settings.nightMaximumPercent);
+    percent(kMinimumPercent, settings.overtime.minimumPercent);
+    percent(kNightMinimumPercent, settings.overtime.nightMinimumPercent);
+    percent(kMaximumPercent, settings.overtime.maximumPercent);
+    percent(kNightMaximumPercent, settings.overtime.nightMaximumPercent);
     settings.recordTicks = record.flag(kRecordTicks, settings.recordTicks);
-    settings.differentiatedPercent = record.flag(kDifferentiatedPercent, false);
-    settings.mode =
+    settings.overtime.differentiatedPercent = record.flag(kDifferentiatedPercent, false);
+    settings.overtime.mode =
         record.flag(kMode, false) ? OvertimeMode::SingleLevel : OvertimeMode::BothLevels;
-    settings.totalsFormat = record.flag(kTotalsFormat, false) ? TotalsFormat::DecimalHours
-                                                              : TotalsFormat::HoursAndMinutes;
-    settings.thresholdHours =
-        record.number(kThresholdHours, 0, kHighestThreshold, settings.thresholdHours);
+    settings.overtime.totalsFormat = record.flag(kTotalsFormat, false)
+                                         ? TotalsFormat::DecimalHours
+                                         : TotalsFormat::HoursAndMinutes;
+    settings.overtime.thresholdHours =
+        record.number(kThresholdHours, 0, kHighestThreshold, settings.overtime.thresholdHours);
     settings.closingDay = record.number(kClosingDay, 1, kHighestClosingDay, settings.closingDay);
     settings.fixedMonth = record.flag(kFixedMonth, settings.fixedMonth);
     return settings;
@@ -85,15 +80,15 @@ std::vector<std::string> encode(const MonthSettings& settings) {
     const auto number = [&lines](int value) { lines.push_back(std::to_string(value)); };
     for (const bool ticked : settings.holidayCells)
         flag(ticked);
-    number(settings.minimumPercent);
-    number(settings.nightMinimumPercent);
-    number(settings.maximumPercent);
-    number(settings.nightMaximumPercent);
+    number(settings.overtime.minimumPercent);
+    number(settings.overtime.nightMinimumPercent);
+    number(settings.overtime.maximumPercent);
+    number(settings.overtime.nightMaximumPercent);
     flag(settings.recordTicks);
-    flag(settings.differentiatedPercent);
-    flag(settings.mode == OvertimeMode::SingleLevel);
-    flag(settings.totalsFormat == TotalsFormat::DecimalHours);
-    number(settings.thresholdHours);
+    flag(settings.overtime.differentiatedPercent);
+    flag(settings.overtime.mode == OvertimeMode::SingleLevel);
+    flag(settings.overtime.totalsFormat == TotalsFormat::DecimalHours);
+    number(settings.overtime.thresholdHours);
     number(settings.closingDay);
     flag(settings.fixedMonth);
     return lines;

@@ -3,7 +3,7 @@
 #include "foundation/data_folder.h"
 #include "foundation/date.h"
 #include "foundation/record_file.h"
-#include "foundation/session.h"
+#include "timecard/overtime_rules.h"
 
 #include <array>
 #include <optional>
@@ -14,12 +14,6 @@ namespace winvrx {
 
 inline constexpr std::size_t kHolidayCells = 42;
 
-/// "Opções de Formatação do Resultado Resumo Horas:".
-enum class TotalsFormat { HoursAndMinutes, DecimalHours };
-
-/// Which overtime percentages a month uses.
-enum class OvertimeMode { BothLevels, SingleLevel };
-
 /// The settings of one work month: the record "mm-yyyyds.rdx", one value a line.
 struct MonthSettings {
     WorkMonth month{};
@@ -28,15 +22,8 @@ struct MonthSettings {
     /// week that holds day 1. Ticked cells outside the month mean nothing.
     std::array<bool, kHolidayCells> holidayCells{};
 
-    int minimumPercent = 50;
-    int nightMinimumPercent = 50;
-    int maximumPercent = 100;
-    int nightMaximumPercent = 100;
     bool recordTicks = true;  ///< the check box "Gravação"
-    bool differentiatedPercent = false;
-    OvertimeMode mode = OvertimeMode::BothLevels;
-    TotalsFormat totalsFormat = TotalsFormat::HoursAndMinutes;
-    int thresholdHours = 2;
+    OvertimeRules overtime;
     int closingDay = 1;      ///< "Iníciar todo dia:"
     bool fixedMonth = true;  ///< "Mês Fixo"
 
@@ -53,9 +40,6 @@ struct MonthSettings {
 /// "03-2024ds.rdx".
 [[nodiscard]] std::string monthRecordName(WorkMonth month);
 
-/// Highest values that the record takes.
-inline constexpr int kHighestPercent = 999;
-inline constexpr int kHighestThreshold = 24;
 inline constexpr int kHighestClosingDay = 31;
 
 [[nodiscard]] bool hasMonthSettings(FileSystem& files, const DataFolder& folder, WorkMonth month);

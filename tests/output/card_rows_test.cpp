@@ -108,7 +108,7 @@ TEST(CardRows, SumsStandOnEveryRow) {
     // 11 working days up to the 15th, 10 after it.
     for (const Case& one : {Case{TotalsFormat::HoursAndMinutes, "88:00", "80:00", "168:00"},
                             Case{TotalsFormat::DecimalHours, "88,00", "80,00", "168,00"}}) {
-        card.settings.totalsFormat = one.format;
+        card.settings.overtime.totalsFormat = one.format;
         const auto rows = cardRows(card);
         for (std::size_t at = 0; at < rows.size(); ++at) {
             EXPECT_EQ(rows[at][cardColumn("total")], one.total);

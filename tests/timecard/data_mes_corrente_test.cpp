@@ -92,8 +92,8 @@ TEST_F(MonthScreen, RecordsAndConfirms) {
     EXPECT_FALSE(desk.files.content.contains("/data/DataIde.ivc"));
     const auto written = loadMonthSettings(desk.files, desk.session.folder, 2024y / 3);
     EXPECT_THAT(written.holidays(), ElementsAre(*parseDate("29/03/2024")));
-    EXPECT_EQ(written.nightMaximumPercent, 130);
-    EXPECT_EQ(written.totalsFormat, TotalsFormat::DecimalHours);
+    EXPECT_EQ(written.overtime.nightMaximumPercent, 130);
+    EXPECT_EQ(written.overtime.totalsFormat, TotalsFormat::DecimalHours);
 
     desk.session.shiftFilter = ShiftFilter::Tres;
     EXPECT_TRUE(screen.confirm());

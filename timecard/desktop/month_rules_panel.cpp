@@ -194,10 +194,11 @@ void MonthRulesPanel::refresh() {
                                     QSignalBlocker(clockTotals_),
                                     QSignalBlocker(differentiated_->box())};
     (settings.fixedMonth ? fixedMonth_ : startDay_)->setChecked(true);
-    (settings.mode == OvertimeMode::BothLevels ? bothLevels_ : singleLevel_)->setChecked(true);
-    const bool clock = settings.totalsFormat == TotalsFormat::HoursAndMinutes;
+    (settings.overtime.mode == OvertimeMode::BothLevels ? bothLevels_ : singleLevel_)
+        ->setChecked(true);
+    const bool clock = settings.overtime.totalsFormat == TotalsFormat::HoursAndMinutes;
     (clock ? clockTotals_ : decimalTotals_)->setChecked(true);
-    differentiated_->box()->setChecked(settings.differentiatedPercent);
+    differentiated_->box()->setChecked(settings.overtime.differentiatedPercent);
     for (std::size_t field = 0; field < numbers_.size(); ++field)
         numbers_[field].edit->setText(toQt(command_.numbers().*kMonthNumberFields[field].typed));
     showTexts();

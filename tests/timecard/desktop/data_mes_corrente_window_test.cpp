@@ -70,7 +70,7 @@ TEST_F(MonthWindow, AWrongNumberIsSaidBesideItAndKeepsTheWindowOpen) {
     EXPECT_EQ(driven->text("month.minimumPercent.hint"), "");
     driven->click("month.confirm");
     EXPECT_EQ(driven->window.result(), QDialog::Accepted);
-    EXPECT_EQ(recorded().minimumPercent, 60);
+    EXPECT_EQ(recorded().overtime.minimumPercent, 60);
     EXPECT_TRUE(loadSelectedMonth(desk.files, desk.session.folder));
 }
 
@@ -84,9 +84,9 @@ TEST_F(MonthWindow, ChoicesAreRecordedAndShownAgain) {
               "Usar Somente 1 (um) Único Percentual de Horas Extras para 110%");
     driven->press(Qt::Key_S, Qt::ControlModifier);
     const MonthSettings settings = recorded();
-    EXPECT_EQ(settings.mode, OvertimeMode::SingleLevel);
-    EXPECT_EQ(settings.totalsFormat, TotalsFormat::DecimalHours);
-    EXPECT_TRUE(settings.differentiatedPercent);
+    EXPECT_EQ(settings.overtime.mode, OvertimeMode::SingleLevel);
+    EXPECT_EQ(settings.overtime.totalsFormat, TotalsFormat::DecimalHours);
+    EXPECT_TRUE(settings.overtime.differentiatedPercent);
     EXPECT_FALSE(settings.fixedMonth);
     EXPECT_EQ(settings.closingDay, 21);
 
