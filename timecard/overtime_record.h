@@ -1,0 +1,95 @@
+#pragma once
+
+#include "foundation/data_folder.h"
+#include "foundation/date.h"
+#include "foundation/record_file.h"
+#include "timecard/month_settings.h"
+#include "timecard/overtime_rules.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+// The overtime figures of one employee: the record company code + "MedHorExtr" + employee code, one
+// line a work month. A month without a line of its own goes by the month's settings.
+
+namespace winvrx {
+
+/// One figure of a line, a whole number from 0 to `highest`.
+struct OvertimeColumn {
+    Column column;
+    int highest;
+    int (*read)(const OvertimeRules&);
+    void (*write)(OvertimeRules&, int);
+};
+
+template <auto Figure>
+[[nodiscard]] constexpr OvertimeColumn overtimeColumn(Column column, int highest) {
+    using Value = std::remove_cvref_t<decltype(OvertimeRules{}.*Figure)>;
+    return {column, highest,
+            [](const OvertimeRules& rules) { return static_cast<int>(rules.*Figure); },
+            [](OvertimeRules& rules, int value) { rules.*Figure = static_cast<Value>(value); }};
+}
+
+/// The layout of a line: the month, then its figures, single blanks between them. The one place
+/// that knows it.
+inline constexpr Column kOvertimeMonth{1, 7};
+inline constexpr std::array kOvertimeColumns = {
+    overtimeColumn<&OvertimeRules::minimumPercent>({9, 3}, kHighestPercent),
+    overtimeColumn<&OvertimeRules::nightMinimumPercent>({13, 3}, kHighestPercent),
+    overtimeColumn<&OvertimeRules::maximumPercent>({17, 3}, kHighestPercent),
+    overtimeColumn<&OvertimeRules::nightMaximumPercent>({21, 3}, kHighestPercent),
+    overtimeColumn<&OvertimeRules::differentiatedPercent>({25, 1}, 1),
+    overtimeColumn<&OvertimeRules::mode>({27, 1}, 1),
+    overtimeColumn<&OvertimeRules::totalsFormat>({29, 1}, 1),
+    overtimeColumn<&OvertimeRules::thresholdHours>({31, 2}, kHighestThreshold),
+};
+
+inline constexpr std::size_t kOvertimeWidth = 32;
+static_assert([] {
+    std::size_t next = kOvertimeMonth.end();
+    for (const OvertimeColumn& one : kOvertimeColumns) {
+        if (one.column.start != next + 1) return false;
+        next = one.column.end();
+    }
+    return next == kOvertimeWidth + 1;
+}());
+
+struct OvertimeLine {
+    WorkMonth month;
+    OvertimeRules rules;
+
+    [[nodiscard]] bool operator==(const OvertimeLine&) const = default;
+};
+
+/// nullopt when the line has no month, or a number that is none of its range.
+[[nodiscard]] std::optional<OvertimeLine> decodeOvertime(std::string_view lineBytes);
+/// Built upon `existing`: a column that means the same there keeps its bytes.
+[[nodiscard]] std::string encode(const OvertimeLine& line, std::string existing = {});
+
+/// "MedHorExtr001", to be put behind the company code.
+[[nodiscard]] std::string overtimeFileName(const EmployeeCode& employee);
+
+/// The employee's own figures of the month: the first line that is understood and has the month;
+/// nullopt where there is none. Throws FileFault.
+[[nodiscard]] std::optional<OvertimeRules> loadOvertime(FileSystem& files, const DataFolder& folder,
+                                                        const CompanyCode& company,
+                                                        const EmployeeCode& employee,
+                                                        WorkMonth month);
+
+/// The rules that hold for the employee in the month: his own line, else the month's.
+[[nodiscard]] OvertimeRules overtimeOf(FileSystem& files, const DataFolder& folder,
+                                       const CompanyCode& company, const EmployeeCode& employee,
+                                       const MonthSettings& month);
+
+/// The employee's file with the month's figures put into it; every other line stays as it is.
+[[nodiscard]] FileSystem::NewContent withOvertime(FileSystem& files, const DataFolder& folder,
+                                                  const CompanyCode& company,
+                                                  const EmployeeCode& employee,
+                                                  const OvertimeLine& line);
+void saveOvertime(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
+                  const EmployeeCode& employee, const OvertimeLine& line);
+
+}  // namespace winvrx
