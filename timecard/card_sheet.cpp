@@ -22,7 +22,8 @@ std::string PunchLine::*memberOf(PunchCell cell) {
 }
 
 bool isCutByDesign(std::string_view situation) {
-    return situation == kSituationWeeklyRest || situation == kSituationUnjustified;
+    const Situation* found = findSituation(situation);
+    return found && found->word == situation;
 }
 
 std::string storageFinding(const std::string& text) {

@@ -237,13 +237,23 @@ bool CartaoPontoDados::applyPunches() {
 }
 
 DayKind CartaoPontoDados::kindOf(int day) const {
-    const std::string& situation = sheet_.line(day).situation;
-    if (situation == kSituationLeave) return DayKind::Leave;
-    if (situation.starts_with(kSituationAbsence)) return DayKind::Absence;
     const Date date = plusDays(firstDay(settings_.month), day - 1);
-    if (situation == kSituationHoliday || settings_.isHoliday(date)) return DayKind::Holiday;
-    const bool rest = situation == kSituationWeeklyRest || weekdayOf(date) == std::chrono::Sunday;
-    return rest ? DayKind::WeeklyRest : DayKind::Work;
+    switch (meaningOf(sheet_.line(day).situation)) {
+        case DayMeaning::Leave:
+            return DayKind::Leave;
+        case DayMeaning::Missing:
+            return DayKind::Absence;
+        case DayMeaning::Excused:
+            return DayKind::Excused;
+        case DayMeaning::Holiday:
+            return DayKind::Holiday;
+        case DayMeaning::WeeklyRest:
+            return settings_.isHoliday(date) ? DayKind::Holiday : DayKind::WeeklyRest;
+        case DayMeaning::Work:
+            break;
+    }
+    if (settings_.isHoliday(date)) return DayKind::Holiday;
+    return weekdayOf(date) == std::chrono::Sunday ? DayKind::WeeklyRest : DayKind::Work;
 }
 
 std::string CartaoPontoDados::totalOf(int day) const {

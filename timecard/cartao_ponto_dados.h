@@ -13,11 +13,7 @@
 namespace winvrx {
 
 /// What a day is by the calendar and its situation.
-enum class DayKind { Work, Holiday, WeeklyRest, Leave, Absence };
-
-/// The situations that the grid offers; any other text may be typed.
-inline constexpr std::array kOfferedSituations = {kSituationAbsence, kSituationUnjustified,
-                                                  kSituationHoliday, kSituationWeeklyRest};
+enum class DayKind { Work, Holiday, WeeklyRest, Leave, Absence, Excused };
 
 /// The time-card data screen: the standard schedule of each employee of the selected company and
 /// the punches of the work month.

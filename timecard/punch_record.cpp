@@ -6,14 +6,12 @@ namespace winvrx {
 
 namespace {
 
-constexpr Column kSituation = kPunchFields.back().column;
 constexpr std::string_view kOpeningLine = "  ";
-constexpr std::array kCutSituations = {kSituationWeeklyRest, kSituationUnjustified};
 
+/// The word of a mark that the column cut; any other text as it stands.
 std::string wholeSituation(std::string stored) {
-    for (const std::string_view whole : kCutSituations)
-        if (stored == trimmed(firstCharacters(whole, kSituation.width))) return std::string(whole);
-    return stored;
+    const Situation* found = findSituation(stored);
+    return found && found->mark == stored ? std::string(found->word) : stored;
 }
 
 TimePair pairOf(std::string_view entry, std::string_view exit) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/company.h"
+#include "timecard/situation.h"
 #include "timecard/standard_schedule.h"
 
 #include <array>
@@ -22,7 +23,7 @@ struct PunchLine {
     std::string extraEntry;
     std::string extraExit;
     std::string shortField;
-    std::string situation;  ///< the column cuts it to fifteen characters
+    std::string situation;  ///< whole; the column cuts it to fifteen characters
     std::string further;    ///< bytes past the last column, kept as they stand
 
     [[nodiscard]] bool operator==(const PunchLine&) const = default;
@@ -34,14 +35,6 @@ struct PunchLine {
     [[nodiscard]] TimePair extra() const;
 };
 
-/// What the situation column says of a day. The column cuts "DESCANSO SEMANAL" and
-/// "Falta Injustificada"; reading gives them whole again.
-inline constexpr std::string_view kSituationHoliday = "FERIADO";
-inline constexpr std::string_view kSituationWeeklyRest = "DESCANSO SEMANAL";
-inline constexpr std::string_view kSituationLeave = "AFASTAMENTO";
-inline constexpr std::string_view kSituationAbsence = "Falta";
-inline constexpr std::string_view kSituationUnjustified = "Falta Injustificada";
-
 /// One field of the record. The layout's one place; docs/layouts-timecard.md shows it with
 /// examples.
 struct PunchField {
@@ -50,11 +43,15 @@ struct PunchField {
 };
 
 inline constexpr std::array kPunchFields = {
-    PunchField{&PunchLine::label, {1, 10}},         PunchField{&PunchLine::morningEntry, {11, 5}},
-    PunchField{&PunchLine::morningExit, {16, 5}},   PunchField{&PunchLine::afternoonEntry, {21, 5}},
-    PunchField{&PunchLine::afternoonExit, {26, 5}}, PunchField{&PunchLine::extraEntry, {31, 5}},
-    PunchField{&PunchLine::extraExit, {36, 5}},     PunchField{&PunchLine::shortField, {41, 5}},
-    PunchField{&PunchLine::situation, {46, 15}},
+    PunchField{&PunchLine::label, {1, 10}},
+    PunchField{&PunchLine::morningEntry, {11, 5}},
+    PunchField{&PunchLine::morningExit, {16, 5}},
+    PunchField{&PunchLine::afternoonEntry, {21, 5}},
+    PunchField{&PunchLine::afternoonExit, {26, 5}},
+    PunchField{&PunchLine::extraEntry, {31, 5}},
+    PunchField{&PunchLine::extraExit, {36, 5}},
+    PunchField{&PunchLine::shortField, {41, 5}},
+    PunchField{&PunchLine::situation, {46, kSituationWidth}},
 };
 
 inline constexpr std::size_t kPunchWidth = 60;

@@ -62,8 +62,8 @@ class PunchDelegate : public QStyledItemDelegate {
         box->setAccessibleName(QStringLiteral("Situação"));
         box->setEditable(true);
         box->addItem(QString());
-        for (const std::string_view situation : kOfferedSituations)
-            box->addItem(toQt(situation));
+        for (const Situation& situation : kSituations)
+            box->addItem(toQt(situation.word));
         box->lineEdit()->setMaxLength(kLongestSituation);
         box->completer()->setCompletionMode(QCompleter::PopupCompletion);
         return box;

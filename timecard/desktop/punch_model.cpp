@@ -31,6 +31,7 @@ std::optional<look::Tint> tintOf(DayKind kind) {
         case DayKind::WeeklyRest:
             return look::Tint::RestDay;
         case DayKind::Leave:
+        case DayKind::Excused:
             return look::Tint::Leave;
         case DayKind::Absence:
             return look::Tint::Absence;
