@@ -7,34 +7,46 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QProcess>
-#include <QStandardPaths>
 
 namespace winvrx {
 
 namespace {
 
-/// The program that is given the file's path; empty when the desktop has no editor.
-QString editorProgram() {
 #ifdef Q_OS_WIN
-    return QStringLiteral("notepad.exe");
+
+bool openedByDesktop(const QString& path) {
+    return QProcess::startDetached(QStringLiteral("notepad.exe"), {path});
+}
+
 #else
-    constexpr int kPatience = 5'000;  // milliseconds
+
+constexpr int kPatience = 5'000;      // milliseconds
+constexpr int kTimeToRefuse = 1'000;  // milliseconds
+
+bool hasHandlerOfText() {
     QProcess query;
     query.start(QStringLiteral("xdg-mime"),
                 {QStringLiteral("query"), QStringLiteral("default"), QStringLiteral("text/plain")});
-    if (!query.waitForFinished(kPatience) || query.readAllStandardOutput().trimmed().isEmpty())
-        return {};
-    return QStandardPaths::findExecutable(QStringLiteral("xdg-open"));
-#endif
+    return query.waitForFinished(kPatience) && !query.readAllStandardOutput().trimmed().isEmpty();
 }
+
+/// Some desktops keep xdg-open running as long as the editor is open, so what has not refused by
+/// now has opened it.
+bool openedByDesktop(const QString& path) {
+    if (!hasHandlerOfText()) return false;
+    auto* opener = new QProcess(qApp);
+    QObject::connect(opener, &QProcess::finished, opener, &QObject::deleteLater);
+    opener->start(QStringLiteral("xdg-open"), {path});
+    if (!opener->waitForStarted(kPatience)) return false;
+    return !opener->waitForFinished(kTimeToRefuse) || opener->exitCode() == 0;
+}
+
+#endif
 
 }  // namespace
 
 bool DesktopTextEditor::open(const std::filesystem::path& file) {
-    const QString path = QString::fromStdU16String(file.u16string());
-    const QString program = editorProgram();
-    if (!program.isEmpty() && QProcess::startDetached(program, {path})) return true;
-    return viewer_.open(file);
+    return openedByDesktop(QString::fromStdU16String(file.u16string())) || viewer_.open(file);
 }
 
 bool TextViewer::open(const std::filesystem::path& file) {

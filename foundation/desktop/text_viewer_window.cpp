@@ -10,7 +10,16 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <cmath>
+
 namespace winvrx {
+
+namespace {
+
+constexpr qreal kPaperMargin = 15;  // millimetres
+
+}  // namespace
 
 TextViewerWindow::TextViewerWindow(const QString& title, const QString& text, QWidget* parent)
     : ScreenWindow(QStringLiteral("relatorio"), QStringLiteral("Relatório"), parent) {
@@ -41,10 +50,24 @@ void TextViewerWindow::print() {
     printer.setDocName(windowTitle());
     QPrintDialog dialog(&printer, this);
     if (dialog.exec() != QDialog::Accepted) return;
-    QTextDocument page;
-    page.setDefaultFont(look::reportFont());
-    page.setPlainText(text_->toPlainText());
-    page.print(&printer);
+    printOn(printer);
+}
+
+void TextViewerWindow::printOn(QPagedPaintDevice& paper) const {
+    paper.setPageMargins({kPaperMargin, kPaperMargin, kPaperMargin, kPaperMargin},
+                         QPageLayout::Millimeter);
+    QTextDocument text;
+    text.setDocumentMargin(0);
+    text.setDefaultFont(look::reportFont());
+    QTextOption columns = text.defaultTextOption();
+    columns.setWrapMode(QTextOption::NoWrap);
+    text.setDefaultTextOption(columns);
+    text.setPlainText(text_->toPlainText());
+    // A page as wide as the widest line is made smaller until it fits the paper.
+    QSizeF page = paper.pageLayout().paintRect(QPageLayout::Inch).size() * text_->logicalDpiX();
+    page *= std::max(1.0, std::ceil(text.idealWidth()) / page.width());
+    text.setPageSize(page);
+    text.print(&paper);
 }
 
 }  // namespace winvrx

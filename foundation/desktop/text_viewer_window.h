@@ -2,6 +2,7 @@
 
 #include "foundation/desktop/screen_window.h"
 
+class QPagedPaintDevice;
 class QPlainTextEdit;
 
 namespace winvrx {
@@ -12,6 +13,9 @@ class TextViewerWindow : public ScreenWindow {
 
   public:
     TextViewerWindow(const QString& title, const QString& text, QWidget* parent = nullptr);
+
+    /// The text in the report's letters, page after page.
+    void printOn(QPagedPaintDevice& paper) const;
 
   private:
     void print();

@@ -1,15 +1,12 @@
-// What stands around the employee register: Turnos, the import's preview, viewer and workbook.
-#include "foundation/desktop/desktop_text_editor.h"
+// What stands around the employee register: Turnos and the import's preview.
 #include "foundation/desktop/employee_import_window.h"
 #include "foundation/desktop/turnos_window.h"
-#include "foundation/desktop/xlsx_spreadsheet.h"
 #include "foundation/employee_import.h"
 #include "foundation/turnos.h"
 #include "tests/support/employee_desk.h"
 #include "tests/support/window_driver.h"
 
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTreeWidget>
 
@@ -60,31 +57,6 @@ TEST(EmployeeImportWindow, ShowsEachRowsFinding) {
     EXPECT_EQ(window.result(), QDialog::Accepted);
     EXPECT_EQ(desk.codes(), "001 ");
     EXPECT_EQ(namelessWidgets(window), "");
-}
-
-TEST(TextViewer, ShowsTheReportsLetters) {
-    EmployeeDesk desk;
-    desk.file("01RelAtivos.txt") = "Fun\xE7\xE3o\r\n";
-    TextViewer viewer(desk.files, desk.browser);
-    EXPECT_FALSE(viewer.open("/data/missing.txt"));
-    ASSERT_TRUE(viewer.open("/data/01RelAtivos.txt"));
-    QWidget* shown = nullptr;
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->objectName() == QLatin1String("relatorio")) shown = window;
-    ASSERT_NE(shown, nullptr);
-    const auto* text = shown->findChild<QPlainTextEdit*>(QStringLiteral("relatorio.text"));
-    EXPECT_EQ(toUtf8(text->toPlainText()), "Função\n");
-    EXPECT_EQ(namelessWidgets(*shown), "");
-    shown->close();
-}
-
-TEST(XlsxSpreadsheet, WritesAWorkbook) {
-    XlsxSpreadsheet spreadsheet;
-    const Table table{{"Código", "Nome"}, {{"001", "ANA"}, {"002", "JOSÉ <&>"}}};
-    const std::string bytes = spreadsheet.workbookOf(table, "Funcionários");
-    EXPECT_THAT(bytes, HasSubstr("xl/worksheets/sheet1.xml"));
-    EXPECT_TRUE(bytes.starts_with("PK"));
-    EXPECT_THROW((void)spreadsheet.workbookOf(table, "nome/inválido"), Fault);
 }
 
 }  // namespace
