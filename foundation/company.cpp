@@ -3,17 +3,14 @@
 namespace winvrx {
 
 std::string encode(const Company& company, std::string existing) {
+    const Company before = decodeCompany(existing);
     RecordLine line(std::move(existing), kCompanyWidth);
-    for (const CompanyField& field : kCompanyFields)
-        line.put(field.column, company.*field.member);
+    putFields(kCompanyFields, company, before, line);
     return line.bytes();
 }
 
 Company decodeCompany(std::string_view lineBytes) {
-    Company company;
-    for (const CompanyField& field : kCompanyFields)
-        company.*field.member = fieldOf(lineBytes, field.column);
-    return company;
+    return decodeFields<Company>(kCompanyFields, lineBytes);
 }
 
 Company sampleCompany(Date today) {

@@ -2,7 +2,7 @@
 
 #include "foundation/codes.h"
 #include "foundation/date.h"
-#include "foundation/record_file.h"
+#include "foundation/record_fields.h"
 
 #include <array>
 #include <optional>
@@ -41,12 +41,7 @@ struct Company {
     [[nodiscard]] bool operator==(const Company&) const = default;
 };
 
-/// One field of the record, with the caption that the screen shows.
-struct CompanyField {
-    std::string Company::*member;
-    Column column;
-    std::string_view caption;
-};
+using CompanyField = RecordField<Company>;
 
 /// The layout of a company line, 549 characters. The one place that knows it.
 inline constexpr std::array kCompanyFields = {
@@ -77,17 +72,6 @@ inline constexpr std::array kCompanyFields = {
 };
 
 inline constexpr std::size_t kCompanyWidth = 549;
-
-/// Each field begins where the one before it ends.
-template <typename Fields>
-[[nodiscard]] constexpr bool isContiguous(const Fields& fields, std::size_t width) {
-    std::size_t next = 1;
-    for (const auto& field : fields) {
-        if (field.column.start != next) return false;
-        next = field.column.end();
-    }
-    return next == width + 1;
-}
 
 static_assert(isContiguous(kCompanyFields, kCompanyWidth));
 

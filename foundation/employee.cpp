@@ -6,17 +6,12 @@ std::string encode(const Employee& employee, std::string existing) {
     const bool isNew = existing.empty();
     const Employee before = isNew ? Employee() : decodeEmployee(existing);
     RecordLine line(std::move(existing), isNew ? kEmployeeWidth : 0);
-    for (const EmployeeField& field : kEmployeeFields)
-        if (employee.*field.member != before.*field.member)
-            line.put(field.column, employee.*field.member);
+    putFields(kEmployeeFields, employee, before, line);
     return line.bytes();
 }
 
 Employee decodeEmployee(std::string_view lineBytes) {
-    Employee employee;
-    for (const EmployeeField& field : kEmployeeFields)
-        employee.*field.member = fieldOf(lineBytes, field.column);
-    return employee;
+    return decodeFields<Employee>(kEmployeeFields, lineBytes);
 }
 
 }  // namespace winvrx

@@ -2,7 +2,7 @@
 
 #include "foundation/codes.h"
 #include "foundation/date.h"
-#include "foundation/record_file.h"
+#include "foundation/record_fields.h"
 #include "foundation/shift.h"
 
 #include <array>
@@ -61,12 +61,7 @@ struct Employee {
 /// The status word of an employee who was taken off the list but is kept in it.
 inline constexpr std::string_view kDeletedStatus = "Excluido";
 
-/// One field of the record, with the caption that the screen shows.
-struct EmployeeField {
-    std::string Employee::*member;
-    Column column;
-    std::string_view caption;
-};
+using EmployeeField = RecordField<Employee>;
 
 /// The layout of an employee line. The one place that knows it. Columns between the fields are
 /// blank in a new line and kept as they stand in an existing one.
@@ -101,17 +96,6 @@ inline constexpr std::array kEmployeeFields = {
 };
 
 inline constexpr std::size_t kEmployeeWidth = 697;
-
-/// Fields stand in order and none covers another.
-template <typename Fields>
-[[nodiscard]] constexpr bool isOrdered(const Fields& fields, std::size_t width) {
-    std::size_t next = 1;
-    for (const auto& field : fields) {
-        if (field.column.start < next) return false;
-        next = field.column.end();
-    }
-    return next == width + 1;
-}
 
 static_assert(isOrdered(kEmployeeFields, kEmployeeWidth));
 

@@ -15,16 +15,7 @@ namespace {
 
 enum Group { kCompany, kOwner, kUnion };
 
-/// Where a field stands and what it is called; caption and width come from the record's layout.
-struct Placement {
-    std::string Company::*member;
-    const char* name;
-    char mnemonic;
-    int group;
-    int row;
-    int span;  ///< of the twelve columns of the grid
-    FieldCheck check = FieldCheck::None;
-};
+using Placement = FieldPlacement<Company>;
 
 constexpr std::array kPlacements = {
     Placement{&Company::code, "code", 'K', kCompany, 0, 1},
@@ -55,16 +46,8 @@ constexpr std::array kPlacements = {
 
 static_assert(kPlacements.size() == kCompanyFields.size());
 
-constexpr int kGridColumns = 12;
-
-const CompanyField& layoutOf(std::string Company::*member) {
-    for (const CompanyField& field : kCompanyFields)
-        if (field.member == member) return field;
-    throw std::logic_error("company member without a column");
-}
-
 TextField* fieldFor(const Placement& place, QWidget* parent) {
-    const CompanyField& layout = layoutOf(place.member);
+    const CompanyField& layout = fieldHolding(kCompanyFields, place.member);
     TextField* field = checkedField(withMnemonic(layout.caption, place.mnemonic),
                                     QStringLiteral("empresa.") + QLatin1String(place.name),
                                     layout.column.width, place.check, parent);
@@ -95,20 +78,11 @@ void CompanyForm::addGroup(QVBoxLayout& column, const QString& heading, int grou
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(look::kGap);
     grid->setVerticalSpacing(look::kSmallGap / 2);
-    for (int i = 0; i < kGridColumns; ++i)
-        grid->setColumnStretch(i, 1);
-    int row = -1;
-    int next = 0;
-    for (const Placement& place : kPlacements) {
-        if (place.group != group) continue;
-        if (place.row != row) next = 0;
-        row = place.row;
+    fields_.layOut(kPlacements, group, *grid, [this](const Placement& place) {
         TextField* field = fieldFor(place, this);
-        grid->addWidget(field, row, next, 1, place.span, Qt::AlignTop);
-        next += place.span;
-        fields_.bind(place.member, field);
         connect(field, &TextField::edited, this, &CompanyForm::edited);
-    }
+        return field;
+    });
     column.addLayout(grid);
 }
 

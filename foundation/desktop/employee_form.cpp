@@ -25,16 +25,7 @@ namespace {
 
 enum Tab { kIdentity, kContract, kDocuments, kAddress, kNotes };
 
-/// Where a field stands and what it is called; caption and width come from the record's layout.
-struct Placement {
-    std::string Employee::*member;
-    const char* name;
-    char mnemonic;
-    int tab;
-    int row;
-    int span;  ///< of the twelve columns of the grid
-    FieldCheck check = FieldCheck::None;
-};
+using Placement = FieldPlacement<Employee>;
 
 constexpr std::array kPlacements = {
     Placement{&Employee::code, "code", 'C', kIdentity, 0, 2},
@@ -62,19 +53,12 @@ constexpr std::array kPlacements = {
     Placement{&Employee::postalCode, "postalCode", 'P', kAddress, 2, 4, FieldCheck::PostalCode},
 };
 
-constexpr int kGridColumns = 12;
 constexpr int kLongestStatus = 32;  ///< "Inativo desde 10/02/2024" is no text of the record
 constexpr std::string_view kCurrency = "R$ ";
 
-const EmployeeField& layoutOf(std::string Employee::*member) {
-    for (const EmployeeField& field : kEmployeeFields)
-        if (field.member == member) return field;
-    throw std::logic_error("employee member without a column");
-}
-
 /// An amount is shown with the "R$ " that the record leaves out.
 std::size_t typedWidth(const Placement& place) {
-    const std::size_t width = layoutOf(place.member).column.width;
+    const std::size_t width = fieldHolding(kEmployeeFields, place.member).column.width;
     return place.check == FieldCheck::Money ? width + kCurrency.size() : width;
 }
 
@@ -83,7 +67,7 @@ QString objectNameOf(const char* thing) {
 }
 
 QString captionOf(std::string Employee::*member, char mnemonic) {
-    const QString caption = withMnemonic(layoutOf(member).caption, mnemonic);
+    const QString caption = withMnemonic(fieldHolding(kEmployeeFields, member).caption, mnemonic);
     return isRequired(member) ? caption + QStringLiteral(" *") : caption;
 }
 
@@ -111,8 +95,9 @@ ChoiceField* restDayChoice(QWidget* parent) {
             if (choices[i].code == stored) return static_cast<int>(i);
         return -1;
     };
-    return new ChoiceField(withMnemonic(layoutOf(&Employee::restDay).caption, 'E'),
-                           objectNameOf("restDay"), choices, find, parent);
+    return new ChoiceField(
+        withMnemonic(fieldHolding(kEmployeeFields, &Employee::restDay).caption, 'E'),
+        objectNameOf("restDay"), choices, find, parent);
 }
 
 }  // namespace
@@ -141,20 +126,13 @@ void EmployeeForm::addPage(const QString& title, int tab) {
     look::layOutBody(*column);
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(look::kGap);
-    for (int i = 0; i < kGridColumns; ++i)
-        grid->setColumnStretch(i, 1);
-    std::array<int, 4> next{};
-    for (const Placement& place : kPlacements) {
-        if (place.tab != tab) continue;
+    fields_.layOut(kPlacements, tab, *grid, [this, page](const Placement& place) {
         TextField* field =
             checkedField(captionOf(place.member, place.mnemonic), objectNameOf(place.name),
                          typedWidth(place), place.check, page);
-        int& at = next[static_cast<std::size_t>(place.row)];
-        grid->addWidget(field, place.row, at, 1, place.span, Qt::AlignTop);
-        at += place.span;
-        fields_.bind(place.member, field);
         connect(field, &TextField::edited, this, &EmployeeForm::edited);
-    }
+        return field;
+    });
     column->addLayout(grid);
     if (tab == kContract) addChoices(page);
     if (tab == kNotes) addNotes(page);
@@ -188,7 +166,7 @@ void EmployeeForm::addChoice(std::string Employee::*member, ChoiceField* field) 
 }
 
 void EmployeeForm::addNotes(QWidget* page) {
-    const EmployeeField& layout = layoutOf(&Employee::notes);
+    const EmployeeField& layout = fieldHolding(kEmployeeFields, &Employee::notes);
     notes_ = new NotesField(withMnemonic(layout.caption, 'O'), objectNameOf("notes"),
                             layout.column.width, page);
     static_cast<QVBoxLayout*>(page->layout())->addWidget(notes_);

@@ -1,13 +1,30 @@
 #pragma once
 
-#include "foundation/desktop/field_box.h"
+#include "foundation/desktop/checked_field.h"
 #include "foundation/desktop/qt_text.h"
 #include "foundation/text.h"
+
+#include <QGridLayout>
 
 #include <string>
 #include <vector>
 
 namespace winvrx {
+
+/// Where a text field stands and what it is called; caption and width come from the record's
+/// layout.
+template <typename Record>
+struct FieldPlacement {
+    std::string Record::*member;
+    const char* name;
+    char mnemonic;
+    int group;
+    int row;
+    int span;  ///< of the kGridColumns of the grid
+    FieldCheck check = FieldCheck::None;
+};
+
+inline constexpr int kGridColumns = 12;
 
 /// The text fields of a form, each bound to a member of the record that it shows.
 template <typename Record>
@@ -16,6 +33,25 @@ class RecordForm {
     using Member = std::string Record::*;
 
     void bind(Member member, TextField* field) { fields_.push_back({member, field}); }
+
+    /// Builds the fields of one group, row by row, and binds them; `make` gives the field of a
+    /// placement.
+    template <typename Placements, typename Make>
+    void layOut(const Placements& placements, int group, QGridLayout& grid, Make&& make) {
+        for (int column = 0; column < kGridColumns; ++column)
+            grid.setColumnStretch(column, 1);
+        int row = -1;
+        int next = 0;
+        for (const auto& place : placements) {
+            if (place.group != group) continue;
+            if (place.row != row) next = 0;
+            row = place.row;
+            TextField* field = make(place);
+            grid.addWidget(field, row, next, 1, place.span, Qt::AlignTop);
+            next += place.span;
+            bind(place.member, field);
+        }
+    }
 
     void show(const Record& record) {
         for (const Binding& bound : fields_)
