@@ -23,6 +23,7 @@
 #include "timecard/punch_record.h"
 #include "timecard/selected_month.h"
 
+#include <algorithm>
 #include <set>
 
 namespace winvrx {
@@ -125,7 +126,9 @@ std::optional<Screens::Progress> Screens::progress() const {
 QString Screens::companiesState() const {
     try {
         const auto lines = loadCompanies(at_.files, at_.session.folder);
-        return counted(static_cast<int>(lines.size()), QStringLiteral("empresa"),
+        const auto known = std::count_if(lines.begin(), lines.end(),
+                                         [](const CompanyLine& line) { return line.code(); });
+        return counted(static_cast<int>(known), QStringLiteral("empresa"),
                        QStringLiteral("empresas"));
     } catch (const std::exception& fault) {
         at_.log.write(std::string("state of the companies: ") + fault.what());

@@ -20,6 +20,14 @@ Message incorrectData() {
     return {"Erro", "Dados incorretos!", Icon::Critical};
 }
 
+Message noCompany() {
+    return {"Aviso", "Cadastre Primeiro Uma Empresa!!", Icon::Exclamation};
+}
+
+Message noEmployeeSelected() {
+    return {"Aviso", "Selecione um Funcionário na Lista!", Icon::Exclamation};
+}
+
 Message discardTyped() {
     return {"Aviso", "Há dados digitados que não foram gravados. Deseja descartá-los?",
             Icon::Exclamation, Buttons::YesNo};

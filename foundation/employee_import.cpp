@@ -10,8 +10,6 @@ namespace winvrx {
 
 namespace {
 
-const Message kNoCompany{"Aviso", "Cadastre Primeiro Uma Empresa!!", Icon::Exclamation};
-
 Message confirmation(std::size_t count) {
     return {"INCLUSÃO", "Confirma a Inclusão na LISTA DE FUNCIONARIOS?", Icon::Question,
             Buttons::YesNo,
@@ -35,7 +33,7 @@ bool hasText(const std::vector<std::string>& row) {
 
 bool EmployeeImport::open(const std::filesystem::path& csv) {
     if (!at_.session.company) {
-        at_.person.tell(kNoCompany);
+        at_.person.tell(noCompany());
         return false;
     }
     return attempt(at_, incorrectData(), [&] {

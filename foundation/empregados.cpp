@@ -9,7 +9,6 @@ namespace winvrx {
 
 namespace {
 
-const Message kNoCompany{"Aviso", "Cadastre Primeiro Uma Empresa!!", Icon::Exclamation};
 const Message kIncomplete{"Aviso", "Dados Incompletos!!", Icon::Exclamation};
 const Message kNotAccepted{"Aviso", "Dado Incorreto!", Icon::Exclamation};
 const Message kWrongAdmission{"Aviso", "Data de Admissão Incorreta!!", Icon::Exclamation};
@@ -109,7 +108,7 @@ std::optional<Date> Empregados::inactiveSince(const EmployeeLine& line) const {
 }
 
 bool Empregados::hasCompany() const {
-    if (!at_.session.company) at_.person.tell(kNoCompany);
+    if (!at_.session.company) at_.person.tell(noCompany());
     return at_.session.company.has_value();
 }
 

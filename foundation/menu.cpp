@@ -15,7 +15,6 @@ const Message kAlreadyOpen{"Aviso", "O Aplicativo Já está Aberto!", Icon::Excl
 const Message kShareNotFound{"Aviso Diretório de Rede",
                              "Diretório de Rede Não Encontrado, ou Rede Desconectada!",
                              Icon::Critical};
-const Message kNoCompany{"Aviso", "Cadastre Primeiro Uma Empresa!!", Icon::Exclamation};
 const Message kNoEmployee{"Aviso",
                           "Não há Dados de Funcionários! Cadastre pelo menos um Funcionário.",
                           Icon::Exclamation};
@@ -186,7 +185,7 @@ void Menu::useDrive(char letter) {
 
 bool Menu::mayOpen(MenuCommand command) {
     if (needsCompany(command) && !at_.session.company) {
-        at_.person.tell(kNoCompany);
+        at_.person.tell(noCompany());
         return false;
     }
     if (!needsEmployees(command)) return true;

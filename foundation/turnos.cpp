@@ -18,7 +18,6 @@ const Message kRotationMember{
 const Message kBarredByScale{
     "Aviso", "Dado Incorreto!", Icon::Exclamation, Buttons::Ok,
     "A escala 12x36 é permitida somente nos turnos 1 e 3. Altere primeiro a escala."};
-const Message kNobodySelected{"Aviso", "Selecione um Funcionário na Lista!", Icon::Exclamation};
 
 }  // namespace
 
@@ -69,7 +68,7 @@ EmployeeLine& Turnos::lineOfEmployee(std::vector<EmployeeLine>& lines,
 }
 
 void Turnos::askForEmployee() {
-    at_.person.tell(kNobodySelected);
+    at_.person.tell(noEmployeeSelected());
 }
 
 void Turnos::help() {
