@@ -1,6 +1,14 @@
 #include "foundation/employee.h"
 
+#include "foundation/text.h"
+
 namespace winvrx {
+
+namespace {
+
+constexpr std::size_t kShortWeekday = 3;
+
+}  // namespace
 
 std::string encode(const Employee& employee, std::string existing) {
     const bool isNew = existing.empty();
@@ -12,6 +20,14 @@ std::string encode(const Employee& employee, std::string existing) {
 
 Employee decodeEmployee(std::string_view lineBytes) {
     return decodeFields<Employee>(kEmployeeFields, lineBytes);
+}
+
+std::chrono::weekday weeklyRestOf(const Employee& employee) {
+    const std::string stored = foldedForSearch(firstCharacters(employee.restDay, kShortWeekday));
+    for (unsigned day = 0; day < 7; ++day)
+        if (foldedForSearch(weekdayShort(std::chrono::weekday(day))) == stored)
+            return std::chrono::weekday(day);
+    return std::chrono::Sunday;
 }
 
 }  // namespace winvrx

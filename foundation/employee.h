@@ -105,4 +105,8 @@ static_assert(isOrdered(kEmployeeFields, kEmployeeWidth));
 [[nodiscard]] std::string encode(const Employee& employee, std::string existing = {});
 [[nodiscard]] Employee decodeEmployee(std::string_view lineBytes);
 
+/// The weekday of the employee's weekly rest, by its first three letters in any case; Sunday where
+/// the record does not say.
+[[nodiscard]] std::chrono::weekday weeklyRestOf(const Employee& employee);
+
 }  // namespace winvrx

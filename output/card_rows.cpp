@@ -10,15 +10,6 @@ namespace winvrx {
 namespace {
 
 constexpr int kFirstHalfEnd = 15;
-constexpr std::size_t kShortWeekday = 3;
-
-std::chrono::weekday restDayOf(const Employee& employee) {
-    const std::string stored = foldedForSearch(firstCharacters(employee.restDay, kShortWeekday));
-    for (unsigned day = 0; day < 7; ++day)
-        if (foldedForSearch(weekdayShort(std::chrono::weekday(day))) == stored)
-            return std::chrono::weekday(day);
-    return std::chrono::Sunday;
-}
 
 std::string pairText(const TimePair& pair) {
     if (!pair.entry && !pair.exit) return {};
@@ -63,7 +54,7 @@ std::string situationOf(const CardData& card, const PunchLine& line, Date date) 
     if (const auto stored = trimmed(line.situation); !stored.empty()) return std::string(stored);
     if (card.settings.isHoliday(date)) return std::string(kSituationHoliday);
     const auto weekday = weekdayOf(date);
-    if (weekday == std::chrono::Sunday || weekday == restDayOf(card.employee))
+    if (weekday == std::chrono::Sunday || weekday == weeklyRestOf(card.employee))
         return std::string(kSituationWeeklyRest);
     return {};
 }
@@ -80,7 +71,11 @@ void putTimes(CardRow& row, const PunchLine& line) {
 /// Fills in the rows from the punches, then the sums that only the last of them completes.
 class PunchWriter {
   public:
-    PunchWriter(const CardData& card, std::vector<CardRow>& rows) : card_(card), rows_(rows) {}
+    PunchWriter(const CardData& card, std::vector<CardRow>& rows)
+        : card_(card),
+          terms_(workTerms(card.settings, card.settings.overtime,
+                           card.schedule.value_or(StandardSchedule()), card.employee)),
+          rows_(rows) {}
 
     void write(const PunchLine& line, Date date) {
         CardRow& row = rows_[static_cast<std::size_t>(dayNumber(date) - 1)];
@@ -89,7 +84,7 @@ class PunchWriter {
             return;
         }
         putTimes(row, line);
-        const std::chrono::seconds worked = workedOn(line);
+        const std::chrono::seconds worked = dayHours(line, date, terms_).worked();
         if (worked > worked.zero()) row[cardColumn("horas")] = shown(worked);
         (dayNumber(date) <= kFirstHalfEnd ? firstHalf_ : secondHalf_) += worked;
     }
@@ -108,6 +103,7 @@ class PunchWriter {
     }
 
     const CardData& card_;
+    WorkTerms terms_;
     std::vector<CardRow>& rows_;
     std::chrono::seconds firstHalf_{0};
     std::chrono::seconds secondHalf_{0};
@@ -116,7 +112,7 @@ class PunchWriter {
 }  // namespace
 
 std::string restDayText(const Employee& employee) {
-    return std::string(weekdayName(restDayOf(employee)));
+    return std::string(weekdayName(weeklyRestOf(employee)));
 }
 
 std::string scheduleText(const DaySchedule& schedule) {

@@ -7,8 +7,6 @@ namespace winvrx {
 
 namespace {
 
-constexpr int kLastOfFirstHalf = 15;
-
 /// The label comes first in the record and is no cell.
 constexpr std::size_t kFieldsBeforeCells = 1;
 static_assert(kPunchCells.size() + kFieldsBeforeCells == kPunchFields.size());
@@ -36,11 +34,6 @@ std::string storageFinding(const std::string& text) {
 }
 
 }  // namespace
-
-DayRange daysOf(HalfMonth half, WorkMonth month) {
-    if (half == HalfMonth::First) return {1, kLastOfFirstHalf};
-    return {kLastOfFirstHalf + 1, daysIn(month)};
-}
 
 CardSheet::CardSheet(std::vector<PunchLine> recorded)
     : lines_(recorded), recorded_(std::move(recorded)) {}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "timecard/half_month.h"
 #include "timecard/punch_record.h"
 
 #include <array>
@@ -29,14 +30,6 @@ inline constexpr std::array kPunchCells = {PunchCell::MorningEntry,   PunchCell:
 [[nodiscard]] constexpr bool isTime(PunchCell cell) {
     return cell < PunchCell::ShortField;
 }
-
-/// The days of a half-month: "1º Quinzena" is days 1 to 15, "2º Quinzena" day 16 to the end.
-enum class HalfMonth { First, Second };
-struct DayRange {
-    int first = 1;
-    int last = 15;
-};
-[[nodiscard]] DayRange daysOf(HalfMonth half, WorkMonth month);
 
 /// One employee's month on the screen, as recorded and as edited.
 class CardSheet {

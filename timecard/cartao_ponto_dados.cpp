@@ -2,6 +2,7 @@
 
 #include "foundation/company_register.h"
 #include "timecard/hours.h"
+#include "timecard/overtime_record.h"
 #include "timecard/punch_application.h"
 #include "timecard/selected_month.h"
 
@@ -100,6 +101,7 @@ void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings&
     filter_ = filter;
     employees_ = employeesOf(lines, filter);
     position_.reset();
+    overtime_ = settings_.overtime;
     schedule_ = TypedSchedule();
     sheet_ = CardSheet(blankMonth(settings_.month));
     unreadLines_.clear();
@@ -113,9 +115,12 @@ void CartaoPontoDados::loadCard(std::size_t position) {
     const EmployeeCode code = employees_.at(position).employeeCode().value();
     const CompanyCode& company = company_.value();
     const auto schedule = loadSchedule(at_.files, at_.session.folder, company, code);
+    const OvertimeRules overtime =
+        overtimeOf(at_.files, at_.session.folder, company, code, settings_);
     auto punches = loadPunches(at_.files, at_.session.folder, company, code, settings_.month);
     unreadLines_ = unreadPunchLines(at_.files, at_.session.folder, company, code, settings_.month);
     position_ = position;
+    overtime_ = overtime;
     schedule_ = TypedSchedule(schedule.value_or(StandardSchedule()));
     applied_ = punches.has_value();
     sheet_ = CardSheet(punches ? std::move(*punches) : blankMonth(settings_.month));
@@ -256,17 +261,20 @@ DayKind CartaoPontoDados::kindOf(int day) const {
     return weekdayOf(date) == std::chrono::Sunday ? DayKind::WeeklyRest : DayKind::Work;
 }
 
+WorkTerms CartaoPontoDados::terms() const {
+    return workTerms(settings_, overtime_, schedule_.schedule(),
+                     selected() ? *selected() : Employee());
+}
+
 std::string CartaoPontoDados::totalOf(int day) const {
-    const auto worked = workedOn(sheet_.line(day));
-    return worked.count() == 0 ? std::string() : formatted(worked, settings_.overtime.totalsFormat);
+    const Date date = plusDays(firstDay(settings_.month), day - 1);
+    const auto worked = dayHours(sheet_.line(day), date, terms()).worked();
+    return worked.count() == 0 ? std::string() : formatted(worked, overtime_.totalsFormat);
 }
 
 std::string CartaoPontoDados::totalOf(HalfMonth half) const {
-    const DayRange days = daysOf(half, settings_.month);
-    std::chrono::seconds worked{0};
-    for (int day = days.first; day <= days.last; ++day)
-        worked += workedOn(sheet_.line(day));
-    return formatted(worked, settings_.overtime.totalsFormat);
+    const HourTotals totals = periodHours(sheet_.lines(), firstDay(settings_.month), terms(), half);
+    return formatted(totals.worked(), overtime_.totalsFormat);
 }
 
 bool CartaoPontoDados::savePunches() {

@@ -3,6 +3,7 @@
 #include "foundation/command.h"
 #include "foundation/employee_register.h"
 #include "timecard/card_sheet.h"
+#include "timecard/hours.h"
 #include "timecard/month_settings.h"
 #include "timecard/typed_schedule.h"
 
@@ -81,11 +82,13 @@ class CartaoPontoDados {
     [[nodiscard]] bool passesApplicationChecks();
     void requireScheduleAsShown() const;
     [[nodiscard]] EmployeeCode selectedCode() const;
+    [[nodiscard]] WorkTerms terms() const;
 
     Workplace at_;
     std::optional<CompanyCode> company_;
     std::string companyName_;
     MonthSettings settings_;
+    OvertimeRules overtime_;
     ShiftFilter filter_ = ShiftFilter::Todos;
     std::vector<Employee> employees_;
     std::optional<std::size_t> position_;

@@ -1,36 +1,133 @@
 #pragma once
 
+#include "foundation/employee.h"
+#include "timecard/half_month.h"
+#include "timecard/hours_format.h"
 #include "timecard/month_settings.h"
+#include "timecard/overtime_rules.h"
 #include "timecard/punch_record.h"
+#include "timecard/schedule_hours.h"
 
+#include <array>
 #include <chrono>
-#include <string>
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <vector>
+
+// The one calculation of hours: screen, card, mirror, reports and payroll all ask here. Durations
+// are exact seconds; rounding is hours_format's, and only for showing. docs/hours.md tells the
+// rules with an example each.
+//
+//     const WorkTerms terms = workTerms(settings, overtime, schedule, employee);
+//     const HourTotals month = periodHours(lines, firstDay(settings.month), terms);
+//     formatted(month[HourCategory::Missing], overtime.totalsFormat)     "01:30"
 
 namespace winvrx {
 
-/// The length of a pair; over midnight when the exit is earlier than the entry. A pair with a
-/// blank, or whose entry equals its exit, counts nothing.
-[[nodiscard]] std::chrono::seconds lengthOf(const TimePair& pair);
+/// In the order of "Resumo das Horas".
+enum class HourCategory {
+    Standard,
+    NormalDay,
+    NormalNight,
+    ExtraMinimum,
+    ExtraMaximum,
+    NightExtraMinimum,
+    NightExtraMaximum,
+    Missing,
+    WeeklyRest
+};
 
-/// All that was worked on the line's day.
-[[nodiscard]] std::chrono::seconds workedOn(const PunchLine& line);
+inline constexpr std::array kHourCategories = {
+    HourCategory::Standard,          HourCategory::NormalDay,    HourCategory::NormalNight,
+    HourCategory::ExtraMinimum,      HourCategory::ExtraMaximum, HourCategory::NightExtraMinimum,
+    HourCategory::NightExtraMaximum, HourCategory::Missing,      HourCategory::WeeklyRest};
 
-/// "hh:mm" (minutes cut) or "#,##0.00" decimal hours (half up), as the month chooses.
-[[nodiscard]] std::string formatted(std::chrono::seconds duration, TotalsFormat format);
+/// A duration for each category, of one day or of many.
+class HourTotals {
+  public:
+    [[nodiscard]] std::chrono::seconds operator[](HourCategory category) const {
+        return durations_[static_cast<std::size_t>(category)];
+    }
+    [[nodiscard]] std::chrono::seconds& operator[](HourCategory category) {
+        return durations_[static_cast<std::size_t>(category)];
+    }
+    HourTotals& operator+=(const HourTotals& other);
 
-/// Decimal hours, half up, with "." between thousands and "," before the decimals, of which there
-/// are one or two: "1.234,50".
-enum class Decimals { One = 1, Two = 2 };
-[[nodiscard]] std::string decimalHours(std::chrono::seconds duration, Decimals decimals);
+    [[nodiscard]] std::chrono::seconds normal() const;
+    /// "Hora NotExtr": night extra hours as one figure.
+    [[nodiscard]] std::chrono::seconds nightExtra() const;
+    [[nodiscard]] std::chrono::seconds extra() const;  ///< of day and night
+    [[nodiscard]] std::chrono::seconds worked() const { return normal() + extra(); }
 
-/// What the schedule asks of one day of its kind.
-[[nodiscard]] std::chrono::seconds lengthOf(const DaySchedule& day);
+    [[nodiscard]] bool operator==(const HourTotals&) const = default;
 
-/// Monday to Friday, and Saturday when its hours are normal time.
-[[nodiscard]] std::chrono::seconds weeklyHours(const StandardSchedule& schedule);
+  private:
+    std::array<std::chrono::seconds, kHourCategories.size()> durations_{};
+};
 
-/// Five times the weekly hours: 44 a week are 220 a month, the divisor of a monthly wage
-/// (CLT, art. 64: thirty times the hours of one of six days).
-[[nodiscard]] std::chrono::seconds monthlyHours(const StandardSchedule& schedule);
+/// What an employee's hours depend on besides the punches.
+struct WorkTerms {
+    DaySchedule weekday;
+    DaySchedule saturday;
+    bool saturdayIsNormal = false;
+    std::chrono::weekday restDay = std::chrono::Sunday;  ///< the employee's own weekly rest
+    std::optional<Date> admission;                       ///< days before it count nothing
+    std::vector<Date> holidays;
+    OvertimeRules overtime;
+
+    /// A Sunday or a ticked holiday: a DSR day (Lei 605/1949, art. 1º).
+    [[nodiscard]] bool isRestDay(Date date) const;
+};
+
+/// `overtime` is what holds for the employee: his own figures or the month's.
+[[nodiscard]] WorkTerms workTerms(const MonthSettings& settings, const OvertimeRules& overtime,
+                                  const StandardSchedule& schedule, const Employee& employee);
+
+/// The hours of one day. What was worked past midnight belongs to the line that it stands on.
+[[nodiscard]] HourTotals dayHours(const PunchLine& line, Date date, const WorkTerms& terms);
+
+/// The rule by which some minutes came to their category.
+enum class HourRule {
+    Schedule,         ///< asked for by the schedule
+    WithinSchedule,   ///< worked, up to the day's standard hours
+    Tolerated,        ///< worked, with variations within the tolerance
+    WorkingDay,       ///< extra on a working day
+    UpToThreshold,    ///< extra, up to the daily threshold
+    AboveThreshold,   ///< extra, above it
+    RestDay,          ///< extra on a Sunday, a holiday or a day marked as rest
+    SingleLevel,      ///< extra, paid at one percentage only
+    MarkedMissing,    ///< the day is marked as an absence
+    ShortOfSchedule,  ///< worked less than the schedule asks for, beyond the tolerance
+    PaidRest          ///< a DSR day
+};
+
+/// From when to when by the clock; `to` may lie on the day after.
+struct ClockSpan {
+    TimeOfDay from;
+    TimeOfDay to;
+
+    [[nodiscard]] bool operator==(const ClockSpan&) const = default;
+};
+
+/// One piece of a day's figure.
+struct HourPart {
+    HourCategory category;
+    HourRule rule;
+    std::chrono::seconds length;
+    std::optional<ClockSpan> span;  ///< nullopt for what was not worked
+
+    [[nodiscard]] bool operator==(const HourPart&) const = default;
+};
+
+/// What dayHours adds up, in the order in which it is worked.
+[[nodiscard]] std::vector<HourPart> dayParts(const PunchLine& line, Date date,
+                                             const WorkTerms& terms);
+
+/// The sums over lines of one day each, the first of `first`, in date order; over those of one half
+/// of a month where `half` says so.
+[[nodiscard]] HourTotals periodHours(std::span<const PunchLine> lines, Date first,
+                                     const WorkTerms& terms,
+                                     std::optional<HalfMonth> half = std::nullopt);
 
 }  // namespace winvrx

@@ -21,7 +21,7 @@ TEST(Hours, PairsCountOverMidnightAndOnlyWhenComplete) {
             << c.entry << " to " << c.exit;
 }
 
-TEST(Hours, ADayAddsItsThreePairsAndSkipsWhatIsNoTime) {
+TEST(Hours, SkipsATimeThatIsNone) {
     PunchLine line;
     line.morningEntry = "08:00";
     line.morningExit = "12:00";
@@ -29,7 +29,7 @@ TEST(Hours, ADayAddsItsThreePairsAndSkipsWhatIsNoTime) {
     line.afternoonExit = "x7:30";
     line.extraEntry = "22:00";
     line.extraExit = "1:00";
-    EXPECT_EQ(workedOn(line), 7h);
+    EXPECT_EQ(dayHours(line, *parseDate("05/03/2024"), WorkTerms()).worked(), 7h);
 }
 
 TEST(Hours, FormatsExactly) {
