@@ -27,26 +27,23 @@ struct DayTerms {
     bool paidRest = false;
 };
 
-DaySchedule scheduledOn(Date date, const WorkTerms& terms) {
-    const auto weekday = weekdayOf(date);
+DaySchedule scheduledOn(std::chrono::weekday weekday, const WorkTerms& terms) {
     if (weekday != std::chrono::Saturday) return terms.weekday;
     return terms.saturdayIsNormal ? terms.saturday : DaySchedule();
 }
 
-/// The employee's own rest day asks for nothing as long as nothing is said of it.
-bool isOwnRest(const DayPunches& punches, DayMeaning meaning, Date date, const WorkTerms& terms) {
-    return meaning == DayMeaning::Work && punches.none() && weekdayOf(date) == terms.restDay;
-}
-
 DayTerms dayTerms(const DayPunches& punches, DayMeaning meaning, Date date,
                   const WorkTerms& terms) {
+    const std::chrono::weekday weekday = weekdayOf(date);
     DayTerms day;
     day.meaning = meaning;
-    day.paidRest = terms.isRestDay(date);
+    day.paidRest = weekday == std::chrono::Sunday || terms.isHoliday(date);
     day.atMaximum =
         day.paidRest || meaning == DayMeaning::Holiday || meaning == DayMeaning::WeeklyRest;
-    if (!day.atMaximum && meaning != DayMeaning::Leave && !isOwnRest(punches, meaning, date, terms))
-        day.scheduled = scheduledOn(date, terms);
+    // The employee's own rest day asks for nothing as long as nothing is said of it.
+    const bool ownRest = weekday == terms.restDay && meaning == DayMeaning::Work && punches.none();
+    if (!day.atMaximum && meaning != DayMeaning::Leave && !ownRest)
+        day.scheduled = scheduledOn(weekday, terms);
     return day;
 }
 

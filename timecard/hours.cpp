@@ -24,9 +24,8 @@ seconds HourTotals::extra() const {
     return (*this)[HourCategory::ExtraMinimum] + (*this)[HourCategory::ExtraMaximum] + nightExtra();
 }
 
-bool WorkTerms::isRestDay(Date date) const {
-    return weekdayOf(date) == std::chrono::Sunday ||
-           std::find(holidays.begin(), holidays.end(), date) != holidays.end();
+bool WorkTerms::isHoliday(Date date) const {
+    return std::find(holidays.begin(), holidays.end(), date) != holidays.end();
 }
 
 WorkTerms workTerms(const MonthSettings& settings, const OvertimeRules& overtime,
@@ -43,10 +42,10 @@ WorkTerms workTerms(const MonthSettings& settings, const OvertimeRules& overtime
 HourTotals periodHours(std::span<const PunchLine> lines, Date first, const WorkTerms& terms,
                        std::optional<HalfMonth> half) {
     HourTotals totals;
-    Date date = first;
+    std::chrono::sys_days day{first};
     for (const PunchLine& line : lines) {
+        const Date date{day++};
         if (!half || halfOf(date) == *half) totals += dayHours(line, date, terms);
-        date = plusDays(date, 1);
     }
     return totals;
 }

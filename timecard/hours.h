@@ -76,8 +76,7 @@ struct WorkTerms {
     std::vector<Date> holidays;
     OvertimeRules overtime;
 
-    /// A Sunday or a ticked holiday: a DSR day (Lei 605/1949, art. 1º).
-    [[nodiscard]] bool isRestDay(Date date) const;
+    [[nodiscard]] bool isHoliday(Date date) const;
 };
 
 /// `overtime` is what holds for the employee: his own figures or the month's.
@@ -99,7 +98,7 @@ enum class HourRule {
     SingleLevel,      ///< extra, paid at one percentage only
     MarkedMissing,    ///< the day is marked as an absence
     ShortOfSchedule,  ///< worked less than the schedule asks for, beyond the tolerance
-    PaidRest          ///< a DSR day
+    PaidRest          ///< a Sunday or a ticked holiday (Lei 605/1949, art. 1º)
 };
 
 /// From when to when by the clock; `to` may lie on the day after.

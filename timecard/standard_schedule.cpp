@@ -79,6 +79,8 @@ const std::optional<TimeOfDay>& timeAt(const StandardSchedule& schedule, std::si
 }
 
 std::optional<TimeOfDay> parseTypedTime(std::string_view text) {
+    if (text.empty()) return std::nullopt;
+    if (const auto time = parseTime(text)) return time;
     const std::size_t separator = text.find_first_of(kSeparators);
     std::string_view hours = text.substr(0, separator);
     std::string_view minutes = "0";
