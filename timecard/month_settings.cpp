@@ -2,108 +2,76 @@
 
 #include "foundation/text.h"
 
+#include <algorithm>
+
 namespace winvrx {
 
 namespace {
 
-/// Lines of the record, counted from 0 as a vector counts them. The holiday cells come first.
-enum RecordLineIndex : std::size_t {
-    kMinimumPercent = kHolidayCells,
-    kNightMinimumPercent,
-    kMaximumPercent,
-    kNightMaximumPercent,
-    kRecordTicks,
-    kDifferentiatedPercent,
-    kMode,
-    kTotalsFormat,
-    kThresholdHours,
-    kClosingDay,
-    kFixedMonth,
-    kKnownLines
-};
+/// Lines of the record behind the holiday cells, counted from 1 as docs/record-layouts.md does: the
+/// figures of kOvertimeFigures and what stands between and behind them.
+constexpr std::array<std::size_t, kOvertimeFigures.size()> kFigureLines = {43, 44, 45, 46,
+                                                                           48, 49, 50, 51};
+constexpr std::size_t kRecordTicksLine = 47;
+constexpr std::size_t kClosingDayLine = 52;
+constexpr std::size_t kFixedMonthLine = 53;
+constexpr std::size_t kKnownLines = 53;
+static_assert(kFigureLines.front() == kHolidayCells + 1);
+static_assert(kHolidayCells + kFigureLines.size() + 3 == kKnownLines);
 
-// Counted from 1, as docs/record-layouts.md counts them.
-static_assert(kMinimumPercent + 1 == 43);
-static_assert(kRecordTicks + 1 == 47);
-static_assert(kThresholdHours + 1 == 51);
-static_assert(kKnownLines == 53);
+/// The numbers of the known lines, in their order.
+using Values = std::array<int, kKnownLines>;
 
-/// The values of a record, with the default wherever a line is missing or out of range.
-class RecordReader {
-  public:
-    explicit RecordReader(const std::vector<std::string>& lines) : lines_(lines) {}
+Values valuesOf(const MonthSettings& settings) {
+    Values values{};
+    std::ranges::copy(settings.holidayCells, values.begin());
+    for (std::size_t i = 0; i < kFigureLines.size(); ++i)
+        values[kFigureLines[i] - 1] = kOvertimeFigures[i].read(settings.overtime);
+    values[kRecordTicksLine - 1] = settings.recordTicks ? 1 : 0;
+    values[kClosingDayLine - 1] = settings.closingDay;
+    values[kFixedMonthLine - 1] = settings.fixedMonth ? 1 : 0;
+    return values;
+}
 
-    [[nodiscard]] int number(std::size_t line, int lowest, int highest, int otherwise) const {
-        if (line >= lines_.size()) return otherwise;
-        return parseWholeNumber(lines_[line], lowest, highest).value_or(otherwise);
-    }
-
-    [[nodiscard]] bool flag(std::size_t line, bool otherwise) const {
-        return number(line, 0, 1, otherwise ? 1 : 0) == 1;
-    }
-
-  private:
-    const std::vector<std::string>& lines_;
-};
-
-MonthSettings decode(WorkMonth month, const std::vector<std::string>& lines) {
+MonthSettings settingsOf(WorkMonth month, const Values& values) {
     MonthSettings settings;
     settings.month = month;
-    const RecordReader record(lines);
     for (std::size_t cell = 0; cell < kHolidayCells; ++cell)
-        settings.holidayCells[cell] = record.flag(cell, false);
-    const auto percent = [&](std::size_t line, int& field) {
-        field = record.number(line, 0, kHighestPercent, field);
-    };
-    percent(kMinimumPercent, settings.overtime.minimumPercent);
-    percent(kNightMinimumPercent, settings.overtime.nightMinimumPercent);
-    percent(kMaximumPercent, settings.overtime.maximumPercent);
-    percent(kNightMaximumPercent, settings.overtime.nightMaximumPercent);
-    settings.recordTicks = record.flag(kRecordTicks, settings.recordTicks);
-    settings.overtime.differentiatedPercent = record.flag(kDifferentiatedPercent, false);
-    settings.overtime.mode =
-        record.flag(kMode, false) ? OvertimeMode::SingleLevel : OvertimeMode::BothLevels;
-    settings.overtime.totalsFormat = record.flag(kTotalsFormat, false)
-                                         ? TotalsFormat::DecimalHours
-                                         : TotalsFormat::HoursAndMinutes;
-    settings.overtime.thresholdHours =
-        record.number(kThresholdHours, 0, kHighestThreshold, settings.overtime.thresholdHours);
-    settings.closingDay = record.number(kClosingDay, 1, kHighestClosingDay, settings.closingDay);
-    settings.fixedMonth = record.flag(kFixedMonth, settings.fixedMonth);
+        settings.holidayCells[cell] = values[cell] == 1;
+    for (std::size_t i = 0; i < kFigureLines.size(); ++i)
+        kOvertimeFigures[i].write(settings.overtime, values[kFigureLines[i] - 1]);
+    settings.recordTicks = values[kRecordTicksLine - 1] == 1;
+    settings.closingDay = values[kClosingDayLine - 1];
+    settings.fixedMonth = values[kFixedMonthLine - 1] == 1;
     return settings;
 }
 
-std::vector<std::string> encode(const MonthSettings& settings) {
-    std::vector<std::string> lines;
-    lines.reserve(kKnownLines);
-    const auto flag = [&lines](bool value) { lines.emplace_back(value ? "1" : "0"); };
-    const auto number = [&lines](int value) { lines.push_back(std::to_string(value)); };
-    for (const bool ticked : settings.holidayCells)
-        flag(ticked);
-    number(settings.overtime.minimumPercent);
-    number(settings.overtime.nightMinimumPercent);
-    number(settings.overtime.maximumPercent);
-    number(settings.overtime.nightMaximumPercent);
-    flag(settings.recordTicks);
-    flag(settings.overtime.differentiatedPercent);
-    flag(settings.overtime.mode == OvertimeMode::SingleLevel);
-    flag(settings.overtime.totalsFormat == TotalsFormat::DecimalHours);
-    number(settings.overtime.thresholdHours);
-    number(settings.closingDay);
-    flag(settings.fixedMonth);
-    return lines;
+/// The number of a known line; nullopt when it is none of the line's range.
+std::optional<int> numberOf(const std::string& bytes, std::size_t line) {
+    if (line == kClosingDayLine) return parseWholeNumber(bytes, 1, kHighestClosingDay);
+    const auto* figure = std::find(kFigureLines.begin(), kFigureLines.end(), line);
+    if (figure == kFigureLines.end()) return parseWholeNumber(bytes, 0, 1);
+    const auto place = static_cast<std::size_t>(figure - kFigureLines.begin());
+    return parseWholeNumber(bytes, 0, kOvertimeFigures[place].highest);
+}
+
+MonthSettings decode(WorkMonth month, const std::vector<std::string>& lines) {
+    Values values = valuesOf({});
+    for (std::size_t place = 0; place < std::min(lines.size(), kKnownLines); ++place)
+        values[place] = numberOf(lines[place], place + 1).value_or(values[place]);
+    return settingsOf(month, values);
 }
 
 /// `settings` put into a record that stands.
 std::vector<std::string> encodeInto(std::vector<std::string> record,
                                     const MonthSettings& settings) {
-    const std::vector<std::string> before = encode(decode(settings.month, record));
-    const std::vector<std::string> after = encode(settings);
-    for (std::size_t line = 0; line < after.size(); ++line) {
-        if (line >= record.size())
-            record.push_back(after[line]);
-        else if (before[line] != after[line] || trimmed(record[line]).empty())
-            record[line] = after[line];
+    const Values before = valuesOf(decode(settings.month, record));
+    const Values after = valuesOf(settings);
+    for (std::size_t place = 0; place < kKnownLines; ++place) {
+        const bool missing = place >= record.size();
+        if (missing) record.emplace_back();
+        if (missing || before[place] != after[place] || trimmed(record[place]).empty())
+            record[place] = std::to_string(after[place]);
     }
     return record;
 }
@@ -146,6 +114,18 @@ bool hasMonthSettings(FileSystem& files, const DataFolder& folder, WorkMonth mon
 
 MonthSettings loadMonthSettings(FileSystem& files, const DataFolder& folder, WorkMonth month) {
     return decode(month, recordOf(files, folder, month).lines());
+}
+
+std::vector<UnreadLine> unreadMonthLines(FileSystem& files, const DataFolder& folder,
+                                         WorkMonth month) {
+    std::vector<UnreadLine> unread;
+    const auto lines = recordOf(files, folder, month).lines();
+    for (std::size_t line = 1; line <= lines.size(); ++line) {
+        const std::string& bytes = lines[line - 1];
+        const bool understood = line <= kKnownLines && numberOf(bytes, line);
+        if (!understood && !trimmed(bytes).empty()) unread.push_back({line, readableText(bytes)});
+    }
+    return unread;
 }
 
 void saveMonthSettings(FileSystem& files, const DataFolder& folder, const MonthSettings& settings) {

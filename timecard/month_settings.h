@@ -48,6 +48,18 @@ inline constexpr int kHighestClosingDay = 31;
 /// counts as the default.
 [[nodiscard]] MonthSettings loadMonthSettings(FileSystem& files, const DataFolder& folder,
                                               WorkMonth month);
+
+/// A line of the record that holds no number of its range, or stands behind the known ones. It is
+/// kept as it stands.
+struct UnreadLine {
+    std::size_t number;  ///< counted from 1
+    std::string text;    ///< what can be shown of it
+
+    [[nodiscard]] bool operator==(const UnreadLine&) const = default;
+};
+[[nodiscard]] std::vector<UnreadLine> unreadMonthLines(FileSystem& files, const DataFolder& folder,
+                                                       WorkMonth month);
+
 /// A line whose meaning does not change keeps its bytes, those that are not understood and those
 /// past the known ones included.
 void saveMonthSettings(FileSystem& files, const DataFolder& folder, const MonthSettings& settings);

@@ -8,8 +8,9 @@ namespace winvrx {
 
 namespace {
 
-std::optional<int> numberIn(std::string_view lineBytes, const OvertimeColumn& column) {
-    return parseWholeNumber(fieldOf(lineBytes, column.column), 0, column.highest);
+std::optional<int> numberAt(std::size_t place, std::string_view lineBytes) {
+    return parseWholeNumber(fieldOf(lineBytes, kOvertimeColumns[place]), 0,
+                            kOvertimeFigures[place].highest);
 }
 
 RecordFile recordOf(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
@@ -30,10 +31,10 @@ std::optional<OvertimeLine> decodeOvertime(std::string_view lineBytes) {
     const auto month = parseMonthKey(fieldOf(lineBytes, kOvertimeMonth));
     if (!month) return std::nullopt;
     OvertimeLine line{*month, {}};
-    for (const OvertimeColumn& column : kOvertimeColumns) {
-        const auto number = numberIn(lineBytes, column);
+    for (std::size_t place = 0; place < kOvertimeFigures.size(); ++place) {
+        const auto number = numberAt(place, lineBytes);
         if (!number) return std::nullopt;
-        column.write(line.rules, *number);
+        kOvertimeFigures[place].write(line.rules, *number);
     }
     return line;
 }
@@ -41,10 +42,10 @@ std::optional<OvertimeLine> decodeOvertime(std::string_view lineBytes) {
 std::string encode(const OvertimeLine& line, std::string existing) {
     RecordLine record(std::move(existing), kOvertimeWidth);
     record.put(kOvertimeMonth, monthKey(line.month));
-    for (const OvertimeColumn& column : kOvertimeColumns) {
-        const int number = column.read(line.rules);
-        if (numberIn(record.bytes(), column) != number)
-            record.put(column.column, std::to_string(number));
+    for (std::size_t place = 0; place < kOvertimeFigures.size(); ++place) {
+        const int number = kOvertimeFigures[place].read(line.rules);
+        if (numberAt(place, record.bytes()) != number)
+            record.put(kOvertimeColumns[place], std::to_string(number));
     }
     return record.bytes();
 }

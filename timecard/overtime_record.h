@@ -10,49 +10,23 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <type_traits>
 
 // The overtime figures of one employee: the record company code + "MedHorExtr" + employee code, one
 // line a work month. A month without a line of its own goes by the month's settings.
 
 namespace winvrx {
 
-/// One figure of a line, a whole number from 0 to `highest`.
-struct OvertimeColumn {
-    Column column;
-    int highest;
-    int (*read)(const OvertimeRules&);
-    void (*write)(OvertimeRules&, int);
-};
-
-template <auto Figure>
-[[nodiscard]] constexpr OvertimeColumn overtimeColumn(Column column, int highest) {
-    using Value = std::remove_cvref_t<decltype(OvertimeRules{}.*Figure)>;
-    return {column, highest,
-            [](const OvertimeRules& rules) { return static_cast<int>(rules.*Figure); },
-            [](OvertimeRules& rules, int value) { rules.*Figure = static_cast<Value>(value); }};
-}
-
-/// The layout of a line: the month, then its figures, single blanks between them. The one place
-/// that knows it.
+/// The layout of a line: the month, then the figures of kOvertimeFigures, single blanks between
+/// them. The one place that knows it.
 inline constexpr Column kOvertimeMonth{1, 7};
-inline constexpr std::array kOvertimeColumns = {
-    overtimeColumn<&OvertimeRules::minimumPercent>({9, 3}, kHighestPercent),
-    overtimeColumn<&OvertimeRules::nightMinimumPercent>({13, 3}, kHighestPercent),
-    overtimeColumn<&OvertimeRules::maximumPercent>({17, 3}, kHighestPercent),
-    overtimeColumn<&OvertimeRules::nightMaximumPercent>({21, 3}, kHighestPercent),
-    overtimeColumn<&OvertimeRules::differentiatedPercent>({25, 1}, 1),
-    overtimeColumn<&OvertimeRules::mode>({27, 1}, 1),
-    overtimeColumn<&OvertimeRules::totalsFormat>({29, 1}, 1),
-    overtimeColumn<&OvertimeRules::thresholdHours>({31, 2}, kHighestThreshold),
-};
-
+inline constexpr std::array<Column, kOvertimeFigures.size()> kOvertimeColumns = {
+    {{9, 3}, {13, 3}, {17, 3}, {21, 3}, {25, 1}, {27, 1}, {29, 1}, {31, 2}}};
 inline constexpr std::size_t kOvertimeWidth = 32;
 static_assert([] {
     std::size_t next = kOvertimeMonth.end();
-    for (const OvertimeColumn& one : kOvertimeColumns) {
-        if (one.column.start != next + 1) return false;
-        next = one.column.end();
+    for (const Column column : kOvertimeColumns) {
+        if (column.start != next + 1) return false;
+        next = column.end();
     }
     return next == kOvertimeWidth + 1;
 }());

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+#include <type_traits>
+
 namespace winvrx {
 
 /// Which overtime percentages a month uses.
@@ -29,5 +32,31 @@ struct OvertimeRules {
 /// Highest values that the records take.
 inline constexpr int kHighestPercent = 999;
 inline constexpr int kHighestThreshold = 24;
+
+/// One figure of the rules as the records keep it: a whole number from 0 to `highest`.
+struct OvertimeFigure {
+    int highest;
+    int (*read)(const OvertimeRules&);
+    void (*write)(OvertimeRules&, int);
+};
+
+template <auto Member>
+[[nodiscard]] constexpr OvertimeFigure overtimeFigure(int highest) {
+    using Value = std::remove_cvref_t<decltype(OvertimeRules{}.*Member)>;
+    return {highest, [](const OvertimeRules& rules) { return static_cast<int>(rules.*Member); },
+            [](OvertimeRules& rules, int value) { rules.*Member = static_cast<Value>(value); }};
+}
+
+/// All of them, in the order of the records.
+inline constexpr std::array kOvertimeFigures = {
+    overtimeFigure<&OvertimeRules::minimumPercent>(kHighestPercent),
+    overtimeFigure<&OvertimeRules::nightMinimumPercent>(kHighestPercent),
+    overtimeFigure<&OvertimeRules::maximumPercent>(kHighestPercent),
+    overtimeFigure<&OvertimeRules::nightMaximumPercent>(kHighestPercent),
+    overtimeFigure<&OvertimeRules::differentiatedPercent>(1),
+    overtimeFigure<&OvertimeRules::mode>(1),
+    overtimeFigure<&OvertimeRules::totalsFormat>(1),
+    overtimeFigure<&OvertimeRules::thresholdHours>(kHighestThreshold),
+};
 
 }  // namespace winvrx

@@ -83,6 +83,26 @@ TEST(MonthSettings, ALineWhoseMeaningStaysKeepsItsBytes) {
     EXPECT_EQ(splitLines(desk.file("03-2024ds.rdx")), lines);
 }
 
+TEST(MonthSettings, LinesThatAreNotUnderstoodAreNamed) {
+    TestWorkplace desk;
+    const auto unread = [&](const std::vector<std::string>& lines) {
+        desk.file("03-2024ds.rdx") = joinedLines(lines);
+        return unreadMonthLines(desk.files, desk.session.folder, 2024y / 3);
+    };
+    std::vector<std::string> lines(53, " 1 ");
+    EXPECT_THAT(unread(lines), ::testing::IsEmpty());
+    EXPECT_THAT(unread({"1", "0", "", "  "}), ::testing::IsEmpty());
+    lines[0] = "2";
+    lines[42] = "1000";
+    lines[48] = "x\x01";
+    lines[51] = "0";
+    lines.insert(lines.end(), {"alheia \xE3", "", "1"});
+    EXPECT_THAT(unread(lines),
+                ::testing::ElementsAre(UnreadLine{1, "2"}, UnreadLine{43, "1000"},
+                                       UnreadLine{49, "x·"}, UnreadLine{52, "0"},
+                                       UnreadLine{54, "alheia ã"}, UnreadLine{56, "1"}));
+}
+
 TEST(MonthSettings, CellsFollowTheCalendar) {
     struct Case {
         const char* date;
