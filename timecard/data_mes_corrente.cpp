@@ -1,6 +1,5 @@
 #include "timecard/data_mes_corrente.h"
 
-#include "foundation/text.h"
 #include "timecard/selected_month.h"
 
 #include <algorithm>
@@ -13,33 +12,15 @@ const Message kGiveUpChanges{
     "ALTERAÇÃO", "As alterações deste mês ainda não foram gravadas. Deseja abandoná-las?",
     Icon::Question, Buttons::YesNo};
 
-constexpr std::string_view kBeforePresent = "Referente ao Mês: Anterior ao Atual";
-constexpr std::string_view kPresent = "Referente ao Mês: Atual";
-constexpr std::string_view kAfterPresent = "Referente ao Mês: Atual ao Posterior";
-constexpr std::string_view kHolidayHeading = "Selecione os feriados no mês de: ";
-constexpr std::string_view kDifferentiatedOff =
-    "Desativado o uso de Percentual de Horas Extras Diárias Normais Diferenciado";
-constexpr std::string_view kBothLevels = "Usar as 2 (duas) Opções de Horas Extras Minima e Máxima.";
-constexpr std::string_view kSingleLevel =
-    "Usar Somente 1 (um) Único Percentual de Horas Extras para ";
 constexpr std::string_view kChangedElsewhere =
     "Este mês foi alterado por outro computador. Abra a tela novamente.";
 constexpr int kMonthsBack = 24;
 constexpr int kMonthsAhead = 12;
 
-/// The value of a typed number; nullopt when it is none of the field's range.
-std::optional<int> valueOf(const MonthNumberField& field, std::string_view typed) {
-    return parseWholeNumber(typed, field.lowest, field.highest);
-}
-
-std::string withoutColon(std::string_view caption) {
-    return std::string(caption.ends_with(':') ? caption.substr(0, caption.size() - 1) : caption);
-}
-
 }  // namespace
 
 DataMesCorrente::DataMesCorrente(const Workplace& at) : at_(at) {
-    recorded_.month = settings_.month = monthOf(at_.clock.today());
+    opened_.month = settings_.month = monthOf(at_.clock.today());
 }
 
 void DataMesCorrente::open() {
@@ -50,11 +31,24 @@ void DataMesCorrente::open() {
     });
 }
 
+std::optional<MonthSettings> DataMesCorrente::readRecord(WorkMonth month) const {
+    const DataFolder& folder = at_.session.folder;
+    if (!hasMonthSettings(at_.files, folder, month)) return std::nullopt;
+    return loadMonthSettings(at_.files, folder, month);
+}
+
 void DataMesCorrente::load(WorkMonth month) {
-    recorded_ = loadMonthSettings(at_.files, at_.session.folder, month);
-    settings_ = recorded_;
-    for (const MonthNumberField& field : kMonthNumberFields)
-        numbers_.*field.typed = std::to_string(field.valueIn(settings_));
+    const DataFolder& folder = at_.session.folder;
+    auto offer = offeredHolidays(at_.files, folder, month);
+    auto onDisk = readRecord(month);
+    auto unread = unreadMonthLines(at_.files, folder, month);
+    auto ownRules = ownRulesOfList(at_, month);
+    offer_ = std::move(offer);
+    onDisk_ = std::move(onDisk);
+    unread_ = std::move(unread);
+    ownRules_ = std::move(ownRules);
+    opened_ = settings_ = onDisk_.value_or(proposedSettings(month, offer_));
+    numbers_ = numbersOf(settings_);
     switched_ = false;
 }
 
@@ -100,8 +94,11 @@ void DataMesCorrente::clearTicks() {
 
 void DataMesCorrente::restoreTicks() {
     (void)attempt(at_, incorrectData(), [this] {
-        const auto onDisk = loadMonthSettings(at_.files, at_.session.folder, settings_.month);
-        recorded_.holidayCells = settings_.holidayCells = onDisk.holidayCells;
+        const auto record = readRecord(settings_.month);
+        settings_.holidayCells =
+            record.value_or(proposedSettings(settings_.month, offer_)).holidayCells;
+        opened_.holidayCells = settings_.holidayCells;
+        if (onDisk_ && record) onDisk_->holidayCells = record->holidayCells;
         return true;
     });
 }
@@ -110,14 +107,35 @@ void DataMesCorrente::setRecordTicks(bool on) {
     settings_.recordTicks = on;
 }
 
-void DataMesCorrente::type(const MonthNumberField& field, std::string text) {
-    numbers_.*field.typed = std::move(text);
+std::vector<ListedHoliday> DataMesCorrente::holidays() const {
+    const MonthSettings proposed = proposedSettings(settings_.month, offer_);
+    std::vector<ListedHoliday> listed;
+    for (const Date date : settings_.holidays())
+        listed.push_back({date, nameOf(date), !isRecorded() && proposed.isHoliday(date)});
+    return listed;
 }
 
-std::string DataMesCorrente::findingOf(const MonthNumberField& field) const {
-    if (valueOf(field, numbers_.*field.typed)) return {};
-    return "Informe um número de " + std::to_string(field.lowest) + " a " +
-           std::to_string(field.highest) + ".";
+std::vector<Holiday> DataMesCorrente::untickedHolidays() const {
+    std::vector<Holiday> unticked = offer_;
+    std::erase_if(unticked, [this](const Holiday& one) { return settings_.isHoliday(one.date); });
+    return unticked;
+}
+
+void DataMesCorrente::reloadOffer() {
+    (void)attempt(at_, incorrectData(), [this] {
+        auto offer = offeredHolidays(at_.files, at_.session.folder, settings_.month);
+        const auto before = proposedSettings(settings_.month, offer_).holidayCells;
+        const auto after = proposedSettings(settings_.month, offer).holidayCells;
+        for (std::size_t cell = 0; cell < kHolidayCells && !isRecorded(); ++cell)
+            if (before[cell] != after[cell])
+                settings_.holidayCells[cell] = opened_.holidayCells[cell] = after[cell];
+        offer_ = std::move(offer);
+        return true;
+    });
+}
+
+void DataMesCorrente::type(const MonthNumberField& field, std::string text) {
+    numbers_.*field.typed = std::move(text);
 }
 
 void DataMesCorrente::setDifferentiatedPercent(bool on) {
@@ -137,76 +155,26 @@ void DataMesCorrente::setFixedMonth(bool fixed) {
     settings_.fixedMonth = fixed;
 }
 
-std::string DataMesCorrente::monthCaption() const {
-    return upperCase(monthTitle(settings_.month));
-}
-
-std::string DataMesCorrente::holidayHeading() const {
-    return std::string(kHolidayHeading) + monthCaption();
-}
-
-std::string_view DataMesCorrente::referenceCaption() const {
-    const WorkMonth present = monthOf(at_.clock.today());
-    if (settings_.month == present) return kPresent;
-    return settings_.month < present ? kBeforePresent : kAfterPresent;
-}
-
-bool DataMesCorrente::refersToPresentMonth() const {
-    return settings_.month == monthOf(at_.clock.today());
-}
-
-std::string DataMesCorrente::differentiatedCaption() const {
-    const auto& [minimum, maximum, nightMinimum, nightMaximum, threshold, closingDay] = numbers_;
-    if (settings_.overtime.differentiatedPercent)
-        return "Ativado o uso de Percentual de Horas Extras Diárias Normais Diferenciado. Será "
-               "de " +
-               minimum + "% até " + threshold + " hs Extras diárias. Acima de " + threshold +
-               " hs Extras será de " + maximum + "%.";
-    if (switched_) return std::string(kDifferentiatedOff);
-    return "Usar Percentual de Horas Extras Diárias Normais de " + minimum + "% até " + threshold +
-           " hs. Acima de " + threshold + " hs será de " + maximum + "%.";
-}
-
-std::string DataMesCorrente::modeNotice() const {
-    if (settings_.overtime.mode == OvertimeMode::BothLevels) return std::string(kBothLevels);
-    return std::string(kSingleLevel) + numbers_.maximumPercent + "%";
-}
-
 bool DataMesCorrente::changed() const {
     MonthSettings shown = settings_;
-    if (!shown.recordTicks) shown.holidayCells = recorded_.holidayCells;
-    const bool typed = std::any_of(
-        kMonthNumberFields.begin(), kMonthNumberFields.end(), [&](const MonthNumberField& field) {
-            return valueOf(field, numbers_.*field.typed) != field.valueIn(recorded_);
-        });
-    return typed || shown != recorded_;
-}
-
-MonthSettings DataMesCorrente::checked() const {
-    MonthSettings checked = settings_;
-    for (const MonthNumberField& field : kMonthNumberFields) {
-        const auto value = valueOf(field, numbers_.*field.typed);
-        if (!value)
-            throw Fault("not a number of its range: " + std::string(field.caption) + " " +
-                            numbers_.*field.typed,
-                        withoutColon(field.caption) + ": informe um número de " +
-                            std::to_string(field.lowest) + " a " + std::to_string(field.highest) +
-                            ".");
-        field.put(checked, *value);
-    }
-    return checked;
+    if (!shown.recordTicks) shown.holidayCells = opened_.holidayCells;
+    const bool typed = std::any_of(kMonthNumberFields.begin(), kMonthNumberFields.end(),
+                                   [&](const MonthNumberField& field) {
+                                       return field.valueOf(numbers_) != field.valueIn(opened_);
+                                   });
+    return typed || shown != opened_;
 }
 
 void DataMesCorrente::write() {
-    MonthSettings toWrite = checked();
-    const auto onDisk = loadMonthSettings(at_.files, at_.session.folder, settings_.month);
-    if (onDisk != recorded_) throw Fault("month changed on disk", std::string(kChangedElsewhere));
-    if (!toWrite.recordTicks) toWrite.holidayCells = onDisk.holidayCells;
+    MonthSettings toWrite = withNumbers(settings_, numbers_);
+    if (readRecord(settings_.month) != onDisk_)
+        throw Fault("month changed on disk", std::string(kChangedElsewhere));
+    if (!toWrite.recordTicks) toWrite.holidayCells = onDisk_.value_or(MonthSettings()).holidayCells;
     saveMonthSettings(at_.files, at_.session.folder, toWrite);
-    recorded_ = toWrite;
     const auto shownTicks = settings_.holidayCells;
-    settings_ = toWrite;
+    onDisk_ = opened_ = settings_ = toWrite;
     settings_.holidayCells = shownTicks;
+    unread_ = unreadMonthLines(at_.files, at_.session.folder, toWrite.month);
 }
 
 bool DataMesCorrente::record() {
@@ -223,6 +191,21 @@ bool DataMesCorrente::confirm() {
                           {settings_.month, at_.session.shiftFilter});
         return true;
     });
+}
+
+std::optional<std::size_t> DataMesCorrente::updateAll(const OvertimeProgress& progress) {
+    OvertimeRules rules;
+    const bool readable = attempt(at_, incorrectData(), [&] {
+        rules = withNumbers(settings_, numbers_).overtime;
+        return true;
+    });
+    if (!readable) return std::nullopt;
+    const auto updated = updateOvertimeOfList(at_, settings_.month, rules, progress);
+    (void)attempt(at_, incorrectData(), [this] {
+        ownRules_ = ownRulesOfList(at_, settings_.month);
+        return true;
+    });
+    return updated;
 }
 
 bool DataMesCorrente::mayLeave() {

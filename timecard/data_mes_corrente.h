@@ -2,9 +2,10 @@
 
 #include "foundation/command.h"
 #include "timecard/business_days.h"
-#include "timecard/month_settings.h"
+#include "timecard/holiday_offer.h"
+#include "timecard/month_numbers.h"
+#include "timecard/overtime_update.h"
 
-#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,47 +13,11 @@
 
 namespace winvrx {
 
-/// The numbers of the screen as they are typed.
-struct MonthNumbers {
-    std::string minimumPercent;
-    std::string maximumPercent;
-    std::string nightMinimumPercent;
-    std::string nightMaximumPercent;
-    std::string thresholdHours;
-    std::string closingDay;
-
-    [[nodiscard]] bool operator==(const MonthNumbers&) const = default;
-};
-
-/// One typed number: where it goes, which values it takes and what the screen calls it.
-struct MonthNumberField {
-    std::string MonthNumbers::*typed;
-    int OvertimeRules::*rule;  ///< nullptr for the closing day
-    int lowest;
-    int highest;
-    std::string_view caption;
-
-    [[nodiscard]] int valueIn(const MonthSettings& settings) const {
-        return rule ? settings.overtime.*rule : settings.closingDay;
-    }
-    void put(MonthSettings& settings, int value) const {
-        (rule ? settings.overtime.*rule : settings.closingDay) = value;
-    }
-};
-
-inline constexpr std::array kMonthNumberFields = {
-    MonthNumberField{&MonthNumbers::minimumPercent, &OvertimeRules::minimumPercent, 0,
-                     kHighestPercent, "Hora Extra Índice Mínimo:"},
-    MonthNumberField{&MonthNumbers::maximumPercent, &OvertimeRules::maximumPercent, 0,
-                     kHighestPercent, "Hora Extra Índice Máximo:"},
-    MonthNumberField{&MonthNumbers::nightMinimumPercent, &OvertimeRules::nightMinimumPercent, 0,
-                     kHighestPercent, "Hora Extra Noturna Mínima:"},
-    MonthNumberField{&MonthNumbers::nightMaximumPercent, &OvertimeRules::nightMaximumPercent, 0,
-                     kHighestPercent, "Hora Extra Noturna Máxima:"},
-    MonthNumberField{&MonthNumbers::thresholdHours, &OvertimeRules::thresholdHours, 0,
-                     kHighestThreshold, "Horas"},
-    MonthNumberField{&MonthNumbers::closingDay, nullptr, 1, kHighestClosingDay,
-                     "Iníciar todo dia:"},
+/// A ticked day as the list "Feriados:" shows it.
+struct ListedHoliday {
+    Date date{};
+    std::string name;      ///< empty for a day that no calendar knows
+    bool offered = false;  ///< ticked by the offer, not yet by anybody's record
 };
 
 /// The work month's screen: which month is worked on, its holidays, its closing period and its
@@ -69,7 +34,8 @@ class DataMesCorrente {
 
     /// The months that the list offers: two years back to one year ahead, and the month shown.
     [[nodiscard]] std::vector<WorkMonth> months() const;
-    /// Loads the month's record or its defaults. False when the operator keeps unrecorded changes.
+    /// Loads the month's record; where there is none, the defaults with the offered holidays
+    /// ticked. False when the operator keeps unrecorded changes.
     [[nodiscard]] bool chooseMonth(WorkMonth month);
     /// Goes round the months before, of and after today.
     [[nodiscard]] bool chooseNextReference();
@@ -78,16 +44,29 @@ class DataMesCorrente {
     [[nodiscard]] const MonthSettings& settings() const { return settings_; }
     [[nodiscard]] const MonthNumbers& numbers() const { return numbers_; }
     [[nodiscard]] MonthDayCounts counts() const { return countDays(settings_); }
+    /// Whether the month has a record.
+    [[nodiscard]] bool isRecorded() const { return onDisk_.has_value(); }
+    /// Lines of the record that are not understood; they are kept.
+    [[nodiscard]] const std::vector<UnreadLine>& unreadLines() const { return unread_; }
 
     /// The day of a cell of the holiday grid; nullopt outside the month.
     [[nodiscard]] std::optional<Date> dateOfCell(std::size_t cell) const;
     void tick(Date date, bool holiday);
     /// "Reset."
     void clearTicks();
-    /// "Restaurar": the ticks as they are recorded.
+    /// "Restaurar": the ticks as they are recorded, or as they are offered.
     void restoreTicks();
     /// "Gravação": whether recording takes the ticks along. Off, those on record stay.
     void setRecordTicks(bool on);
+
+    /// "Feriados:": the ticked days of the month.
+    [[nodiscard]] std::vector<ListedHoliday> holidays() const;
+    /// What the calendar and the user's list hold of the month and nobody has ticked.
+    [[nodiscard]] std::vector<Holiday> untickedHolidays() const;
+    [[nodiscard]] std::string nameOf(Date date) const { return holidayNames(offer_, date); }
+    /// The user's list was changed: what it newly offers to a month without a record is ticked,
+    /// what it offers no more is not.
+    void reloadOffer();
 
     void type(const MonthNumberField& field, std::string text);
     /// What is wrong with a number as typed, in one sentence; empty when nothing is.
@@ -103,6 +82,11 @@ class DataMesCorrente {
     [[nodiscard]] bool refersToPresentMonth() const;
     [[nodiscard]] std::string differentiatedCaption() const;
     [[nodiscard]] std::string modeNotice() const;
+    /// "21/02/2024 a 20/03/2024"; empty while the closing day is no number of its range.
+    [[nodiscard]] std::string closingPeriodText() const;
+    /// Says how many listed employees have figures of their own in the month that are not those of
+    /// the screen; empty for none.
+    [[nodiscard]] std::string ownRulesNotice() const;
 
     /// True when the screen holds what is not on record.
     [[nodiscard]] bool changed() const;
@@ -110,18 +94,25 @@ class DataMesCorrente {
     [[nodiscard]] bool record();
     /// "Confirma": records, and makes the month the selected one.
     [[nodiscard]] bool confirm();
+    /// "Atualizar p/Todos os Funcionários", with the overtime rules as the screen shows them. How
+    /// many employees have them now; nullopt when nothing was written.
+    [[nodiscard]] std::optional<std::size_t> updateAll(const OvertimeProgress& progress);
     /// Asks before changes are given up. True when the screen may go on to something else.
     [[nodiscard]] bool mayLeave();
 
   private:
     void load(WorkMonth month);
-    [[nodiscard]] MonthSettings checked() const;
+    [[nodiscard]] std::optional<MonthSettings> readRecord(WorkMonth month) const;
     void write();
 
     Workplace at_;
     MonthSettings settings_;
-    MonthSettings recorded_;
     MonthNumbers numbers_;
+    MonthSettings opened_;                 ///< what the screen showed before it was changed
+    std::optional<MonthSettings> onDisk_;  ///< the record as it was read or written
+    std::vector<UnreadLine> unread_;
+    std::vector<Holiday> offer_;
+    std::vector<OvertimeRules> ownRules_;  ///< of listed employees, in this month
     bool switched_ = false;  ///< the differentiated percentage was turned on or off on this screen
 };
 

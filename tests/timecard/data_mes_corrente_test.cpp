@@ -21,6 +21,12 @@ struct MonthScreen : ::testing::Test {
 
     void SetUp() override { screen.open(); }
     void tick(const char* date) { screen.tick(*parseDate(date), true); }
+    [[nodiscard]] std::vector<std::string> ticked() const {
+        std::vector<std::string> texts;
+        for (const ListedHoliday& one : screen.holidays())
+            texts.push_back(dateText(one.date) + (one.offered ? "? " : " ") + one.name);
+        return texts;
+    }
 };
 
 const MonthNumberField& fieldOf(std::string MonthNumbers::*typed) {
@@ -83,7 +89,7 @@ TEST_F(MonthScreen, CaptionOfThePercentageFollowsSwitchAndNumbers) {
 }
 
 TEST_F(MonthScreen, RecordsAndConfirms) {
-    tick("29/03/2024");
+    tick("19/03/2024");
     screen.type(fieldOf(&MonthNumbers::nightMaximumPercent), " 130 ");
     screen.setTotalsFormat(TotalsFormat::DecimalHours);
     EXPECT_TRUE(screen.changed());
@@ -91,7 +97,8 @@ TEST_F(MonthScreen, RecordsAndConfirms) {
     EXPECT_FALSE(screen.changed());
     EXPECT_FALSE(desk.files.content.contains("/data/DataIde.ivc"));
     const auto written = loadMonthSettings(desk.files, desk.session.folder, 2024y / 3);
-    EXPECT_THAT(written.holidays(), ElementsAre(*parseDate("29/03/2024")));
+    EXPECT_THAT(written.holidays(),
+                ElementsAre(*parseDate("19/03/2024"), *parseDate("29/03/2024")));
     EXPECT_EQ(written.overtime.nightMaximumPercent, 130);
     EXPECT_EQ(written.overtime.totalsFormat, TotalsFormat::DecimalHours);
 
@@ -124,7 +131,6 @@ TEST_F(MonthScreen, ANumberOutOfRangeIsRefusedAndNothingIsWritten) {
 }
 
 TEST_F(MonthScreen, WithoutGravacaoTheTicksOnRecordStay) {
-    tick("29/03/2024");
     ASSERT_TRUE(screen.record());
     screen.clearTicks();
     EXPECT_EQ(screen.counts().restDays, 5);
@@ -153,8 +159,91 @@ TEST_F(MonthScreen, AMonthChangedElsewhereMeanwhileIsNotOverwritten) {
               "Este mês foi alterado por outro computador. Abra a tela novamente.");
 }
 
+TEST_F(MonthScreen, AMonthWithoutARecordIsOfferedItsHolidaysAndSaysSo) {
+    desk.file("Feriados") = "19/03      S\xC3O JOS\xC9\r\n";
+    screen.open();
+    EXPECT_FALSE(screen.isRecorded());
+    EXPECT_THAT(ticked(), ElementsAre("19/03/2024? SÃO JOSÉ", "29/03/2024? Sexta-feira Santa"));
+    EXPECT_EQ(screen.counts().restDays, 7);
+    EXPECT_FALSE(screen.changed());
+    EXPECT_TRUE(screen.mayLeave());
+    tick("20/03/2024");
+    screen.tick(*parseDate("19/03/2024"), false);
+    EXPECT_THAT(ticked(), ElementsAre("20/03/2024 ", "29/03/2024? Sexta-feira Santa"));
+    ASSERT_EQ(screen.untickedHolidays().size(), 1U);
+    EXPECT_EQ(screen.untickedHolidays()[0].name, "SÃO JOSÉ");
+    EXPECT_TRUE(screen.changed());
+    screen.restoreTicks();
+    EXPECT_FALSE(screen.changed());
+    ASSERT_TRUE(screen.record());
+    EXPECT_TRUE(screen.isRecorded());
+    EXPECT_THAT(ticked(), ElementsAre("19/03/2024 SÃO JOSÉ", "29/03/2024 Sexta-feira Santa"));
+}
+
+TEST_F(MonthScreen, DaysKeptByCustomAreNamedButNotTicked) {
+    ASSERT_TRUE(screen.chooseMonth(2024y / 2));
+    EXPECT_THAT(ticked(), ::testing::IsEmpty());
+    EXPECT_EQ(screen.untickedHolidays().size(), 2U);
+    EXPECT_EQ(screen.nameOf(*parseDate("13/02/2024")), "Carnaval");
+}
+
+TEST_F(MonthScreen, AnOfferNeverChangesARecordedMonth) {
+    desk.file(kMarch) = "";
+    const auto before = desk.files.content;
+    screen.open();
+    EXPECT_TRUE(screen.isRecorded());
+    EXPECT_THAT(ticked(), ::testing::IsEmpty());
+    desk.file("Feriados") = "19/03      PADROEIRO\r\n";
+    screen.reloadOffer();
+    EXPECT_THAT(ticked(), ::testing::IsEmpty());
+    EXPECT_EQ(screen.untickedHolidays().size(), 2U);
+    EXPECT_FALSE(screen.changed());
+    desk.files.content.erase("/data/Feriados");
+    EXPECT_EQ(desk.files.content, before);
+}
+
+TEST_F(MonthScreen, AChangedListChangesOnlyWhatItOffers) {
+    tick("20/03/2024");
+    screen.tick(*parseDate("29/03/2024"), false);
+    desk.file("Feriados") = "19/03      PADROEIRO\r\n";
+    screen.reloadOffer();
+    EXPECT_THAT(ticked(), ElementsAre("19/03/2024? PADROEIRO", "20/03/2024 "));
+    desk.file("Feriados") = "";
+    screen.reloadOffer();
+    EXPECT_THAT(ticked(), ElementsAre("20/03/2024 "));
+}
+
+TEST_F(MonthScreen, AMonthRecordedElsewhereMeanwhileIsNotOverwrittenByTheOffer) {
+    desk.file(kMarch) = "";
+    EXPECT_FALSE(screen.confirm());
+    EXPECT_EQ(desk.file(kMarch), "");
+    EXPECT_FALSE(desk.files.content.contains("/data/DataIde.ivc"));
+}
+
+TEST_F(MonthScreen, LinesNotUnderstoodAreShownUntilTheyArePutRight) {
+    std::vector<std::string> lines(54, "0");
+    lines[42] = "50%";
+    lines[53] = "alheia";
+    desk.file(kMarch) = joinedLines(lines);
+    screen.open();
+    EXPECT_THAT(screen.unreadLines(),
+                ElementsAre(UnreadLine{43, "50%"}, UnreadLine{52, "0"}, UnreadLine{54, "alheia"}));
+    screen.type(fieldOf(&MonthNumbers::minimumPercent), "60");
+    ASSERT_TRUE(screen.record());
+    EXPECT_THAT(screen.unreadLines(), ElementsAre(UnreadLine{52, "0"}, UnreadLine{54, "alheia"}));
+}
+
+TEST_F(MonthScreen, ClosingPeriodFollowsWhatIsTyped) {
+    EXPECT_EQ(screen.closingPeriodText(), "01/03/2024 a 31/03/2024");
+    screen.setFixedMonth(false);
+    screen.type(fieldOf(&MonthNumbers::closingDay), "21");
+    EXPECT_EQ(screen.closingPeriodText(), "21/02/2024 a 20/03/2024");
+    screen.type(fieldOf(&MonthNumbers::closingDay), "32");
+    EXPECT_EQ(screen.closingPeriodText(), "");
+}
+
 TEST_F(MonthScreen, ChangesAreGivenUpOnlyWhenTheOperatorSaysSo) {
-    tick("29/03/2024");
+    tick("19/03/2024");
     EXPECT_FALSE(screen.chooseMonth(2024y / 4));
     EXPECT_EQ(screen.settings().month, 2024y / 3);
     EXPECT_FALSE(screen.mayLeave());
