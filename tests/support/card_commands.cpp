@@ -3,29 +3,16 @@
 #include "tests/support/test_browser.h"
 #include "tests/support/writing_commands.h"
 #include "timecard/cartao_ponto_dados.h"
-#include "timecard/data_mes_corrente.h"
 
 namespace winvrx::testing {
 
 namespace {
-
-using namespace std::chrono_literals;
 
 template <typename Give>
 auto onCardOf(std::size_t position, Give give) {
     return [position, give](const Workplace& at, const Drives&) {
         CartaoPontoDados screen(at);
         return screen.open() && screen.select(position) && give(screen);
-    };
-}
-
-template <typename Give>
-auto inMonth(Give give) {
-    return [give](const Workplace& at, const Drives&) {
-        DataMesCorrente screen(at);
-        screen.open();
-        screen.tick(*parseDate("29/03/2024"), true);
-        return give(screen);
     };
 }
 
@@ -40,11 +27,6 @@ bool chooseStock(const Workplace& at, const Drives&) {
 
 std::vector<WritingCommand> cardCommands() {
     return {
-        {"record month", filledOffice(),
-         inMonth([](DataMesCorrente& screen) { return screen.record(); })},
-        {"confirm month", filledOffice(), inMonth([](DataMesCorrente& screen) {
-             return screen.chooseMonth(2024y / 4) && screen.confirm();
-         })},
         {"save schedule", filledOffice(),
          onCardOf(0,
                   [](CartaoPontoDados& screen) {

@@ -61,6 +61,8 @@ FileTable filledOffice() {
     }
     file("01CartaoDePontoTipo") = "05\r\n";
     file("03-2024ds.rdx") = "";
+    file("01MedHorExtr002") = "02-2024 60  50  100 100 0 0 0 2 \r\n";
+    file("Feriados") = "05/12      PADROEIRO\r\n09/07      9 DE JULHO\r\n";
     file("DataIde.ivc") = "03-2024\r\nTodos\r\n";
     file("LocMen.lvc") = "C\r\n";
     return files;

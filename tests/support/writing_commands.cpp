@@ -42,7 +42,7 @@ const std::vector<WritingCommand>& writingCommands() {
     static const std::vector<WritingCommand> commands = [] {
         std::vector<WritingCommand> all;
         for (const auto& part :
-             {registerCommands(), listCommands(), menuCommands(), cardCommands()})
+             {registerCommands(), listCommands(), menuCommands(), monthCommands(), cardCommands()})
             all.insert(all.end(), part.begin(), part.end());
         return all;
     }();

@@ -31,6 +31,7 @@ void PrintTo(const WritingCommand& command, std::ostream* out);
 [[nodiscard]] std::vector<WritingCommand> registerCommands();
 [[nodiscard]] std::vector<WritingCommand> listCommands();
 [[nodiscard]] std::vector<WritingCommand> menuCommands();
+[[nodiscard]] std::vector<WritingCommand> monthCommands();
 [[nodiscard]] std::vector<WritingCommand> cardCommands();
 
 [[nodiscard]] const std::vector<WritingCommand>& writingCommands();
