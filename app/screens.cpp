@@ -20,6 +20,9 @@
 #include "output/tipo_ponto.h"
 #include "timecard/desktop/cartao_ponto_dados_window.h"
 #include "timecard/desktop/data_mes_corrente_window.h"
+#include "timecard/desktop/feriados_window.h"
+#include "timecard/feriados.h"
+#include "timecard/month_settings.h"
 #include "timecard/punch_record.h"
 #include "timecard/selected_month.h"
 
@@ -63,7 +66,16 @@ void Screens::openWorkMonth(QWidget* parent) {
     DataMesCorrente month(at_);
     month.open();
     DataMesCorrenteWindow window(month, parent);
+    QObject::connect(&window, &DataMesCorrenteWindow::localHolidaysRequested, &window, [&] {
+        openLocalHolidays(&window);
+        window.refreshHolidays();
+    });
     show(window);
+}
+
+void Screens::openLocalHolidays(QWidget* parent) {
+    Feriados holidays(at_, browser_);
+    FeriadosWindow(holidays, parent).exec();
 }
 
 void Screens::openTimeCard(QWidget* parent) {
@@ -105,7 +117,8 @@ std::optional<Screens::Progress> Screens::progress() const {
             employeesOf(EmployeeRegister(at_.files, folder, *at_.session.company).load(),
                         at_.session.shiftFilter);
         progress.employees = static_cast<int>(people.size());
-        if (const auto selected = loadSelectedMonth(at_.files, folder)) {
+        const auto selected = loadSelectedMonth(at_.files, folder);
+        if (selected && hasMonthSettings(at_.files, folder, selected->month)) {
             progress.month = selected->month;
             const auto listed = at_.files.names(folder.path());
             const std::set<std::string> names(listed.begin(), listed.end());

@@ -34,6 +34,7 @@ class Screens {
     void openEmployees(QWidget* parent);
     void openShifts(QWidget* parent);
     void openWorkMonth(QWidget* parent);
+    void openLocalHolidays(QWidget* parent);
     void openTimeCard(QWidget* parent);
     /// `preview`: shows the cards before they are printed.
     void openCards(QWidget* parent, bool preview);
@@ -56,7 +57,7 @@ class Screens {
 
     struct Progress {
         int employees = 0;
-        std::optional<WorkMonth> month;
+        std::optional<WorkMonth> month;  ///< chosen, and its holidays are on record
         int filledCards = 0;
         QString stock;
     };

@@ -12,7 +12,7 @@ namespace winvrx {
 struct MonthOverview {
     WorkMonth month{};
     std::vector<Date> holidays;
-    bool recorded = false;  ///< the month's settings exist
+    bool recorded = false;  ///< false: holidays and counts are only suggested
     int businessDays = 0;
     int restDays = 0;
     std::vector<std::string> notices;  ///< business-day notices for today
@@ -23,8 +23,8 @@ class MonthCalendar {
   public:
     virtual ~MonthCalendar() = default;
 
-    /// The chosen work month, or today's month when none is chosen. Notices speak of today and are
-    /// empty while the settings of today's month do not exist.
+    /// The chosen work month, or today's month when none is chosen. Notices speak of today; they
+    /// say so when the holidays that they go by are only suggested.
     [[nodiscard]] virtual MonthOverview overview(Date today) const = 0;
 };
 

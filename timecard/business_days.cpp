@@ -1,6 +1,8 @@
 #include "timecard/business_days.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace winvrx {
 
@@ -32,24 +34,37 @@ std::vector<Date> businessDaysOf(const MonthSettings& settings) {
     return dates;
 }
 
-/// "PRIMEIRO" to "QUINTO" and "ÚLTIMO"; empty for a business day known by its number. `position`
-/// counts from 0.
-std::string_view ordinalOf(std::size_t position, std::size_t businessDays) {
-    if (position < kOrdinals.size()) return kOrdinals[position];
-    return position + 1 == businessDays ? kLast : std::string_view();
+/// A business day as the notices call it.
+struct NamedDay {
+    Date date;
+    bool hasOrdinal;   ///< one of the first five, or the last
+    std::string name;  ///< "SEGUNDO Dia Últil do Mes", "9º Dia Útil do Mes de março"
+};
+
+std::vector<NamedDay> namedBusinessDays(const MonthSettings& settings) {
+    std::vector<NamedDay> named;
+    const std::vector<Date> dates = businessDaysOf(settings);
+    for (std::size_t i = 0; i < dates.size(); ++i) {
+        const bool isLast = i + 1 == dates.size();
+        if (i < kOrdinals.size() || isLast)
+            named.push_back(
+                {dates[i], true,
+                 std::string(i < kOrdinals.size() ? kOrdinals[i] : kLast).append(kOrdinalEnd)});
+        else
+            named.push_back({dates[i], false,
+                             std::to_string(i + 1)
+                                 .append(kNumberEnd)
+                                 .append(monthName(settings.month.month()))});
+    }
+    return named;
 }
 
-std::string numberText(Date date, std::size_t position) {
-    return std::to_string(position + 1).append(kNumberEnd).append(monthName(date.month()));
-}
-
-std::string todayLine(Date today, std::size_t position, std::size_t businessDays) {
-    const std::string_view ordinal = ordinalOf(position, businessDays);
-    if (!ordinal.empty()) return std::string(kTodayIs).append(ordinal).append(kOrdinalEnd);
+std::string todayLine(const NamedDay& day) {
+    if (day.hasOrdinal) return std::string(kTodayIs).append(day.name);
     return std::string(kTodayIsDay)
-        .append(std::to_string(dayNumber(today)))
+        .append(std::to_string(dayNumber(day.date)))
         .append(kOfMonthAnd)
-        .append(numberText(today, position));
+        .append(day.name);
 }
 
 std::string_view lookAheadStart(Date today, Date date) {
@@ -57,12 +72,12 @@ std::string_view lookAheadStart(Date today, Date date) {
     return date == plusDays(today, 2) ? kDayAfterTomorrow : kLater;
 }
 
-std::string lookAheadLine(Date today, Date date, std::size_t position, std::size_t businessDays) {
-    std::string line(lookAheadStart(today, date));
-    line.append(kDay).append(dateText(date)).append(", ");
-    const std::string_view ordinal = ordinalOf(position, businessDays);
-    return ordinal.empty() ? line.append(numberText(date, position))
-                           : line.append(ordinal).append(kOrdinalEnd);
+std::string lookAheadLine(Date today, const NamedDay& day) {
+    return std::string(lookAheadStart(today, day.date))
+        .append(kDay)
+        .append(dateText(day.date))
+        .append(", ")
+        .append(day.name);
 }
 
 }  // namespace
@@ -76,18 +91,17 @@ MonthDayCounts countDays(const MonthSettings& settings) {
     return {businessDays, daysIn(settings.month) - businessDays};
 }
 
-std::vector<std::string> businessDayNotices(const MonthSettings& settings, Date today) {
+std::vector<std::string> businessDayNotices(const MonthSettings& present, const MonthSettings& next,
+                                            Date today) {
     std::vector<std::string> lines;
-    if (monthOf(today) != settings.month) return lines;
-    if (isRestDay(settings, today))
+    if (isRestDay(present, today))
         lines.push_back(
             std::string(kToday).append(kDay).append(dateText(today)).append(kNoBusinessDay));
-    const std::vector<Date> dates = businessDaysOf(settings);
-    for (std::size_t i = 0; i < dates.size() && lines.size() <= kDaysAhead; ++i) {
-        if (dates[i] == today)
-            lines.push_back(todayLine(today, i, dates.size()));
-        else if (dates[i] > today)
-            lines.push_back(lookAheadLine(today, dates[i], i, dates.size()));
+    std::vector<NamedDay> days = namedBusinessDays(present);
+    std::ranges::move(namedBusinessDays(next), std::back_inserter(days));
+    for (const NamedDay& day : days) {
+        if (day.date < today || lines.size() > kDaysAhead) continue;
+        lines.push_back(day.date == today ? todayLine(day) : lookAheadLine(today, day));
     }
     return lines;
 }

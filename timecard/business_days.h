@@ -17,9 +17,9 @@ struct MonthDayCounts {
 };
 [[nodiscard]] MonthDayCounts countDays(const MonthSettings& settings);
 
-/// The lines that the main window shows for `today`, a day of the settings' month: the line for
-/// today, then the look-ahead lines.
-[[nodiscard]] std::vector<std::string> businessDayNotices(const MonthSettings& settings,
-                                                          Date today);
+/// The lines that the main window shows for `today`, a day of the present month: the line for
+/// today, then the next three business days, those of the next month included.
+[[nodiscard]] std::vector<std::string> businessDayNotices(const MonthSettings& present,
+                                                          const MonthSettings& next, Date today);
 
 }  // namespace winvrx

@@ -76,8 +76,10 @@ class DataMesCorrente {
     void setTotalsFormat(TotalsFormat format);
     void setFixedMonth(bool fixed);
 
-    [[nodiscard]] std::string monthCaption() const;           ///< "MARÇO/2024"
-    [[nodiscard]] std::string holidayHeading() const;         ///< over the grid
+    [[nodiscard]] std::string monthCaption() const;    ///< "MARÇO/2024"
+    [[nodiscard]] std::string holidayHeading() const;  ///< over the grid
+    /// Says that the ticks are an offer as long as the month has no record; empty when it has one.
+    [[nodiscard]] std::string_view offerNotice() const;
     [[nodiscard]] std::string_view referenceCaption() const;  ///< "Referente ao Mês: …"
     [[nodiscard]] bool refersToPresentMonth() const;
     [[nodiscard]] std::string differentiatedCaption() const;

@@ -13,6 +13,8 @@ constexpr std::string_view kBeforePresent = "Referente ao Mês: Anterior ao Atua
 constexpr std::string_view kPresent = "Referente ao Mês: Atual";
 constexpr std::string_view kAfterPresent = "Referente ao Mês: Atual ao Posterior";
 constexpr std::string_view kHolidayHeading = "Selecione os feriados no mês de: ";
+constexpr std::string_view kNotRecorded =
+    "Feriados sugeridos, mês ainda não gravado: confira e confirme.";
 constexpr std::string_view kDifferentiatedOff =
     "Desativado o uso de Percentual de Horas Extras Diárias Normais Diferenciado";
 constexpr std::string_view kBothLevels = "Usar as 2 (duas) Opções de Horas Extras Minima e Máxima.";
@@ -31,6 +33,10 @@ std::string DataMesCorrente::monthCaption() const {
 
 std::string DataMesCorrente::holidayHeading() const {
     return std::string(kHolidayHeading) + monthCaption();
+}
+
+std::string_view DataMesCorrente::offerNotice() const {
+    return isRecorded() ? std::string_view() : kNotRecorded;
 }
 
 std::string_view DataMesCorrente::referenceCaption() const {

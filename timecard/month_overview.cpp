@@ -1,24 +1,39 @@
 #include "timecard/month_overview.h"
 
 #include "timecard/business_days.h"
+#include "timecard/holiday_offer.h"
 #include "timecard/selected_month.h"
 
 namespace winvrx {
 
+namespace {
+
+constexpr std::string_view kFromOffer = "Feriados sugeridos: o mês ainda não foi gravado.";
+
+}  // namespace
+
+MonthSettings TimecardCalendar::settingsOf(WorkMonth month) const {
+    const DataFolder& folder = at_.session.folder;
+    if (hasMonthSettings(at_.files, folder, month))
+        return loadMonthSettings(at_.files, folder, month);
+    return proposedSettings(month, offeredHolidays(at_.files, folder, month));
+}
+
 MonthOverview TimecardCalendar::overview(Date today) const {
     const DataFolder& folder = at_.session.folder;
+    const WorkMonth present = monthOf(today);
     const auto selected = loadSelectedMonth(at_.files, folder);
     MonthOverview overview;
-    overview.month = selected ? selected->month : monthOf(today);
-    const MonthSettings settings = loadMonthSettings(at_.files, folder, overview.month);
+    overview.month = selected ? selected->month : present;
+    const MonthSettings settings = settingsOf(overview.month);
     const MonthDayCounts counts = countDays(settings);
     overview.holidays = settings.holidays();
     overview.recorded = hasMonthSettings(at_.files, folder, overview.month);
     overview.businessDays = counts.businessDays;
     overview.restDays = counts.restDays;
-    if (hasMonthSettings(at_.files, folder, monthOf(today)))
-        overview.notices =
-            businessDayNotices(loadMonthSettings(at_.files, folder, monthOf(today)), today);
+    overview.notices = businessDayNotices(settingsOf(present),
+                                          settingsOf(present + std::chrono::months{1}), today);
+    if (!hasMonthSettings(at_.files, folder, present)) overview.notices.emplace_back(kFromOffer);
     return overview;
 }
 

@@ -2,16 +2,20 @@
 
 #include "foundation/command.h"
 #include "foundation/month_calendar.h"
+#include "timecard/month_settings.h"
 
 namespace winvrx {
 
-/// Answers the main window's questions about the month from the month's record.
+/// Answers the main window's questions about the month from the month's record, or from what the
+/// month is offered as holidays where it has none.
 class TimecardCalendar final : public MonthCalendar {
   public:
     explicit TimecardCalendar(const Workplace& at) : at_(at) {}
     [[nodiscard]] MonthOverview overview(Date today) const override;
 
   private:
+    [[nodiscard]] MonthSettings settingsOf(WorkMonth month) const;
+
     Workplace at_;
 };
 

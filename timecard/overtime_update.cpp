@@ -1,5 +1,6 @@
 #include "timecard/overtime_update.h"
 
+#include "foundation/company_register.h"
 #include "foundation/employee_register.h"
 #include "foundation/text.h"
 #include "timecard/overtime_record.h"
@@ -15,15 +16,17 @@ const Message kNobodyListed{"Aviso",
                             "Não há Dados de Funcionários! Cadastre pelo menos um Funcionário.",
                             Icon::Exclamation};
 
-Message confirmation(WorkMonth month, std::size_t employees, ShiftFilter filter) {
+Message confirmation(const Workplace& at, WorkMonth month, std::size_t employees) {
+    const std::string company =
+        titleOf(loadCompanies(at.files, at.session.folder), at.session.company);
     const std::string count = employees == 1 ? "1 funcionário recebe"
                                              : std::to_string(employees) + " funcionários recebem";
     return {"ALTERAÇÃO",
             "Confirma Atualizar as Horas Extras de " + upperCase(monthTitle(month)) +
                 " p/Todos os Funcionários da Lista?",
             Icon::Question, Buttons::YesNo,
-            count + " as configurações desta tela no lugar das que tinham no mês. Turno: " +
-                std::string(codeOf(filter)) + "."};
+            company + ", turno " + std::string(codeOf(at.session.shiftFilter)) + ": " + count +
+                " as configurações de horas extras desta tela no lugar das que tinham no mês."};
 }
 
 /// Each listed employee's file with the line in it; empty when the operator cancels.
@@ -34,10 +37,11 @@ std::vector<FileSystem::NewContent> batchFor(const Workplace& at, const Overtime
         codes.insert(one.employeeCode().value());
     std::vector<FileSystem::NewContent> batch;
     for (const EmployeeCode& code : codes) {
+        if (!progress(batch.size(), codes.size())) return {};
         batch.push_back(
             withOvertime(at.files, at.session.folder, at.session.company.value(), code, line));
-        if (!progress(batch.size(), codes.size())) return {};
     }
+    if (!progress(batch.size(), codes.size())) return {};
     return batch;
 }
 
@@ -74,7 +78,7 @@ std::optional<std::size_t> updateOvertimeOfList(const Workplace& at, WorkMonth m
             at.person.tell(at.session.company ? kNobodyListed : kNoCompany);
             return false;
         }
-        if (!at.person.agrees(confirmation(month, listed, at.session.shiftFilter))) return false;
+        if (!at.person.agrees(confirmation(at, month, listed))) return false;
         const FolderLock::Hold hold = holdFolder(at);
         const auto batch = batchFor(at, {month, rules}, progress);
         if (batch.empty()) return false;

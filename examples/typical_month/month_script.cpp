@@ -120,9 +120,21 @@ void lookAtShifts(Player& player) {
 
 void chooseMonth(Player& player) {
     player.click("menu.month.open"_t);
+    player.choose("month.month"_t, "fevereiro/2024"_t);
+    player.picture("mes-carnaval"_t);
+    player.click("month.localHolidays"_t);
+    player.picture("feriados-vazio"_t);
+    player.type("feriados.day"_t, "0512"_t);
+    player.type("feriados.name"_t, "ANIVERSÁRIO DE TAUBATÉ"_t);
+    player.click("feriados.include"_t);
+    player.answer("Confirma a Inclusão?"_t, Answer::Yes);
+    player.picture("feriados"_t);
+    player.click("feriados.close"_t);
     player.choose("month.month"_t, "março/2024"_t);
-    player.click("month.day34"_t);
     player.picture("mes"_t);
+    player.click("month.updateAll"_t);
+    player.answer("Confirma Atualizar as Horas Extras de MARÇO/2024 p/Todos os Funcionários"_t,
+                  Answer::Yes);
     player.click("month.confirm"_t);
     player.picture("janela-com-mes"_t);
 }

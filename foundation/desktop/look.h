@@ -26,6 +26,8 @@ inline constexpr int kTileIcon = 32;
 
 /// What a window with a list or a grid opens with: fits a screen of 1280 x 720.
 inline constexpr QSize kWindowSize(1240, 690);
+/// What a window with a short list and a few fields opens with.
+inline constexpr QSize kSmallWindowSize(860, 480);
 
 /// Named colours; each has a light and a dark value of at least 4.5 : 1 on its ground. A colour
 /// never speaks alone: a word or a sign stands beside it.

@@ -306,10 +306,9 @@ void MenuWindow::showOverview() {
     });
     monthName_->setText(toQt(monthTitle(overview.month)));
     month_->show(overview, today);
-    counts_->setText(overview.recorded ? QStringLiteral("Dias úteis %1 · DSR %2")
-                                             .arg(overview.businessDays)
-                                             .arg(overview.restDays)
-                                       : QStringLiteral("Mês ainda não configurado."));
+    const QString counts =
+        QStringLiteral("Dias úteis %1 · DSR %2").arg(overview.businessDays).arg(overview.restDays);
+    counts_->setText(overview.recorded ? counts : counts + QStringLiteral(" (sugestão)"));
     QStringList lines;
     for (const std::string& line : overview.notices)
         lines.append(toQt(line));

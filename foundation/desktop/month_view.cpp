@@ -33,7 +33,9 @@ void MonthView::show(const MonthOverview& overview, Date today) {
     for (const Date date : overview.holidays)
         holidays.append(toQt(dateText(date)));
     setToolTip(holidays.isEmpty() ? QString()
-                                  : QStringLiteral("Feriados: ") + holidays.join(u", "));
+                                  : (overview.recorded ? QStringLiteral("Feriados: ")
+                                                       : QStringLiteral("Feriados sugeridos: ")) +
+                                        holidays.join(u", "));
     setAccessibleDescription(toolTip());
     update();
 }

@@ -1,19 +1,19 @@
 #include "timecard/desktop/data_mes_corrente_window.h"
 
+#include "foundation/desktop/checked_field.h"
 #include "foundation/desktop/look.h"
 #include "foundation/desktop/qt_text.h"
-#include "foundation/text.h"
-#include "timecard/desktop/holiday_grid.h"
+#include "timecard/desktop/holiday_panel.h"
 #include "timecard/desktop/month_rules_panel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListWidget>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QSignalBlocker>
+#include <QShortcut>
 #include <QToolButton>
 
 #include <algorithm>
@@ -22,11 +22,8 @@ namespace winvrx {
 
 namespace {
 
-QVBoxLayout* columnIn(QWidget* widget) {
-    auto* column = new QVBoxLayout(widget);
-    look::layOutPart(*column);
-    return column;
-}
+/// Milliseconds before a progress dialog shows.
+constexpr int kPatience = 500;
 
 }  // namespace
 
@@ -35,18 +32,30 @@ DataMesCorrenteWindow::DataMesCorrenteWindow(DataMesCorrente& command, QWidget* 
                    QStringLiteral("Configurações Horas Extras - Mes de Trabalho"), parent),
       command_(command) {
     setBody(buildBody());
+    addCommands();
+    connectMonth();
+    showMonth();
+    month_->setFocus();
+}
+
+void DataMesCorrenteWindow::addCommands() {
     QToolButton* record = addCommand(QStringLiteral("save"), QStringLiteral("Gravar"),
                                      QKeySequence::Save, QStringLiteral("month.record"));
     connect(record, &QToolButton::clicked, this, &DataMesCorrenteWindow::recordMonth);
+    QToolButton* local =
+        addCommand(QStringLiteral("month"), QStringLiteral("Feriados do Município e do Estado"),
+                   Qt::Key_F6, QStringLiteral("month.localHolidays"));
+    connect(local, &QToolButton::clicked, this, &DataMesCorrenteWindow::localHolidaysRequested);
+    QToolButton* all =
+        addCommand(QStringLiteral("employees"), QStringLiteral("Atualizar p/Todos os Funcionários"),
+                   Qt::Key_F7, QStringLiteral("month.updateAll"));
+    connect(all, &QToolButton::clicked, this, &DataMesCorrenteWindow::updateAll);
     QPushButton* confirm =
         addClosingButton(QStringLiteral("&Confirma"), QStringLiteral("month.confirm"));
     confirm->setDefault(true);
     connect(confirm, &QPushButton::clicked, this, &DataMesCorrenteWindow::confirmMonth);
     QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("month.close"));
     connect(close, &QPushButton::clicked, this, &DataMesCorrenteWindow::reject);
-    connectMonth();
-    showMonth();
-    month_->setFocus();
 }
 
 QWidget* DataMesCorrenteWindow::buildBody() {
@@ -68,7 +77,8 @@ QWidget* DataMesCorrenteWindow::buildBody() {
 
 QWidget* DataMesCorrenteWindow::buildMonthColumn() {
     auto* widget = new QWidget(this);
-    QVBoxLayout* column = columnIn(widget);
+    auto* column = new QVBoxLayout(widget);
+    look::layOutPart(*column);
     month_ = new QComboBox(widget);
     month_->setObjectName(QStringLiteral("month.month"));
     month_->setAccessibleName(QStringLiteral("Mês de Trabalho"));
@@ -83,61 +93,9 @@ QWidget* DataMesCorrenteWindow::buildMonthColumn() {
     reference_->setObjectName(QStringLiteral("month.reference"));
     column->addWidget(reference_);
     column->addSpacing(look::kGap);
-    heading_ = look::heading(QString(), widget);
-    heading_->setWordWrap(true);
-    column->addWidget(heading_);
-    grid_ = new HolidayGrid(command_, widget);
-    column->addWidget(grid_);
-    counts_ = look::label(QString(), look::TextSize::Body, widget);
-    counts_->setObjectName(QStringLiteral("month.counts"));
-    counts_->setWordWrap(true);
-    column->addWidget(counts_);
-    column->addWidget(buildHolidayList(), 1);
-    return widget;
-}
-
-QWidget* DataMesCorrenteWindow::buildHolidayList() {
-    auto* widget = new QWidget(this);
-    auto* row = new QHBoxLayout(widget);
-    look::layOutPart(*row);
-    holidays_ = new QListWidget(widget);
-    holidays_->setObjectName(QStringLiteral("month.holidays"));
-    holidays_->setAccessibleName(QStringLiteral("Feriados"));
-    holidays_->setMinimumHeight(holidays_->fontMetrics().height() * 3);
-    holidays_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
-    QLabel* label = look::label(QStringLiteral("F&eriados:"), look::TextSize::Body, widget);
-    label->setBuddy(holidays_);
-    auto* list = new QVBoxLayout;
-    look::layOutPart(*list);
-    list->addWidget(label);
-    list->addWidget(holidays_, 1);
-    row->addLayout(list, 1);
-    auto* commands = new QVBoxLayout;
-    look::layOutPart(*commands);
-    auto* reset = new QPushButton(look::icon(QStringLiteral("clear")), QStringLiteral("&Reset."));
-    reset->setObjectName(QStringLiteral("month.reset"));
-    auto* restore =
-        new QPushButton(look::icon(QStringLiteral("restore")), QStringLiteral("Resta&urar"));
-    restore->setObjectName(QStringLiteral("month.restore"));
-    recordTicks_ = new QCheckBox(QStringLiteral("&Gravação"), widget);
-    recordTicks_->setObjectName(QStringLiteral("month.recordTicks"));
-    commands->addSpacing(label->sizeHint().height() + look::kGap);
-    for (QPushButton* button : {reset, restore}) {
-        button->setAutoDefault(false);
-        button->setAccessibleName(button->text().remove(QLatin1Char('&')));
-        commands->addWidget(button);
-    }
-    commands->addWidget(recordTicks_);
-    commands->addStretch();
-    row->addLayout(commands);
-    connect(reset, &QPushButton::clicked, this, [this] {
-        command_.clearTicks();
-        showHolidays();
-    });
-    connect(restore, &QPushButton::clicked, this, [this] {
-        command_.restoreTicks();
-        showHolidays();
-    });
+    holidays_ = new HolidayPanel(command_, widget);
+    connect(holidays_, &HolidayPanel::edited, this, &DataMesCorrenteWindow::showState);
+    column->addWidget(holidays_, 1);
     return widget;
 }
 
@@ -150,11 +108,14 @@ void DataMesCorrenteWindow::connectMonth() {
         (void)command_.chooseNextReference();
         showMonth();
     });
-    connect(grid_, &HolidayGrid::ticked, this, &DataMesCorrenteWindow::showHolidays);
-    connect(recordTicks_, &QCheckBox::toggled, this, [this](bool on) {
-        command_.setRecordTicks(on);
-        showState();
-    });
+    for (const auto& [key, step] :
+         {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)}) {
+        auto* move = new QShortcut(key, this);
+        connect(move, &QShortcut::activated, this, [this, months = step] {
+            (void)command_.chooseMonth(command_.settings().month + std::chrono::months{months});
+            showMonth();
+        });
+    }
 }
 
 void DataMesCorrenteWindow::showMonths() {
@@ -168,36 +129,51 @@ void DataMesCorrenteWindow::showMonths() {
 
 void DataMesCorrenteWindow::showMonth() {
     showMonths();
-    reference_->setText(toQt(command_.referenceCaption()));
-    reference_->setAccessibleName(reference_->text());
+    reference_->setText(withMnemonic(command_.referenceCaption(), 'T'));
+    reference_->setAccessibleName(toQt(command_.referenceCaption()));
     reference_->setChecked(command_.refersToPresentMonth());
-    heading_->setText(toQt(command_.holidayHeading()));
     setChips({toQt(command_.monthCaption())});
-    const QSignalBlocker quiet(recordTicks_);
-    recordTicks_->setChecked(command_.settings().recordTicks);
     rules_->refresh();
-    showHolidays();
+    holidays_->refresh();
+    showState();
 }
 
-void DataMesCorrenteWindow::showHolidays() {
-    grid_->refresh();
-    holidays_->clear();
-    for (const Date date : command_.settings().holidays())
-        holidays_->addItem(toQt(dateText(date) + "  " + std::string(weekdayName(weekdayOf(date)))));
-    const MonthDayCounts counts = command_.counts();
-    counts_->setText(QStringLiteral("Quantidade de Dias Úteis: <b>%1</b><br>"
-                                    "Quantidade dias de Reposo DSR: <b>%2</b>")
-                         .arg(counts.businessDays)
-                         .arg(counts.restDays));
+void DataMesCorrenteWindow::refreshHolidays() {
+    command_.reloadOffer();
+    holidays_->refresh();
     showState();
 }
 
 void DataMesCorrenteWindow::showState() {
-    setState(command_.changed() ? QStringLiteral("Alterações não gravadas") : QString());
+    setState(command_.changed()      ? QStringLiteral("Alterações não gravadas")
+             : command_.isRecorded() ? QString()
+                                     : QStringLiteral("Mês ainda não gravado"));
 }
 
 void DataMesCorrenteWindow::recordMonth() {
-    if (command_.record()) setState(QStringLiteral("Mês gravado"));
+    if (!command_.record()) return;
+    holidays_->refresh();
+    setState(QStringLiteral("Mês gravado"));
+}
+
+void DataMesCorrenteWindow::updateAll() {
+    QProgressDialog dialog(QStringLiteral("Atualizando os funcionários…"),
+                           QStringLiteral("Cancelar"), 0, 0, this);
+    dialog.setObjectName(QStringLiteral("month.progress"));
+    dialog.setWindowTitle(QStringLiteral("ALTERAÇÃO"));
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.setMinimumDuration(kPatience);
+    dialog.reset();
+    const auto updated = command_.updateAll([&dialog](std::size_t done, std::size_t total) {
+        dialog.setMaximum(static_cast<int>(total));
+        dialog.setLabelText(QStringLiteral("Funcionário %1 de %2").arg(done).arg(total));
+        dialog.setValue(static_cast<int>(done));
+        return !dialog.wasCanceled();
+    });
+    rules_->refresh();
+    if (!updated) return;
+    setState(*updated == 1 ? QStringLiteral("1 funcionário atualizado")
+                           : QStringLiteral("%1 funcionários atualizados").arg(*updated));
 }
 
 void DataMesCorrenteWindow::confirmMonth() {

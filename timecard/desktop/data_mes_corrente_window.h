@@ -5,12 +5,10 @@
 
 class QCheckBox;
 class QComboBox;
-class QLabel;
-class QListWidget;
 
 namespace winvrx {
 
-class HolidayGrid;
+class HolidayPanel;
 class MonthRulesPanel;
 
 /// The work month's window. "Confirma" closes it with QDialog::Accepted.
@@ -21,30 +19,33 @@ class DataMesCorrenteWindow : public ScreenWindow {
     /// `command` is open and outlives the window.
     explicit DataMesCorrenteWindow(DataMesCorrente& command, QWidget* parent = nullptr);
 
+    /// To be called when the list of the town's and the state's holidays may have changed.
+    void refreshHolidays();
+
+  signals:
+    /// Asks for that list's window.
+    void localHolidaysRequested();
+
   protected:
     bool mayClose() override;
 
   private:
     [[nodiscard]] QWidget* buildBody();
     [[nodiscard]] QWidget* buildMonthColumn();
-    [[nodiscard]] QWidget* buildHolidayList();
+    void addCommands();
     void connectMonth();
 
     void showMonths();
     void showMonth();
-    void showHolidays();
     void showState();
     void recordMonth();
+    void updateAll();
     void confirmMonth();
 
     DataMesCorrente& command_;
     QComboBox* month_ = nullptr;
     QCheckBox* reference_ = nullptr;
-    QLabel* heading_ = nullptr;
-    HolidayGrid* grid_ = nullptr;
-    QListWidget* holidays_ = nullptr;
-    QCheckBox* recordTicks_ = nullptr;
-    QLabel* counts_ = nullptr;
+    HolidayPanel* holidays_ = nullptr;
     MonthRulesPanel* rules_ = nullptr;
 };
 

@@ -53,26 +53,42 @@ QCheckBox* HolidayGrid::buildCell(std::size_t cell) {
 
 void HolidayGrid::refresh() {
     for (std::size_t cell = 0; cell < kHolidayCells; ++cell) {
-        QCheckBox* box = cells_[cell];
-        const QSignalBlocker quiet(box);
+        const QSignalBlocker quiet(cells_[cell]);
         const auto date = command_.dateOfCell(cell);
-        box->setVisible(date.has_value());
-        const bool holiday = date && command_.settings().isHoliday(*date);
-        box->setChecked(holiday);
-        if (!date) continue;
-        box->setText(QString::number(dayNumber(*date)));
-        box->setAccessibleName(toQt(dateText(*date)) + QStringLiteral(", ") +
-                               toQt(weekdayName(weekdayOf(*date))));
-        QPalette colors = palette();
-        if (holiday || isRestDay(command_.settings(), *date))
-            colors.setColor(
-                QPalette::WindowText,
-                look::color(holiday ? look::Tint::Holiday : look::Tint::RestDay, colors));
-        QFont font = look::font(look::TextSize::Body);
-        font.setBold(holiday);
-        box->setPalette(colors);
-        box->setFont(font);
+        cells_[cell]->setVisible(date.has_value());
+        if (date) showDay(*cells_[cell], *date);
     }
+    const auto* stop = std::find_if(cells_.begin(), cells_.end(), [](const QCheckBox* box) {
+        return box->focusPolicy() == Qt::StrongFocus && !box->isHidden();
+    });
+    if (stop == cells_.end()) setTabStop(holidayCellOf(firstDay(command_.settings().month)));
+}
+
+void HolidayGrid::showDay(QCheckBox& box, Date date) {
+    const bool holiday = command_.settings().isHoliday(date);
+    const QString name = toQt(command_.nameOf(date));
+    const bool offered = !holiday && !name.isEmpty();
+    box.setChecked(holiday);
+    box.setText(QString::number(dayNumber(date)) +
+                (offered ? QStringLiteral(" ") + kOfferSign : QString()));
+    box.setToolTip(name);
+    QStringList spoken = {toQt(dateText(date)), toQt(weekdayName(weekdayOf(date)))};
+    if (!name.isEmpty()) spoken << name;
+    if (offered) spoken << QStringLiteral("sugestão");
+    box.setAccessibleName(spoken.join(u", "));
+    QPalette colors = palette();
+    if (holiday || isRestDay(command_.settings(), date))
+        colors.setColor(QPalette::WindowText,
+                        look::color(holiday ? look::Tint::Holiday : look::Tint::RestDay, colors));
+    QFont font = look::font(look::TextSize::Body);
+    font.setBold(holiday);
+    box.setPalette(colors);
+    box.setFont(font);
+}
+
+void HolidayGrid::setTabStop(std::size_t cell) {
+    for (QCheckBox* box : cells_)
+        box->setFocusPolicy(box == cells_[cell] ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void HolidayGrid::take(std::size_t cell, bool holiday) {
@@ -95,12 +111,12 @@ bool HolidayGrid::moveFrom(std::size_t cell, int key) {
 }
 
 bool HolidayGrid::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress) {
-        const auto* found = std::find(cells_.begin(), cells_.end(), watched);
-        const auto cell = static_cast<std::size_t>(found - cells_.begin());
-        if (cell < kHolidayCells && moveFrom(cell, static_cast<QKeyEvent*>(event)->key()))
-            return true;
-    }
+    const auto* found = std::find(cells_.begin(), cells_.end(), watched);
+    if (found == cells_.end()) return QWidget::eventFilter(watched, event);
+    const auto cell = static_cast<std::size_t>(found - cells_.begin());
+    if (event->type() == QEvent::FocusIn) setTabStop(cell);
+    if (event->type() == QEvent::KeyPress && moveFrom(cell, static_cast<QKeyEvent*>(event)->key()))
+        return true;
     return QWidget::eventFilter(watched, event);
 }
 

@@ -1,5 +1,6 @@
 #include "timecard/desktop/month_rules_panel.h"
 
+#include "foundation/desktop/checked_field.h"
 #include "foundation/desktop/look.h"
 #include "foundation/desktop/qt_text.h"
 #include "timecard/desktop/wrapped_check_box.h"
@@ -82,6 +83,9 @@ void MonthRulesPanel::addClosing(QVBoxLayout& column) {
     grid->addWidget(fixedMonth_, 0, 0);
     grid->addWidget(startDay_, 0, 1);
     addNumber(*grid, 0, 2, kClosingDay);
+    period_ = look::label(QString(), look::TextSize::Hint, this);
+    period_->setObjectName(QStringLiteral("month.period"));
+    grid->addWidget(period_, 0, kColumnsOfNumber + 2);
     grid->setColumnStretch(kColumnsOfNumber + 2, 1);
     column.addLayout(grid);
 }
@@ -139,6 +143,11 @@ void MonthRulesPanel::addOvertime(QVBoxLayout& column) {
     modeNotice_->setObjectName(QStringLiteral("month.modeNotice"));
     modeNotice_->setWordWrap(true);
     column.addWidget(modeNotice_);
+    ownRules_ = look::label(QString(), look::TextSize::Hint, this);
+    ownRules_->setObjectName(QStringLiteral("month.ownRules"));
+    ownRules_->setWordWrap(true);
+    look::setTint(*ownRules_, look::Tint::Warning);
+    column.addWidget(ownRules_);
 }
 
 void MonthRulesPanel::addTotals(QVBoxLayout& column) {
@@ -210,8 +219,12 @@ void MonthRulesPanel::takeNote() {
 }
 
 void MonthRulesPanel::showTexts() {
-    differentiated_->setCaption(toQt(command_.differentiatedCaption()));
+    differentiated_->setCaption(withMnemonic(command_.differentiatedCaption(), 'P'));
     modeNotice_->setText(toQt(command_.modeNotice()));
+    period_->setText(toQt(command_.closingPeriodText()));
+    const QString own = toQt(command_.ownRulesNotice());
+    ownRules_->setText(own.isEmpty() ? own : QStringLiteral("⚠ ") + own);
+    ownRules_->setVisible(!own.isEmpty());
     for (std::size_t field = 0; field < numbers_.size(); ++field) {
         const std::string finding = command_.findingOf(kMonthNumberFields[field]);
         numbers_[field].hint->setText(finding.empty() ? QString()

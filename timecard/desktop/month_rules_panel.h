@@ -52,7 +52,9 @@ class MonthRulesPanel : public QWidget {
     WrappedCheckBox* differentiated_ = nullptr;
     QRadioButton* bothLevels_ = nullptr;
     QRadioButton* singleLevel_ = nullptr;
+    QLabel* period_ = nullptr;
     QLabel* modeNotice_ = nullptr;
+    QLabel* ownRules_ = nullptr;
     QRadioButton* clockTotals_ = nullptr;
     QRadioButton* decimalTotals_ = nullptr;
     std::array<NumberWidgets, kMonthNumberFields.size()> numbers_{};

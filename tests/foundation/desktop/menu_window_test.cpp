@@ -119,9 +119,12 @@ TEST_F(MenuWindowTest, NoticesAndCountsFollowTheMonth) {
     ASSERT_TRUE(window_.start());
     const WindowDriver driver(window_);
     EXPECT_TRUE(driver.find<QLabel>("menu.notices").text().isEmpty());
-    calendar_.answer.recorded = true;
     calendar_.answer.businessDays = 25;
     calendar_.answer.restDays = 6;
+    window_.refresh();
+    EXPECT_EQ(driver.find<QLabel>("menu.counts").text().toStdString(),
+              "Dias úteis 25 · DSR 6 (sugestão)");
+    calendar_.answer.recorded = true;
     calendar_.answer.notices = {"Hoje é o TERCEIRO Dia Últil do Mes"};
     window_.refresh();
     EXPECT_EQ(driver.find<QLabel>("menu.counts").text().toStdString(), "Dias úteis 25 · DSR 6");
