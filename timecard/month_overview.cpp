@@ -8,7 +8,7 @@ namespace winvrx {
 
 namespace {
 
-constexpr std::string_view kFromOffer = "Feriados sugeridos: o mês ainda não foi gravado.";
+constexpr std::string_view kFromOffer = "Feriados ainda não confirmados.";
 
 }  // namespace
 

@@ -100,7 +100,7 @@ TEST(BusinessDays, ThePresentMonthIsJudgedByItsRecordElseByTheOffer) {
     EXPECT_THAT(overview.holidays, ElementsAre(*parseDate("29/03/2024")));
     ASSERT_EQ(overview.notices.size(), 5U);
     EXPECT_EQ(overview.notices[0], "Hoje é o(a) 28 do Mês e, 24º Dia Útil do Mes de março");
-    EXPECT_EQ(overview.notices[4], "Feriados sugeridos: o mês ainda não foi gravado.");
+    EXPECT_EQ(overview.notices[4], "Feriados ainda não confirmados.");
 
     saveMonthSettings(desk.files, desk.session.folder, monthWith("03-2024", {"04/03/2024"}));
     saveSelectedMonth(desk.files, desk.session.folder, {*parseMonthKey("02-2024"), {}});

@@ -24,6 +24,8 @@ namespace {
 
 /// Milliseconds before a progress dialog shows.
 constexpr int kPatience = 500;
+/// Narrower windows show the rules under the holidays.
+constexpr int kSideBySide = 960;
 
 }  // namespace
 
@@ -42,9 +44,8 @@ void DataMesCorrenteWindow::addCommands() {
     QToolButton* record = addCommand(QStringLiteral("save"), QStringLiteral("Gravar"),
                                      QKeySequence::Save, QStringLiteral("month.record"));
     connect(record, &QToolButton::clicked, this, &DataMesCorrenteWindow::recordMonth);
-    QToolButton* local =
-        addCommand(QStringLiteral("month"), QStringLiteral("Feriados do Município e do Estado"),
-                   Qt::Key_F6, QStringLiteral("month.localHolidays"));
+    QToolButton* local = addCommand(QStringLiteral("month"), QStringLiteral("Feriados Locais"),
+                                    Qt::Key_F6, QStringLiteral("month.localHolidays"));
     connect(local, &QToolButton::clicked, this, &DataMesCorrenteWindow::localHolidaysRequested);
     QToolButton* all =
         addCommand(QStringLiteral("employees"), QStringLiteral("Atualizar p/Todos os Funcionários"),
@@ -60,13 +61,13 @@ void DataMesCorrenteWindow::addCommands() {
 
 QWidget* DataMesCorrenteWindow::buildBody() {
     auto* page = new QWidget;
-    auto* row = new QHBoxLayout(page);
-    look::layOutBody(*row);
-    row->setSpacing(look::kGroupGap);
-    row->addWidget(buildMonthColumn(), 2);
+    columns_ = new QHBoxLayout(page);
+    look::layOutBody(*columns_);
+    columns_->setSpacing(look::kGroupGap);
+    columns_->addWidget(buildMonthColumn(), 2);
     rules_ = new MonthRulesPanel(command_, page);
     connect(rules_, &MonthRulesPanel::edited, this, &DataMesCorrenteWindow::showState);
-    row->addWidget(rules_, 3);
+    columns_->addWidget(rules_, 3);
     auto* scroll = new QScrollArea(this);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setWidgetResizable(true);
@@ -178,6 +179,12 @@ void DataMesCorrenteWindow::updateAll() {
 
 void DataMesCorrenteWindow::confirmMonth() {
     if (command_.confirm()) accept();
+}
+
+void DataMesCorrenteWindow::resizeEvent(QResizeEvent* event) {
+    columns_->setDirection(width() < kSideBySide ? QBoxLayout::TopToBottom
+                                                 : QBoxLayout::LeftToRight);
+    ScreenWindow::resizeEvent(event);
 }
 
 bool DataMesCorrenteWindow::mayClose() {

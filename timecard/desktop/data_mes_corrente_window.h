@@ -5,6 +5,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QHBoxLayout;
 
 namespace winvrx {
 
@@ -28,6 +29,7 @@ class DataMesCorrenteWindow : public ScreenWindow {
 
   protected:
     bool mayClose() override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     [[nodiscard]] QWidget* buildBody();
@@ -43,6 +45,7 @@ class DataMesCorrenteWindow : public ScreenWindow {
     void confirmMonth();
 
     DataMesCorrente& command_;
+    QHBoxLayout* columns_ = nullptr;
     QComboBox* month_ = nullptr;
     QCheckBox* reference_ = nullptr;
     HolidayPanel* holidays_ = nullptr;

@@ -4,9 +4,26 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace winvrx {
+
+namespace {
+
+/// The field is left: the day takes its full form, or the field says what is wrong with it.
+void completeDay(TextField& field) {
+    const std::string day = toUtf8(field.text());
+    const QString completed = toQt(completedHolidayDay(day));
+    if (completed != field.text()) {
+        // As if typed, so that the field counts as edited.
+        field.edit()->selectAll();
+        field.edit()->insert(completed);
+    }
+    field.setWarning(day.empty() ? QString() : toQt(Feriados::findingOf(day)));
+}
+
+}  // namespace
 
 FeriadosWindow::FeriadosWindow(Feriados& holidays, QWidget* parent)
     : RegisterWindow({.screen = QStringLiteral("feriados"),
@@ -28,7 +45,7 @@ FeriadosWindow::FeriadosWindow(Feriados& holidays, QWidget* parent)
 }
 
 QWidget* FeriadosWindow::buildForm() {
-    auto* form = new QWidget(this);
+    auto* form = new QWidget;
     auto* column = new QVBoxLayout(form);
     look::layOutPart(*column);
     column->addWidget(look::heading(QStringLiteral("Feriado"), form));
@@ -43,7 +60,7 @@ QWidget* FeriadosWindow::buildForm() {
         column->addWidget(field);
         connect(field, &TextField::edited, this, &FeriadosWindow::showState);
     });
-    connect(day_->edit(), &QLineEdit::editingFinished, this, &FeriadosWindow::completeDay);
+    connect(day_->edit(), &QLineEdit::editingFinished, day_, [day = day_] { completeDay(*day); });
     QLabel* note = look::label(
         QStringLiteral("Dia e mês, como 25/01, valem para todos os anos; com o ano, como "
                        "25/01/2026, só para essa data. Um mês ainda não gravado já vem com estes "
@@ -53,18 +70,12 @@ QWidget* FeriadosWindow::buildForm() {
     note->setWordWrap(true);
     column->addWidget(note);
     column->addStretch();
-    return form;
-}
-
-void FeriadosWindow::completeDay() {
-    const std::string day = toUtf8(day_->text());
-    const QString completed = toQt(completedHolidayDay(day));
-    if (completed != day_->text()) {
-        // As if typed, so that the field counts as edited.
-        day_->edit()->selectAll();
-        day_->edit()->insert(completed);
-    }
-    day_->setWarning(day.empty() ? QString() : toQt(Feriados::findingOf(day)));
+    auto* scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(form);
+    return scroll;
 }
 
 std::vector<RegisterList::Row> FeriadosWindow::rows() const {

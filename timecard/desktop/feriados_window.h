@@ -26,8 +26,6 @@ class FeriadosWindow : public RegisterWindow {
 
   private:
     [[nodiscard]] QWidget* buildForm();
-    /// The field is left: the day takes its full form, or the field says what is wrong with it.
-    void completeDay();
     [[nodiscard]] TypedHoliday typed() const;
 
     Feriados& holidays_;

@@ -99,7 +99,7 @@ void MonthRulesPanel::addNumber(QGridLayout& grid, int row, int column, std::siz
     edit->setProperty("lastField", field == kThreshold);
     edit->setAlignment(Qt::AlignRight);
     edit->setFont(look::fixedFont());
-    edit->setMaximumWidth(edit->fontMetrics().horizontalAdvance(QLatin1Char('0')) * 8);
+    edit->setFixedWidth(edit->fontMetrics().horizontalAdvance(QLatin1Char('0')) * 8);
     QLabel* label = look::label(QString::fromUtf8(text.label), look::TextSize::Body, this);
     label->setBuddy(edit);
     QLabel* hint = look::label(QString(), look::TextSize::Hint, this);
