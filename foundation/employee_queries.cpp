@@ -1,6 +1,7 @@
 #include "foundation/employee_queries.h"
 
 #include "foundation/record_file.h"
+#include "foundation/text.h"
 
 #include <algorithm>
 
@@ -9,6 +10,7 @@ namespace winvrx {
 namespace {
 
 constexpr std::string_view kGroupStem = "GRUPO-";
+constexpr int kPayrollDigits = 5;
 
 }  // namespace
 
@@ -29,6 +31,13 @@ bool RecordedLocks::hasClosedMonth(const CompanyCode& company, const EmployeeCod
     return std::any_of(names.begin(), names.end(), [&](const std::string& name) {
         return isPayrollOfEmployee(name, company, employee);
     });
+}
+
+bool RecordedLocks::isClosed(const CompanyCode& company, const EmployeeCode& employee,
+                             WorkMonth month) const {
+    const std::string name = std::string(kPayrollStem) + padded(employee.number(), kPayrollDigits) +
+                             monthKey(month) + ".bdx";
+    return files_.exists(folder_.companyFile(company, name));
 }
 
 }  // namespace winvrx

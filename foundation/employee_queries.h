@@ -2,6 +2,7 @@
 
 #include "foundation/codes.h"
 #include "foundation/data_folder.h"
+#include "foundation/date.h"
 
 // What the employee register has to ask of subjects that lie above it. They answer through these
 // queries; app/ joins the two.
@@ -24,6 +25,9 @@ class PayrollLock {
     /// Whether a payroll of the employee has been generated.
     [[nodiscard]] virtual bool hasClosedMonth(const CompanyCode& company,
                                               const EmployeeCode& employee) const = 0;
+    /// Whether the payroll of the employee and month has been generated: the month is closed.
+    [[nodiscard]] virtual bool isClosed(const CompanyCode& company, const EmployeeCode& employee,
+                                        WorkMonth month) const = 0;
 };
 
 /// Answers both from the files that the subjects leave in the data folder: a payroll file named
@@ -39,6 +43,8 @@ class RecordedLocks final : public RotationMembership, public PayrollLock {
                                 const EmployeeCode& employee) const override;
     [[nodiscard]] bool hasClosedMonth(const CompanyCode& company,
                                       const EmployeeCode& employee) const override;
+    [[nodiscard]] bool isClosed(const CompanyCode& company, const EmployeeCode& employee,
+                                WorkMonth month) const override;
 
   private:
     const FileSystem& files_;

@@ -22,6 +22,9 @@ TEST(RecordedLocks, AnswerFromTheFilesOfTheCompany) {
     files.content["/data/01GRUPO-001032024.er"] = "GRUPO-001\r\n002 BIA\r\n";
     EXPECT_FALSE(locks.hasClosedMonth(kCompany, kAna));
     EXPECT_TRUE(locks.hasClosedMonth(kCompany, kBia));
+    EXPECT_TRUE(locks.isClosed(kCompany, kBia, *parseMonthKey("03-2024")));
+    EXPECT_FALSE(locks.isClosed(kCompany, kBia, *parseMonthKey("04-2024")));
+    EXPECT_FALSE(locks.isClosed(kCompany, kAna, *parseMonthKey("03-2024")));
     EXPECT_FALSE(locks.isMember(kCompany, kAna));
     EXPECT_TRUE(locks.isMember(kCompany, kBia));
 }

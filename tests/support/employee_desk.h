@@ -42,6 +42,9 @@ struct TestLocks final : RotationMembership, PayrollLock {
     bool hasClosedMonth(const CompanyCode&, const EmployeeCode& employee) const override {
         return closed.contains(employee.text());
     }
+    bool isClosed(const CompanyCode&, const EmployeeCode& employee, WorkMonth) const override {
+        return closed.contains(employee.text());
+    }
 };
 
 /// A desk with the employee register's screen on it.
