@@ -35,6 +35,15 @@ std::string storageFinding(const std::string& text) {
 
 }  // namespace
 
+std::string findingOf(PunchCell cell, const std::string& text) {
+    if (isTime(cell) && !text.empty() && !parseTypedTime(text))
+        return "\"" + text + "\" não é uma hora de 00:00 a 23:59.";
+    const std::size_t width = fieldOf(cell).column.width;
+    if (characterCount(text) > width && !isCutByDesign(text))
+        return "\"" + text + "\" passa de " + std::to_string(width) + " caracteres.";
+    return storageFinding(text);
+}
+
 CardSheet::CardSheet(std::vector<PunchLine> recorded)
     : lines_(recorded), recorded_(std::move(recorded)) {}
 
@@ -46,22 +55,68 @@ const std::string& CardSheet::text(int day, PunchCell cell) const {
     return line(day).*memberOf(cell);
 }
 
+std::string& CardSheet::place(int day, PunchCell cell) {
+    return lines_.at(static_cast<std::size_t>(day) - 1).*memberOf(cell);
+}
+
 void CardSheet::type(int day, PunchCell cell, std::string_view text) {
-    std::string& place = lines_.at(static_cast<std::size_t>(day) - 1).*memberOf(cell);
-    const std::string_view typed = trimmed(text);
-    const auto time = isTime(cell) ? parseTypedTime(typed) : std::nullopt;
-    place = time ? timeText(*time) : std::string(typed);
+    type({{day, cell, std::string(text)}});
+}
+
+void CardSheet::type(const std::vector<TypedCell>& cells) {
+    Edit edit;
+    for (const TypedCell& one : cells) {
+        const std::string_view typed = trimmed(one.text);
+        const auto time = isTime(one.cell) ? parseTypedTime(typed) : std::nullopt;
+        std::string text = time ? timeText(*time) : std::string(typed);
+        if (text != this->text(one.day, one.cell))
+            edit.push_back({one.day, one.cell, std::move(text)});
+    }
+    if (edit.empty()) return;
+    done_.push_back(exchange(edit));
+    undone_.clear();
+}
+
+CardSheet::Edit CardSheet::exchange(const Edit& edit) {
+    Edit before;
+    for (const TypedCell& one : edit) {
+        std::string& standing = place(one.day, one.cell);
+        before.insert(before.begin(), {one.day, one.cell, standing});
+        standing = one.text;
+    }
+    return before;
+}
+
+bool CardSheet::undo() {
+    if (done_.empty()) return false;
+    undone_.push_back(exchange(done_.back()));
+    done_.pop_back();
+    return true;
+}
+
+bool CardSheet::redo() {
+    if (undone_.empty()) return false;
+    done_.push_back(exchange(undone_.back()));
+    undone_.pop_back();
+    return true;
+}
+
+bool CardSheet::isBlank(int day) const {
+    for (const PunchCell cell : kPunchCells)
+        if (cell != PunchCell::ShortField && !text(day, cell).empty()) return false;
+    return true;
+}
+
+void CardSheet::markRecorded() {
+    recorded_ = lines_;
+    done_.clear();
+    undone_.clear();
 }
 
 std::string CardSheet::findingAt(int day, PunchCell cell) const {
     const std::string& typed = text(day, cell);
     if (typed == recorded_.at(static_cast<std::size_t>(day) - 1).*memberOf(cell)) return {};
-    if (isTime(cell) && !typed.empty() && !parseTypedTime(typed))
-        return "\"" + typed + "\" não é uma hora de 00:00 a 23:59.";
-    const std::size_t width = fieldOf(cell).column.width;
-    if (characterCount(typed) > width && !isCutByDesign(typed))
-        return "\"" + typed + "\" passa de " + std::to_string(width) + " caracteres.";
-    return storageFinding(typed);
+    return findingOf(cell, typed);
 }
 
 std::string CardSheet::noticeAt(int day, PunchCell cell) const {

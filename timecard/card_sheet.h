@@ -1,5 +1,6 @@
 #pragma once
 
+#include "timecard/day_check.h"
 #include "timecard/half_month.h"
 #include "timecard/punch_record.h"
 
@@ -31,7 +32,20 @@ inline constexpr std::array kPunchCells = {PunchCell::MorningEntry,   PunchCell:
     return cell < PunchCell::ShortField;
 }
 
-/// One employee's month on the screen, as recorded and as edited.
+/// Why a text cannot be recorded in a cell of this kind, in one sentence; empty when it can.
+[[nodiscard]] std::string findingOf(PunchCell cell, const std::string& text);
+
+/// A text for one cell of a day, which counts from 1.
+struct TypedCell {
+    int day;
+    PunchCell cell;
+    std::string text;
+
+    [[nodiscard]] bool operator==(const TypedCell&) const = default;
+};
+
+/// One employee's month on the screen, as recorded and as edited. Edits can be taken back and made
+/// again until they are recorded.
 class CardSheet {
   public:
     CardSheet() = default;
@@ -45,6 +59,11 @@ class CardSheet {
 
     /// Takes what was typed: a time is brought to "hh:mm", anything else stays as it is.
     void type(int day, PunchCell cell, std::string_view text);
+    /// The same for many cells, taken back as one edit.
+    void type(const std::vector<TypedCell>& cells);
+    /// Takes back the last edit, or makes the last one taken back again; false when there is none.
+    bool undo();
+    bool redo();
 
     /// Why a cell as typed cannot be recorded, in one sentence; empty when it can. What was
     /// recorded before is never a fault.
@@ -54,10 +73,24 @@ class CardSheet {
     /// The first finding of the month behind the label of its day.
     [[nodiscard]] std::optional<std::string> firstFinding() const;
 
+    /// No time and no situation stands on the day.
+    [[nodiscard]] bool isBlank(int day) const;
+    /// Why the times of the day are doubtful; they can be recorded all the same.
+    [[nodiscard]] std::string doubtAt(int day) const { return doubtAbout(line(day)); }
+
     [[nodiscard]] bool changed() const { return lines_ != recorded_; }
-    void markRecorded() { recorded_ = lines_; }
+    void markRecorded();
 
   private:
+    /// The texts that an edit put out of place.
+    using Edit = std::vector<TypedCell>;
+
+    [[nodiscard]] std::string& place(int day, PunchCell cell);
+    /// Puts the texts into their cells; returns those that stood there.
+    Edit exchange(const Edit& edit);
+
+    std::vector<Edit> done_;
+    std::vector<Edit> undone_;
     std::vector<PunchLine> lines_;
     std::vector<PunchLine> recorded_;
 };

@@ -15,7 +15,8 @@ std::string recordedText(const StandardSchedule& schedule, std::size_t position)
 
 }  // namespace
 
-TypedSchedule::TypedSchedule(const StandardSchedule& recorded) : recorded_(recorded) {
+TypedSchedule::TypedSchedule(const StandardSchedule& recorded)
+    : recorded_(recorded), secondFlag_(recorded.secondFlag) {
     for (std::size_t position = 0; position < kScheduleTimes; ++position)
         texts_[position] = recordedText(recorded_, position);
 }
@@ -45,6 +46,7 @@ bool TypedSchedule::hasSaturdayTimes() const {
 
 StandardSchedule TypedSchedule::schedule() const {
     StandardSchedule schedule = recorded_;
+    schedule.secondFlag = secondFlag_;
     for (std::size_t position = 0; position < kScheduleTimes; ++position) {
         if (texts_[position] == recordedText(recorded_, position)) continue;
         timeAt(schedule, position) = parseTypedTime(texts_[position]);

@@ -27,7 +27,13 @@ class TypedSchedule {
     [[nodiscard]] bool hasSaturdayTimes() const;
     [[nodiscard]] bool saturdayIsNormal() const { return recorded_.saturdayIsNormal; }
 
-    [[nodiscard]] bool changed() const { return texts_ != TypedSchedule(recorded_).texts_; }
+    /// The panel's second check box.
+    [[nodiscard]] bool secondFlag() const { return secondFlag_; }
+    void setSecondFlag(bool on) { secondFlag_ = on; }
+
+    [[nodiscard]] bool changed() const {
+        return texts_ != TypedSchedule(recorded_).texts_ || secondFlag_ != recorded_.secondFlag;
+    }
     /// The recorded schedule with the typed times; what is no time counts as empty.
     [[nodiscard]] StandardSchedule schedule() const;
     [[nodiscard]] const StandardSchedule& recorded() const { return recorded_; }
@@ -35,6 +41,7 @@ class TypedSchedule {
   private:
     StandardSchedule recorded_;
     std::array<std::string, kScheduleTimes> texts_;
+    bool secondFlag_ = false;
 };
 
 }  // namespace winvrx
