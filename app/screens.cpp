@@ -79,7 +79,7 @@ void Screens::openLocalHolidays(QWidget* parent) {
 }
 
 void Screens::openTimeCard(QWidget* parent) {
-    CartaoPontoDados card(at_);
+    CartaoPontoDados card(at_, {locks_, locks_, leaves_});
     (void)card.open();
     CartaoPontoDadosWindow window(card, parent);
     QObject::connect(&window, &CartaoPontoDadosWindow::monthSettingsRequested, &window, [&] {

@@ -7,6 +7,7 @@
 #include "foundation/safety_copies.h"
 #include "foundation/text_editor.h"
 #include "output/report_engine.h"
+#include "timecard/leave_calendar.h"
 
 #include <QString>
 
@@ -28,7 +29,8 @@ class Screens {
           editor_(editor),
           engine_(engine),
           copies_(copies),
-          locks_(at.files, at.session.folder) {}
+          locks_(at.files, at.session.folder),
+          leaves_(at.files, at.session.folder) {}
 
     void openCompanies(QWidget* parent);
     void openEmployees(QWidget* parent);
@@ -70,6 +72,7 @@ class Screens {
     ReportEngine& engine_;
     SafetyCopies& copies_;
     RecordedLocks locks_;
+    RecordedLeaves leaves_;
 };
 
 }  // namespace winvrx

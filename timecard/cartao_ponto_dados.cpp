@@ -3,7 +3,6 @@
 #include "foundation/company_register.h"
 #include "timecard/hours.h"
 #include "timecard/overtime_record.h"
-#include "timecard/punch_application.h"
 #include "timecard/selected_month.h"
 
 #include <algorithm>
@@ -17,32 +16,8 @@ const Message kNoMonth{"Aviso", "Informe um Mês de Trabalho!!", Icon::Exclamati
 const Message kNoEmployee{"Aviso", "Selecione um Funcionário na Lista!", Icon::Exclamation};
 const Message kSaturdayIsNormal{"HORÁRIO DE TRABALHO", "No SÁBADO Será HORA NORMAL?",
                                 Icon::Question, Buttons::YesNo};
-const Message kAlreadyApplied{"Aplicação Ponto",
-                              "Já Existem Dados de Ponto Aplicados para Esse Funcionário! .",
-                              Icon::Exclamation};
-const Message kReplaceApplied{
-    "Aplicação Ponto",
-    "Se Prosseguir, Irá Perder todas as Alterações Feitas para este Funcionário. Deseja Substituir "
-    "os Dados Já Aplicados.",
-    Icon::Question, Buttons::OkCancel};
-const Message kRotationScale{"Aplicação de Ponto",
-                             "Este Funcionário foi definido como ESCALA DE REVEZAMENTO!!!",
-                             Icon::Exclamation};
-const Message kAddToRotation{
-    "Aplicação de Ponto", "Portanto é Necessário PRIMEIRO adicioná-lo na ESCALA DE REVEZAMENTO!!!",
-    Icon::Exclamation};
-const Message kAdmissionTooLate{"Analise de Datas",
-                                "A data de Admissão deste Funcionário não está dentro Período do "
-                                "Mês de de Aplicação de Ponto!",
-                                Icon::Critical};
-const Message kConfirmApplication{
-    "Aplicação de Pontos",
-    "Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão para o Item Selecionado?",
-    Icon::Question, Buttons::YesNo};
-const Message kScheduleNotRecorded{
-    "Aplicação de Pontos",
-    "O Horário de Trabalho foi alterado e ainda não foi gravado. Deseja gravá-lo e aplicá-lo?",
-    Icon::Question, Buttons::YesNo};
+const Message kNeedsSituation{"DIGITAÇÃO DO PONTO", "Informe o Tipo de Situação!",
+                              Icon::Exclamation, Buttons::OkCancel};
 const Message kRecordChanges{
     "ALTERAÇÃO", "As alterações deste Funcionário ainda não foram gravadas. Deseja gravá-las?",
     Icon::Question, Buttons::YesNoCancel};
@@ -51,8 +26,6 @@ constexpr std::string_view kWeekly = " HORAS SEMANAIS";
 constexpr std::string_view kMonthly = " HORAS MENSAIS";
 constexpr std::string_view kSaturdayNormal = "Sábado(Normal)";
 constexpr std::string_view kSaturdayExtra = "Sábado(Extra)";
-constexpr std::string_view kChangedElsewhere =
-    "Este registro foi alterado por outro computador. Selecione o funcionário novamente.";
 
 std::string nameOf(const Workplace& at, const CompanyCode& code) {
     for (const CompanyLine& line : loadCompanies(at.files, at.session.folder))
@@ -67,7 +40,8 @@ Message inPunchEntry(Message message) {
 
 }  // namespace
 
-CartaoPontoDados::CartaoPontoDados(const Workplace& at) : at_(at) {
+CartaoPontoDados::CartaoPontoDados(const Workplace& at, const CardQueries& queries)
+    : at_(at), queries_(queries) {
     settings_.month = monthOf(at_.clock.today());
     sheet_ = CardSheet(blankMonth(settings_.month));
 }
@@ -94,12 +68,18 @@ void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings&
                                 ShiftFilter filter) {
     const auto lines = EmployeeRegister(at_.files, at_.session.folder, company).load();
     std::string name = nameOf(at_, company);
+    std::vector<Employee> employees = employeesOf(lines, filter);
+    std::vector<EmployeeMark> marks;
+    for (const Employee& one : employees)
+        marks.push_back(markOf(company, one, settings.month));
+    minutes_ = loadMinutes(at_.files, at_.session.folder);
     const std::string chosen = company_ == company && selected() ? selected()->code : "";
     company_ = company;
     companyName_ = std::move(name);
     settings_ = settings;
     filter_ = filter;
-    employees_ = employeesOf(lines, filter);
+    employees_ = std::move(employees);
+    marks_ = std::move(marks);
     position_.reset();
     overtime_ = settings_.overtime;
     schedule_ = TypedSchedule();
@@ -111,6 +91,13 @@ void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings&
     if (found != employees_.end()) loadCard(static_cast<std::size_t>(found - employees_.begin()));
 }
 
+EmployeeMark CartaoPontoDados::markOf(const CompanyCode& company, const Employee& employee,
+                                      WorkMonth month) const {
+    const EmployeeCode code = employee.employeeCode().value();
+    return {.onLeave = queries_.leaves.leavesOf(company, code).touch(month),
+            .closed = queries_.payroll.isClosed(company, code, month)};
+}
+
 void CartaoPontoDados::loadCard(std::size_t position) {
     const EmployeeCode code = employees_.at(position).employeeCode().value();
     const CompanyCode& company = company_.value();
@@ -119,6 +106,7 @@ void CartaoPontoDados::loadCard(std::size_t position) {
         overtimeOf(at_.files, at_.session.folder, company, code, settings_);
     auto punches = loadPunches(at_.files, at_.session.folder, company, code, settings_.month);
     unreadLines_ = unreadPunchLines(at_.files, at_.session.folder, company, code, settings_.month);
+    marks_.at(position) = markOf(company, employees_[position], settings_.month);
     position_ = position;
     overtime_ = overtime;
     schedule_ = TypedSchedule(schedule.value_or(StandardSchedule()));
@@ -148,6 +136,11 @@ const Employee* CartaoPontoDados::selected() const {
 
 EmployeeCode CartaoPontoDados::selectedCode() const {
     return selected()->employeeCode().value();
+}
+
+std::filesystem::path CartaoPontoDados::punchFile() const {
+    return at_.session.folder.file(
+        punchFileName(company_.value(), selectedCode(), settings_.month));
 }
 
 bool CartaoPontoDados::requireSelection() {
@@ -196,51 +189,6 @@ void CartaoPontoDados::requireReadableSchedule() const {
         throw Fault("standard schedule: " + *finding, *finding);
 }
 
-bool CartaoPontoDados::passesApplicationChecks() {
-    if (applied_ || sheet_.changed()) {
-        if (applied_) at_.person.tell(kAlreadyApplied);
-        if (!at_.person.agrees(kReplaceApplied)) return false;
-    }
-    if (selected()->scaleOr() != Scale::Normal) {
-        at_.person.tell(kRotationScale);
-        at_.person.tell(kAddToRotation);
-        return false;
-    }
-    if (!selected()->admission.empty() && !selected()->admissionDate())
-        throw Fault("admission date: " + selected()->admission,
-                    "A data de admissão \"" + selected()->admission +
-                        "\" não existe. Corrija-a no cadastro do funcionário.");
-    if (const auto admission = selected()->admissionDate();
-        admission && *admission > lastDay(settings_.month)) {
-        at_.person.tell(kAdmissionTooLate);
-        return false;
-    }
-    requireReadableSchedule();
-    if (!at_.person.agrees(kConfirmApplication)) return false;
-    return !schedule_.changed() || (at_.person.agrees(kScheduleNotRecorded) && saveSchedule());
-}
-
-bool CartaoPontoDados::applyPunches() {
-    if (!requireSelection()) return false;
-    return attempt(at_, incorrectData(), [this] {
-        const CompanyCode& company = company_.value();
-        const auto file =
-            at_.session.folder.file(punchFileName(company, selectedCode(), settings_.month));
-        const auto before = at_.files.read(file);
-        applied_ = applied_ || before;
-        if (!passesApplicationChecks()) return false;
-        const auto hold = holdFolder(at_);
-        requireScheduleAsShown();
-        if (at_.files.read(file) != before)
-            throw Fault("punches changed on disk", std::string(kChangedElsewhere));
-        const auto lines =
-            filledMonth(schedule_.recorded(), settings_, selected()->admissionDate());
-        at_.files.replace(file, punchRecordBytes(lines));
-        loadCard(*position_);
-        return true;
-    });
-}
-
 DayKind CartaoPontoDados::kindOf(int day) const {
     const Date date = plusDays(firstDay(settings_.month), day - 1);
     switch (meaningOf(sheet_.line(day).situation)) {
@@ -277,17 +225,51 @@ std::string CartaoPontoDados::totalOf(HalfMonth half) const {
     return formatted(totals.worked(), overtime_.totalsFormat);
 }
 
+std::vector<int> CartaoPontoDados::daysWithoutSituation() const {
+    std::vector<int> days;
+    for (int day = 1; day <= static_cast<int>(sheet_.lines().size()); ++day) {
+        const bool typed = sheet_.line(day) != sheet_.recorded()[static_cast<std::size_t>(day) - 1];
+        const Date date = plusDays(firstDay(settings_.month), day - 1);
+        const bool saturday = weekdayOf(date) == std::chrono::Saturday;
+        const StandardSchedule& schedule = schedule_.recorded();
+        const bool scheduled = (saturday ? schedule.saturday : schedule.weekday) != DaySchedule();
+        if (typed && scheduled && sheet_.isBlank(day) && kindOf(day) == DayKind::Work)
+            days.push_back(day);
+    }
+    return days;
+}
+
+bool CartaoPontoDados::acceptsBlankDays() {
+    const std::vector<int> days = daysWithoutSituation();
+    if (days.empty()) return true;
+    Message message = kNeedsSituation;
+    for (const int day : days)
+        message.detail += (message.detail.empty() ? "" : ", ") + sheet_.line(day).label;
+    message.detail += days.size() == 1 ? " ficou" : " ficaram";
+    message.detail +=
+        " sem horas e sem situação. 'OK' grava assim mesmo, 'CANCELAR' volta à digitação.";
+    return at_.person.agrees(message);
+}
+
 bool CartaoPontoDados::savePunches() {
     if (!requireSelection()) return false;
-    return attemptWriting(at_, inPunchEntry(incorrectData()), [this] {
+    return attempt(at_, inPunchEntry(incorrectData()), [this] {
+        if (!requireOpenMonth()) return false;
         if (const auto finding = sheet_.firstFinding()) throw Fault("punches typed", *finding);
+        if (!acceptsBlankDays()) return false;
+        const auto hold = holdFolder(at_);
+        if (!requireOpenMonth()) return false;
         const CompanyCode& company = company_.value();
         const auto onDisk =
             loadPunches(at_.files, at_.session.folder, company, selectedCode(), settings_.month);
         if (onDisk.value_or(blankMonth(settings_.month)) != sheet_.recorded())
             throw Fault("punches changed on disk", std::string(kChangedElsewhere));
-        winvrx::savePunches(at_.files, at_.session.folder, company, selectedCode(), settings_.month,
-                            sheet_.lines());
+        std::vector<FileSystem::NewContent> batch;
+        PunchFiles(at_.files, at_.session.folder, queries_.payroll, settings_)
+            .add(batch, company, selectedCode(),
+                 editedPunchRecord(at_.files.read(punchFile()).value_or(std::string()),
+                                   settings_.month, sheet_.lines()));
+        at_.files.replaceAll(batch);
         sheet_.markRecorded();
         applied_ = true;
         return true;

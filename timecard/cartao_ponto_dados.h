@@ -4,6 +4,7 @@
 #include "foundation/employee_register.h"
 #include "timecard/card_sheet.h"
 #include "timecard/hours.h"
+#include "timecard/list_application.h"
 #include "timecard/month_settings.h"
 #include "timecard/typed_schedule.h"
 
@@ -16,6 +17,15 @@ namespace winvrx {
 /// What a day is by the calendar and its situation.
 enum class DayKind { Work, Holiday, WeeklyRest, Leave, Absence, Excused };
 
+inline constexpr std::string_view kChangedElsewhere =
+    "Este registro foi alterado por outro computador. Selecione o funcionário novamente.";
+
+/// What the list says of an employee beside his name.
+struct EmployeeMark {
+    bool onLeave = false;  ///< in the work month
+    bool closed = false;   ///< the month's payroll has been generated
+};
+
 /// The time-card data screen: the standard schedule of each employee of the selected company and
 /// the punches of the work month.
 ///
@@ -23,7 +33,7 @@ enum class DayKind { Work, Holiday, WeeklyRest, Leave, Absence, Excused };
 /// record as it was, and what was typed stays on the screen.
 class CartaoPontoDados {
   public:
-    explicit CartaoPontoDados(const Workplace& at);
+    CartaoPontoDados(const Workplace& at, const CardQueries& queries);
 
     /// Loads the work month and the list, filtered as the month was chosen; the card of the
     /// employee chosen before stays chosen if the list has it. False when no company or no month is
@@ -37,6 +47,8 @@ class CartaoPontoDados {
     /// False when the operator keeps unrecorded changes.
     [[nodiscard]] bool filterBy(ShiftFilter filter);
     [[nodiscard]] const std::vector<Employee>& employees() const { return employees_; }
+    /// Of the employee at `position` of the list.
+    [[nodiscard]] EmployeeMark mark(std::size_t position) const { return marks_.at(position); }
 
     /// Loads the card of the employee at `position` of the list. False when the operator stays with
     /// unrecorded changes, or it cannot be read.
@@ -53,18 +65,39 @@ class CartaoPontoDados {
 
     /// True when the employee has a punch record for the month.
     [[nodiscard]] bool applied() const { return applied_; }
+    /// "Minutos Fixos" or "Minutos Variados", for the whole installation.
+    [[nodiscard]] Minutes minutes() const { return minutes_; }
+    [[nodiscard]] bool chooseMinutes(Minutes minutes);
+    /// The situation that an application gives to days of work without times.
+    [[nodiscard]] const std::string& situationToApply() const { return situationToApply_; }
+    void setSituationToApply(std::string_view situation);
+
     /// "Aplicar Ponto": fills the month from the standard schedule.
     [[nodiscard]] bool applyPunches();
+    /// "Aplicar Ponto p/Todos": fills the month of the employees at these positions of the list,
+    /// each from his own schedule or, with `sameHours`, all from that of the employee selected,
+    /// which becomes theirs. Employees that cannot be filled are left as they are and named at the
+    /// end. Cancelling leaves everyone's card as it was.
+    [[nodiscard]] bool applyToAll(const std::vector<std::size_t>& positions, bool sameHours,
+                                  const ListApplication::Progress& progress = {});
+    /// How many cards the last application filled.
+    [[nodiscard]] int filledCards() const { return filledCards_; }
 
     /// What can be shown of the lines of the record that stand for no day; they are kept.
     [[nodiscard]] const std::vector<std::string>& unreadLines() const { return unreadLines_; }
 
+    /// The month is closed for the employee selected: "Folha Fechada".
+    [[nodiscard]] bool closed() const;
+    /// False when the month is closed, which the operator is then told.
+    [[nodiscard]] bool mayEdit();
     [[nodiscard]] CardSheet& sheet() { return sheet_; }
     [[nodiscard]] const CardSheet& sheet() const { return sheet_; }
     [[nodiscard]] DayKind kindOf(int day) const;
     /// What was worked on the day, in the month's format; empty for a day without worked time.
     [[nodiscard]] std::string totalOf(int day) const;
     [[nodiscard]] std::string totalOf(HalfMonth half) const;
+    /// The days of work that typing has left without times and without a situation.
+    [[nodiscard]] std::vector<int> daysWithoutSituation() const;
     [[nodiscard]] bool savePunches();
 
     /// Records the schedule and the punches, each when it was changed. False when one was refused.
@@ -77,24 +110,41 @@ class CartaoPontoDados {
   private:
     void loadList(const CompanyCode& company, const MonthSettings& settings, ShiftFilter filter);
     void loadCard(std::size_t position);
+    [[nodiscard]] EmployeeMark markOf(const CompanyCode& company, const Employee& employee,
+                                      WorkMonth month) const;
     [[nodiscard]] bool requireSelection();
+    /// Tells the operator when the month of the employee selected is closed now.
+    [[nodiscard]] bool requireOpenMonth();
     void requireReadableSchedule() const;
-    [[nodiscard]] bool passesApplicationChecks();
     void requireScheduleAsShown() const;
+    void requireStorableSituation() const;
+    [[nodiscard]] bool scheduleIsRecorded();
+    [[nodiscard]] bool passesChecks();
+    [[nodiscard]] bool passesChecks(const std::vector<std::size_t>& positions, bool sameHours);
+    [[nodiscard]] ApplicationOrder applicationOrder() const;
+    [[nodiscard]] bool fillAll(const std::vector<std::size_t>& positions, bool sameHours,
+                               const ListApplication::Progress& progress);
+    [[nodiscard]] bool acceptsBlankDays();
     [[nodiscard]] EmployeeCode selectedCode() const;
     [[nodiscard]] WorkTerms terms() const;
+    [[nodiscard]] std::filesystem::path punchFile() const;
 
     Workplace at_;
+    CardQueries queries_;
     std::optional<CompanyCode> company_;
     std::string companyName_;
     MonthSettings settings_;
     OvertimeRules overtime_;
     ShiftFilter filter_ = ShiftFilter::Todos;
     std::vector<Employee> employees_;
+    std::vector<EmployeeMark> marks_;
     std::optional<std::size_t> position_;
     TypedSchedule schedule_;
     CardSheet sheet_;
     std::vector<std::string> unreadLines_;
+    Minutes minutes_ = Minutes::Fixed;
+    std::string situationToApply_;
+    int filledCards_ = 0;
     bool applied_ = false;
 };
 

@@ -15,28 +15,39 @@ void putTimes(PunchLine& line, const DaySchedule& day) {
     line.afternoonExit = textOf(day.afternoon.exit);
 }
 
-void fill(PunchLine& line, Date date, const StandardSchedule& schedule,
+void fill(PunchLine& line, Date date, const Application& application,
           const MonthSettings& settings) {
-    if (settings.isHoliday(date))
+    if (application.admission && date < *application.admission) return;
+    const auto weekday = weekdayOf(date);
+    const bool saturday = weekday == std::chrono::Saturday;
+    const StandardSchedule& schedule = application.schedule;
+    const DaySchedule& day = saturday ? schedule.saturday : schedule.weekday;
+    if (application.leaves.contain(date))
+        line.situation = kSituationLeave;
+    else if (settings.isHoliday(date))
         line.situation = kSituationHoliday;
-    else if (weekdayOf(date) == std::chrono::Sunday)
+    else if (weekday == std::chrono::Sunday)
         line.situation = kSituationWeeklyRest;
-    else
-        putTimes(line,
-                 weekdayOf(date) == std::chrono::Saturday ? schedule.saturday : schedule.weekday);
+    else if (day != DaySchedule())
+        putTimes(line, application.spread ? application.spread(day, date) : day);
+    else if (!saturday)
+        line.situation = application.situation;
 }
 
 }  // namespace
 
-std::vector<PunchLine> filledMonth(const StandardSchedule& schedule, const MonthSettings& settings,
-                                   std::optional<Date> admission) {
+std::vector<PunchLine> filledMonth(const Application& application, const MonthSettings& settings) {
     std::vector<PunchLine> lines = blankMonth(settings.month);
     Date date = firstDay(settings.month);
     for (PunchLine& line : lines) {
-        if (!admission || date >= *admission) fill(line, date, schedule, settings);
+        fill(line, date, application, settings);
         date = plusDays(date, 1);
     }
     return lines;
+}
+
+bool leavesWorkBlank(const StandardSchedule& schedule) {
+    return schedule.weekday == DaySchedule();
 }
 
 }  // namespace winvrx

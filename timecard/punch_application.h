@@ -1,19 +1,34 @@
 #pragma once
 
-#include "foundation/employee.h"
+#include "timecard/leave_calendar.h"
 #include "timecard/month_settings.h"
 #include "timecard/punch_record.h"
 
+#include <functional>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace winvrx {
 
-/// Fills the month from the schedule with "Minutos Fixos": no times before admission, on holidays
-/// and on Sundays, whose situation is "FERIADO" and "DESCANSO SEMANAL"; the Saturday times on
-/// Saturdays; morning and afternoon on any other day. Before admission a day has its label only.
-[[nodiscard]] std::vector<PunchLine> filledMonth(const StandardSchedule& schedule,
-                                                 const MonthSettings& settings,
-                                                 std::optional<Date> admission);
+/// What an employee's month is filled from.
+struct Application {
+    StandardSchedule schedule;
+    std::optional<Date> admission = {};
+    EmployeeLeaves leaves = {};
+    /// Of the days of work for which the schedule has no times.
+    std::string situation = {};
+    /// Moves the times of a day ("Minutos Variados"); none leaves them as they stand.
+    std::function<DaySchedule(const DaySchedule& day, Date date)> spread = {};
+};
+
+/// Fills the month from the schedule. The first that fits decides: before admission a day has its
+/// label only; in a leave the situation "AFASTAMENTO"; on a ticked holiday "FERIADO" and on a
+/// Sunday "DESCANSO SEMANAL"; a Saturday the Saturday times; any other day morning and afternoon.
+[[nodiscard]] std::vector<PunchLine> filledMonth(const Application& application,
+                                                 const MonthSettings& settings);
+
+/// Whether days of work would get no times: the schedule has none for Monday to Friday.
+[[nodiscard]] bool leavesWorkBlank(const StandardSchedule& schedule);
 
 }  // namespace winvrx

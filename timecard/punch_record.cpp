@@ -6,8 +6,6 @@ namespace winvrx {
 
 namespace {
 
-constexpr std::string_view kOpeningLine = "  ";
-
 /// The word of a mark that the column cut; any other text as it stands.
 std::string wholeSituation(std::string stored) {
     const Situation* found = findSituation(stored);
@@ -119,23 +117,28 @@ std::vector<std::string> unreadPunchLines(FileSystem& files, const DataFolder& f
 }
 
 std::string punchRecordBytes(const std::vector<PunchLine>& lines) {
-    std::vector<std::string> encoded{std::string(kOpeningLine)};
+    std::vector<std::string> encoded{std::string(kOpeningPunchLine)};
     for (const PunchLine& line : lines)
         encoded.push_back(encode(line));
     return joinedLines(encoded);
 }
 
-void savePunches(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
-                 const EmployeeCode& employee, WorkMonth month,
-                 const std::vector<PunchLine>& lines) {
-    RecordFile record = recordOf(files, folder, company, employee, month);
-    const RecordContent before = contentOf(record.lines(), month);
-    std::vector<std::string> encoded{std::string(kOpeningLine)};
+std::string editedPunchRecord(std::string_view record, WorkMonth month,
+                              const std::vector<PunchLine>& lines) {
+    const RecordContent before = contentOf(splitLines(record), month);
+    std::vector<std::string> encoded{std::string(kOpeningPunchLine)};
     for (std::size_t i = 0; i < lines.size(); ++i)
         encoded.push_back(
             encode(lines[i], i < before.dayBytes.size() ? before.dayBytes[i] : std::string()));
     encoded.insert(encoded.end(), before.others.begin(), before.others.end());
-    record.rewrite(encoded);
+    return joinedLines(encoded);
+}
+
+std::vector<std::string> dayLines(const std::vector<std::string>& recordLines, WorkMonth month) {
+    RecordContent content = contentOf(recordLines, month);
+    for (std::size_t i = 0; i < content.days.size(); ++i)
+        if (content.dayBytes[i].empty()) content.dayBytes[i] = encode(content.days[i]);
+    return std::move(content.dayBytes);
 }
 
 }  // namespace winvrx

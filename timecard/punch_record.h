@@ -83,13 +83,20 @@ static_assert(isContiguous(kPunchFields, kPunchWidth));
                                                         const EmployeeCode& employee,
                                                         WorkMonth month);
 
-/// The bytes of a record: the opening line of two blanks, then the day lines.
+/// The line of two blanks that opens a record.
+inline constexpr std::string_view kOpeningPunchLine = "  ";
+
+/// The bytes of a record: the opening line, then the day lines.
 [[nodiscard]] std::string punchRecordBytes(const std::vector<PunchLine>& lines);
 
-/// Replaces the day lines. Lines of the record that stand for no day of the month follow them as
-/// they are.
-void savePunches(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
-                 const EmployeeCode& employee, WorkMonth month,
-                 const std::vector<PunchLine>& lines);
+/// The bytes of `record` with its day lines replaced: what means the same keeps its bytes, and
+/// lines that stand for no day of the month follow as they are.
+[[nodiscard]] std::string editedPunchRecord(std::string_view record, WorkMonth month,
+                                            const std::vector<PunchLine>& lines);
+
+/// The day lines among the lines of a record, one for each day of the month; a day that it lacks
+/// has its label only.
+[[nodiscard]] std::vector<std::string> dayLines(const std::vector<std::string>& recordLines,
+                                                WorkMonth month);
 
 }  // namespace winvrx

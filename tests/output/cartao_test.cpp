@@ -326,7 +326,7 @@ TEST_F(CartaoOpened, CardIsMadeOfTheEmployeesRecords) {
     punches[0].morningEntry = "07:03";
     punches[0].morningExit = "11:00";
     punches[1].situation = "DESCANSO SEMANAL";
-    savePunches(desk.files, desk.session.folder, company, ana, kMarch, punches);
+    desk.file(punchFileName(company, ana, kMarch)) = punchRecordBytes(punches);
     EXPECT_TRUE(screen.printAll({}));
     const auto& rows = engine.jobs.at(0).cards.at(1);
     EXPECT_EQ(rows[0][cardColumn("razao")], "EMPRESA MODELO LTDA");

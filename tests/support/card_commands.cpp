@@ -1,6 +1,7 @@
 // What the screens of the time card and of its printing write.
 #include "output/tipo_ponto.h"
 #include "tests/support/test_browser.h"
+#include "tests/support/test_card_queries.h"
 #include "tests/support/writing_commands.h"
 #include "timecard/cartao_ponto_dados.h"
 
@@ -8,10 +9,26 @@ namespace winvrx::testing {
 
 namespace {
 
+using namespace std::chrono_literals;
+
+/// The office whose cards of March are closed on this day.
+FileTable officeClosingOn(int day) {
+    MonthSettings march;
+    march.month = 2024y / 3;
+    march.fixedMonth = false;
+    march.closingDay = day;
+    MemoryFiles written;
+    saveMonthSettings(written, DataFolder('C', "/"), march);
+    FileTable files = filledOffice();
+    files[inDataFolder("03-2024ds.rdx")] = written.content.begin()->second;
+    return files;
+}
+
 template <typename Give>
 auto onCardOf(std::size_t position, Give give) {
     return [position, give](const Workplace& at, const Drives&) {
-        CartaoPontoDados screen(at);
+        const TestCardQueries asked;
+        CartaoPontoDados screen(at, asked.queries);
         return screen.open() && screen.select(position) && give(screen);
     };
 }
@@ -36,6 +53,21 @@ std::vector<WritingCommand> cardCommands() {
                   })},
         {"apply punches", filledOffice(),
          onCardOf(1, [](CartaoPontoDados& screen) { return screen.applyPunches(); })},
+        {"apply punches to all", officeClosingOn(21),
+         onCardOf(
+             1,
+             [](CartaoPontoDados& screen) {
+                 return screen.filterBy(ShiftFilter::Unico) && screen.applyToAll({0, 1, 2}, true);
+             })},
+        {"choose minutes", filledOffice(),
+         onCardOf(0,
+                  [](CartaoPontoDados& screen) { return screen.chooseMinutes(Minutes::Varied); })},
+        {"save punches of a closing period", officeClosingOn(21),
+         onCardOf(1,
+                  [](CartaoPontoDados& screen) {
+                      screen.sheet().type(4, PunchCell::MorningEntry, "09:00");
+                      return screen.savePunches();
+                  })},
         {"save punches", filledOffice(),
          onCardOf(1,
                   [](CartaoPontoDados& screen) {

@@ -3,6 +3,7 @@
 #include "foundation/operator.h"
 
 #include <deque>
+#include <functional>
 #include <vector>
 
 namespace winvrx::testing {
@@ -13,9 +14,11 @@ class ScriptedOperator final : public Operator {
   public:
     std::deque<Answer> answers;
     std::vector<Message> shown;
+    std::function<void()> onAsk;  ///< what happens elsewhere while the operator reads
 
     Answer ask(const Message& message) override {
         shown.push_back(message);
+        if (onAsk) onAsk();
         if (message.buttons == Buttons::Ok) return Answer::Ok;
         if (answers.empty()) return message.buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
         const Answer answer = answers.front();

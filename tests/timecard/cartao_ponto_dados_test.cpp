@@ -1,7 +1,6 @@
 #include "timecard/cartao_ponto_dados.h"
 
-#include "tests/support/test_workplace.h"
-#include "timecard/selected_month.h"
+#include "tests/support/card_screen.h"
 
 #include <gmock/gmock.h>
 
@@ -9,63 +8,8 @@ namespace winvrx {
 namespace {
 
 using ::testing::ElementsAre;
-using testing::TestWorkplace;
+using namespace testing;
 using namespace std::chrono_literals;
-
-const std::string kPunches = "01001-03-2024.bdx";
-const std::string kSchedule = "01PadrHor001.pdx";
-const char* const kConfirm =
-    "Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão para o Item Selecionado?";
-
-Employee employee(const char* code, const char* name, const char* shift, const char* scale) {
-    Employee one;
-    one.code = code;
-    one.name = name;
-    one.shift = shift;
-    one.scale = scale;
-    one.admission = "01/02/2020";
-    return one;
-}
-
-/// A company of three, with March 2024 chosen and Good Friday ticked.
-struct CardScreen : ::testing::Test {
-    TestWorkplace desk;
-    CartaoPontoDados screen{desk.at};
-
-    void SetUp() override {
-        hire({employee("001", "ANA", "Unico", "Norma"), employee("002", "BIA", "Dois", "12x36"),
-              employee("003", "CAIO", "Unico", "Norma")});
-        MonthSettings march;
-        march.month = 2024y / 3;
-        march.setHoliday(*parseDate("29/03/2024"), true);
-        saveMonthSettings(desk.files, desk.session.folder, march);
-        saveSelectedMonth(desk.files, desk.session.folder, {2024y / 3, ShiftFilter::Todos});
-    }
-
-    void hire(const std::vector<Employee>& people) {
-        std::vector<std::string> lines;
-        for (const Employee& one : people)
-            lines.push_back(encode(one));
-        desk.file("01CartaPonto") = joinedLines(lines);
-    }
-
-    void openOn(std::size_t position) {
-        ASSERT_TRUE(screen.open());
-        ASSERT_TRUE(screen.select(position));
-    }
-
-    void typeSchedule(std::vector<const char*> times) {
-        for (std::size_t i = 0; i < times.size(); ++i)
-            screen.schedule().type(i, times[i]);
-    }
-
-    [[nodiscard]] std::vector<std::string> titles() const {
-        std::vector<std::string> titles;
-        for (const Message& message : desk.person.shown)
-            titles.push_back(message.title);
-        return titles;
-    }
-};
 
 TEST_F(CardScreen, AsksForCompanyAndMonthFirst) {
     desk.files.content.erase("/data/DataIde.ivc");
@@ -106,6 +50,89 @@ TEST_F(CardScreen, ScheduleIsSavedWithTheAnswerOnSaturday) {
     EXPECT_EQ(desk.file(kSchedule)[20], '0');
 }
 
+TEST_F(CardScreen, TheSecondFlagIsRecordedAndTheOpaqueColumnsStay) {
+    const std::string further = "1a2b3" + std::string(140, 'x') + "lastf";
+    const std::string before = "08:0012:0013:0017:001008:0012:00          " + further + "behind";
+    desk.file(kSchedule) = before;
+    openOn(0);
+    EXPECT_FALSE(screen.schedule().secondFlag());
+    screen.schedule().setSecondFlag(true);
+    EXPECT_TRUE(screen.changed());
+    desk.person.answers = {Answer::Yes};
+    ASSERT_TRUE(screen.saveSchedule());
+    std::string after = before;
+    after[21] = '1';
+    EXPECT_EQ(desk.file(kSchedule), after + "\r\n");
+    EXPECT_FALSE(screen.changed());
+}
+
+TEST_F(CardScreen, AClosedMonthRefusesEveryChange) {
+    desk.file(kPunches) = "  \r\n01/sex/mar07:00\r\n";
+    openOn(0);
+    EXPECT_TRUE(screen.mayEdit());
+    screen.sheet().type(4, PunchCell::MorningEntry, "8");
+    asked.locks.closed = {"001"};
+    const auto untouched = desk.files.content;
+    EXPECT_FALSE(screen.savePunches());
+    EXPECT_TRUE(screen.closed());
+    EXPECT_FALSE(screen.mayEdit());
+    EXPECT_EQ(desk.person.shown.back().title, "DIGITAÇÃO DO PONTO");
+    EXPECT_EQ(desk.person.takeTexts().back(),
+              "ATENÇÃO! Não é Possível Alterar o Ponto! Já Foi Gerada a Folha de Pagamento para "
+              "este Funcionário!!");
+    EXPECT_EQ(desk.files.content, untouched);
+    EXPECT_TRUE(screen.mark(0).closed);
+    EXPECT_FALSE(screen.mark(1).closed);
+}
+
+TEST_F(CardScreen, ADayOfWorkEmptiedWithoutASituationIsAskedAbout) {
+    desk.file(kSchedule) = "08:0012:0013:0017:00\r\n";
+    desk.file(kPunches) =
+        "  \r\n04/seg/mar08:0012:00\r\n05/ter/mar08:0012:00\r\n09/s\xE1"
+        "b/mar08:00\r\n"
+        "29/sex/mar08:00\r\n";
+    openOn(0);
+    const auto empty = [this](int day) {
+        for (const PunchCell cell : kPunchCells)
+            screen.sheet().type(day, cell, "");
+    };
+    empty(4);
+    empty(5);
+    empty(9);   // a Saturday that the schedule leaves free
+    empty(29);  // a holiday
+    screen.sheet().type(5, PunchCell::Situation, "Falta");
+    const auto untouched = desk.files.content;
+    desk.person.answers = {Answer::Cancel};
+    EXPECT_FALSE(screen.savePunches());
+    EXPECT_EQ(screen.daysWithoutSituation(), std::vector<int>{4});
+    EXPECT_EQ(desk.person.shown.back().detail,
+              "04/seg/mar ficou sem horas e sem situação. 'OK' grava assim mesmo, 'CANCELAR' volta "
+              "à digitação.");
+    EXPECT_THAT(takeShown(), ElementsAre("! DIGITAÇÃO DO PONTO: Informe o Tipo de Situação!"));
+    EXPECT_EQ(desk.files.content, untouched);
+    desk.person.answers = {Answer::Ok};
+    EXPECT_TRUE(screen.savePunches());
+    EXPECT_TRUE(screen.sheet().isBlank(4));
+}
+
+TEST_F(CardScreen, SavingPunchesWritesThePeriodsRecord) {
+    MonthSettings march = screen.settings();
+    march.month = 2024y / 3;
+    march.fixedMonth = false;
+    march.closingDay = 21;
+    saveMonthSettings(desk.files, desk.session.folder, march);
+    desk.file(kPunches) =
+        "  \r\n04/seg/mar08:0012:00  " + std::string(23, ' ') + "as ten chars   and the rest\r\n";
+    openOn(0);
+    screen.sheet().type(5, PunchCell::MorningEntry, "8");
+    ASSERT_TRUE(screen.savePunches());
+    const auto period = splitLines(desk.file("01001-03-2024.prd"));
+    ASSERT_EQ(period.size(), 30U);
+    EXPECT_EQ(period[13], splitLines(desk.file(kPunches))[4]);
+    EXPECT_THAT(period[13], ::testing::EndsWith("as ten chars   and the rest"));
+    EXPECT_EQ(period[14].substr(0, 15), "05/ter/mar08:00");
+}
+
 TEST_F(CardScreen, AnInvalidScheduleTimeIsRefused) {
     openOn(0);
     typeSchedule({"8", "25:00"});
@@ -131,90 +158,6 @@ TEST_F(CardScreen, ARecordedTimeThatIsNoneIsShownAndNeverLost) {
     screen.schedule().type(1, "");
     EXPECT_TRUE(screen.saveSchedule());
     EXPECT_EQ(desk.file(kSchedule).substr(0, 15), "08:00     13:00");
-}
-
-TEST_F(CardScreen, ApplicationFillsTheMonth) {
-    openOn(0);
-    typeSchedule({"8", "12", "13", "17"});
-    ASSERT_TRUE(screen.saveSchedule());
-    desk.person.answers = {Answer::Yes};
-    ASSERT_TRUE(screen.applyPunches());
-    EXPECT_THAT(desk.person.takeTexts(), ElementsAre(kConfirm));
-    const auto lines = splitLines(desk.file(kPunches));
-    ASSERT_EQ(lines.size(), 32U);
-    EXPECT_EQ(lines[0], "  ");
-    EXPECT_EQ(lines[1], "01/sex/mar08:0012:0013:0017:00" + std::string(30, ' '));
-    EXPECT_EQ(lines[29], "29/sex/mar" + std::string(35, ' ') + "FERIADO        ");
-    EXPECT_EQ(lines[31], "31/dom/mar" + std::string(35, ' ') + "DESCANSO SEMANA");
-    EXPECT_EQ(screen.totalOf(1), "08:00");
-    EXPECT_EQ(screen.totalOf(3), "");
-    EXPECT_EQ(screen.totalOf(HalfMonth::First), "88:00");
-    EXPECT_EQ(screen.kindOf(29), DayKind::Holiday);
-    EXPECT_EQ(screen.kindOf(31), DayKind::WeeklyRest);
-}
-
-TEST_F(CardScreen, ApplicationChecksInOrder) {
-    const std::string before = "  \r\n01/sex/mar07:00\r\n";
-    struct Case {
-        const char* what;
-        std::size_t position;
-        bool applied;
-        const char* admission;
-        std::vector<Answer> answers;
-        std::vector<std::string> titles;
-        bool done;
-    };
-    const std::string again = "Aplicação Ponto", scale = "Aplicação de Ponto",
-                      dates = "Analise de Datas", confirm = "Aplicação de Pontos";
-    for (const Case& c : std::vector<Case>{
-             {"applied, cancelled", 0, true, "01/02/2020", {Answer::Cancel}, {again, again}, false},
-             {"applied, not confirmed",
-              0,
-              true,
-              "01/02/2020",
-              {Answer::Ok, Answer::No},
-              {again, again, confirm},
-              false},
-             {"applied, replaced",
-              0,
-              true,
-              "01/02/2020",
-              {Answer::Ok, Answer::Yes},
-              {again, again, confirm},
-              true},
-             {"rotation", 1, false, "01/02/2020", {}, {scale, scale}, false},
-             {"rotation, admitted later", 1, false, "01/05/2024", {}, {scale, scale}, false},
-             {"first of next month", 0, false, "01/04/2024", {}, {dates}, false},
-             {"last of this month", 0, false, "31/03/2024", {Answer::Yes}, {confirm}, true},
-             {"impossible date", 0, false, "31/02/2024", {}, {"Erro"}, false},
-             {"not confirmed", 0, false, "01/02/2020", {}, {confirm}, false}}) {
-        auto people = std::vector{employee("001", "ANA", "Unico", "Norma"),
-                                  employee("002", "BIA", "Dois", "12x36")};
-        people[c.position].admission = c.admission;
-        hire(people);
-        desk.files.content.erase("/data/" + kPunches);
-        if (c.applied) desk.file(kPunches) = before;
-        openOn(c.position);
-        const auto untouched = desk.files.content;
-        desk.person.shown.clear();
-        desk.person.answers.assign(c.answers.begin(), c.answers.end());
-        EXPECT_EQ(screen.applyPunches(), c.done) << c.what;
-        EXPECT_EQ(titles(), c.titles) << c.what;
-        EXPECT_EQ(desk.files.content == untouched, !c.done) << c.what;
-    }
-}
-
-TEST_F(CardScreen, ApplicationRecordsATypedScheduleFirstOrStops) {
-    openOn(0);
-    typeSchedule({"8", "12"});
-    const auto untouched = desk.files.content;
-    desk.person.answers = {Answer::Yes, Answer::No};
-    EXPECT_FALSE(screen.applyPunches());
-    EXPECT_EQ(desk.files.content, untouched);
-    desk.person.answers = {Answer::Yes, Answer::Yes};
-    EXPECT_TRUE(screen.applyPunches());
-    EXPECT_EQ(screen.sheet().line(1).morningExit, "12:00");
-    EXPECT_EQ(screen.schedule().text(1), "12:00");
 }
 
 TEST_F(CardScreen, EditedCellsAreSavedAndWrongOnesRefusedInPlace) {
@@ -271,28 +214,6 @@ TEST_F(CardScreen, AnotherMachinesChangeIsNotOverwritten) {
     EXPECT_THAT(titles(), ElementsAre("Aplicação Ponto", "Aplicação Ponto"));
 }
 
-TEST_F(CardScreen, PunchesThatCameWhileTheQuestionStoodAreNotReplaced) {
-    // Another computer applies them while this operator reads the question.
-    struct SlowOperator final : Operator {
-        std::string* record = nullptr;
-        std::string explanation;
-        Answer ask(const Message& message) override {
-            if (message.text == kConfirm) *record = "  \r\n01/sex/mar07:00\r\n";
-            explanation = message.detail;
-            return message.buttons == Buttons::YesNo ? Answer::Yes : Answer::Ok;
-        }
-    } slow;
-    const Workplace at{desk.files, slow, desk.clock, desk.log, desk.session, desk.lock};
-    CartaoPontoDados applying(at);
-    ASSERT_TRUE(applying.open());
-    ASSERT_TRUE(applying.select(0));
-    slow.record = &desk.file(kPunches);
-    desk.file(kPunches) = "  \r\n01/sex/mar06:00\r\n";
-    EXPECT_FALSE(applying.applyPunches());
-    EXPECT_EQ(desk.file(kPunches), "  \r\n01/sex/mar07:00\r\n");
-    EXPECT_THAT(slow.explanation, ::testing::HasSubstr("outro computador"));
-}
-
 TEST_F(CardScreen, LeavingAnEditedCardAsksFirst) {
     struct Case {
         Answer answer;
@@ -302,7 +223,7 @@ TEST_F(CardScreen, LeavingAnEditedCardAsksFirst) {
     for (const Case& c : {Case{Answer::Cancel, false, false}, Case{Answer::No, true, false},
                           Case{Answer::Yes, true, true}}) {
         desk.files.content.erase("/data/" + kPunches);
-        CartaoPontoDados other(desk.at);
+        CartaoPontoDados other(desk.at, asked.queries);
         ASSERT_TRUE(other.open() && other.select(0));
         other.sheet().type(4, PunchCell::MorningEntry, "8");
         desk.person.answers = {c.answer};

@@ -26,7 +26,8 @@ TEST(PunchApplication, EachKindOfDayGetsItsTimes) {
     settings.month = 2024y / 3;
     for (const char* holiday : {"29/03/2024", "30/03/2024", "31/03/2024"})
         settings.setHoliday(*parseDate(holiday), true);
-    const auto lines = filledMonth(usualSchedule(), settings, parseDate("02/03/2024"));
+    const auto lines =
+        filledMonth({.schedule = usualSchedule(), .admission = parseDate("02/03/2024")}, settings);
     ASSERT_EQ(lines.size(), 31U);
     struct Case {
         std::size_t day;
@@ -46,20 +47,50 @@ TEST(PunchApplication, AdmissionOnTheLastDayLeavesOneDay) {
     MonthSettings settings;
     settings.month = 2024y / 2;
     settings.setHoliday(*parseDate("13/02/2024"), true);
-    const auto lines = filledMonth(usualSchedule(), settings, parseDate("29/02/2024"));
+    const auto lines =
+        filledMonth({.schedule = usualSchedule(), .admission = parseDate("29/02/2024")}, settings);
     ASSERT_EQ(lines.size(), 29U);
     for (std::size_t day = 1; day < 29; ++day)
         EXPECT_EQ(dayText(lines[day - 1]), "- - ") << day;
     EXPECT_EQ(dayText(lines[28]), "08:00-12:00 13:00-17:00 ");
 }
 
-TEST(PunchApplication, WithoutScheduleDaysHaveNoTimes) {
+TEST(PunchApplication, TheFirstReasonInTheListDecides) {
+    // February 2026 begins on a Sunday; 16 and 17 are Carnival.
     MonthSettings settings;
     settings.month = 2026y / 2;
-    const auto lines = filledMonth({}, settings, std::nullopt);
-    ASSERT_EQ(lines.size(), 28U);
-    EXPECT_EQ(dayText(lines[0]), "- - DESCANSO SEMANAL");
-    EXPECT_EQ(dayText(lines[1]), "- - ");
+    for (const char* holiday : {"07/02/2026", "15/02/2026", "17/02/2026"})
+        settings.setHoliday(*parseDate(holiday), true);
+    EmployeeLeaves leaves;
+    leaves.periods = {{*parseDate("20/01/2026"), *parseDate("04/02/2026")},
+                      {*parseDate("14/02/2026"), *parseDate("15/02/2026")}};
+    const auto lines = filledMonth(
+        {.schedule = usualSchedule(), .admission = parseDate("03/02/2026"), .leaves = leaves},
+        settings);
+    struct Case {
+        std::size_t day;
+        const char* text;
+    };
+    for (const Case& c :
+         {Case{1, "- - "},  // Sunday in a leave, before admission
+          Case{3, "- - AFASTAMENTO"}, Case{4, "- - AFASTAMENTO"},
+          Case{5, "08:00-12:00 13:00-17:00 "}, Case{7, "- - FERIADO"},   // Saturday
+          Case{8, "- - DESCANSO SEMANAL"}, Case{14, "- - AFASTAMENTO"},  // Saturday
+          Case{15, "- - AFASTAMENTO"},                                   // holiday on a Sunday
+          Case{17, "- - FERIADO"}, Case{21, "07:00-11:00 - "}, Case{28, "07:00-11:00 - "}})
+        EXPECT_EQ(dayText(lines[c.day - 1]), c.text) << c.day;
+}
+
+TEST(PunchApplication, WithoutScheduleDaysHaveNoTimesButTheSituationGiven) {
+    MonthSettings settings;
+    settings.month = 2026y / 2;
+    for (const char* situation : {"", "Falta"}) {
+        const auto lines = filledMonth({.schedule = {}, .situation = situation}, settings);
+        ASSERT_EQ(lines.size(), 28U);
+        EXPECT_EQ(dayText(lines[0]), "- - DESCANSO SEMANAL");
+        EXPECT_EQ(dayText(lines[1]), std::string("- - ") + situation);
+        EXPECT_EQ(dayText(lines[6]), "- - ");  // Saturday
+    }
 }
 
 }  // namespace

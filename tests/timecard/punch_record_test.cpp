@@ -39,6 +39,12 @@ TEST(PunchLine, TextThatCannotBeStoredIsRefused) {
     EXPECT_THROW((void)encode(line), TextFault);
 }
 
+/// Records the lines over what the employee's record holds.
+void edit(TestWorkplace& desk, WorkMonth month, const std::vector<PunchLine>& lines) {
+    std::string& record = desk.file(punchFileName(kCompany, kEmployee, month));
+    record = editedPunchRecord(record, month, lines);
+}
+
 TEST(PunchLine, DayIsReadFromTheLabelAlone) {
     struct Case {
         const char* label;
@@ -58,7 +64,7 @@ TEST(PunchRecord, WritesTheOpeningLineAndEveryDayInOrder) {
     auto lines = blankMonth(2024y / 2);
     ASSERT_EQ(lines.size(), 29U);
     lines[28].morningEntry = "08:00";
-    savePunches(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 2, lines);
+    edit(desk, 2024y / 2, lines);
     const auto written = splitLines(desk.file("01001-02-2024.bdx"));
     ASSERT_EQ(written.size(), 30U);
     EXPECT_EQ(written[0], "  ");
@@ -88,7 +94,7 @@ TEST(PunchRecord, DamagedRecordGivesEveryDayAndKeepsWhatItDoesNotKnow) {
     EXPECT_THAT(unreadPunchLines(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 3),
                 ::testing::ElementsAre("anotação de alguém", "01/sex/mar07:00"));
 
-    savePunches(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 3, *lines);
+    edit(desk, 2024y / 3, *lines);
     const auto written = splitLines(desk.file(kName));
     ASSERT_EQ(written.size(), 34U);
     EXPECT_EQ(written[32], "anota\xE7\xE3o de algu\xE9m");
@@ -103,7 +109,7 @@ TEST(PunchRecord, ADayWithStrangeBytesDoesNotKeepTheOthersFromBeingSaved) {
     desk.file(kName) = "  \r\n" + strange + "\r\n";
     auto lines = *loadPunches(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 3);
     lines[4].morningEntry = "08:00";
-    savePunches(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 3, lines);
+    edit(desk, 2024y / 3, lines);
     const auto written = splitLines(desk.file(kName));
     EXPECT_EQ(written[2], strange);
     EXPECT_THAT(written[5], ::testing::StartsWith("05/ter/mar08:00"));

@@ -1,6 +1,7 @@
 #include "timecard/desktop/cartao_ponto_dados_window.h"
 
 #include "tests/support/driven_window.h"
+#include "tests/support/test_card_queries.h"
 #include "tests/support/test_workplace.h"
 #include "timecard/desktop/punch_grid.h"
 #include "timecard/selected_month.h"
@@ -12,6 +13,7 @@ namespace winvrx {
 namespace {
 
 using testing::DrivenWindow;
+using testing::TestCardQueries;
 using testing::TestWorkplace;
 
 const std::string kPunches = "01001-03-2024.bdx";
@@ -19,7 +21,8 @@ const std::string kPunches = "01001-03-2024.bdx";
 /// The window over March 2024 with two employees.
 struct CardWindow : ::testing::Test {
     TestWorkplace desk;
-    CartaoPontoDados command{desk.at};
+    TestCardQueries asked;
+    CartaoPontoDados command{desk.at, asked.queries};
     int monthOpened = 0;
     std::unique_ptr<DrivenWindow<CartaoPontoDadosWindow>> driven;
 

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "tests/support/test_card_queries.h"
+#include "tests/support/test_workplace.h"
+#include "timecard/cartao_ponto_dados.h"
+#include "timecard/selected_month.h"
+
+#include <gtest/gtest.h>
+
+namespace winvrx::testing {
+
+inline const std::string kPunches = "01001-03-2024.bdx";
+inline const std::string kSchedule = "01PadrHor001.pdx";
+inline const char* const kConfirm =
+    "Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão para o Item Selecionado?";
+
+inline Employee employee(const char* code, const char* name, const char* shift, const char* scale) {
+    Employee one;
+    one.code = code;
+    one.name = name;
+    one.shift = shift;
+    one.scale = scale;
+    one.admission = "01/02/2020";
+    return one;
+}
+
+/// A company of three, with March 2024 chosen and Good Friday ticked.
+struct CardScreen : ::testing::Test {
+    TestWorkplace desk;
+    TestCardQueries asked;
+    CartaoPontoDados screen{desk.at, asked.queries};
+
+    void SetUp() override {
+        using namespace std::chrono_literals;
+        hire({employee("001", "ANA", "Unico", "Norma"), employee("002", "BIA", "Dois", "12x36"),
+              employee("003", "CAIO", "Unico", "Norma")});
+        MonthSettings march;
+        march.month = 2024y / 3;
+        march.setHoliday(*parseDate("29/03/2024"), true);
+        saveMonthSettings(desk.files, desk.session.folder, march);
+        saveSelectedMonth(desk.files, desk.session.folder, {2024y / 3, ShiftFilter::Todos});
+    }
+
+    void hire(const std::vector<Employee>& people) {
+        std::vector<std::string> lines;
+        for (const Employee& one : people)
+            lines.push_back(encode(one));
+        desk.file("01CartaPonto") = joinedLines(lines);
+    }
+
+    void openOn(std::size_t position) {
+        ASSERT_TRUE(screen.open());
+        ASSERT_TRUE(screen.select(position));
+    }
+
+    void typeSchedule(std::vector<const char*> times) {
+        for (std::size_t i = 0; i < times.size(); ++i)
+            screen.schedule().type(i, times[i]);
+    }
+
+    [[nodiscard]] std::vector<std::string> titles() const {
+        std::vector<std::string> titles;
+        for (const Message& message : desk.person.shown)
+            titles.push_back(message.title);
+        return titles;
+    }
+
+    /// What was shown since the last call, each as "sign title: text"; the signs are "i", "?", "!"
+    /// and "x".
+    [[nodiscard]] std::vector<std::string> takeShown() {
+        std::vector<std::string> shown;
+        for (const Message& message : desk.person.shown)
+            shown.push_back(std::string(1, " i?!x"[static_cast<std::size_t>(message.icon)]) + " " +
+                            message.title + ": " + message.text);
+        desk.person.shown.clear();
+        return shown;
+    }
+};
+
+}  // namespace winvrx::testing

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "tests/support/employee_desk.h"
+#include "timecard/list_application.h"
+
+#include <map>
+
+namespace winvrx::testing {
+
+/// Answers with the leaves that the test names, by employee code.
+struct TestLeaves final : LeaveCalendar {
+    std::map<std::string, EmployeeLeaves> leaves;
+
+    EmployeeLeaves leavesOf(const CompanyCode&, const EmployeeCode& employee) const override {
+        const auto found = leaves.find(employee.text());
+        return found == leaves.end() ? EmployeeLeaves() : found->second;
+    }
+    void add(const std::string& employee, const char* first, const char* last) {
+        leaves[employee].periods.push_back({*parseDate(first), *parseDate(last)});
+    }
+};
+
+/// What the punches ask of other subjects, as the test has it.
+struct TestCardQueries {
+    TestLocks locks;
+    TestLeaves leaves;
+    CardQueries queries{locks, locks, leaves};
+
+    void forget() {
+        locks = {};
+        leaves = {};
+    }
+};
+
+}  // namespace winvrx::testing

@@ -1,0 +1,257 @@
+#include "tests/support/card_screen.h"
+
+#include <gmock/gmock.h>
+
+namespace winvrx {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using namespace testing;
+using namespace std::chrono_literals;
+
+const std::string kOnLeave =
+    "! Afastamento: Escolha ou Selecione outro Funcionário que não tenha Afastamento!";
+const std::string kNoLine = "! Descrição do Item: Selecione Outro ITEM!!!";
+const std::string kDates =
+    "x Analise de Datas: A data de Admissão deste Funcionário não está dentro Período do Mês de de "
+    "Aplicação de Ponto!";
+const std::string kMixed =
+    "x HORÁRIO DE TRABALHO IGUAL PARA TODOS: ERRO!! Existe TURNOS e ESCALA diferente na Lista, "
+    "Portanto não é possível padronizar HORÁRIO DE TRABALHO IGUAL PARA TODOS!";
+const std::string kEveryShift =
+    "x HORÁRIO DE TRABALHO IGUAL PARA TODOS: ERRO!! O TURNO selecionado não pode ser <Todos>, "
+    "Portanto Selecione um turno Específico!";
+const std::string kErases =
+    "! Aplicação Ponto: Esta Operação Irá Apagar Todos os Dados Já Existentes, Se Houverem "
+    "Alterações Serão Perdidas e Substituidas Pelo Ponto Padrão.";
+const std::string kCertain =
+    "? Aplicação Ponto???: Tem Certeza que Deseja Substituir as Alterações Já Aplicadas.";
+const std::string kSameHours =
+    "? HORÁRIO DE TRABALHO IGUAL PARA TODOS: Confirma HORÁRIO DE TRABALHO IGUAL PARA TODOS com "
+    "BASE no FUNCIONÁRIO SELECIONADO?";
+const std::string kOwnHours =
+    "? Aplicação de Pontos: Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão para "
+    "Todos os Itens do Turno: Unico da Lista?";
+
+struct ApplyToAll : CardScreen {
+    /// ANA, CAIO and DORA work in the same shift, ANA with a schedule.
+    void SetUp() override {
+        CardScreen::SetUp();
+        hire({employee("001", "ANA", "Unico", "Norma"), employee("003", "CAIO", "Unico", "Norma"),
+              employee("004", "DORA", "Unico", "Norma"), employee("002", "BIA", "Dois", "Norma")});
+        desk.file(kSchedule) = "08:0012:0013:0017:001 08:0012:00\r\n";
+    }
+
+    [[nodiscard]] std::vector<std::size_t> everyone() const {
+        std::vector<std::size_t> positions;
+        for (std::size_t i = 0; i < screen.employees().size(); ++i)
+            positions.push_back(i);
+        return positions;
+    }
+    void agreeToAll() { desk.person.answers = {Answer::Ok, Answer::Ok, Answer::Yes}; }
+    [[nodiscard]] std::string firstDayOf(const char* employee) {
+        const auto lines = splitLines(desk.file("01" + std::string(employee) + "-03-2024.bdx"));
+        return lines.size() < 2 ? "" : lines[1].substr(10, 20);
+    }
+    [[nodiscard]] bool isApplied(const char* employee) const {
+        return desk.files.content.contains("/data/01" + std::string(employee) + "-03-2024.bdx");
+    }
+};
+
+TEST_F(ApplyToAll, ChecksInOrder) {
+    struct Case {
+        const char* what;
+        bool sameHours;
+        ShiftFilter filter;
+        const char* scaleOfCaio;
+        bool selected;
+        const char* admission;
+        bool onLeave;
+        std::vector<Answer> answers;
+        std::vector<std::string> shown;
+        bool done;
+    };
+    constexpr Answer kOk = Answer::Ok, kYes = Answer::Yes, kNo = Answer::No,
+                     kCancel = Answer::Cancel;
+    constexpr auto kUnico = ShiftFilter::Unico, kTodos = ShiftFilter::Todos;
+    const char* before = "01/02/2020";
+    const char* after = "01/04/2024";
+    for (const Case& c : std::vector<Case>{
+             {"leave", true, kTodos, "5x1", true, after, true, {}, {kOnLeave}, false},
+             {"nobody", true, ShiftFilter::Tres, "", false, before, false, {}, {kNoLine}, false},
+             {"admitted later", true, kTodos, "5x1", true, after, false, {}, {kDates}, false},
+             {"shifts differ", true, kTodos, "Norma", true, before, false, {}, {kMixed}, false},
+             {"scales differ", true, kUnico, "5x1", true, before, false, {}, {kMixed}, false},
+             {"erases, cancelled",
+              true,
+              kUnico,
+              "Norma",
+              true,
+              before,
+              false,
+              {kCancel},
+              {kErases},
+              false},
+             {"certain, cancelled",
+              true,
+              kUnico,
+              "Norma",
+              true,
+              before,
+              false,
+              {kOk, kCancel},
+              {kErases, kCertain},
+              false},
+             {"not confirmed",
+              true,
+              kUnico,
+              "Norma",
+              true,
+              before,
+              false,
+              {kOk, kOk, kNo},
+              {kErases, kCertain, kSameHours},
+              false},
+             {"same hours",
+              true,
+              kUnico,
+              "Norma",
+              true,
+              before,
+              false,
+              {kOk, kOk, kYes},
+              {kErases, kCertain, kSameHours},
+              true},
+             {"own hours, not confirmed",
+              false,
+              kUnico,
+              "5x1",
+              true,
+              before,
+              false,
+              {kOk, kOk, kNo},
+              {kErases, kCertain, kOwnHours},
+              false},
+             {"own hours, leave",
+              false,
+              kUnico,
+              "Norma",
+              true,
+              before,
+              true,
+              {},
+              {kOnLeave},
+              false}}) {
+        Employee ana = employee("001", "ANA", "Unico", "Norma");
+        ana.admission = c.admission;
+        hire({ana, employee("003", "CAIO", "Unico", c.scaleOfCaio),
+              employee("002", "BIA", "Dois", "Norma")});
+        asked.forget();
+        if (c.onLeave) asked.leaves.add("001", "10/03/2024", "12/03/2024");
+        ASSERT_TRUE(screen.open() && screen.filterBy(c.filter));
+        if (c.selected) {
+            ASSERT_TRUE(screen.select(0));
+        }
+        const auto untouched = desk.files.content;
+        desk.person.shown.clear();
+        desk.person.answers.assign(c.answers.begin(), c.answers.end());
+        EXPECT_EQ(screen.applyToAll(everyone(), c.sameHours), c.done) << c.what;
+        EXPECT_EQ(takeShown(), c.shown) << c.what;
+        EXPECT_EQ(desk.files.content == untouched, !c.done) << c.what;
+    }
+}
+
+TEST_F(ApplyToAll, OneShiftInAListOfAllShiftsIsRefusedByTheFilter) {
+    hire({employee("001", "ANA", "Unico", "Norma"), employee("003", "CAIO", "Unico", "Norma")});
+    openOn(0);
+    EXPECT_FALSE(screen.applyToAll(everyone(), true));
+    EXPECT_THAT(takeShown(), ElementsAre(kEveryShift));
+}
+
+TEST_F(ApplyToAll, TheScheduleOfTheOneSelectedBecomesEveryones) {
+    desk.file("01PadrHor003.pdx") = "06:00" + std::string(187, ' ') + "behind\r\nsecond line\r\n";
+    ASSERT_TRUE(screen.open() && screen.filterBy(ShiftFilter::Unico) && screen.select(0));
+    agreeToAll();
+    ASSERT_TRUE(screen.applyToAll(everyone(), true));
+    EXPECT_EQ(desk.person.shown.back().detail, "A lista tem 3 funcionários.");
+    EXPECT_EQ(screen.filledCards(), 3);
+    for (const char* one : {"001", "003", "004"})
+        EXPECT_EQ(firstDayOf(one), "08:0012:0013:0017:00") << one;
+    EXPECT_FALSE(isApplied("002"));
+    const std::string schedule = "08:0012:0013:0017:001008:0012:00" + std::string(160, ' ');
+    EXPECT_EQ(desk.file("01PadrHor003.pdx"), schedule + "behind\r\nsecond line\r\n");
+    EXPECT_EQ(desk.file("01PadrHor004.pdx").substr(0, 32), "08:0012:0013:0017:001008:0012:00");
+    EXPECT_EQ(screen.sheet().line(1).morningEntry, "08:00");
+}
+
+TEST_F(ApplyToAll, EachHasHisOwnHoursAndWhoCannotBeFilledIsNamed) {
+    std::vector<Employee> people = {employee("001", "ANA", "Unico", "Norma")};
+    for (const char* code : {"002", "003", "004", "005", "006", "007", "008"})
+        people.push_back(employee(code, (std::string("E") + code).c_str(), "Dois", "Norma"));
+    people[1].scale = "12x36";
+    people[2].admission = "01/04/2024";
+    people[3].admission = "31/02/2024";
+    hire(people);
+    asked.locks.closed = {"005"};
+    desk.file("01configAf006") = "**** 29/02/2024\r\n";
+    asked.leaves.add("007", "20/02/2024", "01/03/2024");
+    desk.file("01PadrHor007.pdx") = "14:0018:0019:0022:00\r\n";
+    openOn(0);
+    agreeToAll();
+    ASSERT_TRUE(screen.applyToAll(everyone(), false));
+    const Message& report = desk.person.shown.back();
+    EXPECT_EQ(report.title, "Aplicação de Pontos");
+    EXPECT_EQ(report.text, "Ponto aplicado para 3 de 8 funcionários.");
+    EXPECT_EQ(report.detail,
+              "Não aplicado, folha fechada: E005\n"
+              "Não aplicado, inativo antes do mês: E006\n"
+              "Não aplicado, escala de revezamento sem grupo: E002\n"
+              "Não aplicado, admissão depois do mês: E003\n"
+              "Não aplicado, registro que não pode ser lido: E004 (A data de admissão "
+              "\"31/02/2024\" não existe. Corrija-a no cadastro do funcionário.)\n"
+              "Aplicado sem horas, não tem horário de trabalho: E008\n"
+              "Aplicado com afastamento: E007");
+    EXPECT_EQ(firstDayOf("001"), "08:0012:0013:0017:00");
+    EXPECT_EQ(firstDayOf("007"), std::string(20, ' '));
+    EXPECT_EQ(splitLines(desk.file("01007-03-2024.bdx"))[4].substr(10, 20), "14:0018:0019:0022:00");
+    for (const char* one : {"002", "003", "004", "005", "006"})
+        EXPECT_FALSE(isApplied(one)) << one;
+}
+
+TEST_F(ApplyToAll, CancellingLeavesEverythingAsItWas) {
+    ASSERT_TRUE(screen.open() && screen.filterBy(ShiftFilter::Unico) && screen.select(0));
+    const auto untouched = desk.files.content;
+    agreeToAll();
+    std::vector<int> counts;
+    EXPECT_FALSE(screen.applyToAll(everyone(), true, [&](int done, int total) {
+        counts.push_back(done);
+        EXPECT_EQ(total, 3);
+        return done < 2;
+    }));
+    EXPECT_THAT(counts, ElementsAre(1, 2));
+    EXPECT_EQ(desk.files.content, untouched);
+}
+
+TEST_F(ApplyToAll, TheRegisterIsReadAgainBeforeTheCardsAreFilled) {
+    ASSERT_TRUE(screen.open() && screen.filterBy(ShiftFilter::Unico) && screen.select(0));
+    Employee caio = employee("003", "CAIO", "Unico", "Norma");
+    caio.admission = "15/03/2024";
+    hire({employee("001", "ANA", "Unico", "Norma"), caio});
+    agreeToAll();
+    ASSERT_TRUE(screen.applyToAll(everyone(), true));
+    EXPECT_EQ(firstDayOf("003"), std::string(20, ' '));
+    EXPECT_THAT(desk.person.shown.back().detail, HasSubstr("Não está mais no cadastro: 004"));
+}
+
+TEST_F(ApplyToAll, UnrecordedCellsOfAClosedMonthStayOnTheScreen) {
+    ASSERT_TRUE(screen.open() && screen.filterBy(ShiftFilter::Unico) && screen.select(0));
+    screen.sheet().type(4, PunchCell::MorningEntry, "9");
+    asked.locks.closed = {"001"};
+    agreeToAll();
+    ASSERT_TRUE(screen.applyToAll(everyone(), false));
+    EXPECT_EQ(screen.sheet().text(4, PunchCell::MorningEntry), "09:00");
+}
+
+}  // namespace
+}  // namespace winvrx

@@ -1,0 +1,67 @@
+#include "timecard/period_record.h"
+
+#include "timecard/employee_hours.h"
+
+#include <chrono>
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::chrono::months kOneMonth{1};
+
+bool isCalendarMonth(const DayPeriod& period) {
+    const WorkMonth month = monthOf(period.last);
+    return period == DayPeriod{firstDay(month), lastDay(month)};
+}
+
+bool reachesBack(const DayPeriod& period) {
+    return monthOf(period.first) != monthOf(period.last);
+}
+
+using Lines = std::vector<std::string>;
+
+std::string periodBytes(const DayPeriod& period, const Lines& recordBefore, const Lines& record) {
+    Lines lines{std::string(kOpeningPunchLine)};
+    const WorkMonth month = monthOf(period.last);
+    if (reachesBack(period)) {
+        const auto before = dayLines(recordBefore, month - kOneMonth);
+        lines.insert(lines.end(), before.begin() + (dayNumber(period.first) - 1), before.end());
+    }
+    const auto days = dayLines(record, month);
+    lines.insert(lines.end(), days.begin(), days.begin() + dayNumber(period.last));
+    return joinedLines(lines);
+}
+
+}  // namespace
+
+PunchFiles::PunchFiles(FileSystem& files, const DataFolder& folder, const PayrollLock& payroll,
+                       const MonthSettings& settings)
+    : files_(files),
+      folder_(folder),
+      payroll_(payroll),
+      month_(settings.month),
+      period_(closingPeriod(settings)),
+      nextPeriod_(closingPeriod(loadMonthSettings(files, folder, month_ + kOneMonth))) {}
+
+void PunchFiles::add(std::vector<FileSystem::NewContent>& batch, const CompanyCode& company,
+                     const EmployeeCode& employee, std::string record) const {
+    const auto recorded = [&](WorkMonth month) {
+        return RecordFile(files_, folder_.file(punchFileName(company, employee, month))).lines();
+    };
+    const auto periodFile = [&](WorkMonth month) {
+        return folder_.file(closingFileName(company, employee, month));
+    };
+    if (!isCalendarMonth(period_)) {
+        const Lines before = reachesBack(period_) ? recorded(month_ - kOneMonth) : Lines();
+        batch.push_back({periodFile(month_), periodBytes(period_, before, splitLines(record))});
+    }
+    const WorkMonth next = month_ + kOneMonth;
+    if (reachesBack(nextPeriod_) && files_.exists(periodFile(next)) &&
+        !payroll_.isClosed(company, employee, next))
+        batch.push_back(
+            {periodFile(next), periodBytes(nextPeriod_, splitLines(record), recorded(next))});
+    batch.push_back({folder_.file(punchFileName(company, employee, month_)), std::move(record)});
+}
+
+}  // namespace winvrx
