@@ -52,8 +52,9 @@ class DrivenWindow {
             const bool used = button || qobject_cast<const QLineEdit*>(widget) ||
                               qobject_cast<const QComboBox*>(widget) ||
                               qobject_cast<const QAbstractItemView*>(widget);
-            const bool partOfAnother =
-                widget->inherits("QHeaderView") || widget->inherits("QLineEditIconButton");
+            const bool partOfAnother = widget->inherits("QHeaderView") ||
+                                       widget->inherits("QLineEditIconButton") ||
+                                       widget->inherits("QTableCornerButton");
             if (!used || partOfAnother || !widget->isVisible() ||
                 widget->objectName().startsWith(QLatin1String("qt_")))
                 continue;

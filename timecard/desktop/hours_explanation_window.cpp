@@ -1,0 +1,88 @@
+#include "timecard/desktop/hours_explanation_window.h"
+
+#include "foundation/desktop/look.h"
+#include "foundation/desktop/qt_text.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+namespace winvrx {
+
+namespace {
+
+constexpr QSize kSize(720, 520);
+constexpr std::array<const char*, 4> kHeadings = {"Dia", "Das – às", "Horas", "Regra aplicada"};
+constexpr int kRule = 3;
+const QString kNothing = QStringLiteral("Nenhum dia deste período tem horas neste total.");
+
+QString periodName(std::optional<HalfMonth> half) {
+    if (!half) return QStringLiteral("Mês");
+    return *half == HalfMonth::First ? QStringLiteral("1º Quinzena")
+                                     : QStringLiteral("2º Quinzena");
+}
+
+QTableWidgetItem* cell(const std::string& text, int column) {
+    auto* item = new QTableWidgetItem(toQt(text));
+    item->setFont(column == kRule ? look::font(look::TextSize::Body) : look::fixedFont());
+    if (column != kRule) item->setTextAlignment(Qt::AlignCenter);
+    return item;
+}
+
+}  // namespace
+
+HoursExplanationWindow::HoursExplanationWindow(const HoursSummary& hours, HourCategory category,
+                                               std::optional<HalfMonth> half, const QString& owner,
+                                               QWidget* parent)
+    : ScreenWindow(QStringLiteral("hoursExplanation"), toQt(hours.caption(category)), parent) {
+    setSubtitle(periodName(half) + QStringLiteral(": ") + toQt(hours.figure(category, half)));
+    if (!owner.isEmpty()) setChips({owner});
+    const auto parts = hours.explanation(category, half);
+    setBody(buildBody(parts));
+    setState(QStringLiteral("Total: ") + toQt(hours.figure(category, half)));
+    QPushButton* close =
+        addClosingButton(QStringLiteral("&Fechar"), QStringLiteral("hoursExplanation.close"));
+    close->setDefault(true);
+    connect(close, &QPushButton::clicked, this, &HoursExplanationWindow::reject);
+    resize(kSize);
+}
+
+QWidget* HoursExplanationWindow::buildBody(const std::vector<ExplainedPart>& parts) {
+    auto* body = new QWidget(this);
+    auto* column = new QVBoxLayout(body);
+    look::layOutBody(*column);
+    if (parts.empty()) {
+        column->addWidget(look::label(kNothing, look::TextSize::Body, body));
+        column->addStretch();
+    } else {
+        column->addWidget(buildTable(parts), 1);
+    }
+    return body;
+}
+
+QTableWidget* HoursExplanationWindow::buildTable(const std::vector<ExplainedPart>& parts) {
+    auto* table =
+        new QTableWidget(static_cast<int>(parts.size()), static_cast<int>(kHeadings.size()), this);
+    table->setObjectName(QStringLiteral("hoursExplanation.parts"));
+    table->setAccessibleName(QStringLiteral("Dias e minutos do total"));
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setTabKeyNavigation(false);
+    table->verticalHeader()->hide();
+    for (int at = 0; at < table->columnCount(); ++at)
+        table->setHorizontalHeaderItem(
+            at, new QTableWidgetItem(QString::fromUtf8(kHeadings[static_cast<std::size_t>(at)])));
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const ExplainedPart& part = parts[static_cast<std::size_t>(row)];
+        const std::array texts = {&part.day, &part.span, &part.length, &part.rule};
+        for (int at = 0; at < table->columnCount(); ++at)
+            table->setItem(row, at, cell(*texts[static_cast<std::size_t>(at)], at));
+    }
+    table->resizeColumnsToContents();
+    table->horizontalHeader()->setStretchLastSection(true);
+    return table;
+}
+
+}  // namespace winvrx
