@@ -35,6 +35,13 @@ struct Alignment {
     int lines = 0;  ///< further rows to move down, each of the layout's row pitch
 };
 
+/// Which face of the card a run prints. A layout that knows no faces prints whole on the front.
+enum class CardSide {
+    Both,  ///< the faces of a card follow one another, each on a page of its own
+    Front,
+    Back
+};
+
 enum class ReportOutput { Preview, Printer, PdfFile };
 
 struct ReportRequest {
@@ -42,6 +49,7 @@ struct ReportRequest {
     std::string title;        ///< of the print job and the preview window
     bool printHeader = true;  ///< whether blocks named "header" are drawn
     Alignment alignment = {};
+    CardSide side = CardSide::Both;
     ReportOutput output = ReportOutput::Preview;
     std::string printerName = {};           ///< empty: the default printer
     std::array<std::string, 3> trays = {};  ///< the first that is not blank names the source
@@ -69,6 +77,10 @@ class ReportEngine {
     /// A damaged or missing layout prints nothing: file and line go to the log.
     [[nodiscard]] virtual ReportResult print(const ReportRequest& request, const CardSource& cards,
                                              const CardProgress& progress) = 0;
+
+    /// How many faces of a card the layout fills, 1 or 2. 1 as well for a layout that is missing or
+    /// damaged: printing it tells.
+    [[nodiscard]] virtual int sidesOf(const std::string& layoutName) = 0;
 };
 
 }  // namespace winvrx

@@ -38,6 +38,10 @@ class PaperInAFile final : public ReportEngine {
         return engine_->print(toFile, cards, progress);
     }
 
+    [[nodiscard]] int sidesOf(const std::string& layoutName) override {
+        return engine_->sidesOf(layoutName);
+    }
+
   private:
     std::unique_ptr<ReportEngine> engine_;
     std::string path_;

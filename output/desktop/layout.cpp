@@ -38,14 +38,27 @@ void makeUnique(std::vector<std::size_t>& columns) {
     columns.erase(std::unique(columns.begin(), columns.end()), columns.end());
 }
 
+bool isOfFirstRow(const LayoutSection& section) {
+    return section.rows == 0 && section.first == 0;
+}
+
 }  // namespace
+
+QRectF cardArea(const Layout& layout) {
+    QRectF area;
+    for (const LayoutSection& section : layout.sections)
+        if (section.block == LayoutBlock::Stock && section.rows == 0)
+            for (const LayoutMark& mark : section.marks)
+                if (const auto* rect = std::get_if<LayoutRect>(&mark)) area |= rect->area;
+    return area.isEmpty() ? QRectF(QPointF(), layout.page * kLayoutUnitsPerMillimetre) : area;
+}
 
 DrawnColumns drawnColumns(const Layout& layout) {
     DrawnColumns columns;
     for (const LayoutSection& section : layout.sections)
         for (const LayoutMark& mark : section.marks)
             if (const auto* text = std::get_if<LayoutText>(&mark))
-                collect(*text, section.rows > 0 ? columns.inRows : columns.once);
+                collect(*text, isOfFirstRow(section) ? columns.once : columns.inRows);
     makeUnique(columns.once);
     makeUnique(columns.inRows);
     return columns;

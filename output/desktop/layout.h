@@ -78,6 +78,8 @@ enum class LayoutBlock {
 
 struct LayoutSection {
     LayoutBlock block = LayoutBlock::Always;
+    int side = 0;      ///< the face of the card, 1 or 2; 0: on each
+    int first = 0;     ///< the card's row that it begins with, from 0
     int rows = 0;      ///< drawn once for each of the card's rows, at most so often; 0: drawn once
     double pitch = 0;  ///< from one row down to the next
     std::vector<LayoutMark> marks;
@@ -92,9 +94,15 @@ struct DrawnColumns {
 struct Layout {
     QSizeF page;          ///< millimetres
     double rowPitch = 0;  ///< what one line of the alignment's line offset moves
+    int sides = 1;        ///< faces of the card, each a page of its own
+    QString description;  ///< of the file's author: size and kind of the card
     std::vector<Ink> inks;
     std::vector<LayoutSection> sections;
 };
+
+/// The picture of the pre-printed card as it lies on the paper, in the layout's units; the whole
+/// paper where the layout has no such picture.
+[[nodiscard]] QRectF cardArea(const Layout& layout);
 
 [[nodiscard]] DrawnColumns drawnColumns(const Layout& layout);
 

@@ -64,8 +64,9 @@ LayoutPainter::LayoutPainter(Layout layout, const Choice& choice)
 
 LayoutPainter::~LayoutPainter() = default;
 
-void LayoutPainter::paint(QPainter& painter, const CardText& rows) {
+void LayoutPainter::paint(QPainter& painter, const CardText& rows, int side) {
     for (const LayoutSection& section : layout_.sections) {
+        if (section.side != 0 && section.side != side) continue;
         if (section.block == LayoutBlock::Header && !choice_.header) continue;
         if (section.block == LayoutBlock::Stock && !choice_.stock) continue;
         paintSection(painter, section, rows);
@@ -77,10 +78,10 @@ void LayoutPainter::paintSection(QPainter& painter, const LayoutSection& section
                                  const CardText& rows) {
     const bool isStock = section.block == LayoutBlock::Stock;
     const QPointF origin = isStock ? QPointF() : shift_;
-    const int present = isStock ? section.rows : static_cast<int>(rows.size());
+    const int present = isStock ? section.rows : static_cast<int>(rows.size()) - section.first;
     const int count = section.rows == 0 ? 1 : std::min(section.rows, present);
     for (int i = 0; i < count; ++i) {
-        const auto position = static_cast<std::size_t>(i);
+        const auto position = static_cast<std::size_t>(section.first + i);
         const CardTextRow& row = position < rows.size() ? rows[position] : kNoRow;
         const QPointF shift = origin + QPointF(0, i * section.pitch);
         for (const LayoutMark& mark : section.marks)

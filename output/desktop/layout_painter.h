@@ -30,8 +30,8 @@ class LayoutPainter {
 
     /// Requires a painter with the paper's top left corner as origin and the layout's units; see
     /// layoutScale(). Rows beyond those that the layout repeats are not drawn; a card without rows
-    /// shows what does not depend on them.
-    void paint(QPainter& painter, const CardText& rows);
+    /// shows what does not depend on them. `side` is a face of the card, from 1 on.
+    void paint(QPainter& painter, const CardText& rows, int side = 1);
 
   private:
     struct Run {

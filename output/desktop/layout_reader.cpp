@@ -17,8 +17,11 @@ const QString kSvgNamespace = QStringLiteral("http://www.w3.org/2000/svg");
 
 /// What SVG files carry beside their picture.
 const QStringList kSilentElements = {QStringLiteral("metadata"), QStringLiteral("title"),
-                                     QStringLiteral("desc"), QStringLiteral("defs")};
+                                     QStringLiteral("defs")};
+const QString kDescription = QStringLiteral("desc");
 
+constexpr int kMostSides = 2;
+constexpr int kMostRows = 31;
 constexpr double kNarrowestPage = 1;  // millimetres
 constexpr double kWidestPage = 2000;
 constexpr double kCoarsestScale = 1e4;
@@ -28,6 +31,8 @@ constexpr double kLargestLetter = 1e5;  // a metre
 struct Context {
     QPointF origin;
     LayoutBlock block = LayoutBlock::Always;
+    int side = 0;
+    int first = 0;
     int rows = 0;
     double pitch = 0;
     QColor fill = Qt::black;
@@ -113,9 +118,17 @@ class LayoutReader {
                 !xml_.namespaceUri().isEmpty() && xml_.namespaceUri() != kSvgNamespace;
             if (foreign || kSilentElements.contains(name))
                 xml_.skipCurrentElement();
+            else if (name == kDescription)
+                layout_.description = readDescription();
             else
                 readElement(name.toString(), context);
         }
+    }
+
+    /// The sheet's own; drawing programs give single elements one too.
+    QString readDescription() {
+        const QString text = xml_.readElementText(QXmlStreamReader::SkipChildElements).simplified();
+        return layout_.description.isEmpty() ? text : layout_.description;
     }
 
     void readElement(const QString& name, Context context) {
@@ -159,6 +172,15 @@ class LayoutReader {
                 throw BadValue(QStringLiteral("data-block inside another block"));
             context.block = blockNamed(*block);
         }
+        if (const auto side = numbered(values, QStringLiteral("data-side"), kMostSides)) {
+            if (context.side > 0) throw BadValue(QStringLiteral("data-side inside data-side"));
+            context.side = *side;
+            layout_.sides = std::max(layout_.sides, *side);
+        }
+        if (const auto first = numbered(values, QStringLiteral("data-first"), kMostRows)) {
+            if (context.first > 0) throw BadValue(QStringLiteral("data-first inside data-first"));
+            context.first = *first - 1;
+        }
         if (const auto rows = values.count(QStringLiteral("data-rows"))) {
             if (context.rows > 0) throw BadValue(QStringLiteral("data-rows inside data-rows"));
             const double pitch = values.requiredNumber(QStringLiteral("data-pitch"));
@@ -167,6 +189,13 @@ class LayoutReader {
             if (layout_.rowPitch == 0) layout_.rowPitch = context.pitch;
         }
         readChildren(context);
+    }
+
+    static std::optional<int> numbered(const ElementValues& values, const QString& name, int most) {
+        const auto number = values.count(name);
+        if (number && (*number < 1 || *number > most))
+            throw BadValue(QStringLiteral("%1 is not from 1 to %2").arg(name).arg(most));
+        return number;
     }
 
     void readRect(const ElementValues& values, const Context& context) {
@@ -249,13 +278,23 @@ class LayoutReader {
         return layout_.inks.size() - 1;
     }
 
+    static bool belongsTo(const LayoutSection& section, const Context& context) {
+        return section.block == context.block && section.side == context.side &&
+               section.first == context.first && section.rows == context.rows &&
+               section.pitch == context.pitch;
+    }
+
     void add(LayoutMark mark, const Context& context) {
         if (++marks_ > kMostMarks)
             throw BadValue(QStringLiteral("more than %1 elements").arg(kMostMarks));
         auto& sections = layout_.sections;
-        if (sections.empty() || sections.back().block != context.block ||
-            sections.back().rows != context.rows || sections.back().pitch != context.pitch)
-            sections.push_back({context.block, context.rows, context.pitch, {}});
+        if (sections.empty() || !belongsTo(sections.back(), context))
+            sections.push_back({.block = context.block,
+                                .side = context.side,
+                                .first = context.first,
+                                .rows = context.rows,
+                                .pitch = context.pitch,
+                                .marks = {}});
         sections.back().marks.push_back(std::move(mark));
     }
 

@@ -19,8 +19,9 @@ PageView::PageView(LayoutPainter& painter, QWidget* parent) : QWidget(parent), p
     setZoom(1);
 }
 
-void PageView::showCard(CardText rows) {
+void PageView::showCard(CardText rows, int side) {
     rows_ = std::move(rows);
+    side_ = side;
     update();
 }
 
@@ -45,7 +46,7 @@ void PageView::paintEvent(QPaintEvent*) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     const double scale = layoutScale(logicalDpiX()) * zoom_;
     painter.scale(scale, scale);
-    painter_.paint(painter, rows_);
+    painter_.paint(painter, rows_, side_);
 }
 
 }  // namespace winvrx

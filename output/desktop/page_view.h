@@ -16,7 +16,7 @@ class PageView : public QWidget {
     /// `painter` outlives the view.
     explicit PageView(LayoutPainter& painter, QWidget* parent = nullptr);
 
-    void showCard(CardText rows);
+    void showCard(CardText rows, int side);
     /// 1 shows the sheet in its real size.
     void setZoom(double zoom);
     /// The zoom at which the whole sheet fits into `room`.
@@ -30,6 +30,7 @@ class PageView : public QWidget {
 
     LayoutPainter& painter_;
     CardText rows_;
+    int side_ = 1;
     double zoom_ = 1;
 };
 

@@ -3,6 +3,7 @@
 #include "foundation/desktop/look.h"
 #include "foundation/faults.h"
 #include "output/desktop/card_spool.h"
+#include "output/desktop/layout_painter.h"
 #include "output/desktop/page_view.h"
 
 #include <QFileDialog>
@@ -29,7 +30,9 @@ constexpr QSize kUsualSize(1040, 660);
 
 PreviewWindow::PreviewWindow(const QString& title, LayoutPainter& painter, CardSpool& cards,
                              QWidget* parent)
-    : ScreenWindow(QStringLiteral("preview"), title, parent), cards_(cards) {
+    : ScreenWindow(QStringLiteral("preview"), title, parent),
+      cards_(cards),
+      sides_(painter.layout().sides) {
     setBody(buildBody(painter));
     buildOutputCommands();
     buildPageCommands();
@@ -77,7 +80,7 @@ void PreviewWindow::buildPageCommands() {
     connect(new QShortcut(Qt::Key_Home, this), &QShortcut::activated, this,
             [this] { showPage(0); });
     connect(new QShortcut(Qt::Key_End, this), &QShortcut::activated, this,
-            [this] { showPage(static_cast<int>(cards_.size()) - 1); });
+            [this] { showPage(pageCount() - 1); });
 }
 
 void PreviewWindow::buildZoomCommands() {
@@ -89,13 +92,17 @@ void PreviewWindow::buildZoomCommands() {
             &QToolButton::clicked, this, &PreviewWindow::zoomToPage);
 }
 
+int PreviewWindow::pageCount() const {
+    return static_cast<int>(cards_.size()) * sides_;
+}
+
 void PreviewWindow::showPage(int page) {
-    const int count = static_cast<int>(cards_.size());
+    const int count = pageCount();
     page_ = std::clamp(page, 0, count - 1);
     previous_->setEnabled(page_ > 0);
     next_->setEnabled(page_ < count - 1);
     try {
-        view_->showCard(cards_.at(static_cast<std::size_t>(page_)));
+        view_->showCard(cards_.at(static_cast<std::size_t>(page_ / sides_)), 1 + page_ % sides_);
         setState(QStringLiteral("%1 de %2").arg(page_ + 1).arg(count));
     } catch (const Fault& fault) {
         tell(QStringLiteral("⚠ ") + QString::fromStdString(fault.explanation()));
@@ -130,7 +137,7 @@ void PreviewWindow::choosePdf() {
 }
 
 void PreviewWindow::tell(const QString& text) {
-    setState(QStringLiteral("%1 de %2 · %3").arg(page_ + 1).arg(cards_.size()).arg(text));
+    setState(QStringLiteral("%1 de %2 · %3").arg(page_ + 1).arg(pageCount()).arg(text));
 }
 
 void PreviewWindow::wheelEvent(QWheelEvent* event) {

@@ -37,6 +37,8 @@ class PreviewWindow : public ScreenWindow {
     QWidget* buildBody(LayoutPainter& painter);
     QToolButton* command(const char* icon, const QString& text, const QKeySequence& key,
                          const char* name);
+    /// A card has a page for each of its faces.
+    [[nodiscard]] int pageCount() const;
     void showPage(int page);
     void zoomBy(int steps);
     void zoomToPage();
@@ -44,6 +46,7 @@ class PreviewWindow : public ScreenWindow {
     void choosePdf();
 
     CardSpool& cards_;
+    int sides_;
     PageView* view_;
     QScrollArea* scroll_;
     QToolButton* previous_ = nullptr;

@@ -44,14 +44,24 @@ ReportResult forEachPage(const std::function<std::optional<CardText>()>& pages,
     return ReportResult::Done;
 }
 
+std::vector<int> sidesToPrint(CardSide asked, int sides) {
+    std::vector<int> chosen;
+    if (asked != CardSide::Back) chosen.push_back(1);
+    if (asked != CardSide::Front && sides > 1) chosen.push_back(2);
+    return chosen;
+}
+
 ReportResult printPages(const ReportRequest& request, const Layout& layout,
                         const std::function<std::optional<CardText>()>& pages,
                         const CardProgress& progress) {
     if (request.output == ReportOutput::Printer && !hasPrinters()) return ReportResult::NoPrinter;
     const auto device = openDevice(request, layout.page);
     LayoutPainter painter(layout, {.header = request.printHeader, .alignment = request.alignment});
-    const ReportResult result = forEachPage(
-        pages, progress, [&](const CardText& rows) { painter.paint(device->nextPage(), rows); });
+    const auto sides = sidesToPrint(request.side, layout.sides);
+    const ReportResult result = forEachPage(pages, progress, [&](const CardText& rows) {
+        for (const int side : sides)
+            painter.paint(device->nextPage(), rows, side);
+    });
     if (result == ReportResult::Done) device->finish();
     return result;
 }
@@ -78,6 +88,14 @@ ReportResult QtReportEngine::print(const ReportRequest& request, const CardSourc
         return attempt([&] { return run(request, cards, progress); });
     } catch (const CallerFault& fault) {
         std::rethrow_exception(fault.cause);
+    }
+}
+
+int QtReportEngine::sidesOf(const std::string& layoutName) {
+    try {
+        return loadLayout(places_.layoutFolders(), layoutName).sides;
+    } catch (const std::exception&) {
+        return 1;
     }
 }
 

@@ -37,6 +37,7 @@ class QtReportEngine final : public ReportEngine {
 
     [[nodiscard]] ReportResult print(const ReportRequest& request, const CardSource& cards,
                                      const CardProgress& progress) override;
+    [[nodiscard]] int sidesOf(const std::string& layoutName) override;
 
   private:
     using Pages = std::function<std::optional<CardText>()>;

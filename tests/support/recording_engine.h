@@ -19,6 +19,7 @@ class RecordingEngine final : public ReportEngine {
     std::vector<Job> jobs;
     /// Results of the coming jobs; Done when used up. A job that does not end Done takes no card.
     std::deque<ReportResult> results;
+    int sides = 1;  ///< of every layout
 
     [[nodiscard]] ReportResult print(const ReportRequest& request, const CardSource& cards,
                                      const CardProgress& progress) override {
@@ -35,6 +36,8 @@ class RecordingEngine final : public ReportEngine {
         }
         return ReportResult::Done;
     }
+
+    [[nodiscard]] int sidesOf(const std::string&) override { return sides; }
 };
 
 }  // namespace winvrx::testing

@@ -70,6 +70,13 @@ TEST(LayoutReader, NamesTheLineOfADamage) {
         {"rows in rows",
          sheet("<g data-rows='2' data-pitch='4'>\n<g data-rows='2' data-pitch='4'/></g>"),
          "card.rpt:3: ", "inside"},
+        {"first row of none", sheet("<g data-first='0'/>"), "card.rpt:2: ", "data-first"},
+        {"first row past all", sheet("<g data-first='32'/>"), "card.rpt:2: ", "data-first"},
+        {"first row in first row", sheet("<g data-first='2'><g data-first='3'/></g>"),
+         "card.rpt:2: ", "inside"},
+        {"third face", sheet("<g data-side='3'/>"), "card.rpt:2: ", "data-side"},
+        {"face in face", sheet("<g data-side='1'><g data-side='2'/></g>"),
+         "card.rpt:2: ", "inside"},
         {"unknown block", sheet("<g data-block='footer'/>"), "card.rpt:2: ", "footer"},
         {"block in block", sheet("<g data-block='header'><g data-block='stock'/></g>"),
          "card.rpt:2: ", "inside"},
@@ -173,6 +180,25 @@ TEST(LayoutReader, TellsWhichColumnsAreDrawn) {
     )")));
     EXPECT_THAT(columns.once, ElementsAre(0U, 1U));
     EXPECT_THAT(columns.inRows, ElementsAre(14U, 16U));
+}
+
+TEST(LayoutReader, KnowsTheFacesOfACardAndWhereTheirRowsBegin) {
+    const Layout layout = read(sheet(R"(<desc>Cartão de
+            80 x 180 mm</desc>
+        <g data-side="1"><g data-rows="15" data-pitch="9"><text x="1" y="2" data-field="dia"/></g></g>
+        <g data-side="2" data-first="16">
+          <text x="1" y="2" data-field="quinzena"></text>
+          <g data-rows="16" data-pitch="9"><text x="1" y="2" data-field="dia"/></g>
+        </g>)"));
+    EXPECT_EQ(layout.description, QStringLiteral("Cartão de 80 x 180 mm"));
+    EXPECT_EQ(layout.sides, 2);
+    std::vector<std::array<int, 3>> sections;
+    for (const LayoutSection& section : layout.sections)
+        sections.push_back({section.side, section.first, section.rows});
+    using Section = std::array<int, 3>;
+    EXPECT_THAT(sections, ElementsAre(Section{1, 0, 15}, Section{2, 15, 0}, Section{2, 15, 16}));
+    EXPECT_THAT(drawnColumns(layout).once, ::testing::IsEmpty());
+    EXPECT_THAT(drawnColumns(layout).inRows, ElementsAre(14U, 25U));
 }
 
 }  // namespace
