@@ -12,7 +12,6 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <tuple>
 
 #ifndef _WIN32
 #include <sys/resource.h>
@@ -25,7 +24,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-constexpr double kTwipsPerPoint = 20;
 constexpr double kPointsPerMillimetre = 72 / 25.4;
 
 class PrintedCard : public ::testing::Test {
@@ -39,15 +37,6 @@ class PrintedCard : public ::testing::Test {
         EXPECT_EQ(desk_.print(1), ReportResult::Done)
             << ::testing::PrintToString(desk_.log.entries);
         return printedWords(desk_.pdf());
-    }
-
-    /// The same in an order that does not depend on where the card lies.
-    std::vector<PrintedWord> sortedWords() {
-        auto sorted = words();
-        std::ranges::sort(sorted, {}, [](const PrintedWord& word) {
-            return std::tuple(word.text, word.top, word.left);
-        });
-        return sorted;
     }
 
     ReportDesk desk_;
@@ -69,82 +58,6 @@ TEST_F(PrintedCard, SaysEverythingInOrder) {
         ASSERT_GE(at, 0) << expected << "\nnot in\n" << text.toStdString();
         from = at;
     }
-}
-
-TEST_F(PrintedCard, MovesExactlyByTheAlignment) {
-    constexpr double kTilibraPitch = 4.5 * kPointsPerMillimetre;
-    struct Case {
-        Alignment alignment;
-        double right;
-        double down;
-    };
-    const Case cases[] = {
-        {{20, 0, 0}, 20 / kTwipsPerPoint, 0},
-        {{0, 20, 0}, 0, 20 / kTwipsPerPoint},
-        {{1500, 1500, 0}, 1500 / kTwipsPerPoint, 1500 / kTwipsPerPoint},
-        {{10, 10, 10}, 10 / kTwipsPerPoint, 10 / kTwipsPerPoint + 10 * kTilibraPitch}};
-    const auto still = sortedWords();
-    for (const Case& one : cases) {
-        desk_.request.alignment = one.alignment;
-        const auto moved = sortedWords();
-        ASSERT_EQ(moved.size(), still.size());
-        for (std::size_t i = 0; i < moved.size(); ++i) {
-            ASSERT_EQ(moved[i].text, still[i].text);
-            EXPECT_NEAR(moved[i].left - still[i].left, one.right, 0.01);
-            EXPECT_NEAR(moved[i].top - still[i].top, one.down, 0.01);
-        }
-    }
-}
-
-TEST_F(PrintedCard, StaysWithinTheCard) {
-    constexpr double kSideGuide = 0;
-    constexpr double kMiddle = 62.5;
-    for (const auto& [layout, left] :
-         {std::pair{"tilibleft.rpt", kSideGuide}, std::pair{"tilibcenter.rpt", kMiddle}}) {
-        desk_.request.layoutName = layout;
-        auto rows = sampleCard(1);
-        for (CardRow& row : rows) {
-            row[0] = std::string(68, 'W');
-            row[5] = std::string(50, 'M');
-            row[10] = std::string(60, 'W');
-            row[24] = "12.345.678,00";
-        }
-        int given = 0;
-        const CardSource once = [&] { return given++ ? std::nullopt : std::optional(rows); };
-        ASSERT_EQ(desk_.engine.print(desk_.request, once, [](int) { return true; }),
-                  ReportResult::Done);
-        const auto printed = printedWords(desk_.pdf());
-        ASSERT_FALSE(printed.empty());
-        for (const PrintedWord& word : printed) {
-            EXPECT_GE(word.left, left * kPointsPerMillimetre) << word.text.toStdString();
-            EXPECT_LE(word.right, (left + 85) * kPointsPerMillimetre) << word.text.toStdString();
-            EXPECT_LE(word.bottom, 185 * kPointsPerMillimetre) << word.text.toStdString();
-        }
-        EXPECT_TRUE(printedText(desk_.pdf()).contains(QStringLiteral("WW…")));
-    }
-}
-
-TEST_F(PrintedCard, HasItsRowsAtOnePitch) {
-    const auto printed = words();
-    double previous = 0;
-    for (int day = 1; day <= 31; ++day) {
-        const double top = wordOf(printed, QString::fromStdString(padded(day, 2))).top;
-        const double expected = day == 1 ? top : previous + 4.5 * kPointsPerMillimetre;
-        EXPECT_NEAR(top, expected, 0.01) << day;
-        previous = top;
-    }
-}
-
-TEST_F(PrintedCard, LeavesTheHeaderToTheStock) {
-    desk_.request.printHeader = false;
-    const auto printed = words();
-    const QString text = printedText(desk_.pdf());
-    for (const char* header : {"Razão", "Cnpj", "EMPREGADO", "março"})
-        EXPECT_FALSE(text.contains(QString::fromUtf8(header))) << header;
-    EXPECT_TRUE(text.contains(QStringLiteral("31 dom")));
-    desk_.request.printHeader = true;
-    EXPECT_NEAR(wordOf(words(), QStringLiteral("sáb")).top,
-                wordOf(printed, QStringLiteral("sáb")).top, 0.01);
 }
 
 TEST_F(PrintedCard, NeverShowsThePictureOfTheStock) {
@@ -191,10 +104,31 @@ TEST(ReportEngine, PrintsNothingWithoutASoundLayout) {
     }
 }
 
-TEST(ReportEngine, PrefersTheLayoutOfTheDataFolder) {
+TEST(ReportEngine, PrefersTheLayoutsOfTheDataFolder) {
+    if (!canReadPdf()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
     ReportDesk desk;
-    desk.writeLayout("tilibcenter.rpt", "damaged");
+    const char* own[] = {"tilibcenter.rpt", "RHJleft.rpt"};
+    for (const char* name : own)
+        desk.writeLayout(name, QByteArray(R"(<svg width="210mm" height="297mm"
+                                  viewBox="0 0 210 297" data-pitch="4"><text x="9" y="9"
+                                  font-size="4">MEU )") +
+                                   name + "</text></svg>");
+    for (const char* name : own) {
+        desk.request.layoutName = name;
+        ASSERT_EQ(desk.print(1), ReportResult::Done);
+        EXPECT_EQ(printedText(desk.pdf()).trimmed(), QStringLiteral("MEU ") + QLatin1String(name));
+    }
+    desk.request.layoutName = "RHJcenter.rpt";
+    ASSERT_EQ(desk.print(1), ReportResult::Done);
+    EXPECT_TRUE(printedText(desk.pdf()).contains(QStringLiteral("Total: 216:00")));
+}
+
+TEST(ReportEngine, ADamagedLayoutOfTheDataFolderDoesNotGiveWayToTheShippedOne) {
+    ReportDesk desk;
+    desk.writeLayout("tilibcenter.rpt", "<svg width='210mm' height='297mm'\n viewBox='0 0 210");
     EXPECT_EQ(desk.print(1), ReportResult::Failed);
+    EXPECT_THAT(desk.log.entries, ElementsAre(HasSubstr("layouts/tilibcenter.rpt:2: ")));
+    EXPECT_FALSE(QFile::exists(desk.pdf()));
 }
 
 TEST(ReportEngine, LeavesTheOldFileWhenARunDoesNotEnd) {
