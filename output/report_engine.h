@@ -35,11 +35,11 @@ struct Alignment {
     int lines = 0;  ///< further rows to move down, each of the layout's row pitch
 };
 
-/// Which face of the card a run prints. A layout that knows no faces prints whole on the front.
+/// What a run prints of each card. A layout that fills one side prints it whole on the first.
 enum class CardSide {
-    Both,  ///< the faces of a card follow one another, each on a page of its own
-    Front,
-    Back
+    Whole,  ///< every side, one after the other, each on a page of its own
+    First,
+    Second
 };
 
 enum class ReportOutput { Preview, Printer, PdfFile };
@@ -49,7 +49,7 @@ struct ReportRequest {
     std::string title;        ///< of the print job and the preview window
     bool printHeader = true;  ///< whether blocks named "header" are drawn
     Alignment alignment = {};
-    CardSide side = CardSide::Both;
+    CardSide side = CardSide::Whole;
     ReportOutput output = ReportOutput::Preview;
     std::string printerName = {};           ///< empty: the default printer
     std::array<std::string, 3> trays = {};  ///< the first that is not blank names the source
@@ -78,7 +78,7 @@ class ReportEngine {
     [[nodiscard]] virtual ReportResult print(const ReportRequest& request, const CardSource& cards,
                                              const CardProgress& progress) = 0;
 
-    /// How many faces of a card the layout fills, 1 or 2. 1 as well for a layout that is missing or
+    /// How many sides of a card the layout fills, 1 or 2. 1 as well for a layout that is missing or
     /// damaged: printing it tells.
     [[nodiscard]] virtual int sidesOf(const std::string& layoutName) = 0;
 };

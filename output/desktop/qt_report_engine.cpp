@@ -46,8 +46,8 @@ ReportResult forEachPage(const std::function<std::optional<CardText>()>& pages,
 
 std::vector<int> sidesToPrint(CardSide asked, int sides) {
     std::vector<int> chosen;
-    if (asked != CardSide::Back) chosen.push_back(1);
-    if (asked != CardSide::Front && sides > 1) chosen.push_back(2);
+    if (asked != CardSide::Second) chosen.push_back(1);
+    if (asked != CardSide::First && sides > 1) chosen.push_back(2);
     return chosen;
 }
 
@@ -94,7 +94,7 @@ ReportResult QtReportEngine::print(const ReportRequest& request, const CardSourc
 int QtReportEngine::sidesOf(const std::string& layoutName) {
     try {
         return loadLayout(places_.layoutFolders(), layoutName).sides;
-    } catch (const std::exception&) {
+    } catch (const LayoutFault&) {
         return 1;
     }
 }

@@ -184,7 +184,7 @@ TEST_F(CardBoxes, ACardOfTwoFacesGivesTheFacesThatAreAskedFor) {
         std::vector<const char*> firstDays;  ///< the first day on each page
     };
     const Case cases[] = {
-        {CardSide::Both, {"01", "16"}}, {CardSide::Front, {"01"}}, {CardSide::Back, {"16"}}};
+        {CardSide::Whole, {"01", "16"}}, {CardSide::First, {"01"}}, {CardSide::Second, {"16"}}};
     EXPECT_EQ(desk_.engine.sidesOf("dimepcenter.rpt"), 2);
     EXPECT_EQ(desk_.engine.sidesOf("tilibcenter.rpt"), 1);
     EXPECT_EQ(desk_.engine.sidesOf("missing.rpt"), 1);
