@@ -30,7 +30,7 @@ Program::Program(const Surroundings& surroundings)
       at_{copiedFiles_, person_, surroundings.clock, surroundings.log, session_, lock_},
       calendar_(at_),
       engine_(makeEngine()),
-      screens_(at_, *browser_, *editor_, *engine_, copies_),
+      screens_(at_, *browser_, *editor_, *engine_, copies_, [this] { return layoutPlaces(); }),
       menu_(at_, surroundings.drives, surroundings.instance, *browser_,
             nativePath(surroundings.programFolder)),
       window_(std::make_unique<MenuWindow>(menu_, at_, calendar_, menuEntries(menu_, screens_),
@@ -47,10 +47,13 @@ std::unique_ptr<TextEditor> Program::makeEditor() {
     return std::make_unique<DesktopTextEditor>(*files_, *browser_);
 }
 
+std::vector<std::filesystem::path> Program::layoutPlaces() const {
+    return layoutFolders(session_.folder.path(), surroundings_.programFolder);
+}
+
 std::unique_ptr<ReportEngine> Program::makeEngine() {
     const QtReportEngine::Places places{
-        .layoutFolders =
-            [this] { return layoutFolders(session_.folder.path(), surroundings_.programFolder); },
+        .layoutFolders = [this] { return layoutPlaces(); },
         .database = [this] { return session_.folder.file(kReportDatabaseName); }};
     auto engine = std::make_unique<QtReportEngine>(places, *browser_, surroundings_.log);
     if (!surroundings_.engine) return engine;

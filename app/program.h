@@ -46,6 +46,7 @@ class Program {
   private:
     [[nodiscard]] std::unique_ptr<TextEditor> makeEditor();
     [[nodiscard]] std::unique_ptr<ReportEngine> makeEngine();
+    [[nodiscard]] std::vector<std::filesystem::path> layoutPlaces() const;
 
     Surroundings surroundings_;
     std::unique_ptr<FileSystem> files_;

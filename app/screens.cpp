@@ -100,7 +100,8 @@ void Screens::openCards(QWidget* parent, bool preview) {
 
 void Screens::openStocks(QWidget* parent) {
     TipoPonto stocks(at_, browser_);
-    TipoPontoWindow(stocks, parent).exec();
+    CardPictures pictures(layoutFolders_, at_.log);
+    TipoPontoWindow(stocks, pictures, parent).exec();
 }
 
 void Screens::openCopies(QWidget* parent) {

@@ -6,6 +6,7 @@
 #include "foundation/menu.h"
 #include "foundation/safety_copies.h"
 #include "foundation/text_editor.h"
+#include "output/desktop/card_pictures.h"
 #include "output/report_engine.h"
 #include "timecard/leave_calendar.h"
 
@@ -23,12 +24,13 @@ class ScreenWindow;
 class Screens {
   public:
     Screens(const Workplace& at, Browser& browser, TextEditor& editor, ReportEngine& engine,
-            SafetyCopies& copies)
+            SafetyCopies& copies, CardPictures::Folders layoutFolders)
         : at_(at),
           browser_(browser),
           editor_(editor),
           engine_(engine),
           copies_(copies),
+          layoutFolders_(std::move(layoutFolders)),
           locks_(at.files, at.session.folder),
           leaves_(at.files, at.session.folder) {}
 
@@ -71,6 +73,7 @@ class Screens {
     TextEditor& editor_;
     ReportEngine& engine_;
     SafetyCopies& copies_;
+    CardPictures::Folders layoutFolders_;
     RecordedLocks locks_;
     RecordedLeaves leaves_;
 };

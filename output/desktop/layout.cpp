@@ -10,16 +10,6 @@ namespace winvrx {
 
 namespace {
 
-std::optional<std::filesystem::path> findLayout(const std::vector<std::filesystem::path>& folders,
-                                                const std::string& name) {
-    for (const auto& folder : folders) {
-        std::error_code error;
-        const auto file = folder / name;
-        if (std::filesystem::is_regular_file(file, error)) return file;
-    }
-    return std::nullopt;
-}
-
 std::string listed(const std::vector<std::filesystem::path>& folders) {
     std::string text;
     for (const auto& folder : folders)
@@ -31,6 +21,7 @@ void collect(const LayoutText& text, std::vector<std::size_t>& columns) {
     for (const LayoutText::Piece& piece : text.pieces)
         if (piece.column) columns.push_back(*piece.column);
     columns.insert(columns.end(), text.unless.begin(), text.unless.end());
+    columns.insert(columns.end(), text.when.begin(), text.when.end());
 }
 
 void makeUnique(std::vector<std::size_t>& columns) {
@@ -70,6 +61,16 @@ LayoutFault::LayoutFault(const std::string& file, const std::string& cause)
 LayoutFault::LayoutFault(const std::string& file, long long line, const std::string& cause)
     : Fault(file + ":" + std::to_string(line) + ": " + cause,
             "O layout " + file + " tem um erro na linha " + std::to_string(line) + ".") {}
+
+std::optional<std::filesystem::path> findLayout(const std::vector<std::filesystem::path>& folders,
+                                                const std::string& name) {
+    for (const auto& folder : folders) {
+        std::error_code error;
+        const auto file = folder / name;
+        if (std::filesystem::is_regular_file(file, error)) return file;
+    }
+    return std::nullopt;
+}
 
 Layout loadLayout(const std::vector<std::filesystem::path>& folders, const std::string& name) {
     if (name.empty() || std::filesystem::path(name).filename() != name)

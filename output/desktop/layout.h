@@ -52,6 +52,7 @@ struct LayoutText {
     std::optional<double> width;  ///< what is longer is squeezed, then cut
     std::vector<Piece> pieces;
     std::vector<std::size_t> unless;  ///< drawn only where these columns are blank
+    std::vector<std::size_t> when;    ///< and only where one of these is not; none: always
 };
 
 /// An invalid colour draws nothing.
@@ -113,7 +114,11 @@ class LayoutFault : public Fault {
     LayoutFault(const std::string& file, long long line, const std::string& cause);
 };
 
-/// The file of that name in the first of the folders that has it. Throws LayoutFault.
+/// The file of that name in the first of the folders that has it.
+[[nodiscard]] std::optional<std::filesystem::path> findLayout(
+    const std::vector<std::filesystem::path>& folders, const std::string& name);
+
+/// Reads the file that findLayout() gives. Throws LayoutFault.
 [[nodiscard]] Layout loadLayout(const std::vector<std::filesystem::path>& folders,
                                 const std::string& name);
 

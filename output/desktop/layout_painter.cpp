@@ -29,8 +29,9 @@ void compose(const LayoutText& text, const CardTextRow& row, QString& into) {
 }
 
 bool isLeftOut(const LayoutText& text, const CardTextRow& row) {
-    return !std::ranges::all_of(text.unless,
-                                [&](std::size_t column) { return row[column].isEmpty(); });
+    const auto isBlank = [&](std::size_t column) { return row[column].isEmpty(); };
+    return !std::ranges::all_of(text.unless, isBlank) ||
+           (!text.when.empty() && std::ranges::all_of(text.when, isBlank));
 }
 
 /// Cuts `text`, an ellipsis at its end, until `widthOf` it is at most `width`.

@@ -225,6 +225,8 @@ class LayoutReader {
             text.width = positive(*width, QStringLiteral("data-width")) * scale_;
         if (const auto unless = values.text(QStringLiteral("data-unless")))
             text.unless = columnsNamed(*unless);
+        if (const auto when = values.text(QStringLiteral("data-when")))
+            text.when = columnsNamed(*when);
         const auto field = values.text(QStringLiteral("data-field"));
         const auto pattern = values.text(QStringLiteral("data-template"));
         if (field && pattern)

@@ -2,29 +2,48 @@
 
 #include "foundation/desktop/screen_window.h"
 
+#include <QElapsedTimer>
+
+class QBoxLayout;
 class QLabel;
 
 namespace winvrx {
 
-class OptionGroup;
+class CardPictures;
+class StockGrid;
 class TipoPonto;
+struct CardStock;
 
-/// The screen of card stocks: one option for each stock offered. A choice is stored at once.
+/// The screen of card stocks: one option for each stock offered, with the picture of its card. A
+/// choice is stored at once. A stock's two digits, typed, choose it too.
 class TipoPontoWindow : public ScreenWindow {
     Q_OBJECT
 
   public:
-    /// `stocks` outlives the window; it is read again when the window opens.
-    explicit TipoPontoWindow(TipoPonto& stocks, QWidget* parent = nullptr);
+    /// `stocks` and `pictures` outlive the window; the stored choice is read when it opens.
+    TipoPontoWindow(TipoPonto& stocks, CardPictures& pictures, QWidget* parent = nullptr);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     [[nodiscard]] QWidget* buildBody();
-    void choose(int position);
+    [[nodiscard]] QWidget* buildInUse(QWidget* parent);
+    [[nodiscard]] QLabel* addSheet(QBoxLayout& row, const QString& position, const QString& name);
+    void choose(const CardStock* stock);
     void showCurrent();
+    void typeDigit(const QString& digit);
 
     TipoPonto& stocks_;
-    OptionGroup* options_ = nullptr;
+    CardPictures& pictures_;
+    StockGrid* options_ = nullptr;
     QLabel* current_ = nullptr;
+    QLabel* description_ = nullptr;
+    QWidget* sheets_ = nullptr;
+    QLabel* central_ = nullptr;
+    QLabel* lateral_ = nullptr;
+    QString digits_;
+    QElapsedTimer sinceDigit_;
 };
 
 }  // namespace winvrx

@@ -27,7 +27,7 @@ TEST(MenuEntries, NoTwoTilesShareAKeyALetterOrAName) {
     OnlyCopy instance;
     const testing::FolderDrives drives("/data");
     Menu menu(desk.at, drives, instance, browser, "/opt/winvrx");
-    Screens screens(desk.at, browser, editor, engine, copies);
+    Screens screens(desk.at, browser, editor, engine, copies, {});
     std::map<std::string, std::vector<std::string>> owners;
     for (const MenuEntry& entry : menuEntries(menu, screens)) {
         const std::string name = toUtf8(entry.objectName);

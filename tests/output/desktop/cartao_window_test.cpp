@@ -3,8 +3,6 @@
 #include "foundation/company_register.h"
 #include "foundation/desktop/qt_text.h"
 #include "foundation/employee_register.h"
-#include "output/desktop/tipo_ponto_window.h"
-#include "output/tipo_ponto.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
@@ -182,37 +180,6 @@ TEST_F(CartaoWindowTest, FitsASmallScreenAndIsReachable) {
     EXPECT_LE(window.minimumSizeHint().width(), 1280);
     EXPECT_LE(window.minimumSizeHint().height(), 680);
     expectReachable(window);
-}
-
-TEST_F(CartaoWindowTest, StockIsChosenByMouseAndByKeyboard) {
-    TipoPonto stocks(desk.at, browser);
-    TipoPontoWindow window(stocks);
-    open(window);
-    expectReachable(window);
-    auto* current = find<QLabel>(window, "tipoPonto.current");
-    EXPECT_EQ(current->text(), QStringLiteral("Tilibra"));
-    press(window, "tipoPonto.stocks.12");
-    EXPECT_EQ(current->text(), QStringLiteral("SD-N"));
-    EXPECT_EQ(desk.file("01CartaoDePontoTipo"), "12SDN\r\n");
-    QTest::keyClick(find<QAbstractButton>(window, "tipoPonto.stocks.12"), Qt::Key_Down);
-    EXPECT_EQ(desk.file("01CartaoDePontoTipo"), "13DATAPRINT\r\n");
-
-    desk.files.failOn.insert("01CartaoDePontoTipo");
-    press(window, "tipoPonto.stocks.01");
-    EXPECT_EQ(current->text(), QStringLiteral("DATAPRINT"));
-    EXPECT_TRUE(find<QAbstractButton>(window, "tipoPonto.stocks.13")->isChecked());
-    QTest::keyClick(&window, Qt::Key_F1);
-    EXPECT_EQ(browser.opened, 1);
-    press(window, "tipoPonto.close");
-    EXPECT_FALSE(window.isVisible());
-}
-
-TEST_F(CartaoWindowTest, NoStockLeavesNoOptionChosen) {
-    desk.file("01CartaoDePontoTipo") = "14Etiqueta\r\n";
-    TipoPonto stocks(desk.at, browser);
-    TipoPontoWindow window(stocks);
-    for (const auto* option : window.findChildren<QAbstractButton*>())
-        EXPECT_FALSE(option->isChecked()) << option->objectName().toStdString();
 }
 
 }  // namespace
