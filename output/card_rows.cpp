@@ -2,6 +2,7 @@
 
 #include "foundation/text.h"
 #include "timecard/hours.h"
+#include "timecard/situation.h"
 
 #include <chrono>
 
@@ -51,7 +52,11 @@ bool hasTimes(const PunchLine& line) {
 
 /// The word for a day without times.
 std::string situationOf(const CardData& card, const PunchLine& line, Date date) {
-    if (const auto stored = trimmed(line.situation); !stored.empty()) return std::string(stored);
+    if (const auto stored = trimmed(line.situation); !stored.empty()) {
+        const Situation* known = findSituation(stored);
+        const bool unjustified = known && known->word == kSituationUnjustified;
+        return std::string(unjustified ? kSituationUnjustifiedShort : stored);
+    }
     if (card.settings.isHoliday(date)) return std::string(kSituationHoliday);
     const auto weekday = weekdayOf(date);
     if (weekday == std::chrono::Sunday || weekday == weeklyRestOf(card.employee))

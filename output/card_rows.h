@@ -50,7 +50,8 @@ struct CardData {
 [[nodiscard]] std::string headerText(const CardData& card);
 
 /// Always kCardLines rows. "horas" and the situation stand only on days of the month from the
-/// admission on; a situation only where the day has no times. "total" is the month's sum and
+/// admission on; a situation only where the day has no times,
+/// "Falta Injustificada" as "Falta Inj.". "total" is the month's sum and
 /// "quinzena" the sum of the row's own half of the month. Without punches a row has its header
 /// values and day labels only.
 [[nodiscard]] std::vector<CardRow> cardRows(const CardData& card);

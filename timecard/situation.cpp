@@ -2,15 +2,12 @@
 
 namespace winvrx {
 
-namespace {
-
-constexpr std::string_view kShortUnjustified = "Falta Inj.";
-
-}  // namespace
+namespace {}  // namespace
 
 const Situation* findSituation(std::string_view text) {
     if (text.empty()) return nullptr;
-    const std::string_view wanted = text == kShortUnjustified ? kSituationUnjustified : text;
+    const std::string_view wanted =
+        text == kSituationUnjustifiedShort ? kSituationUnjustified : text;
     for (const Situation& one : kSituations)
         if (wanted == one.word || wanted == one.mark) return &one;
     return nullptr;

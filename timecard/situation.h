@@ -34,6 +34,7 @@ struct Situation {
 
 inline constexpr std::string_view kSituationAbsence = "Falta";
 inline constexpr std::string_view kSituationUnjustified = "Falta Injustificada";
+inline constexpr std::string_view kSituationUnjustifiedShort = "Falta Inj.";  ///< on the cards
 inline constexpr std::string_view kSituationHoliday = "FERIADO";
 inline constexpr std::string_view kSituationWeeklyRest = "DESCANSO SEMANAL";
 inline constexpr std::string_view kSituationLeave = "AFASTAMENTO";

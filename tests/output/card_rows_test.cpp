@@ -97,6 +97,35 @@ TEST(CardRows, DaysCarryTimesHoursAndSituation) {
         EXPECT_EQ(row(rows, one.day), one.text);
 }
 
+TEST(CardRows, ADayWithoutTimesSaysWhy) {
+    struct Case {
+        const char* situation;
+        const char* time;
+        const char* printed;
+    };
+    for (const Case& one : {
+             Case{"AFASTAMENTO", "", "AFASTAMENTO"},
+             Case{"FERIADO", "", "FERIADO"},
+             Case{"DESCANSO SEMANAL", "", "DESCANSO SEMANAL"},
+             Case{"Falta", "", "Falta"},
+             Case{"Falta Injustificada", "", "Falta Inj."},
+             Case{"Falta Injustifi", "", "Falta Inj."},
+             Case{"Falta Inj.", "", "Falta Inj."},
+             Case{"Férias", "", "Férias"},
+             Case{" treinamento ", "", "treinamento"},
+             Case{"", "", ""},
+             Case{"FERIADO", "08:00", ""},
+             Case{"Falta Injustificada", "08:00", ""},
+         }) {
+        CardData card = commercialCard(kMarch);
+        card.punches->at(3) = withoutTimes("04/seg/mar", one.situation);
+        card.punches->at(3).extraExit = one.time;
+        const CardRow printed = cardRows(card).at(3);
+        EXPECT_EQ(printed[cardColumn("situacao")], one.printed) << one.situation;
+        EXPECT_EQ(printed[cardColumn("sai3")], one.time) << one.situation;
+    }
+}
+
 TEST(CardRows, SumsStandOnEveryRow) {
     CardData card = commercialCard(kMarch);
     struct Case {

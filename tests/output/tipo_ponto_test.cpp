@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <algorithm>
 
 namespace winvrx {
 namespace {
@@ -19,42 +19,70 @@ struct Desk : TestWorkplace {
 
 constexpr const char* kSetting = "/data/01CartaoDePontoTipo";
 
-TEST(CardStock, LayoutFollowsStockTrayAndSet) {
-    struct Case {
-        const char* code;
-        TrayPosition tray;
-        LayoutSet set;
-        std::optional<std::string> layout;
-    };
+struct KnownStock {
+    const char* code;
+    const char* shown;
+    const char* line;
+    const char* stemA;
+    const char* stemB;
+};
+
+/// What the cards have been known by since the first of them.
+constexpr KnownStock kKnownCards[] = {
+    {"01", "Tilibra", "01Tilibra", "tilib", "tilib"},
+    {"02", "SD", "02SD", "sd", "sd"},
+    {"03", "Dimep/TopData", "03Dimep/Topdata", "dimep", "dimep"},
+    {"04", "Real Ponto", "04", "realponto", "realponto"},
+    {"05", "MADIS", "05", "madis", "madis"},
+    {"06", " BMVIX - TRIX", "06 BMVIX - TRIX", "Bmvix", "Bmvix"},
+    {"07", "Tamoio", "07Tamoio", "tamoio", "tamoio"},
+    {"09", "CartaoPontoA", "09CartaoPontoA", "cartaopontoa", "CartaoPontoA"},
+    {"10", "DISNIBRA", "10DISNIBRA", "disnibra", "DISNIBRA"},
+    {"11", "DIPONTO", "11DIPONTO", "DIPONTO", "DIPONTO"},
+    {"12", "SD-N", "12SDN", "SDN", "SDN"},
+    {"13", "DATAPRINT", "13DATAPRINT", "dataprint", "dataprint"},
+    {"16", "CARTAO-CEU", "16CARTAO-CEU", "cartaoceu", "cartaoceu"},
+    {"17", "SAO DOM", "17SAO DOM", "tamoio_EX", "tamoio_EX"},
+    {"19", "ORTEP", "19ORTEP", "ORTEP", "ORTEP"},
+    {"20", "RHJ", "20RHJ", "RHJ", "RHJ"},
+};
+
+TEST(CardStock, EachHasItsThreeNamesAndFourLayouts) {
     const auto central = TrayPosition::Central;
     const auto lateral = TrayPosition::Lateral;
-    for (const Case& one : {
-             Case{"01", central, LayoutSet::A, "tilibcenter.rpt"},
-             Case{"06", lateral, LayoutSet::B, "Bmvixleft.rpt"},
-             Case{"09", central, LayoutSet::A, "cartaopontoacenter.rpt"},
-             Case{"09", lateral, LayoutSet::B, "CartaoPontoAleft.rpt"},
-             Case{"10", lateral, LayoutSet::A, "disnibraleft.rpt"},
-             Case{"10", central, LayoutSet::B, "DISNIBRAcenter.rpt"},
-             Case{"17", central, LayoutSet::A, "tamoio_EXcenter.rpt"},
-             Case{"17", lateral, LayoutSet::B, "tamoio_EXleft.rpt"},
-             Case{"20", lateral, LayoutSet::A, "RHJleft.rpt"},
-             Case{"08", central, LayoutSet::A, std::nullopt},
-             Case{"14", central, LayoutSet::A, std::nullopt},
-             Case{"15", central, LayoutSet::B, std::nullopt},
-             Case{"18", central, LayoutSet::A, std::nullopt},
-             Case{"99", central, LayoutSet::A, std::nullopt},
-             Case{"", central, LayoutSet::A, std::nullopt},
-         })
-        EXPECT_EQ(layoutFor(one.code, one.tray, one.set), one.layout) << one.code;
+    for (const KnownStock& known : kKnownCards) {
+        SCOPED_TRACE(known.code);
+        const CardStock* stock = findStock(known.code);
+        ASSERT_NE(stock, nullptr);
+        EXPECT_TRUE(stock->offered);
+        EXPECT_EQ(stock->displayName, known.shown);
+        EXPECT_EQ(settingLineOf(*stock), known.line);
+        const std::string a = known.stemA;
+        const std::string b = known.stemB;
+        EXPECT_EQ(layoutFor(known.code, central, LayoutSet::A), a + "center.rpt");
+        EXPECT_EQ(layoutFor(known.code, lateral, LayoutSet::A), a + "left.rpt");
+        EXPECT_EQ(layoutFor(known.code, central, LayoutSet::B), b + "center.rpt");
+        EXPECT_EQ(layoutFor(known.code, lateral, LayoutSet::B), b + "left.rpt");
+    }
 }
 
-TEST(CardStock, SetsDifferInTwoStocksOnly) {
-    std::set<std::string> differing;
-    for (const CardStock& stock : kCardStocks)
-        if (layoutFor(stock.code, TrayPosition::Central, LayoutSet::A) !=
-            layoutFor(stock.code, TrayPosition::Central, LayoutSet::B))
-            differing.emplace(stock.code);
-    EXPECT_EQ(differing, (std::set<std::string>{"09", "10"}));
+TEST(CardStock, IsSearchedInThisOrder) {
+    EXPECT_TRUE(std::ranges::equal(kPrintOrder, kKnownCards, {}, {}, &KnownStock::code));
+}
+
+TEST(CardStock, WhatIsNoTimeCardHasANameOnly) {
+    for (const auto& [code, name] : {std::pair{"08", "Lados"}, std::pair{"14", "Etiqueta"},
+                                     std::pair{"15", "Espelho"}, std::pair{"18", "LadosPonto"}}) {
+        ASSERT_NE(findStock(code), nullptr) << code;
+        EXPECT_FALSE(findStock(code)->offered) << code;
+        EXPECT_EQ(findStock(code)->displayName, name);
+        for (const LayoutSet set : {LayoutSet::A, LayoutSet::B})
+            EXPECT_EQ(layoutFor(code, TrayPosition::Central, set), std::nullopt) << code;
+    }
+    for (const char* code : {"", "0", "1", "21", "99", "01 ", "tilib"}) {
+        EXPECT_EQ(findStock(code), nullptr) << code;
+        EXPECT_EQ(layoutFor(code, TrayPosition::Lateral, LayoutSet::B), std::nullopt) << code;
+    }
 }
 
 TEST(TipoPonto, OffersWhatTheCardPrintKnows) {
@@ -65,27 +93,18 @@ TEST(TipoPonto, OffersWhatTheCardPrintKnows) {
 }
 
 TEST(TipoPonto, ChoosingWritesOneLineAndShowsTheName) {
-    struct Case {
-        const char* code;
-        const char* line;
-        const char* label;
-    };
-    for (const Case& one :
-         {Case{"01", "01Tilibra\r\n", "Tilibra"},
-          Case{"03", "03Dimep/Topdata\r\n", "Dimep/TopData"}, Case{"04", "04\r\n", "Real Ponto"},
-          Case{"05", "05\r\n", "MADIS"}, Case{"06", "06 BMVIX - TRIX\r\n", " BMVIX - TRIX"},
-          Case{"12", "12SDN\r\n", "SD-N"}}) {
+    for (const KnownStock& known : kKnownCards) {
         Desk desk;
         desk.file("01CartaoDePontoTipo") = "01Tilibra\r\nfurther line\r\n";
         TipoPonto screen(desk.at, desk.browser);
         screen.load();
-        EXPECT_TRUE(screen.choose(*findStock(one.code)));
-        EXPECT_EQ(screen.label(), one.label);
-        EXPECT_EQ(desk.files.content.at(kSetting), one.line);
+        EXPECT_TRUE(screen.choose(*findStock(known.code)));
+        EXPECT_EQ(screen.label(), known.shown);
+        EXPECT_EQ(desk.files.content.at(kSetting), std::string(known.line) + "\r\n");
 
         TipoPonto reopened(desk.at, desk.browser);
         reopened.load();
-        EXPECT_EQ(reopened.label(), one.label);
+        EXPECT_EQ(reopened.label(), known.shown);
     }
 }
 
