@@ -5,6 +5,7 @@
 #include "foundation/desktop/desktop_text_editor.h"
 #include "foundation/desktop/menu_window.h"
 #include "output/desktop/qt_report_engine.h"
+#include "output/desktop/system_printers.h"
 
 namespace winvrx {
 
@@ -30,7 +31,10 @@ Program::Program(const Surroundings& surroundings)
       at_{copiedFiles_, person_, surroundings.clock, surroundings.log, session_, lock_},
       calendar_(at_),
       engine_(makeEngine()),
-      screens_(at_, *browser_, *editor_, *engine_, copies_, [this] { return layoutPlaces(); }),
+      printers_(surroundings.printers ? surroundings.printers()
+                                      : std::make_unique<SystemPrinters>()),
+      screens_(at_, *browser_, *editor_, {*engine_, *printers_, [this] { return layoutPlaces(); }},
+               copies_),
       menu_(at_, surroundings.drives, surroundings.instance, *browser_,
             nativePath(surroundings.programFolder)),
       window_(std::make_unique<MenuWindow>(menu_, at_, calendar_, menuEntries(menu_, screens_),

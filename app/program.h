@@ -6,6 +6,7 @@
 #include "foundation/desktop/message_box_operator.h"
 #include "foundation/desktop/zip_archiver.h"
 #include "foundation/menu.h"
+#include "output/printers.h"
 #include "output/report_engine.h"
 #include "timecard/month_overview.h"
 
@@ -29,6 +30,8 @@ struct Surroundings {
     std::function<std::unique_ptr<ReportEngine>(std::unique_ptr<ReportEngine>)> engine = nullptr;
     /// Where text reports are shown; the desktop's editor when nullptr.
     std::function<std::unique_ptr<TextEditor>(const FileSystem&, Browser&)> editor = nullptr;
+    /// The printers to choose from; the system's when nullptr.
+    std::function<std::unique_ptr<Printers>()> printers = nullptr;
 };
 
 /// Joins rules, adapters and windows into the running program.
@@ -63,6 +66,7 @@ class Program {
     Workplace at_;
     TimecardCalendar calendar_;
     std::unique_ptr<ReportEngine> engine_;
+    std::unique_ptr<Printers> printers_;
     Screens screens_;
     Menu menu_;
     std::unique_ptr<MenuWindow> window_;

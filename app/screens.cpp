@@ -15,8 +15,12 @@
 #include "foundation/turnos.h"
 #include "output/card_stock.h"
 #include "output/cartao.h"
+#include "output/cartao_pontos.h"
+#include "output/desktop/cartao_pontos_window.h"
 #include "output/desktop/cartao_window.h"
+#include "output/desktop/impressorar_window.h"
 #include "output/desktop/tipo_ponto_window.h"
+#include "output/impressorar.h"
 #include "output/tipo_ponto.h"
 #include "timecard/desktop/cartao_ponto_dados_window.h"
 #include "timecard/desktop/data_mes_corrente_window.h"
@@ -91,17 +95,32 @@ void Screens::openTimeCard(QWidget* parent) {
 }
 
 void Screens::openCards(QWidget* parent, bool preview) {
-    Cartao cards(at_, browser_, engine_);
+    Cartao cards(at_, {browser_, printing_.engine, printing_.printers, alignment_});
     cards.choices().output = preview ? ReportOutput::Preview : ReportOutput::Printer;
     const CartaoLinks links{.openStocks = [this](QWidget* over) { openStocks(over); },
-                            .openWorkMonth = [this](QWidget* over) { openWorkMonth(over); }};
+                            .openWorkMonth = [this](QWidget* over) { openWorkMonth(over); },
+                            .openPrinters = [this](QWidget* over) { openPrinters(over); },
+                            .openAlignment = [this](QWidget* over) { openAlignment(over); }};
     CartaoWindow(cards, links, parent).exec();
 }
 
 void Screens::openStocks(QWidget* parent) {
     TipoPonto stocks(at_, browser_);
-    CardPictures pictures(layoutFolders_, at_.log);
+    CardPictures pictures(printing_.layoutFolders, at_.log);
     TipoPontoWindow(stocks, pictures, parent).exec();
+}
+
+void Screens::openPrinters(QWidget* parent) {
+    Impressorar printers(at_, browser_, printing_.printers);
+    ImpressorarWindow(printers, parent).exec();
+}
+
+void Screens::openAlignment(QWidget* parent) {
+    CartaoPontos alignment(at_, {browser_, printing_.engine, printing_.printers, alignment_});
+    const LayoutSource layouts = [this](const std::string& name) {
+        return loadLayout(printing_.layoutFolders(), name);
+    };
+    CartaoPontosWindow(alignment, layouts, parent).exec();
 }
 
 void Screens::openCopies(QWidget* parent) {

@@ -7,6 +7,8 @@
 #include "foundation/safety_copies.h"
 #include "foundation/text_editor.h"
 #include "output/desktop/card_pictures.h"
+#include "output/print_settings.h"
+#include "output/printers.h"
 #include "output/report_engine.h"
 #include "timecard/leave_calendar.h"
 
@@ -23,14 +25,20 @@ class ScreenWindow;
 /// Opens the screens of the main window's commands, and says in a line how far each subject is.
 class Screens {
   public:
-    Screens(const Workplace& at, Browser& browser, TextEditor& editor, ReportEngine& engine,
-            SafetyCopies& copies, CardPictures::Folders layoutFolders)
+    /// What printing needs. Engine and printers outlive the screens.
+    struct Printing {
+        ReportEngine& engine;
+        Printers& printers;
+        CardPictures::Folders layoutFolders;
+    };
+
+    Screens(const Workplace& at, Browser& browser, TextEditor& editor, Printing printing,
+            SafetyCopies& copies)
         : at_(at),
           browser_(browser),
           editor_(editor),
-          engine_(engine),
+          printing_(std::move(printing)),
           copies_(copies),
-          layoutFolders_(std::move(layoutFolders)),
           locks_(at.files, at.session.folder),
           leaves_(at.files, at.session.folder) {}
 
@@ -43,6 +51,8 @@ class Screens {
     /// `preview`: shows the cards before they are printed.
     void openCards(QWidget* parent, bool preview);
     void openStocks(QWidget* parent);
+    void openPrinters(QWidget* parent);
+    void openAlignment(QWidget* parent);
     void openCopies(QWidget* parent);
 
     [[nodiscard]] QString companiesState() const;
@@ -71,9 +81,9 @@ class Screens {
     Workplace at_;
     Browser& browser_;
     TextEditor& editor_;
-    ReportEngine& engine_;
+    Printing printing_;
+    AlignmentMemory alignment_;
     SafetyCopies& copies_;
-    CardPictures::Folders layoutFolders_;
     RecordedLocks locks_;
     RecordedLeaves leaves_;
 };

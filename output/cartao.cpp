@@ -3,7 +3,7 @@
 #include "foundation/company_register.h"
 #include "foundation/employee_register.h"
 #include "foundation/text.h"
-#include "output/print_settings.h"
+#include "output/print_result.h"
 #include "timecard/selected_month.h"
 
 #include <algorithm>
@@ -15,7 +15,6 @@ namespace winvrx {
 namespace {
 
 constexpr std::string_view kPrintingDrive = "C";
-constexpr std::string_view kNotInFileNames = "/\\:*?\"<>|";
 
 const Message kConfirmOne{"IMPRIMIR CARTÃO PONTO",
                           "Este Comando Irá Imprimir o Item Selecionado. Deseja Prosseguir?",
@@ -29,18 +28,6 @@ const Message kWrongDrive{"Imprimir",
                           "Diretório Inválido p/ Impressão! Transfira os dados do diretório atual "
                           "para o Diretório 'C'.",
                           Icon::Critical};
-const Message kCancelOthers{"IMPRIMINDO", "Deseja Cancelar as demais Impressões? ", Icon::Question,
-                            Buttons::YesNo};
-const Message kPrintFailed{"IMPRESSÃO", "Erro na Impressão do Relatório.", Icon::Critical};
-const Message kNoPrinter{"IMPRESSÃO",
-                         "ERRO NA IMPRESSÃO DO RELATÓRIO - Isto ocorre quando não há Impressoras "
-                         "Instalada no PC!",
-                         Icon::Critical};
-
-Message confirmCardOf(const Employee& employee) {
-    return {"IMPRIMINDO", "Confirma a Impressão do Cartão do " + employee.name + " ? ",
-            Icon::Question, Buttons::YesNoCancel};
-}
 
 Company companyOf(FileSystem& files, const Session& session) {
     for (const CompanyLine& line : loadCompanies(files, session.folder))
@@ -49,18 +36,10 @@ Company companyOf(FileSystem& files, const Session& session) {
                 "A empresa selecionada não está no cadastro de empresas.");
 }
 
-/// A name for the file dialogue, without the characters that part folders.
-std::string pdfNameFor(const std::string& subject, WorkMonth month) {
-    std::string name = std::string(kCartaoTitle) + " " + subject + " " + monthKey(month) + ".pdf";
-    std::ranges::replace_if(
-        name, [](char c) { return kNotInFileNames.find(c) != std::string_view::npos; }, '-');
-    return name;
-}
-
 }  // namespace
 
-Cartao::Cartao(const Workplace& at, Browser& browser, ReportEngine& engine)
-    : at_(at), browser_(browser), engine_(engine), filter_(at.session.shiftFilter) {}
+Cartao::Cartao(const Workplace& at, const CartaoServices& services)
+    : at_(at), services_(services), filter_(at.session.shiftFilter) {}
 
 void Cartao::load() {
     (void)attempt(at_, incorrectData(), [this] {
@@ -69,7 +48,19 @@ void Cartao::load() {
         month_ = selected ? std::optional(selected->month) : std::nullopt;
         stock_ = loadStock(at_.files, at_.session);
         printer_ = loadPrinterName(at_.files, at_.session.folder);
+        const bool hasUnwritten = choices_.printer != remembered_;
+        remembered_ = loadPrinterMemory(at_.files, at_.session);
+        if (!hasUnwritten) choices_.printer = remembered_;
         readEmployees();
+        return true;
+    });
+}
+
+bool Cartao::remember() {
+    if (choices_.printer == remembered_) return true;
+    return attemptWriting(at_, incorrectData(), [this] {
+        savePrinterMemory(at_.files, at_.session, choices_.printer);
+        remembered_ = choices_.printer;
         return true;
     });
 }
@@ -123,12 +114,12 @@ bool Cartao::printAll(const PrintRun& run) {
 }
 
 void Cartao::help() {
-    openHelp(at_, browser_);
+    openHelp(at_, services_.browser);
 }
 
 bool Cartao::isReady(bool anyEmployee) {
     const Message* refusal = nullptr;
-    if (!stock_ || !layoutFor(stock_->code, choices_.tray, LayoutSet::A))
+    if (!stock_ || !layoutFor(stock_->code, choices_.printer.tray, LayoutSet::A))
         refusal = &kNoStock;
     else if (!anyEmployee)
         refusal = &kNoEmployee;
@@ -147,72 +138,33 @@ bool Cartao::drivePrints() {
 
 bool Cartao::print(const std::vector<Employee>& people, const PrintRun& run) {
     if (!drivePrints()) return false;
-    return attempt(at_, kPrintFailed, [&] {
-        return choices_.mode == PrintMode::OneRun ? printInOneRun(people, run)
-                                                  : printOneAtATime(people, run);
-    });
+    (void)remember();
+    return attempt(at_, printFailed(),
+                   [&] { return CardRun(at_, services_.engine, planFor(people), run).print(); });
 }
 
-bool Cartao::printInOneRun(const std::vector<Employee>& people, const PrintRun& run) {
-    const std::string subject = people.size() == 1 ? people.front().name : company_.name;
-    const auto request = requestFor(LayoutSet::A, run, subject);
-    if (!request) return false;
-    std::size_t next = 0;
-    const auto cards = [&]() -> std::optional<std::vector<CardRow>> {
-        if (next == people.size()) return std::nullopt;
-        return cardRows(cardOf(people[next++]));
-    };
-    const auto progress = [&](int done) {
-        return !run.progress || run.progress(done, static_cast<int>(people.size()));
-    };
-    return succeeded(engine_.print(*request, cards, progress));
-}
-
-bool Cartao::printOneAtATime(const std::vector<Employee>& people, const PrintRun& run) {
-    int done = 0;
-    for (const Employee& employee : people) {
-        if (done > 0 && at_.person.agrees(kCancelOthers)) return false;
-        if (!confirms(employee)) return false;
-        const auto request = requestFor(LayoutSet::B, run, employee.name);
-        if (!request) return false;
-        std::optional card = cardRows(cardOf(employee));
-        const auto cards = [&card] { return std::exchange(card, std::nullopt); };
-        const auto progress = [&](int) {
-            return !run.progress || run.progress(done + 1, static_cast<int>(people.size()));
-        };
-        if (!succeeded(engine_.print(*request, cards, progress))) return false;
-        ++done;
-    }
-    return true;
-}
-
-bool Cartao::confirms(const Employee& employee) {
-    const Message question = confirmCardOf(employee);
-    Answer answer = at_.person.ask(question);
-    while (answer == Answer::No)
-        answer = at_.person.ask(question);
-    return answer == Answer::Yes;
-}
-
-std::optional<ReportRequest> Cartao::requestFor(LayoutSet set, const PrintRun& run,
-                                                const std::string& subject) const {
-    ReportRequest request{.layoutName = layoutFor(stock_->code, choices_.tray, set).value(),
-                          .title = std::string(kCartaoTitle),
-                          .printHeader = choices_.printHeader,
-                          .alignment = loadAlignment(at_.files, at_.session.folder),
-                          .output = choices_.output,
-                          .printerName = printer_,
-                          .trays = choices_.trays,
-                          .pdfPath = {}};
-    if (request.output != ReportOutput::PdfFile) return request;
-    if (run.choosePdf) request.pdfPath = run.choosePdf(pdfNameFor(subject, *month_));
-    return request.pdfPath.empty() ? std::nullopt : std::optional(request);
-}
-
-bool Cartao::succeeded(ReportResult result) {
-    if (result == ReportResult::Failed) at_.person.tell(kPrintFailed);
-    if (result == ReportResult::NoPrinter) at_.person.tell(kNoPrinter);
-    return result == ReportResult::Done;
+CardRunPlan Cartao::planFor(const std::vector<Employee>& people) const {
+    const std::string entry = printerEntry(1, printer_);
+    const PrintScaleKey key{printer_.empty() ? services_.printers.defaultName() : printer_,
+                            std::string(stock_->code)};
+    const ReportRequest request{
+        .layoutName = {},
+        .title = std::string(kCartaoTitle),
+        .printHeader = choices_.printer.printHeader,
+        .alignment = loadAlignment(at_.files, at_.session.folder, key, services_.alignment),
+        .output = choices_.output,
+        .printerName = printerOfEntry(entry),
+        .trays = choices_.printer.trays};
+    return {.people = people,
+            .companyName = company_.name,
+            .month = *month_,
+            .choices = choices_,
+            .request = request,
+            .layoutOf =
+                [this](LayoutSet set) {
+                    return layoutFor(stock_->code, choices_.printer.tray, set).value();
+                },
+            .rowsOf = [this](const Employee& employee) { return cardRows(cardOf(employee)); }};
 }
 
 CardData Cartao::cardOf(const Employee& employee) const {

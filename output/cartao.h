@@ -4,11 +4,10 @@
 #include "foundation/command.h"
 #include "foundation/company.h"
 #include "output/card_rows.h"
-#include "output/card_stock.h"
-#include "output/report_engine.h"
+#include "output/card_run.h"
+#include "output/print_scale.h"
+#include "output/printers.h"
 
-#include <array>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,40 +17,28 @@ namespace winvrx {
 
 inline constexpr std::string_view kCartaoTitle = "CARTÃO PONTO";
 
-/// "Opção de Impressão do Cartão:".
-enum class PrintMode {
-    OneRun,      ///< all cards are one job
-    OneAtATime,  ///< each card is a job of its own, and confirmed
-};
-
-/// What the operator chooses on the printing screen.
-struct PrintChoices {
-    PrintMode mode = PrintMode::OneRun;
-    ReportOutput output = ReportOutput::Preview;
-    TrayPosition tray = TrayPosition::Central;
-    std::array<std::string, 3> trays;  ///< "Bandeja Impressora:"
-    bool printHeader = true;
-};
-
-/// What a run asks of the screen while it lasts. Both may be empty.
-struct PrintRun {
-    /// Told after each card; false cancels the run.
-    std::function<bool(int done, int total)> progress = {};
-    /// Where to save a PDF file, given a name to propose; empty cancels the run. Asked once a job.
-    std::function<std::string(const std::string& proposedName)> choosePdf = {};
+/// What the printing screen works with beside the desk. All outlive the screen.
+struct CartaoServices {
+    Browser& browser;
+    ReportEngine& engine;
+    const Printers& printers;
+    const AlignmentMemory& alignment;
 };
 
 /// The time-card printing screen.
 ///
 /// Prints the cards of the list: the employees that pass the shift filter and the search, in file
-/// order. A card's records
-/// are read when its turn comes. A failed card ends the run; cards already printed stay printed.
+/// order. A card's records are read when its turn comes. A failed card ends the run; cards already
+/// printed stay printed.
 class Cartao {
   public:
-    Cartao(const Workplace& at, Browser& browser, ReportEngine& engine);
+    Cartao(const Workplace& at, const CartaoServices& services);
 
-    /// Reads company, employees, work month, stock and printer again.
+    /// Reads company, employees, work month, stock, printer and what the screen remembers again.
     void load();
+    /// Puts what the screen remembers of the choices on the disk, if it changed. False when it
+    /// could not be written.
+    bool remember();
 
     [[nodiscard]] const std::vector<Employee>& employees() const { return employees_; }
     [[nodiscard]] const Company& company() const { return company_; }
@@ -85,18 +72,13 @@ class Cartao {
     [[nodiscard]] bool isReady(bool anyEmployee);
     [[nodiscard]] bool drivePrints();
     [[nodiscard]] bool print(const std::vector<Employee>& people, const PrintRun& run);
-    [[nodiscard]] bool printInOneRun(const std::vector<Employee>& people, const PrintRun& run);
-    [[nodiscard]] bool printOneAtATime(const std::vector<Employee>& people, const PrintRun& run);
-    [[nodiscard]] bool confirms(const Employee& employee);
-    [[nodiscard]] std::optional<ReportRequest> requestFor(LayoutSet set, const PrintRun& run,
-                                                          const std::string& subject) const;
-    [[nodiscard]] bool succeeded(ReportResult result);
+    [[nodiscard]] CardRunPlan planFor(const std::vector<Employee>& people) const;
     [[nodiscard]] CardData cardOf(const Employee& employee) const;
 
     Workplace at_;
-    Browser& browser_;
-    ReportEngine& engine_;
+    CartaoServices services_;
     PrintChoices choices_;
+    PrinterMemory remembered_;
     ShiftFilter filter_;
     Company company_;
     std::string search_;

@@ -28,11 +28,26 @@ inline constexpr std::string_view kCardTable = "Tabela_base";
 
 using CardRow = std::array<std::string, kCardColumns.size()>;
 
-/// Twips, 1/1440 inch.
+/// What one printer needs so that a millimetre on paper is a millimetre, measured from the paper's
+/// top left corner: the print is first scaled, then moved.
+struct PrintScale {
+    int horizontalScale = 10000;  ///< hundredths of a percent
+    int verticalScale = 10000;
+    int horizontalOffset = 0;  ///< hundredths of a millimetre, positive to the right
+    int verticalOffset = 0;    ///< positive down
+
+    [[nodiscard]] bool operator==(const PrintScale&) const = default;
+};
+
+/// How the print is moved on the paper. The twips, 1/1440 inch, are the paper's, whatever the
+/// scale.
 struct Alignment {
     int horizontalTwips = 0;
     int verticalTwips = 0;
     int lines = 0;  ///< further rows to move down, each of the layout's row pitch
+    PrintScale scale = {};
+
+    [[nodiscard]] bool operator==(const Alignment&) const = default;
 };
 
 /// What a run prints of each card. A layout that fills one side prints it whole on the first.
@@ -44,6 +59,14 @@ enum class CardSide {
 
 enum class ReportOutput { Preview, Printer, PdfFile };
 
+enum class ReportResult {
+    Done,
+    Cancelled,
+    NoPrinter,    ///< no printer is installed
+    PrinterGone,  ///< the chosen printer, or a default one, is not there or does not answer
+    Failed        ///< cause in the log
+};
+
 struct ReportRequest {
     std::string layoutName;   ///< "tilibcenter.rpt"
     std::string title;        ///< of the print job and the preview window
@@ -54,6 +77,9 @@ struct ReportRequest {
     std::string printerName = {};           ///< empty: the default printer
     std::array<std::string, 3> trays = {};  ///< the first that is not blank names the source
     std::string pdfPath = {};
+    /// Carries out the preview's command "Imprimir", tells of failures itself and does not throw;
+    /// without it the previewed pages are printed as they are.
+    std::function<ReportResult()> printPreviewed = {};
 };
 
 /// Gives one card's rows after the other; nullopt ends the run. Called once a card, so that no
@@ -63,13 +89,6 @@ using CardSource = std::function<std::optional<std::vector<CardRow>>()>;
 /// Told after each card; false cancels the run.
 using CardProgress = std::function<bool(int cardsDone)>;
 
-enum class ReportResult {
-    Done,
-    Cancelled,
-    NoPrinter,  ///< no printer is installed
-    Failed      ///< cause in the log
-};
-
 class ReportEngine {
   public:
     virtual ~ReportEngine() = default;
@@ -77,6 +96,9 @@ class ReportEngine {
     /// A damaged or missing layout prints nothing: file and line go to the log.
     [[nodiscard]] virtual ReportResult print(const ReportRequest& request, const CardSource& cards,
                                              const CardProgress& progress) = 0;
+
+    /// One sentence for the operator on the last run that did not end well; may be empty.
+    [[nodiscard]] virtual std::string explanation() const = 0;
 
     /// How many sides of a card the layout fills, 1 or 2. 1 as well for a layout that is missing or
     /// damaged: printing it tells.

@@ -37,7 +37,7 @@ class PaperInAFile final : public ReportEngine {
         }
         return engine_->print(toFile, cards, progress);
     }
-
+    [[nodiscard]] std::string explanation() const override { return engine_->explanation(); }
     [[nodiscard]] int sidesOf(const std::string& layoutName) override {
         return engine_->sidesOf(layoutName);
     }
@@ -45,6 +45,15 @@ class PaperInAFile final : public ReportEngine {
   private:
     std::unique_ptr<ReportEngine> engine_;
     std::string path_;
+};
+
+/// Two printers, of which the second is the default one.
+struct TwoPrinters final : Printers {
+    std::vector<std::string> names() const override {
+        return {"HP-LaserJet-Balcao", "Epson-L3250"};
+    }
+    std::string defaultName() const override { return "Epson-L3250"; }
+    bool openAddDialogue() override { return false; }
 };
 
 /// The letters of a desktop, on a machine that has none.
@@ -84,7 +93,8 @@ int main(int argc, char** argv) {
                      },
                      [](const FileSystem& files, Browser& browser) -> std::unique_ptr<TextEditor> {
                          return std::make_unique<TextViewer>(files, browser);
-                     }});
+                     },
+                     [] { return std::make_unique<TwoPrinters>(); }});
     if (!program.start()) return 1;
     Player player(folder);
     writeMonth(player);

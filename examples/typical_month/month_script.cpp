@@ -159,12 +159,36 @@ void applyCards(Player& player) {
     player.click("card.close"_t);
 }
 
+void lookAtPrinters(Player& player) {
+    player.click("cartao.printer"_t);
+    player.tick("impressorar.kind.installed"_t, true);
+    player.choose("impressorar.printers"_t, "LaserJet"_t);
+    player.picture("impressoras"_t);
+    player.tick("impressorar.kind.default"_t, true);
+    player.click("impressorar.close"_t);
+}
+
+/// Moves the print back to where it began, so that the cards lie where they belong.
+void alignPrint(Player& player) {
+    player.click("cartao.alignment"_t);
+    for (int step = 0; step < 3; ++step)
+        player.click("alinhamento.right"_t);
+    player.picture("alinhamento"_t);
+    player.openTab("cartaoPontos.tabs"_t, "calibração"_t);
+    player.picture("calibracao"_t);
+    player.click("cartaoPontos.reset"_t);
+    player.answer("Confirma a Volta de Todos os Alinhamentos ao Padrão?"_t, Answer::Yes);
+    player.click("cartaoPontos.close"_t);
+}
+
 void printCards(Player& player) {
     player.click("menu.print.open"_t);
     player.click("cartao.stock"_t);
     player.tick("tipoPonto.stocks.01"_t, true);
     player.picture("tipo"_t);
     player.click("tipoPonto.close"_t);
+    lookAtPrinters(player);
+    alignPrint(player);
     player.choose("cartao.employees"_t, "001"_t);
     player.picture("imprimir"_t);
     player.tick("cartao.output.preview"_t, true);

@@ -13,4 +13,7 @@ namespace winvrx {
 using CardTextRow = std::array<QString, kCardColumns.size()>;
 using CardText = std::vector<CardTextRow>;
 
+/// The rows of a card as they stand, without the card table.
+[[nodiscard]] CardText cardText(const std::vector<CardRow>& rows);
+
 }  // namespace winvrx

@@ -34,6 +34,10 @@ QString countText(std::size_t cards) {
                       : QStringLiteral("%1 cartões").arg(static_cast<qulonglong>(cards));
 }
 
+QDir documents() {
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+}
+
 QString listText(const Employee& employee) {
     return toQt(employee.code) + QStringLiteral("   ") + toQt(employee.name);
 }
@@ -55,18 +59,27 @@ CartaoWindow::CartaoWindow(Cartao& cartao, CartaoLinks links, QWidget* parent)
 }
 
 void CartaoWindow::buildCommands() {
-    QToolButton* stock =
-        addCommand(QStringLiteral("stock"), QStringLiteral("Tipo de Cartão"),
-                   QKeySequence(Qt::CTRL | Qt::Key_T), QStringLiteral("cartao.stock"));
-    connect(stock, &QToolButton::clicked, this, [this] { visit(links_.openStocks); });
-    QToolButton* month =
-        addCommand(QStringLiteral("month"), QStringLiteral("Mês Trabalho (Todos)"),
-                   QKeySequence(Qt::CTRL | Qt::Key_M), QStringLiteral("cartao.month"));
-    connect(month, &QToolButton::clicked, this, [this] { visit(links_.openWorkMonth); });
-    QToolButton* printer =
-        addCommand(QStringLiteral("printer-settings"), QStringLiteral("Selecionar Impressora"), {},
-                   QStringLiteral("cartao.printer"));
-    printer->setEnabled(false);
+    struct Command {
+        const char* icon;
+        QString text;
+        QKeySequence key;
+        const char* name;
+        const std::function<void(QWidget*)>& screen;
+    };
+    const Command commands[] = {{"stock", QStringLiteral("Tipo de Cartão"), Qt::CTRL | Qt::Key_T,
+                                 "stock", links_.openStocks},
+                                {"month", QStringLiteral("Mês Trabalho (Todos)"),
+                                 Qt::CTRL | Qt::Key_M, "month", links_.openWorkMonth},
+                                {"printer-settings", QStringLiteral("Selecionar Impressora"),
+                                 Qt::CTRL | Qt::Key_R, "printer", links_.openPrinters},
+                                {"align", QStringLiteral("Ajuste de Impressão"),
+                                 Qt::CTRL | Qt::Key_J, "alignment", links_.openAlignment}};
+    for (const Command& one : commands) {
+        QToolButton* button = addCommand(QLatin1String(one.icon), one.text, one.key,
+                                         QStringLiteral("cartao.") + QLatin1String(one.name));
+        connect(button, &QToolButton::clicked, this,
+                [this, &screen = one.screen] { visit(screen); });
+    }
 }
 
 void CartaoWindow::buildClosingButtons() {
@@ -180,18 +193,24 @@ void CartaoWindow::connectAll() {
 }
 
 void CartaoWindow::visit(const std::function<void(QWidget*)>& screen) {
+    (void)cartao_.remember();
     if (screen) screen(this);
     cartao_.load();
     showList();
 }
 
+bool CartaoWindow::mayClose() {
+    (void)cartao_.remember();
+    return true;
+}
+
 void CartaoWindow::printOne() {
-    (void)cartao_.printOne(selected(), {.choosePdf = pdfChooser()});
+    (void)cartao_.printOne(selected(), runWith(nullptr));
 }
 
 void CartaoWindow::printAll() {
     if (cartao_.choices().mode == PrintMode::OneAtATime) {
-        (void)cartao_.printAll({.choosePdf = pdfChooser()});
+        (void)cartao_.printAll(runWith(nullptr));
         return;
     }
     QProgressDialog dialog(QStringLiteral("Preparando os cartões…"), QStringLiteral("Cancelar"), 0,
@@ -200,21 +219,32 @@ void CartaoWindow::printAll() {
     dialog.setWindowTitle(QStringLiteral("IMPRIMINDO"));
     dialog.setWindowModality(Qt::WindowModal);
     dialog.setMinimumDuration(kPatience);
-    const auto progress = [&dialog](int done, int total) {
-        dialog.setLabelText(QStringLiteral("Cartão %1 de %2").arg(done).arg(total));
-        dialog.setValue(done);
-        return !dialog.wasCanceled();
-    };
-    (void)cartao_.printAll({.progress = progress, .choosePdf = pdfChooser()});
+    (void)cartao_.printAll(runWith(&dialog));
 }
 
-std::function<std::string(const std::string&)> CartaoWindow::pdfChooser() {
-    return [this](const std::string& proposedName) {
-        const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-        return toUtf8(QFileDialog::getSaveFileName(this, QStringLiteral("Gravar em PDF"),
-                                                   documents.filePath(toQt(proposedName)),
-                                                   QStringLiteral("PDF (*.pdf)")));
-    };
+PrintRun CartaoWindow::runWith(QProgressDialog* dialog) {
+    PrintRun run{
+        .choosePdf = [this](const std::string& proposedName) { return choosePdf(proposedName); },
+        .choosePdfFolder = [this] { return choosePdfFolder(); }};
+    if (dialog)
+        run.progress = [dialog](int done, int total) {
+            dialog->setMaximum(total);
+            dialog->setLabelText(QStringLiteral("Cartão %1 de %2").arg(done).arg(total));
+            dialog->setValue(done);
+            return !dialog->wasCanceled();
+        };
+    return run;
+}
+
+std::string CartaoWindow::choosePdf(const std::string& proposedName) {
+    return toUtf8(QFileDialog::getSaveFileName(this, QStringLiteral("Gravar em PDF"),
+                                               documents().filePath(toQt(proposedName)),
+                                               QStringLiteral("PDF (*.pdf)")));
+}
+
+std::string CartaoWindow::choosePdfFolder() {
+    return toUtf8(QFileDialog::getExistingDirectory(this, QStringLiteral("Pasta dos arquivos PDF"),
+                                                    documents().path()));
 }
 
 void CartaoWindow::showList() {
@@ -239,14 +269,14 @@ void CartaoWindow::showList() {
 
 void CartaoWindow::showPreview() {
     const QString text = toQt(cartao_.headerPreview(selected()));
-    header_->setEnabled(!text.isEmpty() && cartao_.choices().printHeader);
+    header_->setEnabled(!text.isEmpty() && cartao_.choices().printer.printHeader);
     if (!text.isEmpty())
         header_->setText(text);
     else if (!cartao_.month())
         header_->setText(QStringLiteral("Escolha o mês de trabalho em \"Mês Trabalho (Todos)\"."));
     else
         header_->setText(QStringLiteral("Selecione um funcionário na lista."));
-    headerHint_->setText(cartao_.choices().printHeader
+    headerHint_->setText(cartao_.choices().printer.printHeader
                              ? QString()
                              : QStringLiteral("Não será impresso: vale o cabeçalho do cartão."));
 }
@@ -255,7 +285,7 @@ void CartaoWindow::showContext() {
     const QString stock = toQt(trimmed(cartao_.stockLabel()));
     const QString printer = cartao_.printerName().empty() ? QStringLiteral("impressora padrão")
                                                           : toQt(cartao_.printerName());
-    const bool central = cartao_.choices().tray == TrayPosition::Central;
+    const bool central = cartao_.choices().printer.tray == TrayPosition::Central;
     setSubtitle(stock.isEmpty() ? QStringLiteral("Nenhum tipo de cartão escolhido")
                                 : QStringLiteral("Cartão ") + stock);
     setChips({toQt(cartao_.company().code) + QLatin1Char(' ') + toQt(cartao_.company().name),

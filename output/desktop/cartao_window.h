@@ -10,6 +10,7 @@
 class QComboBox;
 class QLabel;
 class QListWidget;
+class QProgressDialog;
 
 namespace winvrx {
 
@@ -20,6 +21,8 @@ class SearchBox;
 struct CartaoLinks {
     std::function<void(QWidget* parent)> openStocks;
     std::function<void(QWidget* parent)> openWorkMonth;
+    std::function<void(QWidget* parent)> openPrinters;
+    std::function<void(QWidget* parent)> openAlignment;
 };
 
 /// The time-card printing screen: employees at the left, header block and choices at the right.
@@ -29,6 +32,9 @@ class CartaoWindow : public ScreenWindow {
   public:
     /// `cartao` outlives the window; it is read again when the window opens.
     CartaoWindow(Cartao& cartao, CartaoLinks links, QWidget* parent = nullptr);
+
+  protected:
+    [[nodiscard]] bool mayClose() override;
 
   private:
     void buildCommands();
@@ -41,7 +47,9 @@ class CartaoWindow : public ScreenWindow {
     void visit(const std::function<void(QWidget*)>& screen);
     void printOne();
     void printAll();
-    [[nodiscard]] std::function<std::string(const std::string&)> pdfChooser();
+    [[nodiscard]] PrintRun runWith(QProgressDialog* dialog);
+    [[nodiscard]] std::string choosePdf(const std::string& proposedName);
+    [[nodiscard]] std::string choosePdfFolder();
 
     void showList();
     void showPreview();

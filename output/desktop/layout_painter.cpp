@@ -16,10 +16,15 @@ constexpr double kNarrowest = 0.6;
 
 const CardTextRow kNoRow;
 
-QPointF shiftOf(const Alignment& alignment, double rowPitch) {
+QTransform transformOf(const Alignment& alignment, double rowPitch) {
     constexpr double kUnitsPerTwip = kLayoutUnitsPerInch / kTwipsPerInch;
-    return {alignment.horizontalTwips * kUnitsPerTwip,
-            alignment.verticalTwips * kUnitsPerTwip + alignment.lines * rowPitch};
+    constexpr double kWhole = PrintScale().horizontalScale;
+    const PrintScale& scale = alignment.scale;
+    return QTransform::fromTranslate(0, alignment.lines * rowPitch) *
+           QTransform::fromScale(scale.horizontalScale / kWhole, scale.verticalScale / kWhole) *
+           QTransform::fromTranslate(
+               scale.horizontalOffset + alignment.horizontalTwips * kUnitsPerTwip,
+               scale.verticalOffset + alignment.verticalTwips * kUnitsPerTwip);
 }
 
 void compose(const LayoutText& text, const CardTextRow& row, QString& into) {
@@ -57,7 +62,7 @@ QPen penOf(const QColor& stroke, double width) {
 LayoutPainter::LayoutPainter(Layout layout, const Choice& choice)
     : layout_(std::move(layout)),
       choice_(choice),
-      shift_(shiftOf(choice.alignment, layout_.rowPitch)),
+      onPaper_(transformOf(choice.alignment, layout_.rowPitch)),
       runs_(layout_.inks.size()) {
     for (const Ink& ink : layout_.inks)
         fonts_.push_back(std::make_unique<GlyphFont>(ink));
@@ -66,11 +71,18 @@ LayoutPainter::LayoutPainter(Layout layout, const Choice& choice)
 LayoutPainter::~LayoutPainter() = default;
 
 void LayoutPainter::paint(QPainter& painter, const CardText& rows, int side) {
+    if (choice_.stock) paintSections(painter, true, rows, side);
+    const QTransform paper = painter.worldTransform();
+    painter.setWorldTransform(onPaper_, true);
+    paintSections(painter, false, rows, side);
+    painter.setWorldTransform(paper);
+}
+
+void LayoutPainter::paintSections(QPainter& painter, bool stock, const CardText& rows, int side) {
     for (const LayoutSection& section : layout_.sections) {
         if (section.side != 0 && section.side != side) continue;
         if (section.block == LayoutBlock::Header && !choice_.header) continue;
-        if (section.block == LayoutBlock::Stock && !choice_.stock) continue;
-        paintSection(painter, section, rows);
+        if ((section.block == LayoutBlock::Stock) == stock) paintSection(painter, section, rows);
     }
     flush(painter);
 }
@@ -78,13 +90,12 @@ void LayoutPainter::paint(QPainter& painter, const CardText& rows, int side) {
 void LayoutPainter::paintSection(QPainter& painter, const LayoutSection& section,
                                  const CardText& rows) {
     const bool isStock = section.block == LayoutBlock::Stock;
-    const QPointF origin = isStock ? QPointF() : shift_;
     const int present = isStock ? section.rows : static_cast<int>(rows.size()) - section.first;
     const int count = section.rows == 0 ? 1 : std::min(section.rows, present);
     for (int i = 0; i < count; ++i) {
         const auto position = static_cast<std::size_t>(section.first + i);
         const CardTextRow& row = position < rows.size() ? rows[position] : kNoRow;
-        const QPointF shift = origin + QPointF(0, i * section.pitch);
+        const QPointF shift = QPointF(0, i * section.pitch);
         for (const LayoutMark& mark : section.marks)
             paintMark(painter, mark, row, shift);
     }

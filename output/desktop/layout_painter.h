@@ -5,6 +5,7 @@
 #include "output/desktop/layout.h"
 
 #include <QPointF>
+#include <QTransform>
 
 #include <memory>
 
@@ -39,6 +40,7 @@ class LayoutPainter {
         std::vector<QPointF> positions;
     };
 
+    void paintSections(QPainter& painter, bool stock, const CardText& rows, int side);
     void paintSection(QPainter& painter, const LayoutSection& section, const CardText& rows);
     void paintMark(QPainter& painter, const LayoutMark& mark, const CardTextRow& row,
                    QPointF shift);
@@ -50,7 +52,7 @@ class LayoutPainter {
 
     Layout layout_;
     Choice choice_;
-    QPointF shift_;
+    QTransform onPaper_;  ///< from the layout to the paper that the printer needs
     std::vector<std::unique_ptr<GlyphFont>> fonts_;  ///< one for each ink
     std::vector<Run> runs_;                          ///< the same
     QString written_;

@@ -14,9 +14,19 @@ constexpr double kMillimetresPerInch = kLayoutUnitsPerInch / kLayoutUnitsPerMill
 
 }  // namespace
 
-PageView::PageView(LayoutPainter& painter, QWidget* parent) : QWidget(parent), painter_(painter) {
+PageView::PageView(LayoutPainter& painter, QWidget* parent) : QWidget(parent), painter_(&painter) {
     setAccessibleName(QStringLiteral("Folha"));
     setZoom(1);
+}
+
+void PageView::paintWith(LayoutPainter& painter) {
+    painter_ = &painter;
+    setZoom(zoom_);
+    update();
+}
+
+double PageView::scale() const {
+    return layoutScale(logicalDpiX()) * zoom_;
 }
 
 void PageView::showCard(CardText rows, int side) {
@@ -36,7 +46,7 @@ double PageView::zoomToFit(QSize room) const {
 }
 
 QSizeF PageView::realSize() const {
-    return painter_.layout().page * logicalDpiX() / kMillimetresPerInch;
+    return painter_->layout().page * logicalDpiX() / kMillimetresPerInch;
 }
 
 /// Paper is white and ink is black whatever the palette.
@@ -44,9 +54,8 @@ void PageView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    const double scale = layoutScale(logicalDpiX()) * zoom_;
-    painter.scale(scale, scale);
-    painter_.paint(painter, rows_, side_);
+    painter.scale(scale(), scale());
+    painter_->paint(painter, rows_, side_);
 }
 
 }  // namespace winvrx

@@ -15,6 +15,10 @@ class PageView : public QWidget {
   public:
     /// `painter` outlives the view.
     explicit PageView(LayoutPainter& painter, QWidget* parent = nullptr);
+    /// Paints through another painter from now on.
+    void paintWith(LayoutPainter& painter);
+    /// From the layout's units to the view's dots.
+    [[nodiscard]] double scale() const;
 
     void showCard(CardText rows, int side);
     /// 1 shows the sheet in its real size.
@@ -28,7 +32,7 @@ class PageView : public QWidget {
   private:
     [[nodiscard]] QSizeF realSize() const;
 
-    LayoutPainter& painter_;
+    LayoutPainter* painter_;
     CardText rows_;
     int side_ = 1;
     double zoom_ = 1;

@@ -13,8 +13,8 @@ namespace winvrx {
 class OptionGroup;
 class TextField;
 
-/// The choices of the printing screen: where to, how many at a time, how the card is fed and
-/// whether its header is printed.
+/// The choices of the printing screen: where to, how many at a time, how the card is fed and comes
+/// out, and whether its header is printed.
 class PrintChoicesBox : public QWidget {
     Q_OBJECT
 
@@ -30,6 +30,7 @@ class PrintChoicesBox : public QWidget {
     [[nodiscard]] OptionGroup* buildOutput();
     [[nodiscard]] OptionGroup* buildMode();
     [[nodiscard]] OptionGroup* buildTray();
+    [[nodiscard]] OptionGroup* buildCardOutput();
     [[nodiscard]] QWidget* buildHeaderChoice();
     [[nodiscard]] QWidget* buildPrinterTrays();
     void showChoices(const PrintChoices& choices);
@@ -38,6 +39,7 @@ class PrintChoicesBox : public QWidget {
     OptionGroup* output_;
     OptionGroup* mode_;
     OptionGroup* tray_;
+    OptionGroup* cardOutput_;
     QCheckBox* printHeader_ = nullptr;
     std::array<TextField*, 3> trays_{};
 };

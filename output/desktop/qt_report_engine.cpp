@@ -100,11 +100,17 @@ int QtReportEngine::sidesOf(const std::string& layoutName) {
 }
 
 ReportResult QtReportEngine::attempt(const std::function<ReportResult()>& run) {
+    const auto failed = [this](const std::exception& fault, ReportResult result) {
+        log_.write(std::string("report: ") + fault.what());
+        explanation_ = explanationOf(fault);
+        return result;
+    };
     try {
         return run();
+    } catch (const PrinterFault& fault) {
+        return failed(fault, ReportResult::PrinterGone);
     } catch (const std::exception& fault) {
-        log_.write(std::string("report: ") + fault.what());
-        return ReportResult::Failed;
+        return failed(fault, ReportResult::Failed);
     }
 }
 
@@ -135,18 +141,27 @@ ReportResult QtReportEngine::preview(const ReportRequest& request, const Layout&
     return result;
 }
 
-/// A print that fails closes the preview, so that the caller tells it in the system's words.
+/// A print that fails closes the preview, so that the caller tells it in the system's words. One
+/// that the operator cancelled leaves it open.
+ReportResult QtReportEngine::printFrom(PreviewWindow& window, const ReportRequest& request,
+                                       const Layout& layout, CardSpool& spool) {
+    ReportRequest toPrinter = request;
+    toPrinter.output = ReportOutput::Printer;
+    const ReportResult result =
+        request.printPreviewed ? request.printPreviewed() : printSpool(toPrinter, layout, spool);
+    if (result == ReportResult::Done)
+        window.tell(sentence(static_cast<qsizetype>(spool.size())));
+    else if (result == ReportResult::Cancelled)
+        window.tell(QStringLiteral("Impressão cancelada"));
+    else
+        window.accept();
+    return result;
+}
+
 void QtReportEngine::connectCommands(PreviewWindow& window, const ReportRequest& request,
                                      const Layout& layout, CardSpool& spool, ReportResult& result) {
-    QObject::connect(&window, &PreviewWindow::printRequested, &window, [&] {
-        ReportRequest toPrinter = request;
-        toPrinter.output = ReportOutput::Printer;
-        result = printSpool(toPrinter, layout, spool);
-        if (result == ReportResult::Done)
-            window.tell(sentence(static_cast<qsizetype>(spool.size())));
-        else
-            window.accept();
-    });
+    QObject::connect(&window, &PreviewWindow::printRequested, &window,
+                     [&] { result = printFrom(window, request, layout, spool); });
     QObject::connect(&window, &PreviewWindow::pdfRequested, &window, [&](const QString& path) {
         ReportRequest toFile = request;
         toFile.output = ReportOutput::PdfFile;

@@ -37,6 +37,7 @@ class QtReportEngine final : public ReportEngine {
 
     [[nodiscard]] ReportResult print(const ReportRequest& request, const CardSource& cards,
                                      const CardProgress& progress) override;
+    [[nodiscard]] std::string explanation() const override { return explanation_; }
     [[nodiscard]] int sidesOf(const std::string& layoutName) override;
 
   private:
@@ -47,6 +48,8 @@ class QtReportEngine final : public ReportEngine {
                                    const CardProgress& progress);
     [[nodiscard]] ReportResult preview(const ReportRequest& request, const Layout& layout,
                                        const Pages& pages, const CardProgress& progress);
+    [[nodiscard]] ReportResult printFrom(PreviewWindow& window, const ReportRequest& request,
+                                         const Layout& layout, CardSpool& spool);
     void connectCommands(PreviewWindow& window, const ReportRequest& request, const Layout& layout,
                          CardSpool& spool, ReportResult& result);
     [[nodiscard]] ReportResult printSpool(ReportRequest request, const Layout& layout,
@@ -55,6 +58,7 @@ class QtReportEngine final : public ReportEngine {
     Places places_;
     Browser& browser_;
     Log& log_;
+    std::string explanation_;
 };
 
 }  // namespace winvrx

@@ -3,6 +3,7 @@
 #include "foundation/desktop/qt_text.h"
 #include "foundation/faults.h"
 #include "output/desktop/layout_painter.h"
+#include "output/desktop/system_printers.h"
 
 #include <QPageLayout>
 #include <QPainter>
@@ -63,12 +64,15 @@ class PdfDevice final : public ReportDevice {
 };
 
 QPrinterInfo printerOf(const std::string& name) {
-    const QPrinterInfo info =
-        name.empty() ? QPrinterInfo::defaultPrinter() : QPrinterInfo::printerInfo(toQt(name));
+    std::optional<std::string> found = name;
+    if (!name.empty()) found = installedPrinter(SystemPrinters::installed(), name);
+    const QPrinterInfo info = name.empty() ? QPrinterInfo::defaultPrinter()
+                              : found      ? QPrinterInfo::printerInfo(toQt(*found))
+                                           : QPrinterInfo();
     if (info.isNull())
-        throw Fault(name.empty() ? "no default printer" : "no printer of the name " + name,
-                    name.empty() ? "Nenhuma impressora padrão está definida."
-                                 : "A impressora " + name + " não foi encontrada.");
+        throw PrinterFault(name.empty() ? "no default printer" : "no printer of the name " + name,
+                           name.empty() ? "Nenhuma impressora padrão está definida."
+                                        : "A impressora " + name + " não foi encontrada.");
     return info;
 }
 
@@ -118,8 +122,8 @@ class PrinterDevice final : public ReportDevice {
   private:
     [[noreturn]] void fail(const std::string& cause) const {
         const std::string name = printer_.printerName().toStdString();
-        throw Fault("printer " + name + " " + cause,
-                    "A impressora " + name + " não pôde ser usada.");
+        throw PrinterFault("printer " + name + " " + cause,
+                           "A impressora " + name + " não pôde ser usada.");
     }
 
     QPrinter printer_;
@@ -129,7 +133,7 @@ class PrinterDevice final : public ReportDevice {
 }  // namespace
 
 bool hasPrinters() {
-    return !QPrinterInfo::availablePrinterNames().isEmpty();
+    return !SystemPrinters::installed().empty();
 }
 
 std::unique_ptr<ReportDevice> openDevice(const ReportRequest& request, QSizeF page) {

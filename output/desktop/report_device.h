@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/faults.h"
 #include "output/report_engine.h"
 
 #include <QSizeF>
@@ -9,6 +10,12 @@
 class QPainter;
 
 namespace winvrx {
+
+/// A printer that is not there or does not answer.
+class PrinterFault : public Fault {
+  public:
+    using Fault::Fault;
+};
 
 /// Where the pages of a run go. All functions throw Fault.
 ///

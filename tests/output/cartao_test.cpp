@@ -2,8 +2,10 @@
 
 #include "foundation/company_register.h"
 #include "foundation/employee_register.h"
+#include "output/print_settings.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
+#include "tests/support/test_printers.h"
 #include "tests/support/test_workplace.h"
 #include "timecard/selected_month.h"
 
@@ -14,6 +16,7 @@ namespace {
 
 using testing::RecordingEngine;
 using testing::TestBrowser;
+using testing::TestPrinters;
 using testing::TestWorkplace;
 using Texts = std::vector<std::string>;
 
@@ -27,6 +30,7 @@ const std::string kCancelOthers = "Deseja Cancelar as demais Impressões? ";
 const std::string kWrongDrive =
     "Diretório Inválido p/ Impressão! Transfira os dados do diretório atual para o Diretório 'C'.";
 const std::string kFailed = "Erro na Impressão do Relatório.";
+const std::string kPrinterGone = "ERRO AO IMPRIMIR";
 const std::string kNoPrinter =
     "ERRO NA IMPRESSÃO DO RELATÓRIO - Isto ocorre quando não há Impressoras Instalada no PC!";
 
@@ -66,7 +70,9 @@ class CartaoTest : public ::testing::Test {
     TestWorkplace desk;
     TestBrowser browser;
     RecordingEngine engine;
-    Cartao screen{desk.at, browser, engine};
+    TestPrinters printers;
+    AlignmentMemory alignment;
+    Cartao screen{desk.at, {browser, engine, printers, alignment}};
 };
 
 class CartaoOpened : public CartaoTest {
@@ -138,9 +144,9 @@ TEST_F(CartaoOpened, OneRunIsOneJobOfSetA) {
     desk.file("ConfigX") = "HP LaserJet\r\n";
     desk.file("01CartaoDePontoTipo") = "10DISNIBRA\r\n";
     screen.load();
-    screen.choices().tray = TrayPosition::Lateral;
-    screen.choices().trays = {"1", "", "Manual"};
-    screen.choices().printHeader = false;
+    screen.choices().printer.tray = TrayPosition::Lateral;
+    screen.choices().printer.trays = {"1", "", "Manual"};
+    screen.choices().printer.printHeader = false;
     std::vector<std::pair<int, int>> told;
     EXPECT_TRUE(screen.printAll({.progress = [&told](int done, int total) {
         told.emplace_back(done, total);
@@ -175,7 +181,7 @@ TEST_F(CartaoOpened, LayoutFollowsStockTrayAndMode) {
           Case{"05", TrayPosition::Lateral, PrintMode::OneAtATime, "madisleft.rpt"}}) {
         desk.file("01CartaoDePontoTipo") = one.stock;
         screen.load();
-        screen.choices().tray = one.tray;
+        screen.choices().printer.tray = one.tray;
         screen.choices().mode = one.mode;
         desk.person.answers = {Answer::Yes, Answer::Yes};
         EXPECT_TRUE(screen.printOne(0, {}));
@@ -251,6 +257,7 @@ TEST_F(CartaoTest, OnlyDriveCPrints) {
 TEST_F(CartaoOpened, FailedCardEndsTheRun) {
     screen.choices().mode = PrintMode::OneAtATime;
     for (const auto& [result, text] : {std::pair(ReportResult::Failed, kFailed),
+                                       std::pair(ReportResult::PrinterGone, kPrinterGone),
                                        std::pair(ReportResult::NoPrinter, kNoPrinter)}) {
         engine.jobs.clear();
         engine.results = {ReportResult::Done, result};
@@ -309,9 +316,147 @@ TEST_F(CartaoOpened, PdfIsAskedForOnceAJob) {
     desk.person.answers = {Answer::Yes, Answer::No, Answer::Yes};
     EXPECT_FALSE(screen.printAll(run));
     EXPECT_EQ(proposed, (Texts{"CARTÃO PONTO EMPRESA MODELO LTDA 03-2024.pdf",
-                               "CARTÃO PONTO JOSÉ DA SILVA 03-2024.pdf",
-                               "CARTÃO PONTO ANA PAULA 03-2024.pdf"}));
+                               "CARTÃO PONTO 001 JOSÉ DA SILVA 03-2024.pdf",
+                               "CARTÃO PONTO 002 ANA PAULA 03-2024.pdf"}));
     EXPECT_EQ(engine.jobs.size(), 2U);
+}
+
+TEST_F(CartaoOpened, OnePdfForEachEmployeeGoesIntoOneFolder) {
+    screen.choices().output = ReportOutput::PdfFile;
+    screen.choices().pdfFiles = PdfFiles::OneForEach;
+    std::string folder;
+    const PrintRun run{.choosePdfFolder = [&folder] { return folder; }};
+    EXPECT_FALSE(screen.printAll(run));
+    EXPECT_TRUE(engine.jobs.empty());
+
+    folder = "/home/cards";
+    EXPECT_TRUE(screen.printAll(run));
+    Texts paths;
+    for (const auto& job : engine.jobs)
+        paths.push_back(job.request.pdfPath);
+    EXPECT_EQ(paths, (Texts{"/home/cards/CARTÃO PONTO 001 JOSÉ DA SILVA 03-2024.pdf",
+                            "/home/cards/CARTÃO PONTO 002 ANA PAULA 03-2024.pdf",
+                            "/home/cards/CARTÃO PONTO 003 RUI BARBOSA 03-2024.pdf"}));
+    EXPECT_EQ(printed(), (Texts{"JOSÉ DA SILVA", "ANA PAULA", "RUI BARBOSA"}));
+    EXPECT_TRUE(desk.person.shown.empty());
+
+    desk.files.content[paths[1]] = "of yesterday";
+    EXPECT_FALSE(screen.printAll(run));
+    EXPECT_EQ(desk.person.takeTexts(),
+              Texts{"Já existem nesta pasta arquivos destes cartões. Deseja substituí-los?"});
+    EXPECT_EQ(engine.jobs.size(), 3U);
+    desk.person.answers = {Answer::Yes};
+    EXPECT_TRUE(screen.printAll(run));
+    EXPECT_EQ(engine.jobs.size(), 6U);
+}
+
+/// Name and first day of each printed page.
+Texts pagesOf(const std::vector<RecordingEngine::Job>& jobs) {
+    Texts pages;
+    for (const auto& job : jobs)
+        for (const auto& card : job.cards)
+            pages.push_back(card[0][cardColumn("nome")] + " " + card[0][cardColumn("dia")]);
+    return pages;
+}
+
+TEST_F(CartaoOpened, TwoSidesArePrintedOneAfterTheOther) {
+    engine.sides = 2;
+    std::vector<std::pair<int, int>> told;
+    const PrintRun run{.progress = [&told](int done, int total) {
+        told.emplace_back(done, total);
+        return true;
+    }};
+    const Texts first = {"JOSÉ DA SILVA 01", "ANA PAULA 01", "RUI BARBOSA 01"};
+    struct Case {
+        CardOutput output;
+        Texts second;
+    };
+    for (const Case& one :
+         {Case{CardOutput::FaceDown, {"RUI BARBOSA 16", "ANA PAULA 16", "JOSÉ DA SILVA 16"}},
+          Case{CardOutput::FaceUp, {"JOSÉ DA SILVA 16", "ANA PAULA 16", "RUI BARBOSA 16"}}}) {
+        engine.jobs.clear();
+        told.clear();
+        screen.choices().printer.output = one.output;
+        desk.person.answers = {Answer::Yes};
+        EXPECT_TRUE(screen.printAll(run));
+        EXPECT_EQ(desk.person.shown.at(0).detail, stackInstruction(one.output, 3));
+        desk.person.shown.clear();
+        ASSERT_EQ(engine.jobs.size(), 2U);
+        EXPECT_EQ(pagesOf({engine.jobs[0]}), first);
+        EXPECT_EQ(pagesOf({engine.jobs[1]}), one.second);
+        EXPECT_EQ(told.front(), std::pair(1, 6));
+        EXPECT_EQ(told.back(), std::pair(6, 6));
+    }
+}
+
+TEST_F(CartaoOpened, TheSecondSideIsLeftOnlyByDecision) {
+    engine.sides = 2;
+    const std::string second =
+        "O primeiro lado já foi enviado. Deseja imprimir o segundo lado agora?";
+    const std::string leave = "Deseja deixar os cartões impressos somente no primeiro lado?";
+    desk.person.answers = {Answer::No, Answer::No, Answer::No, Answer::Yes};
+    EXPECT_FALSE(screen.printAll({}));
+    EXPECT_EQ(desk.person.takeTexts(), (Texts{second, leave, second, leave}));
+    EXPECT_EQ(engine.jobs.size(), 1U);
+    engine.results = {ReportResult::Failed};
+    EXPECT_FALSE(screen.printAll({}));
+    EXPECT_EQ(desk.person.takeTexts(), Texts{kFailed});
+}
+
+TEST_F(CartaoOpened, TwoSidesAreSeenTogether) {
+    engine.sides = 2;
+    const Texts both = {"JOSÉ DA SILVA 01", "JOSÉ DA SILVA 16"};
+    screen.setSearch("jose");
+    screen.choices().output = ReportOutput::PdfFile;
+    EXPECT_TRUE(screen.printAll({.choosePdf = [](const std::string& name) { return "/" + name; }}));
+    EXPECT_EQ(pagesOf(engine.jobs), both);
+
+    engine.jobs.clear();
+    screen.choices().output = ReportOutput::Preview;
+    bool printedFromThere = false;
+    engine.whilePreviewed = [&](const ReportRequest& request) {
+        desk.person.answers = {Answer::Yes};
+        printedFromThere = request.printPreviewed() == ReportResult::Done;
+        engine.results = {ReportResult::NoPrinter};
+        EXPECT_EQ(request.printPreviewed(), ReportResult::Cancelled);
+    };
+    EXPECT_TRUE(screen.printAll({}));
+    EXPECT_TRUE(printedFromThere);
+    ASSERT_EQ(engine.jobs.size(), 4U);
+    EXPECT_EQ(pagesOf({engine.jobs[0]}), both);
+    EXPECT_EQ(engine.jobs[1].request.output, ReportOutput::Printer);
+    EXPECT_EQ(pagesOf({engine.jobs[1], engine.jobs[2]}), both);
+    EXPECT_EQ(desk.person.shown.back().text, kNoPrinter);
+}
+
+TEST_F(CartaoOpened, AlignmentAndPrinterAreThoseOfTheStockInUse) {
+    saveOffsets(desk.files, desk.session.folder, *alignmentEntryOf("20"), {50, 70});
+    savePrintScale(desk.files, desk.session.folder, {{"Epson", "20"}, {10100, 9900, 5, -5}});
+    alignment.lines = 2;
+    EXPECT_TRUE(screen.printAll({}));
+    EXPECT_EQ(engine.jobs.at(0).request.printerName, "");
+    EXPECT_EQ(engine.jobs.at(0).request.alignment, (Alignment{70, 50, 2, {10100, 9900, 5, -5}}));
+    savePrinterName(desk.files, desk.session.folder, "Impressora-da-recepcao-do-3o-andar");
+    screen.load();
+    EXPECT_TRUE(screen.printAll({}));
+    EXPECT_EQ(engine.jobs.at(1).request.printerName, "Impressora-da-recepcao-do-3o-a");
+    EXPECT_EQ(engine.jobs.at(1).request.alignment.scale, PrintScale());
+}
+
+TEST_F(CartaoOpened, WhatTheScreenRemembersIsWrittenWhenItChanged) {
+    EXPECT_TRUE(screen.remember());
+    EXPECT_FALSE(desk.files.exists("/data/01Impresstec"));
+    screen.choices().printer.tray = TrayPosition::Lateral;
+    desk.files.failWritesOn = {"01Impresstec"};
+    EXPECT_FALSE(screen.remember());
+    EXPECT_EQ(desk.person.takeTexts(), Texts{"Dados incorretos!"});
+    desk.files.failWritesOn.clear();
+    screen.load();
+    EXPECT_EQ(screen.choices().printer.tray, TrayPosition::Lateral) << "typed and not yet written";
+    EXPECT_TRUE(screen.remember());
+    Cartao reopened(desk.at, {browser, engine, printers, alignment});
+    reopened.load();
+    EXPECT_EQ(reopened.choices().printer.tray, TrayPosition::Lateral);
 }
 
 TEST_F(CartaoOpened, CardIsMadeOfTheEmployeesRecords) {

@@ -19,7 +19,10 @@ class RecordingEngine final : public ReportEngine {
     std::vector<Job> jobs;
     /// Results of the coming jobs; Done when used up. A job that does not end Done takes no card.
     std::deque<ReportResult> results;
-    int sides = 1;  ///< of every layout
+    /// What the operator does in a preview.
+    std::function<void(const ReportRequest&)> whilePreviewed;
+    int sides = 1;    ///< of every layout
+    std::string why;  ///< the explanation of a failed job
 
     [[nodiscard]] ReportResult print(const ReportRequest& request, const CardSource& cards,
                                      const CardProgress& progress) override {
@@ -34,9 +37,10 @@ class RecordingEngine final : public ReportEngine {
             if (!progress(static_cast<int>(jobs.back().cards.size())))
                 return ReportResult::Cancelled;
         }
+        if (request.output == ReportOutput::Preview && whilePreviewed) whilePreviewed(request);
         return ReportResult::Done;
     }
-
+    [[nodiscard]] std::string explanation() const override { return why; }
     [[nodiscard]] int sidesOf(const std::string&) override { return sides; }
 };
 

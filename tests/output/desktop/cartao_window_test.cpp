@@ -5,6 +5,7 @@
 #include "foundation/employee_register.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
+#include "tests/support/test_printers.h"
 #include "tests/support/test_workplace.h"
 #include "timecard/selected_month.h"
 
@@ -23,6 +24,7 @@ namespace {
 
 using testing::RecordingEngine;
 using testing::TestBrowser;
+using testing::TestPrinters;
 using testing::TestWorkplace;
 
 template <typename Widget>
@@ -70,7 +72,9 @@ class CartaoWindowTest : public ::testing::Test {
     TestWorkplace desk;
     TestBrowser browser;
     RecordingEngine engine;
-    Cartao cartao{desk.at, browser, engine};
+    TestPrinters printers;
+    AlignmentMemory alignment;
+    Cartao cartao{desk.at, {browser, engine, printers, alignment}};
 };
 
 TEST_F(CartaoWindowTest, ChoicesReachThePrintedJob) {

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace winvrx {
+
+/// The printers of the system.
+class Printers {
+  public:
+    virtual ~Printers() = default;
+
+    /// The installed printers, in the system's order. Asked anew each time.
+    [[nodiscard]] virtual std::vector<std::string> names() const = 0;
+    /// Empty when there is none.
+    [[nodiscard]] virtual std::string defaultName() const = 0;
+    /// Opens the system's own dialogue for adding a printer; false when there is none.
+    [[nodiscard]] virtual bool openAddDialogue() = 0;
+};
+
+/// An entry of the list of printers: its number, and the name in characters 5 to 34.
+///
+///     printerEntry(1, "HP LaserJet")      "001 HP LaserJet                   "
+[[nodiscard]] std::string printerEntry(std::size_t number, std::string_view name);
+
+/// Characters 5 to 34 of an entry, blanks trimmed.
+[[nodiscard]] std::string printerOfEntry(std::string_view entry);
+
+/// The installed printer that a name from an entry stands for: the printer of that name, else the
+/// only one whose first 30 characters it is. nullopt where there is none, or more than one.
+[[nodiscard]] std::optional<std::string> installedPrinter(const std::vector<std::string>& installed,
+                                                          std::string_view name);
+
+}  // namespace winvrx
