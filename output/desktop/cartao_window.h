@@ -19,10 +19,10 @@ class SearchBox;
 
 /// The screens that the printing screen opens. Each returns when its screen is closed.
 struct CartaoLinks {
-    std::function<void(QWidget* parent)> openStocks;
-    std::function<void(QWidget* parent)> openWorkMonth;
-    std::function<void(QWidget* parent)> openPrinters;
-    std::function<void(QWidget* parent)> openAlignment;
+    std::function<void(QWidget* parent)> openStocks = {};
+    std::function<void(QWidget* parent)> openWorkMonth = {};
+    std::function<void(QWidget* parent)> openPrinters = {};
+    std::function<void(QWidget* parent)> openAlignment = {};
 };
 
 /// The time-card printing screen: employees at the left, header block and choices at the right.

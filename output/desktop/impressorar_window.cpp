@@ -77,9 +77,11 @@ QWidget* ImpressorarWindow::buildBody() {
 void ImpressorarWindow::connectAll() {
     connect(this, &ScreenWindow::helpRequested, this, [this] { screen_.help(); });
     connect(kind_, &OptionGroup::picked, this, &ImpressorarWindow::chooseKind);
-    connect(list_, &QListWidget::currentRowChanged, this, &ImpressorarWindow::chooseRow);
-    connect(list_, &QListWidget::itemClicked, this,
-            [this](QListWidgetItem* item) { chooseRow(list_->row(item)); });
+    // A list that gets the focus has a current row before anybody picked one.
+    connect(list_, &QListWidget::itemSelectionChanged, this, [this] {
+        if (!list_->selectedItems().isEmpty())
+            chooseRow(list_->row(list_->selectedItems().front()));
+    });
 }
 
 void ImpressorarWindow::changeEvent(QEvent* event) {
@@ -103,11 +105,11 @@ void ImpressorarWindow::chooseKind(int kind) {
         return;
     }
     list_->setFocus();
-    setState(QStringLiteral("Escolha a impressora na lista."));
+    setState(QStringLiteral("Escolha a impressora na lista, com as setas ou com Espaço."));
 }
 
 void ImpressorarWindow::chooseRow(int row) {
-    if (row < 0 || screen_.printers().at(static_cast<std::size_t>(row)) == screen_.chosen()) return;
+    if (screen_.printers().at(static_cast<std::size_t>(row)) == screen_.chosen()) return;
     if (screen_.use(static_cast<std::size_t>(row)))
         showChoice();
     else  // The list is not to change while it tells of a row.
@@ -128,7 +130,8 @@ void ImpressorarWindow::showChoice() {
     const QSignalBlocker quiet(list_);
     const auto& names = screen_.printers();
     const auto chosen = std::ranges::find(names, screen_.chosen());
-    list_->setCurrentRow(chosen == names.end() ? -1 : static_cast<int>(chosen - names.begin()));
+    list_->clearSelection();
+    if (chosen != names.end()) list_->setCurrentRow(static_cast<int>(chosen - names.begin()));
     const bool isDefault = screen_.chosen().empty();
     kind_->choose(isDefault ? kDefault : kInstalled);
     const std::string name = isDefault ? screen_.defaultPrinter() : screen_.chosen();

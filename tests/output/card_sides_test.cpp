@@ -1,44 +1,16 @@
 #include "output/card_sides.h"
 
 #include "output/pdf_name.h"
-#include "output/sample_card.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 
 namespace winvrx {
 namespace {
 
 constexpr WorkMonth kMarch = std::chrono::year(2024) / 3;
-
-std::vector<std::string> daysOf(const std::vector<CardRow>& rows) {
-    std::vector<std::string> days;
-    for (const CardRow& row : rows)
-        days.push_back(row[cardColumn("dia")]);
-    return days;
-}
-
-TEST(CardSides, EachHasItsHalfOfTheMonth) {
-    const auto rows = sampleCardRows({}, kMarch);
-    EXPECT_EQ(rowsOfSide(rows, CardSide::Whole), rows);
-    const auto first = rowsOfSide(rows, CardSide::First);
-    const auto second = rowsOfSide(rows, CardSide::Second);
-    ASSERT_EQ(first.size(), kSideRows);
-    ASSERT_EQ(second.size(), kSideRows);
-    EXPECT_EQ(daysOf(first).front(), "01");
-    EXPECT_EQ(daysOf(first)[14], "15");
-    EXPECT_EQ(daysOf(second).front(), "16");
-    EXPECT_EQ(daysOf(second).back(), "31");
-    // Half a month of 15 days leaves its last line to nobody.
-    const CardRow& blank = first.back();
-    EXPECT_EQ(blank[cardColumn("nome")], "CARTÃO DE TESTE");
-    for (const std::size_t at : {cardColumn("linha"), cardColumn("dia"), cardColumn("ent1"),
-                                 cardColumn("sai3"), cardColumn("horas"), cardColumn("situacao")})
-        EXPECT_EQ(blank[at], "") << kCardColumns[at];
-    EXPECT_EQ(first.front()[cardColumn("quinzena")], "135:00");
-    EXPECT_EQ(second.front()[cardColumn("quinzena")], "144:00");
-}
 
 /// Prints both sides of a stack the way the instructions have it, and looks at the cards then.
 TEST(CardSides, TheSecondSideMeetsTheStackAsItLies) {

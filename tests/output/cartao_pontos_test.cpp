@@ -150,6 +150,7 @@ TEST_F(CartaoPontosTest, TestPrintAsksForTheCardAndTakesTheAlignmentAlong) {
     EXPECT_EQ(rows[0][cardColumn("razao")], "EMPRESA MODELO LTDA");
     EXPECT_EQ(rows[30][cardColumn("sai3")], "19:00");
     EXPECT_EQ(rows, screen.sampleRows());
+    EXPECT_EQ(request.side, CardSide::First);
 }
 
 TEST_F(CartaoPontosTest, CalibrationSheetIsPrintedUntouched) {
@@ -208,11 +209,6 @@ TEST_F(CartaoPontosTest, ScaleIsTypedOrMeasuredAndKeptForPrinterAndStock) {
     desk.person.takeTexts();
     EXPECT_FALSE(screen.typeScale({"100", "100", "0", "1"}));
     EXPECT_EQ(desk.person.shown.at(0).detail, "Não há uma impressora escolhida.");
-}
-
-TEST_F(CartaoPontosTest, ATwoSidedStockIsSampledOnItsFirstSide) {
-    engine.sides = 2;
-    EXPECT_EQ(screen.sampleRows().size(), 16U);
 }
 
 }  // namespace

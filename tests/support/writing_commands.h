@@ -33,6 +33,7 @@ void PrintTo(const WritingCommand& command, std::ostream* out);
 [[nodiscard]] std::vector<WritingCommand> menuCommands();
 [[nodiscard]] std::vector<WritingCommand> monthCommands();
 [[nodiscard]] std::vector<WritingCommand> cardCommands();
+[[nodiscard]] std::vector<WritingCommand> printCommands();
 
 [[nodiscard]] const std::vector<WritingCommand>& writingCommands();
 [[nodiscard]] const WritingCommand& writingCommand(const std::string& name);

@@ -1,3 +1,4 @@
+#include "output/desktop/system_printers.h"
 #include "tests/support/print_server.h"
 #include "tests/support/printed_text.h"
 #include "tests/support/report_desk.h"
@@ -63,10 +64,23 @@ TEST_F(Cups, PrintsTheCardsOfARunAsOneJob) {
 
 TEST_F(Cups, PrintsOnTheDefaultPrinter) {
     printServer.addPrinter(QStringLiteral("cartao"));
-    EXPECT_EQ(desk_.print(1), ReportResult::Failed) << "no default printer is set";
+    EXPECT_EQ(desk_.print(1), ReportResult::PrinterGone) << "no default printer is set";
     printServer.makeDefault(QStringLiteral("cartao"));
     ASSERT_EQ(desk_.print(1), ReportResult::Done);
     EXPECT_EQ(printedPages(), 1);
+}
+
+TEST_F(Cups, FindsALongName) {
+    const SystemPrinters printers;
+    const std::string longName = "impressora-da-recepcao-do-terceiro-andar";
+    printServer.addPrinter(QStringLiteral("cartao"));
+    printServer.addPrinter(QString::fromStdString(longName));
+    EXPECT_THAT(printers.names(), ::testing::IsSupersetOf({std::string("cartao"), longName}));
+    printServer.makeDefault(QStringLiteral("cartao"));
+    EXPECT_EQ(printers.defaultName(), "cartao");
+    desk_.request.printerName = longName.substr(0, 30);
+    ASSERT_EQ(desk_.print(2), ReportResult::Done) << ::testing::PrintToString(desk_.log.entries);
+    EXPECT_EQ(printedPages(), 2);
 }
 
 TEST_F(Cups, KeepsTheCardsPrintedBeforeACancel) {
@@ -83,8 +97,9 @@ TEST_F(Cups, FailsOnAPrinterThatIsNotThere) {
     printServer.addPrinter(QStringLiteral("outra"));
     printServer.removePrinter(QStringLiteral("cartao"));
     desk_.request.printerName = "cartao";
-    EXPECT_EQ(desk_.print(1), ReportResult::Failed);
+    EXPECT_EQ(desk_.print(1), ReportResult::PrinterGone);
     EXPECT_THAT(desk_.log.entries, ElementsAre(HasSubstr("cartao")));
+    EXPECT_EQ(desk_.engine.explanation(), "A impressora cartao não foi encontrada.");
 }
 
 TEST_F(Cups, FailsWhenThePrinterGoesDuringTheRun) {
@@ -96,7 +111,7 @@ TEST_F(Cups, FailsWhenThePrinterGoesDuringTheRun) {
         printServer.removePrinter(QStringLiteral("cartao"));
         return true;
     };
-    EXPECT_EQ(desk_.engine.print(desk_.request, one, unplug), ReportResult::Failed);
+    EXPECT_EQ(desk_.engine.print(desk_.request, one, unplug), ReportResult::PrinterGone);
 }
 
 }  // namespace

@@ -1,0 +1,93 @@
+#include "output/calibration.h"
+#include "output/desktop/layout.h"
+#include "tests/support/printed_text.h"
+#include "tests/support/report_desk.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <tuple>
+
+namespace winvrx::testing {
+namespace {
+
+constexpr double kPointsPerMillimetre = 72 / 25.4;
+constexpr double kTwipsPerPoint = 20;
+constexpr double kTilibraPitch = 4.5 * kPointsPerMillimetre;
+
+class PrintedScale : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        if (!canReadPdf()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
+    }
+
+    /// The words of one card in an order that does not depend on where the card lies.
+    std::vector<PrintedWord> words() {
+        EXPECT_EQ(desk_.print(1), ReportResult::Done)
+            << ::testing::PrintToString(desk_.log.entries);
+        auto sorted = printedWords(desk_.pdf());
+        std::ranges::sort(sorted, {}, [](const PrintedWord& word) {
+            return std::tuple(word.text, word.top, word.left);
+        });
+        return sorted;
+    }
+
+    ReportDesk desk_;
+};
+
+TEST_F(PrintedScale, IsAppliedFromTheCornerOfThePaper) {
+    const auto still = words();
+    struct Case {
+        Alignment alignment;
+        double across;
+        double down;
+        double right;  ///< points
+        double lower;
+    };
+    const Case cases[] = {{{40, 60, 2, {10150, 9825, -50, 0}},
+                           1.015,
+                           0.9825,
+                           40 / kTwipsPerPoint - 0.5 * kPointsPerMillimetre,
+                           60 / kTwipsPerPoint + 2 * kTilibraPitch * 0.9825},
+                          {{20, 0, 0, {10000, 10000, 250, -100}},
+                           1,
+                           1,
+                           20 / kTwipsPerPoint + 2.5 * kPointsPerMillimetre,
+                           -kPointsPerMillimetre}};
+    for (const Case& one : cases) {
+        desk_.request.alignment = one.alignment;
+        const auto scaled = words();
+        ASSERT_EQ(scaled.size(), still.size());
+        for (std::size_t i = 0; i < scaled.size(); ++i) {
+            ASSERT_EQ(scaled[i].text, still[i].text);
+            EXPECT_NEAR(scaled[i].left, still[i].left * one.across + one.right, 0.01);
+            EXPECT_NEAR(scaled[i].top, still[i].top * one.down + one.lower, 0.01);
+        }
+    }
+}
+
+TEST_F(PrintedScale, CalibrationSheetHasItsCrossesInPlace) {
+    const Layout sheet =
+        loadLayout({QCoreApplication::applicationDirPath().toStdString() + "/layouts"},
+                   std::string(kCalibrationLayout));
+    const auto hasLine = [&sheet](QPointF middle, QPointF reach) {
+        return std::ranges::any_of(sheet.sections, [&](const LayoutSection& section) {
+            return std::ranges::any_of(section.marks, [&](const LayoutMark& mark) {
+                const auto* line = std::get_if<LayoutLine>(&mark);
+                return line && line->line == QLineF(middle - reach, middle + reach);
+            });
+        });
+    };
+    for (const QPointF cross : {QPointF(kCrossNear, kCrossNear), QPointF(kCrossRight, kCrossNear),
+                                QPointF(kCrossNear, kCrossDown)}) {
+        EXPECT_TRUE(hasLine(cross, QPointF(800, 0))) << cross.x() << "," << cross.y();
+        EXPECT_TRUE(hasLine(cross, QPointF(0, 800))) << cross.x() << "," << cross.y();
+    }
+    desk_.request.layoutName = kCalibrationLayout;
+    EXPECT_TRUE(std::ranges::any_of(words(), [](const PrintedWord& word) {
+        return word.text == QStringLiteral("EMPREGADO");
+    })) << "the printer's name";
+}
+
+}  // namespace
+}  // namespace winvrx::testing

@@ -1,0 +1,74 @@
+// What the screens of alignment, printers and printing write.
+#include "output/cartao.h"
+#include "output/cartao_pontos.h"
+#include "output/impressorar.h"
+#include "tests/support/recording_engine.h"
+#include "tests/support/test_browser.h"
+#include "tests/support/test_printers.h"
+#include "tests/support/writing_commands.h"
+
+namespace winvrx::testing {
+
+namespace {
+
+template <typename Give>
+auto inAlignment(Give give) {
+    return [give](const Workplace& at, const Drives&) {
+        TestBrowser browser;
+        RecordingEngine engine;
+        const TestPrinters printers;
+        AlignmentMemory memory;
+        CartaoPontos screen(at, {browser, engine, printers, memory});
+        screen.load();
+        return give(screen);
+    };
+}
+
+bool choosePrinter(const Workplace& at, const Drives&) {
+    TestBrowser browser;
+    TestPrinters printers;
+    Impressorar screen(at, browser, printers);
+    screen.load();
+    return screen.chosen() == "Epson" && screen.use(0);
+}
+
+bool rememberChoices(const Workplace& at, const Drives&) {
+    TestBrowser browser;
+    RecordingEngine engine;
+    const TestPrinters printers;
+    const AlignmentMemory memory;
+    Cartao screen(at, {browser, engine, printers, memory});
+    screen.load();
+    screen.choices().printer.output = CardOutput::FaceUp;
+    screen.choices().printer.trays[0] = "Manual";
+    return screen.employees().size() == 3 && screen.remember();
+}
+
+FileTable officeWithAPrinter() {
+    FileTable files = filledOffice();
+    files[inDataFolder("Config")] = "30         50\r\n";
+    files[inDataFolder("ConfigX")] = "Epson\r\n";
+    files[inDataFolder("EscalaImpressao")] = "junk\r\n";
+    files[inDataFolder("01ImpressoraTipo")] = "Baixo\r\n";
+    files[inDataFolder("01Impresstec")] = "Central\r\n";
+    return files;
+}
+
+}  // namespace
+
+std::vector<WritingCommand> printCommands() {
+    return {
+        {"move alignment", officeWithAPrinter(), inAlignment([](CartaoPontos& screen) {
+             return screen.offsets().vertical == 30 && screen.move(Direction::Down);
+         })},
+        {"reset alignment", officeWithAPrinter(),
+         inAlignment([](CartaoPontos& screen) { return screen.reset(); })},
+        {"type scale", officeWithAPrinter(), inAlignment([](CartaoPontos& screen) {
+             return screen.stock().code == "05" && screen.typeScale({"99", "101", "1", "-1"});
+         })},
+        {"choose printer", officeWithAPrinter(), choosePrinter},
+        {"remember printing", officeWithAPrinter(), rememberChoices},
+    };
+}
+
+}  // namespace winvrx::testing
