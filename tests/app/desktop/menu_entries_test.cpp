@@ -4,6 +4,7 @@
 #include "tests/support/employee_desk.h"
 #include "tests/support/plain_archiver.h"
 #include "tests/support/recording_engine.h"
+#include "tests/support/test_printers.h"
 #include "tests/support/writing_commands.h"
 
 #include <gmock/gmock.h>
@@ -27,7 +28,8 @@ TEST(MenuEntries, NoTwoTilesShareAKeyALetterOrAName) {
     OnlyCopy instance;
     const testing::FolderDrives drives("/data");
     Menu menu(desk.at, drives, instance, browser, "/opt/winvrx");
-    Screens screens(desk.at, browser, editor, engine, copies, {});
+    testing::TestPrinters printers;
+    Screens screens(desk.at, browser, editor, {engine, printers, {}}, copies);
     std::map<std::string, std::vector<std::string>> owners;
     for (const MenuEntry& entry : menuEntries(menu, screens)) {
         const std::string name = toUtf8(entry.objectName);
