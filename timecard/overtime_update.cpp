@@ -11,7 +11,6 @@ namespace winvrx {
 
 namespace {
 
-const Message kNoCompany{"Aviso", "Cadastre Primeiro Uma Empresa!!", Icon::Exclamation};
 const Message kNobodyListed{"Aviso",
                             "Não há Dados de Funcionários! Cadastre pelo menos um Funcionário.",
                             Icon::Exclamation};
@@ -75,7 +74,7 @@ std::optional<std::size_t> updateOvertimeOfList(const Workplace& at, WorkMonth m
     const bool done = attempt(at, incorrectData(), [&] {
         const std::size_t listed = listedEmployees(at).size();
         if (listed == 0) {
-            at.person.tell(at.session.company ? kNobodyListed : kNoCompany);
+            at.person.tell(at.session.company ? kNobodyListed : noCompany());
             return false;
         }
         if (!at.person.agrees(confirmation(at, month, listed))) return false;

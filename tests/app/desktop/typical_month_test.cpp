@@ -124,8 +124,8 @@ TEST_F(TypicalMonth, KeepsPicturesInBothPalettesAndTheConversation) {
     std::vector<std::string> names;
     for (const QString& name : pictures)
         names.push_back(name.mid(3).toStdString());
-    for (const char* window : {"janela-principal", "empresas", "funcionarios", "mes", "dados",
-                               "tipo", "imprimir", "previa"}) {
+    for (const char* window : {"janela-principal", "empresas", "funcionarios", "mes-carnaval",
+                               "feriados", "mes", "dados", "tipo", "imprimir", "previa"}) {
         EXPECT_THAT(names, Contains(std::string(window) + "-claro.png"));
         EXPECT_THAT(names, Contains(std::string(window) + "-escuro.png"));
     }
