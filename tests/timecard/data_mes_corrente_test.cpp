@@ -43,6 +43,17 @@ TEST_F(MonthScreen, OpensOnTheSelectedMonthElseOnThePresentOne) {
     EXPECT_EQ(screen.holidayHeading(), "Selecione os feriados no mês de: DEZEMBRO/2023");
 }
 
+TEST_F(MonthScreen, TheTwelveMonthsStandInCapitals) {
+    std::string captions;
+    for (unsigned month = 1; month <= 12; ++month) {
+        ASSERT_TRUE(screen.chooseMonth(2013y / std::chrono::month{month}));
+        captions += screen.monthCaption() + " ";
+    }
+    EXPECT_EQ(captions,
+              "JANEIRO/2013 FEVEREIRO/2013 MARÇO/2013 ABRIL/2013 MAIO/2013 JUNHO/2013 JULHO/2013 "
+              "AGOSTO/2013 SETEMBRO/2013 OUTUBRO/2013 NOVEMBRO/2013 DEZEMBRO/2013 ");
+}
+
 TEST_F(MonthScreen, ReferenceGoesRoundAndNamesItself) {
     std::vector<std::string> captions;
     for (int i = 0; i < 4; ++i) {
