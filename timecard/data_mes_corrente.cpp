@@ -193,7 +193,7 @@ bool DataMesCorrente::confirm() {
     });
 }
 
-std::optional<std::size_t> DataMesCorrente::updateAll(const OvertimeProgress& progress) {
+std::optional<OvertimeUpdate> DataMesCorrente::updateAll(const OvertimeProgress& progress) {
     OvertimeRules rules;
     const bool readable = attempt(at_, incorrectData(), [&] {
         rules = withNumbers(settings_, numbers_).overtime;

@@ -96,9 +96,9 @@ class DataMesCorrente {
     [[nodiscard]] bool record();
     /// "Confirma": records, and makes the month the selected one.
     [[nodiscard]] bool confirm();
-    /// "Atualizar p/Todos os Funcionários", with the overtime rules as the screen shows them. How
-    /// many employees have them now; nullopt when nothing was written.
-    [[nodiscard]] std::optional<std::size_t> updateAll(const OvertimeProgress& progress);
+    /// "Atualizar p/Todos os Funcionários", with the overtime rules as the screen shows them; see
+    /// updateOvertimeOfList.
+    [[nodiscard]] std::optional<OvertimeUpdate> updateAll(const OvertimeProgress& progress);
     /// Asks before changes are given up. True when the screen may go on to something else.
     [[nodiscard]] bool mayLeave();
 

@@ -5,6 +5,7 @@
 #include "foundation/text.h"
 #include "timecard/overtime_record.h"
 
+#include <algorithm>
 #include <set>
 
 namespace winvrx {
@@ -14,6 +15,9 @@ namespace {
 const Message kNobodyListed{"Aviso",
                             "Não há Dados de Funcionários! Cadastre pelo menos um Funcionário.",
                             Icon::Exclamation};
+
+/// So many that a batch's flush is shared, so few that the operator sees it move on.
+constexpr std::ptrdiff_t kWrittenTogether = 64;
 
 Message confirmation(const Workplace& at, WorkMonth month, std::size_t employees) {
     const std::string company =
@@ -28,20 +32,38 @@ Message confirmation(const Workplace& at, WorkMonth month, std::size_t employees
                 " as configurações de horas extras desta tela no lugar das que tinham no mês."};
 }
 
-/// Each listed employee's file with the line in it; empty when the operator cancels.
-std::vector<FileSystem::NewContent> batchFor(const Workplace& at, const OvertimeLine& line,
-                                             const OvertimeProgress& progress) {
+std::set<EmployeeCode> listedCodes(const Workplace& at) {
     std::set<EmployeeCode> codes;
     for (const Employee& one : listedEmployees(at))
         codes.insert(one.employeeCode().value());
+    return codes;
+}
+
+/// The files of those who have not the line's rules yet, with the line in them.
+std::vector<FileSystem::NewContent> filesToWrite(const Workplace& at,
+                                                 const std::set<EmployeeCode>& codes,
+                                                 const OvertimeLine& line) {
+    const DataFolder& folder = at.session.folder;
+    const CompanyCode& company = at.session.company.value();
     std::vector<FileSystem::NewContent> batch;
-    for (const EmployeeCode& code : codes) {
-        if (!progress(batch.size(), codes.size())) return {};
-        batch.push_back(
-            withOvertime(at.files, at.session.folder, at.session.company.value(), code, line));
-    }
-    if (!progress(batch.size(), codes.size())) return {};
+    for (const EmployeeCode& code : codes)
+        if (loadOvertime(at.files, folder, company, code, line.month) != line.rules)
+            batch.push_back(withOvertime(at.files, folder, company, code, line));
     return batch;
+}
+
+OvertimeUpdate writeFor(const Workplace& at, const OvertimeLine& line,
+                        const OvertimeProgress& progress) {
+    const auto codes = listedCodes(at);
+    const auto batch = filesToWrite(at, codes, line);
+    OvertimeUpdate update{codes.size() - batch.size(), codes.size()};
+    for (auto first = batch.begin(); first != batch.end() && progress(update.done, update.total);) {
+        const auto last = first + std::min(kWrittenTogether, batch.end() - first);
+        at.files.replaceAll({first, last});
+        update.done += static_cast<std::size_t>(last - first);
+        first = last;
+    }
+    return update;
 }
 
 }  // namespace
@@ -67,25 +89,22 @@ std::vector<OvertimeRules> ownRulesOfList(const Workplace& at, WorkMonth month) 
     return own;
 }
 
-std::optional<std::size_t> updateOvertimeOfList(const Workplace& at, WorkMonth month,
-                                                const OvertimeRules& rules,
-                                                const OvertimeProgress& progress) {
-    std::size_t updated = 0;
-    const bool done = attempt(at, incorrectData(), [&] {
-        const std::size_t listed = listedEmployees(at).size();
+std::optional<OvertimeUpdate> updateOvertimeOfList(const Workplace& at, WorkMonth month,
+                                                   const OvertimeRules& rules,
+                                                   const OvertimeProgress& progress) {
+    std::optional<OvertimeUpdate> update;
+    (void)attempt(at, incorrectData(), [&] {
+        const std::size_t listed = listedCodes(at).size();
         if (listed == 0) {
             at.person.tell(at.session.company ? kNobodyListed : noCompany());
             return false;
         }
         if (!at.person.agrees(confirmation(at, month, listed))) return false;
         const FolderLock::Hold hold = holdFolder(at);
-        const auto batch = batchFor(at, {month, rules}, progress);
-        if (batch.empty()) return false;
-        at.files.replaceAll(batch);
-        updated = batch.size();
+        update = writeFor(at, {month, rules}, progress);
         return true;
     });
-    return done ? std::optional(updated) : std::nullopt;
+    return update;
 }
 
 }  // namespace winvrx

@@ -19,11 +19,21 @@ using OvertimeProgress = std::function<bool(std::size_t done, std::size_t total)
 /// The figures of their own that listed employees have in the month. Throws FileFault.
 [[nodiscard]] std::vector<OvertimeRules> ownRulesOfList(const Workplace& at, WorkMonth month);
 
-/// "Atualizar p/Todos os Funcionários": gives every listed employee the month's rules as his own,
-/// in one batch: all of them or, refused or cancelled, none. Asks first. nullopt when nothing was
-/// written, else how many employees have them now.
-[[nodiscard]] std::optional<std::size_t> updateOvertimeOfList(const Workplace& at, WorkMonth month,
-                                                              const OvertimeRules& rules,
-                                                              const OvertimeProgress& progress);
+/// How many of the listed employees have the rules now.
+struct OvertimeUpdate {
+    std::size_t done = 0;
+    std::size_t total = 0;
+
+    [[nodiscard]] bool operator==(const OvertimeUpdate&) const = default;
+};
+
+/// "Atualizar p/Todos os Funcionários": gives every listed employee the month's rules as his own.
+/// Asks first. Cancelled on the way, or stopped by a fault, it has updated some employees and left
+/// the others as they were, and can be given again. nullopt when nothing was begun or a fault
+/// stopped it.
+[[nodiscard]] std::optional<OvertimeUpdate> updateOvertimeOfList(const Workplace& at,
+                                                                 WorkMonth month,
+                                                                 const OvertimeRules& rules,
+                                                                 const OvertimeProgress& progress);
 
 }  // namespace winvrx

@@ -32,7 +32,7 @@ auto inHolidays(Give give) {
 
 bool updateAllOvertime(DataMesCorrente& screen) {
     const auto patient = [](std::size_t, std::size_t) { return true; };
-    return screen.updateAll(patient) == 3U;
+    return screen.updateAll(patient) == OvertimeUpdate{3, 3};
 }
 
 }  // namespace

@@ -41,7 +41,7 @@ const std::string kMarchLine = "03-2024 60  50  100 100 0 0 0 2 \r\n";
 TEST_F(OvertimeOfAll, EveryListedEmployeeGetsTheRulesOfTheScreen) {
     desk.file("01MedHorExtr002") = "02-2024 55  50  100 100 0 0 0 2 \r\n";
     desk.person.answers = {Answer::Yes};
-    EXPECT_EQ(screen.updateAll(kPatient), 3U);
+    EXPECT_EQ(screen.updateAll(kPatient), (OvertimeUpdate{3, 3}));
     ASSERT_EQ(desk.person.shown.size(), 1U);
     EXPECT_EQ(desk.person.shown[0].title, "ALTERAÇÃO");
     EXPECT_EQ(desk.person.shown[0].text,
@@ -58,19 +58,20 @@ TEST_F(OvertimeOfAll, TheFilterSaysWhoIsInTheList) {
     desk.file("01CartaPonto") +=
         "??? NINGU\xC9M\r\n" + encode(EmployeeDesk::employee("001", "ANA"));
     desk.person.answers = {Answer::Yes};
-    EXPECT_EQ(screen.updateAll(kPatient), 1U);
+    EXPECT_EQ(screen.updateAll(kPatient), (OvertimeUpdate{1, 1}));
     EXPECT_EQ(recordOf("001"), "none");
     EXPECT_EQ(recordOf("003"), kMarchLine);
     desk.session.shiftFilter = ShiftFilter::Todos;
     desk.person.answers = {Answer::Yes};
-    EXPECT_EQ(screen.updateAll(kPatient), 3U);
+    EXPECT_EQ(screen.updateAll(kPatient), (OvertimeUpdate{3, 3}));
 }
 
 TEST_F(OvertimeOfAll, RefusedCancelledOrFailingItChangesNothing) {
     const auto before = desk.files.content;
     EXPECT_FALSE(screen.updateAll(kPatient));  // answered with no
     desk.person.answers = {Answer::Yes};
-    EXPECT_FALSE(screen.updateAll([](std::size_t done, std::size_t) { return done < 2; }));
+    EXPECT_EQ(screen.updateAll([](std::size_t, std::size_t) { return false; }),
+              (OvertimeUpdate{0, 3}));
     desk.person.takeTexts();
     screen.type(kMonthNumberFields[0], "sessenta");
     EXPECT_FALSE(screen.updateAll(kPatient));
@@ -84,6 +85,32 @@ TEST_F(OvertimeOfAll, RefusedCancelledOrFailingItChangesNothing) {
     EXPECT_FALSE(screen.updateAll(kPatient));
     EXPECT_THAT(desk.person.takeTexts(), ElementsAre("Cadastre Primeiro Uma Empresa!!"));
     EXPECT_EQ(desk.files.content, before);
+}
+
+TEST_F(OvertimeOfAll, CancelledOnTheWayItLeavesWholeEmployeesAndCanBeGivenAgain) {
+    std::vector<Employee> many;
+    for (int code = 1; code <= 200; ++code)
+        many.push_back(
+            EmployeeDesk::employee(EmployeeCode::fromNumber(code)->text().c_str(), "ALGUEM"));
+    desk.record("01", many);
+    desk.file("01MedHorExtr007") = kMarchLine;
+    std::vector<std::size_t> told;
+    desk.person.answers = {Answer::Yes, Answer::Yes};
+    const auto cut = screen.updateAll([&told](std::size_t done, std::size_t total) {
+        told.push_back(done);
+        return done < total / 2;
+    });
+    EXPECT_THAT(told, ElementsAre(1U, 65U, 129U));
+    EXPECT_EQ(cut, (OvertimeUpdate{129, 200}));
+    std::size_t written = 0;
+    for (const Employee& one : many) {
+        const std::string record = recordOf(one.code.c_str());
+        EXPECT_TRUE(record == kMarchLine || record == "none") << record;
+        if (record == kMarchLine) ++written;
+    }
+    EXPECT_EQ(written, 129U);
+    EXPECT_EQ(screen.updateAll(kPatient), (OvertimeUpdate{200, 200}));
+    EXPECT_EQ(recordOf("200"), kMarchLine);
 }
 
 TEST_F(OvertimeOfAll, TheScreenSaysWhoGoesByOtherFigures) {

@@ -173,8 +173,14 @@ void DataMesCorrenteWindow::updateAll() {
     });
     rules_->refresh();
     if (!updated) return;
-    setState(*updated == 1 ? QStringLiteral("1 funcionário atualizado")
-                           : QStringLiteral("%1 funcionários atualizados").arg(*updated));
+    if (updated->done < updated->total)
+        setState(QStringLiteral("Cancelado: %1 de %2 funcionários atualizados")
+                     .arg(updated->done)
+                     .arg(updated->total));
+    else
+        setState(updated->total == 1
+                     ? QStringLiteral("1 funcionário atualizado")
+                     : QStringLiteral("%1 funcionários atualizados").arg(updated->total));
 }
 
 void DataMesCorrenteWindow::confirmMonth() {
