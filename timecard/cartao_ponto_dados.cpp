@@ -1,7 +1,7 @@
 #include "timecard/cartao_ponto_dados.h"
 
 #include "foundation/company_register.h"
-#include "timecard/hours.h"
+#include "timecard/changed_elsewhere.h"
 #include "timecard/overtime_record.h"
 #include "timecard/selected_month.h"
 
@@ -207,22 +207,6 @@ DayKind CartaoPontoDados::kindOf(int day) const {
     }
     if (settings_.isHoliday(date)) return DayKind::Holiday;
     return weekdayOf(date) == std::chrono::Sunday ? DayKind::WeeklyRest : DayKind::Work;
-}
-
-WorkTerms CartaoPontoDados::terms() const {
-    return workTerms(settings_, overtime_, schedule_.schedule(),
-                     selected() ? *selected() : Employee());
-}
-
-std::string CartaoPontoDados::totalOf(int day) const {
-    const Date date = plusDays(firstDay(settings_.month), day - 1);
-    const auto worked = dayHours(sheet_.line(day), date, terms()).worked();
-    return worked.count() == 0 ? std::string() : formatted(worked, overtime_.totalsFormat);
-}
-
-std::string CartaoPontoDados::totalOf(HalfMonth half) const {
-    const HourTotals totals = periodHours(sheet_.lines(), firstDay(settings_.month), terms(), half);
-    return formatted(totals.worked(), overtime_.totalsFormat);
 }
 
 std::vector<int> CartaoPontoDados::daysWithoutSituation() const {

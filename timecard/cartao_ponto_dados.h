@@ -3,7 +3,8 @@
 #include "foundation/command.h"
 #include "foundation/employee_register.h"
 #include "timecard/card_sheet.h"
-#include "timecard/hours.h"
+#include "timecard/day_kind.h"
+#include "timecard/hours_summary.h"
 #include "timecard/list_application.h"
 #include "timecard/month_settings.h"
 #include "timecard/typed_schedule.h"
@@ -13,12 +14,6 @@
 #include <vector>
 
 namespace winvrx {
-
-/// What a day is by the calendar and its situation.
-enum class DayKind { Work, Holiday, WeeklyRest, Leave, Absence, Excused };
-
-inline constexpr std::string_view kChangedElsewhere =
-    "Este registro foi alterado por outro computador. Selecione o funcionário novamente.";
 
 /// What the list says of an employee beside his name.
 struct EmployeeMark {
@@ -95,9 +90,15 @@ class CartaoPontoDados {
     [[nodiscard]] DayKind kindOf(int day) const;
     /// What was worked on the day, in the month's format; empty for a day without worked time.
     [[nodiscard]] std::string totalOf(int day) const;
+    /// What the day has beyond or, with "-", short of its schedule; empty when nothing.
+    [[nodiscard]] std::string differenceOf(int day) const;
     [[nodiscard]] std::string totalOf(HalfMonth half) const;
     /// The days of work that typing has left without times and without a situation.
     [[nodiscard]] std::vector<int> daysWithoutSituation() const;
+    /// The hours of the card as it stands on the screen; all zero while it has no punches.
+    [[nodiscard]] HoursSummary hours() const;
+    /// Changes a percentage of extra hours of the employee, in a month that is not closed.
+    [[nodiscard]] bool changePercent(HourCategory category, std::string_view typed);
     [[nodiscard]] bool savePunches();
 
     /// Records the schedule and the punches, each when it was changed. False when one was refused.
@@ -128,6 +129,9 @@ class CartaoPontoDados {
     [[nodiscard]] EmployeeCode selectedCode() const;
     [[nodiscard]] WorkTerms terms() const;
     [[nodiscard]] std::filesystem::path punchFile() const;
+    [[nodiscard]] HourTotals hoursOf(int day) const;
+    /// Something was applied or typed, so that there is something to count.
+    [[nodiscard]] bool hasPunches() const;
 
     Workplace at_;
     CardQueries queries_;

@@ -1,6 +1,7 @@
 #include "foundation/text.h"
 #include "timecard/application_checks.h"
 #include "timecard/cartao_ponto_dados.h"
+#include "timecard/changed_elsewhere.h"
 #include "timecard/punch_application.h"
 
 #include <algorithm>

@@ -1,15 +1,13 @@
 #include "timecard/percent_change.h"
 
 #include "foundation/text.h"
+#include "timecard/changed_elsewhere.h"
 #include "timecard/hours_summary.h"
 #include "timecard/overtime_record.h"
 
 namespace winvrx {
 
 namespace {
-
-constexpr std::string_view kChangedElsewhere =
-    "Este registro foi alterado por outro computador. Selecione o funcionário novamente.";
 
 Message confirmation(const std::string& caption, int percent) {
     return {"ALTERAÇÃO",

@@ -4,7 +4,6 @@
 #include "tests/support/test_card_queries.h"
 #include "tests/support/writing_commands.h"
 #include "timecard/cartao_ponto_dados.h"
-#include "timecard/percent_change.h"
 
 namespace winvrx::testing {
 
@@ -32,12 +31,6 @@ auto onCardOf(std::size_t position, Give give) {
         CartaoPontoDados screen(at, asked.queries);
         return screen.open() && screen.select(position) && give(screen);
     };
-}
-
-bool changeExtraPercent(const Workplace& at, const Drives&) {
-    return changePercent(
-        at, {*CompanyCode::parse("01"), *EmployeeCode::parse("002"), std::chrono::year{2024} / 3,
-             OvertimeRules(), HourCategory::ExtraMinimum, "60"});
 }
 
 bool chooseStock(const Workplace& at, const Drives&) {
@@ -81,7 +74,11 @@ std::vector<WritingCommand> cardCommands() {
                       screen.sheet().type(4, PunchCell::MorningEntry, "09:00");
                       return screen.savePunches();
                   })},
-        {"change percentage", filledOffice(), changeExtraPercent},
+        {"change percentage", filledOffice(),
+         onCardOf(1,
+                  [](CartaoPontoDados& screen) {
+                      return screen.changePercent(HourCategory::ExtraMinimum, "60");
+                  })},
         {"choose stock", filledOffice(), chooseStock},
     };
 }

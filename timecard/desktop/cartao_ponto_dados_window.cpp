@@ -4,6 +4,7 @@
 #include "foundation/desktop/qt_text.h"
 #include "foundation/desktop/search_box.h"
 #include "foundation/text.h"
+#include "timecard/desktop/hours_summary_panel.h"
 #include "timecard/desktop/punch_grid.h"
 #include "timecard/desktop/schedule_panel.h"
 
@@ -24,7 +25,6 @@ namespace {
 
 constexpr std::array kShiftFilters = {ShiftFilter::Todos, ShiftFilter::Unico, ShiftFilter::Um,
                                       ShiftFilter::Dois, ShiftFilter::Tres};
-constexpr int kNarrowestList = 216;
 constexpr int kWidestList = 320;
 const QString kNoMonth = QStringLiteral(
     "Escolha primeiro o mês de trabalho em \"Configurações Feriados e Horas extras\" (F7).");
@@ -70,7 +70,6 @@ QWidget* CartaoPontoDadosWindow::buildBody() {
 
 QWidget* CartaoPontoDadosWindow::buildList() {
     auto* widget = new QWidget(this);
-    widget->setMinimumWidth(kNarrowestList);
     widget->setMaximumWidth(kWidestList);
     auto* column = new QVBoxLayout(widget);
     look::layOutPart(*column);
@@ -100,7 +99,18 @@ QWidget* CartaoPontoDadosWindow::buildList() {
     emptyHint_->setObjectName(QStringLiteral("card.emptyHint"));
     emptyHint_->setWordWrap(true);
     column->addWidget(emptyHint_);
+    column->addWidget(buildHours());
     return widget;
+}
+
+QWidget* CartaoPontoDadosWindow::buildHours() {
+    hours_ = new HoursSummaryPanel(this);
+    connect(hours_, &HoursSummaryPanel::percentTyped, this,
+            [this](HourCategory category, const QString& typed) {
+                (void)command_.changePercent(category, toUtf8(typed));
+                showState();
+            });
+    return hours_;
 }
 
 QWidget* CartaoPontoDadosWindow::buildCard() {
@@ -226,6 +236,7 @@ void CartaoPontoDadosWindow::showHalf(HalfMonth half) {
 void CartaoPontoDadosWindow::layOutHalves() {
     for (const HalfMonth one : {HalfMonth::First, HalfMonth::Second})
         half(one).panel->setVisible(isWide() || one == shown_);
+    hours_->showOnly(isWide() ? std::nullopt : std::optional(shown_));
     const HalfMonth other = otherThan(shown_);
     otherHalf_->setText(nameOf(other) + QStringLiteral("  F6"));
     otherHalf_->setAccessibleName(nameOf(other));
@@ -317,7 +328,15 @@ void CartaoPontoDadosWindow::showUnread() {
                              .arg(texts[0]));
 }
 
+void CartaoPontoDadosWindow::showHours() {
+    const Employee* one = command_.selected();
+    hours_->showHours(command_.hours(), one ? toQt(one->code + " " + one->name + " · " +
+                                                   monthTitle(command_.settings().month))
+                                            : QString());
+}
+
 void CartaoPontoDadosWindow::showState() {
+    showHours();
     for (const HalfMonth one : {HalfMonth::First, HalfMonth::Second})
         half(one).heading->setText(nameOf(one) + QStringLiteral("  ·  ") +
                                    toQt(command_.totalOf(one)));

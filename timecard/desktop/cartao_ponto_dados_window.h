@@ -13,6 +13,7 @@ class QVBoxLayout;
 
 namespace winvrx {
 
+class HoursSummaryPanel;
 class PunchGrid;
 class PunchModel;
 class SchedulePanel;
@@ -52,6 +53,7 @@ class CartaoPontoDadosWindow : public ScreenWindow {
 
     [[nodiscard]] QWidget* buildBody();
     [[nodiscard]] QWidget* buildList();
+    [[nodiscard]] QWidget* buildHours();
     [[nodiscard]] QWidget* buildCard();
     [[nodiscard]] QWidget* buildHalf(HalfMonth half);
     [[nodiscard]] QWidget* buildEntryMode();
@@ -68,6 +70,7 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     void chooseEmployee(int row);
     void stepEmployee(int step);
     void showCard();
+    void showHours();
     void showState();
     void showUnread();
     void commitEditors();
@@ -83,6 +86,7 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     QLabel* emptyHint_ = nullptr;
     QLabel* unread_ = nullptr;
     SchedulePanel* schedule_ = nullptr;
+    HoursSummaryPanel* hours_ = nullptr;
     std::array<HalfWidgets, 2> halves_{};
     QToolButton* otherHalf_ = nullptr;
     QToolButton* apply_ = nullptr;

@@ -13,6 +13,8 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace winvrx {
 
 namespace {
@@ -23,11 +25,14 @@ struct SummaryColumn {
     const char* name;
 };
 
-constexpr std::array<SummaryColumn, 3> kColumns = {{
+/// The caption stands for the month.
+constexpr std::array<SummaryColumn, 4> kColumns = {{
+    {std::nullopt, "", "Mês"},
     {HalfMonth::First, "1º Quinz.", "1º Quinzena"},
     {HalfMonth::Second, "2º Quinz.", "2º Quinzena"},
     {std::nullopt, "Mês", "Mês"},
 }};
+constexpr int kCaption = 0;
 constexpr int kFigureDigits = 8;
 const QString kTitle = QStringLiteral("Resumo das Horas");
 const QString kPercentHint = QStringLiteral("Duplo Clique Altera % Hora Extra!");
@@ -38,6 +43,14 @@ HourCategory categoryOf(int row) {
 
 const SummaryColumn& columnAt(int column) {
     return kColumns[static_cast<std::size_t>(column)];
+}
+
+QTableWidgetItem* figureCell(int column) {
+    auto* item = new QTableWidgetItem;
+    if (column == kCaption) return item;
+    item->setFont(look::fixedFont());
+    item->setTextAlignment(Qt::AlignVCenter | Qt::AlignRight);
+    return item;
 }
 
 }  // namespace
@@ -66,15 +79,12 @@ void HoursSummaryPanel::buildTable() {
     table_->setTabKeyNavigation(false);
     table_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    table_->setCornerButtonEnabled(false);
+    table_->setShowGrid(false);
+    table_->setAlternatingRowColors(true);
     table_->installEventFilter(this);
     for (int row = 0; row < table_->rowCount(); ++row)
-        for (int column = 0; column < table_->columnCount(); ++column) {
-            auto* item = new QTableWidgetItem;
-            item->setFont(look::fixedFont());
-            item->setTextAlignment(Qt::AlignVCenter | Qt::AlignRight);
-            table_->setItem(row, column, item);
-        }
+        for (int column = 0; column < table_->columnCount(); ++column)
+            table_->setItem(row, column, figureCell(column));
     layOutTable();
     connect(table_, &QTableWidget::cellClicked, this, &HoursSummaryPanel::waitForSecondClick);
     connect(table_, &QTableWidget::cellDoubleClicked, this, &HoursSummaryPanel::askPercent);
@@ -86,20 +96,21 @@ void HoursSummaryPanel::layOutTable() {
     const QFontMetrics letters(look::fixedFont());
     const int rowHeight = letters.height() + look::kSmallGap;
     QHeaderView* rows = table_->verticalHeader();
+    rows->hide();
     rows->setSectionResizeMode(QHeaderView::Fixed);
     rows->setMinimumSectionSize(rowHeight);
     rows->setDefaultSectionSize(rowHeight);
-    rows->setDefaultAlignment(Qt::AlignVCenter | Qt::AlignLeft);
-    rows->setHighlightSections(false);
     QHeaderView* columns = table_->horizontalHeader();
-    columns->setSectionResizeMode(QHeaderView::Stretch);
-    columns->setMinimumSectionSize(kFigureDigits * letters.horizontalAdvance(QLatin1Char('0')));
+    columns->setSectionResizeMode(QHeaderView::Fixed);
     columns->setSectionsClickable(false);
     columns->setHighlightSections(false);
     columns->setFixedHeight(rowHeight + look::kSmallGap);
-    for (int column = 0; column < table_->columnCount(); ++column)
+    for (int column = 0; column < table_->columnCount(); ++column) {
         table_->setHorizontalHeaderItem(
             column, new QTableWidgetItem(QString::fromUtf8(columnAt(column).shortName)));
+        columns->resizeSection(column, kFigureDigits * letters.horizontalAdvance(QLatin1Char('0')));
+    }
+    columns->setSectionResizeMode(kCaption, QHeaderView::Stretch);
     table_->setFixedHeight(columns->height() + table_->rowCount() * rowHeight +
                            2 * table_->frameWidth());
 }
@@ -116,24 +127,37 @@ void HoursSummaryPanel::changeEvent(QEvent* event) {
 }
 
 void HoursSummaryPanel::showFigures() {
-    for (int row = 0; row < table_->rowCount(); ++row) {
-        const HourCategory category = categoryOf(row);
-        const QString caption = toQt(hours_.caption(category));
-        table_->setVerticalHeaderItem(row, new QTableWidgetItem(caption));
-        for (int column = 0; column < table_->columnCount(); ++column) {
-            const auto half = columnAt(column).half;
-            const QString figure = toQt(hours_.figure(category, half));
-            const bool zero = hours_.totals(half)[category].count() == 0;
-            QTableWidgetItem* item = table_->item(row, column);
-            item->setText(figure);
-            item->setForeground(zero ? QApplication::palette().brush(QPalette::PlaceholderText)
-                                     : QBrush());
-            item->setToolTip(percentOf(category) ? kPercentHint : QString());
-            item->setData(Qt::AccessibleTextRole, caption + QStringLiteral(", ") +
-                                                      QString::fromUtf8(columnAt(column).name) +
-                                                      QStringLiteral(": ") + figure);
-        }
-    }
+    for (int row = 0; row < table_->rowCount(); ++row)
+        for (int column = 0; column < table_->columnCount(); ++column)
+            showFigure(row, column);
+    makeRoomForCaptions();
+}
+
+void HoursSummaryPanel::showFigure(int row, int column) {
+    const HourCategory category = categoryOf(row);
+    const SummaryColumn& of = columnAt(column);
+    const QString caption = toQt(hours_.caption(category));
+    const QString figure = toQt(hours_.figure(category, of.half));
+    const bool quiet = column != kCaption && hours_.totals(of.half)[category].count() == 0;
+    QTableWidgetItem* item = table_->item(row, column);
+    item->setText(column == kCaption ? caption : figure);
+    item->setForeground(quiet ? QApplication::palette().brush(QPalette::PlaceholderText)
+                              : QBrush());
+    item->setToolTip(percentOf(category) ? kPercentHint : QString());
+    item->setData(Qt::AccessibleTextRole, caption + QStringLiteral(", ") +
+                                              QString::fromUtf8(of.name) + QStringLiteral(": ") +
+                                              figure);
+}
+
+void HoursSummaryPanel::makeRoomForCaptions() {
+    int width = 0;
+    for (int row = 0; row < table_->rowCount(); ++row)
+        width = std::max(
+            width, table_->fontMetrics().horizontalAdvance(table_->item(row, kCaption)->text()));
+    width += look::kMargin + 2 * table_->frameWidth();
+    for (int column = kCaption + 1; column < table_->columnCount(); ++column)
+        width += table_->columnWidth(column);
+    table_->setMinimumWidth(width);
 }
 
 void HoursSummaryPanel::showOnly(std::optional<HalfMonth> half) {
@@ -141,6 +165,7 @@ void HoursSummaryPanel::showOnly(std::optional<HalfMonth> half) {
         const auto of = columnAt(column).half;
         table_->setColumnHidden(column, half && of && of != half);
     }
+    makeRoomForCaptions();
 }
 
 void HoursSummaryPanel::waitForSecondClick(int row, int column) {

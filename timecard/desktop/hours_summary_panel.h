@@ -34,6 +34,8 @@ class HoursSummaryPanel : public QWidget {
     void buildTable();
     void layOutTable();
     void showFigures();
+    void showFigure(int row, int column);
+    void makeRoomForCaptions();
     void waitForSecondClick(int row, int column);
     void explain(int row, int column);
     void askPercent(int row);

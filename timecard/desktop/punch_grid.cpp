@@ -20,7 +20,13 @@ constexpr int kLongestSituation = 19;
 /// Widths of columns, in digits; a cell has room for five of them behind a warning sign.
 constexpr int kDayDigits = 12;
 constexpr int kCellDigits = 9;
-constexpr int kSituationDigits = 20;
+constexpr int kTotalDigits = 7;
+constexpr int kSituationDigits = 18;
+
+int digitsOf(int column) {
+    if (column == PunchModel::Day) return kDayDigits;
+    return column < PunchModel::Total ? kCellDigits : kTotalDigits;
+}
 
 /// Editors of the cells: a field of five characters, and the list of situations.
 class PunchDelegate : public QStyledItemDelegate {
@@ -99,10 +105,10 @@ void PunchGrid::layOutColumns() {
     header->setHighlightSections(false);
     header->setSectionResizeMode(QHeaderView::Fixed);
     for (int column = 0; column < PunchModel::Columns; ++column)
-        header->resizeSection(column,
-                              digit * (column == PunchModel::Day ? kDayDigits : kCellDigits));
+        header->resizeSection(column, digit * digitsOf(column));
     header->setSectionResizeMode(PunchModel::Situation, QHeaderView::Stretch);
-    comfortableWidth_ = digit * (kDayDigits + 8 * kCellDigits + kSituationDigits);
+    comfortableWidth_ =
+        digit * (kDayDigits + 7 * kCellDigits + kSituationDigits + 2 * kTotalDigits);
     setMinimumWidth(comfortableWidth_ / 2);
 }
 

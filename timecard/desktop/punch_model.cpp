@@ -15,7 +15,7 @@ namespace {
 constexpr std::array<const char*, PunchModel::Columns> kHeadings = {
     "Dia",          "Manhã\nEntrada", "Manhã\nSaída", "Tarde\nEntrada",
     "Tarde\nSaída", "Extra\nEntrada", "Extra\nSaída", "Obs.",
-    "Situação",     "Total"};
+    "Situação",     "Total",          "Dif."};
 
 std::optional<PunchCell> cellOf(int column) {
     if (column < PunchModel::FirstCell || column > PunchModel::Situation) return std::nullopt;
@@ -75,6 +75,7 @@ QString PunchModel::textOf(const QModelIndex& index) const {
     const int day = dayOf(index);
     if (index.column() == Day) return toQt(command_.sheet().line(day).label);
     if (index.column() == Total) return toQt(command_.totalOf(day));
+    if (index.column() == Difference) return toQt(command_.differenceOf(day));
     return toQt(command_.sheet().text(day, *cellOf(index.column())));
 }
 
@@ -145,7 +146,7 @@ bool PunchModel::setData(const QModelIndex& index, const QVariant& value, int ro
     const auto cell = index.isValid() ? cellOf(index.column()) : std::nullopt;
     if (role != Qt::EditRole || !cell || !command_.selected()) return false;
     command_.sheet().type(dayOf(index), *cell, toUtf8(value.toString()));
-    emit dataChanged(this->index(index.row(), Day), this->index(index.row(), Total));
+    emit dataChanged(this->index(index.row(), Day), this->index(index.row(), Difference));
     emit edited();
     return true;
 }

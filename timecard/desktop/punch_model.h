@@ -6,12 +6,13 @@
 
 namespace winvrx {
 
-/// A half-month of the card as a table: day, six times, the short field, situation, total.
+/// A half-month of the card as a table: day, six times, the short field, situation, total and its
+/// difference from the schedule.
 class PunchModel : public QAbstractTableModel {
     Q_OBJECT
 
   public:
-    enum Column { Day, FirstCell, Situation = 8, Total, Columns };
+    enum Column { Day, FirstCell, Situation = 8, Total, Difference, Columns };
 
     PunchModel(CartaoPontoDados& command, HalfMonth half, QObject* parent);
 

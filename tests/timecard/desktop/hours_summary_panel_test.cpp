@@ -19,6 +19,7 @@ using ::testing::IsEmpty;
 constexpr WorkMonth kMonth = 2024y / 3;
 constexpr int kExtraRow = 3;
 constexpr int kMissingRow = 7;
+enum Column { kCaption, kFirst, kSecond, kMonthColumn };
 const QString kOwner = QStringLiteral("001 ANA · março/2024");
 
 /// An hour of overtime on the 5th and half an hour missing on the 20th.
@@ -102,50 +103,50 @@ struct Panel : ::testing::Test {
 };
 
 TEST_F(Panel, ShowsTheFiguresOfBothHalvesAndTheMonth) {
-    EXPECT_EQ(table().verticalHeaderItem(kExtraRow)->text().toStdString(), "Hora Extra 50%");
-    EXPECT_EQ(figure(kExtraRow, 0), "01:00");
-    EXPECT_EQ(figure(kExtraRow, 1), "00:00");
-    EXPECT_EQ(figure(kExtraRow, 2), "01:00");
-    EXPECT_EQ(figure(kMissingRow, 1), "00:30");
+    EXPECT_EQ(figure(kExtraRow, kCaption), "Hora Extra 50%");
+    EXPECT_EQ(figure(kExtraRow, kFirst), "01:00");
+    EXPECT_EQ(figure(kExtraRow, kSecond), "00:00");
+    EXPECT_EQ(figure(kExtraRow, kMonthColumn), "01:00");
+    EXPECT_EQ(figure(kMissingRow, kSecond), "00:30");
     driven->window.showOnly(HalfMonth::Second);
-    EXPECT_TRUE(table().isColumnHidden(0));
-    EXPECT_FALSE(table().isColumnHidden(1));
+    EXPECT_TRUE(table().isColumnHidden(kFirst));
+    EXPECT_FALSE(table().isColumnHidden(kSecond));
     driven->window.showOnly(std::nullopt);
-    EXPECT_FALSE(table().isColumnHidden(0));
+    EXPECT_FALSE(table().isColumnHidden(kFirst));
     EXPECT_THAT(driven->namelessWidgets(), IsEmpty());
 }
 
 TEST_F(Panel, AClickOrEnterTellsWhatAFigureIsMadeOf) {
     const std::vector<std::string> missing = {
         "Hora Falta", "20/qua/mar  00:30 abaixo da jornada, além da tolerância"};
-    EXPECT_EQ(explanationAfter([this] { click(kMissingRow, 1); }), missing);
+    EXPECT_EQ(explanationAfter([this] { click(kMissingRow, kSecond); }), missing);
     const std::vector<std::string> extra = {"Hora Extra 50%",
                                             "05/ter/mar 16:00–17:00 01:00 além da jornada: 50%"};
-    EXPECT_EQ(explanationAfter([this] { click(kExtraRow, 2); }), extra);
-    table().setCurrentCell(kExtraRow, 0);
+    EXPECT_EQ(explanationAfter([this] { click(kExtraRow, kMonthColumn); }), extra);
+    table().setCurrentCell(kExtraRow, kFirst);
     EXPECT_EQ(explanationAfter([this] { press(Qt::Key_Return); }), extra);
-    EXPECT_EQ(explanationAfter([this] { click(kMissingRow, 0); }).size(), 1U)
+    EXPECT_EQ(explanationAfter([this] { click(kMissingRow, kFirst); }).size(), 1U)
         << "nothing is missing in the first half";
 }
 
 TEST_F(Panel, ADoubleClickOrF2AsksForAPercentage) {
     inputAfter(
         [this] {
-            click(kExtraRow, 0);
-            QTest::mouseDClick(table().viewport(), Qt::LeftButton, {}, middleOf(kExtraRow, 0));
+            click(kExtraRow, kFirst);
+            QTest::mouseDClick(table().viewport(), Qt::LeftButton, {}, middleOf(kExtraRow, kFirst));
         },
         "60", Qt::Key_Return);
-    table().setCurrentCell(kExtraRow + 3, 1);
+    table().setCurrentCell(kExtraRow + 3, kSecond);
     inputAfter([this] { press(Qt::Key_F2); }, "abc", Qt::Key_Return);
     inputAfter([this] { press(Qt::Key_F2); }, "70", Qt::Key_Escape);
     const std::vector<std::pair<HourCategory, std::string>> expected = {
         {HourCategory::ExtraMinimum, "60"}, {HourCategory::NightExtraMaximum, "abc"}};
     EXPECT_EQ(typed, expected);
 
-    table().setCurrentCell(kMissingRow, 1);
+    table().setCurrentCell(kMissingRow, kSecond);
     press(Qt::Key_F2);
     driven->window.showHours({}, {});
-    table().setCurrentCell(kExtraRow, 0);
+    table().setCurrentCell(kExtraRow, kFirst);
     press(Qt::Key_F2);
     EXPECT_EQ(typed, expected) << "no percentage, and nobody whose it would be";
 }

@@ -1,0 +1,8 @@
+#pragma once
+
+namespace winvrx {
+
+/// What a day is by the calendar and its situation.
+enum class DayKind { Work, Holiday, WeeklyRest, Leave, Absence, Excused };
+
+}  // namespace winvrx
