@@ -4,6 +4,7 @@
 #include "foundation/employee_register.h"
 #include "timecard/card_sheet.h"
 #include "timecard/day_kind.h"
+#include "timecard/employee_mark.h"
 #include "timecard/hours_summary.h"
 #include "timecard/list_application.h"
 #include "timecard/month_settings.h"
@@ -14,12 +15,6 @@
 #include <vector>
 
 namespace winvrx {
-
-/// What the list says of an employee beside his name.
-struct EmployeeMark {
-    bool onLeave = false;  ///< in the work month
-    bool closed = false;   ///< the month's payroll has been generated
-};
 
 /// The time-card data screen: the standard schedule of each employee of the selected company and
 /// the punches of the work month.

@@ -7,6 +7,7 @@ namespace winvrx {
 namespace {
 
 constexpr std::string_view kClosingEnd = ".prd";
+constexpr std::chrono::months kOneMonth{1};
 
 /// Where an employee's records lie.
 struct Records {
@@ -23,17 +24,16 @@ std::vector<PunchLine> blankDays(const DayPeriod& period) {
     return lines;
 }
 
-/// Puts each line in its day's place; a day number occurs once in a period. Of two lines for one
-/// day the first counts, as in a month's record.
+/// Puts each line in its day's place. Of two lines for one day the first counts, and a line whose
+/// label is no day of the period has no place.
 class DayPlaces {
   public:
     explicit DayPlaces(const DayPeriod& period)
-        : period_(period), lines_(blankDays(period)), taken_(lines_.size(), false) {}
+        : lines_(blankDays(period)), taken_(lines_.size(), false) {}
 
     void put(PunchLine line) {
-        Date date = period_.first;
-        for (std::size_t at = 0; at < lines_.size(); ++at, date = plusDays(date, 1)) {
-            if (dayNumber(date) != line.day() || taken_[at]) continue;
+        for (std::size_t at = 0; at < lines_.size(); ++at) {
+            if (lines_[at].label != line.label || taken_[at]) continue;
             lines_[at] = std::move(line);
             taken_[at] = true;
             return;
@@ -43,37 +43,28 @@ class DayPlaces {
     [[nodiscard]] std::vector<PunchLine> lines() && { return std::move(lines_); }
 
   private:
-    DayPeriod period_;
     std::vector<PunchLine> lines_;
     std::vector<bool> taken_;
 };
 
-std::optional<std::vector<PunchLine>> fromClosingRecord(const Records& at, WorkMonth month,
-                                                        const DayPeriod& period) {
+bool putClosingRecord(DayPlaces& places, const Records& at, WorkMonth month) {
     const RecordFile record(at.files,
                             at.folder.file(closingFileName(at.company, at.employee, month)));
-    if (!record.exists()) return std::nullopt;
-    DayPlaces places(period);
     for (const std::string& bytes : record.lines())
         places.put(decodePunchLine(bytes));
-    return std::move(places).lines();
+    return record.exists();
 }
 
-std::optional<std::vector<PunchLine>> fromMonths(const Records& at, const DayPeriod& period) {
-    DayPlaces places(period);
-    bool any = false;
-    for (WorkMonth month = monthOf(period.first); month <= monthOf(period.last);
-         month += std::chrono::months{1}) {
-        const auto lines = loadPunches(at.files, at.folder, at.company, at.employee, month);
-        if (!lines) continue;
-        any = true;
-        Date date = firstDay(month);
-        for (const PunchLine& line : *lines) {
-            if (date >= period.first && date <= period.last) places.put(line);
-            date = plusDays(date, 1);
-        }
+bool putMonth(DayPlaces& places, const Records& at, WorkMonth month) {
+    auto lines = loadPunches(at.files, at.folder, at.company, at.employee, month);
+    if (!lines) return false;
+    Date date = firstDay(month);
+    for (PunchLine& line : *lines) {
+        line.label = dayLabel(date);
+        places.put(std::move(line));
+        date = plusDays(date, 1);
     }
-    return any ? std::optional(std::move(places).lines()) : std::nullopt;
+    return true;
 }
 
 WorkTerms termsOf(const Records& at, const Employee& employee, const MonthSettings& settings,
@@ -96,10 +87,13 @@ std::optional<EmployeeHours> loadEmployeeHours(FileSystem& files, const DataFold
     const Records at{files, folder, company, employee.employeeCode().value()};
     const DayPeriod month{firstDay(settings.month), lastDay(settings.month)};
     const DayPeriod period = which == HoursPeriod::ClosingPeriod ? closingPeriod(settings) : month;
-    auto lines = period == month ? std::nullopt : fromClosingRecord(at, settings.month, period);
-    if (!lines) lines = fromMonths(at, period);
-    if (!lines) return std::nullopt;
-    return EmployeeHours{period, std::move(*lines), termsOf(at, employee, settings, period)};
+    DayPlaces places(period);
+    bool any = period != month && putClosingRecord(places, at, settings.month);
+    for (WorkMonth one = monthOf(period.first); one <= settings.month; one += kOneMonth)
+        any = putMonth(places, at, one) || any;
+    if (!any) return std::nullopt;
+    return EmployeeHours{period, std::move(places).lines(),
+                         termsOf(at, employee, settings, period)};
 }
 
 std::string closingFileName(const CompanyCode& company, const EmployeeCode& employee,

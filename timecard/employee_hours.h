@@ -24,8 +24,8 @@ struct EmployeeHours {
     }
 };
 
-/// The closing period is read from its own record, ".prd", where there is one; otherwise its days
-/// are taken from the punches of the two months. The overtime figures are the employee's own of the
+/// The days of a closing period are taken from its own record, ".prd", and those that it lacks from
+/// the punches of its months. The overtime figures are the employee's own of the
 /// work month, or that month's; each day goes by the holidays of its own month. A missing schedule
 /// asks for nothing. nullopt when none of the records of punches exists. Throws FileFault.
 [[nodiscard]] std::optional<EmployeeHours> loadEmployeeHours(

@@ -57,13 +57,15 @@ TEST_F(EmployeeHoursTest, TheClosingPeriodTakesItsDaysFromTwoMonths) {
     EXPECT_EQ(hours->totals(HalfMonth::First)[HourCategory::ExtraMinimum], 1h);
 }
 
-TEST_F(EmployeeHoursTest, TheClosingRecordStandsForBothMonths) {
-    file("01001-02-2024.bdx") = "  \r\n21/qua/fev08:0019:00\r\n";
+TEST_F(EmployeeHoursTest, TheClosingRecordComesBeforeTheMonths) {
+    file("01001-02-2024.bdx") = "  \r\n21/qua/fev08:0019:00\r\n22/qui/fev08:0020:00\r\n";
     file("01001-03-2024.prd") =
-        "  \r\n21/qua/fev08:0017:00\r\n05/ter/mar08:0018:00\r\n05/ter/mar08:0023:00\r\nlixo\r\n";
+        "  \r\n21/qua/fev08:0017:00\r\n05/ter/mar08:0018:00\r\n05/ter/mar08:0023:00\r\n"
+        "23/sáb/mar08:0023:00\r\nlixo\r\n";
     const auto hours = load(HoursPeriod::ClosingPeriod);
     ASSERT_TRUE(hours);
-    EXPECT_EQ(hours->totals()[HourCategory::ExtraMinimum], 3h);
+    EXPECT_EQ(hours->totals()[HourCategory::ExtraMinimum], 1h + 2h + 4h);
+    EXPECT_FALSE(load(HoursPeriod::CalendarMonth));
     settings.fixedMonth = true;
     EXPECT_FALSE(load(HoursPeriod::ClosingPeriod));
 }
