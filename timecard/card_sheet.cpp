@@ -87,18 +87,19 @@ CardSheet::Edit CardSheet::exchange(const Edit& edit) {
     return before;
 }
 
-bool CardSheet::undo() {
-    if (done_.empty()) return false;
-    undone_.push_back(exchange(done_.back()));
-    done_.pop_back();
-    return true;
+std::optional<int> CardSheet::move(std::vector<Edit>& from, std::vector<Edit>& to) {
+    if (from.empty()) return std::nullopt;
+    to.push_back(exchange(from.back()));
+    from.pop_back();
+    return to.back().front().day;
 }
 
-bool CardSheet::redo() {
-    if (undone_.empty()) return false;
-    done_.push_back(exchange(undone_.back()));
-    undone_.pop_back();
-    return true;
+std::optional<int> CardSheet::undo() {
+    return move(done_, undone_);
+}
+
+std::optional<int> CardSheet::redo() {
+    return move(undone_, done_);
 }
 
 bool CardSheet::isBlank(int day) const {

@@ -61,9 +61,10 @@ class CardSheet {
     void type(int day, PunchCell cell, std::string_view text);
     /// The same for many cells, taken back as one edit.
     void type(const std::vector<TypedCell>& cells);
-    /// Takes back the last edit, or makes the last one taken back again; false when there is none.
-    bool undo();
-    bool redo();
+    /// Takes back the last edit, or makes the last one taken back again. A day that it touched;
+    /// nullopt when there is none.
+    std::optional<int> undo();
+    std::optional<int> redo();
 
     /// Why a cell as typed cannot be recorded, in one sentence; empty when it can. What was
     /// recorded before is never a fault.
@@ -88,6 +89,7 @@ class CardSheet {
     [[nodiscard]] std::string& place(int day, PunchCell cell);
     /// Puts the texts into their cells; returns those that stood there.
     Edit exchange(const Edit& edit);
+    std::optional<int> move(std::vector<Edit>& from, std::vector<Edit>& to);
 
     std::vector<Edit> done_;
     std::vector<Edit> undone_;

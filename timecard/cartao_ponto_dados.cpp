@@ -1,6 +1,7 @@
 #include "timecard/cartao_ponto_dados.h"
 
 #include "foundation/company_register.h"
+#include "timecard/cell_block.h"
 #include "timecard/changed_elsewhere.h"
 #include "timecard/overtime_record.h"
 #include "timecard/selected_month.h"
@@ -207,6 +208,14 @@ DayKind CartaoPontoDados::kindOf(int day) const {
     }
     if (settings_.isHoliday(date)) return DayKind::Holiday;
     return weekdayOf(date) == std::chrono::Sunday ? DayKind::WeeklyRest : DayKind::Work;
+}
+
+bool CartaoPontoDados::pasteCells(int day, PunchCell cell, std::string_view text) {
+    if (!mayEdit()) return false;
+    Message refusal = inPunchEntry(incorrectData());
+    refusal.detail = paste(sheet_, day, cell, parseCellBlock(text));
+    if (!refusal.detail.empty()) at_.person.tell(refusal);
+    return refusal.detail.empty();
 }
 
 std::vector<int> CartaoPontoDados::daysWithoutSituation() const {

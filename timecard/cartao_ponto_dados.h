@@ -73,13 +73,16 @@ class CartaoPontoDados {
     /// How many cards the last application filled.
     [[nodiscard]] int filledCards() const { return filledCards_; }
 
-    /// What can be shown of the lines of the record that stand for no day; they are kept.
+    /// Lines of the record that stand for no day, as they can be shown; they are kept.
     [[nodiscard]] const std::vector<std::string>& unreadLines() const { return unreadLines_; }
 
     /// The month is closed for the employee selected: "Folha Fechada".
     [[nodiscard]] bool closed() const;
     /// False when the month is closed, which the operator is then told.
     [[nodiscard]] bool mayEdit();
+    /// Puts the cells of a spreadsheet into the sheet, from `day` and `cell` on. False when the
+    /// month is closed or they have no place there, which the operator is told.
+    [[nodiscard]] bool pasteCells(int day, PunchCell cell, std::string_view text);
     [[nodiscard]] CardSheet& sheet() { return sheet_; }
     [[nodiscard]] const CardSheet& sheet() const { return sheet_; }
     [[nodiscard]] DayKind kindOf(int day) const;

@@ -139,23 +139,50 @@ void chooseMonth(Player& player) {
     player.picture("janela-com-mes"_t);
 }
 
-void applyCard(Player& player, const Text& code, const std::array<Text, 8>& times) {
+void recordHours(Player& player, const Text& code, const std::array<Text, 8>& times) {
     player.choose("card.employees"_t, code);
     for (std::size_t i = 0; i < times.size(); ++i)
         if (!times[i].isEmpty()) player.type("schedule.time%1"_t.arg(i + 1), times[i]);
     player.click("schedule.save"_t);
     player.answer("No SÁBADO Será HORA NORMAL?"_t, Answer::Yes);
-    player.click("card.apply"_t);
-    player.answer("Confirma Aplicação de Ponto"_t, Answer::Yes);
+}
+
+/// Two days of 001 as they were punched, and a day on which he did not come.
+void correctDays(Player& player) {
+    constexpr int kMonday = 3;
+    constexpr int kTuesday = 4;
+    constexpr int kAbsent = 11;
+    constexpr int kSituation = 8;
+    const Text grid = "card.half1"_t;
+    player.choose("card.employees"_t, "001"_t);
+    player.typeCell(grid, kMonday, 1, "812"_t);
+    player.typeCell(grid, kMonday, 4, "17:30"_t);
+    player.typeCell(grid, kTuesday, 3, "1150"_t);
+    player.picture("dados-aviso"_t);
+    player.typeCell(grid, kTuesday, 3, "1310"_t);
+    for (int column = 1; column <= 4; ++column)
+        player.typeCell(grid, kAbsent, column, {});
+    player.typeCell(grid, kAbsent, kSituation, "Falta"_t);
+    player.click("card.save"_t);
+    player.picture("dados"_t);
+    player.click("card.otherHalf"_t);
+    player.picture("dados-segunda-quinzena"_t);
 }
 
 void applyCards(Player& player) {
     player.click("menu.timecard.open"_t);
-    applyCard(player, "001"_t, {"08:00"_t, "12:00"_t, "13:00"_t, "17:00"_t, "08:00"_t, "12:00"_t});
-    applyCard(player, "002"_t, {"09:00"_t, "13:00"_t, "14:00"_t, "18:00"_t, "09:00"_t, "13:00"_t});
-    applyCard(player, "003"_t, {"22:00"_t, "02:00"_t, "03:00"_t, "06:00"_t, "22:00"_t, "02:00"_t});
-    player.choose("card.employees"_t, "001"_t);
-    player.picture("dados"_t);
+    recordHours(player, "001"_t,
+                {"08:00"_t, "12:00"_t, "13:00"_t, "17:00"_t, "08:00"_t, "12:00"_t});
+    recordHours(player, "002"_t,
+                {"09:00"_t, "13:00"_t, "14:00"_t, "18:00"_t, "09:00"_t, "13:00"_t});
+    recordHours(player, "003"_t,
+                {"22:00"_t, "02:00"_t, "03:00"_t, "06:00"_t, "22:00"_t, "02:00"_t});
+    player.click("card.applyToAll"_t);
+    player.answer("Esta Operação Irá Apagar Todos os Dados Já Existentes"_t, Answer::Ok);
+    player.answer("Tem Certeza que Deseja Substituir"_t, Answer::Ok);
+    player.picture("aplicar-todos"_t);
+    player.answer("Confirma Aplicação de Ponto"_t, Answer::Yes);
+    correctDays(player);
     player.click("card.close"_t);
 }
 

@@ -107,6 +107,31 @@ void Player::type(const QString& name, const QString& text) {
     });
 }
 
+void Player::typeCell(const QString& name, int row, int column, const QString& text) {
+    then([this, name, row, column, text] {
+        auto* grid = qobject_cast<QAbstractItemView*>(find(name));
+        if (!grid) fail(name + QStringLiteral(" is no grid"));
+        typeCellNow(*grid, grid->model()->index(row, column), text);
+    });
+}
+
+void Player::typeCellNow(QAbstractItemView& grid, const QModelIndex& cell, const QString& text) {
+    grid.setFocus();
+    grid.setCurrentIndex(cell);
+    if (text.isEmpty()) {
+        QTest::keyClick(&grid, Qt::Key_Delete);
+        return;
+    }
+    QWidget* editor = &grid;
+    for (const QChar letter : text) {
+        QTest::sendKeyEvent(QTest::Click, editor, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+        editor = grid.indexWidget(cell);
+        if (!editor) fail(QStringLiteral("the cell takes no text: ") + text);
+        if (auto* box = qobject_cast<QComboBox*>(editor)) editor = box->lineEdit();
+    }
+    QTest::keyClick(editor, Qt::Key_Return);
+}
+
 void Player::choose(const QString& name, const QString& text) {
     then([this, name, text] {
         QWidget* widget = find(name);

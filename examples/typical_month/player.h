@@ -8,6 +8,8 @@
 #include <deque>
 #include <functional>
 
+class QAbstractItemView;
+class QModelIndex;
 class QWidget;
 
 namespace winvrx {
@@ -32,6 +34,8 @@ class Player : public QObject {
     void chooseFile(const QString& path);
     /// Replaces the text of a field by key presses.
     void type(const QString& name, const QString& text);
+    /// Types into a cell of a grid and ends with ENTER; an empty text empties the cell.
+    void typeCell(const QString& name, int row, int column, const QString& text);
     /// Picks the entry of a list or combo box whose text contains `text`.
     void choose(const QString& name, const QString& text);
     /// Ticks or clears a check box or option button.
@@ -57,6 +61,7 @@ class Player : public QObject {
     [[noreturn]] void fail(const QString& reason) const;
     [[nodiscard]] static QWidget* present();
     [[nodiscard]] QWidget* find(const QString& name) const;
+    void typeCellNow(QAbstractItemView& grid, const QModelIndex& cell, const QString& text);
     void answerNow(const QString& text, Answer answer);
     void savePicture(QWidget* window, const QString& name);
     [[nodiscard]] QWidget* beside(const QString& objectName) const;

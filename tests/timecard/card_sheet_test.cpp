@@ -41,13 +41,13 @@ TEST_F(EditedSheet, EditsAreTakenBackAndMadeAgainUntilRecorded) {
     sheet.type(1, PunchCell::MorningEntry, "9");
     sheet.type(1, PunchCell::MorningEntry, "9:00");  // no change
     sheet.type({{2, PunchCell::MorningEntry, "7"}, {2, PunchCell::Situation, "Falta"}});
-    EXPECT_TRUE(sheet.undo());
+    EXPECT_EQ(sheet.undo(), 2);
     EXPECT_EQ(entryOf(2), "");
     EXPECT_EQ(sheet.line(2).situation, "");
     EXPECT_TRUE(sheet.undo());
     EXPECT_EQ(entryOf(1), "08:00");
-    EXPECT_TRUE(sheet.redo());
-    EXPECT_TRUE(sheet.redo());
+    EXPECT_EQ(sheet.redo(), 1);
+    EXPECT_EQ(sheet.redo(), 2);
     EXPECT_FALSE(sheet.redo());
     EXPECT_EQ(entryOf(1) + entryOf(2), "09:0007:00");
     EXPECT_TRUE(sheet.undo());

@@ -2,6 +2,7 @@
 
 #include "foundation/desktop/look.h"
 #include "foundation/desktop/qt_text.h"
+#include "timecard/desktop/wrapped_check_box.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -28,14 +29,13 @@ ApplicationBar::ApplicationBar(CartaoPontoDados& command, QWidget* parent)
       varied_(buildMinutes(QStringLiteral("Minutos &Variados"),
                            QStringLiteral("card.minutesVaried"), Minutes::Varied)),
       situation_(new QComboBox(this)),
-      sameHours_(new QCheckBox(kSameHours, this)) {
+      sameHours_(new WrappedCheckBox(QStringLiteral("card.sameHours"), this)) {
     varied_->setToolTip(QStringLiteral(
         "Cada hora muda até 5 minutos de um dia para o outro, até 10 minutos no dia."));
     buildSituation();
     QLabel* label = look::label(QStringLiteral("Si&tuação"), look::TextSize::Body, this);
     label->setBuddy(situation_);
-    sameHours_->setObjectName(QStringLiteral("card.sameHours"));
-    connect(sameHours_, &QCheckBox::toggled, this, &ApplicationBar::showCaption);
+    connect(sameHours_->box(), &QCheckBox::toggled, this, &ApplicationBar::showCaption);
     auto* row = new QHBoxLayout(this);
     look::layOutPart(*row);
     row->addWidget(fixed_);
@@ -43,8 +43,8 @@ ApplicationBar::ApplicationBar(CartaoPontoDados& command, QWidget* parent)
     row->addSpacing(look::kGap);
     row->addWidget(label);
     row->addWidget(situation_);
-    row->addStretch();
-    row->addWidget(sameHours_);
+    row->addSpacing(look::kGap);
+    row->addWidget(sameHours_, 1);
 }
 
 QRadioButton* ApplicationBar::buildMinutes(const QString& text, const QString& objectName,
@@ -64,6 +64,8 @@ void ApplicationBar::buildSituation() {
     situation_->setToolTip(QStringLiteral(
         "Situação que o ponto aplicado dá aos dias de trabalho que ficam sem horas."));
     situation_->setEditable(true);
+    situation_->lineEdit()->setObjectName(QStringLiteral("card.situation.text"));
+    situation_->lineEdit()->setAccessibleName(situation_->accessibleName());
     situation_->addItem(QString());
     for (const Situation& situation : kSituations)
         situation_->addItem(toQt(situation.word));
@@ -73,11 +75,12 @@ void ApplicationBar::buildSituation() {
 }
 
 bool ApplicationBar::sameHours() const {
-    return sameHours_->isChecked();
+    return sameHours_->box()->isChecked();
 }
 
 void ApplicationBar::showCaption() {
-    sameHours_->setText(sameHours() ? kSameHoursOf + toQt(codeOf(command_.filter())) : kSameHours);
+    sameHours_->setCaption(sameHours() ? kSameHoursOf + toQt(codeOf(command_.filter()))
+                                       : kSameHours);
 }
 
 void ApplicationBar::refresh() {

@@ -4,11 +4,12 @@
 
 #include <QWidget>
 
-class QCheckBox;
 class QComboBox;
 class QRadioButton;
 
 namespace winvrx {
+
+class WrappedCheckBox;
 
 /// How "Aplicar Ponto" and "Aplicar Ponto p/Todos" fill the cards: fixed or varied minutes, the
 /// situation of days of work without times, the same working hours for everyone of the shift.
@@ -32,7 +33,7 @@ class ApplicationBar : public QWidget {
     QRadioButton* fixed_;
     QRadioButton* varied_;
     QComboBox* situation_;
-    QCheckBox* sameHours_;
+    WrappedCheckBox* sameHours_;
 };
 
 }  // namespace winvrx

@@ -2,35 +2,32 @@
 
 #include "foundation/desktop/look.h"
 #include "foundation/desktop/qt_text.h"
-#include "foundation/desktop/search_box.h"
-#include "foundation/text.h"
+#include "timecard/desktop/application_bar.h"
+#include "timecard/desktop/employee_panel.h"
 #include "timecard/desktop/hours_summary_panel.h"
 #include "timecard/desktop/punch_grid.h"
 #include "timecard/desktop/schedule_panel.h"
 
-#include <QButtonGroup>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListWidget>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QToolButton>
+
+#include <memory>
 
 namespace winvrx {
 
 namespace {
 
-constexpr std::array kShiftFilters = {ShiftFilter::Todos, ShiftFilter::Unico, ShiftFilter::Um,
-                                      ShiftFilter::Dois, ShiftFilter::Tres};
-constexpr int kWidestList = 320;
-const QString kNoMonth = QStringLiteral(
-    "Escolha primeiro o mês de trabalho em \"Configurações Feriados e Horas extras\" (F7).");
-const QString kNoEmployees = QStringLiteral(
-    "Nenhum funcionário neste turno. Escolha outro turno acima ou inclua funcionários no "
-    "cadastro.");
+constexpr int kNarrowestSide = 264;
+constexpr int kWidestSide = 320;
+constexpr int kPatience = 500;  // milliseconds without progress shown
+
+const QString kOnLeave = QStringLiteral("⚠ COLABORADOR COM AFASTAMENTO!!!");
+const QString kClosed = QStringLiteral("⚠ Folha Fechada");
 
 QString nameOf(HalfMonth half) {
     return half == HalfMonth::First ? QStringLiteral("1º Quinzena") : QStringLiteral("2º Quinzena");
@@ -38,6 +35,16 @@ QString nameOf(HalfMonth half) {
 
 HalfMonth otherThan(HalfMonth half) {
     return half == HalfMonth::First ? HalfMonth::Second : HalfMonth::First;
+}
+
+std::unique_ptr<QProgressDialog> progressDialog(int cards, QWidget* parent) {
+    auto dialog = std::make_unique<QProgressDialog>(QStringLiteral("Preparando os cartões…"),
+                                                    QStringLiteral("Cancelar"), 0, cards, parent);
+    dialog->setObjectName(QStringLiteral("card.progress"));
+    dialog->setWindowTitle(QStringLiteral("Aplicação de Pontos"));
+    dialog->setWindowModality(Qt::WindowModal);
+    dialog->setMinimumDuration(kPatience);
+    return dialog;
 }
 
 }  // namespace
@@ -48,10 +55,10 @@ CartaoPontoDadosWindow::CartaoPontoDadosWindow(CartaoPontoDados& command, QWidge
       command_(command) {
     setBody(buildBody());
     buildCommands();
-    connectList();
+    connectEmployees();
     addEmployeeKeys();
     refresh();
-    list_->setFocus();
+    employees_->focusList();
 }
 
 CartaoPontoDadosWindow::~CartaoPontoDadosWindow() {
@@ -63,44 +70,27 @@ QWidget* CartaoPontoDadosWindow::buildBody() {
     auto* row = new QHBoxLayout(body);
     look::layOutBody(*row);
     row->setSpacing(look::kMargin);
-    row->addWidget(buildList(), 1);
+    row->addWidget(buildSide(), 1);
     row->addWidget(buildCard(), 4);
     return body;
 }
 
-QWidget* CartaoPontoDadosWindow::buildList() {
-    auto* widget = new QWidget(this);
-    widget->setMaximumWidth(kWidestList);
-    auto* column = new QVBoxLayout(widget);
+QWidget* CartaoPontoDadosWindow::buildSide() {
+    auto* side = new QWidget(this);
+    side->setMinimumWidth(kNarrowestSide);
+    side->setMaximumWidth(kWidestSide);
+    auto* column = new QVBoxLayout(side);
     look::layOutPart(*column);
-    shift_ = new QComboBox(widget);
-    shift_->setObjectName(QStringLiteral("card.shift"));
-    shift_->setAccessibleName(QStringLiteral("Turno"));
-    for (const ShiftFilter filter : kShiftFilters)
-        shift_->addItem(toQt(codeOf(filter)));
-    QLabel* label = look::label(QStringLiteral("Turn&o"), look::TextSize::Body, widget);
-    label->setBuddy(shift_);
-    auto* row = new QHBoxLayout;
-    look::layOutPart(*row);
-    row->addWidget(label);
-    row->addWidget(shift_, 1);
-    column->addLayout(row);
-    search_ = new SearchBox(QStringLiteral("card.search"),
-                            QStringLiteral("Pesquisa Funcionário ..."), widget);
-    column->addWidget(search_);
-    list_ = new QListWidget(widget);
-    list_->setObjectName(QStringLiteral("card.employees"));
-    list_->setAccessibleName(QStringLiteral("Funcionários"));
-    list_->setTextElideMode(Qt::ElideRight);
-    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    search_->serve(list_);
-    column->addWidget(list_, 1);
-    emptyHint_ = look::label(kNoEmployees, look::TextSize::Hint, widget);
-    emptyHint_->setObjectName(QStringLiteral("card.emptyHint"));
-    emptyHint_->setWordWrap(true);
-    column->addWidget(emptyHint_);
+    employees_ = new EmployeePanel(command_, side);
+    column->addWidget(employees_, 1);
     column->addWidget(buildHours());
-    return widget;
+    QRadioButton* enter = buildEntryMode(QStringLiteral("Usar Tecla &ENTER"),
+                                         QStringLiteral("card.useEnter"), Qt::Key_Return);
+    enter->setChecked(true);
+    column->addWidget(enter);
+    column->addWidget(buildEntryMode(QStringLiteral("Usar Tecla TA&BE"),
+                                     QStringLiteral("card.useTab"), Qt::Key_Tab));
+    return side;
 }
 
 QWidget* CartaoPontoDadosWindow::buildHours() {
@@ -111,6 +101,17 @@ QWidget* CartaoPontoDadosWindow::buildHours() {
                 showState();
             });
     return hours_;
+}
+
+QRadioButton* CartaoPontoDadosWindow::buildEntryMode(const QString& text, const QString& objectName,
+                                                     Qt::Key key) {
+    auto* button = new QRadioButton(text, this);
+    button->setObjectName(objectName);
+    connect(button, &QRadioButton::toggled, this, [this, key](bool on) {
+        for (const HalfWidgets& widgets : halves_)
+            if (on && widgets.grid) widgets.grid->setNextCellKey(key);
+    });
+    return button;
 }
 
 QWidget* CartaoPontoDadosWindow::buildCard() {
@@ -125,12 +126,19 @@ QWidget* CartaoPontoDadosWindow::buildCard() {
         showState();
     });
     column->addWidget(schedule_);
+    application_ = new ApplicationBar(command_, widget);
+    column->addWidget(application_);
     auto* row = new QHBoxLayout;
     look::layOutPart(*row);
-    row->addWidget(buildHalf(HalfMonth::First), 1);
-    row->addWidget(buildHalf(HalfMonth::Second), 1);
+    for (const HalfMonth one : {HalfMonth::First, HalfMonth::Second}) {
+        row->addWidget(buildHalf(one), 1);
+        connectGrid(one);
+    }
     column->addLayout(row, 1);
-    column->addWidget(buildEntryMode());
+    unread_ = look::label(QString(), look::TextSize::Hint, this);
+    unread_->setObjectName(QStringLiteral("card.unread"));
+    unread_->setWordWrap(true);
+    column->addWidget(unread_);
     return widget;
 }
 
@@ -143,23 +151,47 @@ QWidget* CartaoPontoDadosWindow::buildHalf(HalfMonth which) {
     column->setSpacing(look::kSmallGap);
     widgets.heading = look::heading(QString(), widgets.panel);
     widgets.heading->setObjectName(QStringLiteral("card.heading") + number);
-    column->addWidget(widgets.heading);
+    widgets.marks = look::label(QString(), look::TextSize::Body, widgets.panel);
+    widgets.marks->setObjectName(QStringLiteral("card.marks") + number);
+    look::setTint(*widgets.marks, look::Tint::Warning);
+    auto* headings = new QHBoxLayout;
+    look::layOutPart(*headings);
+    headings->addWidget(widgets.heading);
+    headings->addStretch();
+    headings->addWidget(widgets.marks);
+    column->addLayout(headings);
     widgets.model = new PunchModel(command_, which, this);
     widgets.grid = new PunchGrid(widgets.model, QStringLiteral("card.half") + number, this);
     column->addWidget(widgets.grid, 1);
+    return widgets.panel;
+}
+
+void CartaoPontoDadosWindow::connectGrid(HalfMonth which) {
+    const HalfWidgets& widgets = half(which);
     connect(widgets.model, &PunchModel::edited, this, &CartaoPontoDadosWindow::showState);
     connect(widgets.grid, &PunchGrid::cellChanged, this, &CartaoPontoDadosWindow::showState);
+    connect(widgets.grid, &PunchGrid::changeRefused, this, [this] { (void)command_.mayEdit(); });
     connect(widgets.grid, &PunchGrid::leftAtEnd, this, [this, which] {
         showHalf(otherThan(which));
         half(shown_).grid->goToStart();
     });
-    return widgets.panel;
+    connect(widgets.grid, &PunchGrid::undoRequested, this,
+            [this] { showEdit(command_.sheet().undo()); });
+    connect(widgets.grid, &PunchGrid::redoRequested, this,
+            [this] { showEdit(command_.sheet().redo()); });
+    connect(widgets.grid, &PunchGrid::pasteRequested, this,
+            [this](int day, PunchCell cell, const QString& text) {
+                if (command_.pasteCells(day, cell, toUtf8(text))) showSheet();
+            });
 }
 
 void CartaoPontoDadosWindow::buildCommands() {
     apply_ = addCommand(QStringLiteral("apply"), QStringLiteral("Aplicar Ponto"), Qt::Key_F9,
                         QStringLiteral("card.apply"));
     connect(apply_, &QToolButton::clicked, this, &CartaoPontoDadosWindow::apply);
+    applyToAll_ = addCommand(QStringLiteral("employees"), QStringLiteral("Aplicar Ponto p/Todos"),
+                             Qt::SHIFT | Qt::Key_F9, QStringLiteral("card.applyToAll"));
+    connect(applyToAll_, &QToolButton::clicked, this, &CartaoPontoDadosWindow::applyToAll);
     QToolButton* record = addCommand(QStringLiteral("save"), QStringLiteral("Gravar"),
                                      QKeySequence::Save, QStringLiteral("card.save"));
     connect(record, &QToolButton::clicked, this, &CartaoPontoDadosWindow::save);
@@ -177,42 +209,22 @@ void CartaoPontoDadosWindow::buildCommands() {
     connect(close, &QPushButton::clicked, this, &CartaoPontoDadosWindow::reject);
 }
 
-QWidget* CartaoPontoDadosWindow::buildEntryMode() {
-    auto* widget = new QWidget(this);
-    auto* row = new QHBoxLayout(widget);
-    look::layOutPart(*row);
-    auto* enter = new QRadioButton(QStringLiteral("Usar Tecla &ENTER"), widget);
-    enter->setObjectName(QStringLiteral("card.useEnter"));
-    auto* tab = new QRadioButton(QStringLiteral("Usar Tecla TA&BE"), widget);
-    tab->setObjectName(QStringLiteral("card.useTab"));
-    enter->setChecked(true);
-    unread_ = look::label(QString(), look::TextSize::Hint, widget);
-    unread_->setObjectName(QStringLiteral("card.unread"));
-    unread_->setWordWrap(true);
-    row->addWidget(unread_, 1);
-    row->addWidget(enter);
-    row->addWidget(tab);
-    connect(tab, &QRadioButton::toggled, this, [this](bool on) {
-        for (HalfWidgets& widgets : halves_)
-            widgets.grid->setNextCellKey(on ? Qt::Key_Tab : Qt::Key_Return);
-    });
-    return widget;
-}
-
-void CartaoPontoDadosWindow::connectList() {
-    connect(shift_, &QComboBox::activated, this, [this](int place) {
-        (void)command_.filterBy(kShiftFilters[static_cast<std::size_t>(place)]);
+void CartaoPontoDadosWindow::connectEmployees() {
+    connect(employees_, &EmployeePanel::shiftChosen, this, [this](ShiftFilter filter) {
+        commitEditors();
+        (void)command_.filterBy(filter);
         refresh();
     });
-    connect(search_, &SearchBox::textChanged, this, &CartaoPontoDadosWindow::filterList);
-    connect(list_, &QListWidget::currentRowChanged, this, &CartaoPontoDadosWindow::chooseEmployee);
-    connect(list_, &QListWidget::itemActivated, this, [this] { half(shown_).grid->goToStart(); });
+    connect(employees_, &EmployeePanel::employeeChosen, this,
+            &CartaoPontoDadosWindow::chooseEmployee);
+    connect(employees_, &EmployeePanel::opened, this, [this] { half(shown_).grid->goToStart(); });
 }
 
 void CartaoPontoDadosWindow::addEmployeeKeys() {
     const auto add = [this](int key, int step) {
         auto* shortcut = new QShortcut(key, this);
-        connect(shortcut, &QShortcut::activated, this, [this, step] { stepEmployee(step); });
+        connect(shortcut, &QShortcut::activated, employees_,
+                [this, step] { employees_->step(step); });
     };
     add(Qt::Key_PageUp, -1);
     add(Qt::Key_PageDown, 1);
@@ -224,7 +236,7 @@ CartaoPontoDadosWindow::HalfWidgets& CartaoPontoDadosWindow::half(HalfMonth half
 
 bool CartaoPontoDadosWindow::isWide() const {
     const int grids = 2 * halves_[0].grid->comfortableWidth();
-    return width() >= kWidestList + grids + 3 * look::kMargin + look::kGap;
+    return width() >= kWidestSide + grids + 3 * look::kMargin + look::kGap;
 }
 
 void CartaoPontoDadosWindow::showHalf(HalfMonth half) {
@@ -255,61 +267,46 @@ void CartaoPontoDadosWindow::refresh() {
         setChips({toQt(command_.company()->text() + " " + command_.companyName()),
                   toQt(monthTitle(command_.settings().month)),
                   QStringLiteral("Turno: ") + toQt(codeOf(command_.filter()))});
-    showList();
+    employees_->refresh();
+    application_->refresh();
     showCard();
 }
 
-void CartaoPontoDadosWindow::showList() {
-    const QSignalBlocker quietList(list_);
-    const auto* filter = std::find(kShiftFilters.begin(), kShiftFilters.end(), command_.filter());
-    shift_->setCurrentIndex(static_cast<int>(filter - kShiftFilters.begin()));
-    list_->clear();
-    for (const Employee& one : command_.employees())
-        list_->addItem(toQt(one.code + " " + one.name));
-    list_->setCurrentRow(static_cast<int>(command_.selectedPosition().value_or(0)));
-    const bool empty = command_.employees().empty();
-    emptyHint_->setVisible(empty);
-    emptyHint_->setText(command_.company() ? kNoEmployees : kNoMonth);
-    shift_->setEnabled(command_.company().has_value());
-    filterList(search_->text());
-}
-
-void CartaoPontoDadosWindow::filterList(const QString& wanted) {
-    for (int row = 0; row < list_->count(); ++row) {
-        QListWidgetItem* item = list_->item(row);
-        item->setHidden(!matchesSearch(toUtf8(item->text()), toUtf8(wanted)));
-    }
-}
-
-void CartaoPontoDadosWindow::chooseEmployee(int row) {
-    if (row < 0) return;
+void CartaoPontoDadosWindow::chooseEmployee(std::size_t position) {
     commitEditors();
-    const auto position = static_cast<std::size_t>(row);
     if (command_.selectedPosition() != position) (void)command_.select(position);
-    const QSignalBlocker quiet(list_);
-    if (const auto stayed = command_.selectedPosition())
-        list_->setCurrentRow(static_cast<int>(*stayed));
     showCard();
-}
-
-void CartaoPontoDadosWindow::stepEmployee(int step) {
-    int row = list_->currentRow() + step;
-    while (row >= 0 && row < list_->count() && list_->item(row)->isHidden())
-        row += step;
-    if (row >= 0 && row < list_->count()) list_->setCurrentRow(row);
 }
 
 void CartaoPontoDadosWindow::showCard() {
+    employees_->showSelected();
     schedule_->refresh();
-    for (HalfWidgets& widgets : halves_) {
+    apply_->setEnabled(command_.selected() != nullptr);
+    applyToAll_->setEnabled(command_.company().has_value());
+    showUnread();
+    layOutHalves();
+    showSheet();
+}
+
+void CartaoPontoDadosWindow::showSheet() {
+    for (const HalfWidgets& widgets : halves_) {
         const QModelIndex at = widgets.grid->currentIndex();
         widgets.model->refresh();
         widgets.grid->setCurrentIndex(widgets.model->index(at.row(), at.column()));
     }
-    apply_->setEnabled(command_.selected() != nullptr);
-    showUnread();
-    layOutHalves();
     showState();
+}
+
+void CartaoPontoDadosWindow::showEdit(std::optional<int> day) {
+    if (!day) return;
+    showSheet();
+    const HalfMonth place = *day <= daysOf(HalfMonth::First, command_.settings().month).last
+                                ? HalfMonth::First
+                                : HalfMonth::Second;
+    if (place == shown_) return;
+    showHalf(place);
+    half(place).grid->setCurrentIndex(half(place).model->indexOfDay(*day));
+    half(place).grid->setFocus();
 }
 
 void CartaoPontoDadosWindow::showUnread() {
@@ -318,6 +315,7 @@ void CartaoPontoDadosWindow::showUnread() {
     for (const std::string& line : lines)
         texts << toQt(line);
     unread_->setToolTip(texts.join(QLatin1Char('\n')));
+    unread_->setVisible(!lines.empty());
     if (lines.empty())
         unread_->clear();
     else if (lines.size() == 1)
@@ -326,6 +324,19 @@ void CartaoPontoDadosWindow::showUnread() {
         unread_->setText(QStringLiteral("⚠ %1 linhas não entendidas, mantidas no registro: %2 …")
                              .arg(lines.size())
                              .arg(texts[0]));
+}
+
+void CartaoPontoDadosWindow::showHeadings() {
+    const auto position = command_.selectedPosition();
+    const EmployeeMark mark = position ? command_.mark(*position) : EmployeeMark();
+    QStringList marks;
+    if (mark.onLeave) marks << kOnLeave;
+    if (mark.closed) marks << kClosed;
+    for (const HalfMonth one : {HalfMonth::First, HalfMonth::Second}) {
+        half(one).heading->setText(nameOf(one) + QStringLiteral("  ·  ") +
+                                   toQt(command_.totalOf(one)));
+        half(one).marks->setText(marks.join(QStringLiteral("  ·  ")));
+    }
 }
 
 void CartaoPontoDadosWindow::showHours() {
@@ -337,13 +348,14 @@ void CartaoPontoDadosWindow::showHours() {
 
 void CartaoPontoDadosWindow::showState() {
     showHours();
-    for (const HalfMonth one : {HalfMonth::First, HalfMonth::Second})
-        half(one).heading->setText(nameOf(one) + QStringLiteral("  ·  ") +
-                                   toQt(command_.totalOf(one)));
+    showHeadings();
     const PunchGrid* grid = half(shown_).grid;
-    const QString notice = grid->punches()->noticeAt(grid->currentIndex());
+    QString notice = grid->punches()->noticeAt(grid->currentIndex());
+    if (notice.isEmpty()) notice = grid->punches()->doubtAt(grid->currentIndex());
     if (!notice.isEmpty())
         setState(QStringLiteral("⚠ ") + notice);
+    else if (command_.closed())
+        setState(QStringLiteral("Folha Fechada: o ponto deste mês não pode ser alterado"));
     else if (command_.changed())
         setState(QStringLiteral("Alterações não gravadas"));
     else if (command_.selected() && !command_.applied())
@@ -361,6 +373,26 @@ void CartaoPontoDadosWindow::apply() {
     commitEditors();
     (void)command_.applyPunches();
     showCard();
+}
+
+void CartaoPontoDadosWindow::applyToAll() {
+    commitEditors();
+    const auto positions = employees_->shown();
+    std::unique_ptr<QProgressDialog> dialog;
+    const auto progress = [&dialog, this](int done, int total) {
+        if (!dialog) dialog = progressDialog(total, this);
+        dialog->setLabelText(QStringLiteral("Cartão %1 de %2").arg(done).arg(total));
+        dialog->setValue(done);
+        return !dialog->wasCanceled();
+    };
+    const bool applied = command_.applyToAll(positions, application_->sameHours(), progress);
+    dialog.reset();
+    employees_->refresh();
+    showCard();
+    if (applied)
+        setState(QStringLiteral("Ponto aplicado: %1 de %2 da lista")
+                     .arg(command_.filledCards())
+                     .arg(positions.size()));
 }
 
 void CartaoPontoDadosWindow::save() {

@@ -5,22 +5,21 @@
 
 #include <array>
 
-class QComboBox;
-class QListWidget;
+class QLabel;
 class QRadioButton;
 class QToolButton;
-class QVBoxLayout;
 
 namespace winvrx {
 
+class ApplicationBar;
+class EmployeePanel;
 class HoursSummaryPanel;
 class PunchGrid;
 class PunchModel;
 class SchedulePanel;
-class SearchBox;
 
-/// The time-card data window: employees at the left; schedule and punches of the one chosen at the
-/// right. Both half-months stand side by side where the window is wide enough.
+/// The time-card data window: employees at the left; schedule, application and punches of the one
+/// chosen at the right. Both half-months stand side by side where the window is wide enough.
 class CartaoPontoDadosWindow : public ScreenWindow {
     Q_OBJECT
 
@@ -47,49 +46,53 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     struct HalfWidgets {
         QWidget* panel = nullptr;
         QLabel* heading = nullptr;
+        QLabel* marks = nullptr;  ///< leave and closed month
         PunchModel* model = nullptr;
         PunchGrid* grid = nullptr;
     };
 
     [[nodiscard]] QWidget* buildBody();
-    [[nodiscard]] QWidget* buildList();
+    [[nodiscard]] QWidget* buildSide();
     [[nodiscard]] QWidget* buildHours();
     [[nodiscard]] QWidget* buildCard();
     [[nodiscard]] QWidget* buildHalf(HalfMonth half);
-    [[nodiscard]] QWidget* buildEntryMode();
+    [[nodiscard]] QRadioButton* buildEntryMode(const QString& text, const QString& objectName,
+                                               Qt::Key key);
     void buildCommands();
-    void connectList();
+    void connectEmployees();
+    void connectGrid(HalfMonth half);
     void addEmployeeKeys();
 
     [[nodiscard]] HalfWidgets& half(HalfMonth half);
     [[nodiscard]] bool isWide() const;
     void showHalf(HalfMonth half);
     void layOutHalves();
-    void showList();
-    void filterList(const QString& wanted);
-    void chooseEmployee(int row);
-    void stepEmployee(int step);
+    void chooseEmployee(std::size_t position);
     void showCard();
+    void showSheet();
+    /// Goes to the day that an edit was taken back on or made again.
+    void showEdit(std::optional<int> day);
+    void showHeadings();
     void showHours();
     void showState();
     void showUnread();
     void commitEditors();
     void apply();
+    void applyToAll();
     void save();
     void changeMonth();
 
     CartaoPontoDados& command_;
     HalfMonth shown_ = HalfMonth::First;
-    QComboBox* shift_ = nullptr;
-    SearchBox* search_ = nullptr;
-    QListWidget* list_ = nullptr;
-    QLabel* emptyHint_ = nullptr;
-    QLabel* unread_ = nullptr;
-    SchedulePanel* schedule_ = nullptr;
+    EmployeePanel* employees_ = nullptr;
     HoursSummaryPanel* hours_ = nullptr;
+    SchedulePanel* schedule_ = nullptr;
+    ApplicationBar* application_ = nullptr;
+    QLabel* unread_ = nullptr;
     std::array<HalfWidgets, 2> halves_{};
     QToolButton* otherHalf_ = nullptr;
     QToolButton* apply_ = nullptr;
+    QToolButton* applyToAll_ = nullptr;
 };
 
 }  // namespace winvrx

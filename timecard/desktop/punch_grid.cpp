@@ -3,6 +3,8 @@
 #include "foundation/desktop/look.h"
 #include "foundation/desktop/qt_text.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QCompleter>
 #include <QHeaderView>
@@ -18,10 +20,12 @@ constexpr int kLongestTime = 5;
 constexpr int kLongestSituation = 19;
 
 /// Widths of columns, in digits; a cell has room for five of them behind a warning sign.
-constexpr int kDayDigits = 12;
+constexpr int kDayDigits = 14;
 constexpr int kCellDigits = 9;
 constexpr int kTotalDigits = 7;
 constexpr int kSituationDigits = 18;
+constexpr int kMostRows = 16;
+constexpr QKeyCombination kRedoKey(Qt::ControlModifier, Qt::Key_Y);
 
 int digitsOf(int column) {
     if (column == PunchModel::Day) return kDayDigits;
@@ -72,6 +76,7 @@ class PunchDelegate : public QStyledItemDelegate {
             box->addItem(toQt(situation.word));
         box->lineEdit()->setMaxLength(kLongestSituation);
         box->completer()->setCompletionMode(QCompleter::PopupCompletion);
+        box->completer()->setFilterMode(Qt::MatchContains);
         return box;
     }
 };
@@ -85,7 +90,7 @@ PunchGrid::PunchGrid(PunchModel* model, const QString& objectName, QWidget* pare
                                                             : QStringLiteral("2º Quinzena"));
     setModel(model);
     setItemDelegate(new PunchDelegate(this));
-    setSelectionMode(QAbstractItemView::SingleSelection);
+    setSelectionMode(QAbstractItemView::ContiguousSelection);
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::AnyKeyPressed |
                     QAbstractItemView::EditKeyPressed);
     setTabKeyNavigation(false);
@@ -96,10 +101,8 @@ PunchGrid::PunchGrid(PunchModel* model, const QString& objectName, QWidget* pare
 
 void PunchGrid::layOutColumns() {
     const int digit = QFontMetrics(look::fixedFont()).horizontalAdvance(QLatin1Char('0'));
-    const int rowHeight = QFontMetrics(look::fixedFont()).height() + look::kGap;
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setMinimumSectionSize(rowHeight);
-    verticalHeader()->setDefaultSectionSize(rowHeight);
+    fitRows();
     QHeaderView* header = horizontalHeader();
     header->setSectionsClickable(false);
     header->setHighlightSections(false);
@@ -110,6 +113,20 @@ void PunchGrid::layOutColumns() {
     comfortableWidth_ =
         digit * (kDayDigits + 7 * kCellDigits + kSituationDigits + 2 * kTotalDigits);
     setMinimumWidth(comfortableWidth_ / 2);
+}
+
+void PunchGrid::fitRows() {
+    const int text = QFontMetrics(look::fixedFont()).height();
+    const int least = text + look::kSmallGap;
+    const int most = text + look::kGap + look::kSmallGap;
+    verticalHeader()->setMinimumSectionSize(least);
+    verticalHeader()->setDefaultSectionSize(
+        std::clamp(viewport()->height() / kMostRows, least, most));
+}
+
+void PunchGrid::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    fitRows();
 }
 
 bool PunchGrid::isNextCellKey(int key) const {
@@ -145,15 +162,63 @@ void PunchGrid::goToNextCell() {
         setCurrentIndex(punches_->index(at.row(), at.column() + 1));
 }
 
+bool PunchGrid::mayChange() const {
+    return currentIndex().siblingAtColumn(PunchModel::FirstCell).flags() & Qt::ItemIsEditable;
+}
+
+bool PunchGrid::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
+    const bool asked = trigger != NoEditTriggers && (editTriggers() & trigger);
+    if (asked && PunchModel::cellOf(index.column()) && !mayChange()) {
+        emit changeRefused();
+        return false;
+    }
+    return QTableView::edit(index, trigger, event);
+}
+
+QItemSelectionRange PunchGrid::block() const {
+    const QItemSelection selection = selectionModel()->selection();
+    return selection.isEmpty() ? QItemSelectionRange(currentIndex()) : selection.first();
+}
+
+void PunchGrid::clearBlock() {
+    if (mayChange())
+        punches_->clear(block());
+    else
+        emit changeRefused();
+}
+
+void PunchGrid::pasteHere() {
+    const QModelIndex at = block().topLeft();
+    if (!at.isValid()) return;
+    const auto cell = PunchModel::cellOf(std::max<int>(at.column(), PunchModel::FirstCell));
+    const QString text = QApplication::clipboard()->text();
+    if (cell && !text.isEmpty()) emit pasteRequested(punches_->dayOf(at), *cell, text);
+}
+
+bool PunchGrid::takesCommand(const QKeyEvent* event) {
+    const bool copies = event->matches(QKeySequence::Copy);
+    const bool cuts = event->matches(QKeySequence::Cut);
+    if (copies || cuts) QApplication::clipboard()->setText(punches_->blockText(block()));
+    if (cuts || event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace)
+        clearBlock();
+    else if (event->matches(QKeySequence::Paste))
+        pasteHere();
+    else if (event->matches(QKeySequence::Undo))
+        emit undoRequested();
+    else if (event->matches(QKeySequence::Redo) || event->keyCombination() == kRedoKey)
+        emit redoRequested();
+    else
+        return copies;
+    return true;
+}
+
 void PunchGrid::keyPressEvent(QKeyEvent* event) {
     // An open editor's ENTER comes through here too; closing the editor moves on by itself.
     if (state() == EditingState)
         event->accept();
     else if (isNextCellKey(event->key()))
         goToNextCell();
-    else if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace)
-        model()->setData(currentIndex(), QString());
-    else
+    else if (!takesCommand(event))
         QTableView::keyPressEvent(event);
 }
 

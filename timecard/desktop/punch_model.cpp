@@ -2,6 +2,7 @@
 
 #include "foundation/desktop/look.h"
 #include "foundation/desktop/qt_text.h"
+#include "timecard/cell_block.h"
 
 #include <QApplication>
 
@@ -16,11 +17,6 @@ constexpr std::array<const char*, PunchModel::Columns> kHeadings = {
     "Dia",          "Manhã\nEntrada", "Manhã\nSaída", "Tarde\nEntrada",
     "Tarde\nSaída", "Extra\nEntrada", "Extra\nSaída", "Obs.",
     "Situação",     "Total",          "Dif."};
-
-std::optional<PunchCell> cellOf(int column) {
-    if (column < PunchModel::FirstCell || column > PunchModel::Situation) return std::nullopt;
-    return kPunchCells[static_cast<std::size_t>(column - PunchModel::FirstCell)];
-}
 
 std::optional<look::Tint> tintOf(DayKind kind) {
     switch (kind) {
@@ -67,6 +63,15 @@ int PunchModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : Columns;
 }
 
+std::optional<PunchCell> PunchModel::cellOf(int column) {
+    if (column < FirstCell || column > Situation) return std::nullopt;
+    return kPunchCells[static_cast<std::size_t>(column - FirstCell)];
+}
+
+QModelIndex PunchModel::indexOfDay(int day) const {
+    return index(day - days_.first, FirstCell);
+}
+
 int PunchModel::dayOf(const QModelIndex& index) const {
     return days_.first + index.row();
 }
@@ -84,6 +89,10 @@ QString PunchModel::noticeAt(const QModelIndex& index) const {
     return cell ? toQt(command_.sheet().noticeAt(dayOf(index), *cell)) : QString();
 }
 
+QString PunchModel::doubtAt(const QModelIndex& index) const {
+    return index.isValid() ? toQt(command_.sheet().doubtAt(dayOf(index))) : QString();
+}
+
 QString PunchModel::spokenNameOf(const QModelIndex& index) const {
     QString heading = QString::fromUtf8(kHeadings[static_cast<std::size_t>(index.column())]);
     return toQt(command_.sheet().line(dayOf(index)).label) + QLatin1Char(' ') +
@@ -91,30 +100,45 @@ QString PunchModel::spokenNameOf(const QModelIndex& index) const {
            textOf(index);
 }
 
+QString PunchModel::shownText(const QModelIndex& index) const {
+    const QString text = textOf(index);
+    const bool doubtful = index.column() == Day && !doubtAt(index).isEmpty();
+    if (doubtful || !noticeAt(index).isEmpty()) return QString(QStringLiteral("⚠ ") + text);
+    const bool unsaid = index.column() == Situation && text.isEmpty();
+    return unsaid ? calendarWord(command_.kindOf(dayOf(index))) : text;
+}
+
 QVariant PunchModel::foregroundOf(const QModelIndex& index) const {
     const QPalette palette = QApplication::palette();
-    if (!noticeAt(index).isEmpty()) return look::color(look::Tint::Warning, palette);
+    const bool isTimeOrDay = index.column() < Situation;
+    if (!noticeAt(index).isEmpty() || (isTimeOrDay && !doubtAt(index).isEmpty()))
+        return look::color(look::Tint::Warning, palette);
     const auto tint = tintOf(command_.kindOf(dayOf(index)));
     if (tint && (index.column() == Day || index.column() == Situation))
         return look::color(*tint, palette);
     return {};
 }
 
+QVariant PunchModel::backgroundOf(const QModelIndex& index) const {
+    const QPalette palette = QApplication::palette();
+    if (!doubtAt(index).isEmpty()) return look::wash(look::Tint::Warning, palette);
+    const auto tint = tintOf(command_.kindOf(dayOf(index)));
+    return tint ? QVariant(look::wash(*tint, palette)) : QVariant();
+}
+
 QVariant PunchModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
-    const DayKind kind = command_.kindOf(dayOf(index));
     switch (role) {
-        case Qt::DisplayRole: {
-            const QString text = textOf(index);
-            if (!noticeAt(index).isEmpty()) return QString(QStringLiteral("⚠ ") + text);
-            return index.column() == Situation && text.isEmpty() ? calendarWord(kind) : text;
-        }
+        case Qt::DisplayRole:
+            return shownText(index);
         case Qt::EditRole:
             return textOf(index);
         case Qt::ToolTipRole:
-            return noticeAt(index);
+            return noticeAt(index).isEmpty() ? doubtAt(index) : noticeAt(index);
         case Qt::AccessibleTextRole:
             return spokenNameOf(index);
+        case Qt::AccessibleDescriptionRole:
+            return doubtAt(index);
         case Qt::FontRole:
             return index.column() == Situation ? look::font(look::TextSize::Body)
                                                : look::fixedFont();
@@ -125,8 +149,7 @@ QVariant PunchModel::data(const QModelIndex& index, int role) const {
         case Qt::ForegroundRole:
             return foregroundOf(index);
         case Qt::BackgroundRole:
-            if (const auto tint = tintOf(kind)) return look::wash(*tint, QApplication::palette());
-            return {};
+            return backgroundOf(index);
         default:
             return {};
     }
@@ -139,16 +162,38 @@ QVariant PunchModel::headerData(int section, Qt::Orientation orientation, int ro
 
 Qt::ItemFlags PunchModel::flags(const QModelIndex& index) const {
     const auto flags = QAbstractTableModel::flags(index);
-    return command_.selected() && cellOf(index.column()) ? flags | Qt::ItemIsEditable : flags;
+    const bool open = command_.selected() && !command_.closed();
+    return open && cellOf(index.column()) ? flags | Qt::ItemIsEditable : flags;
 }
 
 bool PunchModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     const auto cell = index.isValid() ? cellOf(index.column()) : std::nullopt;
-    if (role != Qt::EditRole || !cell || !command_.selected()) return false;
+    if (role != Qt::EditRole || !cell || !(flags(index) & Qt::ItemIsEditable)) return false;
     command_.sheet().type(dayOf(index), *cell, toUtf8(value.toString()));
     emit dataChanged(this->index(index.row(), Day), this->index(index.row(), Difference));
     emit edited();
     return true;
+}
+
+QString PunchModel::blockText(const QItemSelectionRange& block) const {
+    CellBlock cells;
+    for (int row = block.top(); row <= block.bottom(); ++row) {
+        auto& texts = cells.emplace_back();
+        for (int column = block.left(); column <= block.right(); ++column)
+            if (cellOf(column)) texts.push_back(toUtf8(textOf(index(row, column))));
+    }
+    return toQt(winvrx::textOf(cells));
+}
+
+void PunchModel::clear(const QItemSelectionRange& block) {
+    std::vector<TypedCell> cells;
+    for (int row = block.top(); row <= block.bottom(); ++row)
+        for (int column = block.left(); column <= block.right(); ++column)
+            if (const auto cell = cellOf(column))
+                cells.push_back({days_.first + row, *cell, std::string()});
+    command_.sheet().type(cells);
+    emit dataChanged(index(block.top(), Day), index(block.bottom(), Total));
+    emit edited();
 }
 
 }  // namespace winvrx

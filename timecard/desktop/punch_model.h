@@ -3,6 +3,9 @@
 #include "timecard/cartao_ponto_dados.h"
 
 #include <QAbstractTableModel>
+#include <QItemSelectionRange>
+
+#include <optional>
 
 namespace winvrx {
 
@@ -30,15 +33,27 @@ class PunchModel : public QAbstractTableModel {
 
     /// What is wrong with the cell; empty when nothing is.
     [[nodiscard]] QString noticeAt(const QModelIndex& index) const;
+    /// Why the day's times are doubtful; empty when they are not.
+    [[nodiscard]] QString doubtAt(const QModelIndex& index) const;
+
+    /// The cell that takes text in this column; nullopt for the day and its total.
+    [[nodiscard]] static std::optional<PunchCell> cellOf(int column);
+    [[nodiscard]] int dayOf(const QModelIndex& index) const;
+    [[nodiscard]] QModelIndex indexOfDay(int day) const;
+    /// The cells that take text in the block, as spreadsheets take them.
+    [[nodiscard]] QString blockText(const QItemSelectionRange& block) const;
+    /// Empties the cells that take text, as one edit.
+    void clear(const QItemSelectionRange& block);
 
   signals:
     void edited();
 
   private:
-    [[nodiscard]] int dayOf(const QModelIndex& index) const;
     [[nodiscard]] QString textOf(const QModelIndex& index) const;
     [[nodiscard]] QString spokenNameOf(const QModelIndex& index) const;
+    [[nodiscard]] QString shownText(const QModelIndex& index) const;
     [[nodiscard]] QVariant foregroundOf(const QModelIndex& index) const;
+    [[nodiscard]] QVariant backgroundOf(const QModelIndex& index) const;
 
     CartaoPontoDados& command_;
     HalfMonth half_;

@@ -3,6 +3,7 @@
 #include "foundation/desktop/look.h"
 #include "foundation/desktop/qt_text.h"
 
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -22,8 +23,35 @@ constexpr std::array<const char*, kTimesOfRow> kTimeNames = {"Manhã Entrada", "
 SchedulePanel::SchedulePanel(CartaoPontoDados& command, QWidget* parent)
     : QFrame(parent), command_(command) {
     look::setRole(*this, "panel");
+    buildTexts();
+    auto* hours = new QHBoxLayout;
+    hours->setSpacing(look::kMargin);
+    hours->addWidget(weekly_);
+    hours->addWidget(monthly_);
+    hours->addStretch();
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(look::kSmallGap);
+    texts->addWidget(name_);
+    texts->addWidget(facts_);
+    texts->addLayout(hours);
+    for (QLabel* label : {onLeave_, closed_, hint_})
+        texts->addWidget(label);
+    texts->addStretch();
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(look::kMargin, look::kGap, look::kMargin, look::kGap);
+    row->setSpacing(look::kMargin);
+    row->addLayout(texts, 1);
+    row->addLayout(buildTimes());
+}
+
+void SchedulePanel::buildTexts() {
     name_ = look::heading(QString(), this);
     name_->setObjectName(QStringLiteral("schedule.name"));
+    onLeave_ =
+        buildMark(QStringLiteral("COLABORADOR COM AFASTAMENTO!!!"), QStringLiteral("card.onLeave"));
+    look::setTint(*onLeave_, look::Tint::Leave);
+    closed_ = buildMark(QStringLiteral("⚠ Folha Fechada"), QStringLiteral("card.closed"));
+    look::setTint(*closed_, look::Tint::Warning);
     facts_ = look::label(QString(), look::TextSize::Hint, this);
     facts_->setWordWrap(true);
     weekly_ = look::label(QString(), look::TextSize::Body, this);
@@ -33,28 +61,28 @@ SchedulePanel::SchedulePanel(CartaoPontoDados& command, QWidget* parent)
     hint_ = look::label(QString(), look::TextSize::Hint, this);
     hint_->setObjectName(QStringLiteral("schedule.hint"));
     look::setTint(*hint_, look::Tint::Warning);
+}
+
+QLabel* SchedulePanel::buildMark(const QString& text, const QString& objectName) {
+    QLabel* label = look::label(text, look::TextSize::Body, this);
+    label->setObjectName(objectName);
+    label->hide();
+    return label;
+}
+
+void SchedulePanel::buildSave() {
+    second_ = new QCheckBox(QStringLiteral("Se&gundo horário"), this);
+    second_->setObjectName(QStringLiteral("schedule.second"));
+    second_->setToolTip(QStringLiteral("Marca guardada com o horário; não muda o cálculo."));
+    connect(second_, &QCheckBox::toggled, this, [this](bool on) {
+        command_.schedule().setSecondFlag(on);
+        emit edited();
+    });
     save_ = new QPushButton(look::icon(QStringLiteral("save")), QStringLiteral("Gravar &Horário"));
     save_->setObjectName(QStringLiteral("schedule.save"));
     save_->setAccessibleName(QStringLiteral("Gravar Horário"));
     save_->setAutoDefault(false);
     connect(save_, &QPushButton::clicked, this, &SchedulePanel::saveRequested);
-
-    auto* texts = new QVBoxLayout;
-    texts->setSpacing(look::kSmallGap);
-    for (QLabel* label : {name_, facts_, weekly_, monthly_})
-        texts->addWidget(label);
-    auto* entry = new QVBoxLayout;
-    entry->setSpacing(look::kSmallGap);
-    entry->addLayout(buildTimes());
-    auto* below = new QHBoxLayout;
-    below->addWidget(hint_, 1);
-    below->addWidget(save_);
-    entry->addLayout(below);
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(look::kMargin, look::kGap, look::kMargin, look::kGap);
-    row->setSpacing(look::kGroupGap);
-    row->addLayout(texts, 1);
-    row->addLayout(entry);
 }
 
 QGridLayout* SchedulePanel::buildTimes() {
@@ -77,6 +105,9 @@ QGridLayout* SchedulePanel::buildTimes() {
     saturday_->setObjectName(QStringLiteral("schedule.saturday"));
     saturday_->setBuddy(times_[kFirstSaturdayTime]);
     grid->addWidget(saturday_, 2, 0);
+    buildSave();
+    grid->addWidget(save_, 1, kTimesOfRow + 1);
+    grid->addWidget(second_, 2, kTimesOfRow + 1);
     return grid;
 }
 
@@ -120,6 +151,10 @@ void SchedulePanel::refresh() {
     name_->setText(one ? toQt(one->code + " " + one->name)
                        : QStringLiteral("Escolha um funcionário na lista"));
     facts_->setText(one ? employeeFacts() : QString());
+    const EmployeeMark mark = one ? command_.mark(*command_.selectedPosition()) : EmployeeMark();
+    onLeave_->setVisible(mark.onLeave);
+    closed_->setVisible(mark.closed);
+    second_->setChecked(command_.schedule().secondFlag());
     for (std::size_t position = 0; position < kScheduleTimes; ++position)
         times_[position]->setText(toQt(command_.schedule().text(position)));
     saturday_->setText(toQt(command_.saturdayCaption())
@@ -134,6 +169,7 @@ void SchedulePanel::showTotals() {
     for (std::size_t position = 0; position < kScheduleTimes && finding.isEmpty(); ++position)
         finding = toQt(command_.schedule().findingAt(position));
     hint_->setText(finding.isEmpty() ? finding : QStringLiteral("⚠ ") + finding);
+    hint_->setVisible(!finding.isEmpty());
 }
 
 }  // namespace winvrx

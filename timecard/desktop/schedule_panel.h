@@ -6,6 +6,7 @@
 
 #include <array>
 
+class QCheckBox;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
@@ -29,6 +30,9 @@ class SchedulePanel : public QFrame {
     void saveRequested();
 
   private:
+    void buildTexts();
+    [[nodiscard]] QLabel* buildMark(const QString& text, const QString& objectName);
+    void buildSave();
     [[nodiscard]] QGridLayout* buildTimes();
     [[nodiscard]] QLineEdit* buildTime(std::size_t position);
     void take(std::size_t position);
@@ -36,14 +40,17 @@ class SchedulePanel : public QFrame {
     [[nodiscard]] QString employeeFacts() const;
 
     CartaoPontoDados& command_;
-    QLabel* name_;
-    QLabel* facts_;
+    QLabel* name_ = nullptr;
+    QLabel* onLeave_ = nullptr;
+    QLabel* closed_ = nullptr;
+    QLabel* facts_ = nullptr;
     std::array<QLineEdit*, kScheduleTimes> times_{};
     QLabel* saturday_ = nullptr;
-    QLabel* weekly_;
-    QLabel* monthly_;
-    QLabel* hint_;
-    QPushButton* save_;
+    QLabel* weekly_ = nullptr;
+    QLabel* monthly_ = nullptr;
+    QLabel* hint_ = nullptr;
+    QCheckBox* second_ = nullptr;
+    QPushButton* save_ = nullptr;
 };
 
 }  // namespace winvrx

@@ -13,6 +13,7 @@ WrappedCheckBox::WrappedCheckBox(const QString& objectName, QWidget* parent)
     : QWidget(parent), box_(new QCheckBox(this)), caption_(new QLabel(this)) {
     box_->setObjectName(objectName);
     caption_->setWordWrap(true);
+    caption_->setTextFormat(Qt::PlainText);
     caption_->setBuddy(box_);
     auto* row = new QHBoxLayout(this);
     look::layOutPart(*row);

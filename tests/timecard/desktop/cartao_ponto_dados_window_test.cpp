@@ -7,7 +7,13 @@
 #include "timecard/selected_month.h"
 
 #include <gmock/gmock.h>
+#include <QApplication>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QCompleter>
 #include <QListWidget>
+
+#include <functional>
 
 namespace winvrx {
 namespace {
@@ -209,6 +215,131 @@ TEST_F(CardWindow, WhatIsNotUnderstoodIsShownAndKept) {
     EXPECT_EQ(desk.file(kPunches), damaged);
     driven->get<QListWidget>("card.employees").setCurrentRow(1);
     EXPECT_EQ(unread.text(), QString());
+}
+
+TEST_F(CardWindow, EditsAreTakenBackAndMadeAgain) {
+    open();
+    grid(1).goToStart();
+    enter("8");
+    driven->press(Qt::Key_F6);
+    EXPECT_TRUE(grid(2).isVisible());
+    driven->press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(cell(1, 0, 1), "");
+    EXPECT_TRUE(grid(1).isVisible());  // where the edit was
+    EXPECT_FALSE(command.changed());
+    driven->press(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(cell(1, 0, 1), "08:00");
+}
+
+TEST_F(CardWindow, BlocksAreExchangedWithASpreadsheet) {
+    open();
+    grid(1).goToStart();
+    QApplication::clipboard()->setText(QStringLiteral("8\t12:00:00\n9\t1300\n"));
+    driven->press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(cell(1, 1, 2), "13:00");
+    auto* selection = grid(1).selectionModel();
+    selection->select(
+        QItemSelection(grid(1).model()->index(0, PunchModel::Day), grid(1).model()->index(1, 2)),
+        QItemSelectionModel::ClearAndSelect);
+    driven->press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("08:00\t12:00\n09:00\t13:00"));
+    driven->press(Qt::Key_Delete);
+    EXPECT_EQ(cell(1, 0, 1) + cell(1, 1, 2), "");
+    driven->press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(cell(1, 1, 2), "13:00");
+
+    QApplication::clipboard()->setText(QStringLiteral("1\t2\t3\t4\t5\t6\t7\t8\t9"));
+    driven->press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(desk.person.shown.back().title, "DIGITAÇÃO DO PONTO");
+    EXPECT_EQ(desk.person.shown.back().detail,
+              "O bloco tem 9 colunas; a partir desta célula cabem 8.");
+    EXPECT_EQ(cell(1, 0, 1), "08:00");
+}
+
+TEST_F(CardWindow, ADoubtfulDayIsMarkedAndItsReasonSaid) {
+    open();
+    grid(1).goToStart();
+    for (const char* typed : {"8", "12", "1130", "17"})
+        enter(typed);
+    EXPECT_EQ(cell(1, 0, PunchModel::Day), "⚠ 01/sex/mar");
+    EXPECT_EQ(driven->text("state"), "⚠ Manhã e Tarde: os horários se sobrepõem.");
+    driven->press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_THAT(desk.file(kPunches), ::testing::HasSubstr("01/sex/mar08:0012:0011:3017:00"));
+}
+
+TEST_F(CardWindow, AClosedMonthCanBeLookedAtOnly) {
+    desk.file(kPunches) = "  \r\n01/sex/mar07:00\r\n";
+    asked.locks.closed = {"001"};
+    open();
+    EXPECT_TRUE(driven->get<QLabel>("card.closed").isVisible());
+    EXPECT_FALSE(driven->get<QLabel>("card.onLeave").isVisible());
+    EXPECT_EQ(driven->get<QListWidget>("card.employees").item(0)->text().toStdString(),
+              "001 ANA\nFolha Fechada");
+    grid(1).goToStart();
+    QApplication::clipboard()->setText(QStringLiteral("9"));
+    const std::vector<std::function<void()>> attempts = {
+        [this] { QTest::keyClick(&grid(1), '8'); }, [this] { driven->press(Qt::Key_F2); },
+        [this] { driven->press(Qt::Key_Delete); },
+        [this] { driven->press(Qt::Key_V, Qt::ControlModifier); }};
+    for (std::size_t i = 0; i < attempts.size(); ++i) {
+        attempts[i]();
+        EXPECT_EQ(desk.person.takeTexts(),
+                  std::vector<std::string>{
+                      "ATENÇÃO! Não é Possível Alterar o Ponto! Já Foi Gerada a Folha de Pagamento "
+                      "para este Funcionário!!"})
+            << i;
+        EXPECT_EQ(cell(1, 0, 1), "07:00") << i;
+    }
+}
+
+TEST_F(CardWindow, ALeaveIsSaidInTheListAndBesideTheName) {
+    asked.leaves.add("002", "28/02/2024", "04/03/2024");
+    open();
+    auto& list = driven->get<QListWidget>("card.employees");
+    EXPECT_EQ(list.item(1)->text().toStdString(), "002 JOSÉ\nCOLABORADOR COM AFASTAMENTO!!!");
+    driven->press(Qt::Key_PageDown);
+    EXPECT_TRUE(driven->get<QLabel>("card.onLeave").isVisible());
+}
+
+TEST_F(CardWindow, TheCardsOfTheListAreFilledTogether) {
+    open();
+    auto& box = driven->get<QCheckBox>("card.sameHours");
+    EXPECT_EQ(box.accessibleName().toStdString(),
+              "Aplicar<Horário de Trabalho> Igual p/todos do Turno");
+    driven->click("card.minutesVaried");
+    EXPECT_EQ(desk.file("MinFixVar"), "1\r\n");
+    driven->type("card.search", "jose");
+    desk.person.answers = {Answer::Ok, Answer::Ok, Answer::Yes};
+    driven->press(Qt::Key_F9, Qt::ShiftModifier);
+    EXPECT_FALSE(desk.files.content.contains("/data/" + kPunches));  // not shown
+    EXPECT_TRUE(desk.files.content.contains("/data/01002-03-2024.bdx"));
+    EXPECT_EQ(driven->text("state"), "Ponto aplicado: 1 de 1 da lista");
+    driven->get<QLineEdit>("card.search").clear();
+
+    auto& shift = driven->get<QComboBox>("card.shift");
+    EXPECT_EQ(shift.itemText(1).toStdString(), "Turno: Unico");
+    emit shift.activated(1);
+    box.click();
+    EXPECT_EQ(box.accessibleName().toStdString(),
+              "Aplicar <Quadro de Horário de Trabalho> e <Ponto> Igual p/todos do Unico");
+    desk.person.answers = {Answer::Ok, Answer::Ok, Answer::Yes};
+    desk.person.shown.clear();
+    driven->press(Qt::Key_F9, Qt::ShiftModifier);
+    EXPECT_THAT(desk.person.takeTexts().back(),
+                ::testing::HasSubstr("com BASE no FUNCIONÁRIO SELECIONADO?"));
+    EXPECT_TRUE(desk.files.content.contains("/data/" + kPunches));
+}
+
+TEST_F(CardWindow, TheSituationsOpenWhileTyping) {
+    open();
+    grid(1).setCurrentIndex(grid(1).model()->index(0, PunchModel::Situation));
+    grid(1).setFocus();
+    QTest::keyClick(&grid(1), 'f');
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("al"));
+    const auto* box = driven->window.findChild<QComboBox*>(QStringLiteral("punch.situation"));
+    ASSERT_NE(box, nullptr);
+    EXPECT_TRUE(box->completer()->popup()->isVisible());
+    EXPECT_EQ(box->completer()->completionCount(), 2);
 }
 
 }  // namespace
