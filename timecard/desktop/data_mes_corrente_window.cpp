@@ -154,7 +154,9 @@ void DataMesCorrenteWindow::showState() {
 void DataMesCorrenteWindow::recordMonth() {
     if (!command_.record()) return;
     holidays_->refresh();
-    setState(QStringLiteral("Mês gravado"));
+    setState(command_.settings().recordTicks
+                 ? QStringLiteral("Mês gravado")
+                 : QStringLiteral("Mês gravado, sem as marcas dos feriados"));
 }
 
 void DataMesCorrenteWindow::updateAll() {

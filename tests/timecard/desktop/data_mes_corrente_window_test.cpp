@@ -55,12 +55,18 @@ TEST_F(MonthWindow, TicksAreListedCountedAndRecorded) {
                 ::testing::ElementsAre(*parseDate("20/03/2024"), *parseDate("29/03/2024")));
     EXPECT_EQ(listed(), "20/03/2024|qua||\n29/03/2024|sex|Sexta-feira Santa|");
     EXPECT_FALSE(driven->get<QLabel>("month.offer").isVisible());
+    EXPECT_EQ(driven->text("state"), "Mês gravado");
     driven->click("month.reset");
     EXPECT_EQ(listed(), "");
     EXPECT_EQ(driven->text("month.unticked"), "◇ Não marcados: 29/03 Sexta-feira Santa");
     driven->click("month.restore");
     EXPECT_TRUE(driven->get<QCheckBox>("month.day34").isChecked());
     EXPECT_FALSE(driven->get<QLabel>("month.unticked").isVisible());
+    driven->click("month.day25");
+    driven->click("month.recordTicks");
+    driven->press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(driven->text("state"), "Mês gravado, sem as marcas dos feriados");
+    EXPECT_EQ(recorded().holidays().size(), 2U);
 }
 
 TEST_F(MonthWindow, DaysKeptByCustomBearASignAndTheirName) {
