@@ -41,12 +41,14 @@ HoursSummary CartaoPontoDados::hours() const {
 
 bool CartaoPontoDados::changePercent(HourCategory category, std::string_view typed) {
     if (!requireSelection() || !mayEdit()) return false;
-    const bool changed = winvrx::changePercent(
-        at_, {company_.value(), selectedCode(), settings_.month, overtime_, category, typed});
-    if (changed)
+    if (!winvrx::changePercent(
+            at_, {company_.value(), selectedCode(), settings_.month, overtime_, category, typed}))
+        return false;
+    return attempt(at_, incorrectData(), [this] {
         overtime_ =
             overtimeOf(at_.files, at_.session.folder, company_.value(), selectedCode(), settings_);
-    return changed;
+        return true;
+    });
 }
 
 }  // namespace winvrx
