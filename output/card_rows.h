@@ -29,7 +29,7 @@ inline constexpr int kCardLines = 31;
 struct CardData {
     Company company;
     Employee employee;
-    MonthSettings settings;
+    MonthSettings settings;                         ///< with the employee's own overtime figures
     std::optional<StandardSchedule> schedule;       ///< nullopt: none was recorded
     std::optional<std::vector<PunchLine>> punches;  ///< nullopt: none were applied
 };

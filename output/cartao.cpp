@@ -4,6 +4,7 @@
 #include "foundation/employee_register.h"
 #include "foundation/text.h"
 #include "output/print_result.h"
+#include "timecard/overtime_record.h"
 #include "timecard/selected_month.h"
 
 #include <algorithm>
@@ -171,9 +172,11 @@ CardData Cartao::cardOf(const Employee& employee) const {
     const DataFolder& folder = at_.session.folder;
     const CompanyCode& company = at_.session.company.value();
     const EmployeeCode code = employee.employeeCode().value();
+    MonthSettings settings = loadMonthSettings(at_.files, folder, month_.value());
+    settings.overtime = overtimeOf(at_.files, folder, company, code, settings);
     return {.company = company_,
             .employee = employee,
-            .settings = loadMonthSettings(at_.files, folder, month_.value()),
+            .settings = settings,
             .schedule = loadSchedule(at_.files, folder, company, code),
             .punches = loadPunches(at_.files, folder, company, code, *month_)};
 }

@@ -123,9 +123,11 @@ std::string CardSheet::findingAt(int day, PunchCell cell) const {
 std::string CardSheet::noticeAt(int day, PunchCell cell) const {
     const std::string finding = findingAt(day, cell);
     const std::string& recorded = text(day, cell);
-    if (!finding.empty() || !isTime(cell) || recorded.empty() || parseTypedTime(recorded))
-        return finding;
-    return "\"" + recorded + "\" não é uma hora: fica como está e não conta.";
+    if (!finding.empty() || !isTime(cell) || recorded.empty()) return finding;
+    if (!parseTypedTime(recorded))
+        return "\"" + recorded + "\" não é uma hora: fica como está e não conta.";
+    const bool absent = meaningOf(line(day).situation) == DayMeaning::Missing;
+    return absent ? "O dia está marcado como falta: esta hora não conta." : "";
 }
 
 std::optional<std::string> CardSheet::firstFinding() const {

@@ -69,7 +69,8 @@ class CardSheet {
     /// Why a cell as typed cannot be recorded, in one sentence; empty when it can. What was
     /// recorded before is never a fault.
     [[nodiscard]] std::string findingAt(int day, PunchCell cell) const;
-    /// The finding, or else that a recorded time is none and counts for nothing.
+    /// The finding, or else that a recorded time counts for nothing: it is none, or the day is
+    /// marked as an absence.
     [[nodiscard]] std::string noticeAt(int day, PunchCell cell) const;
     /// The first finding of the month behind the label of its day.
     [[nodiscard]] std::optional<std::string> firstFinding() const;

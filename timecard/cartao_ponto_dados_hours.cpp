@@ -40,13 +40,14 @@ HoursSummary CartaoPontoDados::hours() const {
 }
 
 bool CartaoPontoDados::changePercent(HourCategory category, std::string_view typed) {
-    if (!requireSelection() || !mayEdit()) return false;
-    if (!winvrx::changePercent(
-            at_, {company_.value(), selectedCode(), settings_.month, overtime_, category, typed}))
-        return false;
-    return attempt(at_, incorrectData(), [this] {
-        overtime_ =
-            overtimeOf(at_.files, at_.session.folder, company_.value(), selectedCode(), settings_);
+    if (!requireSelection()) return false;
+    return attempt(at_, incorrectData(), [&] {
+        const CompanyCode& company = company_.value();
+        if (!requireOpenMonth() ||
+            !winvrx::changePercent(
+                at_, {company, selectedCode(), settings_.month, overtime_, category, typed}))
+            return false;
+        overtime_ = overtimeOf(at_.files, at_.session.folder, company, selectedCode(), settings_);
         return true;
     });
 }

@@ -74,6 +74,7 @@ TEST(CardRows, DaysCarryTimesHoursAndSituation) {
     card.punches->at(4).extraEntry = "18:00";
     card.punches->at(4).extraExit = "19:30";
     card.punches->at(5).situation = "ATESTADO";
+    card.punches->at(11).situation = "Falta";
     card.punches->at(6).afternoonExit = "";
     card.punches->at(7).afternoonExit = "99:99";
     const auto rows = cardRows(card);
@@ -89,6 +90,7 @@ TEST(CardRows, DaysCarryTimesHoursAndSituation) {
              Case{4, "4|04|seg||||||||Falta Inj."},
              Case{5, "5|05|ter|08:00|12:00|13:00|17:00|18:00|19:30|09:30|"},
              Case{6, "6|06|qua|08:00|12:00|13:00|17:00|||08:00|"},
+             Case{12, "12|12|ter|08:00|12:00|13:00|17:00||||"},
              Case{7, "7|07|qui|08:00|12:00|13:00||||04:00|"},
              Case{8, "8|08|sex|08:00|12:00|13:00|99:99|||04:00|"},
              Case{29, "29|29|sex||||||||FERIADO"},

@@ -7,6 +7,7 @@
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
 #include "tests/support/test_workplace.h"
+#include "timecard/overtime_record.h"
 #include "timecard/selected_month.h"
 
 #include <gtest/gtest.h>
@@ -468,12 +469,15 @@ TEST_F(CartaoOpened, CardIsMadeOfTheEmployeesRecords) {
     punches[0].morningExit = "11:00";
     punches[1].situation = "DESCANSO SEMANAL";
     desk.file(punchFileName(company, ana, kMarch)) = punchRecordBytes(punches);
+    OvertimeRules own;
+    own.totalsFormat = TotalsFormat::DecimalHours;
+    saveOvertime(desk.files, desk.session.folder, company, ana, {kMarch, own});
     EXPECT_TRUE(screen.printAll({}));
     const auto& rows = engine.jobs.at(0).cards.at(1);
     EXPECT_EQ(rows[0][cardColumn("razao")], "EMPRESA MODELO LTDA");
     EXPECT_EQ(rows[0][cardColumn("horario")], "Ent:07:00 Saí:11:00");
     EXPECT_EQ(rows[0][cardColumn("ent1")], "07:03");
-    EXPECT_EQ(rows[0][cardColumn("horas")], "03:57");
+    EXPECT_EQ(rows[0][cardColumn("horas")], "3,95");
     EXPECT_EQ(rows[1][cardColumn("situacao")], "DESCANSO SEMANAL");
     EXPECT_EQ(screen.headerPreview(1).substr(0, 28), "Razão: EMPRESA MODELO LTDA\n");
     EXPECT_EQ(screen.headerPreview(std::nullopt), "");
