@@ -23,7 +23,7 @@ namespace winvrx {
 namespace {
 
 constexpr int kNarrowestSide = 264;
-constexpr int kWidestSide = 320;
+constexpr int kWidestSide = 352;
 constexpr int kPatience = 500;  // milliseconds without progress shown
 
 const QString kOnLeave = QStringLiteral("⚠ COLABORADOR COM AFASTAMENTO!!!");
@@ -95,6 +95,7 @@ QWidget* CartaoPontoDadosWindow::buildSide() {
 
 QWidget* CartaoPontoDadosWindow::buildHours() {
     hours_ = new HoursSummaryPanel(this);
+    connect(hours_, &HoursSummaryPanel::helpRequested, this, &ScreenWindow::helpRequested);
     connect(hours_, &HoursSummaryPanel::percentTyped, this,
             [this](HourCategory category, const QString& typed) {
                 (void)command_.changePercent(category, toUtf8(typed));

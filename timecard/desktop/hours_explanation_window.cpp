@@ -24,6 +24,23 @@ QString periodName(std::optional<HalfMonth> half) {
                                      : QStringLiteral("2º Quinzena");
 }
 
+void layOut(QTableWidget& table) {
+    const QFontMetrics letters(look::fixedFont());
+    table.verticalHeader()->hide();
+    table.verticalHeader()->setMinimumSectionSize(letters.height());
+    table.verticalHeader()->setDefaultSectionSize(letters.height() + look::kGap);
+    QHeaderView* columns = table.horizontalHeader();
+    columns->setSectionsClickable(false);
+    columns->setHighlightSections(false);
+    columns->setDefaultAlignment(Qt::AlignCenter);
+    table.resizeColumnsToContents();
+    for (int at = 0; at < kRule; ++at)
+        columns->resizeSection(at, columns->sectionSize(at) + look::kMargin);
+    columns->setStretchLastSection(true);
+    table.horizontalHeaderItem(kRule)->setTextAlignment(Qt::AlignVCenter | Qt::AlignLeft);
+    table.setCurrentCell(0, kRule);
+}
+
 QTableWidgetItem* cell(const std::string& text, int column) {
     auto* item = new QTableWidgetItem(toQt(text));
     item->setFont(column == kRule ? look::font(look::TextSize::Body) : look::fixedFont());
@@ -57,7 +74,9 @@ QWidget* HoursExplanationWindow::buildBody(const std::vector<ExplainedPart>& par
         column->addWidget(look::label(kNothing, look::TextSize::Body, body));
         column->addStretch();
     } else {
-        column->addWidget(buildTable(parts), 1);
+        QTableWidget* table = buildTable(parts);
+        column->addWidget(table, 1);
+        table->setFocus();
     }
     return body;
 }
@@ -70,7 +89,8 @@ QTableWidget* HoursExplanationWindow::buildTable(const std::vector<ExplainedPart
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setTabKeyNavigation(false);
-    table->verticalHeader()->hide();
+    table->setShowGrid(false);
+    table->setAlternatingRowColors(true);
     for (int at = 0; at < table->columnCount(); ++at)
         table->setHorizontalHeaderItem(
             at, new QTableWidgetItem(QString::fromUtf8(kHeadings[static_cast<std::size_t>(at)])));
@@ -80,8 +100,7 @@ QTableWidget* HoursExplanationWindow::buildTable(const std::vector<ExplainedPart
         for (int at = 0; at < table->columnCount(); ++at)
             table->setItem(row, at, cell(*texts[static_cast<std::size_t>(at)], at));
     }
-    table->resizeColumnsToContents();
-    table->horizontalHeader()->setStretchLastSection(true);
+    layOut(*table);
     return table;
 }
 
