@@ -15,6 +15,9 @@ constexpr double kPointsPerMillimetre = 72 / 25.4;
 constexpr double kPointsPerTwip = 0.05;
 constexpr double kTolerance = 0.3;  // millimetres
 
+/// Nearer to a sheet's edge most printers cannot print.
+constexpr double kUnprintable = 4.2;
+
 constexpr std::array kTrays = {TrayPosition::Central, TrayPosition::Lateral};
 constexpr std::array kSets = {LayoutSet::A, LayoutSet::B};
 
@@ -112,31 +115,45 @@ TEST_F(CardBoxes, EachValueStandsInItsBoxOnEveryStockAndTray) {
             }
 }
 
+/// Where the alignment takes a place, in points.
+QPointF moved(QPointF place, const Alignment& alignment, double pitch) {
+    constexpr double kPointsPerHundredth = kPointsPerMillimetre / 100;
+    const PrintScale& scale = alignment.scale;
+    const double down = place.y() + alignment.lines * pitch * kPointsPerMillimetre;
+    return {place.x() * scale.horizontalScale / 10000 +
+                scale.horizontalOffset * kPointsPerHundredth +
+                alignment.horizontalTwips * kPointsPerTwip,
+            down * scale.verticalScale / 10000 + scale.verticalOffset * kPointsPerHundredth +
+                alignment.verticalTwips * kPointsPerTwip};
+}
+
 TEST_F(CardBoxes, EveryCardMovesByTheAlignmentToTheTwip) {
     const auto rows = distinctCard();
+    const Alignment alignments[] = {{1, 0, 0, {}},
+                                    {0, 1, 0, {}},
+                                    {1500, 1500, 0, {}},
+                                    {10, 10, 10, {}},
+                                    {20, 0, 1, {9950, 10040, 120, 35}}};
     for (const CardGeometry& card : cardGeometries()) {
         const std::string layout = card.stem().toStdString() + "center.rpt";
         desk_.request.alignment = {};
         const auto still = print(layout, rows);
-        const Alignment alignments[] = {{1, 0, 0}, {0, 1, 0}, {1500, 1500, 0}, {10, 10, 10}};
         for (const Alignment& alignment : alignments) {
             SCOPED_TRACE(layout + " " + std::to_string(alignment.horizontalTwips));
             desk_.request.alignment = alignment;
-            const double right = alignment.horizontalTwips * kPointsPerTwip;
-            const double down = alignment.verticalTwips * kPointsPerTwip +
-                                alignment.lines * card.pitch() * kPointsPerMillimetre;
-            const auto moved = print(layout, rows);
-            ASSERT_EQ(moved.size(), still.size());
+            const auto words = print(layout, rows);
+            ASSERT_EQ(words.size(), still.size());
             for (const auto& [key, word] : still) {
-                ASSERT_TRUE(moved.contains(key)) << key.second.toStdString();
-                EXPECT_NEAR(moved.at(key).left - word.left, right, kPointsPerTwip / 5);
-                EXPECT_NEAR(moved.at(key).top - word.top, down, kPointsPerTwip / 5);
+                ASSERT_TRUE(words.contains(key)) << key.second.toStdString();
+                const QPointF expected = moved({word.left, word.top}, alignment, card.pitch());
+                EXPECT_NEAR(words.at(key).left, expected.x(), kPointsPerTwip / 5);
+                EXPECT_NEAR(words.at(key).top, expected.y(), kPointsPerTwip / 5);
             }
         }
     }
 }
 
-TEST_F(CardBoxes, NothingLeavesTheCardHoweverLong) {
+TEST_F(CardBoxes, NothingLeavesTheCardOrItsPrintablePartHoweverLong) {
     auto rows = sampleCard(1);
     for (CardRow& row : rows) {
         for (const std::size_t column : {cardColumn("razao"), cardColumn("funcao"),
@@ -153,6 +170,8 @@ TEST_F(CardBoxes, NothingLeavesTheCardHoweverLong) {
             for (const auto& [key, word] : print(layout.toStdString(), rows)) {
                 SCOPED_TRACE(layout.toStdString() + " " + key.second.toStdString());
                 EXPECT_TRUE(area.contains(areaOf(word)));
+                EXPECT_GE(areaOf(word).left(), kUnprintable);
+                EXPECT_GE(areaOf(word).top(), kUnprintable);
             }
             EXPECT_TRUE(printedText(desk_.pdf()).contains(QStringLiteral("WW…")));
         }

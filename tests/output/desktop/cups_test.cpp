@@ -58,7 +58,7 @@ TEST_F(Cups, PrintsTheCardsOfARunAsOneJob) {
     EXPECT_EQ(wordOf(words, QStringLiteral("3")).page, 3);
     const double halfInch = 36;
     EXPECT_NEAR(wordOf(words, QStringLiteral("Razão:")).left,
-                65.5 * kPointsPerMillimetre + halfInch, 0.01);
+                67.1 * kPointsPerMillimetre + halfInch, 0.01);
     EXPECT_THAT(printServer.lastOptionsOnStop().toStdString(), HasSubstr("Manual"));
 }
 
