@@ -96,6 +96,13 @@ int PreviewWindow::pageCount() const {
     return static_cast<int>(cards_.size()) * sides_;
 }
 
+/// "1 de 48"; of a card with two sides "1 de 48, frente".
+QString PreviewWindow::whichPage() const {
+    const QString card = QStringLiteral("%1 de %2").arg(page_ / sides_ + 1).arg(cards_.size());
+    if (sides_ == 1) return card;
+    return card + (page_ % sides_ == 0 ? QStringLiteral(", frente") : QStringLiteral(", verso"));
+}
+
 void PreviewWindow::showPage(int page) {
     const int count = pageCount();
     page_ = std::clamp(page, 0, count - 1);
@@ -103,7 +110,7 @@ void PreviewWindow::showPage(int page) {
     next_->setEnabled(page_ < count - 1);
     try {
         view_->showCard(cards_.at(static_cast<std::size_t>(page_ / sides_)), 1 + page_ % sides_);
-        setState(QStringLiteral("%1 de %2").arg(page_ + 1).arg(count));
+        setState(whichPage());
     } catch (const Fault& fault) {
         tell(QStringLiteral("⚠ ") + QString::fromStdString(fault.explanation()));
     }
@@ -137,7 +144,7 @@ void PreviewWindow::choosePdf() {
 }
 
 void PreviewWindow::tell(const QString& text) {
-    setState(QStringLiteral("%1 de %2 · %3").arg(page_ + 1).arg(pageCount()).arg(text));
+    setState(whichPage() + QStringLiteral(" · ") + text);
 }
 
 void PreviewWindow::wheelEvent(QWheelEvent* event) {

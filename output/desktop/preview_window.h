@@ -39,6 +39,7 @@ class PreviewWindow : public ScreenWindow {
                          const char* name);
     /// A card has a page for each of its faces.
     [[nodiscard]] int pageCount() const;
+    [[nodiscard]] QString whichPage() const;
     void showPage(int page);
     void zoomBy(int steps);
     void zoomToPage();

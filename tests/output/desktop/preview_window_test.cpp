@@ -67,6 +67,19 @@ TEST_F(Preview, TurnsPagesWithTheKeys) {
               ReportResult::Done);
 }
 
+TEST_F(Preview, ShowsACardOfTwoSidesInTwoPages) {
+    desk_.request.layoutName = "madiscenter.rpt";
+    (void)preview(2, [](PreviewWindow& window) {
+        EXPECT_EQ(stateOf(window), QStringLiteral("1 de 2, frente"));
+        const auto front = pageOf(window);
+        for (const char* state : {"1 de 2, verso", "2 de 2, frente", "2 de 2, verso"}) {
+            QTest::keyClick(&window, Qt::Key_PageDown);
+            EXPECT_EQ(stateOf(window), QLatin1String(state));
+            EXPECT_NE(pageOf(window), front);
+        }
+    });
+}
+
 TEST_F(Preview, NeedsACard) {
     EXPECT_EQ(desk_.print(0), ReportResult::Done);
 }
