@@ -86,10 +86,11 @@ bool CardRun::send(const People& people, LayoutSet set) {
 
 bool CardRun::preview(const People& people, LayoutSet set) {
     ReportRequest request = requestFor(set, ReportOutput::Preview);
+    request.pdfPath = pdfNameFor(people);
     if (twoSided_)
-        request.printPreviewed = [&] {
+        request.printPreviewed = [&](const CardProgress& progress) {
             cardsDone_ = 0;
-            cardsInAll_ = 2 * static_cast<int>(people.size());
+            run_.progress = [&progress](int done, int) { return progress(done); };
             const bool printed =
                 attempt(at_, printFailed(), [&] { return toPrinter(people, set); });
             return printed ? ReportResult::Done : ReportResult::Cancelled;
@@ -115,19 +116,20 @@ bool CardRun::turnsTheStack(std::size_t cards) {
 }
 
 bool CardRun::toOnePdf(const People& people, LayoutSet set) {
-    const bool single = people.size() == 1;
-    const std::string name = single ? pdfNameOf(*people.front(), plan_.month)
-                                    : pdfNameOf(plan_.companyName, plan_.month);
     ReportRequest request = requestFor(set, ReportOutput::PdfFile);
-    if (run_.choosePdf) request.pdfPath = run_.choosePdf(name);
+    if (run_.choosePdf) request.pdfPath = run_.choosePdf(pdfNameFor(people));
     return !request.pdfPath.empty() && job(request, people);
+}
+
+std::string CardRun::pdfNameFor(const People& people) const {
+    return people.size() == 1 ? pdfNameOf(*people.front(), plan_.month)
+                              : pdfNameOf(plan_.companyName, plan_.month);
 }
 
 bool CardRun::toPdfOfEach(const People& people, LayoutSet set) {
     ReportRequest request = requestFor(set, ReportOutput::PdfFile);
     return std::ranges::all_of(people, [&](const Employee* employee) {
-        request.pdfPath =
-            (std::filesystem::path(pdfFolder_) / pdfNameOf(*employee, plan_.month)).string();
+        request.pdfPath = pdfFolder_ + "/" + pdfNameOf(*employee, plan_.month);
         return job(request, {employee});
     });
 }
@@ -139,8 +141,7 @@ bool CardRun::choosesFolder() {
 
 bool CardRun::mayReplaceFiles() {
     const bool any = std::ranges::any_of(plan_.people, [&](const Employee& employee) {
-        return at_.files.exists(std::filesystem::path(pdfFolder_) /
-                                pdfNameOf(employee, plan_.month));
+        return at_.files.exists(pdfFolder_ + "/" + pdfNameOf(employee, plan_.month));
     });
     return !any || at_.person.agrees(kReplaceFiles);
 }

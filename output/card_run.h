@@ -75,6 +75,7 @@ class CardRun {
     [[nodiscard]] bool turnsTheStack(std::size_t cards);
     [[nodiscard]] bool toOnePdf(const People& people, LayoutSet set);
     [[nodiscard]] bool toPdfOfEach(const People& people, LayoutSet set);
+    [[nodiscard]] std::string pdfNameFor(const People& people) const;
     [[nodiscard]] bool choosesFolder();
     [[nodiscard]] bool mayReplaceFiles();
 

@@ -11,6 +11,10 @@ const Message kNoPrinter{kTitle,
                          "Instalada no PC!",
                          Icon::Critical};
 
+const Message kNoEngine{
+    kTitle, "Erro na Instalação do Programa!\n* Confirme a Instalação do CrystalReport;",
+    Icon::Critical};
+
 }  // namespace
 
 Message printFailed() {
@@ -27,6 +31,7 @@ bool isPrinted(ReportResult result, Operator& person, const ReportEngine& engine
     Message message = kNoPrinter;
     if (result == ReportResult::PrinterGone) message = printerGone(kTitle);
     if (result == ReportResult::Failed) message = printFailed();
+    if (result == ReportResult::NoEngine) message = kNoEngine;
     if (result != ReportResult::NoPrinter) message.detail = engine.explanation();
     person.tell(message);
     return false;

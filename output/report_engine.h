@@ -62,10 +62,14 @@ enum class ReportOutput { Preview, Printer, PdfFile };
 enum class ReportResult {
     Done,
     Cancelled,
+    NoEngine,     ///< the engine's own parts are not installed
     NoPrinter,    ///< no printer is installed
     PrinterGone,  ///< the chosen printer, or a default one, is not there or does not answer
     Failed        ///< cause in the log
 };
+
+/// Told after each card; false cancels the run.
+using CardProgress = std::function<bool(int cardsDone)>;
 
 struct ReportRequest {
     std::string layoutName;   ///< "tilibcenter.rpt"
@@ -76,18 +80,15 @@ struct ReportRequest {
     ReportOutput output = ReportOutput::Preview;
     std::string printerName = {};           ///< empty: the default printer
     std::array<std::string, 3> trays = {};  ///< the first that is not blank names the source
-    std::string pdfPath = {};
+    std::string pdfPath = {};               ///< of a preview: the name to propose
     /// Carries out the preview's command "Imprimir", tells of failures itself and does not throw;
     /// without it the previewed pages are printed as they are.
-    std::function<ReportResult()> printPreviewed = {};
+    std::function<ReportResult(const CardProgress&)> printPreviewed = {};
 };
 
 /// Gives one card's rows after the other; nullopt ends the run. Called once a card, so that no
 /// more than one card is held in memory. May throw; the run then ends and the fault goes on.
 using CardSource = std::function<std::optional<std::vector<CardRow>>()>;
-
-/// Told after each card; false cancels the run.
-using CardProgress = std::function<bool(int cardsDone)>;
 
 class ReportEngine {
   public:

@@ -6,11 +6,13 @@
 #include "output/desktop/layout_painter.h"
 #include "output/desktop/page_view.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QStandardPaths>
 #include <QToolButton>
 #include <QWheelEvent>
 
@@ -137,9 +139,11 @@ void PreviewWindow::showZoom() {
 }
 
 void PreviewWindow::choosePdf() {
-    const QString path = QFileDialog::getSaveFileName(this, QStringLiteral("Salvar PDF"),
-                                                      windowTitle() + QStringLiteral(".pdf"),
-                                                      QStringLiteral("PDF (*.pdf)"));
+    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    const QString name = pdfName_.isEmpty() ? windowTitle() + QStringLiteral(".pdf") : pdfName_;
+    const QString path =
+        QFileDialog::getSaveFileName(this, QStringLiteral("Salvar PDF"), documents.filePath(name),
+                                     QStringLiteral("PDF (*.pdf)"));
     if (!path.isEmpty()) emit pdfRequested(path);
 }
 

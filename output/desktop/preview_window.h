@@ -18,6 +18,9 @@ class PreviewWindow : public ScreenWindow {
     /// `cards` holds one card or more; it and `painter` outlive the window.
     PreviewWindow(const QString& title, LayoutPainter& painter, CardSpool& cards, QWidget* parent);
 
+    /// The file name that "Salvar PDF" proposes.
+    void proposePdf(const QString& name) { pdfName_ = name; }
+
     /// Says in the state bar what became of a command.
     void tell(const QString& text);
 
@@ -52,6 +55,7 @@ class PreviewWindow : public ScreenWindow {
     QScrollArea* scroll_;
     QToolButton* previous_ = nullptr;
     QToolButton* next_ = nullptr;
+    QString pdfName_;
     int page_ = 0;
     double zoom_ = 1;
 };

@@ -11,12 +11,17 @@
 #include "output/desktop/report_device.h"
 
 #include <QApplication>
+#include <QProgressDialog>
+#include <QSqlDatabase>
 
+#include <algorithm>
 #include <exception>
 
 namespace winvrx {
 
 namespace {
+
+constexpr int kPatience = 500;  // milliseconds without progress shown
 
 /// Carries a fault of the caller's functions past the engine's own catch-all.
 struct CallerFault {
@@ -64,6 +69,15 @@ ReportResult printPages(const ReportRequest& request, const Layout& layout,
     });
     if (result == ReportResult::Done) device->finish();
     return result;
+}
+
+bool isInstalled(const std::vector<std::filesystem::path>& layoutFolders) {
+    const auto stands = [](const std::filesystem::path& folder) {
+        std::error_code error;
+        return std::filesystem::is_directory(folder, error);
+    };
+    return std::ranges::any_of(layoutFolders, stands) &&
+           QSqlDatabase::isDriverAvailable(QStringLiteral("QSQLITE"));
 }
 
 QString sentence(qsizetype count) {
@@ -116,7 +130,13 @@ ReportResult QtReportEngine::attempt(const std::function<ReportResult()>& run) {
 
 ReportResult QtReportEngine::run(const ReportRequest& request, const CardSource& cards,
                                  const CardProgress& progress) {
-    const Layout layout = loadLayout(places_.layoutFolders(), request.layoutName);
+    const auto folders = places_.layoutFolders();
+    if (!isInstalled(folders)) {
+        log_.write("report: no folder of layouts, or no SQLite driver");
+        explanation_ = "Faltam partes do programa. Instale-o novamente.";
+        return ReportResult::NoEngine;
+    }
+    const Layout layout = loadLayout(folders, request.layoutName);
     CardTable table(places_.database(), drawnColumns(layout));
     const Pages pages = [&]() -> std::optional<CardText> {
         const auto rows = callBack(cards);
@@ -135,10 +155,28 @@ ReportResult QtReportEngine::preview(const ReportRequest& request, const Layout&
     LayoutPainter painter(
         layout, {.header = request.printHeader, .stock = true, .alignment = request.alignment});
     PreviewWindow window(toQt(request.title), painter, spool, QApplication::activeWindow());
+    window.proposePdf(toQt(request.pdfPath));
     ReportResult result = ReportResult::Done;
     connectCommands(window, request, layout, spool, result);
     window.exec();
     return result;
+}
+
+ReportResult QtReportEngine::deliver(PreviewWindow& window, const ReportRequest& request,
+                                     const Layout& layout, CardSpool& spool) {
+    const bool sideBySide = request.output == ReportOutput::Printer && request.printPreviewed;
+    const int cards = static_cast<int>(spool.size()) * (sideBySide ? layout.sides : 1);
+    QProgressDialog dialog(QStringLiteral("Enviando os cartões…"), QStringLiteral("Cancelar"), 0,
+                           cards, &window);
+    dialog.setWindowTitle(window.windowTitle());
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.setMinimumDuration(kPatience);
+    const CardProgress progress = [&dialog](int done) {
+        dialog.setValue(done);
+        return !dialog.wasCanceled();
+    };
+    return sideBySide ? request.printPreviewed(progress)
+                      : printSpool(request, layout, spool, progress);
 }
 
 /// A print that fails closes the preview, so that the caller tells it in the system's words. One
@@ -147,15 +185,14 @@ ReportResult QtReportEngine::printFrom(PreviewWindow& window, const ReportReques
                                        const Layout& layout, CardSpool& spool) {
     ReportRequest toPrinter = request;
     toPrinter.output = ReportOutput::Printer;
-    const ReportResult result =
-        request.printPreviewed ? request.printPreviewed() : printSpool(toPrinter, layout, spool);
+    const ReportResult result = deliver(window, toPrinter, layout, spool);
     if (result == ReportResult::Done)
         window.tell(sentence(static_cast<qsizetype>(spool.size())));
     else if (result == ReportResult::Cancelled)
         window.tell(QStringLiteral("Impressão cancelada"));
     else
         window.accept();
-    return result;
+    return result == ReportResult::Cancelled ? ReportResult::Done : result;
 }
 
 void QtReportEngine::connectCommands(PreviewWindow& window, const ReportRequest& request,
@@ -166,23 +203,24 @@ void QtReportEngine::connectCommands(PreviewWindow& window, const ReportRequest&
         ReportRequest toFile = request;
         toFile.output = ReportOutput::PdfFile;
         toFile.pdfPath = path.toStdString();
-        const bool saved = printSpool(toFile, layout, spool) == ReportResult::Done;
-        window.tell(saved ? QStringLiteral("Gravado em %1").arg(path)
-                          : QStringLiteral("⚠ Não foi possível gravar %1").arg(path));
+        const ReportResult saved = deliver(window, toFile, layout, spool);
+        window.tell(saved == ReportResult::Done ? QStringLiteral("Gravado em %1").arg(path)
+                    : saved == ReportResult::Cancelled
+                        ? QStringLiteral("Gravação cancelada")
+                        : QStringLiteral("⚠ Não foi possível gravar %1").arg(path));
     });
     QObject::connect(&window, &PreviewWindow::helpRequested, &window, [&] {
         if (!browser_.openHelp()) window.tell(QStringLiteral("⚠ Não foi possível abrir a ajuda"));
     });
 }
 
-ReportResult QtReportEngine::printSpool(ReportRequest request, const Layout& layout,
-                                        CardSpool& spool) {
+ReportResult QtReportEngine::printSpool(const ReportRequest& request, const Layout& layout,
+                                        CardSpool& spool, const CardProgress& progress) {
     std::size_t next = 0;
     const Pages pages = [&]() -> std::optional<CardText> {
         return next < spool.size() ? std::optional(spool.at(next++)) : std::nullopt;
     };
-    const CardProgress goOn = [](int) { return true; };
-    return attempt([&] { return printPages(request, layout, pages, goOn); });
+    return attempt([&] { return printPages(request, layout, pages, progress); });
 }
 
 }  // namespace winvrx

@@ -52,8 +52,11 @@ class QtReportEngine final : public ReportEngine {
                                          const Layout& layout, CardSpool& spool);
     void connectCommands(PreviewWindow& window, const ReportRequest& request, const Layout& layout,
                          CardSpool& spool, ReportResult& result);
-    [[nodiscard]] ReportResult printSpool(ReportRequest request, const Layout& layout,
-                                          CardSpool& spool);
+    /// Prints or saves what is previewed, with progress once it takes a while.
+    [[nodiscard]] ReportResult deliver(PreviewWindow& window, const ReportRequest& request,
+                                       const Layout& layout, CardSpool& spool);
+    [[nodiscard]] ReportResult printSpool(const ReportRequest& request, const Layout& layout,
+                                          CardSpool& spool, const CardProgress& progress);
 
     Places places_;
     Browser& browser_;

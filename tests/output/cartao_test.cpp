@@ -31,6 +31,8 @@ const std::string kCancelOthers = "Deseja Cancelar as demais Impressões? ";
 const std::string kWrongDrive =
     "Diretório Inválido p/ Impressão! Transfira os dados do diretório atual para o Diretório 'C'.";
 const std::string kFailed = "Erro na Impressão do Relatório.";
+const std::string kNoEngine =
+    "Erro na Instalação do Programa!\n* Confirme a Instalação do CrystalReport;";
 const std::string kPrinterGone = "ERRO AO IMPRIMIR";
 const std::string kNoPrinter =
     "ERRO NA IMPRESSÃO DO RELATÓRIO - Isto ocorre quando não há Impressoras Instalada no PC!";
@@ -259,6 +261,7 @@ TEST_F(CartaoOpened, FailedCardEndsTheRun) {
     screen.choices().mode = PrintMode::OneAtATime;
     for (const auto& [result, text] : {std::pair(ReportResult::Failed, kFailed),
                                        std::pair(ReportResult::PrinterGone, kPrinterGone),
+                                       std::pair(ReportResult::NoEngine, kNoEngine),
                                        std::pair(ReportResult::NoPrinter, kNoPrinter)}) {
         engine.jobs.clear();
         engine.results = {ReportResult::Done, result};
@@ -412,9 +415,11 @@ TEST_F(CartaoOpened, TwoSidesAreSeenTogether) {
     ReportResult printed = ReportResult::Failed;
     engine.whilePreviewed = [&](const ReportRequest& request) {
         desk.person.answers = {Answer::Yes};
-        printed = request.printPreviewed();
+        const CardProgress goOn = [](int) { return true; };
+        EXPECT_EQ(request.pdfPath, "CARTÃO PONTO 001 JOSÉ DA SILVA 03-2024.pdf");
+        printed = request.printPreviewed(goOn);
         engine.results = {ReportResult::NoPrinter};
-        EXPECT_EQ(request.printPreviewed(), ReportResult::Cancelled);
+        EXPECT_EQ(request.printPreviewed(goOn), ReportResult::Cancelled);
     };
     EXPECT_TRUE(screen.printAll({}));
     EXPECT_EQ(printed, ReportResult::Done);

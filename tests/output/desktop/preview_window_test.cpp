@@ -138,6 +138,30 @@ TEST_F(Preview, HandsAFailedPrintToTheCaller) {
               ReportResult::NoPrinter);
 }
 
+TEST_F(Preview, LeavesThePrintOfTwoSidesToItsCaller) {
+    desk_.request.layoutName = "dimepcenter.rpt";
+    ReportResult answer = ReportResult::Done;
+    int asked = 0;
+    desk_.request.printPreviewed = [&](const CardProgress& progress) {
+        ++asked;
+        EXPECT_TRUE(progress(1));
+        return answer;
+    };
+    EXPECT_EQ(preview(2,
+                      [&](PreviewWindow& window) {
+                          QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+                          EXPECT_EQ(stateOf(window),
+                                    QStringLiteral("1 de 4 · 2 cartões enviados à impressora"));
+                          answer = ReportResult::Cancelled;
+                          QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+                          EXPECT_EQ(stateOf(window),
+                                    QStringLiteral("1 de 4 · Impressão cancelada"));
+                          EXPECT_TRUE(window.isVisible());
+                      }),
+              ReportResult::Done);
+    EXPECT_EQ(asked, 2);
+}
+
 TEST_F(Preview, AsksForHelp) {
     desk_.browser.works = false;
     (void)preview(1, [this](PreviewWindow& window) {

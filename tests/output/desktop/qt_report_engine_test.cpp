@@ -100,8 +100,20 @@ TEST(ReportEngine, PrintsNothingWithoutASoundLayout) {
                   ReportResult::Failed);
         EXPECT_EQ(asked, 0);
         EXPECT_THAT(desk.log.entries, ElementsAre(HasSubstr(name))) << name;
+        EXPECT_THAT(desk.engine.explanation(), HasSubstr(name));
         EXPECT_FALSE(QFile::exists(desk.pdf()));
     }
+}
+
+TEST(ReportEngine, SaysWhenItIsNotInstalled) {
+    ReportDesk desk;
+    QtReportEngine engine({[&desk] { return std::vector{desk.folder / "missing"}; },
+                           [&desk] { return desk.database; }},
+                          desk.browser, desk.log);
+    const CardSource none = [] { return std::nullopt; };
+    EXPECT_EQ(engine.print(desk.request, none, [](int) { return true; }), ReportResult::NoEngine);
+    EXPECT_NE(engine.explanation(), "");
+    EXPECT_FALSE(std::filesystem::exists(desk.database));
 }
 
 TEST(ReportEngine, PrefersTheLayoutsOfTheDataFolder) {
