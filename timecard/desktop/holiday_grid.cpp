@@ -110,6 +110,13 @@ bool HolidayGrid::moveFrom(std::size_t cell, int key) {
     return true;
 }
 
+void HolidayGrid::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    // Queued: the days take off their colours only after this.
+    if (event->type() == QEvent::StyleChange && cells_.back())
+        QMetaObject::invokeMethod(this, &HolidayGrid::refresh, Qt::QueuedConnection);
+}
+
 bool HolidayGrid::eventFilter(QObject* watched, QEvent* event) {
     const auto* found = std::find(cells_.begin(), cells_.end(), watched);
     if (found == cells_.end()) return QWidget::eventFilter(watched, event);

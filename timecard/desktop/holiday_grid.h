@@ -30,6 +30,7 @@ class HolidayGrid : public QWidget {
     void ticked();
 
   protected:
+    void changeEvent(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
