@@ -150,12 +150,13 @@ TEST_F(Preview, LeavesThePrintOfTwoSidesToItsCaller) {
     EXPECT_EQ(preview(2,
                       [&](PreviewWindow& window) {
                           QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
-                          EXPECT_EQ(stateOf(window),
-                                    QStringLiteral("1 de 4 · 2 cartões enviados à impressora"));
+                          EXPECT_EQ(
+                              stateOf(window),
+                              QStringLiteral("1 de 2, frente · 2 cartões enviados à impressora"));
                           answer = ReportResult::Cancelled;
                           QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
                           EXPECT_EQ(stateOf(window),
-                                    QStringLiteral("1 de 4 · Impressão cancelada"));
+                                    QStringLiteral("1 de 2, frente · Impressão cancelada"));
                           EXPECT_TRUE(window.isVisible());
                       }),
               ReportResult::Done);
