@@ -64,7 +64,9 @@ HoursSummaryPanel::HoursSummaryPanel(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(look::kSmallGap);
-    column->addWidget(look::heading(kTitle, this));
+    QLabel* heading = look::heading(QStringLiteral("&Resumo das Horas"), this);
+    heading->setBuddy(table_);
+    column->addWidget(heading);
     buildTable();
     column->addWidget(table_);
     column->addWidget(look::label(kPercentHint, look::TextSize::Hint, this));
