@@ -33,7 +33,11 @@ constexpr std::array<SummaryColumn, 4> kColumns = {{
     {std::nullopt, "Mês", "Mês"},
 }};
 constexpr int kCaption = 0;
-constexpr int kFigureDigits = 8;
+
+/// Widths: of a figure, in half digits; of the room beside a caption.
+constexpr int kFigureHalfDigits = 15;
+constexpr int kCaptionRoom = look::kGap + look::kSmallGap;
+
 const QString kTitle = QStringLiteral("Resumo das Horas");
 const QString kPercentHint = QStringLiteral("Duplo Clique Altera % Hora Extra!");
 
@@ -104,13 +108,15 @@ void HoursSummaryPanel::layOutTable() {
     rows->setDefaultSectionSize(rowHeight);
     QHeaderView* columns = table_->horizontalHeader();
     columns->setSectionResizeMode(QHeaderView::Fixed);
+    columns->setFont(look::font(look::TextSize::Hint));
     columns->setSectionsClickable(false);
     columns->setHighlightSections(false);
     columns->setFixedHeight(rowHeight + look::kSmallGap);
     for (int column = 0; column < table_->columnCount(); ++column) {
         table_->setHorizontalHeaderItem(
             column, new QTableWidgetItem(QString::fromUtf8(columnAt(column).shortName)));
-        columns->resizeSection(column, kFigureDigits * letters.horizontalAdvance(QLatin1Char('0')));
+        columns->resizeSection(column,
+                               letters.horizontalAdvance(QLatin1Char('0')) * kFigureHalfDigits / 2);
     }
     columns->setSectionResizeMode(kCaption, QHeaderView::Stretch);
     table_->setFixedHeight(columns->height() + table_->rowCount() * rowHeight +
@@ -156,7 +162,7 @@ void HoursSummaryPanel::makeRoomForCaptions() {
     for (int row = 0; row < table_->rowCount(); ++row)
         width = std::max(
             width, table_->fontMetrics().horizontalAdvance(table_->item(row, kCaption)->text()));
-    width += look::kMargin + 2 * table_->frameWidth();
+    width += kCaptionRoom + 2 * table_->frameWidth();
     for (int column = kCaption + 1; column < table_->columnCount(); ++column)
         width += table_->columnWidth(column);
     table_->setMinimumWidth(width);

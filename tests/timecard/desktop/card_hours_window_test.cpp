@@ -64,7 +64,7 @@ TEST_F(CardHoursWindow, ShowsTheHalfThatIsLookedAtBesideTheMonth) {
     driven->press(Qt::Key_F6);
     EXPECT_TRUE(table().isColumnHidden(kFirst));
     EXPECT_FALSE(table().isColumnHidden(kSecond));
-    driven->window.resize(1920, 1000);
+    driven->window.resize(2200, 1000);
     EXPECT_FALSE(table().isColumnHidden(kFirst));
 }
 
