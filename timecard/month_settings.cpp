@@ -92,10 +92,10 @@ void MonthSettings::setHoliday(Date date, bool holiday) {
 
 std::vector<Date> MonthSettings::holidays() const {
     std::vector<Date> dates;
-    for (int day = 0; day < daysIn(month); ++day) {
-        const Date date = plusDays(firstDay(month), day);
-        if (isHoliday(date)) dates.push_back(date);
-    }
+    const std::size_t firstCell = holidayCellOf(firstDay(month));
+    for (int day = 0; day < daysIn(month); ++day)
+        if (holidayCells[firstCell + static_cast<std::size_t>(day)])
+            dates.push_back(plusDays(firstDay(month), day));
     return dates;
 }
 
