@@ -16,29 +16,34 @@ namespace winvrx::testing {
 
 using Texts = std::vector<std::string>;
 
-/// Three employees, the second one of the afternoon; March 2024; stock "RHJ".
+inline Employee cardHolder(const char* code, const char* name, const char* shift) {
+    Employee employee;
+    employee.code = code;
+    employee.name = name;
+    employee.shift = shift;
+    return employee;
+}
+
+/// Three employees, the second one of the afternoon; March 2024; the stock of this setting line.
+inline void fillPrintingDesk(TestWorkplace& desk, const char* stock) {
+    Company company;
+    company.code = "01";
+    company.name = "EMPRESA MODELO LTDA";
+    desk.file("01Empresa") = encode(company) + "\r\n";
+    desk.file("01CartaPonto") = encode(cardHolder("001", "JOSÉ DA SILVA", "Unico")) + "\r\n" +
+                                encode(cardHolder("002", "ANA PAULA", "Dois")) + "\r\n" +
+                                encode(cardHolder("003", "RUI BARBOSA", "Tres")) + "\r\n";
+    desk.file("01CartaoDePontoTipo") = std::string(stock) + "\r\n";
+    saveSelectedMonth(desk.files, desk.session.folder,
+                      {std::chrono::year(2024) / 3, ShiftFilter::Todos});
+}
+
+/// Stock "RHJ", and an engine that prints nothing.
 class CartaoTest : public ::testing::Test {
   protected:
     CartaoTest() {
-        Company company;
-        company.code = "01";
-        company.name = "EMPRESA MODELO LTDA";
-        desk.file("01Empresa") = encode(company) + "\r\n";
-        desk.file("01CartaPonto") = encode(employee("001", "JOSÉ DA SILVA", "Unico")) + "\r\n" +
-                                    encode(employee("002", "ANA PAULA", "Dois")) + "\r\n" +
-                                    encode(employee("003", "RUI BARBOSA", "Tres")) + "\r\n";
-        desk.file("01CartaoDePontoTipo") = "20RHJ\r\n";
-        saveSelectedMonth(desk.files, desk.session.folder,
-                          {std::chrono::year(2024) / 3, ShiftFilter::Todos});
+        fillPrintingDesk(desk, "20RHJ");
         screen.choices().output = ReportOutput::Printer;
-    }
-
-    static Employee employee(const char* code, const char* name, const char* shift) {
-        Employee employee;
-        employee.code = code;
-        employee.name = name;
-        employee.shift = shift;
-        return employee;
     }
 
     /// Names on the cards of all jobs, in order of printing.

@@ -1,11 +1,15 @@
 #include "output/desktop/system_printers.h"
+#include "output/impressorar.h"
 #include "tests/support/print_server.h"
 #include "tests/support/printed_text.h"
+#include "tests/support/printing_screen.h"
 #include "tests/support/report_desk.h"
 
 #include <QCoreApplication>
 
 #include <gmock/gmock.h>
+
+#include <algorithm>
 
 namespace winvrx::testing {
 namespace {
@@ -90,6 +94,51 @@ TEST_F(Cups, KeepsTheCardsPrintedBeforeACancel) {
     EXPECT_EQ(desk_.engine.print(desk_.request, endless, [](int done) { return done < 2; }),
               ReportResult::Cancelled);
     EXPECT_EQ(printedPages(), 2);
+}
+
+/// The printing screen over the real engine, on a printer that the printer screen chose.
+class PrintingScreen : public Cups {
+  protected:
+    void SetUp() override {
+        Cups::SetUp();
+        if (IsSkipped()) return;
+        fillPrintingDesk(office_, "05");
+        printServer.addPrinter(QStringLiteral("cartao"));
+        Impressorar choice(office_.at, browser_, printers_);
+        choice.load();
+        const auto& names = choice.printers();
+        const auto at = std::ranges::find(names, "cartao") - names.begin();
+        ASSERT_TRUE(choice.use(static_cast<std::size_t>(at)));
+        screen_.load();
+        screen_.choices().output = ReportOutput::Printer;
+    }
+
+    TestWorkplace office_;
+    TestBrowser browser_;
+    SystemPrinters printers_;
+    AlignmentMemory alignment_;
+    Cartao screen_{office_.at, {browser_, desk_.engine, printers_, alignment_}};
+};
+
+TEST_F(PrintingScreen, PrintsTheSecondSideBackwards) {
+    office_.person.answers = {Answer::Yes};
+    ASSERT_TRUE(screen_.printAll({})) << ::testing::PrintToString(desk_.log.entries);
+    EXPECT_EQ(office_.person.takeTexts().size(), 1U);
+    const auto words = printedWords(printServer.lastDocument());
+    EXPECT_EQ(wordOf(words, QStringLiteral("RUI")).page, 1);
+    EXPECT_EQ(wordOf(words, QStringLiteral("JOSÉ")).page, 3);
+    EXPECT_EQ(wordOf(words, QStringLiteral("16")).page, 1);
+    EXPECT_TRUE(std::ranges::none_of(
+        words, [](const PrintedWord& word) { return word.text == QStringLiteral("15"); }));
+}
+
+TEST_F(PrintingScreen, SaysThatThePrinterWentSinceItWasChosen) {
+    printServer.addPrinter(QStringLiteral("outra"));
+    printServer.removePrinter(QStringLiteral("cartao"));
+    EXPECT_FALSE(screen_.printAll({}));
+    ASSERT_EQ(office_.person.shown.size(), 1U);
+    EXPECT_EQ(office_.person.shown[0].text, "ERRO AO IMPRIMIR");
+    EXPECT_EQ(office_.person.shown[0].detail, "A impressora cartao não foi encontrada.");
 }
 
 TEST_F(Cups, FailsOnAPrinterThatIsNotThere) {
