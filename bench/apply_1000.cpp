@@ -1,0 +1,124 @@
+// "Aplicar Ponto p/Todos" for a company of 999 employees, all that happens after the last question:
+// reading register, schedules and leaves, filling the month and writing the cards. The floor writes
+// the same bytes of the same files in one batch. Both on the disk on which the bench is run.
+//
+// `apply-1000`: flushed, as it is. `apply-1000-varied`: with "Minutos Variados".
+
+#include "foundation/disk.h"
+#include "foundation/durable_files.h"
+#include "foundation/employee_register.h"
+#include "timecard/list_application.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <random>
+
+namespace {
+
+using namespace winvrx;
+using namespace std::chrono_literals;
+using std::filesystem::path;
+
+constexpr int kRounds = 9;
+constexpr double kMostRatio = 1.3;
+const CompanyCode kCompany = *CompanyCode::parse("01");
+
+class BenchFolder {
+  public:
+    BenchFolder() : path_("bench-apply-" + std::to_string(std::random_device{}())) {
+        std::filesystem::create_directories(path_);
+    }
+    ~BenchFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    BenchFolder(const BenchFolder&) = delete;
+    BenchFolder& operator=(const BenchFolder&) = delete;
+
+    [[nodiscard]] DataFolder folder() const { return {'C', path_}; }
+
+  private:
+    path path_;
+};
+
+std::vector<EmployeeCode> everyone() {
+    std::vector<EmployeeCode> codes;
+    for (int number = 1; number <= EmployeeCode::kHighest; ++number)
+        codes.push_back(*EmployeeCode::fromNumber(number));
+    return codes;
+}
+
+void hire(FileSystem& files, const DataFolder& folder) {
+    std::vector<EmployeeLine> lines;
+    std::vector<FileSystem::NewContent> schedules;
+    StandardSchedule schedule;
+    schedule.weekday.morning = {parseTime("08:00"), parseTime("12:00")};
+    schedule.weekday.afternoon = {parseTime("13:00"), parseTime("17:00")};
+    for (const EmployeeCode& code : everyone()) {
+        Employee one;
+        one.code = code.text();
+        one.name = "MARIA " + code.text();
+        one.admission = "12/03/2020";
+        one.shift = "Unico";
+        one.scale = "Normal";
+        lines.push_back(lineOf(one));
+        schedules.push_back({folder.companyFile(kCompany, scheduleFileName(code)),
+                             joinedLines({encode(schedule)})});
+    }
+    files.replaceAll(schedules);
+    files.replaceAll({EmployeeRegister(files, folder, kCompany).contentOf(lines)});
+}
+
+double milliseconds(const std::function<void()>& work) {
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
+        .count();
+}
+
+double median(std::vector<double> values) {
+    std::ranges::sort(values);
+    return values[values.size() / 2];
+}
+
+/// Ours and the floor in turn, so that both meet the same disk.
+bool measure(const char* name, FileSystem& files, const DataFolder& folder, Minutes minutes) {
+    const RecordedLocks locks(files, folder);
+    const RecordedLeaves leaves(files, folder);
+    MonthSettings march;
+    march.month = 2024y / 3;
+    const ApplicationOrder order{
+        .company = kCompany, .settings = march, .minutes = minutes, .situation = {}, .common = {}};
+    ListApplication::Batch batch;
+    std::vector<double> ours;
+    std::vector<double> floor;
+    for (int round = 0; round <= kRounds; ++round) {
+        const double applied = milliseconds([&] {
+            ListApplication application(files, folder, {locks, locks, leaves}, order);
+            batch = application.fill(everyone(), {}).value();
+            files.replaceAll(batch);
+        });
+        const double written = milliseconds([&] { files.replaceAll(batch); });
+        if (round == 0) continue;  // fills the caches
+        ours.push_back(applied);
+        floor.push_back(written);
+    }
+    const double ratio = median(ours) / median(floor);
+    std::printf("bench %s ours=%.1f floor=%.1f ratio=%.2f\n", name, median(ours), median(floor),
+                ratio);
+    return batch.size() == static_cast<std::size_t>(EmployeeCode::kHighest) && ratio <= kMostRatio;
+}
+
+}  // namespace
+
+int main() {
+    const BenchFolder bench;
+    const DataFolder folder = bench.folder();
+    const auto files = systemFiles();
+    hire(*files, folder);
+    const bool fixed = measure("apply-1000", *files, folder, Minutes::Fixed);
+    const bool varied = measure("apply-1000-varied", *files, folder, Minutes::Varied);
+    return fixed && varied ? 0 : 1;
+}
