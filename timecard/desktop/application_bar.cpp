@@ -2,7 +2,6 @@
 
 #include "foundation/desktop/look.h"
 #include "foundation/desktop/qt_text.h"
-#include "timecard/desktop/wrapped_check_box.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -29,13 +28,14 @@ ApplicationBar::ApplicationBar(CartaoPontoDados& command, QWidget* parent)
       varied_(buildMinutes(QStringLiteral("Minutos &Variados"),
                            QStringLiteral("card.minutesVaried"), Minutes::Varied)),
       situation_(new QComboBox(this)),
-      sameHours_(new WrappedCheckBox(QStringLiteral("card.sameHours"), this)) {
+      sameHours_(new QCheckBox(this)) {
     varied_->setToolTip(QStringLiteral(
         "Cada hora muda até 5 minutos de um dia para o outro, até 10 minutos no dia."));
     buildSituation();
     QLabel* label = look::label(QStringLiteral("Si&tuação"), look::TextSize::Body, this);
     label->setBuddy(situation_);
-    connect(sameHours_->box(), &QCheckBox::toggled, this, &ApplicationBar::showCaption);
+    sameHours_->setObjectName(QStringLiteral("card.sameHours"));
+    connect(sameHours_, &QCheckBox::toggled, this, &ApplicationBar::showCaption);
     auto* row = new QHBoxLayout(this);
     look::layOutPart(*row);
     row->addWidget(fixed_);
@@ -43,8 +43,8 @@ ApplicationBar::ApplicationBar(CartaoPontoDados& command, QWidget* parent)
     row->addSpacing(look::kGap);
     row->addWidget(label);
     row->addWidget(situation_);
-    row->addSpacing(look::kGap);
-    row->addWidget(sameHours_, 1);
+    row->addStretch();
+    row->addWidget(sameHours_);
 }
 
 QRadioButton* ApplicationBar::buildMinutes(const QString& text, const QString& objectName,
@@ -75,12 +75,16 @@ void ApplicationBar::buildSituation() {
 }
 
 bool ApplicationBar::sameHours() const {
-    return sameHours_->box()->isChecked();
+    return sameHours_->isChecked();
 }
 
 void ApplicationBar::showCaption() {
-    sameHours_->setCaption(sameHours() ? kSameHoursOf + toQt(codeOf(command_.filter()))
-                                       : kSameHours);
+    const QString caption =
+        sameHours() ? kSameHoursOf + toQt(codeOf(command_.filter())) : kSameHours;
+    sameHours_->setAccessibleName(caption);
+    // The long caption takes two lines.
+    sameHours_->setText(
+        QString(caption).replace(QStringLiteral("> e <"), QStringLiteral("> e\n<")));
 }
 
 void ApplicationBar::refresh() {

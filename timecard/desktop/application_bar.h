@@ -4,12 +4,11 @@
 
 #include <QWidget>
 
+class QCheckBox;
 class QComboBox;
 class QRadioButton;
 
 namespace winvrx {
-
-class WrappedCheckBox;
 
 /// How "Aplicar Ponto" and "Aplicar Ponto p/Todos" fill the cards: fixed or varied minutes, the
 /// situation of days of work without times, the same working hours for everyone of the shift.
@@ -33,7 +32,7 @@ class ApplicationBar : public QWidget {
     QRadioButton* fixed_;
     QRadioButton* varied_;
     QComboBox* situation_;
-    WrappedCheckBox* sameHours_;
+    QCheckBox* sameHours_;
 };
 
 }  // namespace winvrx

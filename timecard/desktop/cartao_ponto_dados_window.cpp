@@ -22,8 +22,9 @@ namespace winvrx {
 
 namespace {
 
-constexpr int kNarrowestSide = 264;
-constexpr int kWidestSide = 352;
+/// Of the side; both halves beside it bring one more column of hours.
+constexpr int kSideWidth = 288;
+constexpr int kWideSideWidth = 332;
 constexpr int kPatience = 500;  // milliseconds without progress shown
 
 const QString kOnLeave = QStringLiteral("⚠ COLABORADOR COM AFASTAMENTO!!!");
@@ -70,18 +71,16 @@ QWidget* CartaoPontoDadosWindow::buildBody() {
     auto* row = new QHBoxLayout(body);
     look::layOutBody(*row);
     row->setSpacing(look::kMargin);
-    row->addWidget(buildSide(), 1);
-    row->addWidget(buildCard(), 4);
+    row->addWidget(buildSide());
+    row->addWidget(buildCard(), 1);
     return body;
 }
 
 QWidget* CartaoPontoDadosWindow::buildSide() {
-    auto* side = new QWidget(this);
-    side->setMinimumWidth(kNarrowestSide);
-    side->setMaximumWidth(kWidestSide);
-    auto* column = new QVBoxLayout(side);
+    side_ = new QWidget(this);
+    auto* column = new QVBoxLayout(side_);
     look::layOutPart(*column);
-    employees_ = new EmployeePanel(command_, side);
+    employees_ = new EmployeePanel(command_, side_);
     column->addWidget(employees_, 1);
     column->addWidget(buildHours());
     QRadioButton* enter = buildEntryMode(QStringLiteral("Usar Tecla &ENTER"),
@@ -90,7 +89,7 @@ QWidget* CartaoPontoDadosWindow::buildSide() {
     column->addWidget(enter);
     column->addWidget(buildEntryMode(QStringLiteral("Usar Tecla TA&BE"),
                                      QStringLiteral("card.useTab"), Qt::Key_Tab));
-    return side;
+    return side_;
 }
 
 QWidget* CartaoPontoDadosWindow::buildHours() {
@@ -237,7 +236,7 @@ CartaoPontoDadosWindow::HalfWidgets& CartaoPontoDadosWindow::half(HalfMonth half
 
 bool CartaoPontoDadosWindow::isWide() const {
     const int grids = 2 * halves_[0].grid->comfortableWidth();
-    return width() >= kWidestSide + grids + 3 * look::kMargin + look::kGap;
+    return width() >= kWideSideWidth + grids + 3 * look::kMargin + look::kGap;
 }
 
 void CartaoPontoDadosWindow::showHalf(HalfMonth half) {
@@ -249,6 +248,7 @@ void CartaoPontoDadosWindow::showHalf(HalfMonth half) {
 void CartaoPontoDadosWindow::layOutHalves() {
     for (const HalfMonth one : {HalfMonth::First, HalfMonth::Second})
         half(one).panel->setVisible(isWide() || one == shown_);
+    side_->setFixedWidth(isWide() ? kWideSideWidth : kSideWidth);
     hours_->showOnly(isWide() ? std::nullopt : std::optional(shown_));
     const HalfMonth other = otherThan(shown_);
     otherHalf_->setText(nameOf(other) + QStringLiteral("  F6"));

@@ -84,6 +84,7 @@ class CartaoPontoDadosWindow : public ScreenWindow {
 
     CartaoPontoDados& command_;
     HalfMonth shown_ = HalfMonth::First;
+    QWidget* side_ = nullptr;
     EmployeePanel* employees_ = nullptr;
     HoursSummaryPanel* hours_ = nullptr;
     SchedulePanel* schedule_ = nullptr;

@@ -12,6 +12,8 @@
 #include <QLineEdit>
 #include <QStyledItemDelegate>
 
+#include <numeric>
+
 namespace winvrx {
 
 namespace {
@@ -19,17 +21,14 @@ namespace {
 constexpr int kLongestTime = 5;
 constexpr int kLongestSituation = 19;
 
-/// Widths of columns, in digits; a cell has room for five of them behind a warning sign.
-constexpr int kDayDigits = 14;
-constexpr int kCellDigits = 9;
-constexpr int kTotalDigits = 7;
-constexpr int kSituationDigits = 18;
 constexpr int kMostRows = 16;
 constexpr QKeyCombination kRedoKey(Qt::ControlModifier, Qt::Key_Y);
 
+/// Widths of columns, in digits; a time has room for its five behind a warning sign.
+constexpr std::array<int, PunchModel::Columns> kColumnDigits = {12, 8, 8, 8, 8, 8, 8, 6, 16, 6, 7};
+
 int digitsOf(int column) {
-    if (column == PunchModel::Day) return kDayDigits;
-    return column < PunchModel::Total ? kCellDigits : kTotalDigits;
+    return kColumnDigits[static_cast<std::size_t>(column)];
 }
 
 /// Editors of the cells: a field of five characters, and the list of situations.
@@ -111,7 +110,7 @@ void PunchGrid::layOutColumns() {
         header->resizeSection(column, digit * digitsOf(column));
     header->setSectionResizeMode(PunchModel::Situation, QHeaderView::Stretch);
     comfortableWidth_ =
-        digit * (kDayDigits + 7 * kCellDigits + kSituationDigits + 2 * kTotalDigits);
+        digit * std::accumulate(kColumnDigits.begin(), kColumnDigits.end(), 0) + 2 * frameWidth();
     setMinimumWidth(comfortableWidth_ / 2);
 }
 

@@ -102,8 +102,9 @@ QString PunchModel::spokenNameOf(const QModelIndex& index) const {
 
 QString PunchModel::shownText(const QModelIndex& index) const {
     const QString text = textOf(index);
-    const bool doubtful = index.column() == Day && !doubtAt(index).isEmpty();
-    if (doubtful || !noticeAt(index).isEmpty()) return QString(QStringLiteral("⚠ ") + text);
+    if (index.column() == Day)
+        return doubtAt(index).isEmpty() ? text : QString(QStringLiteral("⚠") + text);
+    if (!noticeAt(index).isEmpty()) return QString(QStringLiteral("⚠ ") + text);
     const bool unsaid = index.column() == Situation && text.isEmpty();
     return unsaid ? calendarWord(command_.kindOf(dayOf(index))) : text;
 }
@@ -140,7 +141,7 @@ QVariant PunchModel::data(const QModelIndex& index, int role) const {
         case Qt::AccessibleDescriptionRole:
             return doubtAt(index);
         case Qt::FontRole:
-            return index.column() == Situation ? look::font(look::TextSize::Body)
+            return index.column() == Situation ? look::font(look::TextSize::Hint)
                                                : look::fixedFont();
         case Qt::TextAlignmentRole:
             return index.column() == Situation || index.column() == Day

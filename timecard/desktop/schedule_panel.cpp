@@ -25,7 +25,7 @@ SchedulePanel::SchedulePanel(CartaoPontoDados& command, QWidget* parent)
     look::setRole(*this, "panel");
     buildTexts();
     auto* hours = new QHBoxLayout;
-    hours->setSpacing(look::kMargin);
+    hours->setSpacing(look::kGap);
     hours->addWidget(weekly_);
     hours->addWidget(monthly_);
     hours->addStretch();
@@ -34,8 +34,7 @@ SchedulePanel::SchedulePanel(CartaoPontoDados& command, QWidget* parent)
     texts->addWidget(name_);
     texts->addWidget(facts_);
     texts->addLayout(hours);
-    for (QLabel* label : {onLeave_, closed_, hint_})
-        texts->addWidget(label);
+    texts->addWidget(hint_);
     texts->addStretch();
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(look::kMargin, look::kGap, look::kMargin, look::kGap);
@@ -47,27 +46,16 @@ SchedulePanel::SchedulePanel(CartaoPontoDados& command, QWidget* parent)
 void SchedulePanel::buildTexts() {
     name_ = look::heading(QString(), this);
     name_->setObjectName(QStringLiteral("schedule.name"));
-    onLeave_ =
-        buildMark(QStringLiteral("COLABORADOR COM AFASTAMENTO!!!"), QStringLiteral("card.onLeave"));
-    look::setTint(*onLeave_, look::Tint::Leave);
-    closed_ = buildMark(QStringLiteral("⚠ Folha Fechada"), QStringLiteral("card.closed"));
-    look::setTint(*closed_, look::Tint::Warning);
+    name_->setWordWrap(true);
     facts_ = look::label(QString(), look::TextSize::Hint, this);
     facts_->setWordWrap(true);
-    weekly_ = look::label(QString(), look::TextSize::Body, this);
+    weekly_ = look::label(QString(), look::TextSize::Hint, this);
     weekly_->setObjectName(QStringLiteral("schedule.weekly"));
-    monthly_ = look::label(QString(), look::TextSize::Body, this);
+    monthly_ = look::label(QString(), look::TextSize::Hint, this);
     monthly_->setObjectName(QStringLiteral("schedule.monthly"));
     hint_ = look::label(QString(), look::TextSize::Hint, this);
     hint_->setObjectName(QStringLiteral("schedule.hint"));
     look::setTint(*hint_, look::Tint::Warning);
-}
-
-QLabel* SchedulePanel::buildMark(const QString& text, const QString& objectName) {
-    QLabel* label = look::label(text, look::TextSize::Body, this);
-    label->setObjectName(objectName);
-    label->hide();
-    return label;
 }
 
 void SchedulePanel::buildSave() {
@@ -151,9 +139,6 @@ void SchedulePanel::refresh() {
     name_->setText(one ? toQt(one->code + " " + one->name)
                        : QStringLiteral("Escolha um funcionário na lista"));
     facts_->setText(one ? employeeFacts() : QString());
-    const EmployeeMark mark = one ? command_.mark(*command_.selectedPosition()) : EmployeeMark();
-    onLeave_->setVisible(mark.onLeave);
-    closed_->setVisible(mark.closed);
     second_->setChecked(command_.schedule().secondFlag());
     for (std::size_t position = 0; position < kScheduleTimes; ++position)
         times_[position]->setText(toQt(command_.schedule().text(position)));

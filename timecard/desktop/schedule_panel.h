@@ -31,7 +31,6 @@ class SchedulePanel : public QFrame {
 
   private:
     void buildTexts();
-    [[nodiscard]] QLabel* buildMark(const QString& text, const QString& objectName);
     void buildSave();
     [[nodiscard]] QGridLayout* buildTimes();
     [[nodiscard]] QLineEdit* buildTime(std::size_t position);
@@ -41,8 +40,6 @@ class SchedulePanel : public QFrame {
 
     CartaoPontoDados& command_;
     QLabel* name_ = nullptr;
-    QLabel* onLeave_ = nullptr;
-    QLabel* closed_ = nullptr;
     QLabel* facts_ = nullptr;
     std::array<QLineEdit*, kScheduleTimes> times_{};
     QLabel* saturday_ = nullptr;

@@ -90,11 +90,15 @@ TEST_F(TypicalMonth, PrintsARowForEachOfThirtyOneDays) {
             const bool sunday = day % 7 == 3;
             const bool holiday = day == 29;
             const bool beforeAdmission = card == 1 && day < 12;
-            const bool worked = !sunday && !holiday && !beforeAdmission;
+            const bool absent = card == 0 && day == 12;
+            const bool worked = !sunday && !holiday && !beforeAdmission && !absent;
             EXPECT_EQ(row.find(':') != std::string::npos, worked) << row;
         }
     }
     EXPECT_EQ(dayRow(cards[0], 1), "01 sex 08:00 12:00 13:00 17:00 08:00");
+    EXPECT_EQ(dayRow(cards[0], 4), "04 seg 08:12 12:00 13:00 17:30 08:18");
+    EXPECT_EQ(dayRow(cards[0], 5), "05 ter 08:00 12:00 13:10 17:00 07:50");
+    EXPECT_EQ(dayRow(cards[0], 12), "12 ter Falta");
     EXPECT_EQ(dayRow(cards[1], 11), "11 seg");
     EXPECT_EQ(dayRow(cards[1], 12), "12 ter 09:00 13:00 14:00 18:00 08:00");
     EXPECT_EQ(dayRow(cards[2], 4), "04 seg 22:00 02:00 03:00 06:00 07:00");
@@ -136,7 +140,7 @@ TEST_F(TypicalMonth, KeepsPicturesInBothPalettesAndTheConversation) {
                                         "Resposta: Sim\n"));
     EXPECT_THAT(conversation,
                 HasSubstr("Texto: Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão "
-                          "para o Item Selecionado?\n"));
+                          "para Todos os Itens do Turno: Todos da Lista?\n"));
 }
 
 }  // namespace
