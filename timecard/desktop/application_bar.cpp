@@ -23,7 +23,7 @@ const QString kSameHoursOf =
 ApplicationBar::ApplicationBar(CartaoPontoDados& command, QWidget* parent)
     : QWidget(parent),
       command_(command),
-      fixed_(buildMinutes(QStringLiteral("Minutos Fi&xos"), QStringLiteral("card.minutesFixed"),
+      fixed_(buildMinutes(QStringLiteral("Minutos &Fixos"), QStringLiteral("card.minutesFixed"),
                           Minutes::Fixed)),
       varied_(buildMinutes(QStringLiteral("Minutos &Variados"),
                            QStringLiteral("card.minutesVaried"), Minutes::Varied)),

@@ -87,7 +87,7 @@ QWidget* CartaoPontoDadosWindow::buildSide() {
                                          QStringLiteral("card.useEnter"), Qt::Key_Return);
     enter->setChecked(true);
     column->addWidget(enter);
-    column->addWidget(buildEntryMode(QStringLiteral("Usar Tecla TA&BE"),
+    column->addWidget(buildEntryMode(QStringLiteral("Usar Tecla T&ABE"),
                                      QStringLiteral("card.useTab"), Qt::Key_Tab));
     return side_;
 }
