@@ -26,6 +26,7 @@ namespace {
 constexpr int kSideWidth = 288;
 constexpr int kWideSideWidth = 332;
 constexpr int kPatience = 500;  // milliseconds without progress shown
+constexpr int kManyCards = 100;
 
 const QString kOnLeave = QStringLiteral("⚠ COLABORADOR COM AFASTAMENTO!!!");
 const QString kClosed = QStringLiteral("⚠ Folha Fechada");
@@ -44,7 +45,9 @@ std::unique_ptr<QProgressDialog> progressDialog(int cards, QWidget* parent) {
     dialog->setObjectName(QStringLiteral("card.progress"));
     dialog->setWindowTitle(QStringLiteral("Aplicação de Pontos"));
     dialog->setWindowModality(Qt::WindowModal);
-    dialog->setMinimumDuration(kPatience);
+    dialog->setMinimumDuration(cards > kManyCards ? 0 : kPatience);
+    dialog->setAutoClose(false);
+    dialog->setAutoReset(false);
     return dialog;
 }
 
@@ -382,7 +385,8 @@ void CartaoPontoDadosWindow::applyToAll() {
     std::unique_ptr<QProgressDialog> dialog;
     const auto progress = [&dialog, this](int done, int total) {
         if (!dialog) dialog = progressDialog(total, this);
-        dialog->setLabelText(QStringLiteral("Cartão %1 de %2").arg(done).arg(total));
+        dialog->setLabelText(done < total ? QStringLiteral("Cartão %1 de %2").arg(done).arg(total)
+                                          : QStringLiteral("Gravando %1 cartões…").arg(total));
         dialog->setValue(done);
         return !dialog->wasCanceled();
     };
