@@ -29,7 +29,6 @@ class CartaoPontoDados {
     /// employee chosen before stays chosen if the list has it. False when no company or no month is
     /// chosen.
     [[nodiscard]] bool open();
-    /// The company that the list belongs to.
     [[nodiscard]] const std::optional<CompanyCode>& company() const { return company_; }
     [[nodiscard]] const std::string& companyName() const { return companyName_; }
     [[nodiscard]] const MonthSettings& settings() const { return settings_; }
@@ -37,7 +36,6 @@ class CartaoPontoDados {
     /// False when the operator keeps unrecorded changes.
     [[nodiscard]] bool filterBy(ShiftFilter filter);
     [[nodiscard]] const std::vector<Employee>& employees() const { return employees_; }
-    /// Of the employee at `position` of the list.
     [[nodiscard]] EmployeeMark mark(std::size_t position) const { return marks_.at(position); }
 
     /// Loads the card of the employee at `position` of the list. False when the operator stays with
@@ -64,10 +62,9 @@ class CartaoPontoDados {
 
     /// "Aplicar Ponto": fills the month from the standard schedule.
     [[nodiscard]] bool applyPunches();
-    /// "Aplicar Ponto p/Todos": fills the month of the employees at these positions of the list,
-    /// each from his own schedule or, with `sameHours`, all from that of the employee selected,
-    /// which becomes theirs. Employees that cannot be filled are left as they are and named at the
-    /// end. Cancelling leaves everyone's card as it was.
+    /// "Aplicar Ponto p/Todos" for these positions of the list: each card from the employee's own
+    /// schedule or, with `sameHours`, from that of the one selected, which becomes his. Who cannot
+    /// be filled stays as he is and is named at the end; cancelling leaves everyone as he was.
     [[nodiscard]] bool applyToAll(const std::vector<std::size_t>& positions, bool sameHours,
                                   const ListApplication::Progress& progress = {});
     /// How many cards the last application filled.
@@ -80,8 +77,8 @@ class CartaoPontoDados {
     [[nodiscard]] bool closed() const;
     /// False when the month is closed, which the operator is then told.
     [[nodiscard]] bool mayEdit();
-    /// Puts the cells of a spreadsheet into the sheet, from `day` and `cell` on. False when the
-    /// month is closed or they have no place there, which the operator is told.
+    /// Puts the cells of a spreadsheet into the sheet, from `day` and `cell` on. False when that
+    /// is refused.
     [[nodiscard]] bool pasteCells(int day, PunchCell cell, std::string_view text);
     [[nodiscard]] CardSheet& sheet() { return sheet_; }
     [[nodiscard]] const CardSheet& sheet() const { return sheet_; }

@@ -4,6 +4,7 @@
 #include "foundation/desktop/qt_text.h"
 #include "timecard/desktop/application_bar.h"
 #include "timecard/desktop/employee_panel.h"
+#include "timecard/desktop/half_month_panel.h"
 #include "timecard/desktop/hours_summary_panel.h"
 #include "timecard/desktop/punch_grid.h"
 #include "timecard/desktop/schedule_panel.h"
@@ -27,13 +28,6 @@ constexpr int kSideWidth = 288;
 constexpr int kWideSideWidth = 332;
 constexpr int kPatience = 500;  // milliseconds without progress shown
 constexpr int kManyCards = 100;
-
-const QString kOnLeave = QStringLiteral("⚠ COLABORADOR COM AFASTAMENTO!!!");
-const QString kClosed = QStringLiteral("⚠ Folha Fechada");
-
-QString nameOf(HalfMonth half) {
-    return half == HalfMonth::First ? QStringLiteral("1º Quinzena") : QStringLiteral("2º Quinzena");
-}
 
 HalfMonth otherThan(HalfMonth half) {
     return half == HalfMonth::First ? HalfMonth::Second : HalfMonth::First;
@@ -111,8 +105,8 @@ QRadioButton* CartaoPontoDadosWindow::buildEntryMode(const QString& text, const 
     auto* button = new QRadioButton(text, this);
     button->setObjectName(objectName);
     connect(button, &QRadioButton::toggled, this, [this, key](bool on) {
-        for (const HalfWidgets& widgets : halves_)
-            if (on && widgets.grid) widgets.grid->setNextCellKey(key);
+        for (const HalfMonthPanel* panel : halves_)
+            if (on && panel) panel->grid().setNextCellKey(key);
     });
     return button;
 }
@@ -134,7 +128,8 @@ QWidget* CartaoPontoDadosWindow::buildCard() {
     auto* row = new QHBoxLayout;
     look::layOutPart(*row);
     for (const HalfMonth one : {HalfMonth::First, HalfMonth::Second}) {
-        row->addWidget(buildHalf(one), 1);
+        halves_[static_cast<std::size_t>(one)] = new HalfMonthPanel(command_, one, widget);
+        row->addWidget(&half(one), 1);
         connectGrid(one);
     }
     column->addLayout(row, 1);
@@ -145,44 +140,18 @@ QWidget* CartaoPontoDadosWindow::buildCard() {
     return widget;
 }
 
-QWidget* CartaoPontoDadosWindow::buildHalf(HalfMonth which) {
-    HalfWidgets& widgets = half(which);
-    const QString number = which == HalfMonth::First ? QStringLiteral("1") : QStringLiteral("2");
-    widgets.panel = new QWidget(this);
-    auto* column = new QVBoxLayout(widgets.panel);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(look::kSmallGap);
-    widgets.heading = look::heading(QString(), widgets.panel);
-    widgets.heading->setObjectName(QStringLiteral("card.heading") + number);
-    widgets.marks = look::label(QString(), look::TextSize::Body, widgets.panel);
-    widgets.marks->setObjectName(QStringLiteral("card.marks") + number);
-    look::setTint(*widgets.marks, look::Tint::Warning);
-    auto* headings = new QHBoxLayout;
-    look::layOutPart(*headings);
-    headings->addWidget(widgets.heading);
-    headings->addStretch();
-    headings->addWidget(widgets.marks);
-    column->addLayout(headings);
-    widgets.model = new PunchModel(command_, which, this);
-    widgets.grid = new PunchGrid(widgets.model, QStringLiteral("card.half") + number, this);
-    column->addWidget(widgets.grid, 1);
-    return widgets.panel;
-}
-
 void CartaoPontoDadosWindow::connectGrid(HalfMonth which) {
-    const HalfWidgets& widgets = half(which);
-    connect(widgets.model, &PunchModel::edited, this, &CartaoPontoDadosWindow::showState);
-    connect(widgets.grid, &PunchGrid::cellChanged, this, &CartaoPontoDadosWindow::showState);
-    connect(widgets.grid, &PunchGrid::changeRefused, this, [this] { (void)command_.mayEdit(); });
-    connect(widgets.grid, &PunchGrid::leftAtEnd, this, [this, which] {
+    const PunchGrid* grid = &half(which).grid();
+    connect(&half(which).model(), &PunchModel::edited, this, &CartaoPontoDadosWindow::showState);
+    connect(grid, &PunchGrid::cellChanged, this, &CartaoPontoDadosWindow::showState);
+    connect(grid, &PunchGrid::changeRefused, this, [this] { (void)command_.mayEdit(); });
+    connect(grid, &PunchGrid::leftAtEnd, this, [this, which] {
         showHalf(otherThan(which));
-        half(shown_).grid->goToStart();
+        half(shown_).grid().goToStart();
     });
-    connect(widgets.grid, &PunchGrid::undoRequested, this,
-            [this] { showEdit(command_.sheet().undo()); });
-    connect(widgets.grid, &PunchGrid::redoRequested, this,
-            [this] { showEdit(command_.sheet().redo()); });
-    connect(widgets.grid, &PunchGrid::pasteRequested, this,
+    connect(grid, &PunchGrid::undoRequested, this, [this] { showEdit(command_.sheet().undo()); });
+    connect(grid, &PunchGrid::redoRequested, this, [this] { showEdit(command_.sheet().redo()); });
+    connect(grid, &PunchGrid::pasteRequested, this,
             [this](int day, PunchCell cell, const QString& text) {
                 if (command_.pasteCells(day, cell, toUtf8(text))) showSheet();
             });
@@ -198,11 +167,11 @@ void CartaoPontoDadosWindow::buildCommands() {
     QToolButton* record = addCommand(QStringLiteral("save"), QStringLiteral("Gravar"),
                                      QKeySequence::Save, QStringLiteral("card.save"));
     connect(record, &QToolButton::clicked, this, &CartaoPontoDadosWindow::save);
-    otherHalf_ = addCommand(QStringLiteral("right"), nameOf(HalfMonth::Second), Qt::Key_F6,
-                            QStringLiteral("card.otherHalf"));
+    otherHalf_ = addCommand(QStringLiteral("right"), HalfMonthPanel::nameOf(HalfMonth::Second),
+                            Qt::Key_F6, QStringLiteral("card.otherHalf"));
     connect(otherHalf_, &QToolButton::clicked, this, [this] {
         showHalf(otherThan(shown_));
-        half(shown_).grid->goToStart();
+        half(shown_).grid().goToStart();
     });
     QToolButton* month =
         addCommand(QStringLiteral("month"), QStringLiteral("Configurações Feriados e Horas extras"),
@@ -220,7 +189,7 @@ void CartaoPontoDadosWindow::connectEmployees() {
     });
     connect(employees_, &EmployeePanel::employeeChosen, this,
             &CartaoPontoDadosWindow::chooseEmployee);
-    connect(employees_, &EmployeePanel::opened, this, [this] { half(shown_).grid->goToStart(); });
+    connect(employees_, &EmployeePanel::opened, this, [this] { half(shown_).grid().goToStart(); });
 }
 
 void CartaoPontoDadosWindow::addEmployeeKeys() {
@@ -233,12 +202,12 @@ void CartaoPontoDadosWindow::addEmployeeKeys() {
     add(Qt::Key_PageDown, 1);
 }
 
-CartaoPontoDadosWindow::HalfWidgets& CartaoPontoDadosWindow::half(HalfMonth half) {
-    return halves_[static_cast<std::size_t>(half)];
+HalfMonthPanel& CartaoPontoDadosWindow::half(HalfMonth half) const {
+    return *halves_[static_cast<std::size_t>(half)];
 }
 
 bool CartaoPontoDadosWindow::isWide() const {
-    const int grids = 2 * halves_[0].grid->comfortableWidth();
+    const int grids = 2 * half(HalfMonth::First).grid().comfortableWidth();
     return width() >= kWideSideWidth + grids + 3 * look::kMargin + look::kGap;
 }
 
@@ -250,12 +219,12 @@ void CartaoPontoDadosWindow::showHalf(HalfMonth half) {
 
 void CartaoPontoDadosWindow::layOutHalves() {
     for (const HalfMonth one : {HalfMonth::First, HalfMonth::Second})
-        half(one).panel->setVisible(isWide() || one == shown_);
+        half(one).setVisible(isWide() || one == shown_);
     side_->setFixedWidth(isWide() ? kWideSideWidth : kSideWidth);
     hours_->showOnly(isWide() ? std::nullopt : std::optional(shown_));
     const HalfMonth other = otherThan(shown_);
-    otherHalf_->setText(nameOf(other) + QStringLiteral("  F6"));
-    otherHalf_->setAccessibleName(nameOf(other));
+    otherHalf_->setText(HalfMonthPanel::nameOf(other) + QStringLiteral("  F6"));
+    otherHalf_->setAccessibleName(HalfMonthPanel::nameOf(other));
     otherHalf_->setIcon(
         look::icon(other == HalfMonth::Second ? QStringLiteral("right") : QStringLiteral("left")));
 }
@@ -293,11 +262,8 @@ void CartaoPontoDadosWindow::showCard() {
 }
 
 void CartaoPontoDadosWindow::showSheet() {
-    for (const HalfWidgets& widgets : halves_) {
-        const QModelIndex at = widgets.grid->currentIndex();
-        widgets.model->refresh();
-        widgets.grid->setCurrentIndex(widgets.model->index(at.row(), at.column()));
-    }
+    for (HalfMonthPanel* panel : halves_)
+        panel->showSheet();
     showState();
 }
 
@@ -309,8 +275,8 @@ void CartaoPontoDadosWindow::showEdit(std::optional<int> day) {
                                 : HalfMonth::Second;
     if (place == shown_) return;
     showHalf(place);
-    half(place).grid->setCurrentIndex(half(place).model->indexOfDay(*day));
-    half(place).grid->setFocus();
+    half(place).grid().setCurrentIndex(half(place).model().indexOfDay(*day));
+    half(place).grid().setFocus();
 }
 
 void CartaoPontoDadosWindow::showUnread() {
@@ -330,19 +296,6 @@ void CartaoPontoDadosWindow::showUnread() {
                              .arg(texts[0]));
 }
 
-void CartaoPontoDadosWindow::showHeadings() {
-    const auto position = command_.selectedPosition();
-    const EmployeeMark mark = position ? command_.mark(*position) : EmployeeMark();
-    QStringList marks;
-    if (mark.onLeave) marks << kOnLeave;
-    if (mark.closed) marks << kClosed;
-    for (const HalfMonth one : {HalfMonth::First, HalfMonth::Second}) {
-        half(one).heading->setText(nameOf(one) + QStringLiteral("  ·  ") +
-                                   toQt(command_.totalOf(one)));
-        half(one).marks->setText(marks.join(QStringLiteral("  ·  ")));
-    }
-}
-
 void CartaoPontoDadosWindow::showHours() {
     const Employee* one = command_.selected();
     hours_->showHours(command_.hours(), one ? toQt(one->code + " " + one->name + " · " +
@@ -352,10 +305,12 @@ void CartaoPontoDadosWindow::showHours() {
 
 void CartaoPontoDadosWindow::showState() {
     showHours();
-    showHeadings();
-    const PunchGrid* grid = half(shown_).grid;
-    QString notice = grid->punches()->noticeAt(grid->currentIndex());
-    if (notice.isEmpty()) notice = grid->punches()->doubtAt(grid->currentIndex());
+    for (HalfMonthPanel* panel : halves_)
+        panel->showHeading();
+    const PunchModel& model = half(shown_).model();
+    const QModelIndex at = half(shown_).grid().currentIndex();
+    QString notice = model.noticeAt(at);
+    if (notice.isEmpty()) notice = model.doubtAt(at);
     if (!notice.isEmpty())
         setState(QStringLiteral("⚠ ") + notice);
     else if (command_.closed())
@@ -369,8 +324,8 @@ void CartaoPontoDadosWindow::showState() {
 }
 
 void CartaoPontoDadosWindow::commitEditors() {
-    for (HalfWidgets& widgets : halves_)
-        widgets.grid->commitEditor();
+    for (HalfMonthPanel* panel : halves_)
+        panel->grid().commitEditor();
 }
 
 void CartaoPontoDadosWindow::apply() {

@@ -13,9 +13,8 @@ namespace winvrx {
 
 class ApplicationBar;
 class EmployeePanel;
+class HalfMonthPanel;
 class HoursSummaryPanel;
-class PunchGrid;
-class PunchModel;
 class SchedulePanel;
 
 /// The time-card data window: employees at the left; schedule, application and punches of the one
@@ -43,19 +42,10 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    struct HalfWidgets {
-        QWidget* panel = nullptr;
-        QLabel* heading = nullptr;
-        QLabel* marks = nullptr;  ///< leave and closed month
-        PunchModel* model = nullptr;
-        PunchGrid* grid = nullptr;
-    };
-
     [[nodiscard]] QWidget* buildBody();
     [[nodiscard]] QWidget* buildSide();
     [[nodiscard]] QWidget* buildHours();
     [[nodiscard]] QWidget* buildCard();
-    [[nodiscard]] QWidget* buildHalf(HalfMonth half);
     [[nodiscard]] QRadioButton* buildEntryMode(const QString& text, const QString& objectName,
                                                Qt::Key key);
     void buildCommands();
@@ -63,7 +53,7 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     void connectGrid(HalfMonth half);
     void addEmployeeKeys();
 
-    [[nodiscard]] HalfWidgets& half(HalfMonth half);
+    [[nodiscard]] HalfMonthPanel& half(HalfMonth half) const;
     [[nodiscard]] bool isWide() const;
     void showHalf(HalfMonth half);
     void layOutHalves();
@@ -72,7 +62,6 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     void showSheet();
     /// Goes to the day that an edit was taken back on or made again.
     void showEdit(std::optional<int> day);
-    void showHeadings();
     void showHours();
     void showState();
     void showUnread();
@@ -90,7 +79,7 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     SchedulePanel* schedule_ = nullptr;
     ApplicationBar* application_ = nullptr;
     QLabel* unread_ = nullptr;
-    std::array<HalfWidgets, 2> halves_{};
+    std::array<HalfMonthPanel*, 2> halves_{};
     QToolButton* otherHalf_ = nullptr;
     QToolButton* apply_ = nullptr;
     QToolButton* applyToAll_ = nullptr;
