@@ -22,6 +22,9 @@ const Message kScheduleNotRecorded{
     "O Horário de Trabalho foi alterado e ainda não foi gravado. Deseja gravá-lo e aplicá-lo?",
     Icon::Question, Buttons::YesNo};
 
+/// Of one kind that a message names; the log has them all.
+constexpr std::size_t kMostNames = 30;
+
 std::string summaryOf(int filled, std::size_t asked) {
     return "Ponto aplicado para " + std::to_string(filled) + " de " + std::to_string(asked) +
            (asked == 1 ? " funcionário." : " funcionários.");
@@ -156,9 +159,12 @@ bool CartaoPontoDados::fillAll(const std::vector<std::size_t>& positions, bool s
     at_.files.replaceAll(*batch);
     filledCards_ = application.filled();
     if (application.hasFilled(selectedCode())) loadCard(*position_);
-    if (const std::string remarks = application.remarks(); !remarks.empty())
+    if (const std::string remarks = application.remarks(kMostNames); !remarks.empty()) {
+        const std::string all = application.remarks(codes.size());
+        if (all != remarks) at_.log.write("punches of a list: " + all);
         at_.person.tell({"Aplicação de Pontos", summaryOf(filledCards_, codes.size()),
                          Icon::Information, Buttons::Ok, remarks});
+    }
     return true;
 }
 

@@ -146,13 +146,15 @@ std::optional<ListApplication::Batch> ListApplication::fill(const std::vector<Em
     return batch;
 }
 
-std::string ListApplication::remarks() const {
+std::string ListApplication::remarks(std::size_t mostNames) const {
     std::string text;
     for (const auto& [remark, names] : remarks_) {
         if (!text.empty()) text += '\n';
         text += textOf(remark);
-        for (std::size_t i = 0; i < names.size(); ++i)
+        const std::size_t named = std::min(names.size(), mostNames);
+        for (std::size_t i = 0; i < named; ++i)
             text += (i == 0 ? "" : ", ") + names[i];
+        if (named < names.size()) text += " e mais " + std::to_string(names.size() - named);
     }
     return text;
 }

@@ -48,9 +48,9 @@ class ListApplication {
                                             const Progress& progress);
     [[nodiscard]] bool hasFilled(const EmployeeCode& code) const { return filled_.contains(code); }
     [[nodiscard]] int filled() const { return static_cast<int>(filled_.size()); }
-    /// One line for each kind of remark on the last `fill`, with the names it is about; empty when
-    /// everyone's card was filled as a matter of course.
-    [[nodiscard]] std::string remarks() const;
+    /// One line for each kind of remark on the last `fill`, with the names it is about, `mostNames`
+    /// of them at most; empty when everyone's card was filled as a matter of course.
+    [[nodiscard]] std::string remarks(std::size_t mostNames) const;
 
     /// The card of one employee, whose own records decide.
     void fillOne(Batch& batch, const Employee& employee, const EmployeeCode& code);

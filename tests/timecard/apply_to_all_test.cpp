@@ -219,6 +219,20 @@ TEST_F(ApplyToAll, EachHasHisOwnHoursAndWhoCannotBeFilledIsNamed) {
         EXPECT_FALSE(isApplied(one)) << one;
 }
 
+TEST_F(ApplyToAll, ALongReportIsCutOnTheScreenAndWholeInTheLog) {
+    std::vector<Employee> people;
+    for (int number = 1; number <= 40; ++number)
+        people.push_back(employee(EmployeeCode::fromNumber(number)->text().c_str(), "N", "Unico",
+                                  number == 1 ? "Norma" : "5x1"));
+    people.back().name = "ULTIMA";
+    hire(people);
+    openOn(0);
+    agreeToAll();
+    ASSERT_TRUE(screen.applyToAll(everyone(), false));
+    EXPECT_THAT(desk.person.shown.back().detail, ::testing::EndsWith(", N e mais 9"));
+    EXPECT_THAT(desk.log.entries, ElementsAre(HasSubstr("ULTIMA")));
+}
+
 TEST_F(ApplyToAll, CancellingLeavesEverythingAsItWas) {
     ASSERT_TRUE(screen.open() && screen.filterBy(ShiftFilter::Unico) && screen.select(0));
     const auto untouched = desk.files.content;
