@@ -18,7 +18,7 @@ enum class ShiftFilter { Unico, Um, Dois, Tres, Todos };
 inline constexpr std::array kShifts = {Shift::Unico, Shift::Um, Shift::Dois, Shift::Tres};
 inline constexpr std::array kScales = {Scale::Normal, Scale::FiveByOne, Scale::TwelveByThirtySix};
 
-/// The filters that the main window offers, in its order.
+/// The filters that the main window and `Turnos` offer, in their order.
 inline constexpr std::array kMenuShiftFilters = {ShiftFilter::Unico, ShiftFilter::Dois,
                                                  ShiftFilter::Tres, ShiftFilter::Todos};
 

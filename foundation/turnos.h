@@ -5,16 +5,11 @@
 #include "foundation/employee_queries.h"
 #include "foundation/employee_register.h"
 
-#include <array>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace winvrx {
-
-/// The filters that the screen offers, in its order.
-inline constexpr std::array kTurnosFilters = {
-    ShiftFilter::Unico, ShiftFilter::Um, ShiftFilter::Dois, ShiftFilter::Tres, ShiftFilter::Todos};
 
 /// The small screen that changes the shift of employees already registered. Holds the list as the
 /// screen shows it; a command that is refused or fails leaves list and file as they were.

@@ -80,12 +80,13 @@ QComboBox* TurnosWindow::buildFilter(QWidget* parent) {
     auto* filter = new QComboBox(parent);
     filter->setObjectName(QStringLiteral("turnos.filter"));
     filter->setAccessibleName(QStringLiteral("Turno mostrado"));
-    for (const ShiftFilter one : kTurnosFilters)
+    for (const ShiftFilter one : kMenuShiftFilters)
         filter->addItem(QStringLiteral("Turno: ") + toQt(codeOf(one)));
-    const auto* place = std::find(kTurnosFilters.begin(), kTurnosFilters.end(), turnos_.filter());
-    filter->setCurrentIndex(static_cast<int>(place - kTurnosFilters.begin()));
+    const auto* place =
+        std::find(kMenuShiftFilters.begin(), kMenuShiftFilters.end(), turnos_.filter());
+    filter->setCurrentIndex(static_cast<int>(place - kMenuShiftFilters.begin()));
     connect(filter, &QComboBox::currentIndexChanged, this, [this](int index) {
-        turnos_.setFilter(kTurnosFilters[static_cast<std::size_t>(index)]);
+        turnos_.setFilter(kMenuShiftFilters[static_cast<std::size_t>(index)]);
         showList();
     });
     return filter;

@@ -53,7 +53,7 @@ TEST_F(TurnosTest, TheListFollowsTheFilter) {
     EXPECT_EQ(shown(), "001 002 ");
     turnos_.setFilter(ShiftFilter::Tres);
     EXPECT_EQ(shown(), "002 ");
-    turnos_.setFilter(ShiftFilter::Um);
+    turnos_.setFilter(ShiftFilter::Dois);
     EXPECT_EQ(shown(), "");
     desk_.session.shiftFilter = ShiftFilter::Unico;
     EXPECT_EQ(Turnos(desk_.at, desk_.browser, desk_.locks).filter(), ShiftFilter::Unico);

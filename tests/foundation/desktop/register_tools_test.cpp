@@ -16,6 +16,7 @@
 namespace winvrx {
 namespace {
 
+using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using namespace testing;
 
@@ -26,6 +27,11 @@ TEST(TurnosWindow, ChangesShiftsWithTheKeyboardAlone) {
     TurnosWindow window(turnos);
     const WindowDriver screen(window);
     EXPECT_EQ(screen.focusName(), "turnos.list");
+    const auto& filter = screen.find<QComboBox>("turnos.filter");
+    std::vector<std::string> filters;
+    for (int item = 0; item < filter.count(); ++item)
+        filters.push_back(toUtf8(filter.itemText(item)));
+    EXPECT_THAT(filters, ElementsAre("Turno: Unico", "Turno: Dois", "Turno: Tres", "Turno: Todos"));
     screen.press(Qt::Key_Down);
     EXPECT_EQ(screen.find<QLabel>("turnos.name").text().toStdString(), "002 BIA");
     screen.press(Qt::Key_Return);
