@@ -1,6 +1,7 @@
 #include "foundation/turnos.h"
 
 #include "foundation/company_register.h"
+#include "foundation/empregados.h"
 
 #include <algorithm>
 
@@ -31,24 +32,25 @@ void Turnos::load() {
     });
 }
 
-bool Turnos::change(const EmployeeCode& employee, Shift shift) {
+bool Turnos::change(const Employee& employee, Shift shift) {
     if (!at_.person.agrees(kConfirmChange)) return false;
     return attempt(at_, incorrectData(), [&] {
         const CompanyCode company = at_.session.company.value();
         EmployeeRegister list(at_.files, at_.session.folder, company);
         auto lines = list.load();
-        if (rotation_.isMember(company, employee)) {
+        (void)lineOfEmployee(lines, employee);
+        if (rotation_.isMember(company, employee.employeeCode().value())) {
             at_.person.tell(kRotationMember);
             return false;
         }
-        if (!allows(lineOfEmployee(lines, employee).employee.scaleOr(), shift)) {
+        if (!allows(employee.scaleOr(), shift)) {
             at_.person.tell(kBarredByScale);
             return false;
         }
         const auto hold = holdFolder(at_);
         lines = list.load();
         EmployeeLine& line = lineOfEmployee(lines, employee);
-        Employee changed = line.employee;
+        Employee changed = employee;
         changed.shift = codeOf(shift);
         line = lineOf(changed, line.bytes);
         list.save(lines, at_.clock.now());
@@ -57,13 +59,11 @@ bool Turnos::change(const EmployeeCode& employee, Shift shift) {
     });
 }
 
-EmployeeLine& Turnos::lineOfEmployee(std::vector<EmployeeLine>& lines,
-                                     const EmployeeCode& employee) {
-    const auto line = std::find_if(lines.begin(), lines.end(),
-                                   [&](const EmployeeLine& one) { return one.code() == employee; });
-    if (line == lines.end())
-        throw Fault("employee " + employee.text() + " is not in the list",
-                    "O funcionário não está mais na lista. Abra a tela novamente.");
+EmployeeLine& Turnos::lineOfEmployee(std::vector<EmployeeLine>& lines, const Employee& employee) {
+    const auto line = std::find_if(lines.begin(), lines.end(), [&](const EmployeeLine& one) {
+        return one.employee == employee;
+    });
+    if (line == lines.end()) throw changedElsewhere();
     return *line;
 }
 

@@ -27,17 +27,17 @@ class Turnos {
     /// "01 EMPRESA MODELO LTDA"; empty when no company is selected.
     [[nodiscard]] const std::string& companyTitle() const { return companyTitle_; }
 
-    /// Gives the employee another shift, unless he is in a rotation group or his scale bars it.
-    /// True when it was recorded.
-    [[nodiscard]] bool change(const EmployeeCode& employee, Shift shift);
+    /// Gives the employee, one of those shown, another shift, unless he is in a rotation group, his
+    /// scale bars it, or his record has changed since it was shown. True when it was recorded.
+    [[nodiscard]] bool change(const Employee& employee, Shift shift);
     /// Tells that an employee has to be selected first.
     void askForEmployee();
     void help();
 
   private:
-    /// The employee's place in the list; throws Fault when he is no longer there.
+    /// The employee's place in the list; throws Fault when he is no longer there as he was shown.
     [[nodiscard]] static EmployeeLine& lineOfEmployee(std::vector<EmployeeLine>& lines,
-                                                      const EmployeeCode& employee);
+                                                      const Employee& employee);
 
     Workplace at_;
     Browser& browser_;

@@ -164,10 +164,9 @@ void TurnosWindow::select(std::optional<std::size_t> position) {
 
 void TurnosWindow::changeShift() {
     if (!current_ || shifts_->currentRow() < 0) return turnos_.askForEmployee();
-    const std::string code = shown_.at(*current_).code;
     const Shift shift = kShifts.at(static_cast<std::size_t>(shifts_->currentRow()));
     const std::size_t place = *current_;
-    if (!turnos_.change(EmployeeCode::parse(code).value(), shift)) return;
+    if (!turnos_.change(shown_.at(place), shift)) return;
     showList();
     // With a filter the employee may have left the list; then the one after him is next.
     if (!shown_.empty()) select(std::min(place, shown_.size() - 1));

@@ -46,7 +46,7 @@ bool changeShift(const Workplace& at, const Drives&) {
     TestLocks locks;
     Turnos screen(at, browser, locks);
     screen.load();
-    return screen.change(*EmployeeCode::parse("002"), Shift::Dois);
+    return screen.shown().size() > 1 && screen.change(screen.shown()[1], Shift::Dois);
 }
 
 bool importEmployees(const Workplace& at, const Drives&) {
