@@ -55,6 +55,11 @@ const Message* refusalOf(std::optional<long> place, std::size_t count) {
     return nullptr;
 }
 
+/// The field's text with a sign in place of what no report can hold.
+std::string readable(const EmployeeLine& line, std::string Employee::*member) {
+    return readableText(rawFieldOf(line.bytes, fieldHolding(kEmployeeFields, member).column));
+}
+
 bool isWorkbookName(const std::filesystem::path& file) {
     return foldedForSearch(file.extension().string()) == ".xlsx";
 }
@@ -102,8 +107,10 @@ bool Empregados::report() {
         read();
         std::vector<ReportedEmployee> people;
         for (const EmployeeLine& line : lines_)
-            people.push_back({line.employee.name, line.employee.function, line.employee.admission,
-                              inactiveSince(line)});
+            if (line.code())
+                people.push_back({readable(line, &Employee::name),
+                                  readable(line, &Employee::function),
+                                  readable(line, &Employee::admission), inactiveSince(line)});
         const Date today = at_.clock.today();
         const auto active = writeReport(kActiveReportName, activeReport(people, today));
         const auto inactive = writeReport(kInactiveReportName, inactiveReport(people, today));

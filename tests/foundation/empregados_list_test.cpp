@@ -190,6 +190,20 @@ TEST_F(EmpregadosListTest, ReportsFollowTheLeaveFiles) {
     EXPECT_EQ(desk_.person.shown.back().text, "Ocorreu Erro");
 }
 
+TEST_F(EmpregadosListTest, ADamagedLineDoesNotStopTheReports) {
+    std::string strange = encode(employee("002", "BIA"));
+    strange[6] = '\x01';
+    strange[7] = '\x81';
+    desk_.file("01CartaPonto") =
+        joinedLines({encode(employee("001", "ANA")), strange, "torn off", ""});
+    desk_.person.answers = {Answer::Yes};
+    EXPECT_TRUE(list_.report()) << desk_.person.shown.back().detail;
+    const std::vector<std::string> lines = splitLines(desk_.file("01RelAtivos.txt"));
+    ASSERT_EQ(lines.size(), 8U) << "one line an employee";
+    EXPECT_TRUE(decodeWindows1252(lines[5]).starts_with("ANA "));
+    EXPECT_TRUE(decodeWindows1252(lines[6]).starts_with("BI·· "));
+}
+
 TEST_F(EmpregadosListTest, WithoutACompanyNoListCommandBegins) {
     desk_.session.company.reset();
     list_.load();
