@@ -4,6 +4,7 @@
 #include "output/print_result.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace winvrx {
 
@@ -90,9 +91,11 @@ bool CardRun::preview(const People& people, LayoutSet set) {
     if (twoSided_)
         request.printPreviewed = [&](const CardProgress& progress) {
             cardsDone_ = 0;
-            run_.progress = [&progress](int done, int) { return progress(done); };
+            const auto ofTheRun =
+                std::exchange(run_.progress, [&progress](int done, int) { return progress(done); });
             const bool printed =
                 attempt(at_, printFailed(), [&] { return toPrinter(people, set); });
+            run_.progress = ofTheRun;
             return printed ? ReportResult::Done : ReportResult::Cancelled;
         };
     return job(request, people);

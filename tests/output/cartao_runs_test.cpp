@@ -143,5 +143,28 @@ TEST_F(CartaoOpened, TwoSidesAreSeenTogether) {
     EXPECT_EQ(desk.person.shown.back().text, kNoPrinter);
 }
 
+/// The preview's progress is gone when the next card of the run is prepared.
+TEST_F(CartaoOpened, ThePreviewsProgressEndsWithItsPrinting) {
+    engine.sides = 2;
+    screen.choices().output = ReportOutput::Preview;
+    screen.choices().mode = PrintMode::OneAtATime;
+    bool printing = false;
+    const CardProgress ofThePreview = [&printing](int) {
+        EXPECT_TRUE(printing);
+        return true;
+    };
+    engine.whilePreviewed = [&](const ReportRequest& request) {
+        printing = true;
+        EXPECT_EQ(request.printPreviewed(ofThePreview), ReportResult::Done);
+        printing = false;
+    };
+    int told = 0;
+    const PrintRun run{.progress = [&told](int, int) { return ++told > 0; }};
+    const Answer yes = Answer::Yes;
+    desk.person.answers = {yes, yes, Answer::No, yes, yes, Answer::No, yes, yes};
+    EXPECT_TRUE(screen.printAll(run));
+    EXPECT_EQ(told, 3);
+}
+
 }  // namespace
 }  // namespace winvrx
