@@ -5,6 +5,7 @@
 #include "foundation/desktop/search_box.h"
 #include "foundation/text.h"
 #include "output/desktop/print_choices_box.h"
+#include "output/desktop/print_progress.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -13,7 +14,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -25,7 +25,6 @@ namespace winvrx {
 
 namespace {
 
-constexpr int kPatience = 500;  // milliseconds without progress shown
 constexpr int kHeaderLines = 6;
 constexpr int kListCharacters = 46;
 
@@ -213,26 +212,16 @@ void CartaoWindow::printAll() {
         (void)cartao_.printAll(runWith(nullptr));
         return;
     }
-    QProgressDialog dialog(QStringLiteral("Preparando os cartões…"), QStringLiteral("Cancelar"), 0,
-                           static_cast<int>(cartao_.employees().size()), this);
-    dialog.setObjectName(QStringLiteral("cartao.progress"));
-    dialog.setWindowTitle(QStringLiteral("IMPRIMINDO"));
-    dialog.setWindowModality(Qt::WindowModal);
-    dialog.setMinimumDuration(kPatience);
-    (void)cartao_.printAll(runWith(&dialog));
+    PrintProgress progress(QStringLiteral("IMPRIMINDO"), QStringLiteral("cartao.progress"), this);
+    (void)cartao_.printAll(runWith(&progress));
 }
 
-PrintRun CartaoWindow::runWith(QProgressDialog* dialog) {
+PrintRun CartaoWindow::runWith(PrintProgress* progress) {
     PrintRun run{
         .choosePdf = [this](const std::string& proposedName) { return choosePdf(proposedName); },
         .choosePdfFolder = [this] { return choosePdfFolder(); }};
-    if (dialog)
-        run.progress = [dialog](int done, int total) {
-            dialog->setMaximum(total);
-            dialog->setLabelText(QStringLiteral("Cartão %1 de %2").arg(done).arg(total));
-            dialog->setValue(done);
-            return !dialog->wasCanceled();
-        };
+    if (progress)
+        run.progress = [progress](int done, int total) { return progress->show(done, total); };
     return run;
 }
 

@@ -8,10 +8,10 @@
 #include "output/desktop/layout.h"
 #include "output/desktop/layout_painter.h"
 #include "output/desktop/preview_window.h"
+#include "output/desktop/print_progress.h"
 #include "output/desktop/report_device.h"
 
 #include <QApplication>
-#include <QProgressDialog>
 #include <QSqlDatabase>
 
 #include <algorithm>
@@ -20,8 +20,6 @@
 namespace winvrx {
 
 namespace {
-
-constexpr int kPatience = 500;  // milliseconds without progress shown
 
 /// Carries a fault of the caller's functions past the engine's own catch-all.
 struct CallerFault {
@@ -166,15 +164,8 @@ ReportResult QtReportEngine::deliver(PreviewWindow& window, const ReportRequest&
                                      const Layout& layout, CardSpool& spool) {
     const bool sideBySide = request.output == ReportOutput::Printer && request.printPreviewed;
     const int cards = static_cast<int>(spool.size()) * (sideBySide ? layout.sides : 1);
-    QProgressDialog dialog(QStringLiteral("Enviando os cartões…"), QStringLiteral("Cancelar"), 0,
-                           cards, &window);
-    dialog.setWindowTitle(window.windowTitle());
-    dialog.setWindowModality(Qt::WindowModal);
-    dialog.setMinimumDuration(kPatience);
-    const CardProgress progress = [&dialog](int done) {
-        dialog.setValue(done);
-        return !dialog.wasCanceled();
-    };
+    PrintProgress shown(window.windowTitle(), QStringLiteral("preview.progress"), &window);
+    const CardProgress progress = [&shown, cards](int done) { return shown.show(done, cards); };
     return sideBySide ? request.printPreviewed(progress)
                       : printSpool(request, layout, spool, progress);
 }

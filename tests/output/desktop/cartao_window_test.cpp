@@ -160,6 +160,24 @@ TEST_F(CartaoWindowTest, ReturnsFromTheOtherScreensUpToDate) {
     EXPECT_EQ(browser.opened, 1);
 }
 
+/// A progress dialog shows by itself after a while, over the question that waits by then, and the
+/// question could no longer be answered. So there is none before it is needed.
+TEST_F(CartaoWindowTest, NoProgressWaitsBehindAQuestion) {
+    CartaoWindow window(cartao, {});
+    open(window);
+    int asked = 0;
+    desk.person.onAsk = [&] {
+        ++asked;
+        EXPECT_EQ(window.findChild<QWidget*>(QStringLiteral("cartao.progress")), nullptr);
+    };
+    press(window, "cartao.output.printer");
+    engine.sides = 2;
+    desk.person.answers = {Answer::Yes};
+    press(window, "cartao.printAll");
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(engine.jobs.size(), 2U);
+}
+
 /// A person at the keyboard or with a screen reader reaches everything.
 void expectReachable(QWidget& window) {
     for (const auto* widget : window.findChildren<QWidget*>()) {
