@@ -92,10 +92,12 @@ QWidget* AlignmentPad::buildLineOffset() {
     lines_->lineEdit()->setPlaceholderText(QStringLiteral("nenhuma"));
     lines_->setCompleter(nullptr);
     connect(lines_, &QComboBox::textActivated, this, &AlignmentPad::lineOffsetTyped);
-    connect(lines_->lineEdit(), &QLineEdit::editingFinished, this, [this] {
-        if (lines_->lineEdit()->isModified()) emit lineOffsetTyped(lines_->currentText());
-    });
+    connect(lines_->lineEdit(), &QLineEdit::editingFinished, this, &AlignmentPad::finishTyping);
     return new FieldBox(QStringLiteral("Descer a impressão em &linhas:"), lines_, this);
+}
+
+void AlignmentPad::finishTyping() {
+    if (lines_->lineEdit()->isModified()) emit lineOffsetTyped(lines_->currentText());
 }
 
 void AlignmentPad::showOffsets(const Offsets& offsets) {

@@ -20,6 +20,8 @@ class AlignmentPad : public QWidget {
     void showOffsets(const Offsets& offsets);
     /// Empty while none is chosen.
     void showLineOffset(const QString& text);
+    /// Tells of a line offset that is typed and not yet told.
+    void finishTyping();
 
   signals:
     void moveRequested(Direction direction);

@@ -118,13 +118,14 @@ void CartaoPontosWindow::connectAll() {
         showAlignment();
     });
     connect(scale_, &ScalePanel::scaleTyped, this, [this](const ScalePanel::Texts& figures) {
-        if (screen_.typeScale(figures)) setState(QStringLiteral("Escala gravada."));
-        showAlignment();
+        if (!screen_.typeScale(figures)) return;
+        showScale();
+        setState(QStringLiteral("Escala gravada."));
     });
     connect(scale_, &ScalePanel::distancesTyped, this, [this](const ScalePanel::Texts& distances) {
         if (!screen_.typeDistances(distances)) return;
         scale_->clearDistances();
-        showAlignment();
+        showScale();
         setState(QStringLiteral("Escala calculada e gravada."));
     });
     connect(scale_, &ScalePanel::sheetRequested, this, [this] {
@@ -154,6 +155,7 @@ void CartaoPontosWindow::reset() {
 }
 
 void CartaoPontosWindow::printTest() {
+    pad_->finishTyping();
     if (screen_.printTest()) setState(QStringLiteral("Cartão de teste enviado à impressora."));
 }
 
@@ -168,12 +170,18 @@ void CartaoPontosWindow::showEntry() {
     sample_->showCard(screen_.layoutName(), screen_.sampleRows(), screen_.alignment());
     scale_->clearDistances();
     showAlignment();
+    showScale();
     setState(QStringLiteral("Cada passo é gravado na hora."));
 }
 
 void CartaoPontosWindow::showAlignment() {
     pad_->showOffsets(screen_.offsets());
     pad_->showLineOffset(toQt(screen_.lineOffset()));
+    sample_->align(screen_.alignment());
+}
+
+/// What is typed and not recorded gives way.
+void CartaoPontosWindow::showScale() {
     scale_->showScale(toQt(screen_.printer()), screen_.scale());
     sample_->align(screen_.alignment());
 }

@@ -37,6 +37,7 @@ class CartaoPontosWindow : public ScreenWindow {
     void printTest();
     void showEntry();
     void showAlignment();
+    void showScale();
     void showEntries();
 
     CartaoPontos& screen_;

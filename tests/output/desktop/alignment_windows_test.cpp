@@ -94,6 +94,32 @@ TEST_F(AlignmentWindow, TypedLineOffsetIsAnsweredAndMovesTheSample) {
     lines.setCurrentIndex(2);
     emit lines.textActivated(lines.currentText());
     EXPECT_EQ(memory.lines, 3);
+
+    lines.lineEdit()->selectAll();
+    QTest::keyClicks(lines.lineEdit(), QStringLiteral("5 Linhas"));
+    desk.person.answers = {Answer::Yes};
+    driven.press(Qt::Key_P, Qt::ControlModifier);
+    ASSERT_EQ(engine.jobs.size(), 1U);
+    EXPECT_EQ(engine.jobs[0].request.alignment.lines, 5) << "typed, and the field not left";
+}
+
+TEST_F(AlignmentWindow, TypedScaleStaysUntilItIsRecorded) {
+    DrivenWindow<CartaoPontosWindow> driven(screen, shippedLayout);
+    auto& tabs = driven.get<QTabWidget>("cartaoPontos.tabs");
+    const auto typed = [&] { return driven.get<QLineEdit>("escala.figure1").text().toStdString(); };
+    tabs.setCurrentIndex(1);
+    driven.type("escala.figure1", "150");
+    driven.click("escala.save");
+    EXPECT_EQ(desk.person.takeTexts(), std::vector<std::string>{"Dados incorretos!"});
+    EXPECT_EQ(typed(), "150");
+    driven.type("escala.figure1", "101,5");
+    tabs.setCurrentIndex(0);
+    driven.click("alinhamento.right");
+    EXPECT_EQ(typed(), "101,5");
+    tabs.setCurrentIndex(1);
+    driven.click("escala.save");
+    EXPECT_EQ(screen.scale().horizontalScale, 10150);
+    EXPECT_EQ(typed(), "101,50");
 }
 
 TEST_F(AlignmentWindow, AnEntryIsShownWithItsOffsetsAndAMissingLayoutSaidSo) {
