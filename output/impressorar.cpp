@@ -4,6 +4,7 @@
 #include "output/print_settings.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace winvrx {
 
@@ -28,6 +29,10 @@ void Impressorar::load() {
         chosen_ = loadPrinterName(at_.files, at_.session.folder);
         return true;
     });
+}
+
+bool Impressorar::refreshPrinters() {
+    return std::exchange(names_, printers_.names()) != names_;
 }
 
 std::vector<std::string> Impressorar::entries() const {

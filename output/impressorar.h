@@ -20,6 +20,8 @@ class Impressorar {
 
     /// Reads the choice and the installed printers again.
     void load();
+    /// Asks again for the installed printers alone. True when they changed.
+    bool refreshPrinters();
 
     [[nodiscard]] const std::vector<std::string>& printers() const { return names_; }
     /// The list's entries, one for each of printers().

@@ -84,12 +84,11 @@ void ImpressorarWindow::connectAll() {
     });
 }
 
+/// The choice is not read again here: a message about it would make the window active once more.
 void ImpressorarWindow::changeEvent(QEvent* event) {
     ScreenWindow::changeEvent(event);
     if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !isVisible()) return;
-    const auto before = screen_.printers();
-    screen_.load();
-    if (screen_.printers() != before) showPrinters();
+    if (screen_.refreshPrinters()) showPrinters();
 }
 
 void ImpressorarWindow::refresh() {

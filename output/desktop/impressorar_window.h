@@ -15,8 +15,8 @@ class ImpressorarWindow : public ScreenWindow {
     Q_OBJECT
 
   public:
-    /// `screen` outlives the window; it is read again when the window opens and whenever it becomes
-    /// the active one, since printers are added in another program.
+    /// `screen` outlives the window; it is read again when the window opens, and its printers
+    /// whenever it becomes the active one, since printers are added in another program.
     explicit ImpressorarWindow(Impressorar& screen, QWidget* parent = nullptr);
 
   protected:

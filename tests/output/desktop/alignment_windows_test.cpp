@@ -195,5 +195,19 @@ TEST_F(AlignmentWindow, PrinterIsChosenByOptionAndList) {
     EXPECT_THAT(driven.namelessWidgets(), IsEmpty());
 }
 
+/// A message closed makes the window active again: one told then would never end.
+TEST_F(AlignmentWindow, AChoiceThatCannotBeReadIsToldOnce) {
+    desk.file("ConfigX") = "Epson\r\n";
+    desk.files.failOn = {"ConfigX"};
+    Impressorar choice(desk.at, browser, printers);
+    DrivenWindow<ImpressorarWindow> driven(choice);
+    EXPECT_EQ(desk.person.takeTexts(), std::vector<std::string>{"Dados incorretos!"});
+    printers.installed = {"Epson"};
+    QEvent activated(QEvent::ActivationChange);
+    QCoreApplication::sendEvent(&driven.window, &activated);
+    EXPECT_THAT(desk.person.takeTexts(), IsEmpty());
+    EXPECT_EQ(driven.get<QListWidget>("impressorar.printers").count(), 1);
+}
+
 }  // namespace
 }  // namespace winvrx
