@@ -2,6 +2,9 @@
 
 #include "foundation/text.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace winvrx {
 
 namespace {
@@ -20,6 +23,17 @@ std::string encode(const Employee& employee, std::string existing) {
 
 Employee decodeEmployee(std::string_view lineBytes) {
     return decodeFields<Employee>(kEmployeeFields, lineBytes);
+}
+
+std::string searchedText(const Employee& employee) {
+    std::string digits;
+    std::copy_if(employee.taxId.begin(), employee.taxId.end(), std::back_inserter(digits),
+                 [](char c) { return c >= '0' && c <= '9'; });
+    std::string text;
+    for (const std::string& part :
+         {employee.code, employee.name, employee.function, employee.taxId, digits})
+        text.append(part).append(" ");
+    return text;
 }
 
 std::chrono::weekday weeklyRestOf(const Employee& employee) {

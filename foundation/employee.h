@@ -105,6 +105,10 @@ static_assert(isOrdered(kEmployeeFields, kEmployeeWidth));
 [[nodiscard]] std::string encode(const Employee& employee, std::string existing = {});
 [[nodiscard]] Employee decodeEmployee(std::string_view lineBytes);
 
+/// What lists of employees are searched in: code, name, function, and CPF with its mask and
+/// without.
+[[nodiscard]] std::string searchedText(const Employee& employee);
+
 /// The weekday of the employee's weekly rest, by its first three letters in any case; Sunday where
 /// the record does not say.
 [[nodiscard]] std::chrono::weekday weeklyRestOf(const Employee& employee);

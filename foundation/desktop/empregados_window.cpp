@@ -59,8 +59,7 @@ std::vector<RegisterList::Row> EmpregadosWindow::rows() const {
         const Employee& employee = line.employee;
         const QStringList cells = {toQt(employee.code), toQt(employee.name),
                                    toQt(employee.function), statusOf(line)};
-        rows.push_back(
-            {cells, cells.join(QLatin1Char(' ')) + QLatin1Char(' ') + toQt(employee.taxId)});
+        rows.push_back({cells, toQt(searchedText(employee))});
     }
     return rows;
 }

@@ -31,8 +31,7 @@ std::vector<RegisterList::Row> rowsOf(const std::vector<Employee>& employees) {
     for (const Employee& one : employees) {
         const QStringList cells = {toQt(one.code), toQt(one.name), shiftText(one),
                                    toQt(codeOf(one.scaleOr()))};
-        rows.push_back({cells, cells.join(QLatin1Char(' ')) + QLatin1Char(' ') +
-                                   toQt(one.function) + QLatin1Char(' ') + toQt(one.taxId)});
+        rows.push_back({cells, toQt(searchedText(one))});
     }
     return rows;
 }

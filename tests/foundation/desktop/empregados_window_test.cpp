@@ -156,6 +156,8 @@ TEST_F(EmpregadosWindowTest, SearchLooksIntoNameCodeFunctionAndCpf) {
                           {"012", 1},
                           {"padei", 1},
                           {"529.982", 1},
+                          {"52998224725", 1},
+                          {"ivo", 0},
                           {"an padeira", 1},
                           {"a", 3},
                           {"zzz", 0},
