@@ -49,10 +49,26 @@ bool hasPunchRecords(const FileSystem& files, const DataFolder& folder, const Co
     });
 }
 
+bool EmployeeTransfer::isFreeThere(const EmployeeCode& code, const EmployeeCode& oldCode,
+                                   const std::vector<EmployeeLine>& there) const {
+    if (bears(there, code)) return false;
+    const auto brought = filesThere(oldCode, code, false);
+    const auto names = files_.names(folder_.path());
+    return std::none_of(names.begin(), names.end(), [&](const std::string& name) {
+        if (!isRecordOfEmployee(name, to_, code)) return false;
+        const auto same = std::find_if(brought.begin(), brought.end(), [&](const auto& content) {
+            return content.file == folder_.file(name) && content.bytes == files_.read(content.file);
+        });
+        return same == brought.end();
+    });
+}
+
 EmployeeLine EmployeeTransfer::lineThere(const EmployeeLine& leaving,
                                          const std::vector<EmployeeLine>& there) const {
-    const auto code =
-        bears(there, leaving.code()) ? EmployeeRegister::lowestFreeCode(there) : leaving.code();
+    const EmployeeCode oldCode = leaving.code().value();
+    auto code = std::optional(oldCode);
+    for (int number = 1; code && !isFreeThere(*code, oldCode, there); ++number)
+        code = EmployeeCode::fromNumber(number);
     if (!code)
         throw Fault("no free employee code in company " + to_.text(),
                     "Na outra empresa todos os códigos de 001 a 999 já estão em uso.");

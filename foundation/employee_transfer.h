@@ -21,9 +21,10 @@ namespace winvrx {
 
 /// Moves an employee with every file to the end of another company's list.
 ///
-/// The code goes along where it is free there; otherwise the employee gets the lowest free one, and
-/// the files are named by it. The other company's list and files are written first, then the files
-/// go, then the line: cut short at any point nothing is lost, and the move can be made again.
+/// The code goes along where neither a line nor another one's file has it there; otherwise the
+/// employee gets the lowest such code, and the files are named by it. The other company's list and
+/// files are written first, then the files go, then the line: cut short at any point nothing is
+/// lost, and the move can be made again.
 class EmployeeTransfer {
   public:
     EmployeeTransfer(FileSystem& files, const DataFolder& folder, CompanyCode from, CompanyCode to)
@@ -34,6 +35,9 @@ class EmployeeTransfer {
     void move(std::vector<EmployeeLine>& lines, std::size_t position, Clock::Moment now);
 
   private:
+    /// No line there bears the code, and no file of it holds anything but what `oldCode` brings.
+    [[nodiscard]] bool isFreeThere(const EmployeeCode& code, const EmployeeCode& oldCode,
+                                   const std::vector<EmployeeLine>& there) const;
     [[nodiscard]] EmployeeLine lineThere(const EmployeeLine& leaving,
                                          const std::vector<EmployeeLine>& there) const;
     /// The employee's files under the names that they take. Throws Fault when `resumed` and a file

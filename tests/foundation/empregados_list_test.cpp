@@ -122,6 +122,25 @@ TEST_F(EmpregadosListTest, TransferMovesTheLineAndEveryFile) {
     EXPECT_TRUE(desk_.files.exists("/data/bk-0215-03-2024-10-00.bkp"));
 }
 
+TEST_F(EmpregadosListTest, TransferLeavesWhatLiesThereUnderTheCode) {
+    const auto transfer = [&] {
+        desk_.file("02CartaPonto") = "0?1 torn\r\n";
+        desk_.record("01", {employee("001", "ANA")});
+        desk_.file("01PadrHor001.pdx") = "of ANA";
+        desk_.person.answers = {Answer::Yes};
+        EXPECT_TRUE(list_.transfer(0, kOther)) << desk_.person.shown.back().detail;
+    };
+    desk_.file("02PadrHor001.pdx") = "of the torn line";
+    desk_.file("02002-03-2024.bdx") = "of another one";
+    transfer();
+    EXPECT_EQ(desk_.codes("02"), "0?1 003 ");
+    EXPECT_EQ(desk_.file("02PadrHor001.pdx"), "of the torn line");
+    EXPECT_EQ(desk_.file("02PadrHor003.pdx"), "of ANA");
+    desk_.file("02PadrHor001.pdx") = "of ANA";
+    transfer();
+    EXPECT_EQ(desk_.codes("02"), "0?1 001 ") << "files that a transfer cut short has left";
+}
+
 TEST_F(EmpregadosListTest, TransferIsRefused) {
     Employee ana = employee("001", "ANA");
     ana.taxId = "529.982.247-25";
