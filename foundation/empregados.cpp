@@ -224,6 +224,10 @@ bool Empregados::removeAll() {
     });
 }
 
+void Empregados::askForEmployee() {
+    at_.person.tell(noEmployeeSelected());
+}
+
 bool Empregados::mayDiscardTyped() {
     return at_.person.agrees(discardTyped());
 }

@@ -86,6 +86,8 @@ class Empregados {
     /// Writes the list as a table: XLSX when the file's name ends in ".xlsx", else CSV.
     [[nodiscard]] bool exportTo(const std::filesystem::path& file);
 
+    /// Tells that an employee has to be selected first.
+    void askForEmployee();
     /// Asks before typed but unrecorded text is left behind. True when it may go.
     [[nodiscard]] bool mayDiscardTyped();
     void help();

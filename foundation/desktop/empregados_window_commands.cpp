@@ -82,7 +82,7 @@ void EmpregadosWindow::runOnList(const std::function<bool()>& command) {
 }
 
 void EmpregadosWindow::transfer() {
-    if (!current()) return;
+    if (!current()) return empregados_.askForEmployee();
     QStringList names;
     for (const CompanyLine& line : empregados_.otherCompanies())
         names << toQt(line.company.code + " " + line.company.name);
@@ -101,7 +101,7 @@ void EmpregadosWindow::transfer() {
 }
 
 void EmpregadosWindow::move() {
-    if (!current()) return;
+    if (!current()) return empregados_.askForEmployee();
     QInputDialog dialog(this);
     dialog.setObjectName(QStringLiteral("empregados.place"));
     dialog.setWindowTitle(QStringLiteral("MOVER"));

@@ -126,6 +126,16 @@ TEST_F(EmpregadosDialogsTest, ExportsUnderTheNameGiven) {
     EXPECT_EQ(desk_.files.content.at("/out/lista.xlsx"), "workbook");
 }
 
+TEST_F(EmpregadosDialogsTest, WithNobodySelectedTheCommandsSaySo) {
+    screen_->press(Qt::Key_Insert);
+    for (const Qt::Key key : {Qt::Key_F6, Qt::Key_F7}) {
+        desk_.person.shown.clear();
+        screen_->press(key);
+        ASSERT_EQ(desk_.person.shown.size(), 1U);
+        EXPECT_EQ(desk_.person.shown[0].text, "Selecione um Funcionário na Lista!");
+    }
+}
+
 TEST_F(EmpregadosDialogsTest, ADialogThatIsLeftChangesNothing) {
     const auto before = desk_.files.content;
     const auto leave = [](QDialog& dialog) { dialog.reject(); };
