@@ -44,6 +44,18 @@ std::string scaleText(std::string_view cell) {
     return std::string(cell);
 }
 
+/// "dom" for "Domingo", "seg" for "segunda" and "Segunda-feira".
+std::string restDayText(std::string_view cell) {
+    const std::string word = foldedForSearch(cell);
+    for (unsigned day = 0; day < 7; ++day) {
+        const std::string_view code = weekdayShort(std::chrono::weekday(day));
+        const std::string name = foldedForSearch(weekdayName(std::chrono::weekday(day)));
+        if (word.size() >= foldedForSearch(code).size() && name.starts_with(word))
+            return std::string(code);
+    }
+    return std::string(cell);
+}
+
 std::string codeText(std::string_view cell) {
     const bool isNumber =
         std::all_of(cell.begin(), cell.end(), [](char c) { return c >= '0' && c <= '9'; });
@@ -79,6 +91,7 @@ std::string recordText(std::string Employee::*field, std::string_view cell) {
     if (field == &Employee::code) return codeText(cell);
     if (field == &Employee::shift) return shiftText(cell);
     if (field == &Employee::scale) return scaleText(cell);
+    if (field == &Employee::restDay) return restDayText(cell);
     if (field == &Employee::taxId) return completedCpf(cell);
     if (field == &Employee::occupation) return withoutDash(cell);
     if (field == &Employee::postalCode) return completedPostalCode(cell);
@@ -116,7 +129,8 @@ std::string importProblem(const Employee& employee, const std::vector<EmployeeLi
 std::string importNotice(const Employee& employee) {
     const std::array hints = {idHint(checkCpf(employee.taxId), "CPF", Entry::Left),
                               idHint(checkPis(employee.socialId), "PIS", Entry::Left),
-                              occupationHint(employee.occupation, Entry::Left)};
+                              occupationHint(employee.occupation, Entry::Left),
+                              moneyHint(employee.salary, Entry::Left)};
     std::string notice;
     for (const Hint& hint : hints)
         if (hint.tone == Hint::Tone::Warning)

@@ -109,6 +109,28 @@ TEST_F(EmployeeImportTest, RowsOfOneFileDoNotCollide) {
     EXPECT_EQ(import_.rows()[3].notice, "CPF não confere.");
 }
 
+TEST_F(EmployeeImportTest, RestDaysAndSalariesAreReadAsSpreadsheetsWriteThem) {
+    struct Case {
+        const char* restDay;
+        const char* salary;
+        const char* recordedDay;
+        const char* recordedSalary;
+        const char* notice;
+    };
+    for (const Case& c : {Case{"Domingo", "1850", "dom", "1.850,00", ""},
+                          {"SEGUNDA-FEIRA", "R$ 1.850,5", "seg", "1.850,50", ""},
+                          {"sabado", "", "sáb", "", ""},
+                          {"qui", "1850.00", "qui", "1850.00", "Digite o valor como 1.234,56."}}) {
+        ASSERT_TRUE(open(std::string("Nome;Admissão;Folga;Salário\nANA;12/03/2024;") + c.restDay +
+                         ";" + c.salary));
+        const ImportedRow& row = import_.rows().at(0);
+        EXPECT_EQ(row.problem, "") << c.restDay;
+        EXPECT_EQ(row.employee.restDay, c.recordedDay);
+        EXPECT_EQ(row.employee.salary, c.recordedSalary);
+        EXPECT_EQ(row.notice, c.notice) << c.salary;
+    }
+}
+
 TEST_F(EmployeeImportTest, WhatIsNoListIsRefused) {
     for (const char* csv : {"", "a;b\n1;2\n", "Nome\n\"aberta"}) {
         EXPECT_FALSE(open(csv)) << csv;

@@ -33,6 +33,11 @@ auto inEmpregados(Give give) {
     };
 }
 
+bool exportEmployees(const Workplace& at, const Drives& drives) {
+    const auto file = at.session.folder.file("lista.csv");
+    return inEmpregados([&](Empregados& screen) { return screen.exportTo(file); })(at, drives);
+}
+
 /// An employee without punches, with two files to take along.
 FileTable officeBeforeTransfer() {
     FileTable files = filledOffice();
@@ -96,6 +101,7 @@ std::vector<WritingCommand> listCommands() {
          inEmpregados([](Empregados& screen) { return screen.moveTo(0, "3"); })},
         {"report employees", filledOffice(),
          inEmpregados([](Empregados& screen) { return screen.report(); })},
+        {"export employees", withCsv, exportEmployees},
         {"change shift", filledOffice(), changeShift},
         {"import employees", withCsv, importEmployees},
     };
