@@ -21,8 +21,12 @@ namespace {
 
 constexpr int kDotsPerInch = 1200;
 
+/// Counts from the sheet's corner: in the other mode a printer's own margins move the page.
 QPageLayout borderless(QSizeF page) {
-    return {QPageSize(page, QPageSize::Millimeter), QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)};
+    QPageLayout layout(QPageSize(page, QPageSize::Millimeter), QPageLayout::Portrait,
+                       QMarginsF(0, 0, 0, 0));
+    layout.setMode(QPageLayout::FullPageMode);
+    return layout;
 }
 
 class PdfDevice final : public ReportDevice {
@@ -92,7 +96,6 @@ class PrinterDevice final : public ReportDevice {
         if (!printer_.isValid()) fail("cannot be used");
         printer_.setDocName(toQt(request.title));
         printer_.setCreator(QStringLiteral("Winvrx"));
-        printer_.setFullPage(true);
         printer_.setPageLayout(borderless(page));
         const auto tray =
             std::ranges::find_if(request.trays, [](const auto& name) { return !name.empty(); });

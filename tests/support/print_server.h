@@ -98,9 +98,20 @@ SystemGroup root
     }
 
     void addPrinter(const QString& name) {
-        admin({QStringLiteral("-p"), name, QStringLiteral("-E"), QStringLiteral("-v"),
-               QStringLiteral("cups-pdf:/"), QStringLiteral("-P"),
-               QStringLiteral("/usr/share/ppd/cups-pdf/CUPS-PDF_noopt.ppd")});
+        addPrinter(name, kDescription);
+    }
+    /// Like most printers on paper, it prints nothing within 12 points of an A4 sheet's edges.
+    void addPrinterWithMargins(const QString& name) {
+        QFile whole(kDescription);
+        if (!whole.open(QIODevice::ReadOnly)) throw std::runtime_error("no printer description");
+        const QByteArray cut = whole.readAll().replace("*ImageableArea A4/A4: \"0 0 595 842\"",
+                                                       "*ImageableArea A4/A4: \"12 12 583 830\"");
+        QFile description(path("margins.ppd"));
+        if (!cut.contains("12 12 583 830") || !description.open(QIODevice::WriteOnly))
+            throw std::runtime_error("no printer description");
+        description.write(cut);
+        description.close();
+        addPrinter(name, description.fileName());
     }
     void makeDefault(const QString& name) {
         admin({QStringLiteral("-d"), name});
@@ -134,6 +145,14 @@ SystemGroup root
   private:
     /// A user that the system does not know: the backend files such jobs apart from real users'.
     static constexpr const char* kUser = "winvrx-test";
+
+    inline static const QString kDescription =
+        QStringLiteral("/usr/share/ppd/cups-pdf/CUPS-PDF_noopt.ppd");
+
+    static void addPrinter(const QString& name, const QString& description) {
+        admin({QStringLiteral("-p"), name, QStringLiteral("-E"), QStringLiteral("-v"),
+               QStringLiteral("cups-pdf:/"), QStringLiteral("-P"), description});
+    }
 
     [[nodiscard]] QString path(const char* name) const {
         return folder_.filePath(QLatin1String(name));

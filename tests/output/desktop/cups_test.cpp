@@ -66,6 +66,21 @@ TEST_F(Cups, PrintsTheCardsOfARunAsOneJob) {
     EXPECT_THAT(printServer.lastOptionsOnStop().toStdString(), HasSubstr("Manual"));
 }
 
+TEST_F(Cups, CountsFromTheSheetsCornerWhateverThePrintersMargins) {
+    printServer.addPrinterWithMargins(QStringLiteral("margens"));
+    desk_.request.printerName = "margens";
+    ASSERT_EQ(desk_.print(1), ReportResult::Done) << ::testing::PrintToString(desk_.log.entries);
+    EXPECT_EQ(printedPages(), 1);
+    const auto onPaper = printedWords(printServer.lastDocument());
+    desk_.request.output = ReportOutput::PdfFile;
+    ASSERT_EQ(desk_.print(1), ReportResult::Done);
+    const auto inFile = printedWords(desk_.pdf());
+    for (const auto& word : {QStringLiteral("Razão:"), QStringLiteral("08:00")}) {
+        EXPECT_NEAR(wordOf(onPaper, word).left, wordOf(inFile, word).left, 0.01);
+        EXPECT_NEAR(wordOf(onPaper, word).top, wordOf(inFile, word).top, 0.01);
+    }
+}
+
 TEST_F(Cups, PrintsOnTheDefaultPrinter) {
     printServer.addPrinter(QStringLiteral("cartao"));
     EXPECT_EQ(desk_.print(1), ReportResult::PrinterGone) << "no default printer is set";
