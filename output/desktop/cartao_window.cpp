@@ -4,11 +4,11 @@
 #include "foundation/desktop/qt_text.h"
 #include "foundation/desktop/search_box.h"
 #include "foundation/text.h"
+#include "output/desktop/pdf_file_dialog.h"
 #include "output/desktop/print_choices_box.h"
 #include "output/desktop/print_progress.h"
 
 #include <QComboBox>
-#include <QDir>
 #include <QFileDialog>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -31,10 +31,6 @@ constexpr int kListCharacters = 46;
 QString countText(std::size_t cards) {
     return cards == 1 ? QStringLiteral("1 cartão")
                       : QStringLiteral("%1 cartões").arg(static_cast<qulonglong>(cards));
-}
-
-QDir documents() {
-    return QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
 }
 
 QString listText(const Employee& employee) {
@@ -226,14 +222,13 @@ PrintRun CartaoWindow::runWith(PrintProgress* progress) {
 }
 
 std::string CartaoWindow::choosePdf(const std::string& proposedName) {
-    return toUtf8(QFileDialog::getSaveFileName(this, QStringLiteral("Gravar em PDF"),
-                                               documents().filePath(toQt(proposedName)),
-                                               QStringLiteral("PDF (*.pdf)")));
+    return toUtf8(choosePdfFile(this, QStringLiteral("Gravar em PDF"), toQt(proposedName)));
 }
 
 std::string CartaoWindow::choosePdfFolder() {
-    return toUtf8(QFileDialog::getExistingDirectory(this, QStringLiteral("Pasta dos arquivos PDF"),
-                                                    documents().path()));
+    return toUtf8(QFileDialog::getExistingDirectory(
+        this, QStringLiteral("Pasta dos arquivos PDF"),
+        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)));
 }
 
 void CartaoWindow::showList() {

@@ -5,14 +5,12 @@
 #include "output/desktop/card_spool.h"
 #include "output/desktop/layout_painter.h"
 #include "output/desktop/page_view.h"
+#include "output/desktop/pdf_file_dialog.h"
 
-#include <QDir>
-#include <QFileDialog>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
-#include <QStandardPaths>
 #include <QToolButton>
 #include <QWheelEvent>
 
@@ -139,11 +137,8 @@ void PreviewWindow::showZoom() {
 }
 
 void PreviewWindow::choosePdf() {
-    const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
     const QString name = pdfName_.isEmpty() ? windowTitle() + QStringLiteral(".pdf") : pdfName_;
-    const QString path =
-        QFileDialog::getSaveFileName(this, QStringLiteral("Salvar PDF"), documents.filePath(name),
-                                     QStringLiteral("PDF (*.pdf)"));
+    const QString path = choosePdfFile(this, QStringLiteral("Salvar PDF"), name);
     if (!path.isEmpty()) emit pdfRequested(path);
 }
 

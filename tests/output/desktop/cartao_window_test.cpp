@@ -13,6 +13,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -176,6 +177,26 @@ TEST_F(CartaoWindowTest, NoProgressWaitsBehindAQuestion) {
     press(window, "cartao.printAll");
     EXPECT_EQ(asked, 1);
     EXPECT_EQ(engine.jobs.size(), 2U);
+}
+
+TEST_F(CartaoWindowTest, APdfGetsItsEnding) {
+    CartaoWindow window(cartao, {});
+    open(window);
+    press(window, "cartao.output.pdf");
+    QString proposed;
+    QTimer::singleShot(0, &window, [&] {
+        auto* dialog = window.findChild<QFileDialog*>();
+        ASSERT_NE(dialog, nullptr);
+        proposed = dialog->selectedFiles().value(0);
+        auto* name = find<QLineEdit>(*dialog, "fileNameEdit");
+        name->selectAll();
+        QTest::keyClicks(name, QStringLiteral("cartoes"));
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    press(window, "cartao.printAll");
+    EXPECT_TRUE(proposed.endsWith(QStringLiteral("/CARTÃO PONTO EMPRESA MODELO LTDA 03-2024.pdf")));
+    ASSERT_EQ(engine.jobs.size(), 1U);
+    EXPECT_TRUE(toQt(engine.jobs[0].request.pdfPath).endsWith(QStringLiteral("/cartoes.pdf")));
 }
 
 /// A person at the keyboard or with a screen reader reaches everything.
