@@ -34,7 +34,8 @@ class FileSystem {
     /// or the new ones, whole; after the return it holds the new ones for good.
     virtual void replace(const std::filesystem::path& file, std::string_view bytes) = 0;
 
-    /// `replace` for many files, each with the same promise, with one flush of the folder.
+    /// `replace` for many files, each with the same promise, with one flush of the folder. A file
+    /// is named once.
     virtual void replaceAll(const std::vector<NewContent>& files) = 0;
 
     /// Removes the file; false when there was none. Of a symbolic link only the link goes.

@@ -52,6 +52,8 @@ std::string_view ListApplication::textOf(Remark remark) {
             return "Não aplicado, admissão depois do mês: ";
         case Remark::Unreadable:
             return "Não aplicado, registro que não pode ser lido: ";
+        case Remark::Repeated:
+            return "Código repetido no cadastro, vale o primeiro: ";
         case Remark::Gone:
             return "Não está mais no cadastro: ";
         case Remark::NoTimes:
@@ -134,10 +136,13 @@ std::optional<ListApplication::Batch> ListApplication::fill(const std::vector<Em
     for (EmployeeLine& line : EmployeeRegister(files_, folder_, order_.company).load())
         if (const auto code = line.code()) people.emplace(*code, std::move(line.employee));
     Batch batch;
+    std::set<EmployeeCode> seen;
     int done = 0;
     for (const EmployeeCode& code : codes) {
         const auto person = people.find(code);
-        if (person == people.end())
+        if (!seen.insert(code).second)
+            remarks_[Remark::Repeated].push_back(code.text());
+        else if (person == people.end())
             remarks_[Remark::Gone].push_back(code.text());
         else
             take(batch, person->second, code);

@@ -43,7 +43,8 @@ class ListApplication {
     ListApplication(FileSystem& files, const DataFolder& folder, const CardQueries& queries,
                     ApplicationOrder order);
 
-    /// Fills the cards of these employees as the register has them now. nullopt when cancelled.
+    /// Fills the cards of these employees as the register has them now, that of a code which
+    /// several bear for the first of them. nullopt when cancelled.
     [[nodiscard]] std::optional<Batch> fill(const std::vector<EmployeeCode>& codes,
                                             const Progress& progress);
     [[nodiscard]] bool hasFilled(const EmployeeCode& code) const { return filled_.contains(code); }
@@ -62,6 +63,7 @@ class ListApplication {
         NoGroup,
         AdmittedLater,
         Unreadable,
+        Repeated,
         Gone,
         NoTimes,
         OnLeave

@@ -5,6 +5,7 @@
 
 #include <map>
 #include <set>
+#include <stdexcept>
 
 namespace winvrx::testing {
 
@@ -30,8 +31,12 @@ class MemoryFiles final : public FileSystem {
     }
 
     void replaceAll(const std::vector<NewContent>& files) override {
-        for (const NewContent& one : files)
+        std::set<std::filesystem::path> named;
+        for (const NewContent& one : files) {
+            if (!named.insert(one.file).second)
+                throw std::logic_error("named twice: " + one.file.string());
             replace(one.file, one.bytes);
+        }
     }
 
     bool remove(const std::filesystem::path& file) override {

@@ -258,6 +258,18 @@ TEST_F(ApplyToAll, TheRegisterIsReadAgainBeforeTheCardsAreFilled) {
     EXPECT_THAT(desk.person.shown.back().detail, HasSubstr("Não está mais no cadastro: 004"));
 }
 
+TEST_F(ApplyToAll, ACodeThatTwoBearIsFilledOnce) {
+    hire({employee("001", "ANA", "Unico", "Norma"), employee("003", "CAIO", "Unico", "Norma"),
+          employee("001", "OUTRA ANA", "Unico", "Norma")});
+    openOn(0);
+    agreeToAll();
+    ASSERT_TRUE(screen.applyToAll(everyone(), false));
+    EXPECT_EQ(desk.person.shown.back().text, "Ponto aplicado para 2 de 3 funcionários.");
+    EXPECT_THAT(desk.person.shown.back().detail,
+                HasSubstr("Código repetido no cadastro, vale o primeiro: 001"));
+    EXPECT_TRUE(isApplied("001") && isApplied("003"));
+}
+
 TEST_F(ApplyToAll, UnrecordedCellsOfAClosedMonthStayOnTheScreen) {
     ASSERT_TRUE(screen.open() && screen.filterBy(ShiftFilter::Unico) && screen.select(0));
     screen.sheet().type(4, PunchCell::MorningEntry, "9");
