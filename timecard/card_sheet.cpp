@@ -68,7 +68,9 @@ void CardSheet::type(const std::vector<TypedCell>& cells) {
     for (const TypedCell& one : cells) {
         const std::string_view typed = trimmed(one.text);
         const auto time = isTime(one.cell) ? parseTypedTime(typed) : std::nullopt;
-        std::string text = time ? timeText(*time) : std::string(typed);
+        std::string text = one.cell == PunchCell::Situation ? meantSituation(typed)
+                           : time                           ? timeText(*time)
+                                                            : std::string(typed);
         if (text != this->text(one.day, one.cell))
             edit.push_back({one.day, one.cell, std::move(text)});
     }

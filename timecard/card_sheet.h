@@ -57,7 +57,8 @@ class CardSheet {
     [[nodiscard]] const PunchLine& line(int day) const;
     [[nodiscard]] const std::string& text(int day, PunchCell cell) const;
 
-    /// Takes what was typed: a time is brought to "hh:mm", anything else stays as it is.
+    /// Takes what was typed: a time is brought to "hh:mm", a situation to its word, anything else
+    /// stays as it is.
     void type(int day, PunchCell cell, std::string_view text);
     /// The same for many cells, taken back as one edit.
     void type(const std::vector<TypedCell>& cells);

@@ -56,7 +56,7 @@ bool CartaoPontoDados::chooseMinutes(Minutes minutes) {
 }
 
 void CartaoPontoDados::setSituationToApply(std::string_view situation) {
-    situationToApply_ = trimmed(situation);
+    situationToApply_ = meantSituation(trimmed(situation));
 }
 
 void CartaoPontoDados::requireStorableSituation() const {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 // The situation of a day ("Situação"): one of these texts, or any other, which says nothing about
@@ -55,6 +56,11 @@ inline constexpr std::array kSituations = {
 /// The situation that a text stands for, whole, as stored, or as the cards shorten it
 /// ("Falta Inj."); nullptr for any other text.
 [[nodiscard]] const Situation* findSituation(std::string_view text);
+
+/// What an operator means by a text: the word of a situation that it is, letter case and accents
+/// aside, or that it begins with three letters or more and no other does; any other text stays as
+/// it is. "falta" and "fal" are "Falta"; "fer" may be two words and stays.
+[[nodiscard]] std::string meantSituation(std::string_view typed);
 
 /// DayMeaning::Work for a text that is none of kSituations, the blank included.
 [[nodiscard]] DayMeaning meaningOf(std::string_view situation);

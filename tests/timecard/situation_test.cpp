@@ -26,6 +26,20 @@ TEST(Situation, IsKnownByItsWordItsStoredMarkAndItsShortForm) {
         EXPECT_EQ(meaningOf(c.text), c.meaning) << c.text;
 }
 
+TEST(Situation, IsMeantByItsWordOrTheOnlyBeginning) {
+    struct Case {
+        const char* typed;
+        const char* meant;
+    };
+    for (const Case& c :
+         {Case{"falta", "Falta"}, Case{"FALTA INJUSTIFICADA", "Falta Injustificada"},
+          Case{"fal", "Falta"}, Case{"falta i", "Falta Injustificada"}, Case{"ferias", "Férias"},
+          Case{"Feriado", "FERIADO"}, Case{"fol", "Folga"}, Case{"desc", "DESCANSO SEMANAL"},
+          Case{"fer", "fer"}, Case{"fa", "fa"}, Case{"", ""}, Case{"Falta Inj.", "Falta Inj."},
+          Case{"Faltas", "Faltas"}, Case{"Reunião", "Reunião"}})
+        EXPECT_EQ(meantSituation(c.typed), c.meant) << c.typed;
+}
+
 TEST(Situation, EveryMarkIsWhatTheColumnKeepsOfItsWord) {
     for (const Situation& one : kSituations) {
         EXPECT_EQ(one.mark, trimmed(firstCharacters(one.word, kSituationWidth)));

@@ -50,10 +50,12 @@ class PunchDelegate : public QStyledItemDelegate {
     }
 
     void setEditorData(QWidget* editor, const QModelIndex& index) const override {
-        if (auto* box = qobject_cast<QComboBox*>(editor))
+        if (auto* box = qobject_cast<QComboBox*>(editor)) {
             box->setEditText(index.data(Qt::EditRole).toString());
-        else
+            box->lineEdit()->selectAll();  // so that typing replaces what stands there
+        } else {
             QStyledItemDelegate::setEditorData(editor, index);
+        }
     }
 
     void setModelData(QWidget* editor, QAbstractItemModel* model,

@@ -112,6 +112,16 @@ TEST_F(CardWindow, AWrongTimeStaysInItsCellAndIsNotRecorded) {
     EXPECT_EQ(cell(1, 0, 1), "");
 }
 
+TEST_F(CardWindow, TypingASituationReplacesTheOneThatStands) {
+    open();
+    for (const char* typed : {"atestado", "fal"}) {
+        grid(1).setFocus();
+        grid(1).setCurrentIndex(grid(1).model()->index(3, PunchModel::Situation));
+        enter(typed);
+    }
+    EXPECT_EQ(cell(1, 3, PunchModel::Situation), "Falta");
+}
+
 TEST_F(CardWindow, WhatStandsInAnOpenEditorIsNotLost) {
     open();
     grid(1).goToStart();
