@@ -33,6 +33,19 @@ std::string periodBytes(const DayPeriod& period, const Lines& recordBefore, cons
     return joinedLines(lines);
 }
 
+/// `period` with the days of `month` as `record` has them. Its other lines stay.
+std::string refreshed(Lines period, WorkMonth month, const Lines& record) {
+    const auto days = dayLines(record, month);
+    for (std::string& bytes : period) {
+        const PunchLine line = decodePunchLine(bytes);
+        const int day = line.day();
+        if (day > 0 && day <= daysIn(month) &&
+            line.label == dayLabel(plusDays(firstDay(month), day - 1)))
+            bytes = days[static_cast<std::size_t>(day) - 1];
+    }
+    return joinedLines(period);
+}
+
 }  // namespace
 
 PunchFiles::PunchFiles(FileSystem& files, const DataFolder& folder, const PayrollLock& payroll,
@@ -52,15 +65,22 @@ void PunchFiles::add(std::vector<FileSystem::NewContent>& batch, const CompanyCo
     const auto periodFile = [&](WorkMonth month) {
         return folder_.file(closingFileName(company, employee, month));
     };
+    // The month was once counted otherwise: should it be again, its record must not be out of date.
+    const auto refreshedPeriod = [&](WorkMonth month) {
+        return refreshed(RecordFile(files_, periodFile(month)).lines(), month_, splitLines(record));
+    };
     if (!isCalendarMonth(period_)) {
         const Lines before = reachesBack(period_) ? recorded(month_ - kOneMonth) : Lines();
         batch.push_back({periodFile(month_), periodBytes(period_, before, splitLines(record))});
+    } else if (files_.exists(periodFile(month_))) {
+        batch.push_back({periodFile(month_), refreshedPeriod(month_)});
     }
     const WorkMonth next = month_ + kOneMonth;
-    if (reachesBack(nextPeriod_) && files_.exists(periodFile(next)) &&
-        !payroll_.isClosed(company, employee, next))
+    if (files_.exists(periodFile(next)) && !payroll_.isClosed(company, employee, next))
         batch.push_back(
-            {periodFile(next), periodBytes(nextPeriod_, splitLines(record), recorded(next))});
+            {periodFile(next), reachesBack(nextPeriod_)
+                                   ? periodBytes(nextPeriod_, splitLines(record), recorded(next))
+                                   : refreshedPeriod(next)});
     batch.push_back({folder_.file(punchFileName(company, employee, month_)), std::move(record)});
 }
 

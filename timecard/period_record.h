@@ -10,8 +10,8 @@
 namespace winvrx {
 
 /// What changes on disk with the punches of a month: the punch record, the record of the month's
-/// closing period where that is not the calendar month, and the record of the next one where it
-/// stands and is not closed.
+/// closing period where that is not the calendar month or the record stands from a time when it was
+/// not, and the record of the next one where it stands and is not closed.
 class PunchFiles {
   public:
     /// The referred objects outlive this one.

@@ -64,6 +64,22 @@ TEST_F(PeriodRecords, AFixedMonthHasNone) {
     EXPECT_EQ(filesOf(settings, "  \r\n").size(), 1U);
 }
 
+TEST_F(PeriodRecords, OneOfATimeWithAnotherPeriodFollowsItsDays) {
+    const std::string stands =
+        "  \r\n29/qui/fev07:00\r\n05/ter/mar08:00\r\nnota\r\n05/sex/abr09:00\r\n";
+    MonthSettings march;
+    march.month = 2024y / 3;
+    MonthSettings february;
+    february.month = 2024y / 2;
+    desk.file("01001-03-2024.prd") = stands;
+    EXPECT_THAT(filesOf(march, "  \r\n05/ter/mar10:00\r\n").at("01001-03-2024.prd"),
+                ::testing::ElementsAre("  ", "29/qui/fev07:00", "05/ter/mar10:00", "nota",
+                                       "05/sex/abr09:00"));
+    EXPECT_THAT(filesOf(february, "  \r\n29/qui/fev11:00\r\n").at("01001-03-2024.prd"),
+                ::testing::ElementsAre("  ", "29/qui/fev11:00", "05/ter/mar08:00", "nota",
+                                       "05/sex/abr09:00"));
+}
+
 TEST_F(PeriodRecords, TheNextPeriodFollowsUnlessItIsClosed) {
     const MonthSettings february = closingOn(2024y / 2, 21);
     saveMonthSettings(desk.files, desk.session.folder, closingOn(2024y / 3, 21));
