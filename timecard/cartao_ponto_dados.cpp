@@ -145,8 +145,12 @@ std::filesystem::path CartaoPontoDados::punchFile() const {
 }
 
 bool CartaoPontoDados::requireSelection() {
-    if (!selected()) at_.person.tell(kNoEmployee);
-    return selected() != nullptr;
+    if (selected()) return true;
+    if (!at_.session.company)
+        at_.person.tell(kNoCompany);
+    else
+        at_.person.tell(company_ ? kNoEmployee : kNoMonth);
+    return false;
 }
 
 std::string CartaoPontoDados::weeklyCaption() const {

@@ -37,8 +37,9 @@ bool CartaoPontoDados::closed() const {
 }
 
 bool CartaoPontoDados::mayEdit() {
+    if (!requireSelection()) return false;
     if (closed()) at_.person.tell(kClosedMonth);
-    return position_ && !closed();
+    return !closed();
 }
 
 bool CartaoPontoDados::requireOpenMonth() {
@@ -135,6 +136,7 @@ bool CartaoPontoDados::passesChecks(const std::vector<std::size_t>& positions, b
 
 bool CartaoPontoDados::applyToAll(const std::vector<std::size_t>& positions, bool sameHours,
                                   const ListApplication::Progress& progress) {
+    if (!company_) return requireSelection();
     return attempt(at_, incorrectData(), [&] {
         if (!passesChecks(positions, sameHours)) return false;
         requireStorableSituation();

@@ -9,6 +9,7 @@
 #include "timecard/desktop/punch_grid.h"
 #include "timecard/desktop/schedule_panel.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressDialog>
@@ -143,7 +144,7 @@ QWidget* CartaoPontoDadosWindow::buildCard() {
 void CartaoPontoDadosWindow::connectGrid(HalfMonth which) {
     const PunchGrid* grid = &half(which).grid();
     connect(&half(which).model(), &PunchModel::edited, this, &CartaoPontoDadosWindow::showState);
-    connect(grid, &PunchGrid::cellChanged, this, &CartaoPontoDadosWindow::showState);
+    connect(grid, &PunchGrid::cellChanged, this, [this, which] { followCursor(which); });
     connect(grid, &PunchGrid::changeRefused, this, [this] { (void)command_.mayEdit(); });
     connect(grid, &PunchGrid::leftAtEnd, this, [this, which] {
         showHalf(otherThan(which));
@@ -158,12 +159,13 @@ void CartaoPontoDadosWindow::connectGrid(HalfMonth which) {
 }
 
 void CartaoPontoDadosWindow::buildCommands() {
-    apply_ = addCommand(QStringLiteral("apply"), QStringLiteral("Aplicar Ponto"), Qt::Key_F9,
-                        QStringLiteral("card.apply"));
-    connect(apply_, &QToolButton::clicked, this, &CartaoPontoDadosWindow::apply);
-    applyToAll_ = addCommand(QStringLiteral("employees"), QStringLiteral("Aplicar Ponto p/Todos"),
-                             Qt::SHIFT | Qt::Key_F9, QStringLiteral("card.applyToAll"));
-    connect(applyToAll_, &QToolButton::clicked, this, &CartaoPontoDadosWindow::applyToAll);
+    QToolButton* one = addCommand(QStringLiteral("apply"), QStringLiteral("Aplicar Ponto"),
+                                  Qt::Key_F9, QStringLiteral("card.apply"));
+    connect(one, &QToolButton::clicked, this, &CartaoPontoDadosWindow::apply);
+    QToolButton* all =
+        addCommand(QStringLiteral("employees"), QStringLiteral("Aplicar Ponto p/Todos"),
+                   Qt::SHIFT | Qt::Key_F9, QStringLiteral("card.applyToAll"));
+    connect(all, &QToolButton::clicked, this, &CartaoPontoDadosWindow::applyToAll);
     QToolButton* record = addCommand(QStringLiteral("save"), QStringLiteral("Gravar"),
                                      QKeySequence::Save, QStringLiteral("card.save"));
     connect(record, &QToolButton::clicked, this, &CartaoPontoDadosWindow::save);
@@ -217,6 +219,14 @@ void CartaoPontoDadosWindow::showHalf(HalfMonth half) {
     layOutHalves();
 }
 
+void CartaoPontoDadosWindow::followCursor(HalfMonth which) {
+    if (which != shown_ && half(which).isAncestorOf(QApplication::focusWidget())) {
+        shown_ = which;
+        layOutHalves();
+    }
+    showState();
+}
+
 void CartaoPontoDadosWindow::layOutHalves() {
     for (const HalfMonth one : {HalfMonth::First, HalfMonth::Second})
         half(one).setVisible(isWide() || one == shown_);
@@ -254,8 +264,6 @@ void CartaoPontoDadosWindow::chooseEmployee(std::size_t position) {
 void CartaoPontoDadosWindow::showCard() {
     employees_->showSelected();
     schedule_->refresh();
-    apply_->setEnabled(command_.selected() != nullptr);
-    applyToAll_->setEnabled(command_.company().has_value());
     showUnread();
     layOutHalves();
     showSheet();

@@ -56,6 +56,8 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     [[nodiscard]] HalfMonthPanel& half(HalfMonth half) const;
     [[nodiscard]] bool isWide() const;
     void showHalf(HalfMonth half);
+    /// With both halves in view a click goes to the other one without F6.
+    void followCursor(HalfMonth half);
     void layOutHalves();
     void chooseEmployee(std::size_t position);
     void showCard();
@@ -81,8 +83,6 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     QLabel* unread_ = nullptr;
     std::array<HalfMonthPanel*, 2> halves_{};
     QToolButton* otherHalf_ = nullptr;
-    QToolButton* apply_ = nullptr;
-    QToolButton* applyToAll_ = nullptr;
 };
 
 }  // namespace winvrx

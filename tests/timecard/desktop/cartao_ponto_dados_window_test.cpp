@@ -14,6 +14,7 @@
 #include <QListWidget>
 
 #include <functional>
+#include <utility>
 
 namespace winvrx {
 namespace {
@@ -110,6 +111,45 @@ TEST_F(CardWindow, AWrongTimeStaysInItsCellAndIsNotRecorded) {
     EXPECT_EQ(cell(1, 0, 1), "⚠ 2500");
     driven->press(Qt::Key_Delete);
     EXPECT_EQ(cell(1, 0, 1), "");
+}
+
+TEST_F(CardWindow, WithoutAMonthOrAnEmployeeEachCommandSaysWhatIsMissing) {
+    desk.file("01CartaPonto").clear();
+    const std::string chosen = std::exchange(desk.file("DataIde.ivc"), "");
+    for (const bool month : {false, true}) {
+        if (month) desk.file("DataIde.ivc") = chosen;
+        EXPECT_EQ(command.open(), month);
+        driven = std::make_unique<DrivenWindow<CartaoPontoDadosWindow>>(command);
+        desk.person.shown.clear();
+        driven->press(Qt::Key_F9);
+        driven->press(Qt::Key_F9, Qt::ShiftModifier);
+        grid(1).goToStart();
+        enter("8");
+        if (month)
+            EXPECT_THAT(desk.person.takeTexts(),
+                        ::testing::ElementsAre("Selecione um Funcionário na Lista!",
+                                               "Selecione Outro ITEM!!!",
+                                               "Selecione um Funcionário na Lista!"));
+        else
+            EXPECT_THAT(desk.person.takeTexts(),
+                        ::testing::ElementsAre("Informe um Mês de Trabalho!!",
+                                               "Informe um Mês de Trabalho!!",
+                                               "Informe um Mês de Trabalho!!"));
+    }
+}
+
+TEST_F(CardWindow, BesideTheOtherHalfTheOneWithTheCursorSpeaks) {
+    open();
+    driven->window.resize(2400, 1000);
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(grid(1).isVisible() && grid(2).isVisible());
+    grid(2).setFocus();
+    grid(2).setCurrentIndex(grid(2).model()->index(2, 1));
+    enter("2500");
+    grid(2).setCurrentIndex(grid(2).model()->index(2, 1));
+    EXPECT_EQ(driven->text("state"), "⚠ \"2500\" não é uma hora de 00:00 a 23:59.");
+    driven->press(Qt::Key_F6);
+    EXPECT_TRUE(grid(1).hasFocus());
 }
 
 TEST_F(CardWindow, TypingASituationReplacesTheOneThatStands) {
