@@ -33,6 +33,8 @@ const Message kPayrollClosed{
 const Message kConfirmDespitePayroll{
     "ALTERAÇÃO", "Confirma Gravar Alteração dos Dados do Funcionário Selecionado?", Icon::Question,
     Buttons::YesNo};
+const Message kNoOtherCompany{"Transferência", "Não há outra empresa cadastrada.",
+                              Icon::Exclamation};
 const Message kRegisteredThere{
     "Transferência", "Este Funcionário Já Está Cadastrado na Outra Empresa!! ", Icon::Exclamation};
 const Message kHasPunches{"Transferência",
@@ -222,6 +224,11 @@ bool Empregados::removeAll() {
         save({});
         return true;
     });
+}
+
+bool Empregados::offersTransfer() {
+    if (others_.empty()) at_.person.tell(kNoOtherCompany);
+    return !others_.empty();
 }
 
 void Empregados::askForEmployee() {

@@ -86,6 +86,8 @@ class Empregados {
     /// Writes the list as a table: XLSX when the file's name ends in ".xlsx", else CSV.
     [[nodiscard]] bool exportTo(const std::filesystem::path& file);
 
+    /// Tells that there is no company to transfer to, if there is none; else true.
+    [[nodiscard]] bool offersTransfer();
     /// Tells that an employee has to be selected first.
     void askForEmployee();
     /// Asks before typed but unrecorded text is left behind. True when it may go.

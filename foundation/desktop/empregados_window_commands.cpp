@@ -83,18 +83,17 @@ void EmpregadosWindow::runOnList(const std::function<bool()>& command) {
 
 void EmpregadosWindow::transfer() {
     if (!current()) return empregados_.askForEmployee();
+    if (!empregados_.offersTransfer()) return;
     QStringList names;
     for (const CompanyLine& line : empregados_.otherCompanies())
         names << toQt(line.company.code + " " + line.company.name);
     QInputDialog dialog(this);
     dialog.setObjectName(QStringLiteral("empregados.target"));
     dialog.setWindowTitle(QStringLiteral("Transferência"));
-    dialog.setLabelText(names.isEmpty()
-                            ? QStringLiteral("Não há outra empresa cadastrada.")
-                            : QStringLiteral("Transferir %1 para a empresa:")
-                                  .arg(toQt(empregados_.lines().at(*current()).employee.name)));
+    dialog.setLabelText(QStringLiteral("Transferir %1 para a empresa:")
+                            .arg(toQt(empregados_.lines().at(*current()).employee.name)));
     dialog.setComboBoxItems(names);
-    if (dialog.exec() != QDialog::Accepted || names.isEmpty()) return;
+    if (dialog.exec() != QDialog::Accepted) return;
     const auto chosen = static_cast<std::size_t>(names.indexOf(dialog.textValue()));
     const CompanyCode target = empregados_.otherCompanies().at(chosen).code().value();
     runOnList([&] { return empregados_.transfer(*current(), target); });

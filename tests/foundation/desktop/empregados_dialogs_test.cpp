@@ -136,6 +136,15 @@ TEST_F(EmpregadosDialogsTest, WithNobodySelectedTheCommandsSaySo) {
     }
 }
 
+TEST_F(EmpregadosDialogsTest, WithOneCompanyATransferIsRefusedBeforeItsDialog) {
+    desk_.file("01Empresa") = joinedLines({encode(company("01", "PRIMEIRA"))});
+    desk_.empregados.load();
+    screen_->press(Qt::Key_F6);
+    ASSERT_EQ(desk_.person.shown.size(), 1U);
+    EXPECT_EQ(desk_.person.shown[0].title, "Transferência");
+    EXPECT_EQ(desk_.person.shown[0].text, "Não há outra empresa cadastrada.");
+}
+
 TEST_F(EmpregadosDialogsTest, ADialogThatIsLeftChangesNothing) {
     const auto before = desk_.files.content;
     const auto leave = [](QDialog& dialog) { dialog.reject(); };
