@@ -38,7 +38,7 @@ EmpregadosWindow::EmpregadosWindow(Empregados& empregados, EmployeeImport& impor
     connect(form_, &EmployeeForm::edited, this, &EmpregadosWindow::showState);
     connect(this, &ScreenWindow::helpRequested, this, [this] { empregados_.help(); });
     addListCommands();
-    assemble(form_, nullptr);
+    assemble(form_, nullptr, ListRoom::Wide);
     empregados_.tellWaiting([this](std::string_view text) {
         setState(toQt(text));
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);

@@ -25,6 +25,7 @@ constexpr int kUnderstoodRole = Qt::UserRole + 1;
 constexpr int kFewestRows = 3;
 constexpr int kStretched = 1;  ///< the column that takes the room left, a name
 constexpr int kCellMargin = 2 * look::kGap;
+constexpr int kWidestInLetters = 16;  ///< a column beside the name; the name needs the room more
 
 }  // namespace
 
@@ -114,7 +115,8 @@ void RegisterList::setRows(const std::vector<Row>& rows) {
         auto* item = new QTreeWidgetItem(row.cells);
         item->setData(0, kSearchedRole, row.searched);
         item->setData(0, kUnderstoodRole, row.understood);
-        item->setToolTip(kStretched, row.cells.value(kStretched));
+        for (int cell = 0; cell < row.cells.size(); ++cell)
+            item->setToolTip(cell, row.cells[cell]);
         for (int cell = 0; !row.understood && cell < row.cells.size(); ++cell)
             item->setFont(cell, apart);
         items << item;
@@ -131,8 +133,10 @@ void RegisterList::fitColumns(const std::vector<Row>& rows) {
         QString longest = tree_->headerItem()->text(column);
         for (const Row& row : rows)
             if (row.cells.value(column).size() > longest.size()) longest = row.cells[column];
-        tree_->setColumnWidth(column, std::max(tree_->header()->sectionSizeHint(column),
-                                               metrics.horizontalAdvance(longest) + kCellMargin));
+        const int wanted = std::min(metrics.horizontalAdvance(longest),
+                                    kWidestInLetters * metrics.averageCharWidth());
+        tree_->setColumnWidth(
+            column, std::max(tree_->header()->sectionSizeHint(column), wanted + kCellMargin));
     }
 }
 

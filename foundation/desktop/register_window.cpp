@@ -12,8 +12,9 @@ namespace winvrx {
 
 namespace {
 
-constexpr int kListShare = 1;
-constexpr int kFormShare = 2;
+constexpr int kFormShare = 60;
+constexpr int kThirdShare = 30;
+constexpr int kWideShare = 40;
 
 }  // namespace
 
@@ -56,8 +57,9 @@ void RegisterWindow::addCommands() {
     }
 }
 
-void RegisterWindow::assemble(QWidget* form, QWidget* underList) {
+void RegisterWindow::assemble(QWidget* form, QWidget* underList, ListRoom room) {
     form_ = form;
+    const int listShare = room == ListRoom::Wide ? kWideShare : kThirdShare;
     auto* body = new QWidget(this);
     auto* row = new QHBoxLayout(body);
     look::layOutBody(*row);
@@ -70,10 +72,10 @@ void RegisterWindow::assemble(QWidget* form, QWidget* underList) {
     if (underList) column->addWidget(underList);
     split->addWidget(left);
     split->addWidget(form);
-    split->setStretchFactor(0, kListShare);
+    split->setStretchFactor(0, listShare);
     split->setStretchFactor(1, kFormShare);
     split->setHandleWidth(look::kMargin);
-    split->setSizes({kListShare * width(), kFormShare * width()});
+    split->setSizes({listShare * width(), kFormShare * width()});
     row->addWidget(split);
     setBody(body);
 }

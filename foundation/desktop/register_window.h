@@ -32,8 +32,11 @@ class RegisterWindow : public ScreenWindow {
 
     RegisterWindow(const Texts& texts, QWidget* parent);
 
+    /// The list's part of the window: a third, or more beside a form that can spare it.
+    enum class ListRoom { Third, Wide };
+
     /// To be called once, at the end of the derived constructor.
-    void assemble(QWidget* form, QWidget* underList);
+    void assemble(QWidget* form, QWidget* underList, ListRoom room = ListRoom::Third);
     /// Fills the list and shows the record at `position`; nullopt turns to a new record.
     void refresh(std::optional<std::size_t> position);
     /// To be called when something was typed.

@@ -172,6 +172,17 @@ TEST_F(EmpregadosWindowTest, SearchLooksIntoNameCodeFunctionAndCpf) {
     EXPECT_EQ(screen_->text("empregados.name"), "BIA");
 }
 
+TEST_F(EmpregadosWindowTest, LongFunctionsLeaveTheNameItsRoom) {
+    Employee ana = employee("001", "ANA CAROLINA DE ALBUQUERQUE");
+    ana.function = "AUXILIAR DE ESCRITÓR";
+    open({ana});
+    window_->resize(1240, 690);
+    QApplication::processEvents();
+    auto& list = screen_->find<QTreeWidget>("empregados.list");
+    EXPECT_GE(list.columnWidth(1), list.fontMetrics().horizontalAdvance(toQt(ana.name)));
+    EXPECT_EQ(list.topLevelItem(0)->toolTip(2), toQt(ana.function)) << "what is cut can be read";
+}
+
 TEST_F(EmpregadosWindowTest, NotesTakeNoMoreThanTheirColumn) {
     open({employee("001", "ANA")});
     auto& notes = screen_->find<QPlainTextEdit>("empregados.notes");
