@@ -88,6 +88,7 @@ void RegisterList::setEmptyTexts(const QString& text, const QString& action) {
     whenEmpty_ = text;
     first_->setText(action);
     first_->setAccessibleName(action);
+    first_->setEnabled(!action.isEmpty());
     filter();
 }
 
@@ -204,7 +205,7 @@ void RegisterList::showPage(bool anyVisible) {
     const bool empty = tree_->topLevelItemCount() == 0;
     emptyText_->setText(empty ? whenEmpty_
                               : QStringLiteral("Nada encontrado para “%1”.").arg(search_->text()));
-    first_->setVisible(empty);
+    first_->setVisible(empty && !first_->text().isEmpty());
     pages_->setCurrentIndex(anyVisible ? 0 : 1);
 }
 

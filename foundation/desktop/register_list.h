@@ -38,7 +38,7 @@ class RegisterList : public QWidget {
     RegisterList(const QString& screen, const QString& title, const QString& searchHint,
                  const QStringList& headings, QWidget* parent);
 
-    /// What an empty list says, and the button that it offers.
+    /// What an empty list says, and the button that it offers; an empty `action` offers none.
     void setEmptyTexts(const QString& text, const QString& action);
 
     void setRows(const std::vector<Row>& rows);

@@ -65,8 +65,6 @@ QWidget* TurnosWindow::buildLists() {
                              {QStringLiteral("Código"), QStringLiteral("Nome"),
                               QStringLiteral("Turno"), QStringLiteral("Escala")},
                              part);
-    list_->setEmptyTexts(QStringLiteral("Nenhum funcionário neste turno."),
-                         QStringLiteral("Mostrar todos os turnos"));
     column->addWidget(list_, 1);
     connect(list_, &RegisterList::chosen, this, [this](std::size_t position) { select(position); });
     connect(list_, &RegisterList::firstRequested, filter,
@@ -137,6 +135,13 @@ void TurnosWindow::buildCommands() {
 
 void TurnosWindow::showList() {
     shown_ = turnos_.shown();
+    if (turnos_.filter() == ShiftFilter::Todos)
+        list_->setEmptyTexts(QStringLiteral("Nenhum funcionário ainda. Inclua o primeiro no "
+                                            "Registro de Funcionários."),
+                             QString());
+    else
+        list_->setEmptyTexts(QStringLiteral("Nenhum funcionário neste turno."),
+                             QStringLiteral("Mostrar todos os turnos"));
     list_->setRows(rowsOf(shown_));
     select(shown_.empty() ? std::nullopt : std::optional<std::size_t>(0));
     list_->mark(current_);

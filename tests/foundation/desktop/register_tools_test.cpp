@@ -45,6 +45,21 @@ TEST(TurnosWindow, ChangesShiftsWithTheKeyboardAlone) {
     EXPECT_EQ(namelessWidgets(window), "");
 }
 
+TEST(TurnosWindow, AnEmptyListSaysWhatToDoNext) {
+    EmployeeDesk desk;
+    Turnos turnos(desk.at, desk.browser, desk.locks);
+    TurnosWindow window(turnos);
+    const WindowDriver screen(window);
+    const auto& all = screen.find<QPushButton>("turnos.first");
+    EXPECT_FALSE(all.isVisible()) << "every shift is shown already";
+    EXPECT_THAT(toUtf8(screen.find<QLabel>("turnos.empty").text()), HasSubstr("Registro de"));
+    auto& filter = screen.find<QComboBox>("turnos.filter");
+    filter.setCurrentIndex(0);
+    EXPECT_TRUE(all.isVisible());
+    screen.find<QPushButton>("turnos.first").click();
+    EXPECT_EQ(toUtf8(filter.currentText()), "Turno: Todos");
+}
+
 TEST(EmployeeImportWindow, ShowsEachRowsFinding) {
     EmployeeDesk desk;
     desk.files.content["/out/x.csv"] = "Nome;Admissão\nANA;12/03/2024\nBIA;\n";
