@@ -42,7 +42,7 @@ CartaoPontosWindow::CartaoPontosWindow(CartaoPontos& screen, LayoutSource layout
     buildCommands();
     setBody(buildBody(std::move(layouts)));
     QPushButton* close =
-        addClosingButton(QStringLiteral("Fe&char"), QStringLiteral("cartaoPontos.close"));
+        addClosingButton(QStringLiteral("Fecha&r"), QStringLiteral("cartaoPontos.close"));
     connect(close, &QPushButton::clicked, this, &CartaoPontosWindow::reject);
     connectAll();
     resize(look::kWindowSize);

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTabBar>
 #include <QtTest>
 
 namespace winvrx::testing {
@@ -65,6 +66,26 @@ class DrivenWindow {
                                    widget->objectName().toStdString());
         }
         return nameless;
+    }
+
+    /// Alt letters that more than one of the visible captions claims, and that so lead nowhere.
+    [[nodiscard]] std::string sharedAltLetters() {
+        QStringList captions;
+        for (const auto* button : window.template findChildren<QAbstractButton*>())
+            if (button->isVisible()) captions << button->text();
+        for (const auto* label : window.template findChildren<QLabel*>())
+            if (label->isVisible() && label->buddy()) captions << label->text();
+        for (const auto* tabs : window.template findChildren<QTabBar*>())
+            for (int i = 0; i < tabs->count(); ++i)
+                captions << tabs->tabText(i);
+        QString once;
+        QString shared;
+        for (const QString& caption : captions) {
+            const QString key = QKeySequence::mnemonic(caption).toString();
+            if (key.isEmpty()) continue;
+            (once.contains(key.back()) ? shared : once) += key.back();
+        }
+        return shared.toStdString();
     }
 
     Window window;

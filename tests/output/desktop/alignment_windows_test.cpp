@@ -167,6 +167,15 @@ TEST_F(AlignmentWindow, ScaleIsTypedMeasuredAndNotLostByLeaving) {
     EXPECT_FALSE(driven.window.isVisible());
 }
 
+TEST_F(AlignmentWindow, EachAltLetterLeadsToOnePlace) {
+    DrivenWindow<CartaoPontosWindow> driven(screen, shippedLayout);
+    EXPECT_EQ(driven.sharedAltLetters(), "");
+    driven.get<QTabWidget>("cartaoPontos.tabs").setCurrentIndex(1);
+    EXPECT_EQ(driven.sharedAltLetters(), "");
+    Impressorar choice(desk.at, browser, printers);
+    EXPECT_EQ(DrivenWindow<ImpressorarWindow>(choice).sharedAltLetters(), "");
+}
+
 TEST_F(AlignmentWindow, PrinterIsChosenByOptionAndList) {
     Impressorar choice(desk.at, browser, printers);
     DrivenWindow<ImpressorarWindow> driven(choice);

@@ -3,6 +3,7 @@
 #include "foundation/company_register.h"
 #include "foundation/desktop/qt_text.h"
 #include "foundation/employee_register.h"
+#include "tests/support/driven_window.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
@@ -23,6 +24,7 @@
 namespace winvrx {
 namespace {
 
+using testing::DrivenWindow;
 using testing::RecordingEngine;
 using testing::TestBrowser;
 using testing::TestPrinters;
@@ -223,6 +225,7 @@ TEST_F(CartaoWindowTest, FitsASmallScreenAndIsReachable) {
     EXPECT_LE(window.minimumSizeHint().width(), 1280);
     EXPECT_LE(window.minimumSizeHint().height(), 680);
     expectReachable(window);
+    EXPECT_EQ(DrivenWindow<CartaoWindow>(cartao, CartaoLinks()).sharedAltLetters(), "");
 }
 
 }  // namespace
