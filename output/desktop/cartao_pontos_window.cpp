@@ -143,6 +143,7 @@ void CartaoPontosWindow::select(int entry) {
 }
 
 void CartaoPontosWindow::move(Direction direction) {
+    pad_->finishTyping();
     if (screen_.move(direction)) setState(QStringLiteral("Alinhamento gravado."));
     showEntries();
     showAlignment();

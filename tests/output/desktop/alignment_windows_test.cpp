@@ -94,13 +94,27 @@ TEST_F(AlignmentWindow, TypedLineOffsetIsAnsweredAndMovesTheSample) {
     lines.setCurrentIndex(2);
     emit lines.textActivated(lines.currentText());
     EXPECT_EQ(memory.lines, 3);
+}
 
-    lines.lineEdit()->selectAll();
-    QTest::keyClicks(lines.lineEdit(), QStringLiteral("5 Linhas"));
+TEST_F(AlignmentWindow, TypedLineOffsetCountsBeforeItsFieldIsLeft) {
+    DrivenWindow<CartaoPontosWindow> driven(screen, shippedLayout);
+    auto& lines = *driven.get<QComboBox>("alinhamento.lines").lineEdit();
+    const auto typeAndPress = [&](const char* text, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        lines.setFocus();
+        lines.selectAll();
+        QTest::keyClicks(&lines, QString::fromUtf8(text));
+        driven.press(key, modifiers);
+    };
     desk.person.answers = {Answer::Yes};
-    driven.press(Qt::Key_P, Qt::ControlModifier);
+    typeAndPress("5 Linhas", Qt::Key_P, Qt::ControlModifier);
     ASSERT_EQ(engine.jobs.size(), 1U);
-    EXPECT_EQ(engine.jobs[0].request.alignment.lines, 5) << "typed, and the field not left";
+    EXPECT_EQ(engine.jobs[0].request.alignment.lines, 5);
+    typeAndPress("6 Linhas", Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(memory.lines, 6);
+    EXPECT_EQ(screen.offsets().vertical, 30);
+    typeAndPress("8 Linhas", Qt::Key_Escape, {});
+    EXPECT_FALSE(driven.window.isVisible());
+    EXPECT_EQ(memory.lines, 8);
 }
 
 TEST_F(AlignmentWindow, TypedScaleStaysUntilItIsRecorded) {
