@@ -85,6 +85,8 @@ class CartaoPontos {
     /// The layout of the selected stock, and the card that the sample on the screen shows.
     [[nodiscard]] std::string layoutName() const;
     [[nodiscard]] std::vector<CardRow> sampleRows() const;
+    /// False where the printing screen leaves the header block to the stock.
+    [[nodiscard]] bool printsHeader() const { return feed_.printHeader; }
 
     void help();
 

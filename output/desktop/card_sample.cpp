@@ -31,8 +31,9 @@ CardSample::CardSample(LayoutSource layouts, QWidget* parent)
 CardSample::~CardSample() = default;
 
 void CardSample::showCard(const std::string& layoutName, const std::vector<CardRow>& rows,
-                          const Alignment& alignment) {
+                          const Alignment& alignment, bool header) {
     rows_ = cardText(rows);
+    header_ = header;
     try {
         layout_ = layouts_(layoutName);
     } catch (const Fault& fault) {
@@ -46,7 +47,7 @@ void CardSample::showCard(const std::string& layoutName, const std::vector<CardR
 void CardSample::align(const Alignment& alignment) {
     if (!layout_) return;
     auto painter = std::make_unique<LayoutPainter>(
-        *layout_, LayoutPainter::Choice{.stock = true, .alignment = alignment});
+        *layout_, LayoutPainter::Choice{.header = header_, .stock = true, .alignment = alignment});
     if (page_) {
         page_->paintWith(*painter);
     } else {

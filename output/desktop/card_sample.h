@@ -30,7 +30,7 @@ class CardSample : public QScrollArea {
 
     /// A layout that is missing or damaged is said in its place.
     void showCard(const std::string& layoutName, const std::vector<CardRow>& rows,
-                  const Alignment& alignment);
+                  const Alignment& alignment, bool header);
     /// Moves the print; the view stays where it is.
     void align(const Alignment& alignment);
 
@@ -45,6 +45,7 @@ class CardSample : public QScrollArea {
     std::optional<Layout> layout_;
     std::unique_ptr<LayoutPainter> painter_;
     CardText rows_;
+    bool header_ = true;
     PageView* page_ = nullptr;
 };
 

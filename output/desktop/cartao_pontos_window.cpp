@@ -168,7 +168,8 @@ void CartaoPontosWindow::showEntry() {
     setChips(
         {screen_.printer().empty() ? QStringLiteral("Sem impressora") : toQt(screen_.printer())});
     setSubtitle(QStringLiteral("Cartão ") + toQt(trimmed(screen_.stock().displayName)));
-    sample_->showCard(screen_.layoutName(), screen_.sampleRows(), screen_.alignment());
+    sample_->showCard(screen_.layoutName(), screen_.sampleRows(), screen_.alignment(),
+                      screen_.printsHeader());
     scale_->clearDistances();
     showAlignment();
     showScale();

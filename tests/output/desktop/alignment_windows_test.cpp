@@ -74,6 +74,16 @@ TEST_F(AlignmentWindow, TheSampleMovesWithTheOffsets) {
     EXPECT_EQ(driven.get<QLineEdit>("alinhamento.horizontal").text(), QStringLiteral("10"));
 }
 
+TEST_F(AlignmentWindow, TheSampleLeavesTheHeaderToTheStockAsThePrintDoes) {
+    const auto top = [this] {
+        DrivenWindow<CartaoPontosWindow> driven(screen, shippedLayout);
+        return firstInk(driven).y();
+    };
+    const int withHeader = top();
+    savePrinterMemory(desk.files, desk.session, {.printHeader = false});
+    EXPECT_GT(top(), withHeader);
+}
+
 TEST_F(AlignmentWindow, TypedLineOffsetIsAnsweredAndMovesTheSample) {
     DrivenWindow<CartaoPontosWindow> driven(screen, shippedLayout);
     const QPoint before = firstInk(driven);
