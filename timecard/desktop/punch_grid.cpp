@@ -12,8 +12,6 @@
 #include <QLineEdit>
 #include <QStyledItemDelegate>
 
-#include <numeric>
-
 namespace winvrx {
 
 namespace {
@@ -24,11 +22,23 @@ constexpr int kLongestSituation = 19;
 constexpr int kMostRows = 16;
 constexpr QKeyCombination kRedoKey(Qt::ControlModifier, Qt::Key_Y);
 
-/// Widths of columns, in digits; a time has room for its five behind a warning sign.
+/// Widths of columns, in digits.
 constexpr std::array<int, PunchModel::Columns> kColumnDigits = {12, 8, 8, 8, 8, 8, 8, 6, 16, 6, 7};
+/// The longest text of a column; digits and margins round differently from font to font.
+constexpr std::array<const char*, PunchModel::Columns> kLongestTexts = {
+    "⚠00/qua/mar", "⚠ 00:00", "⚠ 00:00", "⚠ 00:00", "⚠ 00:00", "⚠ 00:00",
+    "⚠ 00:00",     "00000",   "",        "00:00",   "+00:00"};
 
-int digitsOf(int column) {
-    return kColumnDigits[static_cast<std::size_t>(column)];
+/// For the grid line beside a cell and for what text and style round up.
+constexpr int kSlack = 3;
+
+int widthOf(int column, const QStyle& style) {
+    const auto place = static_cast<std::size_t>(column);
+    const QFontMetrics letters(look::fixedFont());
+    const int margin = style.pixelMetric(QStyle::PM_FocusFrameHMargin) + 1;
+    return std::max(
+        letters.horizontalAdvance(QLatin1Char('0')) * kColumnDigits[place],
+        letters.horizontalAdvance(QString::fromUtf8(kLongestTexts[place])) + 2 * margin + kSlack);
 }
 
 /// Editors of the cells: a field of five characters, and the list of situations.
@@ -101,18 +111,19 @@ PunchGrid::PunchGrid(PunchModel* model, const QString& objectName, QWidget* pare
 }
 
 void PunchGrid::layOutColumns() {
-    const int digit = QFontMetrics(look::fixedFont()).horizontalAdvance(QLatin1Char('0'));
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     fitRows();
     QHeaderView* header = horizontalHeader();
     header->setSectionsClickable(false);
     header->setHighlightSections(false);
     header->setSectionResizeMode(QHeaderView::Fixed);
-    for (int column = 0; column < PunchModel::Columns; ++column)
-        header->resizeSection(column, digit * digitsOf(column));
+    comfortableWidth_ = 2 * frameWidth();
+    for (int column = 0; column < PunchModel::Columns; ++column) {
+        const int width = widthOf(column, *style());
+        header->resizeSection(column, width);
+        comfortableWidth_ += width;
+    }
     header->setSectionResizeMode(PunchModel::Situation, QHeaderView::Stretch);
-    comfortableWidth_ =
-        digit * std::accumulate(kColumnDigits.begin(), kColumnDigits.end(), 0) + 2 * frameWidth();
     setMinimumWidth(comfortableWidth_ / 2);
 }
 
