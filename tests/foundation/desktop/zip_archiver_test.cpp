@@ -69,7 +69,7 @@ void overwriteEvery(std::string& bytes, const std::string& wanted, const std::st
 
 TEST(ZipArchiverTest, FilesComeBackAsTheyWere) {
     std::string anyBytes;
-    for (int i = 0; i < 300'000; ++i)
+    for (unsigned i = 0; i < 300'000; ++i)
         anyBytes += static_cast<char>(i * i / 7);
     const Files files{{"01Empresa", "01 S\xC3O JOS\xC9\r\n"},
                       {"01001-03-2024.bdx", ""},
