@@ -2,6 +2,7 @@
 
 #include "foundation/desktop/look.h"
 
+#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
@@ -125,7 +126,12 @@ void RegisterWindow::startNew() {
     focusForm();
 }
 
+void RegisterWindow::finishField() {
+    if (auto* edit = qobject_cast<QLineEdit*>(focusWidget())) emit edit->editingFinished();
+}
+
 void RegisterWindow::include() {
+    finishField();
     if (current_) {
         startNew();
     } else if (includeTyped()) {
@@ -136,6 +142,7 @@ void RegisterWindow::include() {
 
 void RegisterWindow::change() {
     if (!current_) return;
+    finishField();
     if (!isDirty())
         focusForm();
     else if (changeTyped(*current_))

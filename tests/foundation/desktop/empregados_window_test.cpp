@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QPlainTextEdit>
+#include <QTabWidget>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -170,6 +171,27 @@ TEST_F(EmpregadosWindowTest, SearchLooksIntoNameCodeFunctionAndCpf) {
     EXPECT_EQ(screen_->text("empregados.search"), "bia") << "typing in the list searches";
     screen_->press(Qt::Key_Down);
     EXPECT_EQ(screen_->text("empregados.name"), "BIA");
+}
+
+TEST_F(EmpregadosWindowTest, AFieldIsCompletedWhenItsKeyRecords) {
+    open({employee("001", "ANA")});
+    struct Case {
+        int tab;
+        const char* field;
+        const char* typed;
+        std::string Employee::*member;
+        const char* recorded;
+    };
+    for (const Case& c :
+         {Case{1, "empregados.admission", "01042024", &Employee::admission, "01/04/2024"},
+          {2, "empregados.taxId", "52998224725", &Employee::taxId, "529.982.247-25"},
+          {3, "empregados.postalCode", "12080700", &Employee::postalCode, "12080-700"}}) {
+        desk_.person.answers = {Answer::Yes};
+        screen_->find<QTabWidget>("empregados.tabs").setCurrentIndex(c.tab);
+        screen_->type(c.field, c.typed);
+        screen_->press(Qt::Key_S, Qt::ControlModifier);
+        EXPECT_EQ(decodeEmployee(desk_.file("01CartaPonto")).*c.member, c.recorded) << c.field;
+    }
 }
 
 TEST_F(EmpregadosWindowTest, LongFunctionsLeaveTheNameItsRoom) {
