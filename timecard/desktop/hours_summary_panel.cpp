@@ -112,11 +112,13 @@ void HoursSummaryPanel::layOutTable() {
     columns->setSectionsClickable(false);
     columns->setHighlightSections(false);
     columns->setFixedHeight(rowHeight + look::kSmallGap);
+    const QFontMetrics headings(columns->font());
     for (int column = 0; column < table_->columnCount(); ++column) {
-        table_->setHorizontalHeaderItem(
-            column, new QTableWidgetItem(QString::fromUtf8(columnAt(column).shortName)));
-        columns->resizeSection(column,
-                               letters.horizontalAdvance(QLatin1Char('0')) * kFigureHalfDigits / 2);
+        const QString name = QString::fromUtf8(columnAt(column).shortName);
+        table_->setHorizontalHeaderItem(column, new QTableWidgetItem(name));
+        columns->resizeSection(
+            column, std::max(letters.horizontalAdvance(QLatin1Char('0')) * kFigureHalfDigits / 2,
+                             headings.horizontalAdvance(name) + 2 * look::kSmallGap));
     }
     columns->setSectionResizeMode(kCaption, QHeaderView::Stretch);
     table_->setFixedHeight(columns->height() + table_->rowCount() * rowHeight +

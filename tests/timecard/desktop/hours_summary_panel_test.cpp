@@ -3,6 +3,7 @@
 #include "tests/support/driven_window.h"
 
 #include <gmock/gmock.h>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QTableWidget>
 #include <QTimer>
@@ -149,6 +150,15 @@ TEST_F(Panel, ADoubleClickOrF2AsksForAPercentage) {
     table().setCurrentCell(kExtraRow, kFirst);
     press(Qt::Key_F2);
     EXPECT_EQ(typed, expected) << "no percentage, and nobody whose it would be";
+}
+
+TEST_F(Panel, HeadingsStandWholeWhateverTheFont) {
+    const QHeaderView& headings = *table().horizontalHeader();
+    for (const int column : {kFirst, kSecond, kMonthColumn}) {
+        const QString name = table().horizontalHeaderItem(column)->text();
+        EXPECT_GT(headings.sectionSize(column), headings.fontMetrics().horizontalAdvance(name))
+            << name.toStdString();
+    }
 }
 
 }  // namespace
