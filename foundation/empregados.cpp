@@ -93,14 +93,11 @@ void Empregados::read() {
         return !line.code() || line.code() == at_.session.company;
     });
     others_ = std::move(companies);
-    std::vector<EmployeeLine> lines;
-    std::map<EmployeeCode, Date> inactive;
-    if (at_.session.company) {
-        lines = employeeRegister().load();
-        inactive = inactiveEmployees(at_.files, at_.session.folder, *at_.session.company);
-    }
-    lines_ = std::move(lines);
-    inactive_ = std::move(inactive);
+    lines_ = at_.session.company ? employeeRegister().load() : std::vector<EmployeeLine>();
+    // A leave file that cannot be read is told; the list can be worked with all the same.
+    inactive_.clear();
+    if (at_.session.company)
+        inactive_ = inactiveEmployees(at_.files, at_.session.folder, *at_.session.company);
 }
 
 std::optional<Date> Empregados::inactiveSince(const EmployeeLine& line) const {

@@ -191,6 +191,18 @@ TEST_F(EmpregadosTest, AFullDiskRefusesBeforeAnythingIsGone) {
     expectRefusal("Dados incorretos!", [&] { return empregados_.remove(0); });
 }
 
+TEST_F(EmpregadosTest, AnUnreadableLeaveFileIsToldAndTheListShown) {
+    addEmployees();
+    desk_.file("01configAf002") = "**** 10/02/2024\r\n";
+    desk_.files.failOn = {"01configAf002"};
+    empregados_.load();
+    EXPECT_THAT(desk_.person.takeTexts(), ElementsAre("Dados incorretos!"));
+    EXPECT_EQ(empregados_.lines().size(), 2U);
+    desk_.files.failOn.clear();
+    empregados_.load();
+    EXPECT_TRUE(empregados_.inactiveSince(empregados_.lines()[1]));
+}
+
 TEST_F(EmpregadosTest, AListChangedElsewhereIsNotOverwritten) {
     addEmployees();
     desk_.file("01CartaPonto") = joinedLines({empregados_.lines()[1].bytes});
