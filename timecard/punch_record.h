@@ -35,7 +35,7 @@ struct PunchLine {
     [[nodiscard]] TimePair extra() const;
 };
 
-/// One field of the record. The layout's one place; docs/layouts-timecard.md shows it with
+/// One field of the record. The layout's one place; docs/record-layouts.md shows it with
 /// examples.
 struct PunchField {
     std::string PunchLine::*member;
