@@ -4,6 +4,7 @@
 //
 // `apply-1000`: flushed, as it is. `apply-1000-varied`: with "Minutos Variados".
 
+#include "bench/timing.h"
 #include "foundation/disk.h"
 #include "foundation/durable_files.h"
 #include "foundation/employee_register.h"
@@ -71,18 +72,6 @@ void hire(FileSystem& files, const DataFolder& folder) {
     files.replaceAll({EmployeeRegister(files, folder, kCompany).contentOf(lines)});
 }
 
-double milliseconds(const std::function<void()>& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-        .count();
-}
-
-double median(std::vector<double> values) {
-    std::ranges::sort(values);
-    return values[values.size() / 2];
-}
-
 /// Ours and the floor in turn, so that both meet the same disk.
 bool measure(const char* name, FileSystem& files, const DataFolder& folder, Minutes minutes) {
     const RecordedLocks locks(files, folder);
@@ -105,9 +94,7 @@ bool measure(const char* name, FileSystem& files, const DataFolder& folder, Minu
         ours.push_back(applied);
         floor.push_back(written);
     }
-    const double ratio = median(ours) / median(floor);
-    std::printf("bench %s ours=%.1f floor=%.1f ratio=%.2f\n", name, median(ours), median(floor),
-                ratio);
+    const double ratio = report(name, ours, floor);
     return batch.size() == static_cast<std::size_t>(EmployeeCode::kHighest) && ratio <= kMostRatio;
 }
 

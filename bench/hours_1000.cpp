@@ -1,4 +1,5 @@
 // The hours of a month of a thousand employees, beside reading the same lines without counting.
+#include "bench/timing.h"
 #include "timecard/hours.h"
 
 #include <algorithm>
@@ -16,19 +17,6 @@ using namespace std::chrono_literals;
 constexpr int kEmployees = 1000;
 constexpr int kRounds = 15;
 constexpr double kMostRatio = 2;
-
-double milliseconds(const std::function<void()>& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    const std::chrono::duration<double, std::milli> spent =
-        std::chrono::steady_clock::now() - start;
-    return spent.count();
-}
-
-double median(std::vector<double> times) {
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
 
 MonthSettings march() {
     MonthSettings settings;
@@ -95,8 +83,6 @@ int main() {
             }
         }));
     }
-    const double floor = median(floors);
-    const double ours = median(times);
-    std::printf("bench hours-1000 ours=%.2f floor=%.2f ratio=%.2f\n", ours, floor, ours / floor);
-    return read > 0 && worked.count() > 0 && ours / floor <= kMostRatio ? 0 : 1;
+    const double ratio = report("hours-1000", times, floors);
+    return read > 0 && worked.count() > 0 && ratio <= kMostRatio ? 0 : 1;
 }

@@ -2,6 +2,7 @@
 // same strings drawn by a bare QPdfWriter in one font, on as many pages. The memory's floor is the
 // peak after ten cards, in KiB: what a run holds must not grow with the cards.
 
+#include "bench/timing.h"
 #include "foundation/browser.h"
 #include "foundation/log.h"
 #include "output/desktop/qt_report_engine.h"
@@ -30,6 +31,8 @@ using namespace winvrx;
 
 constexpr int kCards = 1000;
 constexpr int kFewCards = 10;
+constexpr double kMostRatio = 1.3;
+constexpr double kMostMemoryRatio = 1.2;
 constexpr int kRounds = 5;
 constexpr int kDays = 31;
 
@@ -146,19 +149,6 @@ void printBare(const std::string& folder, int count) {
     painter.end();
 }
 
-template <typename Work>
-double millisecondsOf(Work work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-        .count();
-}
-
-double median(std::vector<double> values) {
-    std::ranges::sort(values);
-    return values[values.size() / 2];
-}
-
 /// Kibibytes; 0 where the system does not tell.
 long peakMemory() {
 #ifdef _WIN32
@@ -188,13 +178,13 @@ int main(int argc, char** argv) {
     std::vector<double> ours;
     std::vector<double> floor;
     for (int round = 0; round < kRounds; ++round) {
-        ours.push_back(millisecondsOf([&] { printWithEngine(folder, layouts, kCards); }));
-        floor.push_back(millisecondsOf([&] { printBare(folder, kCards); }));
+        ours.push_back(milliseconds([&] { printWithEngine(folder, layouts, kCards); }));
+        floor.push_back(milliseconds([&] { printBare(folder, kCards); }));
     }
-    std::printf("bench print-1000 ours=%.0f floor=%.0f ratio=%.2f\n", median(ours), median(floor),
-                median(ours) / median(floor));
-    if (peakOfFew > 0)
-        std::printf("bench print-memory ours=%ld floor=%ld ratio=%.2f\n", peakOfMany, peakOfFew,
-                    static_cast<double>(peakOfMany) / static_cast<double>(peakOfFew));
-    return 0;
+    const double ratio = report("print-1000", ours, floor);
+    if (peakOfFew == 0) return ratio <= kMostRatio ? 0 : 1;
+    const double memory = static_cast<double>(peakOfMany) / static_cast<double>(peakOfFew);
+    std::printf("bench print-memory ours=%ld floor=%ld ratio=%.2f\n", peakOfMany, peakOfFew,
+                memory);
+    return ratio <= kMostRatio && memory <= kMostMemoryRatio ? 0 : 1;
 }

@@ -3,6 +3,7 @@
 // `replace-1000`: the same bytes written to the same names, each flushed, the folder flushed once.
 // `replace-1000-nosync`: the same protocol with flushes that do nothing, beside plain writes.
 
+#include "bench/timing.h"
 #include "foundation/disk.h"
 #include "foundation/durable_files.h"
 
@@ -58,13 +59,6 @@ std::vector<FileSystem::NewContent> batchIn(const path& folder, char fill) {
     return batch;
 }
 
-double milliseconds(const std::function<void()>& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-        .count();
-}
-
 void writePlain(Disk& disk, const std::vector<FileSystem::NewContent>& batch) {
     for (const FileSystem::NewContent& one : batch)
         disk.write(one.file, one.bytes);
@@ -76,16 +70,6 @@ void writeFlushed(Disk& disk, const std::vector<FileSystem::NewContent>& batch) 
         disk.flush({one.file});
     }
     disk.flushFolder(batch.front().file.parent_path());
-}
-
-double median(std::vector<double> values) {
-    std::ranges::sort(values);
-    return values[values.size() / 2];
-}
-
-void report(const char* name, const std::vector<double>& ours, const std::vector<double>& floor) {
-    std::printf("bench %s ours=%.1f floor=%.1f ratio=%.2f\n", name, median(ours), median(floor),
-                median(ours) / median(floor));
 }
 
 /// A folder of its own for files of ours and of the floor.

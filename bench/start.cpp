@@ -1,5 +1,6 @@
 // From process start to the main window shown, with 99 companies. Beside it an empty window, and,
 // to tell Qt's loading of fonts from our own work, a window with one word.
+#include "bench/timing.h"
 #include "foundation/company_register.h"
 #include "foundation/desktop/system_drives.h"
 
@@ -14,6 +15,8 @@
 
 namespace {
 
+using winvrx::report;
+
 constexpr int kRounds = 15;
 
 /// Milliseconds until the child says that its window is shown; negative when it does not.
@@ -26,16 +29,6 @@ double untilShown(const QString& program, const QStringList& arguments) {
     const double milliseconds = static_cast<double>(timer.nsecsElapsed()) / 1e6;
     child.waitForFinished();
     return shown && child.exitCode() == 0 ? milliseconds : -1;
-}
-
-double median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-void report(const char* name, const std::vector<double>& ours, const std::vector<double>& floor) {
-    std::printf("bench %s ours=%.1f floor=%.1f ratio=%.2f\n", name, median(ours), median(floor),
-                median(ours) / median(floor));
 }
 
 void recordCompanies(const std::filesystem::path& driveRoot) {
