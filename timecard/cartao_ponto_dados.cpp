@@ -12,9 +12,7 @@ namespace winvrx {
 
 namespace {
 
-const Message kNoCompany{"Aviso", "Cadastre Primeiro Uma Empresa!!", Icon::Exclamation};
 const Message kNoMonth{"Aviso", "Informe um Mês de Trabalho!!", Icon::Exclamation};
-const Message kNoEmployee{"Aviso", "Selecione um Funcionário na Lista!", Icon::Exclamation};
 const Message kSaturdayIsNormal{"HORÁRIO DE TRABALHO", "No SÁBADO Será HORA NORMAL?",
                                 Icon::Question, Buttons::YesNo};
 const Message kNeedsSituation{"DIGITAÇÃO DO PONTO", "Informe o Tipo de Situação!",
@@ -50,7 +48,7 @@ CartaoPontoDados::CartaoPontoDados(const Workplace& at, const CardQueries& queri
 bool CartaoPontoDados::open() {
     return attempt(at_, incorrectData(), [this] {
         if (!at_.session.company) {
-            at_.person.tell(kNoCompany);
+            at_.person.tell(noCompany());
             return false;
         }
         const auto selected = loadSelectedMonth(at_.files, at_.session.folder);
@@ -147,9 +145,9 @@ std::filesystem::path CartaoPontoDados::punchFile() const {
 bool CartaoPontoDados::requireSelection() {
     if (selected()) return true;
     if (!at_.session.company)
-        at_.person.tell(kNoCompany);
+        at_.person.tell(noCompany());
     else
-        at_.person.tell(company_ ? kNoEmployee : kNoMonth);
+        at_.person.tell(company_ ? noEmployeeSelected() : kNoMonth);
     return false;
 }
 
