@@ -85,7 +85,7 @@ QWidget* viewerShown() {
 TEST(DesktopTextEditor, HandsTheFileToTheRegisteredEditor) {
     DesktopOfItsOwn desktop;
     desktop.registerEditor();
-    desktop.write("01RelAtivos.txt", "x");
+    desktop.write("01RelAtivos.txt", " RELAT\xD3RIO DE COLABORADORES ATIVOS - 15/03/2024\r\n");
     EmployeeDesk desk;
     DesktopTextEditor editor(desk.files, desk.browser);
     ASSERT_TRUE(editor.open(desktop.path("01RelAtivos.txt").toStdString()));
