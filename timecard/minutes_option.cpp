@@ -1,8 +1,7 @@
 #include "timecard/minutes_option.h"
 
 #include "foundation/record_file.h"
-
-#include <charconv>
+#include "foundation/text.h"
 
 namespace winvrx {
 
@@ -15,11 +14,7 @@ constexpr int kVaried = 1;
 Minutes loadMinutes(FileSystem& files, const DataFolder& folder) {
     const auto values = RecordFile(files, folder.file(kMinutesName)).values();
     if (values.empty()) return Minutes::Fixed;
-    const std::string& text = values.front();
-    int number = 0;
-    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
-    const bool whole = fault == std::errc() && end == text.data() + text.size();
-    return whole && number == kVaried ? Minutes::Varied : Minutes::Fixed;
+    return parseWholeNumber(values.front(), kVaried, kVaried) ? Minutes::Varied : Minutes::Fixed;
 }
 
 void saveMinutes(FileSystem& files, const DataFolder& folder, Minutes minutes) {

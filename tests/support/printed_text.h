@@ -14,6 +14,8 @@
 
 namespace winvrx::testing {
 
+inline constexpr double kPointsPerMillimetre = 72 / 25.4;
+
 /// A word and its box in points from the page's top left corner.
 struct PrintedWord {
     int page = 0;

@@ -1,8 +1,7 @@
 #include "output/card_rows.h"
 #include "output/card_stock.h"
 #include "tests/support/card_geometry.h"
-#include "tests/support/printed_text.h"
-#include "tests/support/report_desk.h"
+#include "tests/support/printed_card.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +10,6 @@
 namespace winvrx::testing {
 namespace {
 
-constexpr double kPointsPerMillimetre = 72 / 25.4;
 constexpr double kPointsPerTwip = 0.05;
 constexpr double kTolerance = 0.3;  // millimetres
 
@@ -43,12 +41,8 @@ std::size_t positionOf(const QString& column) {
     return static_cast<std::size_t>(found - kCardColumns.begin());
 }
 
-class CardBoxes : public ::testing::Test {
+class CardBoxes : public PrintedCard {
   protected:
-    void SetUp() override {
-        if (!canReadPdf()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
-    }
-
     /// The words of one card, by page and text.
     std::map<std::pair<int, QString>, PrintedWord> print(const std::string& layout,
                                                          const std::vector<CardRow>& rows) {
@@ -63,8 +57,6 @@ class CardBoxes : public ::testing::Test {
             words.insert({{word.page, word.text}, word});
         return words;
     }
-
-    ReportDesk desk_;
 };
 
 /// Millimetres.

@@ -17,8 +17,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-constexpr double kPointsPerMillimetre = 72 / 25.4;
-
 class Cups : public ::testing::Test {
   protected:
     void SetUp() override {

@@ -1,7 +1,6 @@
 #include "output/calibration.h"
 #include "output/desktop/layout.h"
-#include "tests/support/printed_text.h"
-#include "tests/support/report_desk.h"
+#include "tests/support/printed_card.h"
 
 #include <gtest/gtest.h>
 
@@ -11,32 +10,23 @@
 namespace winvrx::testing {
 namespace {
 
-constexpr double kPointsPerMillimetre = 72 / 25.4;
 constexpr double kTwipsPerPoint = 20;
 constexpr double kTilibraPitch = 4.5 * kPointsPerMillimetre;
 
-class PrintedScale : public ::testing::Test {
+class PrintedScale : public PrintedCard {
   protected:
-    void SetUp() override {
-        if (!canReadPdf()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
-    }
-
-    /// The words of one card in an order that does not depend on where the card lies.
-    std::vector<PrintedWord> words() {
-        EXPECT_EQ(desk_.print(1), ReportResult::Done)
-            << ::testing::PrintToString(desk_.log.entries);
-        auto sorted = printedWords(desk_.pdf());
+    /// In an order that does not depend on where the card lies.
+    std::vector<PrintedWord> sortedWords() {
+        auto sorted = words();
         std::ranges::sort(sorted, {}, [](const PrintedWord& word) {
             return std::tuple(word.text, word.top, word.left);
         });
         return sorted;
     }
-
-    ReportDesk desk_;
 };
 
 TEST_F(PrintedScale, IsAppliedFromTheCornerOfThePaper) {
-    const auto still = words();
+    const auto still = sortedWords();
     struct Case {
         Alignment alignment;
         double across;
@@ -56,7 +46,7 @@ TEST_F(PrintedScale, IsAppliedFromTheCornerOfThePaper) {
                            -kPointsPerMillimetre}};
     for (const Case& one : cases) {
         desk_.request.alignment = one.alignment;
-        const auto scaled = words();
+        const auto scaled = sortedWords();
         ASSERT_EQ(scaled.size(), still.size());
         for (std::size_t i = 0; i < scaled.size(); ++i) {
             ASSERT_EQ(scaled[i].text, still[i].text);

@@ -1,7 +1,6 @@
 #include "output/desktop/qt_report_engine.h"
 
-#include "tests/support/printed_text.h"
-#include "tests/support/report_desk.h"
+#include "tests/support/printed_card.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,24 +22,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-
-constexpr double kPointsPerMillimetre = 72 / 25.4;
-
-class PrintedCard : public ::testing::Test {
-  protected:
-    void SetUp() override {
-        if (!canReadPdf()) GTEST_SKIP() << "pdftotext (poppler-utils) is not installed";
-    }
-
-    /// The words of one card printed with the desk's request.
-    std::vector<PrintedWord> words() {
-        EXPECT_EQ(desk_.print(1), ReportResult::Done)
-            << ::testing::PrintToString(desk_.log.entries);
-        return printedWords(desk_.pdf());
-    }
-
-    ReportDesk desk_;
-};
 
 TEST_F(PrintedCard, SaysEverythingInOrder) {
     ASSERT_EQ(desk_.print(1), ReportResult::Done);
