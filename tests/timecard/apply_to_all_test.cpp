@@ -62,87 +62,59 @@ struct ApplyToAll : CardScreen {
 TEST_F(ApplyToAll, ChecksInOrder) {
     struct Case {
         const char* what;
-        bool sameHours;
-        ShiftFilter filter;
-        const char* scaleOfCaio;
-        bool selected;
-        const char* admission;
-        bool onLeave;
-        std::vector<Answer> answers;
         std::vector<std::string> shown;
-        bool done;
+        std::vector<Answer> answers = {};
+        bool sameHours = true;
+        ShiftFilter filter = ShiftFilter::Unico;
+        const char* scaleOfCaio = "Norma";
+        bool selected = true;
+        const char* admission = "01/02/2020";
+        bool onLeave = false;
+        bool done = false;
     };
     constexpr Answer kOk = Answer::Ok, kYes = Answer::Yes, kNo = Answer::No,
                      kCancel = Answer::Cancel;
-    constexpr auto kUnico = ShiftFilter::Unico, kTodos = ShiftFilter::Todos;
-    const char* before = "01/02/2020";
+    constexpr auto kTodos = ShiftFilter::Todos;
     const char* after = "01/04/2024";
-    for (const Case& c : std::vector<Case>{
-             {"leave", true, kTodos, "5x1", true, after, true, {}, {kOnLeave}, false},
-             {"nobody", true, ShiftFilter::Tres, "", false, before, false, {}, {kNoLine}, false},
-             {"admitted later", true, kTodos, "5x1", true, after, false, {}, {kDates}, false},
-             {"shifts differ", true, kTodos, "Norma", true, before, false, {}, {kMixed}, false},
-             {"scales differ", true, kUnico, "5x1", true, before, false, {}, {kMixed}, false},
-             {"erases, cancelled",
-              true,
-              kUnico,
-              "Norma",
-              true,
-              before,
-              false,
-              {kCancel},
-              {kErases},
-              false},
-             {"certain, cancelled",
-              true,
-              kUnico,
-              "Norma",
-              true,
-              before,
-              false,
-              {kOk, kCancel},
-              {kErases, kCertain},
-              false},
-             {"not confirmed",
-              true,
-              kUnico,
-              "Norma",
-              true,
-              before,
-              false,
-              {kOk, kOk, kNo},
-              {kErases, kCertain, kSameHours},
-              false},
-             {"same hours",
-              true,
-              kUnico,
-              "Norma",
-              true,
-              before,
-              false,
-              {kOk, kOk, kYes},
-              {kErases, kCertain, kSameHours},
-              true},
-             {"own hours, not confirmed",
-              false,
-              kUnico,
-              "5x1",
-              true,
-              before,
-              false,
-              {kOk, kOk, kNo},
-              {kErases, kCertain, kOwnHours},
-              false},
-             {"own hours, leave",
-              false,
-              kUnico,
-              "Norma",
-              true,
-              before,
-              true,
-              {},
-              {kOnLeave},
-              false}}) {
+    for (const Case& c :
+         std::vector<Case>{{.what = "leave",
+         .shown = {kOnLeave},
+         .filter = kTodos,
+         .scaleOfCaio = "5x1",
+         .admission = after,
+         .onLeave = true},
+                           {.what = "nobody",
+                           .shown = {kNoLine},
+                           .filter = ShiftFilter::Tres,
+                           .scaleOfCaio = "",
+                           .selected = false},
+                           {.what = "admitted later",
+                           .shown = {kDates},
+                           .filter = kTodos,
+                           .scaleOfCaio = "5x1",
+                           .admission = after},
+                           {.what = "shifts differ", .shown = {kMixed}, .filter = kTodos},
+                           {.what = "scales differ", .shown = {kMixed}, .scaleOfCaio = "5x1"},
+                           {.what = "erases, cancelled", .shown = {kErases}, .answers = {kCancel}},
+                           {.what = "certain, cancelled",
+                           .shown = {kErases, kCertain},
+                           .answers = {kOk, kCancel}},
+                           {.what = "not confirmed",
+                           .shown = {kErases, kCertain, kSameHours},
+                           .answers = {kOk, kOk, kNo}},
+                           {.what = "same hours",
+                           .shown = {kErases, kCertain, kSameHours},
+                           .answers = {kOk, kOk, kYes},
+                           .done = true},
+                           {.what = "own hours, not confirmed",
+                           .shown = {kErases, kCertain, kOwnHours},
+                           .answers = {kOk, kOk, kNo},
+                           .sameHours = false,
+                           .scaleOfCaio = "5x1"},
+                           {.what = "own hours, leave",
+                           .shown = {kOnLeave},
+                           .sameHours = false,
+                           .onLeave = true}}) {
         Employee ana = employee("001", "ANA", "Unico", "Norma");
         ana.admission = c.admission;
         hire({ana, employee("003", "CAIO", "Unico", c.scaleOfCaio),
