@@ -1,6 +1,6 @@
 #include "app/desktop_setup.h"
 
-#include "foundation/desktop/look.h"
+#include "foundation/widgets/desktop/look.h"
 
 #include <QApplication>
 #include <QLibraryInfo>

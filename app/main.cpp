@@ -1,9 +1,9 @@
 #include "app/desktop_setup.h"
 #include "app/program.h"
-#include "foundation/desktop/file_log.h"
-#include "foundation/desktop/lock_file_instance.h"
-#include "foundation/desktop/system_clock.h"
-#include "foundation/desktop/system_drives.h"
+#include "foundation/desk/desktop/file_log.h"
+#include "foundation/desk/desktop/system_clock.h"
+#include "foundation/files/desktop/system_drives.h"
+#include "foundation/menu/desktop/lock_file_instance.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/screens.h"
-#include "foundation/desktop/menu_entry.h"
+#include "foundation/menu/desktop/menu_entry.h"
 
 #include <vector>
 

@@ -1,11 +1,11 @@
 #include "app/program.h"
 
 #include "app/menu_entries.h"
-#include "foundation/desktop/desktop_browser.h"
-#include "foundation/desktop/desktop_text_editor.h"
-#include "foundation/desktop/menu_window.h"
-#include "output/desktop/qt_report_engine.h"
-#include "output/desktop/system_printers.h"
+#include "foundation/desk/desktop/desktop_browser.h"
+#include "foundation/desk/desktop/desktop_text_editor.h"
+#include "foundation/menu/desktop/menu_window.h"
+#include "report/desktop/qt_report_engine.h"
+#include "report/desktop/system_printers.h"
 
 namespace winvrx {
 

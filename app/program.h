@@ -1,14 +1,14 @@
 #pragma once
 
 #include "app/screens.h"
-#include "foundation/command.h"
-#include "foundation/daily_copy_files.h"
-#include "foundation/desktop/message_box_operator.h"
-#include "foundation/desktop/zip_archiver.h"
-#include "foundation/menu.h"
-#include "output/printers.h"
-#include "output/report_engine.h"
-#include "timecard/month_overview.h"
+#include "foundation/copies/daily_copy_files.h"
+#include "foundation/copies/desktop/zip_archiver.h"
+#include "foundation/desk/command.h"
+#include "foundation/desk/desktop/message_box_operator.h"
+#include "foundation/menu/menu.h"
+#include "report/printers.h"
+#include "report/report_engine.h"
+#include "timecard/month/month_overview.h"
 
 #include <filesystem>
 #include <functional>

@@ -1,16 +1,16 @@
 #pragma once
 
-#include "foundation/browser.h"
-#include "foundation/command.h"
-#include "foundation/employee_queries.h"
-#include "foundation/menu.h"
-#include "foundation/safety_copies.h"
-#include "foundation/text_editor.h"
-#include "output/desktop/card_pictures.h"
-#include "output/print_settings.h"
-#include "output/printers.h"
-#include "output/report_engine.h"
-#include "timecard/leave_calendar.h"
+#include "foundation/copies/safety_copies.h"
+#include "foundation/desk/browser.h"
+#include "foundation/desk/command.h"
+#include "foundation/desk/text_editor.h"
+#include "foundation/menu/menu.h"
+#include "foundation/register/employee_queries.h"
+#include "output/stocks/desktop/card_pictures.h"
+#include "report/print_settings.h"
+#include "report/printers.h"
+#include "report/report_engine.h"
+#include "timecard/punches/leave_calendar.h"
 
 #include <QString>
 

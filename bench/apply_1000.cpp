@@ -5,10 +5,10 @@
 // `apply-1000`: flushed, as it is. `apply-1000-varied`: with "Minutos Variados".
 
 #include "bench/timing.h"
-#include "foundation/disk.h"
-#include "foundation/durable_files.h"
-#include "foundation/employee_register.h"
-#include "timecard/list_application.h"
+#include "foundation/files/disk.h"
+#include "foundation/files/durable_files.h"
+#include "foundation/register/employee_register.h"
+#include "timecard/punches/list_application.h"
 
 #include <algorithm>
 #include <chrono>

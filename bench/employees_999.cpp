@@ -1,13 +1,13 @@
 // A company of 999 employees: reading its list beside reading and splitting the same bytes, and
 // what the operator waits for: the window's opening, a keystroke of the search, a sort.
-#include "foundation/desktop/empregados_window.h"
-#include "foundation/desktop/file_log.h"
-#include "foundation/desktop/message_box_operator.h"
-#include "foundation/desktop/system_clock.h"
-#include "foundation/desktop/xlsx_spreadsheet.h"
-#include "foundation/employee_import.h"
-#include "foundation/empregados.h"
-#include "foundation/host.h"
+#include "foundation/desk/desktop/file_log.h"
+#include "foundation/desk/desktop/message_box_operator.h"
+#include "foundation/desk/desktop/system_clock.h"
+#include "foundation/desk/desktop/xlsx_spreadsheet.h"
+#include "foundation/files/host.h"
+#include "foundation/register/desktop/empregados_window.h"
+#include "foundation/register/employee_import.h"
+#include "foundation/register/empregados.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

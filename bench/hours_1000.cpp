@@ -1,6 +1,6 @@
 // The hours of a month of a thousand employees, beside reading the same lines without counting.
 #include "bench/timing.h"
-#include "timecard/hours.h"
+#include "timecard/hours/hours.h"
 
 #include <algorithm>
 #include <chrono>

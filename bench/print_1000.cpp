@@ -3,9 +3,9 @@
 // peak after ten cards, in KiB: what a run holds must not grow with the cards.
 
 #include "bench/timing.h"
-#include "foundation/browser.h"
-#include "foundation/log.h"
-#include "output/desktop/qt_report_engine.h"
+#include "foundation/desk/browser.h"
+#include "foundation/desk/log.h"
+#include "report/desktop/qt_report_engine.h"
 
 #include <QFont>
 #include <QGuiApplication>

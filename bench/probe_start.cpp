@@ -1,10 +1,10 @@
 // The program's own start, up to the first painted main window: run by bench_start.
 #include "app/desktop_setup.h"
 #include "app/program.h"
-#include "foundation/desktop/file_log.h"
-#include "foundation/desktop/menu_window.h"
-#include "foundation/desktop/system_clock.h"
-#include "foundation/desktop/system_drives.h"
+#include "foundation/desk/desktop/file_log.h"
+#include "foundation/desk/desktop/system_clock.h"
+#include "foundation/files/desktop/system_drives.h"
+#include "foundation/menu/desktop/menu_window.h"
 
 #include <QApplication>
 

@@ -4,8 +4,8 @@
 // `replace-1000-nosync`: the same protocol with flushes that do nothing, beside plain writes.
 
 #include "bench/timing.h"
-#include "foundation/disk.h"
-#include "foundation/durable_files.h"
+#include "foundation/files/disk.h"
+#include "foundation/files/durable_files.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 // From process start to the main window shown, with 99 companies. Beside it an empty window, and,
 // to tell Qt's loading of fonts from our own work, a window with one word.
 #include "bench/timing.h"
-#include "foundation/company_register.h"
-#include "foundation/desktop/system_drives.h"
+#include "foundation/files/desktop/system_drives.h"
+#include "foundation/register/company_register.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -1,4 +1,4 @@
-#include "timecard/cell_block.h"
+#include "timecard/punches/cell_block.h"
 #include "fuzz/invariant.h"
 
 using namespace winvrx;

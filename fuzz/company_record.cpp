@@ -1,5 +1,5 @@
-#include "foundation/company_register.h"
-#include "foundation/faults.h"
+#include "foundation/register/company_register.h"
+#include "foundation/values/faults.h"
 #include "fuzz/invariant.h"
 
 using namespace winvrx;

@@ -1,5 +1,5 @@
-#include "foundation/employee_register.h"
-#include "foundation/faults.h"
+#include "foundation/register/employee_register.h"
+#include "foundation/values/faults.h"
 #include "fuzz/invariant.h"
 
 using namespace winvrx;

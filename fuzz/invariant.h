@@ -1,8 +1,8 @@
 #pragma once
 
-#include "foundation/data_folder.h"
-#include "foundation/record_file.h"
-#include "foundation/text.h"
+#include "foundation/files/data_folder.h"
+#include "foundation/files/record_file.h"
+#include "foundation/values/text.h"
 #include "tests/support/memory_files.h"
 
 #include <cstdint>

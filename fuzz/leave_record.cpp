@@ -1,5 +1,5 @@
 #include "fuzz/invariant.h"
-#include "timecard/leave_calendar.h"
+#include "timecard/punches/leave_calendar.h"
 
 using namespace winvrx;
 using fuzz::require;

@@ -1,4 +1,4 @@
-#include "foundation/faults.h"
+#include "foundation/values/faults.h"
 #include "fuzz/invariant.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "fuzz/invariant.h"
-#include "timecard/holiday_offer.h"
-#include "timecard/local_holidays.h"
+#include "timecard/month/holiday_offer.h"
+#include "timecard/month/local_holidays.h"
 
 using namespace winvrx;
 using namespace std::chrono_literals;

@@ -1,5 +1,5 @@
 #include "fuzz/invariant.h"
-#include "timecard/month_settings.h"
+#include "timecard/month/month_settings.h"
 
 using namespace winvrx;
 using namespace std::chrono_literals;

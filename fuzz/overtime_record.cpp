@@ -1,4 +1,4 @@
-#include "timecard/overtime_record.h"
+#include "timecard/month/overtime_record.h"
 #include "fuzz/invariant.h"
 
 using namespace winvrx;

@@ -1,5 +1,5 @@
 #include "fuzz/invariant.h"
-#include "output/print_scale.h"
+#include "report/print_scale.h"
 
 using namespace winvrx;
 using fuzz::require;

@@ -1,5 +1,5 @@
-#include "timecard/punch_record.h"
-#include "foundation/faults.h"
+#include "timecard/punches/punch_record.h"
+#include "foundation/values/faults.h"
 #include "fuzz/invariant.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 #include "fuzz/invariant.h"
-#include "timecard/typed_schedule.h"
+#include "timecard/schedule/typed_schedule.h"
 
 using namespace winvrx;
 using fuzz::require;

@@ -1,6 +1,6 @@
 #include "fuzz/invariant.h"
-#include "timecard/month_settings.h"
-#include "timecard/selected_month.h"
+#include "timecard/month/month_settings.h"
+#include "timecard/month/selected_month.h"
 
 using namespace winvrx;
 using fuzz::require;

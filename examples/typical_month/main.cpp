@@ -2,12 +2,12 @@
 // month with a holiday, schedules, punches, a card stock and the printing of all cards.
 #include "app/desktop_setup.h"
 #include "app/program.h"
-#include "foundation/desktop/desktop_browser.h"
-#include "foundation/desktop/desktop_text_editor.h"
-#include "foundation/desktop/file_log.h"
-#include "foundation/desktop/look.h"
-#include "foundation/desktop/menu_window.h"
-#include "foundation/desktop/system_drives.h"
+#include "foundation/desk/desktop/desktop_browser.h"
+#include "foundation/desk/desktop/desktop_text_editor.h"
+#include "foundation/desk/desktop/file_log.h"
+#include "foundation/files/desktop/system_drives.h"
+#include "foundation/menu/desktop/menu_window.h"
+#include "foundation/widgets/desktop/look.h"
 #include "month_script.h"
 #include "player.h"
 

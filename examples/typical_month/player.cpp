@@ -1,6 +1,6 @@
 #include "player.h"
 
-#include "foundation/desktop/look.h"
+#include "foundation/widgets/desktop/look.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/operator.h"
+#include "foundation/desk/operator.h"
 
 #include <QObject>
 #include <QString>

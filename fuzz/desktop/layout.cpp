@@ -1,5 +1,5 @@
 #include "fuzz/invariant.h"
-#include "output/desktop/layout_reader.h"
+#include "report/desktop/layout_reader.h"
 
 #include <QBuffer>
 

@@ -1,6 +1,6 @@
 #ifndef _WIN32
 
-#include "foundation/empresa.h"
+#include "foundation/register/empresa.h"
 #include "tests/support/employee_desk.h"
 #include "tests/support/real_office.h"
 

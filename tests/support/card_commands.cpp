@@ -1,9 +1,9 @@
 // What the screens of the time card and of its printing write.
-#include "output/tipo_ponto.h"
+#include "output/stocks/tipo_ponto.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_card_queries.h"
 #include "tests/support/writing_commands.h"
-#include "timecard/cartao_ponto_dados.h"
+#include "timecard/punches/cartao_ponto_dados.h"
 
 namespace winvrx::testing {
 

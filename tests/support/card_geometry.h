@@ -1,6 +1,6 @@
 #pragma once
 
-#include "output/card_stock.h"
+#include "output/stocks/card_stock.h"
 
 #include <QFile>
 #include <QHash>

@@ -2,8 +2,8 @@
 
 #include "tests/support/test_card_queries.h"
 #include "tests/support/test_workplace.h"
-#include "timecard/cartao_ponto_dados.h"
-#include "timecard/selected_month.h"
+#include "timecard/month/selected_month.h"
+#include "timecard/punches/cartao_ponto_dados.h"
 
 #include <gtest/gtest.h>
 

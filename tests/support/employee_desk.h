@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/empregados.h"
+#include "foundation/register/empregados.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/disk.h"
-#include "foundation/faults.h"
+#include "foundation/files/disk.h"
+#include "foundation/files/file_faults.h"
 
 #include <functional>
 

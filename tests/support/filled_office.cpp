@@ -1,8 +1,8 @@
 #include "tests/support/filled_office.h"
 
-#include "foundation/company.h"
-#include "foundation/employee_checks.h"
-#include "foundation/record_file.h"
+#include "foundation/files/record_file.h"
+#include "foundation/register/company.h"
+#include "foundation/register/employee_checks.h"
 
 #include <vector>
 

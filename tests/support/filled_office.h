@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/employee.h"
+#include "foundation/register/employee.h"
 
 #include <map>
 #include <string>

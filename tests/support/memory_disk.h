@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/disk.h"
+#include "foundation/files/disk.h"
 
 #include <map>
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/faults.h"
-#include "foundation/file_system.h"
+#include "foundation/files/file_faults.h"
+#include "foundation/files/file_system.h"
 
 #include <map>
 #include <set>

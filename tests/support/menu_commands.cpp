@@ -1,6 +1,6 @@
 // What the main window writes, and the safety copies.
-#include "foundation/menu.h"
-#include "foundation/restaurar_copia.h"
+#include "foundation/copies/restaurar_copia.h"
+#include "foundation/menu/menu.h"
 #include "tests/support/plain_archiver.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/writing_commands.h"

@@ -1,8 +1,8 @@
 // What the screens of the work month and of the holidays write.
 #include "tests/support/test_browser.h"
 #include "tests/support/writing_commands.h"
-#include "timecard/data_mes_corrente.h"
-#include "timecard/feriados.h"
+#include "timecard/month/data_mes_corrente.h"
+#include "timecard/month/feriados.h"
 
 namespace winvrx::testing {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/archiver.h"
+#include "foundation/copies/archiver.h"
 
 #include <sstream>
 

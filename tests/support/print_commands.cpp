@@ -1,7 +1,7 @@
 // What the screens of alignment, printers and printing write.
-#include "output/cartao.h"
-#include "output/cartao_pontos.h"
-#include "output/impressorar.h"
+#include "output/cards/cartao.h"
+#include "output/stocks/cartao_pontos.h"
+#include "report/impressorar.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "foundation/company_register.h"
-#include "foundation/employee_register.h"
-#include "output/cartao.h"
-#include "output/print_settings.h"
+#include "foundation/register/company_register.h"
+#include "foundation/register/employee_register.h"
+#include "output/cards/cartao.h"
+#include "report/print_settings.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
 #include "tests/support/test_workplace.h"
-#include "timecard/selected_month.h"
+#include "timecard/month/selected_month.h"
 
 #include <gtest/gtest.h>
 

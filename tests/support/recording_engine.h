@@ -1,6 +1,6 @@
 #pragma once
 
-#include "output/report_engine.h"
+#include "report/report_engine.h"
 
 #include <deque>
 #include <vector>

@@ -1,7 +1,7 @@
 // What the registers of companies and employees write.
-#include "foundation/employee_import.h"
-#include "foundation/empresa.h"
-#include "foundation/turnos.h"
+#include "foundation/register/employee_import.h"
+#include "foundation/register/empresa.h"
+#include "foundation/register/turnos.h"
 #include "tests/support/employee_desk.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/writing_commands.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "foundation/text.h"
-#include "output/desktop/qt_report_engine.h"
+#include "foundation/values/text.h"
+#include "report/desktop/qt_report_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 

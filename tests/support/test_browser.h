@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/browser.h"
+#include "foundation/desk/browser.h"
 
 namespace winvrx::testing {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tests/support/employee_desk.h"
-#include "timecard/list_application.h"
+#include "timecard/punches/list_application.h"
 
 #include <map>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/host.h"
+#include "foundation/files/host.h"
 
 #include <functional>
 #include <set>

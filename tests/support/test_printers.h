@@ -1,6 +1,6 @@
 #pragma once
 
-#include "output/printers.h"
+#include "report/printers.h"
 
 namespace winvrx::testing {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/desktop/qt_text.h"
+#include "foundation/values/desktop/qt_text.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>

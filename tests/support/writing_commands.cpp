@@ -1,7 +1,7 @@
 #include "tests/support/writing_commands.h"
 
-#include "foundation/durable_files.h"
-#include "foundation/safety_copies.h"
+#include "foundation/copies/safety_copies.h"
+#include "foundation/files/durable_files.h"
 
 #include <ostream>
 #include <stdexcept>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/command.h"
+#include "foundation/desk/command.h"
 #include "tests/support/filled_office.h"
 #include "tests/support/memory_disk.h"
 #include "tests/support/test_workplace.h"

@@ -1,6 +1,6 @@
 #include "app/menu_entries.h"
 
-#include "foundation/desktop/qt_text.h"
+#include "foundation/values/desktop/qt_text.h"
 #include "tests/support/employee_desk.h"
 #include "tests/support/plain_archiver.h"
 #include "tests/support/recording_engine.h"

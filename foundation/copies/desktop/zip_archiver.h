@@ -1,0 +1,20 @@
+#pragma once
+
+#include "foundation/copies/archiver.h"
+
+namespace winvrx {
+
+/// Zip files through libarchive, with names in UTF-8.
+class ZipArchiver final : public Archiver {
+  public:
+    explicit ZipArchiver(const ArchiveLimits& limits = {}) : limits_(limits) {}
+
+    [[nodiscard]] std::string pack(const Source& next) const override;
+    [[nodiscard]] std::vector<std::string> names(std::string_view archive) const override;
+    void unpack(std::string_view archive, const Visitor& visit) const override;
+
+  private:
+    ArchiveLimits limits_;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,120 @@
+#include "foundation/copies/restaurar_copia.h"
+
+#include "foundation/copies/copied_files.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+const Message kFailure{"Erro", "Ocorreu Erro", Icon::Critical};
+const Message kNoneChosen{"Aviso", "Selecione uma Cópia na Lista!", Icon::Exclamation};
+const Message kNothingToDo{"Aviso", "A Pasta de Dados já está igual a esta Cópia!",
+                           Icon::Information};
+
+Message confirmation(const CopyName& name) {
+    return {"RESTAURAR", "Confirma a Restauração da Cópia de " + momentOfCopy(name) + "?",
+            Icon::Exclamation, Buttons::YesNo,
+            "A pasta de dados volta a ser o que era. O estado de agora é guardado antes, como mais "
+            "uma cópia desta lista."};
+}
+
+std::string counted(int count, std::string_view one, std::string_view many) {
+    const bool single = count == 1;
+    return std::to_string(count) + (single ? " arquivo " : " arquivos ") +
+           std::string(single ? one : many);
+}
+
+SubjectChange& entryFor(std::vector<SubjectChange>& changes, std::string subject) {
+    const auto found =
+        std::find_if(changes.begin(), changes.end(),
+                     [&](const SubjectChange& change) { return change.subject == subject; });
+    if (found != changes.end()) return *found;
+    return changes.emplace_back(SubjectChange{.subject = std::move(subject)});
+}
+
+std::vector<SubjectChange> bySubject(const std::vector<FileChange>& files) {
+    std::vector<SubjectChange> changes;
+    for (const FileChange& file : files) {
+        SubjectChange& change = entryFor(changes, subjectOfFile(file.file));
+        switch (file.kind) {
+            case FileChange::Kind::Differs:
+                ++change.different;
+                break;
+            case FileChange::Kind::OnlyInCopy:
+                ++change.missing;
+                break;
+            case FileChange::Kind::OnlyHere:
+                ++change.surplus;
+                break;
+        }
+    }
+    std::stable_sort(changes.begin(), changes.end(),
+                     [](const SubjectChange& left, const SubjectChange& right) {
+                         return left.subject < right.subject;
+                     });
+    return changes;
+}
+
+}  // namespace
+
+std::string SubjectChange::text() const {
+    std::string text;
+    const auto add = [&](int count, std::string_view one, std::string_view many) {
+        if (count == 0) return;
+        if (!text.empty()) text += ", ";
+        text += counted(count, one, many);
+    };
+    add(different, "volta ao que era", "voltam ao que eram");
+    add(missing, "que falta é trazido de volta", "que faltam são trazidos de volta");
+    add(surplus, "que não existia é excluído", "que não existiam são excluídos");
+    return text;
+}
+
+std::string momentOfCopy(const CopyName& name) {
+    return std::string(weekdayShort(weekdayOf(name.made.date))) + ", " + dateText(name.made.date) +
+           " às " + timeText(name.made.time);
+}
+
+std::string_view originOfCopy(const CopyName& name) {
+    return name.kind == CopyName::Kind::Daily ? "Cópia do dia" : "Antes de restaurar";
+}
+
+void RestaurarCopia::load() {
+    (void)attempt(at_, kFailure, [this] {
+        list_ = copies_.list(at_.session.folder);
+        return true;
+    });
+}
+
+CopyPreview RestaurarCopia::preview(const CopyName& copy) const {
+    try {
+        return {bySubject(copies_.changes(at_.session.folder, copy)), {}};
+    } catch (const std::exception& fault) {
+        at_.log.write("comparing copy " + copy.text() + ": " + fault.what());
+        return {{}, explanationOf(fault)};
+    }
+}
+
+bool RestaurarCopia::restore(const std::optional<CopyName>& copy) {
+    if (!copy) {
+        at_.person.tell(kNoneChosen);
+        return false;
+    }
+    return attempt(at_, kFailure, [&] {
+        const DataFolder& folder = at_.session.folder;
+        if (copies_.changes(folder, *copy).empty()) {
+            at_.person.tell(kNothingToDo);
+            return false;
+        }
+        if (!at_.person.agrees(confirmation(*copy))) return false;
+        const FolderLock::Hold hold = holdFolder(at_);
+        // First the month: cut short behind it, the command can still be given again.
+        at_.files.remove(folder.file(kSelectedMonthName));
+        copies_.restore(folder, *copy, at_.clock.now());
+        return true;
+    });
+}
+
+}  // namespace winvrx

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "foundation/desk/log.h"
+#include "foundation/desk/operator.h"
+#include "foundation/desk/session.h"
+#include "foundation/files/file_system.h"
+#include "foundation/files/folder_lock.h"
+#include "foundation/values/clock.h"
+#include "foundation/values/faults.h"
+
+#include <exception>
+
+namespace winvrx {
+
+class Browser;
+
+/// What every command works with. The referred objects outlive all commands.
+struct Workplace {
+    FileSystem& files;
+    Operator& person;
+    const Clock& clock;
+    Log& log;
+    Session& session;
+    FolderLock& lock;
+};
+
+/// "Dados incorretos!" titled "Erro", the answer of most commands to a failure.
+[[nodiscard]] Message incorrectData();
+
+/// "Cadastre Primeiro Uma Empresa!!" and "Selecione um Funcionário na Lista!", titled "Aviso": what
+/// a screen says that needs a company, or one of its employees.
+[[nodiscard]] Message noCompany();
+[[nodiscard]] Message noEmployeeSelected();
+
+/// "Há dados digitados que não foram gravados. Deseja descartá-los?", asked before typed text is
+/// left behind.
+[[nodiscard]] Message discardTyped();
+
+/// Logs the cause and tells the operator `message` with one sentence on what happened.
+void reportFailure(const Workplace& at, Message message, const std::exception& fault);
+
+/// Opens the help page; "Ocorreu Erro" when no browser shows it.
+void openHelp(const Workplace& at, Browser& browser);
+
+/// Runs a command under its catch-all. `work` returns whether the command was carried out; a fault
+/// on the way is logged and told, and counts as not carried out.
+template <typename Work>
+[[nodiscard]] bool attempt(const Workplace& at, const Message& onFailure, Work&& work) {
+    try {
+        return work();
+    } catch (const std::exception& fault) {
+        reportFailure(at, onFailure, fault);
+        return false;
+    }
+}
+
+/// Keeps other writers out of the data folder while the returned value lives; may be nested. Waits
+/// a few seconds for another writer, and asks before it takes over what another computer left
+/// behind. Throws Fault, naming who writes.
+[[nodiscard]] FolderLock::Hold holdFolder(const Workplace& at);
+[[nodiscard]] FolderLock::Hold holdFolder(const Workplace& at, const std::filesystem::path& folder);
+
+/// `attempt` for a command that writes: `work` runs while the data folder is held. It reads again
+/// what it is about to change, because another writer may have been there before. A command that
+/// asks the operator asks first, under `attempt`, and calls `holdFolder` when it has its answer.
+template <typename Work>
+[[nodiscard]] bool attemptWriting(const Workplace& at, const Message& onFailure, Work&& work) {
+    return attempt(at, onFailure, [&] {
+        const FolderLock::Hold hold = holdFolder(at);
+        return work();
+    });
+}
+
+}  // namespace winvrx

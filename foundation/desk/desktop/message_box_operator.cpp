@@ -1,0 +1,84 @@
+#include "foundation/desk/desktop/message_box_operator.h"
+
+#include "foundation/values/desktop/qt_text.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace winvrx {
+
+namespace {
+
+QMessageBox::Icon iconOf(Icon icon) {
+    switch (icon) {
+        case Icon::None:
+            return QMessageBox::NoIcon;
+        case Icon::Information:
+            return QMessageBox::Information;
+        case Icon::Question:
+            return QMessageBox::Question;
+        case Icon::Exclamation:
+            return QMessageBox::Warning;
+        case Icon::Critical:
+            return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
+    switch (buttons) {
+        case Buttons::Ok:
+            return QMessageBox::Ok;
+        case Buttons::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case Buttons::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case Buttons::YesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::StandardButton harmlessOf(Buttons buttons) {
+    switch (buttons) {
+        case Buttons::Ok:
+            return QMessageBox::Ok;
+        case Buttons::YesNo:
+            return QMessageBox::No;
+        case Buttons::OkCancel:
+        case Buttons::YesNoCancel:
+            return QMessageBox::Cancel;
+    }
+    return QMessageBox::Ok;
+}
+
+Answer answerOf(int button) {
+    switch (button) {
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        case QMessageBox::Cancel:
+            return Answer::Cancel;
+        default:
+            return Answer::Ok;
+    }
+}
+
+}  // namespace
+
+Answer MessageBoxOperator::ask(const Message& message) {
+    QMessageBox box(QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("messageBox"));
+    box.setWindowTitle(toQt(message.title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(toQt(message.text));
+    box.setInformativeText(toQt(message.detail));
+    box.setIcon(iconOf(message.icon));
+    box.setStandardButtons(buttonsOf(message.buttons));
+    box.setDefaultButton(harmlessOf(message.buttons));
+    box.setEscapeButton(harmlessOf(message.buttons));
+    return answerOf(box.exec());
+}
+
+}  // namespace winvrx

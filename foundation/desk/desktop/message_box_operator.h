@@ -1,0 +1,14 @@
+#pragma once
+
+#include "foundation/desk/operator.h"
+
+namespace winvrx {
+
+/// Shows messages in modal boxes over the active window. The box bears the object name
+/// "messageBox"; the harmless button is the default and answers Esc.
+class MessageBoxOperator final : public Operator {
+  public:
+    Answer ask(const Message& message) override;
+};
+
+}  // namespace winvrx

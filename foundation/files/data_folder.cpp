@@ -1,0 +1,142 @@
+#include "foundation/files/data_folder.h"
+
+#include <algorithm>
+#include <functional>
+#include <optional>
+#include <stdexcept>
+
+namespace winvrx {
+
+namespace {
+
+/// "01", "001" and "032024.pdx"; a shorter month file is the company's own.
+constexpr std::size_t kEmployeeMonthFileLength = 15;
+
+/// "01", "001", "-03-2024", then ".bdx".
+constexpr std::size_t kPunchSuffixStart = 14;
+
+/// The stem, and the zeros that make three digits five.
+constexpr std::string_view kPayrollZeros = "fp00";
+static_assert(kPayrollZeros.starts_with(kPayrollStem));
+
+std::string withForwardSlashes(std::string_view text) {
+    std::string result(text);
+    std::replace(result.begin(), result.end(), '\\', '/');
+    return result;
+}
+
+/// `part` stands at character `start` (counted from 1) of `name`.
+bool standsAt(std::string_view name, std::size_t start, std::string_view part) {
+    return name.size() >= start - 1 + part.size() && name.substr(start - 1, part.size()) == part;
+}
+
+bool isPunchOrPayrollFile(std::string_view name) {
+    return name.size() > 9 && (name.ends_with(".bdx") || name.ends_with(".prd"));
+}
+
+bool isControl(char c) {
+    return static_cast<unsigned char>(c) < ' ';
+}
+
+/// "mmyyyy.pdx" at the end of the name.
+bool isMonthFile(std::string_view name) {
+    if (name.size() < 12 || !name.ends_with(".pdx")) return false;
+    const std::string_view month = name.substr(name.size() - 10, 6);
+    return std::all_of(month.begin(), month.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+/// "01fp" and the five digits of an employee code.
+bool isPayrollFile(std::string_view name) {
+    return standsAt(name, 3, kPayrollZeros) && name.ends_with(".bdx");
+}
+
+std::optional<std::string_view> stemOf(std::string_view name) {
+    for (const std::string_view stem : {kScheduleStem, kOvertimeStem, kLeaveStem})
+        if (standsAt(name, 3, stem)) return stem;
+    for (const std::string_view stem : kTerminationStems)
+        if (standsAt(name, 3, stem)) return stem;
+    return std::nullopt;
+}
+
+/// Where the name of an employee's file carries the employee code, counted from 1.
+std::size_t employeeCodeStart(std::string_view name) {
+    if (isPayrollFile(name)) return 3 + kPayrollZeros.size();
+    return 3 + stemOf(name).value_or(std::string_view()).size();
+}
+
+void removeWhere(FileSystem& files, const DataFolder& folder,
+                 const std::function<bool(std::string_view)>& chosen) {
+    for (const std::string& name : files.names(folder.path()))
+        if (chosen(name)) files.remove(folder.path() / name);
+}
+
+}  // namespace
+
+std::filesystem::path pathOnDrive(const Drives& drives, char letter, std::string_view literal) {
+    const std::filesystem::path root = drives.root(letter);
+    if (root.empty()) return {};
+    return root / withForwardSlashes(literal.substr(2));
+}
+
+bool isShare(std::string_view programFolder) {
+    return programFolder.starts_with("\\\\");
+}
+
+std::filesystem::path shareDataFolder(std::string_view programFolder) {
+    return withForwardSlashes(std::string(programFolder) + "\\Winvrx\\");
+}
+
+std::filesystem::path DataFolder::file(std::string_view name) const {
+    if (name.empty() || name.find_first_of("/\\:") != std::string_view::npos ||
+        name.starts_with(".") || std::any_of(name.begin(), name.end(), isControl))
+        throw std::invalid_argument("not a bare file name: " + std::string(name));
+    return path_ / name;
+}
+
+bool isRecordOfCompany(std::string_view name, const CompanyCode& company) {
+    if (!name.starts_with(company.text())) return false;
+    return stemOf(name) || name.find(kLeaveStem) != std::string_view::npos ||
+           isPunchOrPayrollFile(name) || isMonthFile(name) || name.substr(2) == kEmployeeListStem;
+}
+
+bool isRecordOfEmployee(std::string_view name, const CompanyCode& company,
+                        const EmployeeCode& employee) {
+    if (!isRecordOfCompany(name, company) || name.substr(2) == kEmployeeListStem) return false;
+    const bool hasEmployee =
+        stemOf(name) || isPunchOrPayrollFile(name) || name.size() >= kEmployeeMonthFileLength;
+    return hasEmployee && standsAt(name, employeeCodeStart(name), employee.text());
+}
+
+bool isPayrollOfEmployee(std::string_view name, const CompanyCode& company,
+                         const EmployeeCode& employee) {
+    return isPayrollFile(name) && isRecordOfEmployee(name, company, employee);
+}
+
+bool isPunchRecordOfEmployee(std::string_view name, const CompanyCode& company,
+                             const EmployeeCode& employee) {
+    return standsAt(name, kPunchSuffixStart, ".bdx") && !isPayrollFile(name) &&
+           isRecordOfEmployee(name, company, employee);
+}
+
+std::string renamedForEmployee(std::string_view name, const CompanyCode& company,
+                               const EmployeeCode& employee) {
+    const std::size_t start = employeeCodeStart(name);
+    std::string renamed(name);
+    renamed.replace(start - 1, employee.text().size(), employee.text());
+    renamed.replace(0, company.text().size(), company.text());
+    return renamed;
+}
+
+void removeRecordsOfCompany(FileSystem& files, const DataFolder& folder,
+                            const CompanyCode& company) {
+    removeWhere(files, folder,
+                [&](std::string_view name) { return isRecordOfCompany(name, company); });
+}
+
+void removeRecordsOfEmployee(FileSystem& files, const DataFolder& folder,
+                             const CompanyCode& company, const EmployeeCode& employee) {
+    removeWhere(files, folder,
+                [&](std::string_view name) { return isRecordOfEmployee(name, company, employee); });
+}
+
+}  // namespace winvrx

@@ -1,0 +1,122 @@
+#pragma once
+
+#include "foundation/files/file_system.h"
+#include "foundation/values/codes.h"
+
+#include <array>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// Where the records lie. A path is a drive letter followed by a folder literal that begins with a
+// colon; a Drives adapter says where a drive's root is, and below the root the folders are the same
+// on every system, so that a removable drive can go from one to the other.
+
+namespace winvrx {
+
+inline constexpr char kDefaultDrive = 'C';
+
+/// Folder literals, to be read behind a drive letter.
+inline constexpr std::string_view kDataFolder = ":\\Users\\Public\\Documents\\Winvrx\\";
+inline constexpr std::string_view kInstallationSubfolder =
+    ":\\Users\\Public\\Documents\\Winvrx\\WinvrxOfNew\\";
+inline constexpr std::string_view kProgramFolder = ":\\Program Files (x86)\\Winvrx\\";
+
+/// Where an earlier installation kept its data, in the order in which they are searched.
+inline constexpr std::string_view kEarlierFolders[] = {":\\Arquivos de programas\\Winvrx\\",
+                                                       ":\\Program Files\\Winvrx\\"};
+
+/// Answers where the root of a drive is.
+class Drives {
+  public:
+    virtual ~Drives() = default;
+
+    /// The folder that stands for "X:"; empty when there is no such drive at the moment.
+    [[nodiscard]] virtual std::filesystem::path root(char letter) const = 0;
+
+    /// The letters that have a root now, in alphabetical order; "C" is always among them.
+    [[nodiscard]] virtual std::vector<char> letters() const = 0;
+};
+
+/// Drive root + folder literal. Empty when the drive has no root.
+[[nodiscard]] std::filesystem::path pathOnDrive(const Drives& drives, char letter,
+                                                std::string_view literal);
+
+/// True when the program was started from a network share.
+[[nodiscard]] bool isShare(std::string_view programFolder);
+
+/// The share folder followed by "\Winvrx\".
+[[nodiscard]] std::filesystem::path shareDataFolder(std::string_view programFolder);
+
+/// The folder in use, and the paths of the files in it.
+class DataFolder {
+  public:
+    DataFolder() = default;
+    DataFolder(char driveLetter, std::filesystem::path path)
+        : driveLetter_(driveLetter), path_(std::move(path)) {}
+
+    [[nodiscard]] char driveLetter() const { return driveLetter_; }
+    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+
+    /// `name` must be a bare file name. Throws std::invalid_argument for anything that could lead
+    /// outside the folder.
+    [[nodiscard]] std::filesystem::path file(std::string_view name) const;
+
+    /// Company code + `name`: "01" + "PadrHor001.pdx".
+    [[nodiscard]] std::filesystem::path companyFile(const CompanyCode& company,
+                                                    std::string_view name) const {
+        return file(company.text() + std::string(name));
+    }
+
+  private:
+    char driveLetter_ = kDefaultDrive;
+    std::filesystem::path path_;
+};
+
+/// Stems of the files that belong to a company or to one of its employees.
+inline constexpr std::string_view kScheduleStem = "PadrHor";
+inline constexpr std::string_view kOvertimeStem = "MedHorExtr";
+inline constexpr std::string_view kLeaveStem = "configAf";
+/// Stems of an employee's termination documents, which are named like his leave file.
+inline constexpr std::array<std::string_view, 3> kTerminationStems = {"TRTC", "THRTC", "AviTRTC"};
+inline constexpr std::string_view kEmployeeListStem = "CartaPonto";
+/// Opens the name of a payroll file, behind the company code; the employee code follows with five
+/// digits, then the month "mm-yyyy" and ".bdx".
+inline constexpr std::string_view kPayrollStem = "fp";
+
+/// Files of the run: both go when the program ends.
+inline constexpr std::string_view kStartMemoryName = "LocMen.lvc";
+inline constexpr std::string_view kSelectedMonthName = "DataIde.ivc";
+
+/// The scratch database of the report engine: no record.
+inline constexpr std::string_view kReportDatabaseName = "qdb.mdb";
+
+/// True for the names of records that go when the company goes: its schedules, overtime figures,
+/// leaves, termination documents, punches, month files and employee list. Names are read by
+/// position: company code in characters 1-2, then the stem.
+[[nodiscard]] bool isRecordOfCompany(std::string_view name, const CompanyCode& company);
+
+/// The same for one employee: the employee code stands behind the stem, or in characters 3-5.
+[[nodiscard]] bool isRecordOfEmployee(std::string_view name, const CompanyCode& company,
+                                      const EmployeeCode& employee);
+
+[[nodiscard]] bool isPayrollOfEmployee(std::string_view name, const CompanyCode& company,
+                                       const EmployeeCode& employee);
+
+/// True for the employee's punch records: ".bdx" in characters 14-17 behind both codes.
+[[nodiscard]] bool isPunchRecordOfEmployee(std::string_view name, const CompanyCode& company,
+                                           const EmployeeCode& employee);
+
+/// The name that an employee's file takes when the employee moves to `company` under `employee`.
+/// `name` must be a record of one employee.
+[[nodiscard]] std::string renamedForEmployee(std::string_view name, const CompanyCode& company,
+                                             const EmployeeCode& employee);
+
+/// Deletes the files of a company. Can be run again after a failure.
+void removeRecordsOfCompany(FileSystem& files, const DataFolder& folder,
+                            const CompanyCode& company);
+void removeRecordsOfEmployee(FileSystem& files, const DataFolder& folder,
+                             const CompanyCode& company, const EmployeeCode& employee);
+
+}  // namespace winvrx

@@ -1,0 +1,163 @@
+#include "foundation/files/file_faults.h"
+#include "foundation/files/file_system.h"
+#include "foundation/files/standard_folders.h"
+
+#include <algorithm>
+#include <array>
+
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+
+namespace winvrx {
+
+namespace {
+
+using Operation = FileFault::Operation;
+using std::filesystem::path;
+
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+constexpr std::size_t kLargestPiece = 1U << 30U;
+
+[[noreturn]] void fail(Operation operation, const path& file, DWORD error = ::GetLastError()) {
+    throw FileFault(operation, file,
+                    std::error_code(static_cast<int>(error), std::system_category()));
+}
+
+bool isMissing(DWORD error) {
+    return error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+}
+
+bool isTaken(DWORD error) {
+    return error == ERROR_FILE_EXISTS || error == ERROR_ALREADY_EXISTS;
+}
+
+/// Only true links: the placeholders of a folder kept in the cloud are reparse points as well.
+bool isLink(const path& file) {
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = ::FindFirstFileW(file.c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return false;
+    ::FindClose(search);
+    return (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+           found.dwReserved0 == IO_REPARSE_TAG_SYMLINK;
+}
+
+void requireNoLink(Operation operation, const path& file) {
+    if (isLink(file)) throw FileFault(operation, file, FileProblem::Link);
+}
+
+class Handle {
+  public:
+    Handle(const path& file, DWORD access, DWORD disposition)
+        : handle_(::CreateFileW(file.c_str(), access, kShareAll, nullptr, disposition,
+                                FILE_ATTRIBUTE_NORMAL, nullptr)) {}
+    ~Handle() {
+        if (open()) ::CloseHandle(handle_);
+    }
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+
+    [[nodiscard]] bool open() const { return handle_ != INVALID_HANDLE_VALUE; }
+    [[nodiscard]] HANDLE get() const { return handle_; }
+
+  private:
+    HANDLE handle_;
+};
+
+void writeAll(const Handle& out, std::string_view bytes, const path& file) {
+    while (!bytes.empty()) {
+        DWORD count = 0;
+        const auto piece = static_cast<DWORD>(std::min(bytes.size(), kLargestPiece));
+        if (!::WriteFile(out.get(), bytes.data(), piece, &count, nullptr))
+            fail(Operation::Write, file);
+        bytes.remove_prefix(count);
+    }
+}
+
+class WindowsDisk final : public StandardFolders {
+  public:
+    [[nodiscard]] std::optional<std::string> read(const path& file) const override {
+        requireNoLink(Operation::Read, file);
+        const Handle in(file, GENERIC_READ, OPEN_EXISTING);
+        if (!in.open()) {
+            if (isMissing(::GetLastError())) return std::nullopt;
+            fail(Operation::Read, file);
+        }
+        if (::GetFileType(in.get()) != FILE_TYPE_DISK)
+            throw FileFault(Operation::Read, file, FileProblem::NotAPlainFile);
+        std::string bytes;
+        std::array<char, 65536> chunk;
+        DWORD count = 0;
+        do {
+            if (!::ReadFile(in.get(), chunk.data(), static_cast<DWORD>(chunk.size()), &count,
+                            nullptr))
+                fail(Operation::Read, file);
+            if (bytes.size() + count > kLargestFile)
+                throw FileFault(Operation::Read, file, FileProblem::TooLarge);
+            bytes.append(chunk.data(), count);
+        } while (count > 0);
+        return bytes;
+    }
+
+    void write(const path& file, std::string_view bytes) override {
+        requireNoLink(Operation::Write, file);
+        const Handle out(file, GENERIC_WRITE, CREATE_ALWAYS);
+        if (!out.open()) fail(Operation::Write, file);
+        writeAll(out, bytes, file);
+    }
+
+    [[nodiscard]] bool create(const path& file, std::string_view bytes) override {
+        bool created = false;
+        try {
+            const Handle out(file, GENERIC_WRITE, CREATE_NEW);
+            if (!out.open() && isTaken(::GetLastError())) return false;
+            if (!out.open()) fail(Operation::Write, file);
+            created = true;
+            writeAll(out, bytes, file);
+        } catch (const FileFault&) {
+            if (created) ::DeleteFileW(file.c_str());
+            throw;
+        }
+        return true;
+    }
+
+    void flush(const std::vector<path>& files) override {
+        for (const path& file : files) {
+            const Handle handle(file, GENERIC_WRITE, OPEN_EXISTING);
+            if (!handle.open() || !::FlushFileBuffers(handle.get())) fail(Operation::Write, file);
+        }
+    }
+
+    /// Written through: the new name lasts when this returns.
+    void rename(const path& from, const path& to) override {
+        requireNoLink(Operation::Write, to);
+        if (!::MoveFileExW(from.c_str(), to.c_str(),
+                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            fail(Operation::Write, to);
+    }
+
+    bool remove(const path& file) override {
+        if (::DeleteFileW(file.c_str())) return true;
+        if (!isMissing(::GetLastError())) fail(Operation::Remove, file);
+        return false;
+    }
+
+    /// Windows has no flush of a folder: renames are written through, and its file systems keep
+    /// removals in their journal.
+    void flushFolder(const path&) override {}
+
+    [[nodiscard]] bool exists(const path& file) const override {
+        if (::GetFileAttributesW(file.c_str()) != INVALID_FILE_ATTRIBUTES) return true;
+        if (!isMissing(::GetLastError())) fail(Operation::Read, file);
+        return false;
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<Disk> systemDisk() {
+    return std::make_unique<WindowsDisk>();
+}
+
+}  // namespace winvrx

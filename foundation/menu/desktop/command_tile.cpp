@@ -1,0 +1,99 @@
+#include "foundation/menu/desktop/command_tile.h"
+
+#include "foundation/widgets/desktop/look.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace winvrx {
+
+namespace {
+
+constexpr int kCorner = 8;
+constexpr int kTextLeft = look::kMargin + look::kTileIcon + look::kMargin;
+
+QString withoutMnemonic(QString text) {
+    return text.remove(QLatin1Char('&'));
+}
+
+}  // namespace
+
+CommandTile::CommandTile(const QString& objectName, const QString& icon, const QString& title,
+                         const QString& key, QWidget* parent)
+    : QAbstractButton(parent), key_(key) {
+    setObjectName(objectName);
+    setText(title);
+    setAccessibleName(withoutMnemonic(title));
+    setIcon(look::icon(icon, look::Tint::Accent));
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void CommandTile::setStateLine(const QString& text) {
+    stateLine_ = text;
+    setAccessibleDescription(text);
+    setToolTip(text);
+    update();
+}
+
+void CommandTile::setNext(bool next) {
+    next_ = next;
+    update();
+}
+
+QSize CommandTile::minimumSizeHint() const {
+    const int lines =
+        fontMetrics().height() + QFontMetrics(look::font(look::TextSize::Hint)).height();
+    return {fontMetrics().averageCharWidth() * 24, lines + look::kGap * 3};
+}
+
+QSize CommandTile::sizeHint() const {
+    return minimumSizeHint();
+}
+
+void CommandTile::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool accented = isEnabled() && (next_ || hasFocus() || underMouse());
+    const QColor border =
+        accented ? look::color(look::Tint::Accent, palette()) : palette().color(QPalette::Mid);
+    const qreal pen = isEnabled() && (next_ || hasFocus()) ? 2 : 1;
+    QPainterPath shape;
+    shape.addRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kCorner, kCorner);
+    if (isEnabled()) painter.fillPath(shape, palette().color(QPalette::Base));
+    if (accented && (next_ || isDown() || underMouse()))
+        painter.fillPath(shape, look::wash(look::Tint::Accent, palette()));
+    painter.setPen(QPen(border, pen, isEnabled() ? Qt::SolidLine : Qt::DashLine));
+    painter.drawPath(shape);
+    const QRect iconArea(look::kMargin, (height() - look::kTileIcon) / 2, look::kTileIcon,
+                         look::kTileIcon);
+    icon().paint(&painter, iconArea, Qt::AlignCenter,
+                 isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    paintTexts(painter, rect().adjusted(kTextLeft, 0, -look::kMargin, 0));
+}
+
+void CommandTile::paintTexts(QPainter& painter, const QRect& area) const {
+    const QFont titleFont = look::font(look::TextSize::Heading);
+    const QFont hintFont = look::font(look::TextSize::Hint);
+    const int titleHeight = QFontMetrics(titleFont).height();
+    const int hintHeight = QFontMetrics(hintFont).height();
+    const int top = (height() - titleHeight - hintHeight) / 2;
+    const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+    painter.setFont(hintFont);
+    painter.setPen(isEnabled() ? look::color(look::Tint::Quiet, palette())
+                               : palette().color(group, QPalette::WindowText));
+    painter.drawText(QRect(area.left(), top, area.width(), titleHeight),
+                     Qt::AlignRight | Qt::AlignVCenter, key_);
+    const QFontMetrics hintMetrics(hintFont);
+    painter.drawText(QRect(area.left(), top + titleHeight, area.width(), hintHeight),
+                     Qt::AlignLeft | Qt::AlignVCenter,
+                     hintMetrics.elidedText(stateLine_, Qt::ElideRight, area.width()));
+    painter.setFont(titleFont);
+    painter.setPen(palette().color(group, QPalette::WindowText));
+    painter.drawText(QRect(area.left(), top, area.width(), titleHeight),
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
+}
+
+}  // namespace winvrx

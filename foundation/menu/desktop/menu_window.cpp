@@ -1,0 +1,353 @@
+#include "foundation/menu/desktop/menu_window.h"
+
+#include "foundation/menu/desktop/command_tile.h"
+#include "foundation/menu/desktop/month_view.h"
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
+#include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/register_list.h"
+#include "foundation/widgets/desktop/search_box.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace winvrx {
+
+namespace {
+
+constexpr int kTilesInRow = 3;
+constexpr int kSideWidth = 19;  ///< of the columns at the sides, in average capital letters
+
+QFrame* panel(QWidget* parent) {
+    auto* frame = new QFrame(parent);
+    look::setRole(*frame, "panel");
+    return frame;
+}
+
+/// A panel as wide as the side columns are.
+QFrame* sidePanel(QWidget* parent) {
+    QFrame* frame = panel(parent);
+    frame->setFixedWidth(frame->fontMetrics().horizontalAdvance(QLatin1Char('M')) * kSideWidth);
+    return frame;
+}
+
+QString dayLine(Date date) {
+    return toQt(weekdayShort(weekdayOf(date))) + QStringLiteral(", ") +
+           QString::number(dayNumber(date)) + QStringLiteral(" de ") +
+           toQt(monthName(date.month())) + QStringLiteral(" · ") + toQt(dateText(date));
+}
+
+}  // namespace
+
+MenuWindow::MenuWindow(Menu& menu, const Workplace& at, const MonthCalendar& calendar,
+                       std::vector<MenuEntry> entries, NextStep nextStep)
+    : menu_(menu),
+      at_(at),
+      calendar_(calendar),
+      entries_(std::move(entries)),
+      nextStep_(std::move(nextStep)) {
+    setObjectName(QStringLiteral("menu"));
+    setWindowTitle(QStringLiteral("Winvrx"));
+    auto* frame = new QVBoxLayout(this);
+    frame->setContentsMargins(0, 0, 0, 0);
+    frame->setSpacing(0);
+    buildTitleBand(*frame);
+    auto* columns = new QHBoxLayout;
+    look::layOutBody(*columns);
+    columns->setSpacing(look::kMargin);
+    columns->addWidget(buildCompanies());
+    columns->addWidget(buildCommands(), 1);
+    columns->addWidget(buildOverview());
+    frame->addLayout(columns, 1);
+    resize(look::kWindowSize);
+}
+
+void MenuWindow::buildTitleBand(QVBoxLayout& frame) {
+    auto* band = new QFrame(this);
+    band->setObjectName(QStringLiteral("titleBand"));
+    auto* row = new QHBoxLayout(band);
+    row->setContentsMargins(look::kMargin, look::kGap, look::kMargin, look::kGap);
+    row->setSpacing(look::kGap);
+    auto* mark = new QLabel(band);
+    mark->setPixmap(look::icon(QStringLiteral("winvrx")).pixmap(look::kTileIcon));
+    row->addWidget(mark);
+    row->addWidget(look::label(QStringLiteral("Winvrx"), look::TextSize::Title, band));
+    row->addStretch(1);
+    companyName_ = look::label(QString(), look::TextSize::Heading, band);
+    companyName_->setObjectName(QStringLiteral("menu.company"));
+    row->addWidget(companyName_);
+    row->addStretch(1);
+    today_ = look::label(QString(), look::TextSize::Body, band);
+    today_->setObjectName(QStringLiteral("menu.today"));
+    row->addWidget(today_);
+    frame.addWidget(band);
+}
+
+QWidget* MenuWindow::buildCompanies() {
+    QFrame* side = sidePanel(this);
+    auto* column = new QVBoxLayout(side);
+    column->setSpacing(look::kGap);
+    column->addWidget(look::heading(QStringLiteral("Empresas"), side));
+    search_ =
+        new SearchBox(QStringLiteral("menu.search"), QStringLiteral("Pesquisar empresa…"), side);
+    column->addWidget(search_);
+    companies_ = new QListWidget(side);
+    companies_->setObjectName(QStringLiteral("menu.companies"));
+    companies_->setAccessibleName(QStringLiteral("Lista de empresas"));
+    companies_->setFrameShape(QFrame::NoFrame);
+    companies_->setTextElideMode(Qt::ElideRight);
+    companies_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    companies_->setUniformItemSizes(true);
+    column->addWidget(companies_, 1);
+    search_->serve(companies_);
+    auto* filter = new QHBoxLayout;
+    auto* caption = new QLabel(QStringLiteral("T&urno:"), side);
+    shift_ = new QComboBox(side);
+    shift_->setObjectName(QStringLiteral("menu.shift"));
+    shift_->setAccessibleName(QStringLiteral("Turno"));
+    caption->setBuddy(shift_);
+    filter->addWidget(caption);
+    filter->addWidget(shift_, 1);
+    column->addLayout(filter);
+    connect(search_, &QLineEdit::textChanged, this, &MenuWindow::filterCompanies);
+    connect(search_, &QLineEdit::returnPressed, this, &MenuWindow::selectCompany);
+    connect(companies_, &QListWidget::itemClicked, this, &MenuWindow::selectCompany);
+    connect(companies_, &QListWidget::itemActivated, this, &MenuWindow::selectCompany);
+    connect(shift_, &QComboBox::currentTextChanged, this, [this](const QString& text) {
+        if (const auto filter = parseShiftFilter(toUtf8(text))) menu_.setShiftFilter(*filter);
+        showTiles();
+    });
+    return side;
+}
+
+QWidget* MenuWindow::buildCommands() {
+    auto* content = new QWidget;
+    auto* column = new QVBoxLayout(content);
+    column->setContentsMargins(0, 0, look::kGap, 0);
+    column->setSpacing(look::kGap);
+    QStringList groups;
+    for (const MenuEntry& entry : entries_)
+        if (!groups.contains(entry.group)) groups.append(entry.group);
+    for (const QString& group : groups)
+        addGroup(*column, group);
+    column->addStretch(1);
+    auto* area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidget(content);
+    return area;
+}
+
+void MenuWindow::addGroup(QVBoxLayout& column, const QString& group) {
+    if (column.count() > 0) column.addSpacing(look::kMargin);
+    column.addWidget(look::heading(group, this));
+    auto* grid = new QGridLayout;
+    grid->setSpacing(look::kGap);
+    for (int i = 0; i < kTilesInRow; ++i)
+        grid->setColumnStretch(i, 1);
+    for (const MenuEntry& entry : entries_)
+        if (entry.group == group) addTile(*grid, entry);
+    column.addLayout(grid);
+}
+
+void MenuWindow::addTile(QGridLayout& grid, const MenuEntry& entry) {
+    auto* tile = new CommandTile(entry.objectName, entry.icon, entry.title,
+                                 entry.key.toString(QKeySequence::NativeText), this);
+    tile->setEnabled(static_cast<bool>(entry.open));
+    tiles_[entry.command] = tile;
+    const int count = grid.count();
+    grid.addWidget(tile, count / kTilesInRow, count % kTilesInRow);
+    if (!entry.open) return;
+    connect(tile, &CommandTile::clicked, this, [this, entry] { open(entry); });
+    if (entry.key.isEmpty()) return;
+    auto* shortcut = new QShortcut(entry.key, this);
+    connect(shortcut, &QShortcut::activated, tile, &CommandTile::click);
+}
+
+QWidget* MenuWindow::buildOverview() {
+    QFrame* side = sidePanel(this);
+    auto* column = new QVBoxLayout(side);
+    column->setSpacing(look::kGap);
+    monthName_ = look::heading(QString(), side);
+    column->addWidget(monthName_);
+    month_ = new MonthView(side);
+    column->addWidget(month_);
+    counts_ = look::label(QString(), look::TextSize::Body, side);
+    counts_->setObjectName(QStringLiteral("menu.counts"));
+    counts_->setWordWrap(true);
+    column->addWidget(counts_);
+    notices_ = look::label(QString(), look::TextSize::Hint, side);
+    notices_->setObjectName(QStringLiteral("menu.notices"));
+    notices_->setWordWrap(true);
+    column->addWidget(notices_);
+    column->addStretch(1);
+    column->addWidget(buildDataFolder());
+    column->addWidget(buildBackup());
+    return side;
+}
+
+QWidget* MenuWindow::buildDataFolder() {
+    auto* part = new QWidget(this);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    column->addWidget(look::heading(QStringLiteral("(Diretório de Dados)"), part));
+    auto* row = new QHBoxLayout;
+    auto* caption = new QLabel(QStringLiteral("Dri&ve de Origem:"), part);
+    drive_ = new QComboBox(part);
+    drive_->setObjectName(QStringLiteral("menu.drive"));
+    drive_->setAccessibleName(QStringLiteral("Drive de Origem"));
+    caption->setBuddy(drive_);
+    row->addWidget(caption);
+    row->addWidget(drive_, 1);
+    column->addLayout(row);
+    folder_ = look::label(QString(), look::TextSize::Hint, part);
+    folder_->setObjectName(QStringLiteral("menu.folder"));
+    folder_->setWordWrap(true);
+    column->addWidget(folder_);
+    connect(drive_, &QComboBox::textActivated, this, [this](const QString& letter) {
+        menu_.useDrive(letter.front().toLatin1());
+        fillCompanies();
+        refresh();
+    });
+    return part;
+}
+
+QWidget* MenuWindow::buildBackup() {
+    auto* part = new QWidget(this);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    auto* title = look::heading(QStringLiteral("Cópia de Segurança da Base de Dados:"), part);
+    title->setWordWrap(true);
+    column->addWidget(title);
+    auto* note = look::label(QStringLiteral("Disponível em uma próxima versão."),
+                             look::TextSize::Hint, part);
+    note->setWordWrap(true);
+    column->addWidget(note);
+    part->setEnabled(false);
+    return part;
+}
+
+bool MenuWindow::start() {
+    today_->setText(QStringLiteral("Aguarde..."));
+    if (!menu_.start()) return false;
+    started_ = true;
+    for (const ShiftFilter filter : kMenuShiftFilters)
+        shift_->addItem(toQt(codeOf(filter)));
+    shift_->setCurrentText(toQt(codeOf(ShiftFilter::Todos)));
+    fillCompanies();
+    refresh();
+    show();
+    menu_.offerEarlierData();
+    refresh();
+    return true;
+}
+
+void MenuWindow::refresh() {
+    const CompanyLine* company = menu_.selected();
+    companyName_->setText(company ? toQt(company->company.code + "  " + company->company.name)
+                                  : QStringLiteral("Selecione uma empresa"));
+    today_->setText(dayLine(at_.clock.today()));
+    showOverview();
+    showTiles();
+    showDrive();
+}
+
+void MenuWindow::fillCompanies() {
+    const QSignalBlocker quiet(companies_);
+    companies_->clear();
+    for (const CompanyLine& line : menu_.companies()) {
+        auto* item = new QListWidgetItem(toQt(line.company.code + "  " + line.company.name));
+        if (!line.code()) {
+            item->setText(RegisterList::unreadRow(line.bytes).cells.join(QLatin1Char(' ')));
+            item->setFlags(Qt::NoItemFlags);
+        }
+        item->setToolTip(item->text());
+        companies_->addItem(item);
+        if (menu_.selected() == &line) companies_->setCurrentItem(item);
+    }
+    filterCompanies(search_->text());
+}
+
+void MenuWindow::filterCompanies(const QString& wanted) {
+    QListWidgetItem* firstShown = nullptr;
+    for (int row = 0; row < companies_->count(); ++row) {
+        QListWidgetItem* item = companies_->item(row);
+        const bool shown = matchesSearch(toUtf8(item->text()), toUtf8(wanted));
+        item->setHidden(!shown);
+        if (shown && !firstShown) firstShown = item;
+    }
+    const QListWidgetItem* current = companies_->currentItem();
+    if (!wanted.isEmpty() && (!current || current->isHidden()))
+        companies_->setCurrentItem(firstShown);
+}
+
+void MenuWindow::selectCompany() {
+    const int row = companies_->currentRow();
+    if (row < 0 || companies_->item(row)->isHidden()) return;
+    menu_.select(static_cast<std::size_t>(row));
+    refresh();
+}
+
+void MenuWindow::showOverview() {
+    const Date today = at_.clock.today();
+    MonthOverview overview;
+    overview.month = monthOf(today);
+    (void)attempt(at_, incorrectData(), [&] {
+        overview = calendar_.overview(today);
+        return true;
+    });
+    monthName_->setText(toQt(monthTitle(overview.month)));
+    month_->show(overview, today);
+    const QString counts =
+        QStringLiteral("Dias úteis %1 · DSR %2").arg(overview.businessDays).arg(overview.restDays);
+    counts_->setText(overview.recorded ? counts : counts + QStringLiteral(" (sugestão)"));
+    QStringList lines;
+    for (const std::string& line : overview.notices)
+        lines.append(toQt(line));
+    notices_->setText(lines.join(QLatin1Char('\n')));
+}
+
+void MenuWindow::showTiles() {
+    const auto next = nextStep_();
+    for (const MenuEntry& entry : entries_) {
+        CommandTile* tile = tiles_.at(entry.command);
+        tile->setStateLine(entry.state ? entry.state() : QString());
+        tile->setNext(next == entry.command);
+    }
+}
+
+void MenuWindow::showDrive() {
+    const QSignalBlocker quiet(drive_);
+    drive_->clear();
+    for (const char letter : menu_.driveLetters())
+        drive_->addItem(QString(QLatin1Char(letter)));
+    drive_->setCurrentText(QString(QLatin1Char(at_.session.folder.driveLetter())));
+    const QString path = QString::fromStdString(at_.session.folder.path().string());
+    folder_->setText(QString(path).replace(QLatin1Char('/'), QStringLiteral("/\u200B")));
+    folder_->setToolTip(path);
+}
+
+void MenuWindow::open(const MenuEntry& entry) {
+    if (!menu_.mayOpen(entry.command)) return;
+    entry.open(this);
+    if (entry.command == MenuCommand::Companies || entry.command == MenuCommand::Restore) {
+        menu_.reloadCompanies();
+        fillCompanies();
+    }
+    refresh();
+}
+
+void MenuWindow::closeEvent(QCloseEvent* event) {
+    if (started_) menu_.exit();
+    event->accept();
+}
+
+}  // namespace winvrx

@@ -1,0 +1,43 @@
+#include "foundation/register/company.h"
+
+namespace winvrx {
+
+std::string encode(const Company& company, std::string existing) {
+    const Company before = decodeCompany(existing);
+    RecordLine line(std::move(existing), kCompanyWidth);
+    putFields(kCompanyFields, company, before, line);
+    return line.bytes();
+}
+
+Company decodeCompany(std::string_view lineBytes) {
+    return decodeFields<Company>(kCompanyFields, lineBytes);
+}
+
+Company sampleCompany(Date today) {
+    return {.code = "01",
+            .name = "EMPRESA MODELO LTDA",
+            .taxId = "123.456.789/0001-99",
+            .address = "AV. BANDEIRANTES, SN",
+            .district = "CENTRO",
+            .recordDate = dateText(today),
+            .city = "TAUBATE",
+            .state = "SP",
+            .postalCode = "12080-700",
+            .telephone = "(99) 9999-9999",
+            .stateRegistration = "123.456.789",
+            .owner = "Fleipod",
+            .ownerNationality = "Brasileiro",
+            .ownerMaritalStatus = "Casado",
+            .ownerProfession = "Administrador",
+            .ownerIdentityCard = "1785236-9",
+            .ownerTaxId = "999.999.999-77",
+            .ownerAddress = "Rua Pedro Zapeline, 1425",
+            .ownerDistrict = "Vitoria",
+            .ownerPostalCode = "12099-000",
+            .ownerCity = "CAÇADOR",
+            .ownerState = "SC",
+            .unionName = "SINDICATO S/A",
+            .unionTaxId = "222.333.444/0001-33"};
+}
+
+}  // namespace winvrx

@@ -1,0 +1,47 @@
+#include "foundation/register/employee.h"
+
+#include "foundation/values/text.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::size_t kShortWeekday = 3;
+
+}  // namespace
+
+std::string encode(const Employee& employee, std::string existing) {
+    const bool isNew = existing.empty();
+    const Employee before = isNew ? Employee() : decodeEmployee(existing);
+    RecordLine line(std::move(existing), isNew ? kEmployeeWidth : 0);
+    putFields(kEmployeeFields, employee, before, line);
+    return line.bytes();
+}
+
+Employee decodeEmployee(std::string_view lineBytes) {
+    return decodeFields<Employee>(kEmployeeFields, lineBytes);
+}
+
+std::string searchedText(const Employee& employee) {
+    std::string digits;
+    std::copy_if(employee.taxId.begin(), employee.taxId.end(), std::back_inserter(digits),
+                 [](char c) { return c >= '0' && c <= '9'; });
+    std::string text;
+    for (const std::string& part :
+         {employee.code, employee.name, employee.function, employee.taxId, digits})
+        text.append(part).append(" ");
+    return text;
+}
+
+std::chrono::weekday weeklyRestOf(const Employee& employee) {
+    const std::string stored = foldedForSearch(firstCharacters(employee.restDay, kShortWeekday));
+    for (unsigned day = 0; day < 7; ++day)
+        if (foldedForSearch(weekdayShort(std::chrono::weekday(day))) == stored)
+            return std::chrono::weekday(day);
+    return std::chrono::Sunday;
+}
+
+}  // namespace winvrx

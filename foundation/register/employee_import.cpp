@@ -1,0 +1,96 @@
+#include "foundation/register/employee_import.h"
+
+#include "foundation/register/employee_table.h"
+#include "foundation/register/empregados.h"
+#include "foundation/register/imported_employee.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+Message confirmation(std::size_t count) {
+    return {"INCLUSÃO", "Confirma a Inclusão na LISTA DE FUNCIONARIOS?", Icon::Question,
+            Buttons::YesNo,
+            count == 1 ? "Será incluído 1 funcionário."
+                       : "Serão incluídos " + std::to_string(count) + " funcionários."};
+}
+
+bool isSame(const std::vector<EmployeeLine>& lines, const std::vector<EmployeeLine>& others) {
+    return std::equal(lines.begin(), lines.end(), others.begin(), others.end(),
+                      [](const EmployeeLine& one, const EmployeeLine& other) {
+                          return one.bytes == other.bytes;
+                      });
+}
+
+bool hasText(const std::vector<std::string>& row) {
+    return std::any_of(row.begin(), row.end(),
+                       [](const std::string& cell) { return !cell.empty(); });
+}
+
+}  // namespace
+
+bool EmployeeImport::open(const std::filesystem::path& csv) {
+    if (!at_.session.company) {
+        at_.person.tell(noCompany());
+        return false;
+    }
+    return attempt(at_, incorrectData(), [&] {
+        const auto bytes = at_.files.read(csv);
+        if (!bytes) throw Fault("no file " + csv.string(), "O arquivo não foi encontrado.");
+        const CsvRows table = parseCsv(*bytes);
+        before_ = EmployeeRegister(at_.files, at_.session.folder, *at_.session.company).load();
+        judge(table);
+        return true;
+    });
+}
+
+void EmployeeImport::judge(const CsvRows& table) {
+    rows_.clear();
+    unknownTitles_.clear();
+    std::vector<const EmployeeField*> columns;
+    for (const std::string& title : table.empty() ? std::vector<std::string>() : table.front()) {
+        columns.push_back(fieldTitled(title));
+        if (!columns.back() && !title.empty()) unknownTitles_.push_back(title);
+    }
+    const bool hasNames = std::any_of(columns.begin(), columns.end(), [](const auto* field) {
+        return field && field->member == &Employee::name;
+    });
+    if (!hasNames)
+        throw Fault("CSV file without a column of names",
+                    "A primeira linha do arquivo precisa ter os títulos das colunas, entre eles "
+                    "\"Nome\".");
+    std::vector<EmployeeLine> list = before_;
+    for (std::size_t row = 1; row < table.size(); ++row) {
+        if (!hasText(table[row])) continue;
+        Employee employee;
+        for (std::size_t i = 0; i < std::min(columns.size(), table[row].size()); ++i)
+            if (columns[i] && columns[i]->member != &Employee::status)
+                employee.*columns[i]->member = recordText(columns[i]->member, table[row][i]);
+        completeImported(employee, list);
+        std::string problem = importProblem(employee, list);
+        if (problem.empty()) list.push_back(lineOf(employee));
+        rows_.push_back({row + 1, employee, problem, importNotice(employee)});
+    }
+}
+
+std::size_t EmployeeImport::goodRows() const {
+    return static_cast<std::size_t>(std::count_if(
+        rows_.begin(), rows_.end(), [](const ImportedRow& row) { return row.isGood(); }));
+}
+
+bool EmployeeImport::include() {
+    if (goodRows() == 0 || !at_.person.agrees(confirmation(goodRows()))) return false;
+    return attemptWriting(at_, incorrectData(), [&] {
+        EmployeeRegister list(at_.files, at_.session.folder, at_.session.company.value());
+        auto lines = list.load();
+        if (!isSame(lines, before_)) throw changedElsewhere();
+        for (const ImportedRow& row : rows_)
+            if (row.isGood()) lines.push_back(lineOf(row.employee));
+        list.save(lines, at_.clock.now());
+        return true;
+    });
+}
+
+}  // namespace winvrx

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "foundation/files/data_folder.h"
+#include "foundation/values/codes.h"
+#include "foundation/values/date.h"
+
+// What the employee register has to ask of subjects that lie above it. They answer through these
+// queries; app/ joins the two.
+
+namespace winvrx {
+
+/// Asked of the rotation schedules.
+class RotationMembership {
+  public:
+    virtual ~RotationMembership() = default;
+    /// Whether the employee stands in one of the company's rotation groups.
+    [[nodiscard]] virtual bool isMember(const CompanyCode& company,
+                                        const EmployeeCode& employee) const = 0;
+};
+
+/// Asked of the payroll.
+class PayrollLock {
+  public:
+    virtual ~PayrollLock() = default;
+    /// Whether a payroll of the employee has been generated.
+    [[nodiscard]] virtual bool hasClosedMonth(const CompanyCode& company,
+                                              const EmployeeCode& employee) const = 0;
+    /// Whether the payroll of the employee and month has been generated: the month is closed.
+    [[nodiscard]] virtual bool isClosed(const CompanyCode& company, const EmployeeCode& employee,
+                                        WorkMonth month) const = 0;
+};
+
+/// Answers both from the files that the subjects leave in the data folder: a payroll file named
+/// company code, "fp", five-digit employee code, month, ".bdx"; a group file whose name begins with
+/// company code and "GRUPO-", with the employee's code at the head of one of its lines.
+class RecordedLocks final : public RotationMembership, public PayrollLock {
+  public:
+    /// Both outlive this object; `folder` is the one in use when a question is asked.
+    RecordedLocks(const FileSystem& files, const DataFolder& folder)
+        : files_(files), folder_(folder) {}
+
+    [[nodiscard]] bool isMember(const CompanyCode& company,
+                                const EmployeeCode& employee) const override;
+    [[nodiscard]] bool hasClosedMonth(const CompanyCode& company,
+                                      const EmployeeCode& employee) const override;
+    [[nodiscard]] bool isClosed(const CompanyCode& company, const EmployeeCode& employee,
+                                WorkMonth month) const override;
+
+  private:
+    const FileSystem& files_;
+    const DataFolder& folder_;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,143 @@
+// The commands on the whole list: order, reports and export.
+#include "foundation/register/activity_report.h"
+#include "foundation/register/employee_order.h"
+#include "foundation/register/employee_table.h"
+#include "foundation/register/empregados.h"
+#include "foundation/values/csv.h"
+#include "foundation/values/text.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::string_view kWait = "Aguarde ....";
+
+const Message kConfirmSortByName{"ORDEM ALFABETICA", "Confirma Ordenação Alfabetica dos ITENS?",
+                                 Icon::Question, Buttons::YesNo};
+const Message kConfirmSortByAdmission{"ORDEM POR ADIMISSAO",
+                                      "Confirma Ordenação por Data de Adimissão dos ITENS?",
+                                      Icon::Question, Buttons::YesNo};
+const Message kUnreadableAdmission{"ORDEM POR ADIMISSAO",
+                                   "ERRO! Dados incorretos no ITENS Selecionado!", Icon::Critical};
+const Message kNoPlace{"MOVER", "O Numero da Posição Inválido!", Icon::Exclamation};
+const Message kPlaceTooLow{
+    "MOVER",
+    "O Numero da Posição não deve ser Igual ou Menor que 0 (Quantidade de Itens na Lista)!",
+    Icon::Exclamation};
+const Message kPlaceTooHigh{
+    "MOVER", "O Numero da Posição não deve ser Maior do que a Quantidade de Itens na Lista!",
+    Icon::Exclamation};
+const Message kConfirmReport{"ATIVOS E INATIVOS",
+                             "Confirma Geração do Relatório de Colaboradores Ativos e Inativos?",
+                             Icon::Question, Buttons::YesNo};
+const Message kNotOpened{"ATIVOS E INATIVOS", "Ocorreu Erro", Icon::Exclamation};
+
+constexpr std::string_view kActiveReportName = "RelAtivos.txt";
+constexpr std::string_view kInactiveReportName = "RelInativos.txt";
+
+/// nullopt unless the whole text is a number.
+std::optional<long> numberOf(std::string_view text) {
+    text = trimmed(text);
+    long number = 0;
+    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (fault != std::errc() || end != text.data() + text.size()) return std::nullopt;
+    return number;
+}
+
+/// What is wrong with a place typed for a list of `count`; nullptr when it can be moved to.
+const Message* refusalOf(std::optional<long> place, std::size_t count) {
+    if (!place) return &kNoPlace;
+    if (*place <= 0) return &kPlaceTooLow;
+    if (static_cast<std::size_t>(*place) > count) return &kPlaceTooHigh;
+    return nullptr;
+}
+
+/// The field's text with a sign in place of what no report can hold.
+std::string readable(const EmployeeLine& line, std::string Employee::*member) {
+    return readableText(rawFieldOf(line.bytes, fieldHolding(kEmployeeFields, member).column));
+}
+
+bool isWorkbookName(const std::filesystem::path& file) {
+    return foldedForSearch(file.extension().string()) == ".xlsx";
+}
+
+}  // namespace
+
+template <typename Sort>
+bool Empregados::sort(const Message& question, const Message& onFailure, Sort&& order) {
+    if (!hasCompany() || !at_.person.agrees(question)) return false;
+    if (waitNotice_) waitNotice_(kWait);
+    return attemptWriting(at_, onFailure, [&] {
+        auto lines = employeeRegister().load();
+        order(lines);
+        save(std::move(lines));
+        return true;
+    });
+}
+
+bool Empregados::sortByName() {
+    return sort(kConfirmSortByName, incorrectData(), winvrx::sortByName);
+}
+
+bool Empregados::sortByAdmission() {
+    return sort(kConfirmSortByAdmission, kUnreadableAdmission, winvrx::sortByAdmission);
+}
+
+bool Empregados::moveTo(std::size_t position, std::string_view typedPlace) {
+    const auto place = numberOf(typedPlace);
+    if (const Message* refusal = refusalOf(place, lines_.size())) {
+        at_.person.tell(*refusal);
+        return false;
+    }
+    return attemptWriting(at_, incorrectData(), [&] {
+        auto lines = loadUnchanged(position);
+        if (lines.size() != lines_.size()) throw changedElsewhere();
+        moveLine(lines, position, static_cast<std::size_t>(*place) - 1);
+        save(std::move(lines));
+        return true;
+    });
+}
+
+bool Empregados::report() {
+    if (!hasCompany() || !at_.person.agrees(kConfirmReport)) return false;
+    return attempt(at_, incorrectData(), [&] {
+        read();
+        std::vector<ReportedEmployee> people;
+        for (const EmployeeLine& line : lines_)
+            if (line.code())
+                people.push_back({readable(line, &Employee::name),
+                                  readable(line, &Employee::function),
+                                  readable(line, &Employee::admission), inactiveSince(line)});
+        const Date today = at_.clock.today();
+        const auto active = writeReport(kActiveReportName, activeReport(people, today));
+        const auto inactive = writeReport(kInactiveReportName, inactiveReport(people, today));
+        const bool activeOpened = around_.editor.open(active);
+        if (activeOpened && around_.editor.open(inactive)) return true;
+        at_.person.tell(kNotOpened);
+        return false;
+    });
+}
+
+std::filesystem::path Empregados::writeReport(std::string_view name,
+                                              const std::vector<std::string>& lines) const {
+    const auto hold = holdFolder(at_);
+    RecordFile file(at_.files, at_.session.companyFile(name));
+    file.rewriteValues(lines);
+    return file.path();
+}
+
+bool Empregados::exportTo(const std::filesystem::path& file) {
+    if (!hasCompany()) return false;
+    return attempt(at_, incorrectData(), [&] {
+        const Table table = tableOf(lines_, inactive_);
+        at_.files.replace(file, isWorkbookName(file)
+                                    ? around_.spreadsheet.workbookOf(table, "Funcionários")
+                                    : csvText(rowsOf(table)));
+        return true;
+    });
+}
+
+}  // namespace winvrx

@@ -1,0 +1,145 @@
+#include "foundation/register/empresa.h"
+
+#include "foundation/register/employee_register.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+const Message kConfirmInclude{"INCLUSÃO", "Confirma a Inclusão?", Icon::Question, Buttons::YesNo};
+const Message kConfirmChange{"ALTERAÇÃO", "Confirma a Alteração do Item Selecionado?",
+                             Icon::Question, Buttons::YesNo};
+const Message kFirstCompany{
+    "Excluindo Empresa",
+    "ATENCAO!!! Não é Possível Excluir a Primeira Empresa. Você Pode Alterar os Dados Cadastrados "
+    "nesta Empresa! ",
+    Icon::Critical};
+const Message kConfirmDelete{"EXCLUSÃO", "Confirma a Exclusão do Item Selecionado?", Icon::Question,
+                             Buttons::YesNo};
+const Message kHasEmployees{
+    "CUIDADO!!! - Excluindo Empresa",
+    "ATENCAO!!! Não é Possível Excluir agora. Existem Funcioários Cadastrados nesta Empresa! "
+    "Deseja Excluir toda lista de Funcionário Incluindo desta Empresa Selecionada?",
+    Icon::Exclamation, Buttons::YesNo};
+const Message kDeletesEmployees{
+    "EXCLUIR", "Este Comando irá Exluir a Empresa e a Lista de Funcionarios. Deseja Continuar?",
+    Icon::Exclamation, Buttons::YesNo};
+const Message kCertain{"EXCLUIR", "Tem Certeza que Deseja Excluir o Item Selecionado?",
+                       Icon::Exclamation, Buttons::YesNo};
+
+constexpr auto kChangedElsewhere =
+    "O cadastro foi alterado por outro computador. Abra a tela novamente.";
+
+CompanyLine lineOf(Company company, const CompanyCode& code, Date today,
+                   std::string existing = {}) {
+    company.code = code.text();
+    company.recordDate = dateText(today);
+    std::string bytes = encode(company, std::move(existing));
+    return {bytes, decodeCompany(bytes)};
+}
+
+}  // namespace
+
+Empresa::Empresa(const Workplace& at, Browser& browser) : at_(at), browser_(browser) {}
+
+void Empresa::load() {
+    (void)attempt(at_, incorrectData(), [this] {
+        lines_ = loadOrCreateCompanies(at_);
+        return true;
+    });
+}
+
+bool Empresa::include(Company typed) {
+    if (!at_.person.agrees(kConfirmInclude)) return false;
+    return attemptWriting(at_, incorrectData(), [&] {
+        auto lines = loadCompanies(at_.files, at_.session.folder);
+        // An empty folder in the place of the one shown, as an unmounted drive leaves it.
+        if (lines.empty() && !lines_.empty()) throw Fault("company list gone", kChangedElsewhere);
+        const auto code = lowestFreeCode(lines);
+        if (!code)
+            throw Fault("no free company code", "Todos os códigos de 01 a 99 já estão em uso.");
+        lines.push_back(lineOf(std::move(typed), *code, at_.clock.today()));
+        save(std::move(lines));
+        return true;
+    });
+}
+
+bool Empresa::change(std::size_t position, Company typed) {
+    if (!at_.person.agrees(kConfirmChange)) return false;
+    return attemptWriting(at_, incorrectData(), [&] {
+        auto lines = loadCompanies(at_.files, at_.session.folder);
+        if (position >= lines.size() || lines[position].bytes != lines_.at(position).bytes)
+            throw Fault("company list changed on disk", kChangedElsewhere);
+        const auto code = lines[position].code();
+        if (!code)
+            throw Fault("company line without code: " + lines[position].company.code,
+                        "Esta linha do cadastro não tem um código válido.");
+        lines[position] = lineOf(std::move(typed), *code, at_.clock.today(), lines[position].bytes);
+        save(std::move(lines));
+        return true;
+    });
+}
+
+bool Empresa::hasEmployees(const CompanyLine& line) const {
+    return line.code() &&
+           EmployeeRegister(at_.files, at_.session.folder, *line.code()).hasEmployees();
+}
+
+bool Empresa::confirmsDeletion(bool hasEmployees, DeleteOption option) {
+    if (!at_.person.agrees(kConfirmDelete)) return false;
+    const bool onlyCompany = option == DeleteOption::CompanyOnly;
+    if (onlyCompany && hasEmployees && !at_.person.agrees(kHasEmployees)) return false;
+    if ((!onlyCompany || hasEmployees) && !at_.person.agrees(kDeletesEmployees)) return false;
+    return at_.person.agrees(kCertain);
+}
+
+bool Empresa::remove(std::size_t position, DeleteOption option) {
+    if (position == 0) {
+        at_.person.tell(kFirstCompany);
+        return false;
+    }
+    return attempt(at_, incorrectData(), [&] {
+        const CompanyLine chosen = lines_.at(position);
+        const bool hadEmployees = hasEmployees(chosen);
+        if (!confirmsDeletion(hadEmployees, option)) return false;
+        const auto hold = holdFolder(at_);
+        auto lines = loadCompanies(at_.files, at_.session.folder);
+        if (position >= lines.size() || lines[position].bytes != chosen.bytes ||
+            hasEmployees(chosen) != hadEmployees)
+            throw Fault("company list changed on disk", kChangedElsewhere);
+        // A disk that refuses the register must do so before anything is gone. Then the files go
+        // first: cut short, the command can be given again.
+        save(lines);
+        lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(position));
+        removeFilesOf(chosen, lines);
+        save(std::move(lines));
+        return true;
+    });
+}
+
+void Empresa::removeFilesOf(const CompanyLine& gone, const std::vector<CompanyLine>& remaining) {
+    const auto code = gone.code();
+    const bool stillUsed =
+        std::any_of(remaining.begin(), remaining.end(),
+                    [&](const CompanyLine& line) { return line.code() == code; });
+    if (!code || stillUsed) return;
+    removeRecordsOfCompany(at_.files, at_.session.folder, *code);
+    if (at_.session.company == code) at_.session.company.reset();
+}
+
+bool Empresa::mayDiscardTyped() {
+    return at_.person.agrees(discardTyped());
+}
+
+void Empresa::help() {
+    openHelp(at_, browser_);
+}
+
+void Empresa::save(std::vector<CompanyLine> lines) {
+    saveCompanies(at_.files, at_.session.folder, lines);
+    lines_ = std::move(lines);
+}
+
+}  // namespace winvrx

@@ -1,0 +1,78 @@
+#include "foundation/register/turnos.h"
+
+#include "foundation/register/company_register.h"
+#include "foundation/register/empregados.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+const Message kConfirmChange{"ALTERAÇÃO", "Confirma Alteração deste ITEM?", Icon::Question,
+                             Buttons::YesNo};
+const Message kRotationMember{
+    "ALTERAÇÃO",
+    "Não Permitido Alteração de Turno deste Funcionário pois consta na lista de um dos Grupos da "
+    "Escala de Revezamento. Para Alterar, Primeiro Remova-o da Lista de Revezamento. ",
+    Icon::Exclamation};
+const Message kBarredByScale{
+    "Aviso", "Dado Incorreto!", Icon::Exclamation, Buttons::Ok,
+    "A escala 12x36 é permitida somente nos turnos 1 e 3. Altere primeiro a escala."};
+
+}  // namespace
+
+void Turnos::load() {
+    (void)attempt(at_, incorrectData(), [this] {
+        companyTitle_ = titleOf(loadCompanies(at_.files, at_.session.folder), at_.session.company);
+        lines_.clear();
+        if (at_.session.company)
+            lines_ = EmployeeRegister(at_.files, at_.session.folder, *at_.session.company).load();
+        return true;
+    });
+}
+
+bool Turnos::change(const Employee& employee, Shift shift) {
+    if (!at_.person.agrees(kConfirmChange)) return false;
+    return attempt(at_, incorrectData(), [&] {
+        const CompanyCode company = at_.session.company.value();
+        EmployeeRegister list(at_.files, at_.session.folder, company);
+        auto lines = list.load();
+        (void)lineOfEmployee(lines, employee);
+        if (rotation_.isMember(company, employee.employeeCode().value())) {
+            at_.person.tell(kRotationMember);
+            return false;
+        }
+        if (!allows(employee.scaleOr(), shift)) {
+            at_.person.tell(kBarredByScale);
+            return false;
+        }
+        const auto hold = holdFolder(at_);
+        lines = list.load();
+        EmployeeLine& line = lineOfEmployee(lines, employee);
+        Employee changed = employee;
+        changed.shift = codeOf(shift);
+        line = lineOf(changed, line.bytes);
+        list.save(lines, at_.clock.now());
+        lines_ = std::move(lines);
+        return true;
+    });
+}
+
+EmployeeLine& Turnos::lineOfEmployee(std::vector<EmployeeLine>& lines, const Employee& employee) {
+    const auto line = std::find_if(lines.begin(), lines.end(), [&](const EmployeeLine& one) {
+        return one.employee == employee;
+    });
+    if (line == lines.end()) throw changedElsewhere();
+    return *line;
+}
+
+void Turnos::askForEmployee() {
+    at_.person.tell(noEmployeeSelected());
+}
+
+void Turnos::help() {
+    openHelp(at_, browser_);
+}
+
+}  // namespace winvrx

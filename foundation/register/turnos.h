@@ -1,0 +1,50 @@
+#pragma once
+
+#include "foundation/desk/browser.h"
+#include "foundation/desk/command.h"
+#include "foundation/register/employee_queries.h"
+#include "foundation/register/employee_register.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace winvrx {
+
+/// The small screen that changes the shift of employees already registered. Holds the list as the
+/// screen shows it; a command that is refused or fails leaves list and file as they were.
+class Turnos {
+  public:
+    Turnos(const Workplace& at, Browser& browser, const RotationMembership& rotation)
+        : at_(at), browser_(browser), rotation_(rotation), filter_(at.session.shiftFilter) {}
+
+    /// Reads the list of the selected company; none selected gives an empty list.
+    void load();
+    [[nodiscard]] ShiftFilter filter() const { return filter_; }
+    void setFilter(ShiftFilter filter) { filter_ = filter; }
+    /// The employees with a code whose shift passes the filter, in list order.
+    [[nodiscard]] std::vector<Employee> shown() const { return employeesOf(lines_, filter_); }
+    /// "01 EMPRESA MODELO LTDA"; empty when no company is selected.
+    [[nodiscard]] const std::string& companyTitle() const { return companyTitle_; }
+
+    /// Gives the employee, one of those shown, another shift, unless he is in a rotation group, his
+    /// scale bars it, or his record has changed since it was shown. True when it was recorded.
+    [[nodiscard]] bool change(const Employee& employee, Shift shift);
+    /// Tells that an employee has to be selected first.
+    void askForEmployee();
+    void help();
+
+  private:
+    /// The employee's place in the list; throws Fault when he is no longer there as he was shown.
+    [[nodiscard]] static EmployeeLine& lineOfEmployee(std::vector<EmployeeLine>& lines,
+                                                      const Employee& employee);
+
+    Workplace at_;
+    Browser& browser_;
+    const RotationMembership& rotation_;
+    ShiftFilter filter_;
+    std::vector<EmployeeLine> lines_;
+    std::string companyTitle_;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace winvrx {
+
+/// Base of every fault that a command's catch-all turns into a message. `what()` is for the log;
+/// `explanation()` is one Portuguese sentence for the operator.
+class Fault : public std::runtime_error {
+  public:
+    Fault(const std::string& what, std::string explanation)
+        : std::runtime_error(what), explanation_(std::move(explanation)) {}
+
+    [[nodiscard]] const std::string& explanation() const { return explanation_; }
+
+  private:
+    std::string explanation_;
+};
+
+/// Text that a record cannot hold: a character outside Windows-1252, or a control character.
+class TextFault : public Fault {
+  public:
+    using Fault::Fault;
+};
+
+/// The sentence for the operator: a Fault's own explanation, a general one for anything else.
+[[nodiscard]] std::string explanationOf(const std::exception& fault);
+
+}  // namespace winvrx

@@ -1,0 +1,135 @@
+#include "foundation/values/input_checks.h"
+
+#include "foundation/values/date.h"
+#include "foundation/values/faults.h"
+#include "foundation/values/money.h"
+#include "foundation/values/text.h"
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::size_t kDateWidth = 10;
+constexpr std::size_t kOccupationDigits = 6;
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+bool isDateCharacter(char c) {
+    return isDigit(c) || c == '/' || c == '-' || c == '.';
+}
+
+/// Day, month and year as typed; nullopt when they cannot be told apart.
+std::optional<std::vector<std::string>> dateParts(std::string_view text) {
+    if (!std::all_of(text.begin(), text.end(), isDateCharacter)) return std::nullopt;
+    std::vector<std::string> parts(1);
+    for (const char c : text) {
+        if (isDigit(c))
+            parts.back().push_back(c);
+        else
+            parts.emplace_back();
+    }
+    if (parts.size() == 1 && parts[0].size() == 8)
+        parts = {parts[0].substr(0, 2), parts[0].substr(2, 2), parts[0].substr(4)};
+    if (parts.size() != 3 || parts[2].size() != 4) return std::nullopt;
+    return parts;
+}
+
+/// The digits of a number typed with or without points, dashes, bars and blanks; nullopt when it
+/// has another count of digits or other characters.
+std::optional<std::string> digitsOf(std::string_view text, std::size_t count) {
+    std::string digits;
+    for (const char c : text) {
+        if (isDigit(c))
+            digits += c;
+        else if (c != '.' && c != '-' && c != '/' && c != ' ')
+            return std::nullopt;
+    }
+    return digits.size() == count ? std::optional(digits) : std::nullopt;
+}
+
+std::string twoDigits(const std::string& digits) {
+    return digits.size() == 1 ? "0" + digits : digits;
+}
+
+}  // namespace
+
+Hint textHint(std::string_view utf8) {
+    try {
+        (void)encodeWindows1252(utf8);
+        return {};
+    } catch (const TextFault&) {
+        return {Hint::Tone::Warning, "Contém um caractere que não pode ser gravado."};
+    }
+}
+
+Hint dateHint(std::string_view text, Entry entry) {
+    const std::string completed = completedDate(trimmed(text));
+    if (completed.empty() || parseDate(completed)) return {};
+    const bool finished = entry == Entry::Left || completed.size() >= kDateWidth;
+    if (!std::all_of(completed.begin(), completed.end(), isDateCharacter) || finished)
+        return {Hint::Tone::Warning, dateParts(completed) ? "Esta data não existe no calendário."
+                                                          : "Digite a data como dd/mm/aaaa."};
+    return {};
+}
+
+Hint idHint(IdCheck check, std::string_view name, Entry entry) {
+    const std::string number(name);
+    switch (check) {
+        case IdCheck::Empty:
+            return {};
+        case IdCheck::Valid:
+            return {Hint::Tone::Good, number + " válido"};
+        case IdCheck::Wrong:
+            return {Hint::Tone::Warning, number + " não confere."};
+        case IdCheck::TooShort:
+            break;
+    }
+    if (entry == Entry::Typing) return {};
+    return {Hint::Tone::Warning, number + " incompleto."};
+}
+
+Hint moneyHint(std::string_view text, Entry entry) {
+    if (trimmed(text).empty() || entry == Entry::Typing || parseMoney(text)) return {};
+    return {Hint::Tone::Warning, "Digite o valor como 1.234,56."};
+}
+
+Hint occupationHint(std::string_view text, Entry entry) {
+    if (trimmed(text).empty() || digitsOf(text, kOccupationDigits)) return {};
+    const bool mayBecome = std::all_of(text.begin(), text.end(), isDigit);
+    if (entry == Entry::Typing && mayBecome) return {};
+    return {Hint::Tone::Warning, "O CBO tem seis algarismos."};
+}
+
+std::string completedCpf(std::string_view text) {
+    const auto digits = digitsOf(text, 11);
+    if (!digits) return std::string(text);
+    return digits->substr(0, 3) + "." + digits->substr(3, 3) + "." + digits->substr(6, 3) + "-" +
+           digits->substr(9);
+}
+
+std::string completedPostalCode(std::string_view text) {
+    const auto digits = digitsOf(text, 8);
+    return digits ? digits->substr(0, 5) + "-" + digits->substr(5) : std::string(text);
+}
+
+std::string completedMoney(std::string_view text) {
+    const auto money = parseMoney(text);
+    return money ? "R$ " + moneyText(*money) : std::string(text);
+}
+
+std::string completedDate(std::string_view text) {
+    if (const auto parts = dateParts(text)) {
+        std::string full =
+            twoDigits((*parts)[0]) + "/" + twoDigits((*parts)[1]) + "/" + (*parts)[2];
+        if (parseDate(full)) return full;
+    }
+    return std::string(text);
+}
+
+}  // namespace winvrx

@@ -1,0 +1,167 @@
+#include "foundation/widgets/desktop/register_window.h"
+
+#include "foundation/widgets/desktop/look.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSplitter>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace winvrx {
+
+namespace {
+
+constexpr int kFormShare = 60;
+constexpr int kThirdShare = 30;
+constexpr int kWideShare = 40;
+
+}  // namespace
+
+RegisterWindow::RegisterWindow(const Texts& texts, QWidget* parent)
+    : ScreenWindow(texts.screen, texts.title, parent) {
+    list_ = new RegisterList(texts.screen, texts.listTitle, texts.searchHint, texts.headings, this);
+    list_->setEmptyTexts(texts.emptyList, texts.emptyAction);
+    connect(list_, &RegisterList::chosen, this, &RegisterWindow::choose);
+    connect(list_, &RegisterList::entered, this, [this] { focusForm(); });
+    connect(list_, &RegisterList::firstRequested, this, &RegisterWindow::startNew);
+    addCommands();
+}
+
+void RegisterWindow::addCommands() {
+    const auto named = [this](const char* thing) {
+        return objectName() + QLatin1Char('.') + QLatin1String(thing);
+    };
+    auto* include = addCommand(QStringLiteral("add"), QStringLiteral("Incluir"), Qt::Key_Insert,
+                               named("include"));
+    connect(include, &QToolButton::clicked, this, &RegisterWindow::include);
+    change_ =
+        addCommand(QStringLiteral("edit"), QStringLiteral("Alterar"), Qt::Key_F2, named("change"));
+    connect(change_, &QToolButton::clicked, this, &RegisterWindow::change);
+    remove_ = addCommand(QStringLiteral("delete"), QStringLiteral("Excluir"), Qt::Key_Delete,
+                         named("delete"));
+    connect(remove_, &QToolButton::clicked, this, &RegisterWindow::remove);
+    QPushButton* save = addClosingButton(QStringLiteral("&Gravar"), named("save"));
+    save->setIcon(look::icon(QStringLiteral("save")));
+    save->setToolTip(QKeySequence(QKeySequence::Save).toString(QKeySequence::NativeText));
+    save->setDefault(true);
+    connect(save, &QPushButton::clicked, this, &RegisterWindow::save);
+    auto* saveKey = new QShortcut(QKeySequence::Save, this);
+    connect(saveKey, &QShortcut::activated, this, &RegisterWindow::save);
+    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), named("close"));
+    connect(close, &QPushButton::clicked, this, &RegisterWindow::reject);
+    for (const auto& [key, rows] :
+         {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)}) {
+        auto* move = new QShortcut(key, this);
+        connect(move, &QShortcut::activated, list_, [this, by = rows] { list_->moveBy(by); });
+    }
+}
+
+void RegisterWindow::assemble(QWidget* form, QWidget* underList, ListRoom room) {
+    form_ = form;
+    const int listShare = room == ListRoom::Wide ? kWideShare : kThirdShare;
+    auto* body = new QWidget(this);
+    auto* row = new QHBoxLayout(body);
+    look::layOutBody(*row);
+    auto* split = new QSplitter(body);
+    split->setChildrenCollapsible(false);
+    auto* left = new QWidget(split);
+    auto* column = new QVBoxLayout(left);
+    look::layOutPart(*column);
+    column->addWidget(list_, 1);
+    if (underList) column->addWidget(underList);
+    split->addWidget(left);
+    split->addWidget(form);
+    split->setStretchFactor(0, listShare);
+    split->setStretchFactor(1, kFormShare);
+    split->setHandleWidth(look::kMargin);
+    split->setSizes({listShare * width(), kFormShare * width()});
+    row->addWidget(split);
+    setBody(body);
+}
+
+void RegisterWindow::refresh(std::optional<std::size_t> position) {
+    const auto rows = this->rows();
+    list_->setRows(rows);
+    if (rows.empty()) position.reset();
+    if (position) position = std::min(*position, rows.size() - 1);
+    turnTo(position);
+}
+
+void RegisterWindow::turnTo(std::optional<std::size_t> position) {
+    current_ = position;
+    list_->mark(position);
+    showRecord(position);
+    const bool understood = position && list_->isUnderstood(*position);
+    form_->setEnabled(!position || understood);
+    change_->setEnabled(understood);
+    remove_->setEnabled(position.has_value());
+    showState();
+}
+
+void RegisterWindow::showState() {
+    QString text = newRecordTitle();
+    if (current_) text = QStringLiteral("%1 de %2").arg(*current_ + 1).arg(list_->count());
+    if (current_ && !list_->isUnderstood(*current_))
+        text += QStringLiteral(" · Linha não entendida: fica no arquivo como está");
+    if (isDirty()) text += QStringLiteral(" · Alterações não gravadas");
+    setState(text);
+}
+
+void RegisterWindow::choose(std::size_t position) {
+    if (current_ == position) return;
+    if (isDirty() && !mayDiscardTyped()) {
+        // The list is still handling the key or click that moved it.
+        QMetaObject::invokeMethod(
+            this, [this] { list_->mark(current_); }, Qt::QueuedConnection);
+        return;
+    }
+    turnTo(position);
+}
+
+void RegisterWindow::startNew() {
+    if (isDirty() && !mayDiscardTyped()) return;
+    turnTo(std::nullopt);
+    focusForm();
+}
+
+void RegisterWindow::finishField() {
+    if (auto* edit = qobject_cast<QLineEdit*>(focusWidget())) emit edit->editingFinished();
+}
+
+void RegisterWindow::include() {
+    finishField();
+    if (current_) {
+        startNew();
+    } else if (includeTyped()) {
+        refresh(rows().size() - 1);
+        list_->takeFocus();
+    }
+}
+
+void RegisterWindow::change() {
+    if (!current_) return;
+    finishField();
+    if (!isDirty())
+        focusForm();
+    else if (changeTyped(*current_))
+        refresh(current_);
+}
+
+void RegisterWindow::remove() {
+    if (current_ && removeRecord(*current_)) refresh(current_);
+}
+
+void RegisterWindow::save() {
+    if (current_)
+        change();
+    else
+        include();
+}
+
+bool RegisterWindow::mayClose() {
+    return !isDirty() || mayDiscardTyped();
+}
+
+}  // namespace winvrx

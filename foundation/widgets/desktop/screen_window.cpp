@@ -1,0 +1,179 @@
+#include "foundation/widgets/desktop/screen_window.h"
+
+#include "foundation/widgets/desktop/look.h"
+
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QToolButton>
+
+namespace winvrx {
+
+namespace {
+
+QFrame* band(const QString& objectName, QWidget* parent) {
+    auto* frame = new QFrame(parent);
+    frame->setObjectName(objectName);
+    return frame;
+}
+
+/// A row along the window's edge.
+QHBoxLayout* rowIn(QFrame* frame, int vertical) {
+    auto* row = new QHBoxLayout(frame);
+    row->setContentsMargins(look::kMargin, vertical, look::kMargin, vertical);
+    row->setSpacing(look::kGap);
+    return row;
+}
+
+QString withKey(const QString& text, const QKeySequence& key) {
+    if (key.isEmpty()) return text;
+    return text + QStringLiteral("  ") + key.toString(QKeySequence::NativeText);
+}
+
+}  // namespace
+
+ScreenWindow::ScreenWindow(const QString& objectName, const QString& title, QWidget* parent)
+    : QDialog(parent) {
+    setObjectName(objectName);
+    setWindowTitle(title);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    setWindowFlag(Qt::WindowMaximizeButtonHint, true);
+    frame_ = new QVBoxLayout(this);
+    frame_->setContentsMargins(0, 0, 0, 0);
+    frame_->setSpacing(0);
+    buildTitleBand(title);
+    buildCommandBar();
+    buildStateBar();
+    resize(look::kWindowSize);
+}
+
+void ScreenWindow::buildTitleBand(const QString& title) {
+    QFrame* frame = band(QStringLiteral("titleBand"), this);
+    QHBoxLayout* row = rowIn(frame, look::kGap);
+    QFrame* mark = band(QStringLiteral("titleMark"), frame);
+    mark->setFixedWidth(look::kSmallGap);
+    row->addWidget(mark);
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(0);
+    texts->addWidget(look::label(title, look::TextSize::Title, frame));
+    subtitle_ = look::label(QString(), look::TextSize::Hint, frame);
+    subtitle_->setObjectName(QStringLiteral("subtitle"));
+    subtitle_->hide();
+    texts->addWidget(subtitle_);
+    row->addLayout(texts);
+    row->addStretch();
+    chips_ = new QHBoxLayout;
+    chips_->setSpacing(look::kGap);
+    row->addLayout(chips_);
+    frame_->addWidget(frame);
+}
+
+void ScreenWindow::buildCommandBar() {
+    QFrame* frame = band(QStringLiteral("commandBar"), this);
+    commands_ = rowIn(frame, look::kSmallGap);
+    commands_->addStretch();
+    frame_->addWidget(frame);
+    QToolButton* help = addCommand(QStringLiteral("help"), QStringLiteral("Ajuda"), Qt::Key_F1,
+                                   objectName() + QStringLiteral(".help"));
+    commands_->removeWidget(help);
+    commands_->addWidget(help);
+    connect(help, &QToolButton::clicked, this, &ScreenWindow::helpRequested);
+}
+
+void ScreenWindow::buildStateBar() {
+    QFrame* frame = band(QStringLiteral("stateBar"), this);
+    QHBoxLayout* row = rowIn(frame, look::kGap);
+    state_ = look::label(QString(), look::TextSize::Hint, frame);
+    state_->setObjectName(QStringLiteral("state"));
+    row->addWidget(state_, 1);
+    closing_ = new QHBoxLayout;
+    closing_->setSpacing(look::kGap);
+    row->addLayout(closing_);
+    frame_->addWidget(frame);
+}
+
+void ScreenWindow::setSubtitle(const QString& text) {
+    subtitle_->setText(text);
+    subtitle_->setVisible(!text.isEmpty());
+}
+
+void ScreenWindow::setChips(const QStringList& chips) {
+    while (QLayoutItem* item = chips_->takeAt(0)) {
+        item->widget()->deleteLater();
+        delete item;
+    }
+    for (const QString& text : chips) {
+        QLabel* chip = look::label(text, look::TextSize::Body, this);
+        look::setRole(*chip, "chip");
+        chips_->addWidget(chip, 0, Qt::AlignVCenter);
+    }
+}
+
+QToolButton* ScreenWindow::addCommand(const QString& icon, const QString& text,
+                                      const QKeySequence& key, const QString& objectName) {
+    auto* button = new QToolButton(this);
+    button->setObjectName(objectName);
+    look::setRole(*button, "command");
+    button->setAccessibleName(text);
+    button->setIcon(look::icon(icon));
+    button->setText(withKey(text, key));
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setFocusPolicy(Qt::TabFocus);
+    if (!key.isEmpty()) {
+        auto* shortcut = new QShortcut(key, this);
+        connect(shortcut, &QShortcut::activated, button, &QToolButton::click);
+    }
+    commands_->insertWidget(std::max(0, commands_->count() - 2), button);
+    return button;
+}
+
+void ScreenWindow::setBody(QWidget* body) {
+    frame_->insertWidget(2, body, 1);
+}
+
+void ScreenWindow::setState(const QString& text) {
+    state_->setText(text);
+}
+
+QPushButton* ScreenWindow::addClosingButton(const QString& text, const QString& objectName) {
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(objectName);
+    button->setAccessibleName(QString(text).remove(QLatin1Char('&')));
+    button->setAutoDefault(false);
+    closing_->addWidget(button);
+    return button;
+}
+
+void ScreenWindow::reject() {
+    if (mayClose()) QDialog::reject();
+}
+
+void ScreenWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    reject();
+    if (!isVisible()) event->accept();
+}
+
+bool ScreenWindow::moveOnFromField() {
+    QWidget* field = focusWidget();
+    const bool isField = qobject_cast<QLineEdit*>(field) || qobject_cast<QComboBox*>(field) ||
+                         qobject_cast<QAbstractSpinBox*>(field);
+    if (!isField || field->property("lastField").toBool()) return false;
+    focusNextChild();
+    return true;
+}
+
+void ScreenWindow::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && moveOnFromField()) return;
+    QDialog::keyPressEvent(event);
+}
+
+}  // namespace winvrx

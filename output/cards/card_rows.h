@@ -1,0 +1,59 @@
+#pragma once
+
+#include "foundation/register/company.h"
+#include "foundation/register/employee.h"
+#include "report/report_engine.h"
+#include "timecard/month/month_settings.h"
+#include "timecard/punches/punch_record.h"
+#include "timecard/schedule/standard_schedule.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// What stands on a card: the header block and one row for each of its 31 lines.
+
+namespace winvrx {
+
+inline constexpr int kCardLines = 31;
+
+/// Position of a column of kCardColumns. A name that is no column does not compile.
+[[nodiscard]] consteval std::size_t cardColumn(std::string_view name) {
+    for (std::size_t at = 0; at < kCardColumns.size(); ++at)
+        if (kCardColumns[at] == name) return at;
+    throw "no such column";
+}
+
+/// All that one card is made of.
+struct CardData {
+    Company company;
+    Employee employee;
+    MonthSettings settings;                         ///< with the employee's own overtime figures
+    std::optional<StandardSchedule> schedule;       ///< nullopt: none was recorded
+    std::optional<std::vector<PunchLine>> punches;  ///< nullopt: none were applied
+};
+
+/// "domingo" … "sábado"; Sunday where the record does not say.
+[[nodiscard]] std::string restDayText(const Employee& employee);
+
+/// "Ent:08:00 Saí:12:00 Ent:13:00 Saí:17:00"; a pair without times is left out.
+[[nodiscard]] std::string scheduleText(const DaySchedule& schedule);
+
+/// "12:00 às 13:00"; empty unless the day has both a morning exit and an afternoon entry.
+[[nodiscard]] std::string mealText(const DaySchedule& schedule);
+
+/// "01/03/2024 a 31/03/2024".
+[[nodiscard]] std::string periodText(WorkMonth month);
+
+/// The header block as the screen shows it, captions included, in lines.
+[[nodiscard]] std::string headerText(const CardData& card);
+
+/// Always kCardLines rows. "horas" and the situation stand only on days of the month from the
+/// admission on; a situation only where the day has no times,
+/// "Falta Injustificada" as "Falta Inj.". "total" is the month's sum and
+/// "quinzena" the sum of the row's own half of the month. Without punches a row has its header
+/// values and day labels only.
+[[nodiscard]] std::vector<CardRow> cardRows(const CardData& card);
+
+}  // namespace winvrx

@@ -1,0 +1,184 @@
+#include "output/cards/cartao.h"
+
+#include "foundation/register/company_register.h"
+#include "foundation/register/employee_register.h"
+#include "foundation/values/text.h"
+#include "report/print_result.h"
+#include "timecard/month/overtime_record.h"
+#include "timecard/month/selected_month.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::string_view kPrintingDrive = "C";
+
+const Message kConfirmOne{"IMPRIMIR CARTÃO PONTO",
+                          "Este Comando Irá Imprimir o Item Selecionado. Deseja Prosseguir?",
+                          Icon::Question, Buttons::YesNo};
+const Message kNoStock{"IMPRIMIR CARTÃO PONTO", "Selecione um Tipo de Cartão na Lista! ",
+                       Icon::Exclamation};
+const Message kNoEmployee{"IMPRIMIR CARTÃO PONTO", "Selecione um Funcionário na Lista! ",
+                          Icon::Exclamation};
+const Message kNoMonth{"IMPRIMIR CARTÃO PONTO", "Informe um Mês de Trabalho!!", Icon::Exclamation};
+const Message kWrongDrive{"Imprimir",
+                          "Diretório Inválido p/ Impressão! Transfira os dados do diretório atual "
+                          "para o Diretório 'C'.",
+                          Icon::Critical};
+
+Company companyOf(FileSystem& files, const Session& session) {
+    for (const CompanyLine& line : loadCompanies(files, session.folder))
+        if (line.code() && line.code() == session.company) return line.company;
+    throw Fault("company is not in the register",
+                "A empresa selecionada não está no cadastro de empresas.");
+}
+
+}  // namespace
+
+Cartao::Cartao(const Workplace& at, const CartaoServices& services)
+    : at_(at), services_(services), filter_(at.session.shiftFilter) {}
+
+void Cartao::load() {
+    (void)attempt(at_, incorrectData(), [this] {
+        company_ = companyOf(at_.files, at_.session);
+        const auto selected = loadSelectedMonth(at_.files, at_.session.folder);
+        month_ = selected ? std::optional(selected->month) : std::nullopt;
+        stock_ = loadStock(at_.files, at_.session);
+        printer_ = loadPrinterName(at_.files, at_.session.folder);
+        const bool hasUnwritten = choices_.printer != remembered_;
+        remembered_ = loadPrinterMemory(at_.files, at_.session);
+        if (!hasUnwritten) choices_.printer = remembered_;
+        readEmployees();
+        return true;
+    });
+}
+
+bool Cartao::remember() {
+    if (choices_.printer == remembered_) return true;
+    return attemptWriting(at_, incorrectData(), [this] {
+        savePrinterMemory(at_.files, at_.session, choices_.printer);
+        remembered_ = choices_.printer;
+        return true;
+    });
+}
+
+std::string Cartao::stockLabel() const {
+    return stock_ ? std::string(stock_->displayName) : std::string();
+}
+
+void Cartao::setFilter(ShiftFilter filter) {
+    filter_ = filter;
+    ofShift_.clear();
+    employees_.clear();
+    (void)attempt(at_, incorrectData(), [this] {
+        readEmployees();
+        return true;
+    });
+}
+
+void Cartao::readEmployees() {
+    const EmployeeRegister list(at_.files, at_.session.folder, at_.session.company.value());
+    ofShift_ = employeesOf(list.load(), filter_);
+    setSearch(search_);
+}
+
+void Cartao::setSearch(std::string text) {
+    search_ = std::move(text);
+    employees_.clear();
+    std::ranges::copy_if(ofShift_, std::back_inserter(employees_), [this](const Employee& one) {
+        return matchesSearch(one.code + " " + one.name, search_);
+    });
+}
+
+std::string Cartao::headerPreview(std::optional<std::size_t> position) const {
+    if (!month_ || !position || *position >= employees_.size()) return {};
+    std::string text;
+    (void)attempt(at_, incorrectData(), [&] {
+        text = headerText(cardOf(employees_[*position]));
+        return true;
+    });
+    return text;
+}
+
+bool Cartao::printOne(std::optional<std::size_t> position, const PrintRun& run) {
+    if (!at_.person.agrees(kConfirmOne)) return false;
+    const bool selected = position && *position < employees_.size();
+    return isReady(selected) && print({employees_[*position]}, run);
+}
+
+bool Cartao::printAll(const PrintRun& run) {
+    return isReady(!employees_.empty()) && print(employees_, run);
+}
+
+void Cartao::help() {
+    openHelp(at_, services_.browser);
+}
+
+bool Cartao::isReady(bool anyEmployee) {
+    const Message* refusal = nullptr;
+    if (!stock_ || !layoutFor(stock_->code, choices_.printer.tray, LayoutSet::A))
+        refusal = &kNoStock;
+    else if (!anyEmployee)
+        refusal = &kNoEmployee;
+    else if (!month_)
+        refusal = &kNoMonth;
+    if (refusal) at_.person.tell(*refusal);
+    return !refusal;
+}
+
+bool Cartao::drivePrints() {
+    const char letter = at_.session.folder.driveLetter();
+    if (upperCase(std::string(1, letter)) == kPrintingDrive) return true;
+    at_.person.tell(kWrongDrive);
+    return false;
+}
+
+bool Cartao::print(const std::vector<Employee>& people, const PrintRun& run) {
+    if (!drivePrints()) return false;
+    (void)remember();
+    return attempt(at_, printFailed(),
+                   [&] { return CardRun(at_, services_.engine, planFor(people), run).print(); });
+}
+
+CardRunPlan Cartao::planFor(const std::vector<Employee>& people) const {
+    const std::string entry = printerEntry(1, printer_);
+    const PrintScaleKey key{printer_.empty() ? services_.printers.defaultName() : printer_,
+                            std::string(stock_->code)};
+    const ReportRequest request{
+        .layoutName = {},
+        .title = std::string(kCartaoTitle),
+        .printHeader = choices_.printer.printHeader,
+        .alignment = loadAlignment(at_.files, at_.session.folder, key, services_.alignment),
+        .output = choices_.output,
+        .printerName = printerOfEntry(entry),
+        .trays = choices_.printer.trays};
+    return {.people = people,
+            .companyName = company_.name,
+            .month = *month_,
+            .choices = choices_,
+            .request = request,
+            .layoutOf =
+                [this](LayoutSet set) {
+                    return layoutFor(stock_->code, choices_.printer.tray, set).value();
+                },
+            .rowsOf = [this](const Employee& employee) { return cardRows(cardOf(employee)); }};
+}
+
+CardData Cartao::cardOf(const Employee& employee) const {
+    const DataFolder& folder = at_.session.folder;
+    const CompanyCode& company = at_.session.company.value();
+    const EmployeeCode code = employee.employeeCode().value();
+    MonthSettings settings = loadMonthSettings(at_.files, folder, month_.value());
+    settings.overtime = overtimeOf(at_.files, folder, company, code, settings);
+    return {.company = company_,
+            .employee = employee,
+            .settings = settings,
+            .schedule = loadSchedule(at_.files, folder, company, code),
+            .punches = loadPunches(at_.files, folder, company, code, *month_)};
+}
+
+}  // namespace winvrx

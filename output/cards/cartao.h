@@ -1,0 +1,92 @@
+#pragma once
+
+#include "foundation/desk/browser.h"
+#include "foundation/desk/command.h"
+#include "foundation/register/company.h"
+#include "output/cards/card_rows.h"
+#include "output/cards/card_run.h"
+#include "report/print_scale.h"
+#include "report/printers.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace winvrx {
+
+inline constexpr std::string_view kCartaoTitle = "CARTÃO PONTO";
+
+/// What the printing screen works with beside the desk. All outlive the screen.
+struct CartaoServices {
+    Browser& browser;
+    ReportEngine& engine;
+    const Printers& printers;
+    const AlignmentMemory& alignment;
+};
+
+/// The time-card printing screen.
+///
+/// Prints the cards of the list: the employees that pass the shift filter and the search, in file
+/// order. A card's records are read when its turn comes. A failed card ends the run; cards already
+/// printed stay printed.
+class Cartao {
+  public:
+    Cartao(const Workplace& at, const CartaoServices& services);
+
+    /// Reads company, employees, work month, stock, printer and what the screen remembers again.
+    void load();
+    /// Puts what the screen remembers of the choices on the disk, if it changed. False when it
+    /// could not be written.
+    bool remember();
+
+    [[nodiscard]] const std::vector<Employee>& employees() const { return employees_; }
+    [[nodiscard]] const Company& company() const { return company_; }
+    /// The stock's display name; empty when none is chosen.
+    [[nodiscard]] std::string stockLabel() const;
+    /// Empty stands for the system's default printer.
+    [[nodiscard]] const std::string& printerName() const { return printer_; }
+    [[nodiscard]] std::optional<WorkMonth> month() const { return month_; }
+
+    [[nodiscard]] ShiftFilter filter() const { return filter_; }
+    /// Reads the employees of this filter.
+    void setFilter(ShiftFilter filter);
+    /// Keeps on the list those whose code or name match; an empty text keeps all.
+    void setSearch(std::string text);
+
+    [[nodiscard]] PrintChoices& choices() { return choices_; }
+
+    /// The header block of the card of the employee at `position`; empty when nobody is selected
+    /// or no work month is chosen.
+    [[nodiscard]] std::string headerPreview(std::optional<std::size_t> position) const;
+
+    /// "Imprimir >": the card of the selected employee. True when it was printed.
+    [[nodiscard]] bool printOne(std::optional<std::size_t> position, const PrintRun& run);
+    /// "Imprimir >>": every card of the list. True when all were printed.
+    [[nodiscard]] bool printAll(const PrintRun& run);
+
+    void help();
+
+  private:
+    void readEmployees();
+    [[nodiscard]] bool isReady(bool anyEmployee);
+    [[nodiscard]] bool drivePrints();
+    [[nodiscard]] bool print(const std::vector<Employee>& people, const PrintRun& run);
+    [[nodiscard]] CardRunPlan planFor(const std::vector<Employee>& people) const;
+    [[nodiscard]] CardData cardOf(const Employee& employee) const;
+
+    Workplace at_;
+    CartaoServices services_;
+    PrintChoices choices_;
+    PrinterMemory remembered_;
+    ShiftFilter filter_;
+    Company company_;
+    std::string search_;
+    std::vector<Employee> ofShift_;
+    std::vector<Employee> employees_;
+    std::optional<WorkMonth> month_;
+    const CardStock* stock_ = nullptr;
+    std::string printer_;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "foundation/widgets/desktop/screen_window.h"
+#include "output/cards/cartao.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+class QComboBox;
+class QLabel;
+class QListWidget;
+
+namespace winvrx {
+
+class PrintChoicesBox;
+class PrintProgress;
+class SearchBox;
+
+/// The screens that the printing screen opens. Each returns when its screen is closed.
+struct CartaoLinks {
+    std::function<void(QWidget* parent)> openStocks = {};
+    std::function<void(QWidget* parent)> openWorkMonth = {};
+    std::function<void(QWidget* parent)> openPrinters = {};
+    std::function<void(QWidget* parent)> openAlignment = {};
+};
+
+/// The time-card printing screen: employees at the left, header block and choices at the right.
+class CartaoWindow : public ScreenWindow {
+    Q_OBJECT
+
+  public:
+    /// `cartao` outlives the window; it is read again when the window opens.
+    CartaoWindow(Cartao& cartao, CartaoLinks links, QWidget* parent = nullptr);
+
+  protected:
+    [[nodiscard]] bool mayClose() override;
+
+  private:
+    void buildCommands();
+    void buildClosingButtons();
+    [[nodiscard]] QWidget* buildBody();
+    [[nodiscard]] QWidget* buildList(QWidget* parent);
+    [[nodiscard]] QWidget* buildPreview(QWidget* parent);
+    void connectAll();
+
+    void visit(const std::function<void(QWidget*)>& screen);
+    void printOne();
+    void printAll();
+    [[nodiscard]] PrintRun runWith(PrintProgress* progress);
+    [[nodiscard]] std::string choosePdf(const std::string& proposedName);
+    [[nodiscard]] std::string choosePdfFolder();
+
+    void showList();
+    void showPreview();
+    void showContext();
+    [[nodiscard]] std::optional<std::size_t> selected() const;
+
+    Cartao& cartao_;
+    CartaoLinks links_;
+    QComboBox* shift_ = nullptr;
+    SearchBox* search_ = nullptr;
+    QListWidget* list_ = nullptr;
+    QLabel* emptyList_ = nullptr;
+    QLabel* header_ = nullptr;
+    QLabel* headerHint_ = nullptr;
+    PrintChoicesBox* choices_ = nullptr;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,162 @@
+#include "output/cards/desktop/print_choices_box.h"
+
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/field_box.h"
+#include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/option_group.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+namespace winvrx {
+
+namespace {
+
+/// The option beside those of ReportOutput: a PDF file for each employee.
+constexpr int kPdfForEach = 100;
+
+template <typename Choice>
+constexpr int idOf(Choice choice) {
+    return static_cast<int>(choice);
+}
+
+}  // namespace
+
+PrintChoicesBox::PrintChoicesBox(const PrintChoices& choices, QWidget* parent)
+    : QWidget(parent),
+      output_(buildOutput()),
+      mode_(buildMode()),
+      tray_(buildTray()),
+      cardOutput_(buildCardOutput()) {
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(look::kGroupGap);
+    grid->setVerticalSpacing(look::kMargin);
+    grid->addWidget(output_, 0, 0, Qt::AlignTop);
+    grid->addWidget(mode_, 0, 1, Qt::AlignTop);
+    grid->addWidget(tray_, 1, 0, Qt::AlignTop);
+    grid->addWidget(cardOutput_, 1, 1, Qt::AlignTop);
+    grid->addWidget(buildHeaderChoice(), 2, 0, Qt::AlignTop);
+    grid->addWidget(buildPrinterTrays(), 2, 1);
+    grid->setColumnStretch(1, 1);
+    showChoices(choices);
+    connectAll();
+}
+
+OptionGroup* PrintChoicesBox::buildOutput() {
+    auto* group =
+        new OptionGroup(QStringLiteral("Saída:"), QStringLiteral("cartao.output"), 2, this);
+    group->addOption(idOf(ReportOutput::Preview), QStringLiteral("&Visualizar"),
+                     QStringLiteral("preview"));
+    group->addOption(idOf(ReportOutput::Printer), QStringLiteral("I&mprimir"),
+                     QStringLiteral("printer"));
+    group->addOption(idOf(ReportOutput::PdfFile), QStringLiteral("Gravar em P&DF"),
+                     QStringLiteral("pdf"));
+    group->addOption(kPdfForEach, QStringLiteral("Um PDF por &funcionário"),
+                     QStringLiteral("pdfForEach"));
+    return group;
+}
+
+OptionGroup* PrintChoicesBox::buildMode() {
+    auto* group = new OptionGroup(QStringLiteral("Opção de Impressão do Cartão:"),
+                                  QStringLiteral("cartao.mode"), 2, this);
+    group->addOption(idOf(PrintMode::OneRun), QStringLiteral("Imprimir &Todos de Uma só Vez"),
+                     QStringLiteral("oneRun"));
+    group->addOption(idOf(PrintMode::OneAtATime),
+                     QStringLiteral("Imprimir Todos I&ntermitente (Um de cada Vez)"),
+                     QStringLiteral("oneAtATime"));
+    return group;
+}
+
+OptionGroup* PrintChoicesBox::buildTray() {
+    auto* group = new OptionGroup(QStringLiteral("Posição Cartão na Bandeja:"),
+                                  QStringLiteral("cartao.tray"), 2, this);
+    group->addOption(idOf(TrayPosition::Central), QStringLiteral("&Central"),
+                     QStringLiteral("central"));
+    group->addOption(idOf(TrayPosition::Lateral), QStringLiteral("&Lateral"),
+                     QStringLiteral("lateral"));
+    return group;
+}
+
+OptionGroup* PrintChoicesBox::buildCardOutput() {
+    auto* group = new OptionGroup(QStringLiteral("Cartões de dois lados saem com a face:"),
+                                  QStringLiteral("cartao.cardOutput"), 2, this);
+    group->setToolTip(QStringLiteral(
+        "Define a ordem do segundo lado. Se a bandeja imprime a face de baixo, escolha a outra."));
+    group->addOption(idOf(CardOutput::FaceDown), QStringLiteral("Impressa para &baixo"),
+                     QStringLiteral("faceDown"));
+    group->addOption(idOf(CardOutput::FaceUp), QStringLiteral("Impressa para cima"),
+                     QStringLiteral("faceUp"));
+    return group;
+}
+
+QWidget* PrintChoicesBox::buildHeaderChoice() {
+    auto* part = new QWidget(this);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    column->addWidget(look::heading(QStringLiteral("# - Impresso Cabeçalho de Cartão:"), part));
+    printHeader_ = new QCheckBox(QStringLiteral("Imprimir empresa e funcion&ário"), part);
+    printHeader_->setObjectName(QStringLiteral("cartao.printHeader"));
+    printHeader_->setAccessibleName(QStringLiteral("Impresso Cabeçalho de Cartão"));
+    column->addWidget(printHeader_);
+    return part;
+}
+
+QWidget* PrintChoicesBox::buildPrinterTrays() {
+    auto* part = new QWidget(this);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    column->addWidget(look::heading(QStringLiteral("Bandeja Impressora:"), part));
+    auto* row = new QHBoxLayout;
+    row->setSpacing(look::kGap);
+    for (std::size_t at = 0; at < trays_.size(); ++at) {
+        const QString number = QString::number(at + 1);
+        trays_[at] = new TextField(QStringLiteral("Bandeja &") + number,
+                                   QStringLiteral("cartao.printerTray") + number,
+                                   static_cast<int>(kTrayWidth), nullptr, part);
+        row->addWidget(trays_[at]);
+    }
+    trays_.back()->edit()->setProperty("lastField", true);
+    column->addLayout(row);
+    return part;
+}
+
+void PrintChoicesBox::showChoices(const PrintChoices& choices) {
+    mode_->choose(idOf(choices.mode));
+    const bool pdfForEach =
+        choices.output == ReportOutput::PdfFile && choices.pdfFiles == PdfFiles::OneForEach;
+    output_->choose(pdfForEach ? kPdfForEach : idOf(choices.output));
+    tray_->choose(idOf(choices.printer.tray));
+    cardOutput_->choose(idOf(choices.printer.output));
+    printHeader_->setChecked(choices.printer.printHeader);
+    for (std::size_t at = 0; at < trays_.size(); ++at)
+        trays_[at]->setText(toQt(choices.printer.trays[at]));
+}
+
+void PrintChoicesBox::connectAll() {
+    for (OptionGroup* group : {mode_, output_, tray_, cardOutput_})
+        connect(group, &OptionGroup::picked, this, &PrintChoicesBox::changed);
+    connect(printHeader_, &QCheckBox::toggled, this, &PrintChoicesBox::changed);
+    for (TextField* field : trays_)
+        connect(field, &TextField::edited, this, &PrintChoicesBox::changed);
+}
+
+PrintChoices PrintChoicesBox::choices() const {
+    PrintChoices choices{.mode = static_cast<PrintMode>(mode_->chosen())};
+    const bool pdfForEach = output_->chosen() == kPdfForEach;
+    choices.output =
+        pdfForEach ? ReportOutput::PdfFile : static_cast<ReportOutput>(output_->chosen());
+    choices.pdfFiles = pdfForEach ? PdfFiles::OneForEach : PdfFiles::OneForAll;
+    choices.printer = {.output = static_cast<CardOutput>(cardOutput_->chosen()),
+                       .tray = static_cast<TrayPosition>(tray_->chosen()),
+                       .trays = {},
+                       .printHeader = printHeader_->isChecked()};
+    for (std::size_t at = 0; at < trays_.size(); ++at)
+        choices.printer.trays[at] = toUtf8(trays_[at]->text());
+    return choices;
+}
+
+}  // namespace winvrx

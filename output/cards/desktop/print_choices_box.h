@@ -1,0 +1,47 @@
+#pragma once
+
+#include "output/cards/cartao.h"
+
+#include <QWidget>
+
+#include <array>
+
+class QCheckBox;
+
+namespace winvrx {
+
+class OptionGroup;
+class TextField;
+
+/// The choices of the printing screen: where to, how many at a time, how the card is fed and comes
+/// out, and whether its header is printed.
+class PrintChoicesBox : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit PrintChoicesBox(const PrintChoices& choices, QWidget* parent = nullptr);
+
+    [[nodiscard]] PrintChoices choices() const;
+
+  signals:
+    void changed();
+
+  private:
+    [[nodiscard]] OptionGroup* buildOutput();
+    [[nodiscard]] OptionGroup* buildMode();
+    [[nodiscard]] OptionGroup* buildTray();
+    [[nodiscard]] OptionGroup* buildCardOutput();
+    [[nodiscard]] QWidget* buildHeaderChoice();
+    [[nodiscard]] QWidget* buildPrinterTrays();
+    void showChoices(const PrintChoices& choices);
+    void connectAll();
+
+    OptionGroup* output_;
+    OptionGroup* mode_;
+    OptionGroup* tray_;
+    OptionGroup* cardOutput_;
+    QCheckBox* printHeader_ = nullptr;
+    std::array<TextField*, 3> trays_{};
+};
+
+}  // namespace winvrx

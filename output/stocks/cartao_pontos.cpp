@@ -1,0 +1,236 @@
+#include "output/stocks/cartao_pontos.h"
+
+#include "foundation/register/company_register.h"
+#include "output/stocks/sample_card.h"
+#include "report/print_result.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace winvrx {
+
+namespace {
+
+const Message kConfirmReset{"EXCLUSÃO", "Confirma a Volta de Todos os Alinhamentos ao Padrão?",
+                            Icon::Question, Buttons::YesNo,
+                            "Os ajustes de todos os tipos de cartão voltam a 10 e 10."};
+const Message kConfirmCalibration{
+    "Imprimir Folha de Calibração",
+    "Coloque uma Folha A4 em Branco na Impressora! Pressione SIM para Imprimir ou NÃO para "
+    "Cancelar Impressão.",
+    Icon::Question, Buttons::YesNo};
+const Message kScaleOutOfBounds{
+    std::string(kCartaoPontosTitle), "Dados incorretos!", Icon::Exclamation, Buttons::Ok,
+    "A escala vai de 90,00 a 110,00 por cento e o deslocamento de -50,00 a 50,00 mm."};
+const Message kImpossibleDistances{
+    std::string(kCartaoPontosTitle), "Dados incorretos!", Icon::Exclamation, Buttons::Ok,
+    "As distâncias medidas não combinam com a folha de calibração. Meça de novo, a partir da borda "
+    "do papel."};
+
+constexpr auto kChangedElsewhere =
+    "O alinhamento foi alterado por outro computador. Abra a tela novamente.";
+
+Message confirmTest(const CardStock& stock) {
+    return {"Imprimir Teste",
+            "Coloque um Cartão " + std::string(stock.displayName) +
+                " na Impressora! Pressione SIM para Imprimir ou NÃO para Cancelar Impressão.",
+            Icon::Question, Buttons::YesNo};
+}
+
+Offsets moved(Offsets offsets, Direction direction) {
+    const bool across = direction == Direction::Left || direction == Direction::Right;
+    const bool back = direction == Direction::Left || direction == Direction::Up;
+    int& offset = across ? offsets.horizontal : offsets.vertical;
+    offset = std::clamp(offset + (back ? -kOffsetStep : kOffsetStep), 0, kGreatestOffset);
+    return offsets;
+}
+
+Company companyIn(FileSystem& files, const Session& session) {
+    for (const CompanyLine& line : loadCompanies(files, session.folder))
+        if (line.code() && line.code() == session.company) return line.company;
+    return {};
+}
+
+}  // namespace
+
+std::string lineOffsetText(int lines) {
+    return std::to_string(lines) + (lines == 1 ? " Linha" : " Linhas");
+}
+
+CartaoPontos::CartaoPontos(const Workplace& at, const CartaoPontosServices& services)
+    : at_(at), services_(services) {}
+
+void CartaoPontos::load() {
+    (void)attempt(at_, incorrectData(), [this] {
+        printer_ = loadPrinterName(at_.files, at_.session.folder);
+        feed_ = loadPrinterMemory(at_.files, at_.session);
+        company_ = companyIn(at_.files, at_.session);
+        const CardStock* stock = loadStock(at_.files, at_.session);
+        entry_ = stock ? alignmentEntryOf(stock->code).value_or(0) : 0;
+        readSelected();
+        return true;
+    });
+}
+
+std::vector<const CardStock*> CartaoPontos::entries() {
+    std::vector<const CardStock*> stocks;
+    for (const std::string_view code : kPrintOrder)
+        stocks.push_back(findStock(code));
+    return stocks;
+}
+
+bool CartaoPontos::select(std::size_t entry) {
+    const std::size_t former = std::exchange(entry_, entry);
+    const bool read = attempt(at_, incorrectData(), [this] {
+        readSelected();
+        return true;
+    });
+    if (!read) entry_ = former;
+    return read;
+}
+
+void CartaoPontos::readSelected() {
+    std::vector<Offsets> alignments = loadOffsets(at_.files, at_.session.folder);
+    scale_ = loadPrintScale(at_.files, at_.session.folder, scaleKey());
+    alignments_ = std::move(alignments);
+}
+
+const CardStock& CartaoPontos::stock() const {
+    return *findStock(kPrintOrder.at(entry_));
+}
+
+Alignment CartaoPontos::alignment() const {
+    return {.horizontalTwips = offsets().horizontal,
+            .verticalTwips = offsets().vertical,
+            .lines = services_.memory.lines,
+            .scale = scale_};
+}
+
+bool CartaoPontos::move(Direction direction) {
+    return attemptWriting(at_, incorrectData(), [&] {
+        if (loadOffsets(at_.files, at_.session.folder)[entry_] != offsets())
+            throw Fault("alignment changed on disk", kChangedElsewhere);
+        const Offsets now = moved(offsets(), direction);
+        saveOffsets(at_.files, at_.session.folder, entry_, now);
+        alignments_[entry_] = now;
+        return true;
+    });
+}
+
+bool CartaoPontos::reset() {
+    if (!at_.person.agrees(kConfirmReset)) return false;
+    return attemptWriting(at_, incorrectData(), [this] {
+        removeOffsets(at_.files, at_.session.folder);
+        alignments_.assign(kAlignmentEntries, Offsets());
+        services_.memory.lines = 0;
+        return true;
+    });
+}
+
+std::string CartaoPontos::lineOffset() const {
+    return services_.memory.lines == 0 ? std::string() : lineOffsetText(services_.memory.lines);
+}
+
+void CartaoPontos::typeLineOffset(std::string_view text) {
+    int& lines = services_.memory.lines;
+    lines = kGreatestLineOffset;
+    while (lines > 1 && lineOffsetText(lines) != text)
+        --lines;
+}
+
+std::string CartaoPontos::printer() const {
+    return printer_.empty() ? services_.printers.defaultName() : printer_;
+}
+
+PrintScaleKey CartaoPontos::scaleKey() const {
+    return {printer(), std::string(stock().code)};
+}
+
+bool CartaoPontos::typeScale(const std::array<std::string, 4>& figures) {
+    PrintScale scale;
+    bool numbers = true;
+    for (std::size_t i = 0; i < figures.size(); ++i) {
+        const auto value = parseHundredths(figures[i]);
+        numbers = numbers && value;
+        scale.*kPrintScaleFields[i].member = value.value_or(0);
+    }
+    if (numbers && isUsable(scale)) return saveScale(scale);
+    at_.person.tell(kScaleOutOfBounds);
+    return false;
+}
+
+bool CartaoPontos::saveScale(const PrintScale& scale) {
+    return attemptWriting(at_, incorrectData(), [&] {
+        const PrintScaleKey key = scaleKey();
+        if (key.printer.empty())
+            throw Fault("no printer to keep a scale for", "Não há uma impressora escolhida.");
+        if (loadPrintScale(at_.files, at_.session.folder, key) != scale_)
+            throw Fault("print scale changed on disk", kChangedElsewhere);
+        savePrintScale(at_.files, at_.session.folder, {key, scale});
+        scale_ = scale;
+        return true;
+    });
+}
+
+bool CartaoPontos::typeDistances(const std::array<std::string, 4>& distances) {
+    MeasuredSheet sheet;
+    bool numbers = true;
+    for (std::size_t i = 0; i < distances.size(); ++i) {
+        const auto value = parseHundredths(distances[i]);
+        numbers = numbers && value;
+        sheet.*kMeasuredDistances[i] = value.value_or(0);
+    }
+    const auto scale = numbers ? scaleFrom(sheet) : std::nullopt;
+    if (scale) return saveScale(*scale);
+    at_.person.tell(kImpossibleDistances);
+    return false;
+}
+
+bool CartaoPontos::mayDiscardTyped() {
+    return at_.person.agrees(discardTyped());
+}
+
+bool CartaoPontos::printTest() {
+    if (!at_.person.agrees(confirmTest(stock()))) return false;
+    ReportRequest request{.layoutName = layoutName(), .title = "Imprimir Teste"};
+    request.printHeader = feed_.printHeader;
+    request.alignment = alignment();
+    request.side = CardSide::First;
+    return print(std::move(request), sampleRows());
+}
+
+bool CartaoPontos::printCalibrationSheet() {
+    if (!at_.person.agrees(kConfirmCalibration)) return false;
+    CardRow row;
+    row[cardColumn("nome")] = printer();
+    return print(
+        {.layoutName = std::string(kCalibrationLayout), .title = "Imprimir Folha de Calibração"},
+        {row});
+}
+
+bool CartaoPontos::print(ReportRequest request, std::vector<CardRow> rows) {
+    request.output = ReportOutput::Printer;
+    request.printerName = printerOfEntry(printerEntry(1, printer_));
+    request.trays = feed_.trays;
+    return attempt(at_, printFailed(), [&] {
+        std::optional card = std::move(rows);
+        const auto cards = [&card] { return std::exchange(card, std::nullopt); };
+        const ReportResult result =
+            services_.engine.print(request, cards, [](int) { return true; });
+        return isPrinted(result, at_.person, services_.engine);
+    });
+}
+
+std::string CartaoPontos::layoutName() const {
+    return layoutFor(stock().code, feed_.tray, LayoutSet::B).value();
+}
+
+std::vector<CardRow> CartaoPontos::sampleRows() const {
+    return sampleCardRows(company_, monthOf(at_.clock.today()));
+}
+
+void CartaoPontos::help() {
+    openHelp(at_, services_.browser);
+}
+
+}  // namespace winvrx

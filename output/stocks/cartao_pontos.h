@@ -1,0 +1,109 @@
+#pragma once
+
+#include "foundation/desk/browser.h"
+#include "foundation/desk/command.h"
+#include "foundation/register/company.h"
+#include "output/stocks/printer_memory.h"
+#include "report/calibration.h"
+#include "report/print_scale.h"
+#include "report/printers.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace winvrx {
+
+inline constexpr std::string_view kCartaoPontosTitle = "Ajuste de Impressão";
+
+/// One press of an arrow, twips.
+inline constexpr int kOffsetStep = 20;
+inline constexpr int kGreatestLineOffset = 10;
+
+enum class Direction { Left, Right, Up, Down };
+
+/// "1 Linha" … "10 Linhas".
+[[nodiscard]] std::string lineOffsetText(int lines);
+
+/// What the alignment screen works with beside the desk. All outlive the screen.
+struct CartaoPontosServices {
+    Browser& browser;
+    ReportEngine& engine;
+    const Printers& printers;
+    AlignmentMemory& memory;
+};
+
+/// The alignment screen: where the print comes to lie on the card. Each stock has an entry of the
+/// list with its two offsets, each printer and stock a scale.
+///
+/// A command that is refused or fails leaves files and figures as they were.
+class CartaoPontos {
+  public:
+    CartaoPontos(const Workplace& at, const CartaoPontosServices& services);
+
+    /// Reads everything again and selects the stock in use, or else the first of the list.
+    void load();
+
+    /// What the list shows.
+    [[nodiscard]] static std::vector<const CardStock*> entries();
+    [[nodiscard]] std::size_t selected() const { return entry_; }
+    /// Loads the entry's offsets and its scale. False when they could not be read.
+    bool select(std::size_t entry);
+
+    [[nodiscard]] const CardStock& stock() const;
+    [[nodiscard]] const Offsets& offsets() const { return alignments_.at(entry_); }
+    [[nodiscard]] const Offsets& offsets(std::size_t entry) const { return alignments_.at(entry); }
+    /// The print as it would be moved now.
+    [[nodiscard]] Alignment alignment() const;
+
+    /// Moves by a step within the bounds and records it. False when it could not be recorded.
+    bool move(Direction direction);
+    /// "Reset Alinhamentos": all entries, and the line offset. False when refused.
+    bool reset();
+
+    /// The line offset's text; empty until one is chosen.
+    [[nodiscard]] std::string lineOffset() const;
+    /// Takes a text of the drop-down; any other becomes "1 Linha".
+    void typeLineOffset(std::string_view text);
+
+    /// The printer whose scale is shown; empty when none is installed.
+    [[nodiscard]] std::string printer() const;
+    [[nodiscard]] const PrintScale& scale() const { return scale_; }
+    /// Records typed figures, in the order of kPrintScaleFields. False when told why not.
+    bool typeScale(const std::array<std::string, 4>& figures);
+    /// Works the scale out of what was measured on the calibration sheet, in millimetres and in the
+    /// order of kMeasuredDistances, and records it. False when told why not.
+    bool typeDistances(const std::array<std::string, 4>& distances);
+    /// Asks before typed but unrecorded figures are left behind. True when they may go.
+    [[nodiscard]] bool mayDiscardTyped();
+
+    /// "Imprimir Teste". True when the card was printed.
+    bool printTest();
+    bool printCalibrationSheet();
+
+    /// The layout of the selected stock, and the card that the sample on the screen shows.
+    [[nodiscard]] std::string layoutName() const;
+    [[nodiscard]] std::vector<CardRow> sampleRows() const;
+    /// False where the printing screen leaves the header block to the stock.
+    [[nodiscard]] bool printsHeader() const { return feed_.printHeader; }
+
+    void help();
+
+  private:
+    void readSelected();
+    [[nodiscard]] bool saveScale(const PrintScale& scale);
+    [[nodiscard]] PrintScaleKey scaleKey() const;
+    [[nodiscard]] bool print(ReportRequest request, std::vector<CardRow> rows);
+
+    Workplace at_;
+    CartaoPontosServices services_;
+    std::size_t entry_ = 0;
+    std::vector<Offsets> alignments_ = std::vector<Offsets>(kAlignmentEntries);
+    PrintScale scale_;
+    PrinterMemory feed_;
+    std::string printer_;
+    Company company_;
+};
+
+}  // namespace winvrx

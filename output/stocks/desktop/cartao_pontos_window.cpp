@@ -1,0 +1,207 @@
+#include "output/stocks/desktop/cartao_pontos_window.h"
+
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
+#include "foundation/widgets/desktop/look.h"
+#include "output/stocks/desktop/alignment_pad.h"
+#include "report/desktop/scale_panel.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTabWidget>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace winvrx {
+
+namespace {
+
+enum Heading { kStockColumn, kVerticalColumn, kHorizontalColumn };
+
+constexpr int kStockCharacters = 20;
+
+QWidget* framed(QWidget* part) {
+    auto* page = new QWidget;
+    auto* column = new QVBoxLayout(page);
+    look::layOutBody(*column);
+    column->addWidget(part);
+    column->addStretch();
+    return page;
+}
+
+}  // namespace
+
+CartaoPontosWindow::CartaoPontosWindow(CartaoPontos& screen, LayoutSource layouts, QWidget* parent)
+    : ScreenWindow(QStringLiteral("cartaoPontos"), toQt(kCartaoPontosTitle), parent),
+      screen_(screen) {
+    screen_.load();
+    buildCommands();
+    setBody(buildBody(std::move(layouts)));
+    QPushButton* close =
+        addClosingButton(QStringLiteral("Fecha&r"), QStringLiteral("cartaoPontos.close"));
+    connect(close, &QPushButton::clicked, this, &CartaoPontosWindow::reject);
+    connectAll();
+    resize(look::kWindowSize);
+    showEntries();
+    showEntry();
+    entries_->setFocus();
+}
+
+void CartaoPontosWindow::buildCommands() {
+    QToolButton* test = addCommand(QStringLiteral("print"), QStringLiteral("Imprimir Teste"),
+                                   QKeySequence::Print, QStringLiteral("cartaoPontos.test"));
+    connect(test, &QToolButton::clicked, this, &CartaoPontosWindow::printTest);
+    QToolButton* reset = addCommand(QStringLiteral("restore"), QStringLiteral("Reset Alinhamentos"),
+                                    Qt::CTRL | Qt::Key_R, QStringLiteral("cartaoPontos.reset"));
+    connect(reset, &QToolButton::clicked, this, &CartaoPontosWindow::reset);
+}
+
+QWidget* CartaoPontosWindow::buildBody(LayoutSource layouts) {
+    auto* body = new QWidget(this);
+    auto* row = new QHBoxLayout(body);
+    look::layOutBody(*row);
+    row->setSpacing(look::kGroupGap);
+    row->addWidget(buildEntries(body));
+    row->addWidget(buildSample(std::move(layouts), body), 1);
+    row->addWidget(buildAdjustments(body));
+    return body;
+}
+
+QWidget* CartaoPontosWindow::buildEntries(QWidget* parent) {
+    entries_ = new QTreeWidget(parent);
+    entries_->setObjectName(QStringLiteral("cartaoPontos.entries"));
+    entries_->setAccessibleName(QStringLiteral("Alinhamentos"));
+    entries_->setHeaderLabels({QStringLiteral("Tipo de cartão"), QStringLiteral("Vertical"),
+                               QStringLiteral("Horizontal")});
+    entries_->setRootIsDecorated(false);
+    entries_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    entries_->header()->setStretchLastSection(false);
+    entries_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    entries_->header()->setSectionResizeMode(kStockColumn, QHeaderView::Stretch);
+    const int letter = entries_->fontMetrics().averageCharWidth();
+    entries_->setFixedWidth(letter * 2 * kStockCharacters + look::kGroupGap);
+    return entries_;
+}
+
+QWidget* CartaoPontosWindow::buildSample(LayoutSource layouts, QWidget* parent) {
+    auto* part = new QWidget(parent);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    column->addWidget(look::heading(QStringLiteral("Amostra"), part));
+    sample_ = new CardSample(std::move(layouts), part);
+    column->addWidget(sample_, 1);
+    return part;
+}
+
+QWidget* CartaoPontosWindow::buildAdjustments(QWidget* parent) {
+    auto* tabs = new QTabWidget(parent);
+    tabs->setObjectName(QStringLiteral("cartaoPontos.tabs"));
+    tabs->setAccessibleName(QStringLiteral("Ajustes"));
+    pad_ = new AlignmentPad;
+    tabs->addTab(framed(pad_), QStringLiteral("Alinha&mento"));
+    scale_ = new ScalePanel;
+    tabs->addTab(framed(scale_), QStringLiteral("E&scala e calibração"));
+    return tabs;
+}
+
+void CartaoPontosWindow::connectAll() {
+    connect(this, &ScreenWindow::helpRequested, this, [this] { screen_.help(); });
+    connect(entries_, &QTreeWidget::currentItemChanged, this,
+            [this](QTreeWidgetItem* item) { select(entries_->indexOfTopLevelItem(item)); });
+    connect(pad_, &AlignmentPad::moveRequested, this, &CartaoPontosWindow::move);
+    connect(pad_, &AlignmentPad::lineOffsetTyped, this, [this](const QString& text) {
+        screen_.typeLineOffset(toUtf8(text));
+        showAlignment();
+    });
+    connect(scale_, &ScalePanel::scaleTyped, this, [this](const ScalePanel::Texts& figures) {
+        if (!screen_.typeScale(figures)) return;
+        showScale();
+        setState(QStringLiteral("Escala gravada."));
+    });
+    connect(scale_, &ScalePanel::distancesTyped, this, [this](const ScalePanel::Texts& distances) {
+        if (!screen_.typeDistances(distances)) return;
+        scale_->clearDistances();
+        showScale();
+        setState(QStringLiteral("Escala calculada e gravada."));
+    });
+    connect(scale_, &ScalePanel::sheetRequested, this, [this] {
+        if (screen_.printCalibrationSheet())
+            setState(QStringLiteral("Folha de calibração enviada à impressora."));
+    });
+}
+
+void CartaoPontosWindow::select(int entry) {
+    if (entry < 0 || static_cast<std::size_t>(entry) == screen_.selected()) return;
+    if (!scale_->hasTyped() || screen_.mayDiscardTyped())
+        (void)screen_.select(static_cast<std::size_t>(entry));
+    showEntries();
+    showEntry();
+}
+
+void CartaoPontosWindow::move(Direction direction) {
+    pad_->finishTyping();
+    if (screen_.move(direction)) setState(QStringLiteral("Alinhamento gravado."));
+    showEntries();
+    showAlignment();
+}
+
+void CartaoPontosWindow::reset() {
+    if (screen_.reset()) setState(QStringLiteral("Todos os alinhamentos voltaram ao padrão."));
+    showEntries();
+    showAlignment();
+}
+
+void CartaoPontosWindow::printTest() {
+    pad_->finishTyping();
+    if (screen_.printTest()) setState(QStringLiteral("Cartão de teste enviado à impressora."));
+}
+
+bool CartaoPontosWindow::mayClose() {
+    return !scale_->hasTyped() || screen_.mayDiscardTyped();
+}
+
+void CartaoPontosWindow::showEntry() {
+    setChips(
+        {screen_.printer().empty() ? QStringLiteral("Sem impressora") : toQt(screen_.printer())});
+    setSubtitle(QStringLiteral("Cartão ") + toQt(trimmed(screen_.stock().displayName)));
+    sample_->showCard(screen_.layoutName(), screen_.sampleRows(), screen_.alignment(),
+                      screen_.printsHeader());
+    scale_->clearDistances();
+    showAlignment();
+    showScale();
+    setState(QStringLiteral("Cada passo é gravado na hora."));
+}
+
+void CartaoPontosWindow::showAlignment() {
+    pad_->showOffsets(screen_.offsets());
+    pad_->showLineOffset(toQt(screen_.lineOffset()));
+    sample_->align(screen_.alignment());
+}
+
+/// What is typed and not recorded gives way.
+void CartaoPontosWindow::showScale() {
+    scale_->showScale(toQt(screen_.printer()), screen_.scale());
+    sample_->align(screen_.alignment());
+}
+
+void CartaoPontosWindow::showEntries() {
+    const QSignalBlocker quiet(entries_);
+    const auto stocks = CartaoPontos::entries();
+    for (std::size_t at = 0; at < stocks.size(); ++at) {
+        const int row = static_cast<int>(at);
+        QTreeWidgetItem* item = entries_->topLevelItem(row);
+        if (!item) item = new QTreeWidgetItem(entries_);
+        item->setText(kStockColumn, toQt(trimmed(stocks[at]->displayName)));
+        item->setText(kVerticalColumn, QString::number(screen_.offsets(at).vertical));
+        item->setText(kHorizontalColumn, QString::number(screen_.offsets(at).horizontal));
+        item->setTextAlignment(kVerticalColumn, Qt::AlignRight | Qt::AlignVCenter);
+        item->setTextAlignment(kHorizontalColumn, Qt::AlignRight | Qt::AlignVCenter);
+    }
+    entries_->setCurrentItem(entries_->topLevelItem(static_cast<int>(screen_.selected())));
+}
+
+}  // namespace winvrx

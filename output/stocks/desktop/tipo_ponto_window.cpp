@@ -1,0 +1,149 @@
+#include "output/stocks/desktop/tipo_ponto_window.h"
+
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/look.h"
+#include "output/stocks/desktop/card_pictures.h"
+#include "output/stocks/desktop/stock_grid.h"
+#include "output/stocks/tipo_ponto.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace winvrx {
+
+namespace {
+
+constexpr int kPanelWidth = 224;
+constexpr double kSheetPixelsPerMillimetre = 0.42;
+constexpr int kDigitPause = 1500;  // milliseconds
+constexpr qsizetype kCodeDigits = 2;
+
+const QString kState =
+    QStringLiteral("A escolha é gravada na hora. Setas ou os dois dígitos do código escolhem.");
+const QString kNoStock = QStringLiteral(
+    "Nenhum cartão escolhido ainda. Compare os desenhos com o cartão que está na impressora.");
+
+}  // namespace
+
+TipoPontoWindow::TipoPontoWindow(TipoPonto& stocks, CardPictures& pictures, QWidget* parent)
+    : ScreenWindow(QStringLiteral("tipoPonto"), QStringLiteral("Tipo de Cartão"), parent),
+      stocks_(stocks),
+      pictures_(pictures) {
+    setBody(buildBody());
+    setState(kState);
+    QPushButton* close =
+        addClosingButton(QStringLiteral("&Fechar"), QStringLiteral("tipoPonto.close"));
+    close->setDefault(true);
+    connect(close, &QPushButton::clicked, this, &TipoPontoWindow::reject);
+    connect(options_, &StockGrid::picked, this, &TipoPontoWindow::choose);
+    connect(this, &ScreenWindow::helpRequested, this, [this] { stocks_.help(); });
+    stocks_.load();
+    showCurrent();
+    options_->setFocus();
+}
+
+QWidget* TipoPontoWindow::buildBody() {
+    auto* body = new QWidget(this);
+    auto* row = new QHBoxLayout(body);
+    look::layOutBody(*row);
+    row->setSpacing(look::kGroupGap);
+    options_ =
+        new StockGrid(QStringLiteral("tipoPonto.stocks"), TipoPonto::offered(), pictures_, body);
+    row->addWidget(options_, 1);
+    row->addWidget(buildInUse(body));
+    return body;
+}
+
+QWidget* TipoPontoWindow::buildInUse(QWidget* parent) {
+    auto* sight = new QScrollArea(parent);
+    sight->setFixedWidth(kPanelWidth);
+    sight->setFrameShape(QFrame::NoFrame);
+    sight->setWidgetResizable(true);
+    sight->setFocusPolicy(Qt::NoFocus);
+    auto* panel = new QWidget(sight);
+    auto* column = new QVBoxLayout(panel);
+    look::layOutPart(*column);
+    column->addWidget(look::heading(QStringLiteral("Cartão em uso"), panel));
+    current_ = look::label(QString(), look::TextSize::Title, panel);
+    current_->setObjectName(QStringLiteral("tipoPonto.current"));
+    column->addWidget(current_);
+    description_ = look::label(QString(), look::TextSize::Body, panel);
+    description_->setObjectName(QStringLiteral("tipoPonto.description"));
+    description_->setWordWrap(true);
+    column->addWidget(description_);
+    column->addSpacing(look::kMargin);
+    sheets_ = new QWidget(panel);
+    auto* sheets = new QHBoxLayout(sheets_);
+    look::layOutPart(*sheets);
+    central_ = addSheet(*sheets, QStringLiteral("Central"), QStringLiteral("tipoPonto.central"));
+    sheets->addStretch();
+    lateral_ = addSheet(*sheets, QStringLiteral("Lateral"), QStringLiteral("tipoPonto.lateral"));
+    column->addWidget(sheets_);
+    column->addStretch();
+    sight->setWidget(panel);
+    return sight;
+}
+
+/// How the card lies on the sheet, with the name of that tray position under it.
+QLabel* TipoPontoWindow::addSheet(QBoxLayout& row, const QString& position, const QString& name) {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(look::kSmallGap);
+    auto* sheet = new QLabel(sheets_);
+    sheet->setObjectName(name);
+    sheet->setAccessibleName(QStringLiteral("Cartão na bandeja: ") + position);
+    sheet->setFrameShape(QFrame::StyledPanel);
+    column->addWidget(sheet);
+    column->addWidget(look::label(position, look::TextSize::Hint, sheets_), 0, Qt::AlignHCenter);
+    row.addLayout(column);
+    return sheet;
+}
+
+void TipoPontoWindow::choose(const CardStock* stock) {
+    (void)stocks_.choose(*stock);
+    showCurrent();
+}
+
+void TipoPontoWindow::showCurrent() {
+    const CardStock* stock = stocks_.current();
+    current_->setText(toQt(stocks_.label()));
+    current_->setVisible(!current_->text().isEmpty());
+    current_->setAccessibleName(QStringLiteral("Cartão em uso: ") + current_->text());
+    options_->choose(stock);
+    const bool isCard = stock && stock->offered;
+    const QString fault = isCard ? pictures_.fault(*stock) : QString();
+    description_->setText(!isCard            ? kNoStock
+                          : !fault.isEmpty() ? QStringLiteral("⚠ ") + fault
+                                             : pictures_.description(*stock));
+    sheets_->setVisible(isCard && fault.isEmpty());
+    if (!isCard) return;
+    const CardPictures::Scale scale{kSheetPixelsPerMillimetre, devicePixelRatioF()};
+    central_->setPixmap(pictures_.sheet(*stock, TrayPosition::Central, scale));
+    lateral_->setPixmap(pictures_.sheet(*stock, TrayPosition::Lateral, scale));
+}
+
+void TipoPontoWindow::keyPressEvent(QKeyEvent* event) {
+    const QString text = event->text();
+    if (text.size() == 1 && text.front() >= u'0' && text.front() <= u'9')
+        typeDigit(text);
+    else
+        ScreenWindow::keyPressEvent(event);
+}
+
+void TipoPontoWindow::typeDigit(const QString& digit) {
+    if (!digits_.isEmpty() && sinceDigit_.elapsed() > kDigitPause) digits_.clear();
+    digits_ += digit;
+    sinceDigit_.start();
+    if (digits_.size() < kCodeDigits) {
+        setState(QStringLiteral("Código %1_").arg(digits_));
+        return;
+    }
+    const bool known = options_->click(digits_);
+    setState(known ? kState : QStringLiteral("⚠ Nenhum cartão tem o código %1.").arg(digits_));
+    digits_.clear();
+}
+
+}  // namespace winvrx

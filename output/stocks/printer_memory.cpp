@@ -1,0 +1,75 @@
+#include "output/stocks/printer_memory.h"
+
+#include "foundation/files/record_file.h"
+#include "foundation/values/text.h"
+
+#include <vector>
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::string_view kFaceUp = "Cima";
+constexpr std::string_view kFaceDown = "Baixo";
+constexpr std::string_view kCentral = "Central";
+constexpr std::string_view kLateral = "Lateral";
+constexpr std::string_view kWithHeader = "1";
+constexpr std::string_view kWithoutHeader = "0";
+
+constexpr std::size_t kTrayLine = 0;
+constexpr std::size_t kFirstTrayName = 1;
+constexpr std::size_t kHeaderLine = 4;
+constexpr std::size_t kFeedLines = 5;
+
+std::vector<std::string> linesOf(FileSystem& files, const std::filesystem::path& path) {
+    return RecordFile(files, path).lines();
+}
+
+std::string valueAt(const std::vector<std::string>& lines, std::size_t at) {
+    return at < lines.size() ? decodeWindows1252(trimmed(lines[at])) : std::string();
+}
+
+/// Replaces a line whose meaning changed.
+template <typename Value>
+void put(std::string& line, const Value& before, const Value& now, std::string_view text) {
+    if (!(before == now)) line = encodeWindows1252(text);
+}
+
+PrinterMemory decode(const std::vector<std::string>& kind, const std::vector<std::string>& feed) {
+    PrinterMemory memory;
+    if (valueAt(kind, 0) == kFaceUp) memory.output = CardOutput::FaceUp;
+    if (valueAt(feed, kTrayLine) == kLateral) memory.tray = TrayPosition::Lateral;
+    for (std::size_t i = 0; i < memory.trays.size(); ++i)
+        memory.trays[i] = firstCharacters(valueAt(feed, kFirstTrayName + i), kTrayWidth);
+    memory.printHeader = valueAt(feed, kHeaderLine) != kWithoutHeader;
+    return memory;
+}
+
+}  // namespace
+
+PrinterMemory loadPrinterMemory(FileSystem& files, const Session& session) {
+    return decode(linesOf(files, session.companyFile(kPrinterKindName)),
+                  linesOf(files, session.companyFile(kFeedName)));
+}
+
+void savePrinterMemory(FileSystem& files, const Session& session, const PrinterMemory& memory) {
+    const auto kindFile = session.companyFile(kPrinterKindName);
+    const auto feedFile = session.companyFile(kFeedName);
+    std::vector<std::string> kind = linesOf(files, kindFile);
+    std::vector<std::string> feed = linesOf(files, feedFile);
+    const PrinterMemory before = decode(kind, feed);
+    if (kind.empty()) kind.emplace_back(kFaceDown);
+    if (feed.empty()) feed = {std::string(kCentral), "", "", "", std::string(kWithHeader)};
+    if (feed.size() < kFeedLines) feed.resize(kFeedLines);
+    put(kind[0], before.output, memory.output,
+        memory.output == CardOutput::FaceUp ? kFaceUp : kFaceDown);
+    put(feed[kTrayLine], before.tray, memory.tray,
+        memory.tray == TrayPosition::Lateral ? kLateral : kCentral);
+    for (std::size_t i = 0; i < memory.trays.size(); ++i)
+        put(feed[kFirstTrayName + i], before.trays[i], memory.trays[i], memory.trays[i]);
+    put(feed[kHeaderLine], before.printHeader, memory.printHeader,
+        memory.printHeader ? kWithHeader : kWithoutHeader);
+    files.replaceAll({{kindFile, joinedLines(kind)}, {feedFile, joinedLines(feed)}});
+}
+
+}  // namespace winvrx

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "foundation/desk/session.h"
+#include "output/cards/card_sides.h"
+#include "output/stocks/card_stock.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+// What a company's printing screen remembers from one day to the next: the kind of printer in
+// `ImpressoraTipo` and how the cards are fed in `Impresstec`, both behind the company code and with
+// one value a line.
+
+namespace winvrx {
+
+inline constexpr std::string_view kPrinterKindName = "ImpressoraTipo";
+inline constexpr std::string_view kFeedName = "Impresstec";
+
+/// A tray's name has at most so many characters.
+inline constexpr std::size_t kTrayWidth = 30;
+
+struct PrinterMemory {
+    CardOutput output = CardOutput::FaceDown;
+    TrayPosition tray = TrayPosition::Central;
+    std::array<std::string, 3> trays = {};
+    bool printHeader = true;
+
+    [[nodiscard]] bool operator==(const PrinterMemory&) const = default;
+};
+
+/// A line that is missing or says nothing known means its default. Throws FileFault.
+[[nodiscard]] PrinterMemory loadPrinterMemory(FileSystem& files, const Session& session);
+
+/// Both files in one batch; lines past those known here, and lines that mean the same, stay as they
+/// are. Throws FileFault, and TextFault for a tray that cannot be stored.
+void savePrinterMemory(FileSystem& files, const Session& session, const PrinterMemory& memory);
+
+}  // namespace winvrx

@@ -1,0 +1,47 @@
+#include "output/stocks/tipo_ponto.h"
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::string_view kChangedElsewhere =
+    "O tipo de cartão foi alterado por outro computador. Abra a tela novamente.";
+
+}  // namespace
+
+TipoPonto::TipoPonto(const Workplace& at, Browser& browser) : at_(at), browser_(browser) {}
+
+void TipoPonto::load() {
+    current_ = nullptr;
+    (void)attempt(at_, incorrectData(), [this] {
+        current_ = loadStock(at_.files, at_.session);
+        return true;
+    });
+}
+
+std::vector<const CardStock*> TipoPonto::offered() {
+    std::vector<const CardStock*> stocks;
+    for (const CardStock& stock : kCardStocks)
+        if (stock.offered) stocks.push_back(&stock);
+    return stocks;
+}
+
+std::string TipoPonto::label() const {
+    return current_ ? std::string(current_->displayName) : std::string();
+}
+
+bool TipoPonto::choose(const CardStock& stock) {
+    return attemptWriting(at_, incorrectData(), [&] {
+        if (loadStock(at_.files, at_.session) != current_)
+            throw Fault("stock changed on disk", std::string(kChangedElsewhere));
+        saveStock(at_.files, at_.session, stock);
+        current_ = &stock;
+        return true;
+    });
+}
+
+void TipoPonto::help() {
+    openHelp(at_, browser_);
+}
+
+}  // namespace winvrx

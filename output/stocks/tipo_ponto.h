@@ -1,0 +1,39 @@
+#pragma once
+
+#include "foundation/desk/browser.h"
+#include "foundation/desk/command.h"
+#include "output/stocks/card_stock.h"
+
+#include <string>
+#include <vector>
+
+namespace winvrx {
+
+/// The stock screen: which make of card the selected company uses.
+class TipoPonto {
+  public:
+    TipoPonto(const Workplace& at, Browser& browser);
+
+    /// Reads the stored choice again.
+    void load();
+
+    /// What the option buttons offer, by code.
+    [[nodiscard]] static std::vector<const CardStock*> offered();
+
+    /// nullptr while nothing, or nothing known, is stored.
+    [[nodiscard]] const CardStock* current() const { return current_; }
+    /// The display name of the current stock; empty when there is none.
+    [[nodiscard]] std::string label() const;
+
+    /// Stores `stock`. False when it could not be stored; the former choice then stands.
+    [[nodiscard]] bool choose(const CardStock& stock);
+
+    void help();
+
+  private:
+    Workplace at_;
+    Browser& browser_;
+    const CardStock* current_ = nullptr;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "report/desktop/card_text.h"
+
+#include <QTemporaryFile>
+
+#include <vector>
+
+namespace winvrx {
+
+/// The cards of a preview, kept in a temporary file so that memory does not grow with their
+/// number. Throws Fault when the disk is full.
+class CardSpool {
+  public:
+    CardSpool();
+
+    void append(const CardText& rows);
+    [[nodiscard]] std::size_t size() const { return starts_.size(); }
+    /// Requires index < size().
+    [[nodiscard]] CardText at(std::size_t index);
+
+  private:
+    [[noreturn]] void fail() const;
+
+    QTemporaryFile file_;
+    std::vector<qint64> starts_;
+    qint64 end_ = 0;
+};
+
+}  // namespace winvrx

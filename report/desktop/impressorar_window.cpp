@@ -1,0 +1,148 @@
+#include "report/desktop/impressorar_window.h"
+
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/option_group.h"
+#include "report/impressorar.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+enum Kind { kDefault, kInstalled };
+
+constexpr QSize kUsualSize(720, 480);
+
+}  // namespace
+
+ImpressorarWindow::ImpressorarWindow(Impressorar& screen, QWidget* parent)
+    : ScreenWindow(QStringLiteral("impressorar"), toQt(kImpressorarTitle), parent),
+      screen_(screen) {
+    buildCommands();
+    setBody(buildBody());
+    QPushButton* close =
+        addClosingButton(QStringLiteral("&Fechar"), QStringLiteral("impressorar.close"));
+    close->setDefault(true);
+    connect(close, &QPushButton::clicked, this, &ImpressorarWindow::reject);
+    connectAll();
+    resize(kUsualSize);
+    refresh();
+    kind_->setFocus();
+}
+
+void ImpressorarWindow::buildCommands() {
+    QToolButton* add =
+        addCommand(QStringLiteral("add"), QStringLiteral("Adicionar Uma Impressora =>>"),
+                   Qt::Key_Insert, QStringLiteral("impressorar.add"));
+    connect(add, &QToolButton::clicked, this, [this] { (void)screen_.add(); });
+    QToolButton* again = addCommand(QStringLiteral("refresh"), QStringLiteral("Atualizar"),
+                                    Qt::Key_F5, QStringLiteral("impressorar.refresh"));
+    connect(again, &QToolButton::clicked, this, &ImpressorarWindow::refresh);
+}
+
+QWidget* ImpressorarWindow::buildBody() {
+    auto* body = new QWidget(this);
+    auto* column = new QVBoxLayout(body);
+    look::layOutBody(*column);
+    kind_ = new OptionGroup(QStringLiteral("&Impressora dos cartões"),
+                            QStringLiteral("impressorar.kind"), 2, body);
+    kind_->addOption(kDefault, QStringLiteral("Imprimir direto na Impressora &Padrão"),
+                     QStringLiteral("default"));
+    kind_->addOption(kInstalled, QStringLiteral("&Selecione uma Impressora Instalada"),
+                     QStringLiteral("installed"));
+    column->addWidget(kind_);
+    list_ = new QListWidget(body);
+    list_->setObjectName(QStringLiteral("impressorar.printers"));
+    list_->setAccessibleName(QStringLiteral("Impressoras instaladas"));
+    column->addWidget(list_, 1);
+    empty_ = look::label(
+        QStringLiteral("Nenhuma impressora instalada. Use \"Adicionar Uma Impressora =>>\"."),
+        look::TextSize::Body, body);
+    empty_->setObjectName(QStringLiteral("impressorar.empty"));
+    empty_->setWordWrap(true);
+    column->addWidget(empty_);
+    return body;
+}
+
+void ImpressorarWindow::connectAll() {
+    connect(this, &ScreenWindow::helpRequested, this, [this] { screen_.help(); });
+    connect(kind_, &OptionGroup::picked, this, &ImpressorarWindow::chooseKind);
+    // A list that gets the focus has a current row before anybody picked one.
+    connect(list_, &QListWidget::itemSelectionChanged, this, [this] {
+        if (!list_->selectedItems().isEmpty())
+            chooseRow(list_->row(list_->selectedItems().front()));
+    });
+}
+
+/// The choice is not read again here: a message about it would make the window active once more.
+void ImpressorarWindow::changeEvent(QEvent* event) {
+    ScreenWindow::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !isVisible()) return;
+    if (screen_.refreshPrinters()) showPrinters();
+}
+
+void ImpressorarWindow::refresh() {
+    screen_.load();
+    showPrinters();
+}
+
+/// The list's option waits for a printer to be picked.
+void ImpressorarWindow::chooseKind(int kind) {
+    if (kind == kDefault) (void)screen_.useDefault();
+    if (kind == kDefault || screen_.printers().empty()) {
+        showChoice();
+        return;
+    }
+    list_->setFocus();
+    setState(QStringLiteral("Escolha a impressora na lista, com as setas ou com Espaço."));
+}
+
+void ImpressorarWindow::chooseRow(int row) {
+    if (screen_.printers().at(static_cast<std::size_t>(row)) == screen_.chosen()) return;
+    if (screen_.use(static_cast<std::size_t>(row)))
+        showChoice();
+    else  // The list is not to change while it tells of a row.
+        QMetaObject::invokeMethod(this, &ImpressorarWindow::refresh, Qt::QueuedConnection);
+}
+
+void ImpressorarWindow::showPrinters() {
+    const QSignalBlocker quiet(list_);
+    list_->clear();
+    for (const std::string& entry : screen_.entries())
+        list_->addItem(toQt(entry));
+    list_->setVisible(list_->count() > 0);
+    empty_->setVisible(list_->count() == 0);
+    showChoice();
+}
+
+void ImpressorarWindow::showChoice() {
+    const QSignalBlocker quiet(list_);
+    const auto& names = screen_.printers();
+    const auto chosen = std::ranges::find(names, screen_.chosen());
+    list_->clearSelection();
+    if (chosen != names.end()) list_->setCurrentRow(static_cast<int>(chosen - names.begin()));
+    const bool isDefault = screen_.chosen().empty();
+    kind_->choose(isDefault ? kDefault : kInstalled);
+    const std::string name = isDefault ? screen_.defaultPrinter() : screen_.chosen();
+    setSubtitle(isDefault ? QStringLiteral("Em uso: impressora padrão")
+                          : QStringLiteral("Em uso: ") + toQt(name));
+    if (screen_.isReachable())
+        setState(isDefault ? QStringLiteral("Impressora padrão: ") + toQt(name)
+                           : QStringLiteral("A escolha é gravada na hora."));
+    else
+        setState(isDefault
+                     ? QStringLiteral("⚠ O sistema não tem impressora padrão.")
+                     : QStringLiteral("⚠ A impressora %1 não está instalada.").arg(toQt(name)));
+}
+
+}  // namespace winvrx

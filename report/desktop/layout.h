@@ -1,0 +1,125 @@
+#pragma once
+
+#include "foundation/values/faults.h"
+#include "report/report_engine.h"
+
+#include <QColor>
+#include <QLineF>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <variant>
+#include <vector>
+
+// A layout file compiled into draw calls. Lengths are hundredths of a millimetre from the top left
+// corner of the paper, fine enough that whole numbers place a glyph. How a file is written stands
+// in docs/layout-files.md.
+
+namespace winvrx {
+
+inline constexpr double kLayoutUnitsPerMillimetre = 100.0;
+inline constexpr double kLayoutUnitsPerInch = 2540.0;
+inline constexpr double kTwipsPerInch = 1440.0;
+
+/// One way of writing: texts of the same ink are drawn together.
+struct Ink {
+    QStringList families;  ///< in order of preference
+    int size = 0;
+    int weight = 400;
+    bool italic = false;
+    QColor colour;
+
+    [[nodiscard]] bool operator==(const Ink&) const = default;
+};
+
+struct LayoutText {
+    enum class Anchor { Start, Middle, End };
+
+    /// A text as it stands, or a column of the card table.
+    struct Piece {
+        QString literal;
+        std::optional<std::size_t> column;
+    };
+
+    QPointF baseline;
+    Anchor anchor = Anchor::Start;
+    std::size_t ink = 0;
+    std::optional<double> width;  ///< what is longer is squeezed, then cut
+    std::vector<Piece> pieces;
+    std::vector<std::size_t> unless;  ///< drawn only where these columns are blank
+    std::vector<std::size_t> when;    ///< and only where one of these is not; none: always
+};
+
+/// An invalid colour draws nothing.
+struct LayoutLine {
+    QLineF line;
+    QColor stroke;
+    double strokeWidth = 0;
+};
+
+struct LayoutRect {
+    QRectF area;
+    QColor fill;
+    QColor stroke;
+    double strokeWidth = 0;
+};
+
+using LayoutMark = std::variant<LayoutText, LayoutLine, LayoutRect>;
+
+enum class LayoutBlock {
+    Always,
+    Header,  ///< company and employee, left out when the stock has them pre-printed
+    Stock    ///< the picture of the pre-printed card, shown in the preview window only
+};
+
+struct LayoutSection {
+    LayoutBlock block = LayoutBlock::Always;
+    int side = 0;      ///< the face of the card, 1 or 2; 0: on each
+    int first = 0;     ///< the card's row that it begins with, from 0
+    int rows = 0;      ///< drawn once for each of the card's rows, at most so often; 0: drawn once
+    double pitch = 0;  ///< from one row down to the next
+    std::vector<LayoutMark> marks;
+};
+
+/// The columns that a layout draws, each named once.
+struct DrawnColumns {
+    std::vector<std::size_t> once;    ///< of the card's first row
+    std::vector<std::size_t> inRows;  ///< of every row
+};
+
+struct Layout {
+    QSizeF page;          ///< millimetres
+    double rowPitch = 0;  ///< what one line of the alignment's line offset moves
+    int sides = 1;        ///< faces of the card, each a page of its own
+    QString description;  ///< of the file's author: size and kind of the card
+    std::vector<Ink> inks;
+    std::vector<LayoutSection> sections;
+};
+
+/// The picture of the pre-printed card as it lies on the paper, in the layout's units; the whole
+/// paper where the layout has no such picture.
+[[nodiscard]] QRectF cardArea(const Layout& layout);
+
+[[nodiscard]] DrawnColumns drawnColumns(const Layout& layout);
+
+/// A layout that is missing or damaged. `what()` reads "tilibcenter.rpt:12: cause".
+class LayoutFault : public Fault {
+  public:
+    LayoutFault(const std::string& file, const std::string& cause);
+    LayoutFault(const std::string& file, long long line, const std::string& cause);
+};
+
+/// The file of that name in the first of the folders that has it.
+[[nodiscard]] std::optional<std::filesystem::path> findLayout(
+    const std::vector<std::filesystem::path>& folders, const std::string& name);
+
+/// Reads the file that findLayout() gives. Throws LayoutFault.
+[[nodiscard]] Layout loadLayout(const std::vector<std::filesystem::path>& folders,
+                                const std::string& name);
+
+}  // namespace winvrx

@@ -1,0 +1,188 @@
+#include "report/desktop/layout_painter.h"
+
+#include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace winvrx {
+
+namespace {
+
+/// Letters narrower than this can no longer be read; the text is cut instead.
+constexpr double kNarrowest = 0.6;
+
+const CardTextRow kNoRow;
+
+QTransform transformOf(const Alignment& alignment, double rowPitch) {
+    constexpr double kUnitsPerTwip = kLayoutUnitsPerInch / kTwipsPerInch;
+    constexpr double kWhole = PrintScale().horizontalScale;
+    const PrintScale& scale = alignment.scale;
+    return QTransform::fromTranslate(0, alignment.lines * rowPitch) *
+           QTransform::fromScale(scale.horizontalScale / kWhole, scale.verticalScale / kWhole) *
+           QTransform::fromTranslate(
+               scale.horizontalOffset + alignment.horizontalTwips * kUnitsPerTwip,
+               scale.verticalOffset + alignment.verticalTwips * kUnitsPerTwip);
+}
+
+void compose(const LayoutText& text, const CardTextRow& row, QString& into) {
+    into.clear();
+    for (const LayoutText::Piece& piece : text.pieces)
+        into += piece.column ? row[*piece.column] : piece.literal;
+}
+
+bool isLeftOut(const LayoutText& text, const CardTextRow& row) {
+    const auto isBlank = [&](std::size_t column) { return row[column].isEmpty(); };
+    return !std::ranges::all_of(text.unless, isBlank) ||
+           (!text.when.empty() && std::ranges::all_of(text.when, isBlank));
+}
+
+/// Cuts `text`, an ellipsis at its end, until `widthOf` it is at most `width`.
+template <typename Measure>
+void cut(QString& text, double width, Measure widthOf) {
+    while (!text.isEmpty() && widthOf(text + u'…') > width)
+        text.chop(1);
+    text += u'…';
+}
+
+double startOf(LayoutText::Anchor anchor, double width) {
+    if (anchor == LayoutText::Anchor::Middle) return -width / 2;
+    return anchor == LayoutText::Anchor::End ? -width : 0;
+}
+
+QPen penOf(const QColor& stroke, double width) {
+    if (!stroke.isValid() || width <= 0) return Qt::NoPen;
+    return QPen(stroke, width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
+}
+
+}  // namespace
+
+LayoutPainter::LayoutPainter(Layout layout, const Choice& choice)
+    : layout_(std::move(layout)),
+      choice_(choice),
+      onPaper_(transformOf(choice.alignment, layout_.rowPitch)),
+      runs_(layout_.inks.size()) {
+    for (const Ink& ink : layout_.inks)
+        fonts_.push_back(std::make_unique<GlyphFont>(ink));
+}
+
+LayoutPainter::~LayoutPainter() = default;
+
+void LayoutPainter::paint(QPainter& painter, const CardText& rows, int side) {
+    if (choice_.stock) paintSections(painter, true, rows, side);
+    const QTransform paper = painter.worldTransform();
+    painter.setWorldTransform(onPaper_, true);
+    paintSections(painter, false, rows, side);
+    painter.setWorldTransform(paper);
+}
+
+void LayoutPainter::paintSections(QPainter& painter, bool stock, const CardText& rows, int side) {
+    for (const LayoutSection& section : layout_.sections) {
+        if (section.side != 0 && section.side != side) continue;
+        if (section.block == LayoutBlock::Header && !choice_.header) continue;
+        if ((section.block == LayoutBlock::Stock) == stock) paintSection(painter, section, rows);
+    }
+    flush(painter);
+}
+
+void LayoutPainter::paintSection(QPainter& painter, const LayoutSection& section,
+                                 const CardText& rows) {
+    const bool isStock = section.block == LayoutBlock::Stock;
+    const int present = isStock ? section.rows : static_cast<int>(rows.size()) - section.first;
+    const int count = section.rows == 0 ? 1 : std::min(section.rows, present);
+    for (int i = 0; i < count; ++i) {
+        const auto position = static_cast<std::size_t>(section.first + i);
+        const CardTextRow& row = position < rows.size() ? rows[position] : kNoRow;
+        const QPointF shift = QPointF(0, i * section.pitch);
+        for (const LayoutMark& mark : section.marks)
+            paintMark(painter, mark, row, shift);
+    }
+}
+
+void LayoutPainter::paintMark(QPainter& painter, const LayoutMark& mark, const CardTextRow& row,
+                              QPointF shift) {
+    if (const auto* text = std::get_if<LayoutText>(&mark)) {
+        write(painter, *text, row, shift);
+        return;
+    }
+    flush(painter);
+    if (const auto* line = std::get_if<LayoutLine>(&mark)) {
+        painter.setPen(penOf(line->stroke, line->strokeWidth));
+        painter.drawLine(line->line.translated(shift));
+    } else if (const auto* rect = std::get_if<LayoutRect>(&mark)) {
+        painter.setPen(penOf(rect->stroke, rect->strokeWidth));
+        painter.setBrush(rect->fill.isValid() ? QBrush(rect->fill) : QBrush(Qt::NoBrush));
+        painter.drawRect(rect->area.translated(shift));
+    }
+}
+
+void LayoutPainter::write(QPainter& painter, const LayoutText& text, const CardTextRow& row,
+                          QPointF shift) {
+    if (!layout_.inks[text.ink].colour.isValid() || isLeftOut(text, row)) return;
+    compose(text, row, written_);
+    if (written_.isEmpty()) return;
+    GlyphFont& font = *fonts_[text.ink];
+    const bool covered = font.covers(written_);
+    const auto widthOf = [&](const QString& part) {
+        return covered ? font.widthOf(part) : QFontMetricsF(font.font()).horizontalAdvance(part);
+    };
+    double width = widthOf(written_);
+    const double room = text.width.value_or(width);
+    if (width * kNarrowest > room) {
+        cut(written_, room / kNarrowest, widthOf);
+        width = widthOf(written_);
+    }
+    const double squeeze = width > room ? room / width : 1.0;
+    const QPointF start = text.baseline + shift + QPointF(startOf(text.anchor, width * squeeze), 0);
+    if (covered && squeeze == 1.0)
+        writeGlyphs(text.ink, written_, start);
+    else
+        writeTransformed(painter, text.ink, written_, start, squeeze);
+}
+
+void LayoutPainter::writeGlyphs(std::size_t ink, const QString& text, QPointF start) {
+    GlyphFont& font = *fonts_[ink];
+    Run& run = runs_[ink];
+    for (const QChar character : text) {
+        const GlyphFont::Glyph& glyph = font.glyphOf(character);
+        run.glyphs.push_back(glyph.index);
+        run.positions.push_back(start);
+        start.rx() += glyph.advance;
+    }
+}
+
+void LayoutPainter::writeTransformed(QPainter& painter, std::size_t ink, const QString& text,
+                                     QPointF start, double squeeze) {
+    flush(painter);
+    painter.save();
+    painter.translate(start);
+    painter.scale(squeeze, 1);
+    if (fonts_[ink]->covers(text)) {
+        writeGlyphs(ink, text, QPointF());
+        flush(painter);
+    } else {
+        painter.setFont(fonts_[ink]->font());
+        painter.setPen(layout_.inks[ink].colour);
+        painter.drawText(QPointF(), text);
+    }
+    painter.restore();
+}
+
+void LayoutPainter::flush(QPainter& painter) {
+    for (std::size_t ink = 0; ink < runs_.size(); ++ink) {
+        Run& run = runs_[ink];
+        if (run.glyphs.empty()) continue;
+        QGlyphRun glyphs;
+        glyphs.setRawFont(fonts_[ink]->rawFont());
+        glyphs.setRawData(run.glyphs.data(), run.positions.data(),
+                          static_cast<int>(run.glyphs.size()));
+        painter.setPen(layout_.inks[ink].colour);
+        painter.drawGlyphRun(QPointF(), glyphs);
+        run.glyphs.clear();
+        run.positions.clear();
+    }
+}
+
+}  // namespace winvrx

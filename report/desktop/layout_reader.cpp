@@ -1,0 +1,319 @@
+#include "report/desktop/layout_reader.h"
+
+#include "report/desktop/layout_values.h"
+
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <cmath>
+
+namespace winvrx {
+
+namespace {
+
+using Anchor = LayoutText::Anchor;
+
+const QString kSvgNamespace = QStringLiteral("http://www.w3.org/2000/svg");
+
+/// What SVG files carry beside their picture.
+const QStringList kSilentElements = {QStringLiteral("metadata"), QStringLiteral("title"),
+                                     QStringLiteral("defs")};
+const QString kDescription = QStringLiteral("desc");
+
+constexpr int kMostSides = 2;
+constexpr int kMostRows = 31;
+constexpr double kNarrowestPage = 1;  // millimetres
+constexpr double kWidestPage = 2000;
+constexpr double kCoarsestScale = 1e4;
+constexpr double kLargestLetter = 1e5;  // a metre
+
+/// What an element hands down to those inside it.
+struct Context {
+    QPointF origin;
+    LayoutBlock block = LayoutBlock::Always;
+    int side = 0;
+    int first = 0;
+    int rows = 0;
+    double pitch = 0;
+    QColor fill = Qt::black;
+    QColor stroke;
+    double strokeWidth = 1;
+    QStringList families = {QStringLiteral("sans-serif")};
+    double fontSize = 0;
+    int fontWeight = 400;
+    bool italic = false;
+    Anchor anchor = Anchor::Start;
+};
+
+class LayoutReader {
+  public:
+    LayoutReader(QIODevice& file, const std::string& name) : xml_(&file), name_(name) {}
+
+    Layout read() {
+        try {
+            readRoot();
+        } catch (const BadValue& fault) {
+            throw LayoutFault(name_, xml_.lineNumber(), fault.what());
+        }
+        if (xml_.hasError())
+            throw LayoutFault(name_, xml_.lineNumber(), xml_.errorString().toStdString());
+        return std::move(layout_);
+    }
+
+  private:
+    void readRoot() {
+        if (!xml_.readNextStartElement()) return;
+        if (xml_.name() != QStringLiteral("svg")) throw BadValue(QStringLiteral("not an svg file"));
+        const ElementValues values(xml_.attributes());
+        Context context;
+        readPage(values, context);
+        inherit(values, context);
+        readChildren(context);
+        if (xml_.hasError()) return;
+        if (layout_.rowPitch == 0)
+            throw BadValue(QStringLiteral(
+                "no group with data-rows and data-pitch, and no data-pitch on the svg element"));
+        while (!xml_.atEnd())
+            xml_.readNext();
+    }
+
+    void readPage(const ElementValues& values, Context& context) {
+        const double width = pageLength(values, QStringLiteral("width"));
+        const double height = pageLength(values, QStringLiteral("height"));
+        const auto box = numberList(values.text(QStringLiteral("viewBox")).value_or(QString()));
+        if (box.size() != 4 || box[2] <= 0 || box[3] <= 0)
+            throw BadValue(QStringLiteral("viewBox is missing or not four numbers"));
+        constexpr double kTolerance = 0.001;
+        if (std::abs(width / box[2] * box[3] / height - 1) > kTolerance)
+            throw BadValue(QStringLiteral("viewBox has not the proportions of width and height"));
+        layout_.page = QSizeF(width, height);
+        scale_ = width * kLayoutUnitsPerMillimetre / box[2];
+        if (scale_ > kCoarsestScale)
+            throw BadValue(QStringLiteral("viewBox is too small for width and height"));
+        context.origin = QPointF(-box[0], -box[1]) * scale_;
+        if (const auto pitch = values.number(QStringLiteral("data-pitch")))
+            layout_.rowPitch = positive(*pitch, QStringLiteral("data-pitch")) * scale_;
+    }
+
+    static double pageLength(const ElementValues& values, const QString& name) {
+        const double length = values.requiredMillimetres(name);
+        if (length < kNarrowestPage || length > kWidestPage)
+            throw BadValue(QStringLiteral("%1 is not from %2mm to %3mm")
+                               .arg(name)
+                               .arg(kNarrowestPage)
+                               .arg(kWidestPage));
+        return length;
+    }
+
+    void readChildren(const Context& context) {
+        if (++depth_ > kDeepestGroup) throw BadValue(QStringLiteral("groups nested too deep"));
+        readChildrenOf(context);
+        --depth_;
+    }
+
+    void readChildrenOf(const Context& context) {
+        while (xml_.readNextStartElement()) {
+            const QStringView name = xml_.name();
+            const bool foreign =
+                !xml_.namespaceUri().isEmpty() && xml_.namespaceUri() != kSvgNamespace;
+            if (foreign || kSilentElements.contains(name))
+                xml_.skipCurrentElement();
+            else if (name == kDescription)
+                layout_.description = readDescription();
+            else
+                readElement(name.toString(), context);
+        }
+    }
+
+    /// The sheet's own; drawing programs give single elements one too.
+    QString readDescription() {
+        const QString text = xml_.readElementText(QXmlStreamReader::SkipChildElements).simplified();
+        return layout_.description.isEmpty() ? text : layout_.description;
+    }
+
+    void readElement(const QString& name, Context context) {
+        const ElementValues values(xml_.attributes());
+        inherit(values, context);
+        if (name == QStringLiteral("g")) {
+            readGroup(values, context);
+        } else if (name == QStringLiteral("text")) {
+            readText(values, context);
+        } else if (name == QStringLiteral("rect")) {
+            readRect(values, context);
+        } else if (name == QStringLiteral("line")) {
+            readLine(values, context);
+        } else {
+            throw BadValue(
+                QStringLiteral("<%1> cannot be drawn; use rect, line and text").arg(name));
+        }
+    }
+
+    void inherit(const ElementValues& values, Context& context) const {
+        context.origin += values.translation() * scale_;
+        if (const auto fill = values.colour(QStringLiteral("fill"))) context.fill = *fill;
+        if (const auto stroke = values.colour(QStringLiteral("stroke"))) context.stroke = *stroke;
+        if (const auto width = values.number(QStringLiteral("stroke-width")))
+            context.strokeWidth = *width;
+        if (const auto family = values.text(QStringLiteral("font-family")))
+            context.families = fontFamilies(*family);
+        if (const auto size = values.number(QStringLiteral("font-size")))
+            context.fontSize = positive(*size, QStringLiteral("font-size"));
+        if (const auto weight = values.text(QStringLiteral("font-weight")))
+            context.fontWeight = fontWeight(*weight);
+        if (const auto style = values.text(QStringLiteral("font-style")))
+            context.italic = *style != QStringLiteral("normal");
+        if (const auto anchor = values.text(QStringLiteral("text-anchor")))
+            context.anchor = anchorNamed(*anchor);
+    }
+
+    void readGroup(const ElementValues& values, Context& context) {
+        if (const auto block = values.text(QStringLiteral("data-block"))) {
+            if (context.block != LayoutBlock::Always)
+                throw BadValue(QStringLiteral("data-block inside another block"));
+            context.block = blockNamed(*block);
+        }
+        if (const auto side = numbered(values, QStringLiteral("data-side"), kMostSides)) {
+            if (context.side > 0) throw BadValue(QStringLiteral("data-side inside data-side"));
+            context.side = *side;
+            layout_.sides = std::max(layout_.sides, *side);
+        }
+        if (const auto first = numbered(values, QStringLiteral("data-first"), kMostRows)) {
+            if (context.first > 0) throw BadValue(QStringLiteral("data-first inside data-first"));
+            context.first = *first - 1;
+        }
+        if (const auto rows = values.count(QStringLiteral("data-rows"))) {
+            if (context.rows > 0) throw BadValue(QStringLiteral("data-rows inside data-rows"));
+            const double pitch = values.requiredNumber(QStringLiteral("data-pitch"));
+            context.rows = *rows;
+            context.pitch = positive(pitch, QStringLiteral("data-pitch")) * scale_;
+            if (layout_.rowPitch == 0) layout_.rowPitch = context.pitch;
+        }
+        readChildren(context);
+    }
+
+    static std::optional<int> numbered(const ElementValues& values, const QString& name, int most) {
+        const auto number = values.count(name);
+        if (number && (*number < 1 || *number > most))
+            throw BadValue(QStringLiteral("%1 is not from 1 to %2").arg(name).arg(most));
+        return number;
+    }
+
+    void readRect(const ElementValues& values, const Context& context) {
+        const QRectF area(position(values, context, QStringLiteral("x"), QStringLiteral("y")),
+                          QSizeF(values.requiredNumber(QStringLiteral("width")),
+                                 values.requiredNumber(QStringLiteral("height"))) *
+                              scale_);
+        if (area.width() < 0 || area.height() < 0)
+            throw BadValue(QStringLiteral("a rect of negative size"));
+        add(LayoutRect{area, context.fill, context.stroke, context.strokeWidth * scale_}, context);
+        xml_.skipCurrentElement();
+    }
+
+    void readLine(const ElementValues& values, const Context& context) {
+        const QLineF line(position(values, context, QStringLiteral("x1"), QStringLiteral("y1")),
+                          position(values, context, QStringLiteral("x2"), QStringLiteral("y2")));
+        add(LayoutLine{line, context.stroke, context.strokeWidth * scale_}, context);
+        xml_.skipCurrentElement();
+    }
+
+    void readText(const ElementValues& values, const Context& context) {
+        LayoutText text;
+        text.baseline = position(values, context, QStringLiteral("x"), QStringLiteral("y"));
+        text.anchor = context.anchor;
+        text.ink = inkOf(context);
+        if (const auto width = values.number(QStringLiteral("data-width")))
+            text.width = positive(*width, QStringLiteral("data-width")) * scale_;
+        if (const auto unless = values.text(QStringLiteral("data-unless")))
+            text.unless = columnsNamed(*unless);
+        if (const auto when = values.text(QStringLiteral("data-when")))
+            text.when = columnsNamed(*when);
+        const auto field = values.text(QStringLiteral("data-field"));
+        const auto pattern = values.text(QStringLiteral("data-template"));
+        if (field && pattern)
+            throw BadValue(QStringLiteral("data-field and data-template on one text"));
+        if (field) text.pieces.push_back({QString(), columnNamed(*field)});
+        if (pattern) text.pieces = templatePieces(*pattern);
+        const QString sample = readSample();
+        if (!field && !pattern) text.pieces.push_back({sample, std::nullopt});
+        add(std::move(text), context);
+    }
+
+    /// What stands in the element: drawing programs put a tspan around it.
+    QString readSample() {
+        QString sample;
+        int tspans = 0;
+        while (!xml_.hasError() && !(xml_.readNext() == QXmlStreamReader::EndElement &&
+                                     xml_.name() == QStringLiteral("text"))) {
+            if (xml_.isCharacters()) sample += xml_.text();
+            if (!xml_.isStartElement()) continue;
+            if (xml_.name() != QStringLiteral("tspan"))
+                throw BadValue(QStringLiteral("<%1> inside a text").arg(xml_.name()));
+            if (++tspans > 1)
+                throw BadValue(QStringLiteral("a text of several lines; use one text for each"));
+        }
+        return sample.simplified();
+    }
+
+    QPointF position(const ElementValues& values, const Context& context, const QString& x,
+                     const QString& y) const {
+        return context.origin +
+               QPointF(values.requiredNumber(x), values.requiredNumber(y)) * scale_;
+    }
+
+    static double positive(double number, const QString& name) {
+        if (number <= 0) throw BadValue(QStringLiteral("%1 is not above 0").arg(name));
+        return number;
+    }
+
+    std::size_t inkOf(const Context& context) {
+        if (context.fontSize <= 0) throw BadValue(QStringLiteral("font-size is missing"));
+        const double size = context.fontSize * scale_;
+        if (size > kLargestLetter) throw BadValue(QStringLiteral("font-size is too large"));
+        const Ink ink{context.families, std::max(1, qRound(size)), context.fontWeight,
+                      context.italic, context.fill};
+        const auto found = std::ranges::find(layout_.inks, ink);
+        if (found != layout_.inks.end())
+            return static_cast<std::size_t>(found - layout_.inks.begin());
+        if (layout_.inks.size() == kMostInks)
+            throw BadValue(QStringLiteral("more than %1 fonts and colours").arg(kMostInks));
+        layout_.inks.push_back(ink);
+        return layout_.inks.size() - 1;
+    }
+
+    static bool belongsTo(const LayoutSection& section, const Context& context) {
+        return section.block == context.block && section.side == context.side &&
+               section.first == context.first && section.rows == context.rows &&
+               section.pitch == context.pitch;
+    }
+
+    void add(LayoutMark mark, const Context& context) {
+        if (++marks_ > kMostMarks)
+            throw BadValue(QStringLiteral("more than %1 elements").arg(kMostMarks));
+        auto& sections = layout_.sections;
+        if (sections.empty() || !belongsTo(sections.back(), context))
+            sections.push_back({.block = context.block,
+                                .side = context.side,
+                                .first = context.first,
+                                .rows = context.rows,
+                                .pitch = context.pitch,
+                                .marks = {}});
+        sections.back().marks.push_back(std::move(mark));
+    }
+
+    QXmlStreamReader xml_;
+    const std::string& name_;
+    Layout layout_;
+    double scale_ = 1;
+    int depth_ = 0;
+    std::size_t marks_ = 0;
+};
+
+}  // namespace
+
+Layout readLayout(QIODevice& file, const std::string& name) {
+    if (file.size() > kLargestLayout)
+        throw LayoutFault(name, "larger than " + std::to_string(kLargestLayout >> 20) + " MB");
+    return LayoutReader(file, name).read();
+}
+
+}  // namespace winvrx

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "foundation/values/faults.h"
+#include "report/report_engine.h"
+
+#include <QSizeF>
+
+#include <memory>
+
+class QPainter;
+
+namespace winvrx {
+
+/// A printer that is not there or does not answer.
+class PrinterFault : public Fault {
+  public:
+    using Fault::Fault;
+};
+
+/// Where the pages of a run go. All functions throw Fault.
+///
+/// Destroyed before finish(), a PDF leaves no file behind, while a printer is sent the pages drawn
+/// so far: cards already printed stay printed.
+class ReportDevice {
+  public:
+    virtual ~ReportDevice() = default;
+
+    /// A painter on a fresh sheet, in the layout's units. Valid until the next call.
+    [[nodiscard]] virtual QPainter& nextPage() = 0;
+    /// Delivers the pages. Without a page there is nothing to deliver, and no file.
+    virtual void finish() = 0;
+};
+
+/// False when no printer is installed.
+[[nodiscard]] bool hasPrinters();
+
+/// The device that the request asks for: Printer, or PdfFile at its path. `page` in millimetres.
+[[nodiscard]] std::unique_ptr<ReportDevice> openDevice(const ReportRequest& request, QSizeF page);
+
+}  // namespace winvrx

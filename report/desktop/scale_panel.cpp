@@ -1,0 +1,125 @@
+#include "report/desktop/scale_panel.h"
+
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/field_box.h"
+#include "foundation/widgets/desktop/look.h"
+#include "report/calibration.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+constexpr int kFigureWidth = 8;
+constexpr int kFieldsInARow = 2;
+
+constexpr std::array kFigures = {"Escala &horizontal (%)", "Escala &vertical (%)",
+                                 "Para a d&ireita (mm)", "Para b&aixo (mm)"};
+constexpr std::array kDistances = {"&Borda esquerda até A (mm)", "Borda esq&uerda até B (mm)",
+                                   "Borda de &cima até A (mm)", "B&orda de cima até C (mm)"};
+
+QString numberFinding(const QString& text) {
+    if (text.trimmed().isEmpty() || parseHundredths(toUtf8(text))) return {};
+    return QStringLiteral("Número com até duas casas.");
+}
+
+}  // namespace
+
+ScalePanel::ScalePanel(QWidget* parent) : QWidget(parent) {
+    auto* column = new QVBoxLayout(this);
+    look::layOutPart(*column);
+    printer_ = look::label(QString(), look::TextSize::Hint, this);
+    printer_->setObjectName(QStringLiteral("escala.printer"));
+    printer_->setWordWrap(true);
+    column->addWidget(printer_);
+    addFields(*column, figures_, kFigures, "escala.figure");
+    addButton(*column, QStringLiteral("&Gravar Escala"), "escala.save", &ScalePanel::giveScale);
+    column->addSpacing(look::kGap);
+    column->addWidget(look::heading(QStringLiteral("Folha de calibração"), this));
+    addButton(*column, QStringLiteral("Imprimir &Folha de Calibração"), "escala.sheet",
+              &ScalePanel::giveSheet);
+    addFields(*column, distances_, kDistances, "escala.distance");
+    distances_.back()->edit()->setProperty("lastField", true);
+    addButton(*column, QStringLiteral("Ca&lcular e Gravar"), "escala.calibrate",
+              &ScalePanel::giveDistances);
+    column->addStretch();
+    clearDistances();
+}
+
+void ScalePanel::addFields(QVBoxLayout& column, Fields& fields,
+                           const std::array<const char*, 4>& captions, const char* name) {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(look::kMargin);
+    grid->setVerticalSpacing(0);
+    for (int i = 0; i < static_cast<int>(fields.size()); ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        fields[at] = new TextField(QString::fromUtf8(captions[at]),
+                                   QLatin1String(name) + QString::number(i + 1), kFigureWidth,
+                                   numberFinding, this);
+        grid->addWidget(fields[at], i / kFieldsInARow, i % kFieldsInARow);
+    }
+    column.addLayout(grid);
+}
+
+void ScalePanel::addButton(QVBoxLayout& column, const QString& text, const char* name,
+                           void (ScalePanel::*give)()) {
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(QLatin1String(name));
+    button->setAccessibleName(QString(text).remove(QLatin1Char('&')));
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, give);
+    column.addWidget(button, 0, Qt::AlignLeft);
+}
+
+void ScalePanel::showScale(const QString& printer, const PrintScale& scale) {
+    printer_->setText(printer.isEmpty()
+                          ? QStringLiteral("⚠ Nenhuma impressora instalada.")
+                          : QStringLiteral("Impressora %1, neste tipo de cartão").arg(printer));
+    for (std::size_t i = 0; i < figures_.size(); ++i) {
+        shown_[i] = hundredthsText(scale.*kPrintScaleFields[i].member);
+        figures_[i]->setText(toQt(shown_[i]));
+    }
+}
+
+void ScalePanel::clearDistances() {
+    const MeasuredSheet sheet;
+    for (std::size_t i = 0; i < distances_.size(); ++i) {
+        distances_[i]->setText({});
+        distances_[i]->edit()->setPlaceholderText(
+            toQt(hundredthsText(sheet.*kMeasuredDistances[i])));
+    }
+}
+
+bool ScalePanel::hasTyped() const {
+    return textsOf(figures_) != shown_ || std::ranges::any_of(distances_, [](const auto* field) {
+               return !field->text().isEmpty();
+           });
+}
+
+ScalePanel::Texts ScalePanel::textsOf(const Fields& fields) {
+    Texts texts;
+    std::ranges::transform(fields, texts.begin(),
+                           [](const TextField* field) { return toUtf8(field->text()); });
+    return texts;
+}
+
+void ScalePanel::giveScale() {
+    emit scaleTyped(textsOf(figures_));
+}
+
+void ScalePanel::giveDistances() {
+    emit distancesTyped(textsOf(distances_));
+}
+
+void ScalePanel::giveSheet() {
+    emit sheetRequested();
+}
+
+}  // namespace winvrx

@@ -1,0 +1,85 @@
+#include "report/impressorar.h"
+
+#include "report/print_result.h"
+#include "report/print_settings.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace winvrx {
+
+namespace {
+
+const Message kNoAddDialogue{std::string(kImpressorarTitle), "Ocorreu Erro", Icon::Exclamation,
+                             Buttons::Ok,
+                             "Este computador não tem uma tela para adicionar impressoras. Peça a "
+                             "quem cuida dele."};
+
+constexpr auto kChangedElsewhere =
+    "A impressora foi trocada por outro computador. Abra a tela novamente.";
+
+}  // namespace
+
+Impressorar::Impressorar(const Workplace& at, Browser& browser, Printers& printers)
+    : at_(at), browser_(browser), printers_(printers) {}
+
+void Impressorar::load() {
+    (void)attempt(at_, incorrectData(), [this] {
+        names_ = printers_.names();
+        chosen_ = loadPrinterName(at_.files, at_.session.folder);
+        return true;
+    });
+}
+
+bool Impressorar::refreshPrinters() {
+    return std::exchange(names_, printers_.names()) != names_;
+}
+
+std::vector<std::string> Impressorar::entries() const {
+    std::vector<std::string> entries;
+    for (const std::string& name : names_)
+        entries.push_back(printerEntry(entries.size() + 1, name));
+    return entries;
+}
+
+bool Impressorar::isReachable() const {
+    const std::string name = chosen_.empty() ? printers_.defaultName() : chosen_;
+    return std::ranges::find(names_, name) != names_.end();
+}
+
+bool Impressorar::useDefault() {
+    return store({});
+}
+
+bool Impressorar::use(std::size_t position) {
+    const std::string name = names_.at(position);
+    const auto installed = printers_.names();
+    if (std::ranges::find(installed, name) != installed.end()) return store(name);
+    Message gone = printerGone(std::string(kImpressorarTitle));
+    gone.detail = "A impressora " + name + " não está mais instalada.";
+    at_.person.tell(gone);
+    names_ = installed;
+    return false;
+}
+
+bool Impressorar::store(const std::string& name) {
+    return attemptWriting(at_, incorrectData(), [&] {
+        if (loadPrinterName(at_.files, at_.session.folder) != chosen_)
+            throw Fault("printer changed on disk", kChangedElsewhere);
+        savePrinterName(at_.files, at_.session.folder, name);
+        chosen_ = name;
+        return true;
+    });
+}
+
+bool Impressorar::add() {
+    if (printers_.openAddDialogue()) return true;
+    at_.person.tell(kNoAddDialogue);
+    return false;
+}
+
+void Impressorar::help() {
+    openHelp(at_, browser_);
+}
+
+}  // namespace winvrx

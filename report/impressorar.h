@@ -1,0 +1,56 @@
+#pragma once
+
+#include "foundation/desk/browser.h"
+#include "foundation/desk/command.h"
+#include "report/printers.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace winvrx {
+
+inline constexpr std::string_view kImpressorarTitle = "Impressoras";
+
+/// The printer screen: on which printer the program prints. A choice is stored at once.
+class Impressorar {
+  public:
+    /// Browser and printers outlive the screen.
+    Impressorar(const Workplace& at, Browser& browser, Printers& printers);
+
+    /// Reads the choice and the installed printers again.
+    void load();
+    /// Asks again for the installed printers alone. True when they changed.
+    bool refreshPrinters();
+
+    [[nodiscard]] const std::vector<std::string>& printers() const { return names_; }
+    /// The list's entries, one for each of printers().
+    [[nodiscard]] std::vector<std::string> entries() const;
+    /// Empty while the default printer is chosen.
+    [[nodiscard]] const std::string& chosen() const { return chosen_; }
+    /// Empty when the system has none.
+    [[nodiscard]] std::string defaultPrinter() const { return printers_.defaultName(); }
+    /// False when the chosen printer, or a default one, is not installed at the moment.
+    [[nodiscard]] bool isReachable() const;
+
+    /// "Imprimir direto na Impressora Padrão".
+    bool useDefault();
+    /// "Selecione uma Impressora Instalada". False when it could not be reached or stored; the
+    /// former choice then stands.
+    bool use(std::size_t position);
+    /// "Adicionar Uma Impressora =>>".
+    bool add();
+
+    void help();
+
+  private:
+    bool store(const std::string& name);
+
+    Workplace at_;
+    Browser& browser_;
+    Printers& printers_;
+    std::vector<std::string> names_;
+    std::string chosen_;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,40 @@
+#include "report/print_result.h"
+
+namespace winvrx {
+
+namespace {
+
+constexpr auto kTitle = "IMPRESSÃO";
+
+const Message kNoPrinter{kTitle,
+                         "ERRO NA IMPRESSÃO DO RELATÓRIO - Isto ocorre quando não há Impressoras "
+                         "Instalada no PC!",
+                         Icon::Critical};
+
+const Message kNoEngine{
+    kTitle, "Erro na Instalação do Programa!\n* Confirme a Instalação do CrystalReport;",
+    Icon::Critical};
+
+}  // namespace
+
+Message printFailed() {
+    return {kTitle, "Erro na Impressão do Relatório.", Icon::Critical};
+}
+
+Message printerGone(const std::string& title) {
+    return {title, "ERRO AO IMPRIMIR", Icon::Critical};
+}
+
+bool isPrinted(ReportResult result, Operator& person, const ReportEngine& engine) {
+    if (result == ReportResult::Done || result == ReportResult::Cancelled)
+        return result == ReportResult::Done;
+    Message message = kNoPrinter;
+    if (result == ReportResult::PrinterGone) message = printerGone(kTitle);
+    if (result == ReportResult::Failed) message = printFailed();
+    if (result == ReportResult::NoEngine) message = kNoEngine;
+    if (result != ReportResult::NoPrinter) message.detail = engine.explanation();
+    person.tell(message);
+    return false;
+}
+
+}  // namespace winvrx

@@ -1,0 +1,143 @@
+#include "report/print_scale.h"
+
+#include "foundation/values/text.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+
+namespace winvrx {
+
+namespace {
+
+constexpr int kHundred = 100;
+constexpr std::size_t kMostDigits = 6;
+
+bool isDigits(std::string_view text) {
+    return !text.empty() && text.size() <= kMostDigits &&
+           std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
+}
+
+int numberOf(std::string_view digits) {
+    int number = 0;
+    for (const char digit : digits)
+        number = number * 10 + (digit - '0');
+    return number;
+}
+
+bool isWithin(const PrintScaleField& field, int value) {
+    return field.least <= value && value <= field.greatest;
+}
+
+/// Half away from zero.
+std::int64_t dividedRounded(std::int64_t dividend, std::int64_t divisor) {
+    const std::int64_t half = divisor / 2;
+    return (dividend + (dividend < 0 ? -half : half)) / divisor;
+}
+
+bool isOf(const PrintScaleKey& key, std::string_view lineBytes) {
+    const auto line = decodePrintScale(lineBytes);
+    return line && line->key == key;
+}
+
+/// A name is stored as far as its column goes.
+PrintScaleKey storedKey(const PrintScaleKey& key) {
+    return {std::string(trimmed(firstCharacters(trimmed(key.printer), kScalePrinter.width))),
+            key.stock};
+}
+
+}  // namespace
+
+std::optional<int> parseHundredths(std::string_view text) {
+    std::string_view digits = trimmed(text);
+    const bool negative = digits.starts_with('-');
+    if (negative) digits.remove_prefix(1);
+    const std::size_t mark = digits.find_first_of(",.");
+    const std::string_view whole = digits.substr(0, mark);
+    std::string fraction = "00";
+    if (mark != std::string_view::npos) fraction = digits.substr(mark + 1);
+    if (fraction.size() == 1) fraction += '0';
+    if (!isDigits(whole) || !isDigits(fraction) || fraction.size() != 2) return std::nullopt;
+    const int value = numberOf(whole) * kHundred + numberOf(fraction);
+    return negative ? -value : value;
+}
+
+std::string hundredthsText(int hundredths) {
+    const int positive = std::abs(hundredths);
+    return (hundredths < 0 ? "-" : "") + std::to_string(positive / kHundred) + "," +
+           padded(positive % kHundred, 2);
+}
+
+bool isUsable(const PrintScale& scale) {
+    return std::ranges::all_of(kPrintScaleFields, [&](const PrintScaleField& field) {
+        return isWithin(field, scale.*field.member);
+    });
+}
+
+std::optional<PrintScaleLine> decodePrintScale(std::string_view lineBytes) {
+    PrintScaleLine line{{fieldOf(lineBytes, kScalePrinter), fieldOf(lineBytes, kScaleStock)}, {}};
+    if (line.key.printer.empty() || line.key.stock.empty()) return std::nullopt;
+    for (const PrintScaleField& field : kPrintScaleFields) {
+        const auto value = parseHundredths(fieldOf(lineBytes, field.column));
+        if (!value || !isWithin(field, *value)) return std::nullopt;
+        line.scale.*field.member = *value;
+    }
+    return line;
+}
+
+std::string encode(const PrintScaleLine& line, std::string existing) {
+    const std::size_t width = existing.empty() ? kPrintScaleWidth : existing.size();
+    RecordLine bytes(std::move(existing), width);
+    bytes.put(kScalePrinter, line.key.printer);
+    bytes.put(kScaleStock, line.key.stock);
+    for (const PrintScaleField& field : kPrintScaleFields) {
+        const int value = line.scale.*field.member;
+        if (parseHundredths(fieldOf(bytes.bytes(), field.column)) != value)
+            bytes.put(field.column, hundredthsText(value));
+    }
+    return bytes.bytes();
+}
+
+PrintScale loadPrintScale(FileSystem& files, const DataFolder& folder, const PrintScaleKey& key) {
+    const PrintScaleKey wanted = storedKey(key);
+    for (const std::string& bytes : RecordFile(files, folder.file(kPrintScaleName)).lines())
+        if (isOf(wanted, bytes)) return decodePrintScale(bytes)->scale;
+    return {};
+}
+
+void savePrintScale(FileSystem& files, const DataFolder& folder, const PrintScaleLine& line) {
+    RecordFile file(files, folder.file(kPrintScaleName));
+    const PrintScaleLine stored{storedKey(line.key), line.scale};
+    std::vector<std::string> lines = file.lines();
+    const auto found = std::ranges::find_if(
+        lines, [&](const std::string& bytes) { return isOf(stored.key, bytes); });
+    if (found == lines.end())
+        lines.push_back(encode(stored));
+    else
+        *found = encode(stored, *found);
+    file.rewrite(lines);
+}
+
+Alignment loadAlignment(FileSystem& files, const DataFolder& folder, const PrintScaleKey& key,
+                        const AlignmentMemory& memory) {
+    const auto entry = alignmentEntryOf(key.stock);
+    const Offsets offsets = entry ? loadOffsets(files, folder)[*entry] : Offsets();
+    return {.horizontalTwips = offsets.horizontal,
+            .verticalTwips = offsets.vertical,
+            .lines = memory.lines,
+            .scale = loadPrintScale(files, folder, key)};
+}
+
+std::optional<AxisScale> correctionFor(const MeasuredMarks& marks) {
+    const std::int64_t belongs = marks.farBelongs - marks.nearBelongs;
+    const std::int64_t found = std::int64_t{marks.farFound} - marks.nearFound;
+    if (found <= 0) return std::nullopt;
+    const std::int64_t scale = dividedRounded(belongs * kWholeScale, found);
+    const std::int64_t offset =
+        dividedRounded(marks.nearBelongs * found - std::int64_t{marks.nearFound} * belongs, found);
+    if (scale < kSmallestScale || scale > kLargestScale || std::abs(offset) > kLargestScaleOffset)
+        return std::nullopt;
+    return AxisScale{static_cast<int>(scale), static_cast<int>(offset)};
+}
+
+}  // namespace winvrx

@@ -1,0 +1,91 @@
+#include "report/print_settings.h"
+
+#include "foundation/values/text.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace winvrx {
+
+namespace {
+
+constexpr Column kVertical{1, 10};
+constexpr Column kHorizontal{11, std::string::npos};
+
+/// The offsets' own column has no end: a new one stands behind a blank, as in the default line.
+constexpr std::string_view kBeforeHorizontal = " ";
+
+int offsetIn(std::string_view lineBytes, Column column) {
+    const std::string text = fieldOf(lineBytes, column);
+    int offset = kDefaultOffset;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), offset);
+    if (error == std::errc::result_out_of_range && end == text.data() + text.size())
+        return text.front() == '-' ? 0 : kGreatestOffset;
+    if (error != std::errc() || end != text.data() + text.size()) return kDefaultOffset;
+    return std::clamp(offset, 0, kGreatestOffset);
+}
+
+/// At least one for each entry.
+std::vector<std::string> linesOf(FileSystem& files, const DataFolder& folder) {
+    std::vector<std::string> lines = RecordFile(files, folder.file(kAlignmentName)).lines();
+    if (lines.size() < kAlignmentEntries)
+        lines.resize(kAlignmentEntries, lines.empty() ? encode(Offsets()) : lines.front());
+    return lines;
+}
+
+}  // namespace
+
+std::optional<std::size_t> alignmentEntryOf(std::string_view stockCode) {
+    const auto found = std::ranges::find(kPrintOrder, stockCode);
+    if (found == kPrintOrder.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - kPrintOrder.begin());
+}
+
+Offsets decodeOffsets(std::string_view lineBytes) {
+    return {.vertical = offsetIn(lineBytes, kVertical),
+            .horizontal = offsetIn(lineBytes, kHorizontal)};
+}
+
+std::string encode(const Offsets& offsets, std::string_view existing) {
+    const bool isNew = trimmed(existing).empty();
+    const Offsets before = decodeOffsets(existing);
+    std::string line = !isNew && offsets.vertical == before.vertical
+                           ? std::string(existing.substr(0, kVertical.width))
+                           : std::to_string(offsets.vertical);
+    const bool reachesHorizontal = existing.size() >= kHorizontal.start;
+    if (!isNew && !reachesHorizontal && offsets.horizontal == before.horizontal) return line;
+    line.resize(kVertical.width, ' ');
+    if (reachesHorizontal && offsets.horizontal == before.horizontal)
+        return line.append(existing.substr(kVertical.width));
+    return line.append(kBeforeHorizontal).append(std::to_string(offsets.horizontal));
+}
+
+std::vector<Offsets> loadOffsets(FileSystem& files, const DataFolder& folder) {
+    std::vector<Offsets> entries;
+    for (const std::string& line : linesOf(files, folder))
+        if (entries.size() < kAlignmentEntries) entries.push_back(decodeOffsets(line));
+    return entries;
+}
+
+void saveOffsets(FileSystem& files, const DataFolder& folder, std::size_t entry,
+                 const Offsets& offsets) {
+    std::vector<std::string> lines = linesOf(files, folder);
+    lines.at(entry) = encode(offsets, lines.at(entry));
+    RecordFile(files, folder.file(kAlignmentName)).rewrite(lines);
+}
+
+void removeOffsets(FileSystem& files, const DataFolder& folder) {
+    (void)RecordFile(files, folder.file(kAlignmentName)).remove();
+}
+
+std::string loadPrinterName(FileSystem& files, const DataFolder& folder) {
+    const auto values = RecordFile(files, folder.file(kPrinterName)).values();
+    return values.empty() || values.front() == kDefaultPrinter ? std::string() : values.front();
+}
+
+void savePrinterName(FileSystem& files, const DataFolder& folder, const std::string& name) {
+    RecordFile(files, folder.file(kPrinterName))
+        .rewriteValues({name.empty() ? std::string(kDefaultPrinter) : name});
+}
+
+}  // namespace winvrx

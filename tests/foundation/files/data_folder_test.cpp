@@ -1,0 +1,103 @@
+#include "foundation/files/data_folder.h"
+
+#include "tests/support/memory_files.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace winvrx {
+namespace {
+
+using testing::MemoryFiles;
+
+const CompanyCode kFirst = *CompanyCode::parse("01");
+const CompanyCode kSecond = *CompanyCode::parse("02");
+const EmployeeCode kEmployee = *EmployeeCode::parse("001");
+
+class TwoDrives final : public Drives {
+  public:
+    [[nodiscard]] std::filesystem::path root(char letter) const override {
+        if (letter == 'C') return "/home/ana/drive_c";
+        if (letter == 'D') return "/media/pendrive";
+        return {};
+    }
+    [[nodiscard]] std::vector<char> letters() const override { return {'C', 'D'}; }
+};
+
+TEST(DataFolder, TheDriveLetterChangesEveryPath) {
+    const TwoDrives drives;
+    EXPECT_EQ(pathOnDrive(drives, 'C', kDataFolder),
+              "/home/ana/drive_c/Users/Public/Documents/Winvrx/");
+    EXPECT_EQ(pathOnDrive(drives, 'Z', kDataFolder), "");
+    const DataFolder onDrive('D', pathOnDrive(drives, 'D', kDataFolder));
+    EXPECT_EQ(onDrive.companyFile(kFirst, "CartaoDePontoTipo"),
+              "/media/pendrive/Users/Public/Documents/Winvrx/01CartaoDePontoTipo");
+    EXPECT_EQ(onDrive.file("qdb.mdb"), "/media/pendrive/Users/Public/Documents/Winvrx/qdb.mdb");
+}
+
+TEST(DataFolder, ASharedProgramKeepsItsDataBesideItself) {
+    EXPECT_TRUE(isShare("\\\\servidor\\programas"));
+    EXPECT_FALSE(isShare("C:\\Winvrx"));
+    EXPECT_FALSE(isShare("/opt/winvrx"));
+    EXPECT_EQ(shareDataFolder("\\\\servidor\\programas"), "//servidor/programas/Winvrx/");
+}
+
+TEST(DataFolder, NoNameLeadsOutside) {
+    const DataFolder folder('C', "/data");
+    for (const char* name :
+         {"", ".", "..", "../x", "a/b", "a\\b", "C:x", "/etc/passwd", "01\n", "01\x1F"})
+        EXPECT_THROW((void)folder.file(name), std::invalid_argument) << name;
+    EXPECT_THROW((void)folder.file(std::string_view("01\0x", 4)), std::invalid_argument);
+}
+
+TEST(DataFolder, NamesAreReadByPosition) {
+    struct Case {
+        const char* name;
+        bool ofCompany;
+        bool ofEmployee;
+    };
+    for (const Case& c : {Case{"01PadrHor001.pdx", true, true},
+                          {"01PadrHor002.pdx", true, false},
+                          {"01MedHorExtr001", true, true},
+                          {"01configAf001", true, true},
+                          {"01configAf010", true, false},
+                          {"01TRTC001", true, true},
+                          {"01THRTC002", true, false},
+                          {"01AviTRTC001", true, true},
+                          {"01001-03-2024.bdx", true, true},
+                          {"01002-03-2024.bdx", true, false},
+                          {"01001032024.pdx", true, true},
+                          {"01001132024.txt", false, false},
+                          {"01001012.pdx", true, false},
+                          {"01CartaPonto", true, false},
+                          {"01CartaoDePontoTipo", false, false},
+                          {"01Empresa", false, false},
+                          {"02PadrHor001.pdx", false, false},
+                          {"x01PadrHor001.pdx", false, false},
+                          {"bk-0115-03-2024-10-00.bkp", false, false},
+                          {"", false, false}}) {
+        EXPECT_EQ(isRecordOfCompany(c.name, kFirst), c.ofCompany) << c.name;
+        EXPECT_EQ(isRecordOfEmployee(c.name, kFirst, kEmployee), c.ofEmployee) << c.name;
+    }
+}
+
+TEST(DataFolder, DeletingACodeLeavesTheOthersAlone) {
+    MemoryFiles files;
+    const DataFolder folder('C', "/data");
+    for (const char* name : {"01Empresa", "01CartaPonto", "01PadrHor001.pdx", "02CartaPonto",
+                             "02PadrHor001.pdx", "02PadrHor002.pdx", "02001-03-2024.bdx"})
+        files.content[folder.file(name)] = name;
+    removeRecordsOfEmployee(files, folder, kSecond, kEmployee);
+    EXPECT_TRUE(files.exists("/data/02PadrHor002.pdx"));
+    EXPECT_TRUE(files.exists("/data/02CartaPonto"));
+    EXPECT_EQ(files.content.size(), 5U);
+    removeRecordsOfCompany(files, folder, kSecond);
+    EXPECT_EQ(files.content.size(), 3U);
+    EXPECT_TRUE(files.exists("/data/01Empresa"));
+    EXPECT_TRUE(files.exists("/data/01CartaPonto"));
+    EXPECT_TRUE(files.exists("/data/01PadrHor001.pdx"));
+}
+
+}  // namespace
+}  // namespace winvrx

@@ -1,0 +1,102 @@
+#include "timecard/punches/card_sheet.h"
+
+#include "timecard/punches/cell_block.h"
+
+#include <gmock/gmock.h>
+
+namespace winvrx {
+namespace {
+
+using ::testing::ElementsAre;
+using namespace std::chrono_literals;
+
+struct EditedSheet : ::testing::Test {
+    CardSheet sheet{blankMonth(2024y / 2)};
+
+    [[nodiscard]] std::string entryOf(int day) const {
+        return sheet.text(day, PunchCell::MorningEntry);
+    }
+};
+
+TEST_F(EditedSheet, TimesAreTakenAsHandsTypeThem) {
+    struct Case {
+        const char* typed;
+        const char* shown;
+        bool good;
+    };
+    for (const Case& c :
+         {Case{"8", "08:00", true}, Case{"800", "08:00", true}, Case{"8:0", "08:00", true},
+          Case{"08:00", "08:00", true}, Case{" 1730 ", "17:30", true}, Case{"8,5", "08:05", true},
+          Case{"", "", true}, Case{"24", "24", false}, Case{"860", "860", false},
+          Case{"8h", "8h", false}, Case{"-1", "-1", false}}) {
+        sheet.type(5, PunchCell::MorningEntry, c.typed);
+        EXPECT_EQ(entryOf(5), c.shown) << c.typed;
+        EXPECT_EQ(sheet.findingAt(5, PunchCell::MorningEntry).empty(), c.good) << c.typed;
+    }
+}
+
+TEST_F(EditedSheet, EditsAreTakenBackAndMadeAgainUntilRecorded) {
+    EXPECT_FALSE(sheet.undo());
+    sheet.type(1, PunchCell::MorningEntry, "8");
+    sheet.type(1, PunchCell::MorningEntry, "9");
+    sheet.type(1, PunchCell::MorningEntry, "9:00");  // no change
+    sheet.type({{2, PunchCell::MorningEntry, "7"}, {2, PunchCell::Situation, "Falta"}});
+    EXPECT_EQ(sheet.undo(), 2);
+    EXPECT_EQ(entryOf(2), "");
+    EXPECT_EQ(sheet.line(2).situation, "");
+    EXPECT_TRUE(sheet.undo());
+    EXPECT_EQ(entryOf(1), "08:00");
+    EXPECT_EQ(sheet.redo(), 1);
+    EXPECT_EQ(sheet.redo(), 2);
+    EXPECT_FALSE(sheet.redo());
+    EXPECT_EQ(entryOf(1) + entryOf(2), "09:0007:00");
+    EXPECT_TRUE(sheet.undo());
+    sheet.type(3, PunchCell::MorningEntry, "6");
+    EXPECT_FALSE(sheet.redo());  // another way was taken
+    sheet.markRecorded();
+    EXPECT_FALSE(sheet.undo());
+    EXPECT_EQ(entryOf(3), "06:00");
+}
+
+TEST(CellBlock, IsReadAsSpreadsheetsWriteIt) {
+    struct Case {
+        const char* text;
+        CellBlock block;
+    };
+    for (const Case& c : std::vector<Case>{{"", {}},
+                                           {"8", {{"8"}}},
+                                           {"8\t12\n", {{"8", "12"}}},
+                                           {"8\t\r\n\t12\r\n", {{"8", ""}, {"", "12"}}},
+                                           {"a\rb", {{"a"}, {"b"}}},
+                                           {"8\n\n9", {{"8"}, {""}, {"9"}}},
+                                           {"\"a\tb \"\"c\"\"\nd\"\t9", {{"a\tb \"c\"\nd", "9"}}},
+                                           {"\"open", {{"\"open"}}}})
+        EXPECT_EQ(parseCellBlock(c.text), c.block) << c.text;
+    const CellBlock block = {{"08:00", "a\tb"}, {"", "say \"x\""}};
+    EXPECT_EQ(parseCellBlock(textOf(block)), block);
+}
+
+TEST_F(EditedSheet, ABlockIsPastedAsOneEdit) {
+    EXPECT_EQ(paste(sheet, 28, PunchCell::ExtraExit,
+                    parseCellBlock("20:00:00\tx\tFalta Inj.\n8:30:15\t\t\n")),
+              "");
+    EXPECT_EQ(sheet.line(28).extraExit, "20:00");
+    EXPECT_EQ(sheet.line(28).shortField, "x");
+    EXPECT_EQ(sheet.line(28).situation, "Falta Inj.");
+    EXPECT_EQ(sheet.line(29).extraExit, "8:30:15");
+    EXPECT_EQ(sheet.findingAt(29, PunchCell::ExtraExit),
+              "\"8:30:15\" não é uma hora de 00:00 a 23:59.");
+    EXPECT_TRUE(sheet.undo());
+    EXPECT_FALSE(sheet.changed());
+}
+
+TEST_F(EditedSheet, ABlockThatHasNoPlaceIsRefusedWhole) {
+    EXPECT_EQ(paste(sheet, 28, PunchCell::MorningEntry, parseCellBlock("8\n8\n8")),
+              "O bloco tem 3 linhas; a partir do dia 28 o mês tem 2.");
+    EXPECT_EQ(paste(sheet, 1, PunchCell::ShortField, parseCellBlock("a\tb\tc")),
+              "O bloco tem 3 colunas; a partir desta célula cabem 2.");
+    EXPECT_FALSE(sheet.changed());
+}
+
+}  // namespace
+}  // namespace winvrx

@@ -1,0 +1,30 @@
+#include "timecard/punches/desktop/punch_grid.h"
+
+#include "tests/support/card_screen.h"
+
+namespace winvrx {
+namespace {
+
+using testing::CardScreen;
+using testing::kPunches;
+
+struct PunchGridWidths : CardScreen {};
+
+TEST_F(PunchGridWidths, LeaveNoTimeCutWhateverTheFont) {
+    desk.file(kPunches) = "  \r\n04/seg/mar08:0012:0013:0025:00\r\n05/ter/mar08:00\r\n";
+    openOn(0);
+    PunchModel model(screen, HalfMonth::First, nullptr);
+    const PunchGrid grid(&model, QStringLiteral("grid1"));
+    QStyleOptionViewItem option;
+    option.initFrom(&grid);
+    for (int row = 0; row < model.rowCount(); ++row)
+        for (int column = 0; column < PunchModel::Columns; ++column) {
+            const QModelIndex at = model.index(row, column);
+            const int needed = grid.itemDelegate()->sizeHint(option, at).width();
+            EXPECT_TRUE(column == PunchModel::Situation || grid.columnWidth(column) > needed)
+                << at.data().toString().toStdString() << ": " << grid.columnWidth(column);
+        }
+}
+
+}  // namespace
+}  // namespace winvrx

@@ -1,0 +1,178 @@
+#include "timecard/hours/hours.h"
+#include "timecard/hours/night_time.h"
+#include "timecard/hours/tolerance.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+using std::chrono::seconds;
+
+constexpr std::chrono::hours kDay{24};
+
+struct DayPunches {
+    DaySchedule regular;
+    TimePair extra;
+
+    [[nodiscard]] bool none() const { return regular == DaySchedule() && extra == TimePair(); }
+};
+
+/// What the calendar, the schedule and the line's mark make of a day.
+struct DayTerms {
+    DayMeaning meaning = DayMeaning::Work;
+    DaySchedule scheduled;
+    bool atMaximum = false;  ///< a rest day: extra hours are paid at the maximum
+    bool paidRest = false;
+};
+
+DaySchedule scheduledOn(std::chrono::weekday weekday, const WorkTerms& terms) {
+    if (weekday != std::chrono::Saturday) return terms.weekday;
+    return terms.saturdayIsNormal ? terms.saturday : DaySchedule();
+}
+
+DayTerms dayTerms(const DayPunches& punches, DayMeaning meaning, Date date,
+                  const WorkTerms& terms) {
+    const std::chrono::weekday weekday = weekdayOf(date);
+    DayTerms day;
+    day.meaning = meaning;
+    day.paidRest = weekday == std::chrono::Sunday || terms.isHoliday(date);
+    day.atMaximum =
+        day.paidRest || meaning == DayMeaning::Holiday || meaning == DayMeaning::WeeklyRest;
+    // The employee's own rest day asks for nothing as long as nothing is said of it.
+    const bool ownRest = weekday == terms.restDay && meaning == DayMeaning::Work && punches.none();
+    if (!day.atMaximum && meaning != DayMeaning::Leave && !ownRest)
+        day.scheduled = scheduledOn(weekday, terms);
+    return day;
+}
+
+TimeOfDay clockAt(seconds sinceMidnight) {
+    return {std::chrono::duration_cast<std::chrono::minutes>(sinceMidnight % kDay)};
+}
+
+/// Goes through a day and hands each piece of it to `visit`.
+template <typename Visit>
+class DayWalk {
+  public:
+    DayWalk(const DayTerms& day, const WorkTerms& terms, Visit visit)
+        : day_(day),
+          overtime_(terms.overtime),
+          standard_(lengthOf(day.scheduled)),
+          dayLeft_(std::chrono::hours{terms.overtime.thresholdHours}),
+          nightLeft_(dayLeft_),
+          visit_(visit) {
+        give(HourCategory::Standard, HourRule::Schedule, standard_);
+        if (day.paidRest)
+            give(HourCategory::WeeklyRest, HourRule::PaidRest, lengthOf(terms.weekday));
+    }
+
+    void work(const DayPunches& punches) {
+        if (day_.meaning == DayMeaning::Missing) {
+            give(HourCategory::Missing, HourRule::MarkedMissing, standard_);
+            return;
+        }
+        const bool tolerated = isTolerated(punches.regular, day_.scheduled);
+        const bool exact = punches.regular == day_.scheduled;
+        normalRule_ = tolerated && !exact ? HourRule::Tolerated : HourRule::WithinSchedule;
+        seconds normal{0};
+        for (const auto member : {&DaySchedule::morning, &DaySchedule::afternoon}) {
+            const TimePair& pair = punches.regular.*member;
+            const bool scheduled = lengthOf(day_.scheduled.*member).count() > 0;
+            const seconds share = tolerated ? (scheduled ? lengthOf(pair) : seconds{0})
+                                            : std::min(lengthOf(pair), standard_ - normal);
+            workPair(pair, share);
+            normal += share;
+        }
+        workPair(punches.extra, seconds{0});
+        if (!tolerated && day_.meaning != DayMeaning::Excused)
+            give(HourCategory::Missing, HourRule::ShortOfSchedule, standard_ - normal);
+    }
+
+  private:
+    /// The first `normal` of the pair's time is normal, the rest is extra.
+    void workPair(const TimePair& pair, seconds normal) {
+        const seconds length = lengthOf(pair);
+        if (length.count() == 0) return;
+        const seconds entry = pair.entry->sinceMidnight;
+        forEachTurn(entry, entry + normal, [this](seconds from, seconds to, bool night) {
+            give(night ? HourCategory::NormalNight : HourCategory::NormalDay, normalRule_, from,
+                 to);
+        });
+        forEachTurn(entry + normal, entry + length,
+                    [this](seconds from, seconds to, bool night) { giveExtra(from, to, night); });
+    }
+
+    template <typename Take>
+    void forEachTurn(seconds from, seconds to, Take take) {
+        while (from < to) {
+            const seconds end = std::min(to, nextTurn(from));
+            take(from, end, isNight(from));
+            from = end;
+        }
+    }
+
+    void giveExtra(seconds from, seconds to, bool night) {
+        if (overtime_.mode == OvertimeMode::SingleLevel) {
+            give(maximum(night), HourRule::SingleLevel, from, to);
+        } else if (day_.atMaximum) {
+            give(maximum(night), HourRule::RestDay, from, to);
+        } else if (!overtime_.differentiatedPercent) {
+            give(minimum(night), HourRule::WorkingDay, from, to);
+        } else {
+            seconds& left = night ? nightLeft_ : dayLeft_;
+            const seconds turn = from + std::min(left, to - from);
+            left -= turn - from;
+            give(minimum(night), HourRule::UpToThreshold, from, turn);
+            give(maximum(night), HourRule::AboveThreshold, turn, to);
+        }
+    }
+
+    static HourCategory minimum(bool night) {
+        return night ? HourCategory::NightExtraMinimum : HourCategory::ExtraMinimum;
+    }
+    static HourCategory maximum(bool night) {
+        return night ? HourCategory::NightExtraMaximum : HourCategory::ExtraMaximum;
+    }
+
+    void give(HourCategory category, HourRule rule, seconds length) {
+        if (length.count() > 0) visit_(HourPart{category, rule, length, std::nullopt});
+    }
+    void give(HourCategory category, HourRule rule, seconds from, seconds to) {
+        if (from < to)
+            visit_(HourPart{category, rule, to - from, ClockSpan{clockAt(from), clockAt(to)}});
+    }
+
+    const DayTerms& day_;
+    const OvertimeRules& overtime_;
+    seconds standard_;
+    seconds dayLeft_;    ///< of the threshold, for extra hours by day
+    seconds nightLeft_;  ///< likewise by night
+    HourRule normalRule_ = HourRule::WithinSchedule;
+    Visit visit_;
+};
+
+template <typename Visit>
+void walk(const PunchLine& line, Date date, const WorkTerms& terms, Visit visit) {
+    if (terms.admission && date < *terms.admission) return;
+    const DayPunches punches{{line.morning(), line.afternoon()}, line.extra()};
+    const DayTerms day = dayTerms(punches, meaningOf(line.situation), date, terms);
+    DayWalk(day, terms, visit).work(punches);
+}
+
+}  // namespace
+
+HourTotals dayHours(const PunchLine& line, Date date, const WorkTerms& terms) {
+    HourTotals totals;
+    walk(line, date, terms,
+         [&totals](const HourPart& part) { totals[part.category] += part.length; });
+    return totals;
+}
+
+std::vector<HourPart> dayParts(const PunchLine& line, Date date, const WorkTerms& terms) {
+    std::vector<HourPart> parts;
+    walk(line, date, terms, [&parts](const HourPart& part) { parts.push_back(part); });
+    return parts;
+}
+
+}  // namespace winvrx

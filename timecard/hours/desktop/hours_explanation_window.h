@@ -1,0 +1,25 @@
+#pragma once
+
+#include "foundation/widgets/desktop/screen_window.h"
+#include "timecard/hours/hours_summary.h"
+
+class QTableWidget;
+
+namespace winvrx {
+
+/// The days and minutes that make up one figure, each with the rule applied.
+class HoursExplanationWindow : public ScreenWindow {
+    Q_OBJECT
+
+  public:
+    /// `owner` says whose hours they are and in which month.
+    HoursExplanationWindow(const HoursSummary& hours, HourCategory category,
+                           std::optional<HalfMonth> half, const QString& owner,
+                           QWidget* parent = nullptr);
+
+  private:
+    [[nodiscard]] QWidget* buildBody(const std::vector<ExplainedPart>& parts);
+    [[nodiscard]] QTableWidget* buildTable(const std::vector<ExplainedPart>& parts);
+};
+
+}  // namespace winvrx

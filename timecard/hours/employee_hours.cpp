@@ -1,0 +1,105 @@
+#include "timecard/hours/employee_hours.h"
+
+#include "timecard/month/overtime_record.h"
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::string_view kClosingEnd = ".prd";
+constexpr std::chrono::months kOneMonth{1};
+
+/// Where an employee's records lie.
+struct Records {
+    FileSystem& files;
+    const DataFolder& folder;
+    const CompanyCode& company;
+    EmployeeCode employee;
+};
+
+std::vector<PunchLine> blankDays(const DayPeriod& period) {
+    std::vector<PunchLine> lines;
+    for (Date date = period.first; date <= period.last; date = plusDays(date, 1))
+        lines.emplace_back().label = dayLabel(date);
+    return lines;
+}
+
+/// Puts each line in its day's place. Of two lines for one day the first counts, and a line whose
+/// label is no day of the period has no place.
+class DayPlaces {
+  public:
+    explicit DayPlaces(const DayPeriod& period)
+        : lines_(blankDays(period)), taken_(lines_.size(), false) {}
+
+    void put(PunchLine line) {
+        for (std::size_t at = 0; at < lines_.size(); ++at) {
+            if (lines_[at].label != line.label || taken_[at]) continue;
+            lines_[at] = std::move(line);
+            taken_[at] = true;
+            return;
+        }
+    }
+
+    [[nodiscard]] std::vector<PunchLine> lines() && { return std::move(lines_); }
+
+  private:
+    std::vector<PunchLine> lines_;
+    std::vector<bool> taken_;
+};
+
+bool putClosingRecord(DayPlaces& places, const Records& at, WorkMonth month) {
+    const RecordFile record(at.files,
+                            at.folder.file(closingFileName(at.company, at.employee, month)));
+    for (const std::string& bytes : record.lines())
+        places.put(decodePunchLine(bytes));
+    return record.exists();
+}
+
+bool putMonth(DayPlaces& places, const Records& at, WorkMonth month) {
+    auto lines = loadPunches(at.files, at.folder, at.company, at.employee, month);
+    if (!lines) return false;
+    Date date = firstDay(month);
+    for (PunchLine& line : *lines) {
+        line.label = dayLabel(date);
+        places.put(std::move(line));
+        date = plusDays(date, 1);
+    }
+    return true;
+}
+
+WorkTerms termsOf(const Records& at, const Employee& employee, const MonthSettings& settings,
+                  const DayPeriod& period) {
+    const auto schedule = loadSchedule(at.files, at.folder, at.company, at.employee);
+    WorkTerms terms =
+        workTerms(settings, overtimeOf(at.files, at.folder, at.company, at.employee, settings),
+                  schedule.value_or(StandardSchedule()), employee);
+    if (const WorkMonth first = monthOf(period.first); first != settings.month)
+        for (const Date date : loadMonthSettings(at.files, at.folder, first).holidays())
+            terms.holidays.push_back(date);
+    return terms;
+}
+
+}  // namespace
+
+std::optional<EmployeeHours> loadEmployeeHours(FileSystem& files, const DataFolder& folder,
+                                               const CompanyCode& company, const Employee& employee,
+                                               const MonthSettings& settings, HoursPeriod which) {
+    const Records at{files, folder, company, employee.employeeCode().value()};
+    const DayPeriod month{firstDay(settings.month), lastDay(settings.month)};
+    const DayPeriod period = which == HoursPeriod::ClosingPeriod ? closingPeriod(settings) : month;
+    DayPlaces places(period);
+    bool any = period != month && putClosingRecord(places, at, settings.month);
+    for (WorkMonth one = monthOf(period.first); one <= settings.month; one += kOneMonth)
+        any = putMonth(places, at, one) || any;
+    if (!any) return std::nullopt;
+    return EmployeeHours{period, std::move(places).lines(),
+                         termsOf(at, employee, settings, period)};
+}
+
+std::string closingFileName(const CompanyCode& company, const EmployeeCode& employee,
+                            WorkMonth month) {
+    std::string name = punchFileName(company, employee, month);
+    return name.replace(name.rfind('.'), std::string::npos, kClosingEnd);
+}
+
+}  // namespace winvrx

@@ -1,0 +1,119 @@
+#include "timecard/hours/hours_summary.h"
+
+#include "timecard/hours/night_time.h"
+
+namespace winvrx {
+
+namespace {
+
+/// A figure's caption; a percentage follows where the category has one.
+struct Caption {
+    std::string_view text;
+    int OvertimeRules::*percent = nullptr;
+};
+
+constexpr std::array<Caption, kHourCategories.size()> kCaptions = {{
+    {"Hora Padrão"},
+    {"Hora Normal"},
+    {"Hora Noturna Norm"},
+    {"Hora Extra ", &OvertimeRules::minimumPercent},
+    {"Hora Extra ", &OvertimeRules::maximumPercent},
+    {"Hor Notur Extr ", &OvertimeRules::nightMinimumPercent},
+    {"Hor Notur Extr ", &OvertimeRules::nightMaximumPercent},
+    {"Hora Falta"},
+    {"Hora D.S.R."},
+}};
+
+const Caption& entryOf(HourCategory category) {
+    return kCaptions[static_cast<std::size_t>(category)];
+}
+
+std::string wordsOf(HourRule rule, const OvertimeRules& rules) {
+    const std::string threshold = std::to_string(rules.thresholdHours) + " hs";
+    switch (rule) {
+        case HourRule::Schedule:
+            return "jornada do dia";
+        case HourRule::WithinSchedule:
+            return "dentro da jornada";
+        case HourRule::Tolerated:
+            return "tolerância: até 5 min por marcação e 10 min no dia";
+        case HourRule::WorkingDay:
+            return "além da jornada";
+        case HourRule::UpToThreshold:
+            return "até " + threshold;
+        case HourRule::AboveThreshold:
+            return "acima de " + threshold;
+        case HourRule::RestDay:
+            return "domingo, feriado ou descanso";
+        case HourRule::SingleLevel:
+            return "percentual único";
+        case HourRule::MarkedMissing:
+            return "dia marcado como falta: jornada inteira";
+        case HourRule::ShortOfSchedule:
+            return "abaixo da jornada, além da tolerância";
+        case HourRule::PaidRest:
+            return "domingo ou feriado: jornada diária";
+    }
+    return {};
+}
+
+std::string spanText(const ClockSpan& span) {
+    return timeText(span.from) + "–" + timeText(span.to);
+}
+
+}  // namespace
+
+int OvertimeRules::*percentOf(HourCategory category) {
+    return entryOf(category).percent;
+}
+
+std::string captionOf(HourCategory category, const OvertimeRules& rules) {
+    const Caption& caption = entryOf(category);
+    std::string text(caption.text);
+    return caption.percent ? text + std::to_string(rules.*caption.percent) + "%" : text;
+}
+
+std::string ruleText(const HourPart& part, const OvertimeRules& rules) {
+    std::string text = wordsOf(part.rule, rules);
+    if (part.span && isNight(part.span->from.sinceMidnight)) text.insert(0, "noturno, ");
+    if (const auto percent = percentOf(part.category))
+        text += ": " + std::to_string(rules.*percent) + "%";
+    return text;
+}
+
+HoursSummary::HoursSummary(std::vector<PunchLine> lines, WorkMonth month, WorkTerms terms)
+    : lines_(std::move(lines)),
+      first_(firstDay(month)),
+      terms_(std::move(terms)),
+      firstHalf_(periodHours(lines_, first_, terms_, HalfMonth::First)),
+      secondHalf_(periodHours(lines_, first_, terms_, HalfMonth::Second)),
+      month_(firstHalf_) {
+    month_ += secondHalf_;
+}
+
+const HourTotals& HoursSummary::totals(std::optional<HalfMonth> half) const {
+    if (!half) return month_;
+    return *half == HalfMonth::First ? firstHalf_ : secondHalf_;
+}
+
+std::string HoursSummary::figure(HourCategory category, std::optional<HalfMonth> half) const {
+    return formatted(totals(half)[category], rules().totalsFormat);
+}
+
+std::vector<ExplainedPart> HoursSummary::explanation(HourCategory category,
+                                                     std::optional<HalfMonth> half) const {
+    std::vector<ExplainedPart> explained;
+    Date date = first_;
+    for (const PunchLine& line : lines_) {
+        if (!half || halfOf(date) == *half)
+            for (const HourPart& part : dayParts(line, date, terms_))
+                if (part.category == category)
+                    explained.push_back({dayLabel(date), part.span ? spanText(*part.span) : "",
+                                         formatted(part.length, rules().totalsFormat),
+                                         ruleText(part, rules())});
+        date = plusDays(date, 1);
+    }
+    return explained;
+}
+
+}  // namespace winvrx

@@ -1,0 +1,215 @@
+#include "timecard/month/data_mes_corrente.h"
+
+#include "timecard/month/selected_month.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+const Message kGiveUpChanges{
+    "ALTERAÇÃO", "As alterações deste mês ainda não foram gravadas. Deseja abandoná-las?",
+    Icon::Question, Buttons::YesNo};
+
+constexpr std::string_view kChangedElsewhere =
+    "Este mês foi alterado por outro computador. Abra a tela novamente.";
+constexpr int kMonthsBack = 24;
+constexpr int kMonthsAhead = 12;
+
+}  // namespace
+
+DataMesCorrente::DataMesCorrente(const Workplace& at) : at_(at) {
+    opened_.month = settings_.month = monthOf(at_.clock.today());
+}
+
+void DataMesCorrente::open() {
+    (void)attempt(at_, incorrectData(), [this] {
+        const auto selected = loadSelectedMonth(at_.files, at_.session.folder);
+        load(selected ? selected->month : monthOf(at_.clock.today()));
+        return true;
+    });
+}
+
+std::optional<MonthSettings> DataMesCorrente::readRecord(WorkMonth month) const {
+    const DataFolder& folder = at_.session.folder;
+    if (!hasMonthSettings(at_.files, folder, month)) return std::nullopt;
+    return loadMonthSettings(at_.files, folder, month);
+}
+
+void DataMesCorrente::load(WorkMonth month) {
+    const DataFolder& folder = at_.session.folder;
+    auto offer = offeredHolidays(at_.files, folder, month);
+    auto onDisk = readRecord(month);
+    auto unread = unreadMonthLines(at_.files, folder, month);
+    auto ownRules = ownRulesOfList(at_, month);
+    offer_ = std::move(offer);
+    onDisk_ = std::move(onDisk);
+    unread_ = std::move(unread);
+    ownRules_ = std::move(ownRules);
+    opened_ = settings_ = onDisk_.value_or(proposedSettings(month, offer_));
+    numbers_ = numbersOf(settings_);
+    switched_ = false;
+}
+
+std::vector<WorkMonth> DataMesCorrente::months() const {
+    const WorkMonth present = monthOf(at_.clock.today());
+    std::vector<WorkMonth> list;
+    for (int step = -kMonthsBack; step <= kMonthsAhead; ++step)
+        list.push_back(present + std::chrono::months{step});
+    if (settings_.month < list.front()) list.insert(list.begin(), settings_.month);
+    if (settings_.month > list.back()) list.push_back(settings_.month);
+    return list;
+}
+
+bool DataMesCorrente::chooseMonth(WorkMonth month) {
+    if (month == settings_.month) return true;
+    if (!mayLeave()) return false;
+    return attempt(at_, incorrectData(), [&] {
+        load(month);
+        return true;
+    });
+}
+
+bool DataMesCorrente::chooseNextReference() {
+    const WorkMonth present = monthOf(at_.clock.today());
+    if (settings_.month < present) return chooseMonth(present);
+    return chooseMonth(settings_.month == present ? present + std::chrono::months{1}
+                                                  : present - std::chrono::months{1});
+}
+
+std::optional<Date> DataMesCorrente::dateOfCell(std::size_t cell) const {
+    const std::size_t first = holidayCellOf(firstDay(settings_.month));
+    if (cell < first || cell > holidayCellOf(lastDay(settings_.month))) return std::nullopt;
+    return plusDays(firstDay(settings_.month), static_cast<int>(cell - first));
+}
+
+void DataMesCorrente::tick(Date date, bool holiday) {
+    settings_.setHoliday(date, holiday);
+}
+
+void DataMesCorrente::clearTicks() {
+    settings_.holidayCells.fill(false);
+}
+
+void DataMesCorrente::restoreTicks() {
+    (void)attempt(at_, incorrectData(), [this] {
+        const auto record = readRecord(settings_.month);
+        settings_.holidayCells =
+            record.value_or(proposedSettings(settings_.month, offer_)).holidayCells;
+        opened_.holidayCells = settings_.holidayCells;
+        if (onDisk_ && record) onDisk_->holidayCells = record->holidayCells;
+        return true;
+    });
+}
+
+void DataMesCorrente::setRecordTicks(bool on) {
+    settings_.recordTicks = on;
+}
+
+std::vector<ListedHoliday> DataMesCorrente::holidays() const {
+    const MonthSettings proposed = proposedSettings(settings_.month, offer_);
+    std::vector<ListedHoliday> listed;
+    for (const Date date : settings_.holidays())
+        listed.push_back({date, nameOf(date), !isRecorded() && proposed.isHoliday(date)});
+    return listed;
+}
+
+std::vector<Holiday> DataMesCorrente::untickedHolidays() const {
+    std::vector<Holiday> unticked = offer_;
+    std::erase_if(unticked, [this](const Holiday& one) { return settings_.isHoliday(one.date); });
+    return unticked;
+}
+
+void DataMesCorrente::reloadOffer() {
+    (void)attempt(at_, incorrectData(), [this] {
+        auto offer = offeredHolidays(at_.files, at_.session.folder, settings_.month);
+        const auto before = proposedSettings(settings_.month, offer_).holidayCells;
+        const auto after = proposedSettings(settings_.month, offer).holidayCells;
+        for (std::size_t cell = 0; cell < kHolidayCells && !isRecorded(); ++cell)
+            if (before[cell] != after[cell])
+                settings_.holidayCells[cell] = opened_.holidayCells[cell] = after[cell];
+        offer_ = std::move(offer);
+        return true;
+    });
+}
+
+void DataMesCorrente::type(const MonthNumberField& field, std::string text) {
+    numbers_.*field.typed = std::move(text);
+}
+
+void DataMesCorrente::setDifferentiatedPercent(bool on) {
+    settings_.overtime.differentiatedPercent = on;
+    switched_ = true;
+}
+
+void DataMesCorrente::setMode(OvertimeMode mode) {
+    settings_.overtime.mode = mode;
+}
+
+void DataMesCorrente::setTotalsFormat(TotalsFormat format) {
+    settings_.overtime.totalsFormat = format;
+}
+
+void DataMesCorrente::setFixedMonth(bool fixed) {
+    settings_.fixedMonth = fixed;
+}
+
+bool DataMesCorrente::changed() const {
+    MonthSettings shown = settings_;
+    if (!shown.recordTicks) shown.holidayCells = opened_.holidayCells;
+    const bool typed = std::any_of(kMonthNumberFields.begin(), kMonthNumberFields.end(),
+                                   [&](const MonthNumberField& field) {
+                                       return field.valueOf(numbers_) != field.valueIn(opened_);
+                                   });
+    return typed || shown != opened_;
+}
+
+void DataMesCorrente::write() {
+    MonthSettings toWrite = withNumbers(settings_, numbers_);
+    if (readRecord(settings_.month) != onDisk_)
+        throw Fault("month changed on disk", std::string(kChangedElsewhere));
+    if (!toWrite.recordTicks) toWrite.holidayCells = onDisk_.value_or(MonthSettings()).holidayCells;
+    saveMonthSettings(at_.files, at_.session.folder, toWrite);
+    const auto shownTicks = settings_.holidayCells;
+    onDisk_ = opened_ = settings_ = toWrite;
+    settings_.holidayCells = shownTicks;
+    unread_ = unreadMonthLines(at_.files, at_.session.folder, toWrite.month);
+}
+
+bool DataMesCorrente::record() {
+    return attemptWriting(at_, incorrectData(), [this] {
+        write();
+        return true;
+    });
+}
+
+bool DataMesCorrente::confirm() {
+    return attemptWriting(at_, incorrectData(), [this] {
+        write();
+        saveSelectedMonth(at_.files, at_.session.folder,
+                          {settings_.month, at_.session.shiftFilter});
+        return true;
+    });
+}
+
+std::optional<OvertimeUpdate> DataMesCorrente::updateAll(const OvertimeProgress& progress) {
+    OvertimeRules rules;
+    const bool readable = attempt(at_, incorrectData(), [&] {
+        rules = withNumbers(settings_, numbers_).overtime;
+        return true;
+    });
+    if (!readable) return std::nullopt;
+    const auto updated = updateOvertimeOfList(at_, settings_.month, rules, progress);
+    (void)attempt(at_, incorrectData(), [this] {
+        ownRules_ = ownRulesOfList(at_, settings_.month);
+        return true;
+    });
+    return updated;
+}
+
+bool DataMesCorrente::mayLeave() {
+    return !changed() || at_.person.agrees(kGiveUpChanges);
+}
+
+}  // namespace winvrx

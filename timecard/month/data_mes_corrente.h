@@ -1,0 +1,121 @@
+#pragma once
+
+#include "foundation/desk/command.h"
+#include "timecard/month/business_days.h"
+#include "timecard/month/holiday_offer.h"
+#include "timecard/month/month_numbers.h"
+#include "timecard/month/overtime_update.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace winvrx {
+
+/// A ticked day as the list "Feriados:" shows it.
+struct ListedHoliday {
+    Date date{};
+    std::string name;      ///< empty for a day that no calendar knows
+    bool offered = false;  ///< ticked by the offer, not yet by anybody's record
+};
+
+/// The work month's screen: which month is worked on, its holidays, its closing period and its
+/// overtime rules.
+///
+/// Holds one month as the screen shows it. Nothing is written before `record` or `confirm`, and a
+/// refusal leaves every file as it was.
+class DataMesCorrente {
+  public:
+    explicit DataMesCorrente(const Workplace& at);
+
+    /// Shows the selected month; the desk's present month where none is selected.
+    void open();
+
+    /// The months that the list offers: two years back to one year ahead, and the month shown.
+    [[nodiscard]] std::vector<WorkMonth> months() const;
+    /// Loads the month's record; where there is none, the defaults with the offered holidays
+    /// ticked. False when the operator keeps unrecorded changes.
+    [[nodiscard]] bool chooseMonth(WorkMonth month);
+    /// Goes round the months before, of and after today.
+    [[nodiscard]] bool chooseNextReference();
+
+    /// The month as ticked and chosen; its numbers are those recorded, see `numbers`.
+    [[nodiscard]] const MonthSettings& settings() const { return settings_; }
+    [[nodiscard]] const MonthNumbers& numbers() const { return numbers_; }
+    [[nodiscard]] MonthDayCounts counts() const { return countDays(settings_); }
+    /// Whether the month has a record.
+    [[nodiscard]] bool isRecorded() const { return onDisk_.has_value(); }
+    /// Lines of the record that are not understood; they are kept.
+    [[nodiscard]] const std::vector<UnreadLine>& unreadLines() const { return unread_; }
+
+    /// The day of a cell of the holiday grid; nullopt outside the month.
+    [[nodiscard]] std::optional<Date> dateOfCell(std::size_t cell) const;
+    void tick(Date date, bool holiday);
+    /// "Reset."
+    void clearTicks();
+    /// "Restaurar": the ticks as they are recorded, or as they are offered.
+    void restoreTicks();
+    /// "Gravação": whether recording takes the ticks along. Off, those on record stay.
+    void setRecordTicks(bool on);
+
+    /// "Feriados:": the ticked days of the month.
+    [[nodiscard]] std::vector<ListedHoliday> holidays() const;
+    /// What the calendar and the user's list hold of the month and nobody has ticked.
+    [[nodiscard]] std::vector<Holiday> untickedHolidays() const;
+    [[nodiscard]] std::string nameOf(Date date) const { return holidayNames(offer_, date); }
+    /// The user's list was changed: what it newly offers to a month without a record is ticked,
+    /// what it offers no more is not.
+    void reloadOffer();
+
+    void type(const MonthNumberField& field, std::string text);
+    /// What is wrong with a number as typed, in one sentence; empty when nothing is.
+    [[nodiscard]] std::string findingOf(const MonthNumberField& field) const;
+    void setDifferentiatedPercent(bool on);
+    void setMode(OvertimeMode mode);
+    void setTotalsFormat(TotalsFormat format);
+    void setFixedMonth(bool fixed);
+
+    [[nodiscard]] std::string monthCaption() const;    ///< "MARÇO/2024"
+    [[nodiscard]] std::string holidayHeading() const;  ///< over the grid
+    /// Says that the ticks are an offer as long as the month has no record; empty when it has one.
+    [[nodiscard]] std::string_view offerNotice() const;
+    [[nodiscard]] std::string_view referenceCaption() const;  ///< "Referente ao Mês: …"
+    [[nodiscard]] bool refersToPresentMonth() const;
+    [[nodiscard]] std::string differentiatedCaption() const;
+    [[nodiscard]] std::string modeNotice() const;
+    /// "21/02/2024 a 20/03/2024"; empty while the closing day is no number of its range.
+    [[nodiscard]] std::string closingPeriodText() const;
+    /// Says how many listed employees have figures of their own in the month that are not those of
+    /// the screen; empty for none.
+    [[nodiscard]] std::string ownRulesNotice() const;
+
+    /// True when the screen holds what is not on record.
+    [[nodiscard]] bool changed() const;
+    /// "Gravar". True when the month was written.
+    [[nodiscard]] bool record();
+    /// "Confirma": records, and makes the month the selected one.
+    [[nodiscard]] bool confirm();
+    /// "Atualizar p/Todos os Funcionários", with the overtime rules as the screen shows them; see
+    /// updateOvertimeOfList.
+    [[nodiscard]] std::optional<OvertimeUpdate> updateAll(const OvertimeProgress& progress);
+    /// Asks before changes are given up. True when the screen may go on to something else.
+    [[nodiscard]] bool mayLeave();
+
+  private:
+    void load(WorkMonth month);
+    [[nodiscard]] std::optional<MonthSettings> readRecord(WorkMonth month) const;
+    void write();
+
+    Workplace at_;
+    MonthSettings settings_;
+    MonthNumbers numbers_;
+    MonthSettings opened_;                 ///< what the screen showed before it was changed
+    std::optional<MonthSettings> onDisk_;  ///< the record as it was read or written
+    std::vector<UnreadLine> unread_;
+    std::vector<Holiday> offer_;
+    std::vector<OvertimeRules> ownRules_;  ///< of listed employees, in this month
+    bool switched_ = false;  ///< the differentiated percentage was turned on or off on this screen
+};
+
+}  // namespace winvrx

@@ -1,0 +1,94 @@
+// The texts of the work month's screen that follow what it holds.
+#include "foundation/values/text.h"
+#include "timecard/month/closing_period.h"
+#include "timecard/month/data_mes_corrente.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::string_view kBeforePresent = "Referente ao Mês: Anterior ao Atual";
+constexpr std::string_view kPresent = "Referente ao Mês: Atual";
+constexpr std::string_view kAfterPresent = "Referente ao Mês: Atual ao Posterior";
+constexpr std::string_view kHolidayHeading = "Selecione os feriados no mês de: ";
+constexpr std::string_view kNotRecorded =
+    "Feriados sugeridos, mês ainda não gravado: confira e confirme.";
+constexpr std::string_view kDifferentiatedOff =
+    "Desativado o uso de Percentual de Horas Extras Diárias Normais Diferenciado";
+constexpr std::string_view kBothLevels = "Usar as 2 (duas) Opções de Horas Extras Minima e Máxima.";
+constexpr std::string_view kSingleLevel =
+    "Usar Somente 1 (um) Único Percentual de Horas Extras para ";
+
+}  // namespace
+
+std::string DataMesCorrente::findingOf(const MonthNumberField& field) const {
+    return field.valueOf(numbers_) ? std::string() : "Informe " + field.wanted() + ".";
+}
+
+std::string DataMesCorrente::monthCaption() const {
+    return upperCase(monthTitle(settings_.month));
+}
+
+std::string DataMesCorrente::holidayHeading() const {
+    return std::string(kHolidayHeading) + monthCaption();
+}
+
+std::string_view DataMesCorrente::offerNotice() const {
+    return isRecorded() ? std::string_view() : kNotRecorded;
+}
+
+std::string_view DataMesCorrente::referenceCaption() const {
+    const WorkMonth present = monthOf(at_.clock.today());
+    if (settings_.month == present) return kPresent;
+    return settings_.month < present ? kBeforePresent : kAfterPresent;
+}
+
+bool DataMesCorrente::refersToPresentMonth() const {
+    return settings_.month == monthOf(at_.clock.today());
+}
+
+std::string DataMesCorrente::differentiatedCaption() const {
+    const auto& [minimum, maximum, nightMinimum, nightMaximum, threshold, closingDay] = numbers_;
+    if (settings_.overtime.differentiatedPercent)
+        return "Ativado o uso de Percentual de Horas Extras Diárias Normais Diferenciado. Será "
+               "de " +
+               minimum + "% até " + threshold + " hs Extras diárias. Acima de " + threshold +
+               " hs Extras será de " + maximum + "%.";
+    if (switched_) return std::string(kDifferentiatedOff);
+    return "Usar Percentual de Horas Extras Diárias Normais de " + minimum + "% até " + threshold +
+           " hs. Acima de " + threshold + " hs será de " + maximum + "%.";
+}
+
+std::string DataMesCorrente::modeNotice() const {
+    if (settings_.overtime.mode == OvertimeMode::BothLevels) return std::string(kBothLevels);
+    return std::string(kSingleLevel) + numbers_.maximumPercent + "%";
+}
+
+std::string DataMesCorrente::closingPeriodText() const {
+    MonthSettings shown = settings_;
+    for (const MonthNumberField& field : kMonthNumberFields) {
+        const auto value = field.valueOf(numbers_);
+        if (!field.rule && !value && !shown.fixedMonth) return {};
+        if (!field.rule) shown.closingDay = value.value_or(shown.closingDay);
+    }
+    const DayPeriod period = closingPeriod(shown);
+    return dateText(period.first) + " a " + dateText(period.last);
+}
+
+std::string DataMesCorrente::ownRulesNotice() const {
+    OvertimeRules shown = settings_.overtime;
+    for (const MonthNumberField& field : kMonthNumberFields)
+        if (field.rule) shown.*field.rule = field.valueOf(numbers_).value_or(shown.*field.rule);
+    const auto others = std::ranges::count_if(
+        ownRules_, [&shown](const OvertimeRules& own) { return own != shown; });
+    if (others == 0) return {};
+    const std::string people = others == 1 ? "1 funcionário da lista tem"
+                                           : std::to_string(others) + " funcionários da lista têm";
+    return people +
+           " horas extras próprias neste mês, diferentes destas. Use Atualizar p/Todos os "
+           "Funcionários para igualá-las.";
+}
+
+}  // namespace winvrx

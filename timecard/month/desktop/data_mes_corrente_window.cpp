@@ -1,0 +1,202 @@
+#include "timecard/month/desktop/data_mes_corrente_window.h"
+
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/checked_field.h"
+#include "foundation/widgets/desktop/look.h"
+#include "timecard/month/desktop/holiday_panel.h"
+#include "timecard/month/desktop/month_rules_panel.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+/// Milliseconds before a progress dialog shows.
+constexpr int kPatience = 500;
+/// Narrower windows show the rules under the holidays.
+constexpr int kSideBySide = 960;
+
+}  // namespace
+
+DataMesCorrenteWindow::DataMesCorrenteWindow(DataMesCorrente& command, QWidget* parent)
+    : ScreenWindow(QStringLiteral("dataMesCorrente"),
+                   QStringLiteral("Configurações Horas Extras - Mes de Trabalho"), parent),
+      command_(command) {
+    setBody(buildBody());
+    addCommands();
+    connectMonth();
+    showMonth();
+    month_->setFocus();
+}
+
+void DataMesCorrenteWindow::addCommands() {
+    QToolButton* record = addCommand(QStringLiteral("save"), QStringLiteral("Gravar"),
+                                     QKeySequence::Save, QStringLiteral("month.record"));
+    connect(record, &QToolButton::clicked, this, &DataMesCorrenteWindow::recordMonth);
+    QToolButton* local = addCommand(QStringLiteral("month"), QStringLiteral("Feriados Locais"),
+                                    Qt::Key_F6, QStringLiteral("month.localHolidays"));
+    connect(local, &QToolButton::clicked, this, &DataMesCorrenteWindow::localHolidaysRequested);
+    QToolButton* all =
+        addCommand(QStringLiteral("employees"), QStringLiteral("Atualizar p/Todos os Funcionários"),
+                   Qt::Key_F7, QStringLiteral("month.updateAll"));
+    connect(all, &QToolButton::clicked, this, &DataMesCorrenteWindow::updateAll);
+    QPushButton* confirm =
+        addClosingButton(QStringLiteral("&Confirma"), QStringLiteral("month.confirm"));
+    confirm->setDefault(true);
+    connect(confirm, &QPushButton::clicked, this, &DataMesCorrenteWindow::confirmMonth);
+    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("month.close"));
+    connect(close, &QPushButton::clicked, this, &DataMesCorrenteWindow::reject);
+}
+
+QWidget* DataMesCorrenteWindow::buildBody() {
+    auto* page = new QWidget;
+    columns_ = new QHBoxLayout(page);
+    look::layOutBody(*columns_);
+    columns_->setSpacing(look::kGroupGap);
+    columns_->addWidget(buildMonthColumn(), 2);
+    rules_ = new MonthRulesPanel(command_, page);
+    connect(rules_, &MonthRulesPanel::edited, this, &DataMesCorrenteWindow::showState);
+    columns_->addWidget(rules_, 3);
+    auto* scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(page);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    return scroll;
+}
+
+QWidget* DataMesCorrenteWindow::buildMonthColumn() {
+    auto* widget = new QWidget(this);
+    auto* column = new QVBoxLayout(widget);
+    look::layOutPart(*column);
+    month_ = new QComboBox(widget);
+    month_->setObjectName(QStringLiteral("month.month"));
+    month_->setAccessibleName(QStringLiteral("Mês de Trabalho"));
+    QLabel* label = look::label(QStringLiteral("&Mês de Trabalho"), look::TextSize::Body, widget);
+    label->setBuddy(month_);
+    auto* row = new QHBoxLayout;
+    look::layOutPart(*row);
+    row->addWidget(label);
+    row->addWidget(month_, 1);
+    column->addLayout(row);
+    reference_ = new QCheckBox(widget);
+    reference_->setObjectName(QStringLiteral("month.reference"));
+    column->addWidget(reference_);
+    column->addSpacing(look::kGap);
+    holidays_ = new HolidayPanel(command_, widget);
+    connect(holidays_, &HolidayPanel::edited, this, &DataMesCorrenteWindow::showState);
+    column->addWidget(holidays_, 1);
+    return widget;
+}
+
+void DataMesCorrenteWindow::connectMonth() {
+    connect(month_, &QComboBox::activated, this, [this](int place) {
+        (void)command_.chooseMonth(command_.months().at(static_cast<std::size_t>(place)));
+        showMonth();
+    });
+    connect(reference_, &QCheckBox::clicked, this, [this] {
+        (void)command_.chooseNextReference();
+        showMonth();
+    });
+    for (const auto& [key, step] :
+         {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)}) {
+        auto* move = new QShortcut(key, this);
+        connect(move, &QShortcut::activated, this, [this, months = step] {
+            (void)command_.chooseMonth(command_.settings().month + std::chrono::months{months});
+            showMonth();
+        });
+    }
+}
+
+void DataMesCorrenteWindow::showMonths() {
+    const auto months = command_.months();
+    month_->clear();
+    for (const WorkMonth month : months)
+        month_->addItem(toQt(monthTitle(month)));
+    const auto shown = std::find(months.begin(), months.end(), command_.settings().month);
+    month_->setCurrentIndex(static_cast<int>(shown - months.begin()));
+}
+
+void DataMesCorrenteWindow::showMonth() {
+    showMonths();
+    reference_->setText(withMnemonic(command_.referenceCaption(), 'T'));
+    reference_->setAccessibleName(toQt(command_.referenceCaption()));
+    reference_->setChecked(command_.refersToPresentMonth());
+    setChips({toQt(command_.monthCaption())});
+    rules_->refresh();
+    holidays_->refresh();
+    showState();
+}
+
+void DataMesCorrenteWindow::refreshHolidays() {
+    command_.reloadOffer();
+    holidays_->refresh();
+    showState();
+}
+
+void DataMesCorrenteWindow::showState() {
+    setState(command_.changed()      ? QStringLiteral("Alterações não gravadas")
+             : command_.isRecorded() ? QString()
+                                     : QStringLiteral("Mês ainda não gravado"));
+}
+
+void DataMesCorrenteWindow::recordMonth() {
+    if (!command_.record()) return;
+    holidays_->refresh();
+    setState(command_.settings().recordTicks
+                 ? QStringLiteral("Mês gravado")
+                 : QStringLiteral("Mês gravado, sem as marcas dos feriados"));
+}
+
+void DataMesCorrenteWindow::updateAll() {
+    QProgressDialog dialog(QStringLiteral("Atualizando os funcionários…"),
+                           QStringLiteral("Cancelar"), 0, 0, this);
+    dialog.setObjectName(QStringLiteral("month.progress"));
+    dialog.setWindowTitle(QStringLiteral("ALTERAÇÃO"));
+    dialog.setWindowModality(Qt::WindowModal);
+    dialog.setMinimumDuration(kPatience);
+    dialog.reset();
+    const auto updated = command_.updateAll([&dialog](std::size_t done, std::size_t total) {
+        dialog.setMaximum(static_cast<int>(total));
+        dialog.setLabelText(QStringLiteral("Funcionário %1 de %2").arg(done).arg(total));
+        dialog.setValue(static_cast<int>(done));
+        return !dialog.wasCanceled();
+    });
+    rules_->refresh();
+    if (!updated) return;
+    if (updated->done < updated->total)
+        setState(QStringLiteral("Cancelado: %1 de %2 funcionários atualizados")
+                     .arg(updated->done)
+                     .arg(updated->total));
+    else
+        setState(updated->total == 1
+                     ? QStringLiteral("1 funcionário atualizado")
+                     : QStringLiteral("%1 funcionários atualizados").arg(updated->total));
+}
+
+void DataMesCorrenteWindow::confirmMonth() {
+    if (command_.confirm()) accept();
+}
+
+void DataMesCorrenteWindow::resizeEvent(QResizeEvent* event) {
+    columns_->setDirection(width() < kSideBySide ? QBoxLayout::TopToBottom
+                                                 : QBoxLayout::LeftToRight);
+    ScreenWindow::resizeEvent(event);
+}
+
+bool DataMesCorrenteWindow::mayClose() {
+    return command_.mayLeave();
+}
+
+}  // namespace winvrx

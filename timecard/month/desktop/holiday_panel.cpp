@@ -1,0 +1,191 @@
+#include "timecard/month/desktop/holiday_panel.h"
+
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/look.h"
+#include "timecard/month/desktop/holiday_grid.h"
+
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace winvrx {
+
+namespace {
+
+constexpr int kFewestRows = 3;
+constexpr int kNameCell = 2;
+constexpr int kOfferCell = 3;
+
+QString withSign(const QString& text) {
+    return kOfferSign + QLatin1Char(' ') + text;
+}
+
+QLabel* paragraph(const char* objectName, QWidget* parent) {
+    QLabel* label = look::label(QString(), look::TextSize::Hint, parent);
+    label->setObjectName(QString::fromLatin1(objectName));
+    label->setWordWrap(true);
+    return label;
+}
+
+void showText(QLabel& label, const QString& text) {
+    label.setText(text);
+    label.setVisible(!text.isEmpty());
+}
+
+QPushButton* button(const char* icon, const QString& text, const char* objectName,
+                    QWidget* parent) {
+    auto* button = new QPushButton(look::icon(QString::fromLatin1(icon)), text, parent);
+    button->setObjectName(QString::fromLatin1(objectName));
+    button->setAccessibleName(QString(text).remove(QLatin1Char('&')));
+    button->setAutoDefault(false);
+    return button;
+}
+
+}  // namespace
+
+HolidayPanel::HolidayPanel(DataMesCorrente& command, QWidget* parent)
+    : QWidget(parent), command_(command) {
+    auto* column = new QVBoxLayout(this);
+    look::layOutPart(*column);
+    heading_ = look::heading(QString(), this);
+    heading_->setWordWrap(true);
+    column->addWidget(heading_);
+    notice_ = paragraph("month.offer", this);
+    look::setTint(*notice_, look::Tint::Leave);
+    column->addWidget(notice_);
+    grid_ = new HolidayGrid(command_, this);
+    column->addWidget(grid_);
+    counts_ = look::label(QString(), look::TextSize::Body, this);
+    counts_->setObjectName(QStringLiteral("month.counts"));
+    counts_->setWordWrap(true);
+    column->addWidget(counts_);
+    auto* row = new QHBoxLayout;
+    look::layOutPart(*row);
+    row->addWidget(buildList(), 1);
+    row->addWidget(buildCommands());
+    column->addLayout(row, 1);
+    unticked_ = paragraph("month.unticked", this);
+    column->addWidget(unticked_);
+    unread_ = paragraph("month.unread", this);
+    look::setTint(*unread_, look::Tint::Warning);
+    column->addWidget(unread_);
+    connect(grid_, &HolidayGrid::ticked, this, &HolidayPanel::takeNote);
+}
+
+QWidget* HolidayPanel::buildList() {
+    auto* part = new QWidget(this);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    holidays_ = new QTreeWidget(part);
+    holidays_->setObjectName(QStringLiteral("month.holidays"));
+    holidays_->setAccessibleName(QStringLiteral("Feriados"));
+    holidays_->setColumnCount(kOfferCell + 1);
+    holidays_->setHeaderHidden(true);
+    holidays_->setRootIsDecorated(false);
+    holidays_->setAllColumnsShowFocus(true);
+    holidays_->setTabKeyNavigation(false);
+    holidays_->setMinimumHeight(holidays_->fontMetrics().height() * kFewestRows);
+    holidays_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    holidays_->header()->setStretchLastSection(false);
+    holidays_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    holidays_->header()->setSectionResizeMode(kNameCell, QHeaderView::Stretch);
+    QLabel* label = look::label(QStringLiteral("F&eriados:"), look::TextSize::Body, part);
+    label->setBuddy(holidays_);
+    column->addWidget(label);
+    column->addWidget(holidays_, 1);
+    return part;
+}
+
+QWidget* HolidayPanel::buildCommands() {
+    auto* part = new QWidget(this);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    QPushButton* reset = button("clear", QStringLiteral("&Reset."), "month.reset", part);
+    QPushButton* restore = button("restore", QStringLiteral("Resta&urar"), "month.restore", part);
+    recordTicks_ = new QCheckBox(QStringLiteral("&Gravação"), part);
+    recordTicks_->setObjectName(QStringLiteral("month.recordTicks"));
+    recordTicks_->setAccessibleName(QStringLiteral("Gravação"));
+    recordTicks_->setToolTip(
+        QStringLiteral("Gravar também as marcas dos feriados. Sem isso, ficam as já gravadas."));
+    column->addSpacing(part->fontMetrics().height() + look::kGap);
+    column->addWidget(reset);
+    column->addWidget(restore);
+    column->addWidget(recordTicks_);
+    column->addStretch();
+    connect(reset, &QPushButton::clicked, this, [this] {
+        command_.clearTicks();
+        takeNote();
+    });
+    connect(restore, &QPushButton::clicked, this, [this] {
+        command_.restoreTicks();
+        takeNote();
+    });
+    connect(recordTicks_, &QCheckBox::toggled, this, [this](bool on) {
+        command_.setRecordTicks(on);
+        emit edited();
+    });
+    return part;
+}
+
+void HolidayPanel::refresh() {
+    heading_->setText(toQt(command_.holidayHeading()));
+    const QSignalBlocker quiet(recordTicks_);
+    recordTicks_->setChecked(command_.settings().recordTicks);
+    showHolidays();
+    showUnread();
+}
+
+void HolidayPanel::showHolidays() {
+    showText(*notice_, command_.isRecorded() ? QString() : withSign(toQt(command_.offerNotice())));
+    grid_->refresh();
+    holidays_->clear();
+    for (const ListedHoliday& one : command_.holidays()) {
+        auto* item = new QTreeWidgetItem(
+            holidays_,
+            {toQt(dateText(one.date)), toQt(weekdayShort(weekdayOf(one.date))), toQt(one.name),
+             one.offered ? withSign(QStringLiteral("sugestão")) : QString()});
+        item->setToolTip(kNameCell, toQt(one.name));
+    }
+    const MonthDayCounts counts = command_.counts();
+    counts_->setText(QStringLiteral("Quantidade de Dias Úteis: <b>%1</b> &nbsp; "
+                                    "Quantidade dias de Reposo DSR: <b>%2</b>")
+                         .arg(counts.businessDays)
+                         .arg(counts.restDays));
+    showUnticked();
+}
+
+void HolidayPanel::showUnticked() {
+    QStringList days;
+    for (const Holiday& one : command_.untickedHolidays())
+        days << toQt(dateText(one.date).substr(0, 5) + " " + one.name);
+    showText(*unticked_, days.isEmpty()
+                             ? QString()
+                             : withSign(QStringLiteral("Não marcados: ") + days.join(u", ")));
+}
+
+void HolidayPanel::showUnread() {
+    QStringList lines;
+    for (const UnreadLine& line : command_.unreadLines())
+        lines << QStringLiteral("linha %1 “%2”").arg(line.number).arg(toQt(line.text));
+    unread_->setToolTip(lines.join(QLatin1Char('\n')));
+    if (lines.size() > 1)
+        showText(*unread_, QStringLiteral("⚠ %1 linhas não entendidas, mantidas no registro: %2 …")
+                               .arg(lines.size())
+                               .arg(lines[0]));
+    else
+        showText(*unread_,
+                 lines.isEmpty()
+                     ? QString()
+                     : QStringLiteral("⚠ Não entendida, mantida no registro: ") + lines[0]);
+}
+
+void HolidayPanel::takeNote() {
+    showHolidays();
+    emit edited();
+}
+
+}  // namespace winvrx

@@ -1,0 +1,37 @@
+#include "timecard/month/holiday_offer.h"
+
+#include "timecard/month/local_holidays.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+std::vector<Holiday> offeredHolidays(FileSystem& files, const DataFolder& folder, WorkMonth month) {
+    std::vector<Holiday> offer = calendarHolidays(month);
+    for (const LocalHolidayLine& line : loadLocalHolidays(files, folder)) {
+        const auto date = line.holiday ? dateIn(month, line.holiday->day) : std::nullopt;
+        if (date) offer.push_back({*date, line.holiday->name, HolidayKind::Local});
+    }
+    std::ranges::stable_sort(offer, {}, &Holiday::date);
+    return offer;
+}
+
+MonthSettings proposedSettings(WorkMonth month, const std::vector<Holiday>& offer) {
+    MonthSettings settings;
+    settings.month = month;
+    for (const Holiday& holiday : offer)
+        if (isOfferedTicked(holiday)) settings.setHoliday(holiday.date, true);
+    return settings;
+}
+
+std::string holidayNames(const std::vector<Holiday>& holidays, Date date) {
+    std::string names;
+    for (const Holiday& holiday : holidays) {
+        if (holiday.date != date || holiday.name.empty()) continue;
+        if (!names.empty()) names += ", ";
+        names += holiday.name;
+    }
+    return names;
+}
+
+}  // namespace winvrx

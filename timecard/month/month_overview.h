@@ -1,0 +1,22 @@
+#pragma once
+
+#include "foundation/desk/command.h"
+#include "foundation/menu/month_calendar.h"
+#include "timecard/month/month_settings.h"
+
+namespace winvrx {
+
+/// Answers the main window's questions about the month from the month's record, or from what the
+/// month is offered as holidays where it has none.
+class TimecardCalendar final : public MonthCalendar {
+  public:
+    explicit TimecardCalendar(const Workplace& at) : at_(at) {}
+    [[nodiscard]] MonthOverview overview(Date today) const override;
+
+  private:
+    [[nodiscard]] MonthSettings settingsOf(WorkMonth month) const;
+
+    Workplace at_;
+};
+
+}  // namespace winvrx

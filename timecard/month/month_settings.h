@@ -1,0 +1,67 @@
+#pragma once
+
+#include "foundation/files/data_folder.h"
+#include "foundation/files/record_file.h"
+#include "foundation/values/date.h"
+#include "timecard/month/overtime_rules.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace winvrx {
+
+inline constexpr std::size_t kHolidayCells = 42;
+
+/// The settings of one work month: the record "mm-yyyyds.rdx", one value a line.
+struct MonthSettings {
+    WorkMonth month{};
+
+    /// The calendar of six weeks of seven days that starts on a Sunday; cell 0 is the Sunday of the
+    /// week that holds day 1. Ticked cells outside the month mean nothing.
+    std::array<bool, kHolidayCells> holidayCells{};
+
+    bool recordTicks = true;  ///< the check box "Gravação"
+    OvertimeRules overtime;
+    int closingDay = 1;      ///< "Iníciar todo dia:"
+    bool fixedMonth = true;  ///< "Mês Fixo"
+
+    [[nodiscard]] bool isHoliday(Date date) const;
+    void setHoliday(Date date, bool holiday);
+    [[nodiscard]] std::vector<Date> holidays() const;
+
+    [[nodiscard]] bool operator==(const MonthSettings&) const = default;
+};
+
+/// The cell of a date in the grid of its own month, 0 to 41.
+[[nodiscard]] std::size_t holidayCellOf(Date date);
+
+/// "03-2024ds.rdx".
+[[nodiscard]] std::string monthRecordName(WorkMonth month);
+
+inline constexpr int kHighestClosingDay = 31;
+
+[[nodiscard]] bool hasMonthSettings(FileSystem& files, const DataFolder& folder, WorkMonth month);
+
+/// The month's record; the defaults where there is none. A line that is not a number of its range
+/// counts as the default.
+[[nodiscard]] MonthSettings loadMonthSettings(FileSystem& files, const DataFolder& folder,
+                                              WorkMonth month);
+
+/// A line of the record that holds no number of its range, or stands behind the known ones. It is
+/// kept as it stands.
+struct UnreadLine {
+    std::size_t number;  ///< counted from 1
+    std::string text;    ///< what can be shown of it
+
+    [[nodiscard]] bool operator==(const UnreadLine&) const = default;
+};
+[[nodiscard]] std::vector<UnreadLine> unreadMonthLines(FileSystem& files, const DataFolder& folder,
+                                                       WorkMonth month);
+
+/// A line whose meaning does not change keeps its bytes, those that are not understood and those
+/// past the known ones included.
+void saveMonthSettings(FileSystem& files, const DataFolder& folder, const MonthSettings& settings);
+
+}  // namespace winvrx

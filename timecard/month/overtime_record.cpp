@@ -1,0 +1,90 @@
+#include "timecard/month/overtime_record.h"
+
+#include "foundation/values/text.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+std::optional<int> numberAt(std::size_t place, std::string_view lineBytes) {
+    return parseWholeNumber(fieldOf(lineBytes, kOvertimeColumns[place]), 0,
+                            kOvertimeFigures[place].highest);
+}
+
+RecordFile recordOf(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
+                    const EmployeeCode& employee) {
+    return {files, folder.companyFile(company, overtimeFileName(employee))};
+}
+
+std::vector<std::string>::iterator lineOf(std::vector<std::string>& lines, WorkMonth month) {
+    return std::find_if(lines.begin(), lines.end(), [month](const std::string& bytes) {
+        const auto line = decodeOvertime(bytes);
+        return line && line->month == month;
+    });
+}
+
+}  // namespace
+
+std::optional<OvertimeLine> decodeOvertime(std::string_view lineBytes) {
+    const auto month = parseMonthKey(fieldOf(lineBytes, kOvertimeMonth));
+    if (!month) return std::nullopt;
+    OvertimeLine line{*month, {}};
+    for (std::size_t place = 0; place < kOvertimeFigures.size(); ++place) {
+        const auto number = numberAt(place, lineBytes);
+        if (!number) return std::nullopt;
+        kOvertimeFigures[place].write(line.rules, *number);
+    }
+    return line;
+}
+
+std::string encode(const OvertimeLine& line, std::string existing) {
+    RecordLine record(std::move(existing), kOvertimeWidth);
+    record.put(kOvertimeMonth, monthKey(line.month));
+    for (std::size_t place = 0; place < kOvertimeFigures.size(); ++place) {
+        const int number = kOvertimeFigures[place].read(line.rules);
+        if (numberAt(place, record.bytes()) != number)
+            record.put(kOvertimeColumns[place], std::to_string(number));
+    }
+    return record.bytes();
+}
+
+std::string overtimeFileName(const EmployeeCode& employee) {
+    return std::string(kOvertimeStem) + employee.text();
+}
+
+std::optional<OvertimeRules> loadOvertime(FileSystem& files, const DataFolder& folder,
+                                          const CompanyCode& company, const EmployeeCode& employee,
+                                          WorkMonth month) {
+    auto lines = recordOf(files, folder, company, employee).lines();
+    const auto found = lineOf(lines, month);
+    if (found == lines.end()) return std::nullopt;
+    return decodeOvertime(*found)->rules;
+}
+
+OvertimeRules overtimeOf(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
+                         const EmployeeCode& employee, const MonthSettings& month) {
+    return loadOvertime(files, folder, company, employee, month.month).value_or(month.overtime);
+}
+
+FileSystem::NewContent withOvertime(FileSystem& files, const DataFolder& folder,
+                                    const CompanyCode& company, const EmployeeCode& employee,
+                                    const OvertimeLine& line) {
+    const RecordFile record = recordOf(files, folder, company, employee);
+    auto lines = record.lines();
+    const auto found = lineOf(lines, line.month);
+    if (found == lines.end())
+        lines.push_back(encode(line));
+    else
+        *found = encode(line, *found);
+    return {record.path(), joinedLines(lines)};
+}
+
+void saveOvertime(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
+                  const EmployeeCode& employee, const OvertimeLine& line) {
+    const auto content = withOvertime(files, folder, company, employee, line);
+    files.replace(content.file, content.bytes);
+}
+
+}  // namespace winvrx

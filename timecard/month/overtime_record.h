@@ -1,0 +1,69 @@
+#pragma once
+
+#include "foundation/files/data_folder.h"
+#include "foundation/files/record_file.h"
+#include "foundation/values/date.h"
+#include "timecard/month/month_settings.h"
+#include "timecard/month/overtime_rules.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// The overtime figures of one employee: the record company code + "MedHorExtr" + employee code, one
+// line a work month. A month without a line of its own goes by the month's settings.
+
+namespace winvrx {
+
+/// The layout of a line: the month, then the figures of kOvertimeFigures, single blanks between
+/// them. The one place that knows it.
+inline constexpr Column kOvertimeMonth{1, 7};
+inline constexpr std::array<Column, kOvertimeFigures.size()> kOvertimeColumns = {
+    {{9, 3}, {13, 3}, {17, 3}, {21, 3}, {25, 1}, {27, 1}, {29, 1}, {31, 2}}};
+inline constexpr std::size_t kOvertimeWidth = 32;
+static_assert([] {
+    std::size_t next = kOvertimeMonth.end();
+    for (const Column column : kOvertimeColumns) {
+        if (column.start != next + 1) return false;
+        next = column.end();
+    }
+    return next == kOvertimeWidth + 1;
+}());
+
+struct OvertimeLine {
+    WorkMonth month;
+    OvertimeRules rules;
+
+    [[nodiscard]] bool operator==(const OvertimeLine&) const = default;
+};
+
+/// nullopt when the line has no month, or a number that is none of its range.
+[[nodiscard]] std::optional<OvertimeLine> decodeOvertime(std::string_view lineBytes);
+/// Built upon `existing`: a column that means the same there keeps its bytes.
+[[nodiscard]] std::string encode(const OvertimeLine& line, std::string existing = {});
+
+/// "MedHorExtr001", to be put behind the company code.
+[[nodiscard]] std::string overtimeFileName(const EmployeeCode& employee);
+
+/// The employee's own figures of the month: the first line that is understood and has the month;
+/// nullopt where there is none. Throws FileFault.
+[[nodiscard]] std::optional<OvertimeRules> loadOvertime(FileSystem& files, const DataFolder& folder,
+                                                        const CompanyCode& company,
+                                                        const EmployeeCode& employee,
+                                                        WorkMonth month);
+
+/// The rules that hold for the employee in the month: his own line, else the month's.
+[[nodiscard]] OvertimeRules overtimeOf(FileSystem& files, const DataFolder& folder,
+                                       const CompanyCode& company, const EmployeeCode& employee,
+                                       const MonthSettings& month);
+
+/// The employee's file with the month's figures put into it; every other line stays as it is.
+[[nodiscard]] FileSystem::NewContent withOvertime(FileSystem& files, const DataFolder& folder,
+                                                  const CompanyCode& company,
+                                                  const EmployeeCode& employee,
+                                                  const OvertimeLine& line);
+void saveOvertime(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
+                  const EmployeeCode& employee, const OvertimeLine& line);
+
+}  // namespace winvrx

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "foundation/files/data_folder.h"
+#include "foundation/values/date.h"
+#include "foundation/values/shift.h"
+
+#include <optional>
+
+namespace winvrx {
+
+/// The month chosen for the run and the shift filter it was chosen with: `DataIde.ivc`, line 1 the
+/// month as "mm-yyyy", line 2 the filter's code.
+struct SelectedMonth {
+    WorkMonth month;
+    ShiftFilter shiftFilter = ShiftFilter::Todos;
+};
+
+/// nullopt when no month is chosen, or the file does not hold one.
+[[nodiscard]] std::optional<SelectedMonth> loadSelectedMonth(FileSystem& files,
+                                                             const DataFolder& folder);
+void saveSelectedMonth(FileSystem& files, const DataFolder& folder, const SelectedMonth& selected);
+
+}  // namespace winvrx

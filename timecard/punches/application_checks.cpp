@@ -1,0 +1,139 @@
+#include "timecard/punches/application_checks.h"
+
+#include "foundation/values/faults.h"
+
+namespace winvrx {
+
+namespace {
+
+const Message kAlreadyApplied{"Aplicação Ponto",
+                              "Já Existem Dados de Ponto Aplicados para Esse Funcionário! .",
+                              Icon::Exclamation};
+const Message kReplaceApplied{
+    "Aplicação Ponto",
+    "Se Prosseguir, Irá Perder todas as Alterações Feitas para este Funcionário. Deseja Substituir "
+    "os Dados Já Aplicados.",
+    Icon::Question, Buttons::OkCancel};
+const Message kRotationScale{"Aplicação de Ponto",
+                             "Este Funcionário foi definido como ESCALA DE REVEZAMENTO!!!",
+                             Icon::Exclamation};
+const Message kAddToRotation{
+    "Aplicação de Ponto", "Portanto é Necessário PRIMEIRO adicioná-lo na ESCALA DE REVEZAMENTO!!!",
+    Icon::Exclamation};
+const Message kNoSituation{
+    "Situação",
+    "Você não informou a Situação para Essa Operação! Se deseja Informar Clique em 'CANCELAR', "
+    "Senão, Clique em 'OK' para Prosseguir",
+    Icon::Question, Buttons::OkCancel,
+    "O horário de trabalho não tem horas de segunda a sexta: os dias ficarão sem horas."};
+const Message kHasLeave{
+    "Afastamento",
+    "Este Funcionário possui Informação de Afastamento! Se Deseja desistir Clique em 'CANCELAR', "
+    "Senão, Clique em 'OK' para Prosseguir",
+    Icon::Question, Buttons::OkCancel};
+const Message kAdmissionTooLate{"Analise de Datas",
+                                "A data de Admissão deste Funcionário não está dentro Período do "
+                                "Mês de de Aplicação de Ponto!",
+                                Icon::Critical};
+const Message kConfirmApplication{
+    "Aplicação de Pontos",
+    "Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão para o Item Selecionado?",
+    Icon::Question, Buttons::YesNo};
+
+const std::string kSameHoursTitle = "HORÁRIO DE TRABALHO IGUAL PARA TODOS";
+const Message kModelOnLeave{"Afastamento",
+                            "Escolha ou Selecione outro Funcionário que não tenha Afastamento!",
+                            Icon::Exclamation};
+const Message kNoEmployeeLine{"Descrição do Item", "Selecione Outro ITEM!!!", Icon::Exclamation};
+const Message kMixedList{
+    kSameHoursTitle,
+    "ERRO!! Existe TURNOS e ESCALA diferente na Lista, Portanto não é possível padronizar HORÁRIO "
+    "DE TRABALHO IGUAL PARA TODOS!",
+    Icon::Critical};
+const Message kEveryShift{
+    kSameHoursTitle,
+    "ERRO!! O TURNO selecionado não pode ser <Todos>, Portanto Selecione um turno Específico!",
+    Icon::Critical};
+const Message kErasesAll{
+    "Aplicação Ponto",
+    "Esta Operação Irá Apagar Todos os Dados Já Existentes, Se Houverem Alterações Serão Perdidas "
+    "e Substituidas Pelo Ponto Padrão.",
+    Icon::Exclamation, Buttons::OkCancel};
+const Message kCertainToReplace{"Aplicação Ponto???",
+                                "Tem Certeza que Deseja Substituir as Alterações Já Aplicadas.",
+                                Icon::Question, Buttons::OkCancel};
+const Message kConfirmSameHours{
+    kSameHoursTitle,
+    "Confirma HORÁRIO DE TRABALHO IGUAL PARA TODOS com BASE no FUNCIONÁRIO SELECIONADO?",
+    Icon::Question, Buttons::YesNo};
+
+Message confirmList(const std::string& description) {
+    return {"Aplicação de Pontos",
+            "Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão para Todos os Itens "
+            "do " +
+                description + " da Lista?",
+            Icon::Question, Buttons::YesNo};
+}
+
+Message counted(Message message, std::size_t employees) {
+    message.detail = employees == 1 ? "A lista tem 1 funcionário."
+                                    : "A lista tem " + std::to_string(employees) + " funcionários.";
+    return message;
+}
+
+bool mayReplaceApplied(Operator& person, const ApplicationCase& asked) {
+    if (!asked.applied && !asked.edited) return true;
+    if (asked.applied) person.tell(kAlreadyApplied);
+    return person.agrees(kReplaceApplied);
+}
+
+bool isAdmittedBy(Operator& person, const Employee& employee, WorkMonth month) {
+    const auto admission = requireAdmission(employee);
+    const bool inTime = !admission || *admission <= lastDay(month);
+    if (!inTime) person.tell(kAdmissionTooLate);
+    return inTime;
+}
+
+}  // namespace
+
+std::optional<Date> requireAdmission(const Employee& employee) {
+    const auto admission = employee.admissionDate();
+    if (!employee.admission.empty() && !admission)
+        throw Fault("admission date: " + employee.admission,
+                    "A data de admissão \"" + employee.admission +
+                        "\" não existe. Corrija-a no cadastro do funcionário.");
+    return admission;
+}
+
+bool lacksGroup(const Employee& employee, bool inGroup) {
+    return employee.scaleOr() != Scale::Normal && !inGroup;
+}
+
+bool passesApplicationChecks(Operator& person, const ApplicationCase& asked) {
+    if (!mayReplaceApplied(person, asked)) return false;
+    if (lacksGroup(asked.employee, asked.inGroup)) {
+        person.tell(kRotationScale);
+        person.tell(kAddToRotation);
+        return false;
+    }
+    if (asked.lacksSituation && !person.agrees(kNoSituation)) return false;
+    if (asked.onLeave && !person.agrees(kHasLeave)) return false;
+    return isAdmittedBy(person, asked.employee, asked.month) && person.agrees(kConfirmApplication);
+}
+
+bool passesListChecks(Operator& person, const ListApplicationCase& asked) {
+    const auto refuse = [&person](const Message& message) {
+        person.tell(message);
+        return false;
+    };
+    if (asked.onLeave) return refuse(kModelOnLeave);
+    if (!asked.selected) return refuse(kNoEmployeeLine);
+    if (!isAdmittedBy(person, *asked.selected, asked.month)) return false;
+    if (asked.sameHours && asked.mixed) return refuse(kMixedList);
+    if (asked.sameHours && asked.everyShift) return refuse(kEveryShift);
+    if (!person.agrees(kErasesAll) || !person.agrees(kCertainToReplace)) return false;
+    const Message confirm = asked.sameHours ? kConfirmSameHours : confirmList(asked.description);
+    return person.agrees(counted(confirm, asked.employees));
+}
+
+}  // namespace winvrx

@@ -1,0 +1,286 @@
+#include "timecard/punches/cartao_ponto_dados.h"
+
+#include "foundation/register/company_register.h"
+#include "timecard/month/changed_elsewhere.h"
+#include "timecard/month/overtime_record.h"
+#include "timecard/month/selected_month.h"
+#include "timecard/punches/cell_block.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+const Message kNoMonth{"Aviso", "Informe um Mês de Trabalho!!", Icon::Exclamation};
+const Message kSaturdayIsNormal{"HORÁRIO DE TRABALHO", "No SÁBADO Será HORA NORMAL?",
+                                Icon::Question, Buttons::YesNo};
+const Message kNeedsSituation{"DIGITAÇÃO DO PONTO", "Informe o Tipo de Situação!",
+                              Icon::Exclamation, Buttons::OkCancel};
+const Message kRecordChanges{
+    "ALTERAÇÃO", "As alterações deste Funcionário ainda não foram gravadas. Deseja gravá-las?",
+    Icon::Question, Buttons::YesNoCancel};
+
+constexpr std::string_view kWeekly = " HORAS SEMANAIS";
+constexpr std::string_view kMonthly = " HORAS MENSAIS";
+constexpr std::string_view kSaturdayNormal = "Sábado(Normal)";
+constexpr std::string_view kSaturdayExtra = "Sábado(Extra)";
+
+std::string nameOf(const Workplace& at, const CompanyCode& code) {
+    for (const CompanyLine& line : loadCompanies(at.files, at.session.folder))
+        if (line.code() == code) return line.company.name;
+    return {};
+}
+
+Message inPunchEntry(Message message) {
+    message.title = "DIGITAÇÃO DO PONTO";
+    return message;
+}
+
+}  // namespace
+
+CartaoPontoDados::CartaoPontoDados(const Workplace& at, const CardQueries& queries)
+    : at_(at), queries_(queries) {
+    settings_.month = monthOf(at_.clock.today());
+    sheet_ = CardSheet(blankMonth(settings_.month));
+}
+
+bool CartaoPontoDados::open() {
+    return attempt(at_, incorrectData(), [this] {
+        if (!at_.session.company) {
+            at_.person.tell(noCompany());
+            return false;
+        }
+        const auto selected = loadSelectedMonth(at_.files, at_.session.folder);
+        if (!selected) {
+            at_.person.tell(kNoMonth);
+            return false;
+        }
+        loadList(*at_.session.company,
+                 loadMonthSettings(at_.files, at_.session.folder, selected->month),
+                 selected->shiftFilter);
+        return true;
+    });
+}
+
+void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings& settings,
+                                ShiftFilter filter) {
+    const auto lines = EmployeeRegister(at_.files, at_.session.folder, company).load();
+    std::string name = nameOf(at_, company);
+    std::vector<Employee> employees = employeesOf(lines, filter);
+    std::vector<EmployeeMark> marks;
+    for (const Employee& one : employees)
+        marks.push_back(markOf(company, one, settings.month));
+    minutes_ = loadMinutes(at_.files, at_.session.folder);
+    const std::string chosen = company_ == company && selected() ? selected()->code : "";
+    company_ = company;
+    companyName_ = std::move(name);
+    settings_ = settings;
+    filter_ = filter;
+    employees_ = std::move(employees);
+    marks_ = std::move(marks);
+    position_.reset();
+    overtime_ = settings_.overtime;
+    schedule_ = TypedSchedule();
+    sheet_ = CardSheet(blankMonth(settings_.month));
+    unreadLines_.clear();
+    applied_ = false;
+    const auto found = std::find_if(employees_.begin(), employees_.end(),
+                                    [&](const Employee& one) { return one.code == chosen; });
+    if (found != employees_.end()) loadCard(static_cast<std::size_t>(found - employees_.begin()));
+}
+
+EmployeeMark CartaoPontoDados::markOf(const CompanyCode& company, const Employee& employee,
+                                      WorkMonth month) const {
+    const EmployeeCode code = employee.employeeCode().value();
+    return {.onLeave = queries_.leaves.leavesOf(company, code).touch(month),
+            .closed = queries_.payroll.isClosed(company, code, month)};
+}
+
+void CartaoPontoDados::loadCard(std::size_t position) {
+    const EmployeeCode code = employees_.at(position).employeeCode().value();
+    const CompanyCode& company = company_.value();
+    const auto schedule = loadSchedule(at_.files, at_.session.folder, company, code);
+    const OvertimeRules overtime =
+        overtimeOf(at_.files, at_.session.folder, company, code, settings_);
+    auto punches = loadPunches(at_.files, at_.session.folder, company, code, settings_.month);
+    unreadLines_ = unreadPunchLines(at_.files, at_.session.folder, company, code, settings_.month);
+    marks_.at(position) = markOf(company, employees_[position], settings_.month);
+    position_ = position;
+    overtime_ = overtime;
+    schedule_ = TypedSchedule(schedule.value_or(StandardSchedule()));
+    applied_ = punches.has_value();
+    sheet_ = CardSheet(punches ? std::move(*punches) : blankMonth(settings_.month));
+}
+
+bool CartaoPontoDados::filterBy(ShiftFilter filter) {
+    if (!mayLeave()) return false;
+    return attempt(at_, incorrectData(), [&] {
+        loadList(company_.value(), settings_, filter);
+        return true;
+    });
+}
+
+bool CartaoPontoDados::select(std::size_t position) {
+    if (!mayLeave()) return false;
+    return attempt(at_, incorrectData(), [&] {
+        loadCard(position);
+        return true;
+    });
+}
+
+const Employee* CartaoPontoDados::selected() const {
+    return position_ ? &employees_[*position_] : nullptr;
+}
+
+EmployeeCode CartaoPontoDados::selectedCode() const {
+    return selected()->employeeCode().value();
+}
+
+std::filesystem::path CartaoPontoDados::punchFile() const {
+    return at_.session.folder.file(
+        punchFileName(company_.value(), selectedCode(), settings_.month));
+}
+
+bool CartaoPontoDados::requireSelection() {
+    if (selected()) return true;
+    if (!at_.session.company)
+        at_.person.tell(noCompany());
+    else
+        at_.person.tell(company_ ? noEmployeeSelected() : kNoMonth);
+    return false;
+}
+
+std::string CartaoPontoDados::weeklyCaption() const {
+    return decimalHours(weeklyHours(schedule_.schedule()), Decimals::One).append(kWeekly);
+}
+
+std::string CartaoPontoDados::monthlyCaption() const {
+    return decimalHours(monthlyHours(schedule_.schedule()), Decimals::One).append(kMonthly);
+}
+
+std::string_view CartaoPontoDados::saturdayCaption() const {
+    return schedule_.saturdayIsNormal() ? kSaturdayNormal : kSaturdayExtra;
+}
+
+bool CartaoPontoDados::saveSchedule() {
+    if (!requireSelection()) return false;
+    return attempt(at_, incorrectData(), [this] {
+        requireReadableSchedule();
+        requireScheduleAsShown();
+        StandardSchedule schedule = schedule_.schedule();
+        if (schedule_.hasSaturdayTimes())
+            schedule.saturdayIsNormal = at_.person.agrees(kSaturdayIsNormal);
+        const auto hold = holdFolder(at_);
+        requireScheduleAsShown();
+        winvrx::saveSchedule(at_.files, at_.session.folder, company_.value(), selectedCode(),
+                             schedule);
+        schedule_ = TypedSchedule(decodeSchedule(encode(schedule)));
+        return true;
+    });
+}
+
+void CartaoPontoDados::requireScheduleAsShown() const {
+    const auto onDisk =
+        loadSchedule(at_.files, at_.session.folder, company_.value(), selectedCode());
+    if (onDisk.value_or(StandardSchedule()) != schedule_.recorded())
+        throw Fault("schedule changed on disk", std::string(kChangedElsewhere));
+}
+
+void CartaoPontoDados::requireReadableSchedule() const {
+    if (const auto finding = schedule_.firstFinding())
+        throw Fault("standard schedule: " + *finding, *finding);
+}
+
+DayKind CartaoPontoDados::kindOf(int day) const {
+    const Date date = plusDays(firstDay(settings_.month), day - 1);
+    switch (meaningOf(sheet_.line(day).situation)) {
+        case DayMeaning::Leave:
+            return DayKind::Leave;
+        case DayMeaning::Missing:
+            return DayKind::Absence;
+        case DayMeaning::Excused:
+            return DayKind::Excused;
+        case DayMeaning::Holiday:
+            return DayKind::Holiday;
+        case DayMeaning::WeeklyRest:
+            return settings_.isHoliday(date) ? DayKind::Holiday : DayKind::WeeklyRest;
+        case DayMeaning::Work:
+            break;
+    }
+    if (settings_.isHoliday(date)) return DayKind::Holiday;
+    return weekdayOf(date) == std::chrono::Sunday ? DayKind::WeeklyRest : DayKind::Work;
+}
+
+bool CartaoPontoDados::pasteCells(int day, PunchCell cell, std::string_view text) {
+    if (!mayEdit()) return false;
+    Message refusal = inPunchEntry(incorrectData());
+    refusal.detail = paste(sheet_, day, cell, parseCellBlock(text));
+    if (!refusal.detail.empty()) at_.person.tell(refusal);
+    return refusal.detail.empty();
+}
+
+std::vector<int> CartaoPontoDados::daysWithoutSituation() const {
+    std::vector<int> days;
+    for (int day = 1; day <= static_cast<int>(sheet_.lines().size()); ++day) {
+        const bool typed = sheet_.line(day) != sheet_.recorded()[static_cast<std::size_t>(day) - 1];
+        const Date date = plusDays(firstDay(settings_.month), day - 1);
+        const bool saturday = weekdayOf(date) == std::chrono::Saturday;
+        const StandardSchedule& schedule = schedule_.recorded();
+        const bool scheduled = (saturday ? schedule.saturday : schedule.weekday) != DaySchedule();
+        if (typed && scheduled && sheet_.isBlank(day) && kindOf(day) == DayKind::Work)
+            days.push_back(day);
+    }
+    return days;
+}
+
+bool CartaoPontoDados::acceptsBlankDays() {
+    const std::vector<int> days = daysWithoutSituation();
+    if (days.empty()) return true;
+    Message message = kNeedsSituation;
+    for (const int day : days)
+        message.detail += (message.detail.empty() ? "" : ", ") + sheet_.line(day).label;
+    message.detail += days.size() == 1 ? " ficou" : " ficaram";
+    message.detail +=
+        " sem horas e sem situação. 'OK' grava assim mesmo, 'CANCELAR' volta à digitação.";
+    return at_.person.agrees(message);
+}
+
+bool CartaoPontoDados::savePunches() {
+    if (!requireSelection()) return false;
+    return attempt(at_, inPunchEntry(incorrectData()), [this] {
+        if (!requireOpenMonth()) return false;
+        if (const auto finding = sheet_.firstFinding()) throw Fault("punches typed", *finding);
+        if (!acceptsBlankDays()) return false;
+        const auto hold = holdFolder(at_);
+        if (!requireOpenMonth()) return false;
+        const CompanyCode& company = company_.value();
+        const auto onDisk =
+            loadPunches(at_.files, at_.session.folder, company, selectedCode(), settings_.month);
+        if (onDisk.value_or(blankMonth(settings_.month)) != sheet_.recorded())
+            throw Fault("punches changed on disk", std::string(kChangedElsewhere));
+        std::vector<FileSystem::NewContent> batch;
+        PunchFiles(at_.files, at_.session.folder, queries_.payroll, settings_)
+            .add(batch, company, selectedCode(),
+                 editedPunchRecord(at_.files.read(punchFile()).value_or(std::string()),
+                                   settings_.month, sheet_.lines()));
+        at_.files.replaceAll(batch);
+        sheet_.markRecorded();
+        applied_ = true;
+        return true;
+    });
+}
+
+bool CartaoPontoDados::saveChanges() {
+    return (!schedule_.changed() || saveSchedule()) && (!sheet_.changed() || savePunches());
+}
+
+bool CartaoPontoDados::mayLeave() {
+    if (!changed()) return true;
+    const Answer answer = at_.person.ask(kRecordChanges);
+    if (answer == Answer::Cancel) return false;
+    if (answer == Answer::No) return true;
+    return saveChanges();
+}
+
+}  // namespace winvrx

@@ -1,0 +1,150 @@
+#pragma once
+
+#include "foundation/desk/command.h"
+#include "foundation/register/employee_register.h"
+#include "timecard/hours/hours_summary.h"
+#include "timecard/month/month_settings.h"
+#include "timecard/punches/card_sheet.h"
+#include "timecard/punches/day_kind.h"
+#include "timecard/punches/employee_mark.h"
+#include "timecard/punches/list_application.h"
+#include "timecard/schedule/typed_schedule.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace winvrx {
+
+/// The time-card data screen: the standard schedule of each employee of the selected company and
+/// the punches of the work month.
+///
+/// Holds the employee list and the card of the employee chosen. A refusal or a failure leaves every
+/// record as it was, and what was typed stays on the screen.
+class CartaoPontoDados {
+  public:
+    CartaoPontoDados(const Workplace& at, const CardQueries& queries);
+
+    /// Loads the work month and the list, filtered as the month was chosen; the card of the
+    /// employee chosen before stays chosen if the list has it. False when no company or no month is
+    /// chosen.
+    [[nodiscard]] bool open();
+    [[nodiscard]] const std::optional<CompanyCode>& company() const { return company_; }
+    [[nodiscard]] const std::string& companyName() const { return companyName_; }
+    [[nodiscard]] const MonthSettings& settings() const { return settings_; }
+    [[nodiscard]] ShiftFilter filter() const { return filter_; }
+    /// False when the operator keeps unrecorded changes.
+    [[nodiscard]] bool filterBy(ShiftFilter filter);
+    [[nodiscard]] const std::vector<Employee>& employees() const { return employees_; }
+    [[nodiscard]] EmployeeMark mark(std::size_t position) const { return marks_.at(position); }
+
+    /// Loads the card of the employee at `position` of the list. False when the operator stays with
+    /// unrecorded changes, or it cannot be read.
+    [[nodiscard]] bool select(std::size_t position);
+    [[nodiscard]] std::optional<std::size_t> selectedPosition() const { return position_; }
+    /// nullptr when none is selected.
+    [[nodiscard]] const Employee* selected() const;
+
+    [[nodiscard]] TypedSchedule& schedule() { return schedule_; }
+    [[nodiscard]] std::string weeklyCaption() const;   ///< "44,0 HORAS SEMANAIS"
+    [[nodiscard]] std::string monthlyCaption() const;  ///< "220,0 HORAS MENSAIS"
+    [[nodiscard]] std::string_view saturdayCaption() const;
+    [[nodiscard]] bool saveSchedule();
+
+    /// True when the employee has a punch record for the month.
+    [[nodiscard]] bool applied() const { return applied_; }
+    /// "Minutos Fixos" or "Minutos Variados", for the whole installation.
+    [[nodiscard]] Minutes minutes() const { return minutes_; }
+    [[nodiscard]] bool chooseMinutes(Minutes minutes);
+    /// The situation that an application gives to days of work without times.
+    [[nodiscard]] const std::string& situationToApply() const { return situationToApply_; }
+    void setSituationToApply(std::string_view situation);
+
+    /// "Aplicar Ponto": fills the month from the standard schedule.
+    [[nodiscard]] bool applyPunches();
+    /// "Aplicar Ponto p/Todos" for these positions of the list: each card from the employee's own
+    /// schedule or, with `sameHours`, from that of the one selected, which becomes his. Who cannot
+    /// be filled stays as he is and is named at the end; cancelling leaves everyone as he was.
+    [[nodiscard]] bool applyToAll(const std::vector<std::size_t>& positions, bool sameHours,
+                                  const ListApplication::Progress& progress = {});
+    /// How many cards the last application filled.
+    [[nodiscard]] int filledCards() const { return filledCards_; }
+
+    /// Lines of the record that stand for no day, as they can be shown; they are kept.
+    [[nodiscard]] const std::vector<std::string>& unreadLines() const { return unreadLines_; }
+
+    /// The month is closed for the employee selected: "Folha Fechada".
+    [[nodiscard]] bool closed() const;
+    /// False when the month is closed, which the operator is then told.
+    [[nodiscard]] bool mayEdit();
+    /// Puts the cells of a spreadsheet into the sheet, from `day` and `cell` on. False when that
+    /// is refused.
+    [[nodiscard]] bool pasteCells(int day, PunchCell cell, std::string_view text);
+    [[nodiscard]] CardSheet& sheet() { return sheet_; }
+    [[nodiscard]] const CardSheet& sheet() const { return sheet_; }
+    [[nodiscard]] DayKind kindOf(int day) const;
+    /// What was worked on the day, in the month's format; empty for a day without worked time.
+    [[nodiscard]] std::string totalOf(int day) const;
+    /// What the day has beyond or, with "-", short of its schedule; empty when nothing.
+    [[nodiscard]] std::string differenceOf(int day) const;
+    [[nodiscard]] std::string totalOf(HalfMonth half) const;
+    /// The days of work that typing has left without times and without a situation.
+    [[nodiscard]] std::vector<int> daysWithoutSituation() const;
+    /// The hours of the card as it stands on the screen; all zero while it has no punches.
+    [[nodiscard]] HoursSummary hours() const;
+    /// Changes a percentage of extra hours of the employee, in a month that is not closed.
+    [[nodiscard]] bool changePercent(HourCategory category, std::string_view typed);
+    [[nodiscard]] bool savePunches();
+
+    /// Records the schedule and the punches, each when it was changed. False when one was refused.
+    [[nodiscard]] bool saveChanges();
+    [[nodiscard]] bool changed() const { return schedule_.changed() || sheet_.changed(); }
+    /// Asks whether unrecorded changes are to be recorded. True when the screen may go on to
+    /// something else: they are recorded or given up.
+    [[nodiscard]] bool mayLeave();
+
+  private:
+    void loadList(const CompanyCode& company, const MonthSettings& settings, ShiftFilter filter);
+    void loadCard(std::size_t position);
+    [[nodiscard]] EmployeeMark markOf(const CompanyCode& company, const Employee& employee,
+                                      WorkMonth month) const;
+    [[nodiscard]] bool requireSelection();
+    /// Tells the operator when the month of the employee selected is closed now.
+    [[nodiscard]] bool requireOpenMonth();
+    void requireReadableSchedule() const;
+    void requireScheduleAsShown() const;
+    void requireStorableSituation() const;
+    [[nodiscard]] bool scheduleIsRecorded();
+    [[nodiscard]] bool passesChecks();
+    [[nodiscard]] bool passesChecks(const std::vector<std::size_t>& positions, bool sameHours);
+    [[nodiscard]] ApplicationOrder applicationOrder() const;
+    [[nodiscard]] bool fillAll(const std::vector<std::size_t>& positions, bool sameHours,
+                               const ListApplication::Progress& progress);
+    [[nodiscard]] bool acceptsBlankDays();
+    [[nodiscard]] EmployeeCode selectedCode() const;
+    [[nodiscard]] WorkTerms terms() const;
+    [[nodiscard]] std::filesystem::path punchFile() const;
+    [[nodiscard]] HourTotals hoursOf(int day) const;
+    /// Something was applied or typed, so that there is something to count.
+    [[nodiscard]] bool hasPunches() const;
+
+    Workplace at_;
+    CardQueries queries_;
+    std::optional<CompanyCode> company_;
+    std::string companyName_;
+    MonthSettings settings_;
+    OvertimeRules overtime_;
+    ShiftFilter filter_ = ShiftFilter::Todos;
+    std::vector<Employee> employees_;
+    std::vector<EmployeeMark> marks_;
+    std::optional<std::size_t> position_;
+    TypedSchedule schedule_;
+    CardSheet sheet_;
+    std::vector<std::string> unreadLines_;
+    Minutes minutes_ = Minutes::Fixed;
+    std::string situationToApply_;
+    int filledCards_ = 0;
+    bool applied_ = false;
+};
+
+}  // namespace winvrx

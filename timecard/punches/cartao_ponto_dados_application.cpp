@@ -1,0 +1,173 @@
+#include "foundation/values/text.h"
+#include "timecard/month/changed_elsewhere.h"
+#include "timecard/punches/application_checks.h"
+#include "timecard/punches/cartao_ponto_dados.h"
+#include "timecard/punches/punch_application.h"
+
+#include <algorithm>
+
+// "Aplicar Ponto" and "Aplicar Ponto p/Todos".
+
+namespace winvrx {
+
+namespace {
+
+const Message kClosedMonth{
+    "DIGITAÇÃO DO PONTO",
+    "ATENÇÃO! Não é Possível Alterar o Ponto! Já Foi Gerada a Folha de Pagamento para este "
+    "Funcionário!!",
+    Icon::Exclamation};
+const Message kScheduleNotRecorded{
+    "Aplicação de Pontos",
+    "O Horário de Trabalho foi alterado e ainda não foi gravado. Deseja gravá-lo e aplicá-lo?",
+    Icon::Question, Buttons::YesNo};
+
+/// Of one kind that a message names; the log has them all.
+constexpr std::size_t kMostNames = 30;
+
+std::string summaryOf(int filled, std::size_t asked) {
+    return "Ponto aplicado para " + std::to_string(filled) + " de " + std::to_string(asked) +
+           (asked == 1 ? " funcionário." : " funcionários.");
+}
+
+}  // namespace
+
+bool CartaoPontoDados::closed() const {
+    return position_ && marks_[*position_].closed;
+}
+
+bool CartaoPontoDados::mayEdit() {
+    if (!requireSelection()) return false;
+    if (closed()) at_.person.tell(kClosedMonth);
+    return !closed();
+}
+
+bool CartaoPontoDados::requireOpenMonth() {
+    marks_[*position_] = markOf(company_.value(), *selected(), settings_.month);
+    return mayEdit();
+}
+
+bool CartaoPontoDados::chooseMinutes(Minutes minutes) {
+    if (minutes == minutes_) return true;
+    return attemptWriting(at_, incorrectData(), [&] {
+        saveMinutes(at_.files, at_.session.folder, minutes);
+        minutes_ = minutes;
+        return true;
+    });
+}
+
+void CartaoPontoDados::setSituationToApply(std::string_view situation) {
+    situationToApply_ = meantSituation(trimmed(situation));
+}
+
+void CartaoPontoDados::requireStorableSituation() const {
+    if (const std::string finding = findingOf(PunchCell::Situation, situationToApply_);
+        !finding.empty())
+        throw Fault("situation to apply", finding);
+}
+
+ApplicationOrder CartaoPontoDados::applicationOrder() const {
+    return {.company = company_.value(),
+            .settings = settings_,
+            .minutes = minutes_,
+            .situation = situationToApply_,
+            .common = std::nullopt};
+}
+
+bool CartaoPontoDados::scheduleIsRecorded() {
+    return !schedule_.changed() || (at_.person.agrees(kScheduleNotRecorded) && saveSchedule());
+}
+
+bool CartaoPontoDados::passesChecks() {
+    const CompanyCode& company = company_.value();
+    const bool rotates = selected()->scaleOr() != Scale::Normal;
+    return passesApplicationChecks(
+        at_.person,
+        {.employee = *selected(),
+         .month = settings_.month,
+         .applied = applied_,
+         .edited = sheet_.changed(),
+         .inGroup = rotates && queries_.rotation.isMember(company, selectedCode()),
+         .lacksSituation = leavesWorkBlank(schedule_.schedule()) && situationToApply_.empty(),
+         .onLeave = marks_[*position_].onLeave});
+}
+
+bool CartaoPontoDados::applyPunches() {
+    if (!requireSelection()) return false;
+    return attempt(at_, incorrectData(), [this] {
+        if (!requireOpenMonth()) return false;
+        const auto before = at_.files.read(punchFile());
+        applied_ = applied_ || before;
+        if (!passesChecks()) return false;
+        requireStorableSituation();
+        requireReadableSchedule();
+        if (!scheduleIsRecorded()) return false;
+        const auto hold = holdFolder(at_);
+        requireScheduleAsShown();
+        if (at_.files.read(punchFile()) != before)
+            throw Fault("punches changed on disk", std::string(kChangedElsewhere));
+        if (!requireOpenMonth()) return false;
+        ListApplication application(at_.files, at_.session.folder, queries_, applicationOrder());
+        ListApplication::Batch batch;
+        application.fillOne(batch, *selected(), selectedCode());
+        at_.files.replaceAll(batch);
+        filledCards_ = application.filled();
+        loadCard(*position_);
+        return true;
+    });
+}
+
+bool CartaoPontoDados::passesChecks(const std::vector<std::size_t>& positions, bool sameHours) {
+    const auto differs = [&](std::size_t position) {
+        const Employee& one = employees_.at(position);
+        const Employee& first = employees_.at(positions.front());
+        return one.shiftOr() != first.shiftOr() || one.scaleOr() != first.scaleOr();
+    };
+    const bool chosen = selected() && !positions.empty();
+    return passesListChecks(at_.person, {.selected = chosen ? selected() : nullptr,
+                                         .month = settings_.month,
+                                         .onLeave = chosen && marks_[*position_].onLeave,
+                                         .sameHours = sameHours,
+                                         .mixed = std::ranges::any_of(positions, differs),
+                                         .everyShift = filter_ == ShiftFilter::Todos,
+                                         .description = "Turno: " + std::string(codeOf(filter_)),
+                                         .employees = positions.size()});
+}
+
+bool CartaoPontoDados::applyToAll(const std::vector<std::size_t>& positions, bool sameHours,
+                                  const ListApplication::Progress& progress) {
+    if (!company_) return requireSelection();
+    return attempt(at_, incorrectData(), [&] {
+        if (!passesChecks(positions, sameHours)) return false;
+        requireStorableSituation();
+        requireReadableSchedule();
+        if (!scheduleIsRecorded()) return false;
+        return fillAll(positions, sameHours, progress);
+    });
+}
+
+bool CartaoPontoDados::fillAll(const std::vector<std::size_t>& positions, bool sameHours,
+                               const ListApplication::Progress& progress) {
+    std::vector<EmployeeCode> codes;
+    for (const std::size_t position : positions)
+        codes.push_back(employees_.at(position).employeeCode().value());
+    const auto hold = holdFolder(at_);
+    requireScheduleAsShown();
+    ApplicationOrder order = applicationOrder();
+    if (sameHours) order.common = schedule_.recorded();
+    ListApplication application(at_.files, at_.session.folder, queries_, std::move(order));
+    const auto batch = application.fill(codes, progress);
+    if (!batch) return false;
+    at_.files.replaceAll(*batch);
+    filledCards_ = application.filled();
+    if (application.hasFilled(selectedCode())) loadCard(*position_);
+    if (const std::string remarks = application.remarks(kMostNames); !remarks.empty()) {
+        const std::string all = application.remarks(codes.size());
+        if (all != remarks) at_.log.write("punches of a list: " + all);
+        at_.person.tell({"Aplicação de Pontos", summaryOf(filledCards_, codes.size()),
+                         Icon::Information, Buttons::Ok, remarks});
+    }
+    return true;
+}
+
+}  // namespace winvrx

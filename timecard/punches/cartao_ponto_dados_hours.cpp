@@ -1,0 +1,55 @@
+// What the screen shows of the month's hours.
+#include "timecard/hours/percent_change.h"
+#include "timecard/month/overtime_record.h"
+#include "timecard/punches/cartao_ponto_dados.h"
+
+namespace winvrx {
+
+WorkTerms CartaoPontoDados::terms() const {
+    return workTerms(settings_, overtime_, schedule_.schedule(),
+                     selected() ? *selected() : Employee());
+}
+
+HourTotals CartaoPontoDados::hoursOf(int day) const {
+    if (!hasPunches()) return {};
+    return dayHours(sheet_.line(day), plusDays(firstDay(settings_.month), day - 1), terms());
+}
+
+bool CartaoPontoDados::hasPunches() const {
+    return selected() && (applied_ || sheet_.changed());
+}
+
+std::string CartaoPontoDados::totalOf(int day) const {
+    const auto worked = hoursOf(day).worked();
+    return worked.count() == 0 ? std::string() : formatted(worked, overtime_.totalsFormat);
+}
+
+std::string CartaoPontoDados::differenceOf(int day) const {
+    const HourTotals hours = hoursOf(day);
+    const auto difference = hours.extra() - hours[HourCategory::Missing];
+    return difference.count() == 0 ? std::string()
+                                   : formattedDifference(difference, overtime_.totalsFormat);
+}
+
+std::string CartaoPontoDados::totalOf(HalfMonth half) const {
+    return formatted(hours().totals(half).worked(), overtime_.totalsFormat);
+}
+
+HoursSummary CartaoPontoDados::hours() const {
+    return {hasPunches() ? sheet_.lines() : std::vector<PunchLine>(), settings_.month, terms()};
+}
+
+bool CartaoPontoDados::changePercent(HourCategory category, std::string_view typed) {
+    if (!requireSelection()) return false;
+    return attempt(at_, incorrectData(), [&] {
+        const CompanyCode& company = company_.value();
+        if (!requireOpenMonth() ||
+            !winvrx::changePercent(
+                at_, {company, selectedCode(), settings_.month, overtime_, category, typed}))
+            return false;
+        overtime_ = overtimeOf(at_.files, at_.session.folder, company, selectedCode(), settings_);
+        return true;
+    });
+}
+
+}  // namespace winvrx

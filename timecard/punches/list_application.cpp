@@ -1,0 +1,167 @@
+#include "timecard/punches/list_application.h"
+
+#include "foundation/files/file_faults.h"
+#include "foundation/register/leave_status.h"
+#include "timecard/punches/application_checks.h"
+#include "timecard/punches/punch_application.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+std::filesystem::path scheduleFile(const DataFolder& folder, const CompanyCode& company,
+                                   const EmployeeCode& employee) {
+    return folder.companyFile(company, scheduleFileName(employee));
+}
+
+void requireReadable(const EmployeeLeaves& leaves) {
+    if (!leaves.unread.empty())
+        throw Fault("leave line: " + leaves.unread.front(),
+                    "Um afastamento não tem datas que possam ser lidas: " + leaves.unread.front());
+}
+
+void requireReadable(const StandardSchedule& schedule) {
+    const bool unread = std::any_of(schedule.unread.begin(), schedule.unread.end(),
+                                    [](const std::string& bytes) { return !bytes.empty(); });
+    if (unread)
+        throw Fault("standard schedule holds what is no time",
+                    "O horário de trabalho tem uma hora que não existe. Corrija-o primeiro.");
+}
+
+}  // namespace
+
+ListApplication::ListApplication(FileSystem& files, const DataFolder& folder,
+                                 const CardQueries& queries, ApplicationOrder order)
+    : files_(files),
+      folder_(folder),
+      queries_(queries),
+      order_(std::move(order)),
+      punchFiles_(files, folder, queries.payroll, order_.settings) {}
+
+std::string_view ListApplication::textOf(Remark remark) {
+    switch (remark) {
+        case Remark::Closed:
+            return "Não aplicado, folha fechada: ";
+        case Remark::Inactive:
+            return "Não aplicado, inativo antes do mês: ";
+        case Remark::NoGroup:
+            return "Não aplicado, escala de revezamento sem grupo: ";
+        case Remark::AdmittedLater:
+            return "Não aplicado, admissão depois do mês: ";
+        case Remark::Unreadable:
+            return "Não aplicado, registro que não pode ser lido: ";
+        case Remark::Repeated:
+            return "Código repetido no cadastro, vale o primeiro: ";
+        case Remark::Gone:
+            return "Não está mais no cadastro: ";
+        case Remark::NoTimes:
+            return "Aplicado sem horas, não tem horário de trabalho: ";
+        case Remark::OnLeave:
+            return "Aplicado com afastamento: ";
+    }
+    return {};
+}
+
+std::optional<ListApplication::Remark> ListApplication::hindrance(const Employee& employee,
+                                                                  const EmployeeCode& code) const {
+    const WorkMonth month = order_.settings.month;
+    if (queries_.payroll.isClosed(order_.company, code, month)) return Remark::Closed;
+    const auto inactive = inactive_.find(code);
+    if (inactive != inactive_.end() && inactive->second < firstDay(month)) return Remark::Inactive;
+    const bool rotates = employee.scaleOr() != Scale::Normal;
+    if (lacksGroup(employee, rotates && queries_.rotation.isMember(order_.company, code)))
+        return Remark::NoGroup;
+    if (const auto admission = requireAdmission(employee); admission && *admission > lastDay(month))
+        return Remark::AdmittedLater;
+    return std::nullopt;
+}
+
+StandardSchedule ListApplication::scheduleOf(const EmployeeCode& code) const {
+    if (order_.common) return *order_.common;
+    return loadSchedule(files_, folder_, order_.company, code).value_or(StandardSchedule());
+}
+
+void ListApplication::copySchedule(Batch& batch, const EmployeeCode& code) const {
+    const auto file = scheduleFile(folder_, order_.company, code);
+    auto lines = RecordFile(files_, file).lines();
+    if (lines.empty()) lines.emplace_back();
+    lines.front() = encode(*order_.common, std::move(lines.front()));
+    batch.push_back({file, joinedLines(lines)});
+}
+
+void ListApplication::fillOne(Batch& batch, const Employee& employee, const EmployeeCode& code) {
+    const StandardSchedule schedule = scheduleOf(code);
+    const EmployeeLeaves leaves = queries_.leaves.leavesOf(order_.company, code);
+    requireReadable(schedule);
+    requireReadable(leaves);
+    Application application{.schedule = schedule,
+                            .admission = requireAdmission(employee),
+                            .leaves = leaves,
+                            .situation = order_.situation};
+    if (order_.minutes == Minutes::Varied)
+        application.spread = [&](const DaySchedule& day, Date date) {
+            return variation_.vary(day, order_.company, code, date);
+        };
+    std::string record = punchRecordBytes(filledMonth(application, order_.settings));
+    if (order_.common) copySchedule(batch, code);
+    punchFiles_.add(batch, order_.company, code, std::move(record));
+    if (leavesWorkBlank(schedule)) remarks_[Remark::NoTimes].push_back(employee.name);
+    if (leaves.touch(order_.settings.month)) remarks_[Remark::OnLeave].push_back(employee.name);
+    filled_.insert(code);
+}
+
+void ListApplication::take(Batch& batch, const Employee& employee, const EmployeeCode& code) {
+    const std::size_t before = batch.size();
+    try {
+        if (const auto reason = hindrance(employee, code))
+            remarks_[*reason].push_back(employee.name);
+        else
+            fillOne(batch, employee, code);
+    } catch (const FileFault&) {
+        throw;
+    } catch (const Fault& fault) {
+        batch.resize(before);
+        remarks_[Remark::Unreadable].push_back(employee.name + " (" + fault.explanation() + ")");
+    }
+}
+
+std::optional<ListApplication::Batch> ListApplication::fill(const std::vector<EmployeeCode>& codes,
+                                                            const Progress& progress) {
+    filled_.clear();
+    remarks_.clear();
+    inactive_ = inactiveEmployees(files_, folder_, order_.company);
+    std::map<EmployeeCode, Employee> people;
+    for (EmployeeLine& line : EmployeeRegister(files_, folder_, order_.company).load())
+        if (const auto code = line.code()) people.emplace(*code, std::move(line.employee));
+    Batch batch;
+    std::set<EmployeeCode> seen;
+    int done = 0;
+    for (const EmployeeCode& code : codes) {
+        const auto person = people.find(code);
+        if (!seen.insert(code).second)
+            remarks_[Remark::Repeated].push_back(code.text());
+        else if (person == people.end())
+            remarks_[Remark::Gone].push_back(code.text());
+        else
+            take(batch, person->second, code);
+        if (progress && !progress(++done, static_cast<int>(codes.size()))) return std::nullopt;
+    }
+    return batch;
+}
+
+std::string ListApplication::remarks(std::size_t mostNames) const {
+    std::string text;
+    for (const auto& [remark, names] : remarks_) {
+        if (!text.empty()) text += '\n';
+        text += textOf(remark);
+        const std::size_t named = std::min(names.size(), mostNames);
+        for (std::size_t i = 0; i < named; ++i)
+            text += (i == 0 ? "" : ", ") + names[i];
+        if (named < names.size()) text += " e mais " + std::to_string(names.size() - named);
+    }
+    return text;
+}
+
+}  // namespace winvrx

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "foundation/register/employee_register.h"
+#include "timecard/punches/leave_calendar.h"
+#include "timecard/punches/minute_variation.h"
+#include "timecard/punches/minutes_option.h"
+#include "timecard/punches/period_record.h"
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace winvrx {
+
+/// What the punches ask of other subjects; all outlive the commands.
+struct CardQueries {
+    const RotationMembership& rotation;
+    const PayrollLock& payroll;
+    const LeaveCalendar& leaves;
+};
+
+/// How a month is to be filled.
+struct ApplicationOrder {
+    CompanyCode company;
+    MonthSettings settings;
+    Minutes minutes = Minutes::Fixed;
+    std::string situation;                   ///< of days of work without times
+    std::optional<StandardSchedule> common;  ///< becomes the schedule of each employee
+};
+
+/// Fills the cards of a list of employees. Reads only; what is to be written is a batch of whole
+/// files.
+class ListApplication {
+  public:
+    using Batch = std::vector<FileSystem::NewContent>;
+    /// Told after each employee; false cancels.
+    using Progress = std::function<bool(int done, int total)>;
+
+    /// `files`, `folder` and `queries` outlive this object.
+    ListApplication(FileSystem& files, const DataFolder& folder, const CardQueries& queries,
+                    ApplicationOrder order);
+
+    /// Fills the cards of these employees as the register has them now, that of a code which
+    /// several bear for the first of them. nullopt when cancelled.
+    [[nodiscard]] std::optional<Batch> fill(const std::vector<EmployeeCode>& codes,
+                                            const Progress& progress);
+    [[nodiscard]] bool hasFilled(const EmployeeCode& code) const { return filled_.contains(code); }
+    [[nodiscard]] int filled() const { return static_cast<int>(filled_.size()); }
+    /// One line for each kind of remark on the last `fill`, with the names it is about, `mostNames`
+    /// of them at most; empty when everyone's card was filled as a matter of course.
+    [[nodiscard]] std::string remarks(std::size_t mostNames) const;
+
+    /// The card of one employee, whose own records decide.
+    void fillOne(Batch& batch, const Employee& employee, const EmployeeCode& code);
+
+  private:
+    enum class Remark {
+        Closed,
+        Inactive,
+        NoGroup,
+        AdmittedLater,
+        Unreadable,
+        Repeated,
+        Gone,
+        NoTimes,
+        OnLeave
+    };
+
+    [[nodiscard]] static std::string_view textOf(Remark remark);
+    [[nodiscard]] std::optional<Remark> hindrance(const Employee& employee,
+                                                  const EmployeeCode& code) const;
+    [[nodiscard]] StandardSchedule scheduleOf(const EmployeeCode& code) const;
+    void copySchedule(Batch& batch, const EmployeeCode& code) const;
+    void take(Batch& batch, const Employee& employee, const EmployeeCode& code);
+
+    FileSystem& files_;
+    const DataFolder& folder_;
+    CardQueries queries_;
+    ApplicationOrder order_;
+    PunchFiles punchFiles_;
+    MinuteVariation variation_;
+    std::map<EmployeeCode, Date> inactive_;
+    std::map<Remark, std::vector<std::string>> remarks_;
+    std::set<EmployeeCode> filled_;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,87 @@
+#include "timecard/punches/period_record.h"
+
+#include "timecard/hours/employee_hours.h"
+
+#include <chrono>
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::chrono::months kOneMonth{1};
+
+bool isCalendarMonth(const DayPeriod& period) {
+    const WorkMonth month = monthOf(period.last);
+    return period == DayPeriod{firstDay(month), lastDay(month)};
+}
+
+bool reachesBack(const DayPeriod& period) {
+    return monthOf(period.first) != monthOf(period.last);
+}
+
+using Lines = std::vector<std::string>;
+
+std::string periodBytes(const DayPeriod& period, const Lines& recordBefore, const Lines& record) {
+    Lines lines{std::string(kOpeningPunchLine)};
+    const WorkMonth month = monthOf(period.last);
+    if (reachesBack(period)) {
+        const auto before = dayLines(recordBefore, month - kOneMonth);
+        lines.insert(lines.end(), before.begin() + (dayNumber(period.first) - 1), before.end());
+    }
+    const auto days = dayLines(record, month);
+    lines.insert(lines.end(), days.begin(), days.begin() + dayNumber(period.last));
+    return joinedLines(lines);
+}
+
+/// `period` with the days of `month` as `record` has them. Its other lines stay.
+std::string refreshed(Lines period, WorkMonth month, const Lines& record) {
+    const auto days = dayLines(record, month);
+    for (std::string& bytes : period) {
+        const PunchLine line = decodePunchLine(bytes);
+        const int day = line.day();
+        if (day > 0 && day <= daysIn(month) &&
+            line.label == dayLabel(plusDays(firstDay(month), day - 1)))
+            bytes = days[static_cast<std::size_t>(day) - 1];
+    }
+    return joinedLines(period);
+}
+
+}  // namespace
+
+PunchFiles::PunchFiles(FileSystem& files, const DataFolder& folder, const PayrollLock& payroll,
+                       const MonthSettings& settings)
+    : files_(files),
+      folder_(folder),
+      payroll_(payroll),
+      month_(settings.month),
+      period_(closingPeriod(settings)),
+      nextPeriod_(closingPeriod(loadMonthSettings(files, folder, month_ + kOneMonth))) {}
+
+void PunchFiles::add(std::vector<FileSystem::NewContent>& batch, const CompanyCode& company,
+                     const EmployeeCode& employee, std::string record) const {
+    const auto recorded = [&](WorkMonth month) {
+        return RecordFile(files_, folder_.file(punchFileName(company, employee, month))).lines();
+    };
+    const auto periodFile = [&](WorkMonth month) {
+        return folder_.file(closingFileName(company, employee, month));
+    };
+    // The month was once counted otherwise: should it be again, its record must not be out of date.
+    const auto refreshedPeriod = [&](WorkMonth month) {
+        return refreshed(RecordFile(files_, periodFile(month)).lines(), month_, splitLines(record));
+    };
+    if (!isCalendarMonth(period_)) {
+        const Lines before = reachesBack(period_) ? recorded(month_ - kOneMonth) : Lines();
+        batch.push_back({periodFile(month_), periodBytes(period_, before, splitLines(record))});
+    } else if (files_.exists(periodFile(month_))) {
+        batch.push_back({periodFile(month_), refreshedPeriod(month_)});
+    }
+    const WorkMonth next = month_ + kOneMonth;
+    if (files_.exists(periodFile(next)) && !payroll_.isClosed(company, employee, next))
+        batch.push_back(
+            {periodFile(next), reachesBack(nextPeriod_)
+                                   ? periodBytes(nextPeriod_, splitLines(record), recorded(next))
+                                   : refreshedPeriod(next)});
+    batch.push_back({folder_.file(punchFileName(company, employee, month_)), std::move(record)});
+}
+
+}  // namespace winvrx

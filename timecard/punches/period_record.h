@@ -1,0 +1,34 @@
+#pragma once
+
+#include "foundation/register/employee_queries.h"
+#include "timecard/month/closing_period.h"
+#include "timecard/punches/punch_record.h"
+
+#include <string>
+#include <vector>
+
+namespace winvrx {
+
+/// What changes on disk with the punches of a month: the punch record, the record of the month's
+/// closing period where that is not the calendar month or the record stands from a time when it was
+/// not, and the record of the next one where it stands and is not closed.
+class PunchFiles {
+  public:
+    /// The referred objects outlive this one.
+    PunchFiles(FileSystem& files, const DataFolder& folder, const PayrollLock& payroll,
+               const MonthSettings& settings);
+
+    /// Adds the files of one employee to `batch`. `record` is the new punch record, whole.
+    void add(std::vector<FileSystem::NewContent>& batch, const CompanyCode& company,
+             const EmployeeCode& employee, std::string record) const;
+
+  private:
+    FileSystem& files_;
+    const DataFolder& folder_;
+    const PayrollLock& payroll_;
+    WorkMonth month_;
+    DayPeriod period_;
+    DayPeriod nextPeriod_;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "timecard/month/month_settings.h"
+#include "timecard/punches/leave_calendar.h"
+#include "timecard/punches/punch_record.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace winvrx {
+
+/// What an employee's month is filled from.
+struct Application {
+    StandardSchedule schedule;
+    std::optional<Date> admission = {};
+    EmployeeLeaves leaves = {};
+    /// Of the days of work for which the schedule has no times.
+    std::string situation = {};
+    /// Moves the times of a day ("Minutos Variados"); none leaves them as they stand.
+    std::function<DaySchedule(const DaySchedule& day, Date date)> spread = {};
+};
+
+/// Fills the month from the schedule. The first that fits decides: before admission a day has its
+/// label only; in a leave the situation "AFASTAMENTO"; on a ticked holiday "FERIADO" and on a
+/// Sunday "DESCANSO SEMANAL"; a Saturday the Saturday times; any other day morning and afternoon.
+[[nodiscard]] std::vector<PunchLine> filledMonth(const Application& application,
+                                                 const MonthSettings& settings);
+
+/// Whether days of work would get no times: the schedule has none for Monday to Friday.
+[[nodiscard]] bool leavesWorkBlank(const StandardSchedule& schedule);
+
+}  // namespace winvrx

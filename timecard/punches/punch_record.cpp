@@ -1,0 +1,144 @@
+#include "timecard/punches/punch_record.h"
+
+#include "foundation/values/text.h"
+
+namespace winvrx {
+
+namespace {
+
+/// The word of a mark that the column cut; any other text as it stands.
+std::string wholeSituation(std::string stored) {
+    const Situation* found = findSituation(stored);
+    return found && found->mark == stored ? std::string(found->word) : stored;
+}
+
+TimePair pairOf(std::string_view entry, std::string_view exit) {
+    return {parseTypedTime(entry), parseTypedTime(exit)};
+}
+
+/// The lines of a record, told apart: the first line of each day of the month, and what is neither
+/// that nor blank.
+struct RecordContent {
+    std::vector<PunchLine> days;
+    std::vector<std::string> dayBytes;
+    std::vector<std::string> others;
+};
+
+RecordContent contentOf(const std::vector<std::string>& lines, WorkMonth month) {
+    RecordContent content{blankMonth(month), {}, {}};
+    content.dayBytes.resize(content.days.size());
+    std::vector<bool> seen(content.days.size(), false);
+    for (const std::string& bytes : lines) {
+        PunchLine line = decodePunchLine(bytes);
+        const auto place = static_cast<std::size_t>(line.day()) - 1;
+        if (place < seen.size() && !seen[place]) {
+            seen[place] = true;
+            content.days[place] = std::move(line);
+            content.dayBytes[place] = bytes;
+        } else if (!trimmed(bytes).empty()) {
+            content.others.push_back(bytes);
+        }
+    }
+    return content;
+}
+
+RecordFile recordOf(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
+                    const EmployeeCode& employee, WorkMonth month) {
+    return {files, folder.file(punchFileName(company, employee, month))};
+}
+
+}  // namespace
+
+int PunchLine::day() const {
+    constexpr std::size_t kDigits = 2;
+    if (label.size() <= kDigits || label[kDigits] != '/') return 0;
+    int value = 0;
+    for (std::size_t i = 0; i < kDigits; ++i) {
+        if (label[i] < '0' || label[i] > '9') return 0;
+        value = value * 10 + (label[i] - '0');
+    }
+    return value <= 31 ? value : 0;
+}
+
+TimePair PunchLine::morning() const {
+    return pairOf(morningEntry, morningExit);
+}
+TimePair PunchLine::afternoon() const {
+    return pairOf(afternoonEntry, afternoonExit);
+}
+TimePair PunchLine::extra() const {
+    return pairOf(extraEntry, extraExit);
+}
+
+std::string encode(const PunchLine& line, std::string_view existing) {
+    RecordLine record(std::string(existing.substr(0, kPunchWidth)), kPunchWidth);
+    for (const PunchField& field : kPunchFields)
+        record.put(field.column, line.*field.member);
+    return record.bytes() + line.further;
+}
+
+PunchLine decodePunchLine(std::string_view lineBytes) {
+    PunchLine line;
+    for (const PunchField& field : kPunchFields)
+        line.*field.member = fieldOf(lineBytes, field.column);
+    line.situation = wholeSituation(std::move(line.situation));
+    if (lineBytes.size() > kPunchWidth) line.further = lineBytes.substr(kPunchWidth);
+    return line;
+}
+
+std::string punchFileName(const CompanyCode& company, const EmployeeCode& employee,
+                          WorkMonth month) {
+    return company.text() + employee.text() + "-" + monthKey(month) + ".bdx";
+}
+
+std::vector<PunchLine> blankMonth(WorkMonth month) {
+    std::vector<PunchLine> lines;
+    for (int day = 0; day < daysIn(month); ++day)
+        lines.emplace_back().label = dayLabel(plusDays(firstDay(month), day));
+    return lines;
+}
+
+std::optional<std::vector<PunchLine>> loadPunches(FileSystem& files, const DataFolder& folder,
+                                                  const CompanyCode& company,
+                                                  const EmployeeCode& employee, WorkMonth month) {
+    const RecordFile record = recordOf(files, folder, company, employee, month);
+    if (!record.exists()) return std::nullopt;
+    return contentOf(record.lines(), month).days;
+}
+
+std::vector<std::string> unreadPunchLines(FileSystem& files, const DataFolder& folder,
+                                          const CompanyCode& company, const EmployeeCode& employee,
+                                          WorkMonth month) {
+    std::vector<std::string> unread =
+        contentOf(recordOf(files, folder, company, employee, month).lines(), month).others;
+    for (std::string& line : unread)
+        line = readableText(line);
+    return unread;
+}
+
+std::string punchRecordBytes(const std::vector<PunchLine>& lines) {
+    std::vector<std::string> encoded{std::string(kOpeningPunchLine)};
+    for (const PunchLine& line : lines)
+        encoded.push_back(encode(line));
+    return joinedLines(encoded);
+}
+
+std::string editedPunchRecord(std::string_view record, WorkMonth month,
+                              const std::vector<PunchLine>& lines) {
+    const RecordContent before = contentOf(splitLines(record), month);
+    std::vector<std::string> encoded{std::string(kOpeningPunchLine)};
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        encoded.push_back(
+            encode(lines[i], i < before.dayBytes.size() ? before.dayBytes[i] : std::string()));
+    encoded.insert(encoded.end(), before.others.begin(), before.others.end());
+    return joinedLines(encoded);
+}
+
+std::vector<std::string> dayLines(const std::vector<std::string>& recordLines, WorkMonth month) {
+    RecordContent content = contentOf(recordLines, month);
+    for (std::size_t i = 0; i < content.days.size(); ++i)
+        if (content.dayBytes[i].empty()) content.dayBytes[i] = encode(content.days[i]);
+    return std::move(content.dayBytes);
+}
+
+}  // namespace winvrx

@@ -1,0 +1,150 @@
+#include "timecard/schedule/standard_schedule.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+using PairOfDay = TimePair DaySchedule::*;
+using TimeOfPair = std::optional<TimeOfDay> TimePair::*;
+
+/// One time of the schedule and its column.
+struct TimeField {
+    DaySchedule StandardSchedule::*day;
+    PairOfDay pair;
+    TimeOfPair time;
+    Column column;
+};
+
+constexpr std::array kTimeFields = {
+    TimeField{&StandardSchedule::weekday, &DaySchedule::morning, &TimePair::entry, {1, 5}},
+    TimeField{&StandardSchedule::weekday, &DaySchedule::morning, &TimePair::exit, {6, 5}},
+    TimeField{&StandardSchedule::weekday, &DaySchedule::afternoon, &TimePair::entry, {11, 5}},
+    TimeField{&StandardSchedule::weekday, &DaySchedule::afternoon, &TimePair::exit, {16, 5}},
+    TimeField{&StandardSchedule::saturday, &DaySchedule::morning, &TimePair::entry, {23, 5}},
+    TimeField{&StandardSchedule::saturday, &DaySchedule::morning, &TimePair::exit, {28, 5}},
+    TimeField{&StandardSchedule::saturday, &DaySchedule::afternoon, &TimePair::entry, {33, 5}},
+    TimeField{&StandardSchedule::saturday, &DaySchedule::afternoon, &TimePair::exit, {38, 5}},
+};
+constexpr Column kSaturdayFlag{21, 1};
+constexpr Column kSecondFlag{22, 1};
+constexpr Column kOpaque{43, 150};
+
+static_assert(kTimeFields.size() == kScheduleTimes);
+static_assert(kTimeFields[3].column.end() == kSaturdayFlag.start);
+static_assert(kSaturdayFlag.end() == kSecondFlag.start);
+static_assert(kSecondFlag.end() == kTimeFields[4].column.start);
+static_assert(kTimeFields[7].column.end() == kOpaque.start);
+static_assert(kOpaque.end() == kScheduleWidth + 1);
+
+constexpr std::string_view kSeparators = ":.,";
+constexpr std::size_t kMinuteDigits = 2;
+
+/// One or two digits as a number up to `highest`.
+std::optional<int> shortNumber(std::string_view digits, int highest) {
+    int value = 0;
+    if (digits.empty() || digits.size() > 2) return std::nullopt;
+    for (const char digit : digits) {
+        if (digit < '0' || digit > '9') return std::nullopt;
+        value = value * 10 + (digit - '0');
+    }
+    return value <= highest ? std::optional(value) : std::nullopt;
+}
+
+bool flagIn(std::string_view lineBytes, Column column) {
+    return fieldOf(lineBytes, column) == "1";
+}
+
+void putFlag(RecordLine& line, Column column, bool value) {
+    const bool blank = fieldOf(line.bytes(), column).empty();
+    if (blank || flagIn(line.bytes(), column) != value) line.put(column, value ? "1" : "0");
+}
+
+RecordFile recordOf(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
+                    const EmployeeCode& employee) {
+    return {files, folder.companyFile(company, scheduleFileName(employee))};
+}
+
+}  // namespace
+
+std::optional<TimeOfDay>& timeAt(StandardSchedule& schedule, std::size_t position) {
+    const TimeField& field = kTimeFields.at(position);
+    return schedule.*field.day.*field.pair.*field.time;
+}
+
+const std::optional<TimeOfDay>& timeAt(const StandardSchedule& schedule, std::size_t position) {
+    const TimeField& field = kTimeFields.at(position);
+    return schedule.*field.day.*field.pair.*field.time;
+}
+
+std::optional<TimeOfDay> parseTypedTime(std::string_view text) {
+    if (text.empty()) return std::nullopt;
+    if (const auto time = parseTime(text)) return time;
+    const std::size_t separator = text.find_first_of(kSeparators);
+    std::string_view hours = text.substr(0, separator);
+    std::string_view minutes = "0";
+    if (separator != std::string_view::npos) {
+        minutes = text.substr(separator + 1);
+    } else if (text.size() > kMinuteDigits) {
+        hours = text.substr(0, text.size() - kMinuteDigits);
+        minutes = text.substr(text.size() - kMinuteDigits);
+    }
+    const auto hour = shortNumber(hours, 23);
+    const auto minute = shortNumber(minutes, 59);
+    if (!hour || !minute) return std::nullopt;
+    return TimeOfDay{std::chrono::hours{*hour} + std::chrono::minutes{*minute}};
+}
+
+std::string encode(const StandardSchedule& schedule, std::string existing) {
+    RecordLine line(std::move(existing), kScheduleWidth);
+    for (std::size_t position = 0; position < kScheduleTimes; ++position) {
+        const Column column = kTimeFields[position].column;
+        const auto& time = timeAt(schedule, position);
+        if (!time)
+            line.putRaw(column, schedule.unread[position]);
+        else if (parseTypedTime(fieldOf(line.bytes(), column)) != time)
+            line.put(column, timeText(*time));
+    }
+    putFlag(line, kSaturdayFlag, schedule.saturdayIsNormal);
+    putFlag(line, kSecondFlag, schedule.secondFlag);
+    line.putRaw({kOpaque.start, std::max(kOpaque.width, schedule.opaque.size())}, schedule.opaque);
+    return line.bytes();
+}
+
+StandardSchedule decodeSchedule(std::string_view lineBytes) {
+    StandardSchedule schedule;
+    for (std::size_t position = 0; position < kScheduleTimes; ++position) {
+        const Column column = kTimeFields[position].column;
+        const std::string text = fieldOf(lineBytes, column);
+        timeAt(schedule, position) = parseTypedTime(text);
+        if (!text.empty() && !timeAt(schedule, position))
+            schedule.unread[position] = rawFieldOf(lineBytes, column);
+    }
+    schedule.saturdayIsNormal = flagIn(lineBytes, kSaturdayFlag);
+    schedule.secondFlag = flagIn(lineBytes, kSecondFlag);
+    if (lineBytes.size() >= kOpaque.start) schedule.opaque = lineBytes.substr(kOpaque.start - 1);
+    return schedule;
+}
+
+std::string scheduleFileName(const EmployeeCode& employee) {
+    return std::string(kScheduleStem) + employee.text() + ".pdx";
+}
+
+std::optional<StandardSchedule> loadSchedule(FileSystem& files, const DataFolder& folder,
+                                             const CompanyCode& company,
+                                             const EmployeeCode& employee) {
+    const auto lines = recordOf(files, folder, company, employee).lines();
+    return lines.empty() ? std::nullopt : std::optional(decodeSchedule(lines.front()));
+}
+
+void saveSchedule(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
+                  const EmployeeCode& employee, const StandardSchedule& schedule) {
+    RecordFile record = recordOf(files, folder, company, employee);
+    std::vector<std::string> lines = record.lines();
+    if (lines.empty()) lines.emplace_back();
+    lines.front() = encode(schedule, std::move(lines.front()));
+    record.rewrite(lines);
+}
+
+}  // namespace winvrx
