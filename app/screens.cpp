@@ -133,21 +133,20 @@ std::optional<Screens::Progress> Screens::progress() const {
     try {
         const DataFolder& folder = at_.session.folder;
         Progress progress;
-        const auto people =
-            employeesOf(EmployeeRegister(at_.files, folder, *at_.session.company).load(),
-                        at_.session.shiftFilter);
+        const auto people = employeesOf(EmployeeRegister(at_.store(), *at_.session.company).load(),
+                                        at_.session.shiftFilter);
         progress.employees = static_cast<int>(people.size());
-        const auto selected = loadSelectedMonth(at_.files, folder);
-        if (selected && hasMonthSettings(at_.files, folder, selected->month)) {
+        const auto selected = loadSelectedMonth(at_.store());
+        if (selected && hasMonthSettings(at_.store(), selected->month)) {
             progress.month = selected->month;
             const auto listed = at_.files.names(folder.path());
             const std::set<std::string> names(listed.begin(), listed.end());
             for (const Employee& one : people)
-                if (names.contains(
-                        punchFileName(*at_.session.company, *one.employeeCode(), selected->month)))
+                if (names.contains(punchFileName({*at_.session.company, *one.employeeCode()},
+                                                 selected->month)))
                     ++progress.filledCards;
         }
-        if (const CardStock* stock = loadStock(at_.files, at_.session))
+        if (const CardStock* stock = loadStock(at_.store(), *at_.session.company))
             progress.stock = toQt(stock->displayName).trimmed();
         return progress;
     } catch (const std::exception& fault) {
@@ -158,7 +157,7 @@ std::optional<Screens::Progress> Screens::progress() const {
 
 QString Screens::companiesState() const {
     try {
-        const auto lines = loadCompanies(at_.files, at_.session.folder);
+        const auto lines = loadCompanies(at_.store());
         const auto known = std::count_if(lines.begin(), lines.end(),
                                          [](const CompanyLine& line) { return line.code(); });
         return counted(static_cast<int>(known), QStringLiteral("empresa"),

@@ -39,8 +39,8 @@ class Screens {
           editor_(editor),
           printing_(std::move(printing)),
           copies_(copies),
-          locks_(at.files, at.session.folder),
-          leaves_(at.files, at.session.folder) {}
+          locks_(at.store()),
+          leaves_(at.store()) {}
 
     void openCompanies(QWidget* parent);
     void openEmployees(QWidget* parent);

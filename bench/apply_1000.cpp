@@ -51,7 +51,7 @@ std::vector<EmployeeCode> everyone() {
     return codes;
 }
 
-void hire(FileSystem& files, const DataFolder& folder) {
+void hire(const Store& store) {
     std::vector<EmployeeLine> lines;
     std::vector<FileSystem::NewContent> schedules;
     StandardSchedule schedule;
@@ -65,17 +65,17 @@ void hire(FileSystem& files, const DataFolder& folder) {
         one.shift = "Unico";
         one.scale = "Normal";
         lines.push_back(lineOf(one));
-        schedules.push_back({folder.companyFile(kCompany, scheduleFileName(code)),
+        schedules.push_back({store.folder.companyFile(kCompany, scheduleFileName(code)),
                              joinedLines({encode(schedule)})});
     }
-    files.replaceAll(schedules);
-    files.replaceAll({EmployeeRegister(files, folder, kCompany).contentOf(lines)});
+    store.files.replaceAll(schedules);
+    store.files.replaceAll({EmployeeRegister(store, kCompany).contentOf(lines)});
 }
 
 /// Ours and the floor in turn, so that both meet the same disk.
-bool measure(const char* name, FileSystem& files, const DataFolder& folder, Minutes minutes) {
-    const RecordedLocks locks(files, folder);
-    const RecordedLeaves leaves(files, folder);
+bool measure(const char* name, const Store& store, Minutes minutes) {
+    const RecordedLocks locks(store);
+    const RecordedLeaves leaves(store);
     MonthSettings march;
     march.month = 2024y / 3;
     const ApplicationOrder order{
@@ -85,11 +85,11 @@ bool measure(const char* name, FileSystem& files, const DataFolder& folder, Minu
     std::vector<double> floor;
     for (int round = 0; round <= kRounds; ++round) {
         const double applied = milliseconds([&] {
-            ListApplication application(files, folder, {locks, locks, leaves}, order);
+            ListApplication application(store, {locks, locks, leaves}, order);
             batch = application.fill(everyone(), {}).value();
-            files.replaceAll(batch);
+            store.files.replaceAll(batch);
         });
-        const double written = milliseconds([&] { files.replaceAll(batch); });
+        const double written = milliseconds([&] { store.files.replaceAll(batch); });
         if (round == 0) continue;  // fills the caches
         ours.push_back(applied);
         floor.push_back(written);
@@ -104,8 +104,9 @@ int main() {
     const BenchFolder bench;
     const DataFolder folder = bench.folder();
     const auto files = systemFiles();
-    hire(*files, folder);
-    const bool fixed = measure("apply-1000", *files, folder, Minutes::Fixed);
-    const bool varied = measure("apply-1000-varied", *files, folder, Minutes::Varied);
+    const Store store{*files, folder};
+    hire(store);
+    const bool fixed = measure("apply-1000", store, Minutes::Fixed);
+    const bool varied = measure("apply-1000-varied", store, Minutes::Varied);
     return fixed && varied ? 0 : 1;
 }

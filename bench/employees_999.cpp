@@ -96,7 +96,7 @@ bool report(const char* what, double ours) {
 }
 
 bool measureReading(const Workplace& at) {
-    const EmployeeRegister list(at.files, at.session.folder, *at.session.company);
+    const EmployeeRegister list(at.store(), *at.session.company);
     const auto file = at.session.companyFile(kEmployeeListStem);
     std::size_t read = 0;
     const double floor = milliseconds([&] { read = readAndSplit(file); });
@@ -109,7 +109,7 @@ bool measureScreen(const Workplace& at) {
     NoBrowser browser;
     NoEditor editor;
     XlsxSpreadsheet spreadsheet;
-    const RecordedLocks locks(at.files, at.session.folder);
+    const RecordedLocks locks(at.store());
     Empregados screen(at, {browser, editor, spreadsheet, locks, locks});
     EmployeeImport import(at);
     const bool opened = report("open", milliseconds([&] {
@@ -146,7 +146,7 @@ int main(int argc, char** argv) {
     FileLog log(folder.filePath(QStringLiteral("log")));
     Session session{.folder = DataFolder('C', path), .company = CompanyCode::parse("01")};
     const Workplace at{*files, person, clock, log, session, lock};
-    EmployeeRegister(*files, session.folder, *session.company).save(employees(), clock.now());
+    EmployeeRegister({*files, session.folder}, *session.company).save(employees(), clock.now());
     const bool read = measureReading(at);
     const bool shown = measureScreen(at);
     return read && shown ? 0 : 1;

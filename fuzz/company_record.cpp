@@ -25,10 +25,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto file = fuzz::kFolder.file(kCompanyRegisterName);
     files.content[file] = fuzz::textOf(data, size);
     const auto before = splitLines(files.content[file]);
-    const auto lines = loadCompanies(files, fuzz::kFolder);
+    const auto lines = loadCompanies({files, fuzz::kFolder});
     for (const CompanyLine& line : lines)
         checkLine(line);
-    saveCompanies(files, fuzz::kFolder, lines);
+    saveCompanies({files, fuzz::kFolder}, lines);
     require(splitLines(files.content[file]) == before, "every line is kept");
     return 0;
 }

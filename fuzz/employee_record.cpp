@@ -25,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto file = fuzz::kFolder.companyFile(fuzz::kCompany, kEmployeeListStem);
     files.content[file] = fuzz::textOf(data, size);
     const auto before = splitLines(files.content[file]);
-    EmployeeRegister employees(files, fuzz::kFolder, fuzz::kCompany);
+    EmployeeRegister employees({files, fuzz::kFolder}, fuzz::kCompany);
     const auto lines = employees.load();
     for (const EmployeeLine& line : lines)
         checkLine(line);

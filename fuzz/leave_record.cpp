@@ -9,7 +9,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     files.content[fuzz::kFolder.companyFile(fuzz::kCompany, std::string(kLeaveStem) + "001")] =
         fuzz::textOf(data, size);
     const EmployeeLeaves leaves =
-        RecordedLeaves(files, fuzz::kFolder).leavesOf(fuzz::kCompany, fuzz::kEmployee);
+        RecordedLeaves({files, fuzz::kFolder}).leavesOf({fuzz::kCompany, fuzz::kEmployee});
     for (const LeavePeriod& one : leaves.periods) {
         require(one.first.ok() && one.last.ok(), "a leave's days are of the calendar");
         require(one.first <= one.last, "a leave does not end before it begins");

@@ -11,7 +11,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string& file = files.content[fuzz::kFolder.file(kLocalHolidaysName)];
     file = fuzz::textOf(data, size);
     const auto before = splitLines(file);
-    const auto lines = loadLocalHolidays(files, fuzz::kFolder);
+    const auto lines = loadLocalHolidays({files, fuzz::kFolder});
     for (const LocalHolidayLine& line : lines) {
         if (!line.holiday) continue;
         require(encode(*line.holiday, line.bytes) == fuzz::widened(line.bytes, kLocalHolidayWidth),
@@ -19,10 +19,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(parseHolidayDay(dayText(line.holiday->day)) == line.holiday->day,
                 "a day comes back");
     }
-    saveLocalHolidays(files, fuzz::kFolder, lines);
+    saveLocalHolidays({files, fuzz::kFolder}, lines);
     require(splitLines(file) == before, "an unchanged list keeps its lines");
     for (const WorkMonth month : {2024y / 2, 2024y / 11, 2026y / 1})
-        for (const Holiday& one : offeredHolidays(files, fuzz::kFolder, month))
+        for (const Holiday& one : offeredHolidays({files, fuzz::kFolder}, month))
             require(monthOf(one.date) == month, "an offer lies in its month");
     (void)completedHolidayDay(fuzz::textOf(data, size));
     return 0;

@@ -16,12 +16,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             require(encode(*read, line) == fuzz::widened(line, kOvertimeWidth),
                     "an unchanged line keeps its bytes");
 
-    const auto own = loadOvertime(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee, kMonth);
+    const auto own =
+        loadOvertime({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, kMonth);
     OvertimeRules rules = own.value_or(OvertimeRules());
     rules.thresholdHours = (rules.thresholdHours + 1) % (kHighestThreshold + 1);
-    saveOvertime(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee, {kMonth, rules});
-    require(loadOvertime(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee, kMonth) == rules,
-            "a month's figures come back");
+    saveOvertime({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, {kMonth, rules});
+    require(
+        loadOvertime({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, kMonth) == rules,
+        "a month's figures come back");
     const auto after = splitLines(file);
     require(after.size() == before.size() + (own ? 0 : 1), "every line is there");
     std::size_t changed = 0;

@@ -7,24 +7,24 @@ using fuzz::require;
 namespace {
 
 void tryOffsets(testing::MemoryFiles& files) {
-    const auto offsets = loadOffsets(files, fuzz::kFolder);
+    const auto offsets = loadOffsets({files, fuzz::kFolder});
     require(offsets.size() == kAlignmentEntries, "each stock has an entry");
     for (const Offsets& one : offsets)
         require(0 <= one.vertical && one.vertical <= kGreatestOffset && 0 <= one.horizontal &&
                     one.horizontal <= kGreatestOffset,
                 "an offset is within its bounds");
     const Offsets moved{.vertical = 30, .horizontal = 1500};
-    saveOffsets(files, fuzz::kFolder, 3, moved);
+    saveOffsets({files, fuzz::kFolder}, 3, moved);
     auto expected = offsets;
     expected[3] = moved;
-    require(loadOffsets(files, fuzz::kFolder) == expected, "only one entry changes");
+    require(loadOffsets({files, fuzz::kFolder}) == expected, "only one entry changes");
 }
 
 void tryScales(testing::MemoryFiles& files) {
     const PrintScaleLine line{{"HP", "05"}, {.horizontalScale = 9900, .verticalOffset = -125}};
-    require(isUsable(loadPrintScale(files, fuzz::kFolder, line.key)), "a scale is within bounds");
-    savePrintScale(files, fuzz::kFolder, line);
-    require(loadPrintScale(files, fuzz::kFolder, line.key) == line.scale, "a scale comes back");
+    require(isUsable(loadPrintScale({files, fuzz::kFolder}, line.key)), "a scale is within bounds");
+    savePrintScale({files, fuzz::kFolder}, line);
+    require(loadPrintScale({files, fuzz::kFolder}, line.key) == line.scale, "a scale comes back");
 }
 
 }  // namespace

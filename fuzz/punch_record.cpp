@@ -32,7 +32,7 @@ bool isKept(const std::string& line, const std::vector<std::string>& written) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     testing::MemoryFiles files;
-    const auto name = punchFileName(fuzz::kCompany, fuzz::kEmployee, kMonth);
+    const auto name = punchFileName({fuzz::kCompany, fuzz::kEmployee}, kMonth);
     std::string& file = files.content[fuzz::kFolder.file(name)];
     file = fuzz::textOf(data, size);
     const auto before = splitLines(file);
@@ -40,10 +40,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         checkLine(line);
 
     const auto load = [&] {
-        return loadPunches(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee, kMonth).value();
+        return loadPunches({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, kMonth)
+            .value();
     };
     const auto unread = [&] {
-        return unreadPunchLines(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee, kMonth);
+        return unreadPunchLines({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, kMonth);
     };
     const auto days = load();
     const auto unreadBefore = unread();

@@ -24,11 +24,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string& file = files.content["/data/01PadrHor001.pdx"];
     file = fuzz::textOf(data, size);
     auto lines = splitLines(file);
-    auto schedule = loadSchedule(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee);
+    auto schedule = loadSchedule({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee});
     require(schedule.has_value() != lines.empty(), "a schedule is the first line");
     if (!schedule) return 0;
 
-    saveSchedule(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee, *schedule);
+    saveSchedule({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, *schedule);
     lines.front() = unchanged(lines.front());
     require(splitLines(file) == lines, "an unchanged schedule keeps its bytes");
     schedule->opaque = fuzz::widened(std::move(schedule->opaque), kOpaqueWidth);
@@ -37,8 +37,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     TypedSchedule typed(*schedule);
     require(!typed.changed() && typed.schedule() == *schedule, "showing changes nothing");
     typed.type(1, "12:15");
-    saveSchedule(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee, typed.schedule());
-    require(loadSchedule(files, fuzz::kFolder, fuzz::kCompany, fuzz::kEmployee) == typed.schedule(),
-            "a change comes back");
+    saveSchedule({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, typed.schedule());
+    require(
+        loadSchedule({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}) == typed.schedule(),
+        "a change comes back");
     return 0;
 }

@@ -26,7 +26,7 @@ Impressorar::Impressorar(const Workplace& at, Browser& browser, Printers& printe
 void Impressorar::load() {
     (void)attempt(at_, incorrectData(), [this] {
         names_ = printers_.names();
-        chosen_ = loadPrinterName(at_.files, at_.session.folder);
+        chosen_ = loadPrinterName(at_.store());
         return true;
     });
 }
@@ -64,9 +64,9 @@ bool Impressorar::use(std::size_t position) {
 
 bool Impressorar::store(const std::string& name) {
     return attemptWriting(at_, incorrectData(), [&] {
-        if (loadPrinterName(at_.files, at_.session.folder) != chosen_)
+        if (loadPrinterName(at_.store()) != chosen_)
             throw Fault("printer changed on disk", kChangedElsewhere);
-        savePrinterName(at_.files, at_.session.folder, name);
+        savePrinterName(at_.store(), name);
         chosen_ = name;
         return true;
     });

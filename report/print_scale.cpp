@@ -98,15 +98,15 @@ std::string encode(const PrintScaleLine& line, std::string existing) {
     return bytes.bytes();
 }
 
-PrintScale loadPrintScale(FileSystem& files, const DataFolder& folder, const PrintScaleKey& key) {
+PrintScale loadPrintScale(const Store& store, const PrintScaleKey& key) {
     const PrintScaleKey wanted = storedKey(key);
-    for (const std::string& bytes : RecordFile(files, folder.file(kPrintScaleName)).lines())
+    for (const std::string& bytes : RecordFile(store, kPrintScaleName).lines())
         if (isOf(wanted, bytes)) return decodePrintScale(bytes)->scale;
     return {};
 }
 
-void savePrintScale(FileSystem& files, const DataFolder& folder, const PrintScaleLine& line) {
-    RecordFile file(files, folder.file(kPrintScaleName));
+void savePrintScale(const Store& store, const PrintScaleLine& line) {
+    RecordFile file(store, kPrintScaleName);
     const PrintScaleLine stored{storedKey(line.key), line.scale};
     std::vector<std::string> lines = file.lines();
     const auto found = std::ranges::find_if(
@@ -118,14 +118,14 @@ void savePrintScale(FileSystem& files, const DataFolder& folder, const PrintScal
     file.rewrite(lines);
 }
 
-Alignment loadAlignment(FileSystem& files, const DataFolder& folder, const PrintScaleKey& key,
+Alignment loadAlignment(const Store& store, const PrintScaleKey& key,
                         const AlignmentMemory& memory) {
     const auto entry = alignmentEntryOf(key.stock);
-    const Offsets offsets = entry ? loadOffsets(files, folder)[*entry] : Offsets();
+    const Offsets offsets = entry ? loadOffsets(store)[*entry] : Offsets();
     return {.horizontalTwips = offsets.horizontal,
             .verticalTwips = offsets.vertical,
             .lines = memory.lines,
-            .scale = loadPrintScale(files, folder, key)};
+            .scale = loadPrintScale(store, key)};
 }
 
 std::optional<AxisScale> correctionFor(const MeasuredMarks& marks) {

@@ -74,15 +74,14 @@ static_assert(kPrintScaleFields.back().column.end() == kPrintScaleWidth + 1);
 [[nodiscard]] std::string encode(const PrintScaleLine& line, std::string existing = {});
 
 /// True to measure where the file has no line for it. Throws FileFault.
-[[nodiscard]] PrintScale loadPrintScale(FileSystem& files, const DataFolder& folder,
-                                        const PrintScaleKey& key);
+[[nodiscard]] PrintScale loadPrintScale(const Store& store, const PrintScaleKey& key);
 /// Other lines stay as they are, understood or not. Throws FileFault and TextFault.
-void savePrintScale(FileSystem& files, const DataFolder& folder, const PrintScaleLine& line);
+void savePrintScale(const Store& store, const PrintScaleLine& line);
 
 /// How a print of this stock on this printer is moved: the stock's entry of the alignment list, the
 /// line offset and the printer's scale. Throws FileFault.
-[[nodiscard]] Alignment loadAlignment(FileSystem& files, const DataFolder& folder,
-                                      const PrintScaleKey& key, const AlignmentMemory& memory);
+[[nodiscard]] Alignment loadAlignment(const Store& store, const PrintScaleKey& key,
+                                      const AlignmentMemory& memory);
 
 /// Two marks of the calibration sheet in one direction: where they belong, and where they were
 /// found, measured from the same edge of the paper. Hundredths of a millimetre.

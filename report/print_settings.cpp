@@ -26,8 +26,8 @@ int offsetIn(std::string_view lineBytes, Column column) {
 }
 
 /// At least one for each entry.
-std::vector<std::string> linesOf(FileSystem& files, const DataFolder& folder) {
-    std::vector<std::string> lines = RecordFile(files, folder.file(kAlignmentName)).lines();
+std::vector<std::string> linesOf(const Store& store) {
+    std::vector<std::string> lines = RecordFile(store, kAlignmentName).lines();
     if (lines.size() < kAlignmentEntries)
         lines.resize(kAlignmentEntries, lines.empty() ? encode(Offsets()) : lines.front());
     return lines;
@@ -60,31 +60,30 @@ std::string encode(const Offsets& offsets, std::string_view existing) {
     return line.append(kBeforeHorizontal).append(std::to_string(offsets.horizontal));
 }
 
-std::vector<Offsets> loadOffsets(FileSystem& files, const DataFolder& folder) {
+std::vector<Offsets> loadOffsets(const Store& store) {
     std::vector<Offsets> entries;
-    for (const std::string& line : linesOf(files, folder))
+    for (const std::string& line : linesOf(store))
         if (entries.size() < kAlignmentEntries) entries.push_back(decodeOffsets(line));
     return entries;
 }
 
-void saveOffsets(FileSystem& files, const DataFolder& folder, std::size_t entry,
-                 const Offsets& offsets) {
-    std::vector<std::string> lines = linesOf(files, folder);
+void saveOffsets(const Store& store, std::size_t entry, const Offsets& offsets) {
+    std::vector<std::string> lines = linesOf(store);
     lines.at(entry) = encode(offsets, lines.at(entry));
-    RecordFile(files, folder.file(kAlignmentName)).rewrite(lines);
+    RecordFile(store, kAlignmentName).rewrite(lines);
 }
 
-void removeOffsets(FileSystem& files, const DataFolder& folder) {
-    (void)RecordFile(files, folder.file(kAlignmentName)).remove();
+void removeOffsets(const Store& store) {
+    (void)RecordFile(store, kAlignmentName).remove();
 }
 
-std::string loadPrinterName(FileSystem& files, const DataFolder& folder) {
-    const auto values = RecordFile(files, folder.file(kPrinterName)).values();
+std::string loadPrinterName(const Store& store) {
+    const auto values = RecordFile(store, kPrinterName).values();
     return values.empty() || values.front() == kDefaultPrinter ? std::string() : values.front();
 }
 
-void savePrinterName(FileSystem& files, const DataFolder& folder, const std::string& name) {
-    RecordFile(files, folder.file(kPrinterName))
+void savePrinterName(const Store& store, const std::string& name) {
+    RecordFile(store, kPrinterName)
         .rewriteValues({name.empty() ? std::string(kDefaultPrinter) : name});
 }
 

@@ -52,17 +52,16 @@ inline constexpr std::size_t kAlignmentEntries = kPrintOrder.size();
 
 /// The offsets of each entry; an entry that the file does not reach takes the first one's, so that
 /// a file of one line holds for all stocks. Throws FileFault.
-[[nodiscard]] std::vector<Offsets> loadOffsets(FileSystem& files, const DataFolder& folder);
+[[nodiscard]] std::vector<Offsets> loadOffsets(const Store& store);
 /// Writes every entry; the others, and lines past the last entry, stay as they are. Throws
 /// FileFault.
-void saveOffsets(FileSystem& files, const DataFolder& folder, std::size_t entry,
-                 const Offsets& offsets);
+void saveOffsets(const Store& store, std::size_t entry, const Offsets& offsets);
 /// Every entry is the default afterwards. Throws FileFault.
-void removeOffsets(FileSystem& files, const DataFolder& folder);
+void removeOffsets(const Store& store);
 
 /// The chosen printer; empty stands for the system's default printer. Throws FileFault.
-[[nodiscard]] std::string loadPrinterName(FileSystem& files, const DataFolder& folder);
+[[nodiscard]] std::string loadPrinterName(const Store& store);
 /// Throws FileFault, and TextFault for a name that cannot be stored.
-void savePrinterName(FileSystem& files, const DataFolder& folder, const std::string& name);
+void savePrinterName(const Store& store, const std::string& name);
 
 }  // namespace winvrx

@@ -33,8 +33,8 @@ class CheckedNames {
     std::set<std::string> names_;
 };
 
-std::vector<std::string> copiedFiles(const FileSystem& files, const DataFolder& folder) {
-    std::vector<std::string> names = files.names(folder.path());
+std::vector<std::string> copiedFiles(const Store& store) {
+    std::vector<std::string> names = store.files.names(store.folder.path());
     std::erase_if(names, [](const std::string& name) { return !isCopiedFile(name); });
     std::sort(names.begin(), names.end());
     return names;
@@ -105,7 +105,7 @@ std::string SafetyCopies::archiveOf(const DataFolder& folder, const CopyName& co
 }
 
 SafetyCopies::Packed SafetyCopies::packed(const DataFolder& folder, Unreadable unreadable) const {
-    const std::vector<std::string> names = copiedFiles(files_, folder);
+    const std::vector<std::string> names = copiedFiles({files_, folder});
     Packed packed;
     const auto readable = [&](const std::string& name) -> std::optional<std::string> {
         try {
@@ -144,7 +144,7 @@ SafetyCopies::Difference SafetyCopies::difference(const DataFolder& folder,
         difference.contents.push_back({file, std::move(entry.bytes)});
     });
     inCopy.refuseNone();
-    for (const std::string& name : copiedFiles(files_, folder))
+    for (const std::string& name : copiedFiles({files_, folder}))
         if (!inCopy.contains(name))
             difference.changes.push_back({name, FileChange::Kind::OnlyHere});
     std::sort(

@@ -22,6 +22,9 @@ struct Workplace {
     Log& log;
     Session& session;
     FolderLock& lock;
+
+    /// The records of the folder in use.
+    [[nodiscard]] Store store() const { return {files, session.folder}; }
 };
 
 /// "Dados incorretos!" titled "Erro", the answer of most commands to a failure.

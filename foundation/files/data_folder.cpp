@@ -64,10 +64,9 @@ std::size_t employeeCodeStart(std::string_view name) {
     return 3 + stemOf(name).value_or(std::string_view()).size();
 }
 
-void removeWhere(FileSystem& files, const DataFolder& folder,
-                 const std::function<bool(std::string_view)>& chosen) {
-    for (const std::string& name : files.names(folder.path()))
-        if (chosen(name)) files.remove(folder.path() / name);
+void removeWhere(const Store& store, const std::function<bool(std::string_view)>& chosen) {
+    for (const std::string& name : store.files.names(store.folder.path()))
+        if (chosen(name)) store.files.remove(store.folder.path() / name);
 }
 
 }  // namespace
@@ -99,44 +98,36 @@ bool isRecordOfCompany(std::string_view name, const CompanyCode& company) {
            isPunchOrPayrollFile(name) || isMonthFile(name) || name.substr(2) == kEmployeeListStem;
 }
 
-bool isRecordOfEmployee(std::string_view name, const CompanyCode& company,
-                        const EmployeeCode& employee) {
-    if (!isRecordOfCompany(name, company) || name.substr(2) == kEmployeeListStem) return false;
+bool isRecordOfEmployee(std::string_view name, const EmployeeKey& key) {
+    if (!isRecordOfCompany(name, key.company) || name.substr(2) == kEmployeeListStem) return false;
     const bool hasEmployee =
         stemOf(name) || isPunchOrPayrollFile(name) || name.size() >= kEmployeeMonthFileLength;
-    return hasEmployee && standsAt(name, employeeCodeStart(name), employee.text());
+    return hasEmployee && standsAt(name, employeeCodeStart(name), key.employee.text());
 }
 
-bool isPayrollOfEmployee(std::string_view name, const CompanyCode& company,
-                         const EmployeeCode& employee) {
-    return isPayrollFile(name) && isRecordOfEmployee(name, company, employee);
+bool isPayrollOfEmployee(std::string_view name, const EmployeeKey& key) {
+    return isPayrollFile(name) && isRecordOfEmployee(name, key);
 }
 
-bool isPunchRecordOfEmployee(std::string_view name, const CompanyCode& company,
-                             const EmployeeCode& employee) {
+bool isPunchRecordOfEmployee(std::string_view name, const EmployeeKey& key) {
     return standsAt(name, kPunchSuffixStart, ".bdx") && !isPayrollFile(name) &&
-           isRecordOfEmployee(name, company, employee);
+           isRecordOfEmployee(name, key);
 }
 
-std::string renamedForEmployee(std::string_view name, const CompanyCode& company,
-                               const EmployeeCode& employee) {
+std::string renamedForEmployee(std::string_view name, const EmployeeKey& key) {
     const std::size_t start = employeeCodeStart(name);
     std::string renamed(name);
-    renamed.replace(start - 1, employee.text().size(), employee.text());
-    renamed.replace(0, company.text().size(), company.text());
+    renamed.replace(start - 1, key.employee.text().size(), key.employee.text());
+    renamed.replace(0, key.company.text().size(), key.company.text());
     return renamed;
 }
 
-void removeRecordsOfCompany(FileSystem& files, const DataFolder& folder,
-                            const CompanyCode& company) {
-    removeWhere(files, folder,
-                [&](std::string_view name) { return isRecordOfCompany(name, company); });
+void removeRecordsOfCompany(const Store& store, const CompanyCode& company) {
+    removeWhere(store, [&](std::string_view name) { return isRecordOfCompany(name, company); });
 }
 
-void removeRecordsOfEmployee(FileSystem& files, const DataFolder& folder,
-                             const CompanyCode& company, const EmployeeCode& employee) {
-    removeWhere(files, folder,
-                [&](std::string_view name) { return isRecordOfEmployee(name, company, employee); });
+void removeRecordsOfEmployee(const Store& store, const EmployeeKey& key) {
+    removeWhere(store, [&](std::string_view name) { return isRecordOfEmployee(name, key); });
 }
 
 }  // namespace winvrx

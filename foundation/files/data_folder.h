@@ -74,6 +74,12 @@ class DataFolder {
     std::filesystem::path path_;
 };
 
+/// Where records are reached: the file system and the folder in use. Both outlive the store.
+struct Store {
+    FileSystem& files;
+    const DataFolder& folder;
+};
+
 /// Stems of the files that belong to a company or to one of its employees.
 inline constexpr std::string_view kScheduleStem = "PadrHor";
 inline constexpr std::string_view kOvertimeStem = "MedHorExtr";
@@ -98,25 +104,19 @@ inline constexpr std::string_view kReportDatabaseName = "qdb.mdb";
 [[nodiscard]] bool isRecordOfCompany(std::string_view name, const CompanyCode& company);
 
 /// The same for one employee: the employee code stands behind the stem, or in characters 3-5.
-[[nodiscard]] bool isRecordOfEmployee(std::string_view name, const CompanyCode& company,
-                                      const EmployeeCode& employee);
+[[nodiscard]] bool isRecordOfEmployee(std::string_view name, const EmployeeKey& key);
 
-[[nodiscard]] bool isPayrollOfEmployee(std::string_view name, const CompanyCode& company,
-                                       const EmployeeCode& employee);
+[[nodiscard]] bool isPayrollOfEmployee(std::string_view name, const EmployeeKey& key);
 
 /// True for the employee's punch records: ".bdx" in characters 14-17 behind both codes.
-[[nodiscard]] bool isPunchRecordOfEmployee(std::string_view name, const CompanyCode& company,
-                                           const EmployeeCode& employee);
+[[nodiscard]] bool isPunchRecordOfEmployee(std::string_view name, const EmployeeKey& key);
 
 /// The name that an employee's file takes when the employee moves to `company` under `employee`.
 /// `name` must be a record of one employee.
-[[nodiscard]] std::string renamedForEmployee(std::string_view name, const CompanyCode& company,
-                                             const EmployeeCode& employee);
+[[nodiscard]] std::string renamedForEmployee(std::string_view name, const EmployeeKey& key);
 
 /// Deletes the files of a company. Can be run again after a failure.
-void removeRecordsOfCompany(FileSystem& files, const DataFolder& folder,
-                            const CompanyCode& company);
-void removeRecordsOfEmployee(FileSystem& files, const DataFolder& folder,
-                             const CompanyCode& company, const EmployeeCode& employee);
+void removeRecordsOfCompany(const Store& store, const CompanyCode& company);
+void removeRecordsOfEmployee(const Store& store, const EmployeeKey& key);
 
 }  // namespace winvrx

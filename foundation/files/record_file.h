@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/files/data_folder.h"
 #include "foundation/files/file_system.h"
 
 #include <cstddef>
@@ -69,6 +70,12 @@ class RecordFile {
   public:
     RecordFile(FileSystem& files, std::filesystem::path path)
         : files_(files), path_(std::move(path)) {}
+    /// The file `name` of the folder in use.
+    RecordFile(const Store& store, std::string_view name)
+        : RecordFile(store.files, store.folder.file(name)) {}
+    /// The file `name` of a company.
+    RecordFile(const Store& store, const CompanyCode& company, std::string_view name)
+        : RecordFile(store.files, store.folder.companyFile(company, name)) {}
 
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
     [[nodiscard]] bool exists() const { return files_.exists(path_); }

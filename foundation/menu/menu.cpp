@@ -190,7 +190,7 @@ bool Menu::mayOpen(MenuCommand command) {
     }
     if (!needsEmployees(command)) return true;
     return attempt(at_, kFailure, [this] {
-        const EmployeeRegister employees(at_.files, at_.session.folder, *at_.session.company);
+        const EmployeeRegister employees(at_.store(), *at_.session.company);
         if (employees.hasEmployees()) return true;
         at_.person.tell(kNoEmployee);
         return false;
@@ -227,7 +227,7 @@ void Menu::importList(const std::filesystem::path& earlier, const CompanyCode& c
         Employee employee = decodeEmployee(bytes);
         lines.push_back({std::move(bytes), std::move(employee)});
     }
-    EmployeeRegister list(at_.files, at_.session.folder, company);
+    EmployeeRegister list(at_.store(), company);
     // An import that was cut short has written the list already, and the copy of the list that it
     // replaced must stay.
     const bool imported =

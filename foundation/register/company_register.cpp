@@ -6,15 +6,15 @@ namespace winvrx {
 
 namespace {
 
-RecordFile registerFile(FileSystem& files, const DataFolder& folder) {
-    return {files, folder.file(kCompanyRegisterName)};
+RecordFile registerFile(const Store& store) {
+    return {store, kCompanyRegisterName};
 }
 
 }  // namespace
 
-std::vector<CompanyLine> loadCompanies(FileSystem& files, const DataFolder& folder) {
+std::vector<CompanyLine> loadCompanies(const Store& store) {
     std::vector<CompanyLine> lines;
-    for (std::string& bytes : registerFile(files, folder).lines()) {
+    for (std::string& bytes : registerFile(store).lines()) {
         Company company = decodeCompany(bytes);
         lines.push_back({std::move(bytes), std::move(company)});
     }
@@ -27,18 +27,23 @@ std::vector<CompanyLine> loadOrCreateCompanies(const Workplace& at) {
     if (missing()) {
         const auto hold = holdFolder(at);
         const std::string sample = encode(sampleCompany(at.clock.today()));
-        if (missing()) registerFile(at.files, folder).rewrite({sample});
+        if (missing()) registerFile(at.store()).rewrite({sample});
     }
-    return loadCompanies(at.files, folder);
+    return loadCompanies(at.store());
 }
 
-void saveCompanies(FileSystem& files, const DataFolder& folder,
-                   const std::vector<CompanyLine>& lines) {
+std::optional<Company> findCompany(const Store& store, const CompanyCode& code) {
+    for (CompanyLine& line : loadCompanies(store))
+        if (line.code() == code) return std::move(line.company);
+    return std::nullopt;
+}
+
+void saveCompanies(const Store& store, const std::vector<CompanyLine>& lines) {
     std::vector<std::string> bytes;
     bytes.reserve(lines.size());
     for (const CompanyLine& line : lines)
         bytes.push_back(line.bytes);
-    registerFile(files, folder).rewrite(bytes);
+    registerFile(store).rewrite(bytes);
 }
 
 std::string titleOf(const std::vector<CompanyLine>& companies,

@@ -23,14 +23,16 @@ struct CompanyLine {
 };
 
 /// The lines of the register in file order; empty when there is no file.
-[[nodiscard]] std::vector<CompanyLine> loadCompanies(FileSystem& files, const DataFolder& folder);
+[[nodiscard]] std::vector<CompanyLine> loadCompanies(const Store& store);
 
 /// The same, but a missing register is first created with the sample company. A register that
 /// cannot be read is not missing: FileFault, and it stays as it is.
 [[nodiscard]] std::vector<CompanyLine> loadOrCreateCompanies(const Workplace& at);
 
-void saveCompanies(FileSystem& files, const DataFolder& folder,
-                   const std::vector<CompanyLine>& lines);
+/// The company of that code; nullopt when no line has it.
+[[nodiscard]] std::optional<Company> findCompany(const Store& store, const CompanyCode& code);
+
+void saveCompanies(const Store& store, const std::vector<CompanyLine>& lines);
 
 /// "01 EMPRESA MODELO LTDA"; empty when no line has the code.
 [[nodiscard]] std::string titleOf(const std::vector<CompanyLine>& companies,

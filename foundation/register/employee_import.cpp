@@ -40,7 +40,7 @@ bool EmployeeImport::open(const std::filesystem::path& csv) {
         const auto bytes = at_.files.read(csv);
         if (!bytes) throw Fault("no file " + csv.string(), "O arquivo não foi encontrado.");
         const CsvRows table = parseCsv(*bytes);
-        before_ = EmployeeRegister(at_.files, at_.session.folder, *at_.session.company).load();
+        before_ = EmployeeRegister(at_.store(), *at_.session.company).load();
         judge(table);
         return true;
     });
@@ -83,7 +83,7 @@ std::size_t EmployeeImport::goodRows() const {
 bool EmployeeImport::include() {
     if (goodRows() == 0 || !at_.person.agrees(confirmation(goodRows()))) return false;
     return attemptWriting(at_, incorrectData(), [&] {
-        EmployeeRegister list(at_.files, at_.session.folder, at_.session.company.value());
+        EmployeeRegister list(at_.store(), at_.session.company.value());
         auto lines = list.load();
         if (!isSame(lines, before_)) throw changedElsewhere();
         for (const ImportedRow& row : rows_)

@@ -14,30 +14,31 @@ constexpr int kPayrollDigits = 5;
 
 }  // namespace
 
-bool RecordedLocks::isMember(const CompanyCode& company, const EmployeeCode& employee) const {
-    const std::string beginning = company.text() + std::string(kGroupStem);
-    for (const std::string& name : files_.names(folder_.path())) {
+bool RecordedLocks::isMember(const EmployeeKey& key) const {
+    const std::string beginning = key.company.text() + std::string(kGroupStem);
+    for (const std::string& name : store_.files.names(store_.folder.path())) {
         if (!name.starts_with(beginning)) continue;
-        const auto lines = splitLines(files_.read(folder_.file(name)).value_or(std::string()));
-        if (std::any_of(lines.begin(), lines.end(),
-                        [&](const std::string& line) { return line.starts_with(employee.text()); }))
+        const auto lines =
+            splitLines(store_.files.read(store_.folder.file(name)).value_or(std::string()));
+        if (std::any_of(lines.begin(), lines.end(), [&](const std::string& line) {
+                return line.starts_with(key.employee.text());
+            }))
             return true;
     }
     return false;
 }
 
-bool RecordedLocks::hasClosedMonth(const CompanyCode& company, const EmployeeCode& employee) const {
-    const auto names = files_.names(folder_.path());
-    return std::any_of(names.begin(), names.end(), [&](const std::string& name) {
-        return isPayrollOfEmployee(name, company, employee);
-    });
+bool RecordedLocks::hasClosedMonth(const EmployeeKey& key) const {
+    const auto names = store_.files.names(store_.folder.path());
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::string& name) { return isPayrollOfEmployee(name, key); });
 }
 
-bool RecordedLocks::isClosed(const CompanyCode& company, const EmployeeCode& employee,
-                             WorkMonth month) const {
-    const std::string name = std::string(kPayrollStem) + padded(employee.number(), kPayrollDigits) +
-                             monthKey(month) + ".bdx";
-    return files_.exists(folder_.companyFile(company, name));
+bool RecordedLocks::isClosed(const EmployeeKey& key, WorkMonth month) const {
+    const std::string name = std::string(kPayrollStem) +
+                             padded(key.employee.number(), kPayrollDigits) + monthKey(month) +
+                             ".bdx";
+    return store_.files.exists(store_.folder.companyFile(key.company, name));
 }
 
 }  // namespace winvrx

@@ -14,8 +14,7 @@ class RotationMembership {
   public:
     virtual ~RotationMembership() = default;
     /// Whether the employee stands in one of the company's rotation groups.
-    [[nodiscard]] virtual bool isMember(const CompanyCode& company,
-                                        const EmployeeCode& employee) const = 0;
+    [[nodiscard]] virtual bool isMember(const EmployeeKey& key) const = 0;
 };
 
 /// Asked of the payroll.
@@ -23,11 +22,9 @@ class PayrollLock {
   public:
     virtual ~PayrollLock() = default;
     /// Whether a payroll of the employee has been generated.
-    [[nodiscard]] virtual bool hasClosedMonth(const CompanyCode& company,
-                                              const EmployeeCode& employee) const = 0;
+    [[nodiscard]] virtual bool hasClosedMonth(const EmployeeKey& key) const = 0;
     /// Whether the payroll of the employee and month has been generated: the month is closed.
-    [[nodiscard]] virtual bool isClosed(const CompanyCode& company, const EmployeeCode& employee,
-                                        WorkMonth month) const = 0;
+    [[nodiscard]] virtual bool isClosed(const EmployeeKey& key, WorkMonth month) const = 0;
 };
 
 /// Answers both from the files that the subjects leave in the data folder: a payroll file named
@@ -36,19 +33,14 @@ class PayrollLock {
 class RecordedLocks final : public RotationMembership, public PayrollLock {
   public:
     /// Both outlive this object; `folder` is the one in use when a question is asked.
-    RecordedLocks(const FileSystem& files, const DataFolder& folder)
-        : files_(files), folder_(folder) {}
+    RecordedLocks(const Store& store) : store_(store) {}
 
-    [[nodiscard]] bool isMember(const CompanyCode& company,
-                                const EmployeeCode& employee) const override;
-    [[nodiscard]] bool hasClosedMonth(const CompanyCode& company,
-                                      const EmployeeCode& employee) const override;
-    [[nodiscard]] bool isClosed(const CompanyCode& company, const EmployeeCode& employee,
-                                WorkMonth month) const override;
+    [[nodiscard]] bool isMember(const EmployeeKey& key) const override;
+    [[nodiscard]] bool hasClosedMonth(const EmployeeKey& key) const override;
+    [[nodiscard]] bool isClosed(const EmployeeKey& key, WorkMonth month) const override;
 
   private:
-    const FileSystem& files_;
-    const DataFolder& folder_;
+    Store store_;
 };
 
 }  // namespace winvrx

@@ -23,12 +23,12 @@ EmployeeLine lineOf(const Employee& employee, std::string existing) {
     return {std::move(bytes), std::move(stored)};
 }
 
-EmployeeRegister::EmployeeRegister(FileSystem& files, const DataFolder& folder, CompanyCode company)
-    : files_(files), folder_(folder), company_(std::move(company)) {}
+EmployeeRegister::EmployeeRegister(const Store& store, CompanyCode company)
+    : store_(store), company_(std::move(company)) {}
 
 std::vector<EmployeeLine> EmployeeRegister::load() const {
     std::vector<EmployeeLine> lines;
-    const RecordFile file(files_, folder_.companyFile(company_, kEmployeeListStem));
+    const RecordFile file(store_, company_, kEmployeeListStem);
     std::vector<std::string> stored = file.lines();
     lines.reserve(stored.size());
     for (std::string& bytes : stored) {
@@ -40,12 +40,13 @@ std::vector<EmployeeLine> EmployeeRegister::load() const {
 
 void EmployeeRegister::save(const std::vector<EmployeeLine>& lines, Clock::Moment now) {
     keepCopy(now);
-    files_.replaceAll({contentOf(lines)});
+    store_.files.replaceAll({contentOf(lines)});
 }
 
 void EmployeeRegister::keepCopy(Clock::Moment now) {
-    if (const auto before = files_.read(folder_.companyFile(company_, kEmployeeListStem)))
-        files_.replace(folder_.file(backupName(company_, now)), *before);
+    if (const auto before =
+            store_.files.read(store_.folder.companyFile(company_, kEmployeeListStem)))
+        store_.files.replace(store_.folder.file(backupName(company_, now)), *before);
 }
 
 FileSystem::NewContent EmployeeRegister::contentOf(const std::vector<EmployeeLine>& lines) const {
@@ -53,7 +54,7 @@ FileSystem::NewContent EmployeeRegister::contentOf(const std::vector<EmployeeLin
     bytes.reserve(lines.size());
     for (const EmployeeLine& line : lines)
         bytes.push_back(line.bytes);
-    return {folder_.companyFile(company_, kEmployeeListStem), joinedLines(bytes)};
+    return {store_.folder.companyFile(company_, kEmployeeListStem), joinedLines(bytes)};
 }
 
 std::optional<EmployeeCode> EmployeeRegister::lowestFreeCode(

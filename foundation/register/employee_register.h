@@ -25,7 +25,7 @@ struct EmployeeLine {
 /// The employee list of one company: the file named by the company code and "CartaPonto".
 class EmployeeRegister {
   public:
-    EmployeeRegister(FileSystem& files, const DataFolder& folder, CompanyCode company);
+    EmployeeRegister(const Store& store, CompanyCode company);
 
     /// In file order; empty when there is no file. Throws FileFault.
     [[nodiscard]] std::vector<EmployeeLine> load() const;
@@ -46,8 +46,7 @@ class EmployeeRegister {
         const std::vector<EmployeeLine>& lines);
 
   private:
-    FileSystem& files_;
-    DataFolder folder_;
+    Store store_;
     CompanyCode company_;
 };
 

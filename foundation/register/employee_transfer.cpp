@@ -41,23 +41,22 @@ const EmployeeLine* arrivedLine(const std::vector<EmployeeLine>& there,
     return found == there.end() ? nullptr : &*found;
 }
 
-bool hasPunchRecords(const FileSystem& files, const DataFolder& folder, const CompanyCode& company,
-                     const EmployeeCode& employee) {
-    const auto names = files.names(folder.path());
-    return std::any_of(names.begin(), names.end(), [&](const std::string& name) {
-        return isPunchRecordOfEmployee(name, company, employee);
-    });
+bool hasPunchRecords(const Store& store, const EmployeeKey& key) {
+    const auto names = store.files.names(store.folder.path());
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::string& name) { return isPunchRecordOfEmployee(name, key); });
 }
 
 bool EmployeeTransfer::isFreeThere(const EmployeeCode& code, const EmployeeCode& oldCode,
                                    const std::vector<EmployeeLine>& there) const {
     if (bears(there, code)) return false;
     const auto brought = filesThere(oldCode, code, false);
-    const auto names = files_.names(folder_.path());
+    const auto names = store_.files.names(store_.folder.path());
     return std::none_of(names.begin(), names.end(), [&](const std::string& name) {
-        if (!isRecordOfEmployee(name, to_, code)) return false;
+        if (!isRecordOfEmployee(name, {to_, code})) return false;
         const auto same = std::find_if(brought.begin(), brought.end(), [&](const auto& content) {
-            return content.file == folder_.file(name) && content.bytes == files_.read(content.file);
+            return content.file == store_.folder.file(name) &&
+                   content.bytes == store_.files.read(content.file);
         });
         return same == brought.end();
     });
@@ -81,12 +80,12 @@ std::vector<FileSystem::NewContent> EmployeeTransfer::filesThere(const EmployeeC
                                                                  const EmployeeCode& newCode,
                                                                  bool resumed) const {
     std::vector<FileSystem::NewContent> content;
-    for (const std::string& name : files_.names(folder_.path())) {
-        if (!isRecordOfEmployee(name, from_, oldCode)) continue;
-        auto bytes = files_.read(folder_.file(name));
+    for (const std::string& name : store_.files.names(store_.folder.path())) {
+        if (!isRecordOfEmployee(name, {from_, oldCode})) continue;
+        auto bytes = store_.files.read(store_.folder.file(name));
         if (!bytes) continue;
-        const auto file = folder_.file(renamedForEmployee(name, to_, newCode));
-        if (resumed && files_.read(file).value_or(*bytes) != *bytes)
+        const auto file = store_.folder.file(renamedForEmployee(name, {to_, newCode}));
+        if (resumed && store_.files.read(file).value_or(*bytes) != *bytes)
             throw Fault("transfer would overwrite " + file.string(),
                         "Na outra empresa este funcionário já tem outros dados gravados.");
         content.push_back({file, std::move(*bytes)});
@@ -96,8 +95,8 @@ std::vector<FileSystem::NewContent> EmployeeTransfer::filesThere(const EmployeeC
 
 void EmployeeTransfer::move(std::vector<EmployeeLine>& lines, std::size_t position,
                             Clock::Moment now) {
-    EmployeeRegister listHere(files_, folder_, from_);
-    EmployeeRegister listThere(files_, folder_, to_);
+    EmployeeRegister listHere(store_, from_);
+    EmployeeRegister listThere(store_, to_);
     auto there = listThere.load();
     const EmployeeLine leaving = lines.at(position);
     const EmployeeLine* arrived = arrivedLine(there, leaving);
@@ -113,9 +112,9 @@ void EmployeeTransfer::move(std::vector<EmployeeLine>& lines, std::size_t positi
         listThere.keepCopy(now);
         written.push_back(listThere.contentOf(there));
     }
-    files_.replaceAll(written);
+    store_.files.replaceAll(written);
     lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(position));
-    if (!bears(lines, oldCode)) removeRecordsOfEmployee(files_, folder_, from_, oldCode);
+    if (!bears(lines, oldCode)) removeRecordsOfEmployee(store_, {from_, oldCode});
     listHere.save(lines, now);
 }
 

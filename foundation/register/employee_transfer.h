@@ -16,8 +16,7 @@ namespace winvrx {
                                               const EmployeeLine& leaving);
 
 /// Whether the employee has a punch record of any month.
-[[nodiscard]] bool hasPunchRecords(const FileSystem& files, const DataFolder& folder,
-                                   const CompanyCode& company, const EmployeeCode& employee);
+[[nodiscard]] bool hasPunchRecords(const Store& store, const EmployeeKey& key);
 
 /// Moves an employee with every file to the end of another company's list.
 ///
@@ -27,8 +26,8 @@ namespace winvrx {
 /// lost, and the move can be made again.
 class EmployeeTransfer {
   public:
-    EmployeeTransfer(FileSystem& files, const DataFolder& folder, CompanyCode from, CompanyCode to)
-        : files_(files), folder_(folder), from_(std::move(from)), to_(std::move(to)) {}
+    EmployeeTransfer(const Store& store, CompanyCode from, CompanyCode to)
+        : store_(store), from_(std::move(from)), to_(std::move(to)) {}
 
     /// Moves the line at `position`, which must have a code; `lines` is the list that it leaves and
     /// loses it. Throws Fault when the other company has no free code.
@@ -46,8 +45,7 @@ class EmployeeTransfer {
                                                                  const EmployeeCode& newCode,
                                                                  bool resumed) const;
 
-    FileSystem& files_;
-    DataFolder folder_;
+    Store store_;
     CompanyCode from_;
     CompanyCode to_;
 };

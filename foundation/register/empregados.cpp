@@ -87,7 +87,7 @@ void Empregados::load() {
 }
 
 void Empregados::read() {
-    auto companies = loadCompanies(at_.files, at_.session.folder);
+    auto companies = loadCompanies(at_.store());
     companyTitle_ = titleOf(companies, at_.session.company);
     std::erase_if(companies, [this](const CompanyLine& line) {
         return !line.code() || line.code() == at_.session.company;
@@ -96,8 +96,7 @@ void Empregados::read() {
     lines_ = at_.session.company ? employeeRegister().load() : std::vector<EmployeeLine>();
     // A leave file that cannot be read is told; the list can be worked with all the same.
     inactive_.clear();
-    if (at_.session.company)
-        inactive_ = inactiveEmployees(at_.files, at_.session.folder, *at_.session.company);
+    if (at_.session.company) inactive_ = inactiveEmployees(at_.store(), *at_.session.company);
 }
 
 std::optional<Date> Empregados::inactiveSince(const EmployeeLine& line) const {
@@ -148,28 +147,27 @@ bool Empregados::change(std::size_t position, Employee typed) {
 }
 
 bool Empregados::isRotationMember(const EmployeeLine& line) const {
-    return line.code() && around_.rotation.isMember(at_.session.company.value(), *line.code());
+    return line.code() && around_.rotation.isMember({at_.session.company.value(), *line.code()});
 }
 
 bool Empregados::agreesDespitePayroll(const EmployeeLine& line) const {
-    if (!around_.payroll.hasClosedMonth(at_.session.company.value(), line.code().value()))
+    if (!around_.payroll.hasClosedMonth({at_.session.company.value(), line.code().value()}))
         return true;
     at_.person.tell(kPayrollClosed);
     return at_.person.agrees(kConfirmDespitePayroll);
 }
 
 bool Empregados::mayTransfer(const EmployeeLine& leaving, const CompanyCode& target) const {
-    const DataFolder& folder = at_.session.folder;
     const CompanyCode company = at_.session.company.value();
     const auto refuses = [this](const Message& message) {
         at_.person.tell(message);
         return false;
     };
     if (isRotationMember(leaving)) return refuses(kRotationMember);
-    const auto there = EmployeeRegister(at_.files, folder, target).load();
+    const auto there = EmployeeRegister(at_.store(), target).load();
     if (!arrivedLine(there, leaving) && isRegistered(there, leaving.employee))
         return refuses(kRegisteredThere);
-    if (hasPunchRecords(at_.files, folder, company, leaving.code().value()))
+    if (hasPunchRecords(at_.store(), {company, leaving.code().value()}))
         return refuses(kHasPunches);
     return true;
 }
@@ -182,7 +180,7 @@ bool Empregados::transfer(std::size_t position, const CompanyCode& target) {
         if (!mayTransfer(leaving, target) || !agreesDespitePayroll(leaving)) return false;
         const auto hold = holdFolder(at_);
         auto lines = loadUnchanged(position);
-        EmployeeTransfer(at_.files, at_.session.folder, *at_.session.company, target)
+        EmployeeTransfer(at_.store(), *at_.session.company, target)
             .move(lines, position, at_.clock.now());
         lines_ = std::move(lines);
         return true;
@@ -241,7 +239,7 @@ void Empregados::help() {
 }
 
 EmployeeRegister Empregados::employeeRegister() const {
-    return {at_.files, at_.session.folder, at_.session.company.value()};
+    return {at_.store(), at_.session.company.value()};
 }
 
 std::vector<EmployeeLine> Empregados::loadUnchanged(std::size_t position) const {
@@ -279,7 +277,7 @@ void Empregados::removeFilesOf(const EmployeeLine& gone,
                                const std::vector<EmployeeLine>& remaining) const {
     const auto code = gone.code();
     if (code && !bears(remaining, code))
-        removeRecordsOfEmployee(at_.files, at_.session.folder, at_.session.company.value(), *code);
+        removeRecordsOfEmployee(at_.store(), {at_.session.company.value(), *code});
 }
 
 void Empregados::save(std::vector<EmployeeLine> lines) {

@@ -54,7 +54,7 @@ void Empresa::load() {
 bool Empresa::include(Company typed) {
     if (!at_.person.agrees(kConfirmInclude)) return false;
     return attemptWriting(at_, incorrectData(), [&] {
-        auto lines = loadCompanies(at_.files, at_.session.folder);
+        auto lines = loadCompanies(at_.store());
         // An empty folder in the place of the one shown, as an unmounted drive leaves it.
         if (lines.empty() && !lines_.empty()) throw Fault("company list gone", kChangedElsewhere);
         const auto code = lowestFreeCode(lines);
@@ -69,7 +69,7 @@ bool Empresa::include(Company typed) {
 bool Empresa::change(std::size_t position, Company typed) {
     if (!at_.person.agrees(kConfirmChange)) return false;
     return attemptWriting(at_, incorrectData(), [&] {
-        auto lines = loadCompanies(at_.files, at_.session.folder);
+        auto lines = loadCompanies(at_.store());
         if (position >= lines.size() || lines[position].bytes != lines_.at(position).bytes)
             throw Fault("company list changed on disk", kChangedElsewhere);
         const auto code = lines[position].code();
@@ -83,8 +83,7 @@ bool Empresa::change(std::size_t position, Company typed) {
 }
 
 bool Empresa::hasEmployees(const CompanyLine& line) const {
-    return line.code() &&
-           EmployeeRegister(at_.files, at_.session.folder, *line.code()).hasEmployees();
+    return line.code() && EmployeeRegister(at_.store(), *line.code()).hasEmployees();
 }
 
 bool Empresa::confirmsDeletion(bool hasEmployees, DeleteOption option) {
@@ -105,7 +104,7 @@ bool Empresa::remove(std::size_t position, DeleteOption option) {
         const bool hadEmployees = hasEmployees(chosen);
         if (!confirmsDeletion(hadEmployees, option)) return false;
         const auto hold = holdFolder(at_);
-        auto lines = loadCompanies(at_.files, at_.session.folder);
+        auto lines = loadCompanies(at_.store());
         if (position >= lines.size() || lines[position].bytes != chosen.bytes ||
             hasEmployees(chosen) != hadEmployees)
             throw Fault("company list changed on disk", kChangedElsewhere);
@@ -125,7 +124,7 @@ void Empresa::removeFilesOf(const CompanyLine& gone, const std::vector<CompanyLi
         std::any_of(remaining.begin(), remaining.end(),
                     [&](const CompanyLine& line) { return line.code() == code; });
     if (!code || stillUsed) return;
-    removeRecordsOfCompany(at_.files, at_.session.folder, *code);
+    removeRecordsOfCompany(at_.store(), *code);
     if (at_.session.company == code) at_.session.company.reset();
 }
 
@@ -138,7 +137,7 @@ void Empresa::help() {
 }
 
 void Empresa::save(std::vector<CompanyLine> lines) {
-    saveCompanies(at_.files, at_.session.folder, lines);
+    saveCompanies(at_.store(), lines);
     lines_ = std::move(lines);
 }
 

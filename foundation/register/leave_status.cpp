@@ -18,15 +18,15 @@ std::optional<Date> inactiveSince(std::string_view leaveFileBytes) {
     return since;
 }
 
-std::map<EmployeeCode, Date> inactiveEmployees(const FileSystem& files, const DataFolder& folder,
-                                               const CompanyCode& company) {
+std::map<EmployeeCode, Date> inactiveEmployees(const Store& store, const CompanyCode& company) {
     const std::string beginning = company.text() + std::string(kLeaveStem);
     std::map<EmployeeCode, Date> inactive;
-    for (const std::string& name : files.names(folder.path())) {
+    for (const std::string& name : store.files.names(store.folder.path())) {
         if (!name.starts_with(beginning)) continue;
         const auto code = EmployeeCode::parse(std::string_view(name).substr(beginning.size()));
         if (!code) continue;
-        const auto since = inactiveSince(files.read(folder.file(name)).value_or(std::string()));
+        const auto since =
+            inactiveSince(store.files.read(store.folder.file(name)).value_or(std::string()));
         if (since) inactive.emplace(*code, *since);
     }
     return inactive;

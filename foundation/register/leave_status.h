@@ -17,8 +17,7 @@ namespace winvrx {
 [[nodiscard]] std::optional<Date> inactiveSince(std::string_view leaveFileBytes);
 
 /// The inactive employees of a company and since when. Throws FileFault.
-[[nodiscard]] std::map<EmployeeCode, Date> inactiveEmployees(const FileSystem& files,
-                                                             const DataFolder& folder,
+[[nodiscard]] std::map<EmployeeCode, Date> inactiveEmployees(const Store& store,
                                                              const CompanyCode& company);
 
 }  // namespace winvrx

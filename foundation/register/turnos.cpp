@@ -24,10 +24,10 @@ const Message kBarredByScale{
 
 void Turnos::load() {
     (void)attempt(at_, incorrectData(), [this] {
-        companyTitle_ = titleOf(loadCompanies(at_.files, at_.session.folder), at_.session.company);
+        companyTitle_ = titleOf(loadCompanies(at_.store()), at_.session.company);
         lines_.clear();
         if (at_.session.company)
-            lines_ = EmployeeRegister(at_.files, at_.session.folder, *at_.session.company).load();
+            lines_ = EmployeeRegister(at_.store(), *at_.session.company).load();
         return true;
     });
 }
@@ -36,10 +36,10 @@ bool Turnos::change(const Employee& employee, Shift shift) {
     if (!at_.person.agrees(kConfirmChange)) return false;
     return attempt(at_, incorrectData(), [&] {
         const CompanyCode company = at_.session.company.value();
-        EmployeeRegister list(at_.files, at_.session.folder, company);
+        EmployeeRegister list(at_.store(), company);
         auto lines = list.load();
         (void)lineOfEmployee(lines, employee);
-        if (rotation_.isMember(company, employee.employeeCode().value())) {
+        if (rotation_.isMember({company, employee.employeeCode().value()})) {
             at_.person.tell(kRotationMember);
             return false;
         }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -47,5 +48,13 @@ using CompanyCode = DigitCode<2>;
 
 /// The employee's number within the company, "000" to "999".
 using EmployeeCode = DigitCode<3>;
+
+/// Names one employee of one company, and so his records.
+struct EmployeeKey {
+    CompanyCode company;
+    EmployeeCode employee;
+
+    [[nodiscard]] auto operator<=>(const EmployeeKey&) const = default;
+};
 
 }  // namespace winvrx

@@ -30,9 +30,8 @@ const Message kWrongDrive{"Imprimir",
                           "para o Diretório 'C'.",
                           Icon::Critical};
 
-Company companyOf(FileSystem& files, const Session& session) {
-    for (const CompanyLine& line : loadCompanies(files, session.folder))
-        if (line.code() && line.code() == session.company) return line.company;
+Company requireCompany(const Store& store, const CompanyCode& code) {
+    if (auto company = findCompany(store, code)) return *company;
     throw Fault("company is not in the register",
                 "A empresa selecionada não está no cadastro de empresas.");
 }
@@ -44,13 +43,13 @@ Cartao::Cartao(const Workplace& at, const CartaoServices& services)
 
 void Cartao::load() {
     (void)attempt(at_, incorrectData(), [this] {
-        company_ = companyOf(at_.files, at_.session);
-        const auto selected = loadSelectedMonth(at_.files, at_.session.folder);
+        company_ = requireCompany(at_.store(), at_.session.company.value());
+        const auto selected = loadSelectedMonth(at_.store());
         month_ = selected ? std::optional(selected->month) : std::nullopt;
-        stock_ = loadStock(at_.files, at_.session);
-        printer_ = loadPrinterName(at_.files, at_.session.folder);
+        stock_ = loadStock(at_.store(), *at_.session.company);
+        printer_ = loadPrinterName(at_.store());
         const bool hasUnwritten = choices_.printer != remembered_;
-        remembered_ = loadPrinterMemory(at_.files, at_.session);
+        remembered_ = loadPrinterMemory(at_.store(), *at_.session.company);
         if (!hasUnwritten) choices_.printer = remembered_;
         readEmployees();
         return true;
@@ -60,7 +59,7 @@ void Cartao::load() {
 bool Cartao::remember() {
     if (choices_.printer == remembered_) return true;
     return attemptWriting(at_, incorrectData(), [this] {
-        savePrinterMemory(at_.files, at_.session, choices_.printer);
+        savePrinterMemory(at_.store(), *at_.session.company, choices_.printer);
         remembered_ = choices_.printer;
         return true;
     });
@@ -81,7 +80,7 @@ void Cartao::setFilter(ShiftFilter filter) {
 }
 
 void Cartao::readEmployees() {
-    const EmployeeRegister list(at_.files, at_.session.folder, at_.session.company.value());
+    const EmployeeRegister list(at_.store(), at_.session.company.value());
     ofShift_ = employeesOf(list.load(), filter_);
     setSearch(search_);
 }
@@ -148,14 +147,13 @@ CardRunPlan Cartao::planFor(const std::vector<Employee>& people) const {
     const std::string entry = printerEntry(1, printer_);
     const PrintScaleKey key{printer_.empty() ? services_.printers.defaultName() : printer_,
                             std::string(stock_->code)};
-    const ReportRequest request{
-        .layoutName = {},
-        .title = std::string(kCartaoTitle),
-        .printHeader = choices_.printer.printHeader,
-        .alignment = loadAlignment(at_.files, at_.session.folder, key, services_.alignment),
-        .output = choices_.output,
-        .printerName = printerOfEntry(entry),
-        .trays = choices_.printer.trays};
+    const ReportRequest request{.layoutName = {},
+                                .title = std::string(kCartaoTitle),
+                                .printHeader = choices_.printer.printHeader,
+                                .alignment = loadAlignment(at_.store(), key, services_.alignment),
+                                .output = choices_.output,
+                                .printerName = printerOfEntry(entry),
+                                .trays = choices_.printer.trays};
     return {.people = people,
             .companyName = company_.name,
             .month = *month_,
@@ -169,16 +167,15 @@ CardRunPlan Cartao::planFor(const std::vector<Employee>& people) const {
 }
 
 CardData Cartao::cardOf(const Employee& employee) const {
-    const DataFolder& folder = at_.session.folder;
     const CompanyCode& company = at_.session.company.value();
     const EmployeeCode code = employee.employeeCode().value();
-    MonthSettings settings = loadMonthSettings(at_.files, folder, month_.value());
-    settings.overtime = overtimeOf(at_.files, folder, company, code, settings);
+    MonthSettings settings = loadMonthSettings(at_.store(), month_.value());
+    settings.overtime = overtimeOf(at_.store(), {company, code}, settings);
     return {.company = company_,
             .employee = employee,
             .settings = settings,
-            .schedule = loadSchedule(at_.files, folder, company, code),
-            .punches = loadPunches(at_.files, folder, company, code, *month_)};
+            .schedule = loadSchedule(at_.store(), {company, code}),
+            .punches = loadPunches(at_.store(), {company, code}, *month_)};
 }
 
 }  // namespace winvrx

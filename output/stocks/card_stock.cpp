@@ -41,13 +41,13 @@ std::string settingLineOf(const CardStock& stock) {
     return std::string(stock.code) + std::string(stock.storedName);
 }
 
-const CardStock* loadStock(FileSystem& files, const Session& session) {
-    const auto lines = RecordFile(files, session.companyFile(kStockSettingName)).lines();
+const CardStock* loadStock(const Store& store, const CompanyCode& company) {
+    const auto lines = RecordFile(store, company, kStockSettingName).lines();
     return lines.empty() ? nullptr : findStock(fieldOf(lines.front(), kCodeColumn));
 }
 
-void saveStock(FileSystem& files, const Session& session, const CardStock& stock) {
-    RecordFile(files, session.companyFile(kStockSettingName)).rewriteValues({settingLineOf(stock)});
+void saveStock(const Store& store, const CompanyCode& company, const CardStock& stock) {
+    RecordFile(store, company, kStockSettingName).rewriteValues({settingLineOf(stock)});
 }
 
 }  // namespace winvrx

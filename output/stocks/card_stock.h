@@ -79,9 +79,9 @@ inline constexpr std::string_view kStockSettingName = "CartaoDePontoTipo";
 
 /// The stock in use at the selected company; nullptr when none is stored or the code is unknown.
 /// Throws FileFault.
-[[nodiscard]] const CardStock* loadStock(FileSystem& files, const Session& session);
+[[nodiscard]] const CardStock* loadStock(const Store& store, const CompanyCode& company);
 
 /// Stores the stock in place of the former one. Throws FileFault.
-void saveStock(FileSystem& files, const Session& session, const CardStock& stock);
+void saveStock(const Store& store, const CompanyCode& company, const CardStock& stock);
 
 }  // namespace winvrx

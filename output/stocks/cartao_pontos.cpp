@@ -45,12 +45,6 @@ Offsets moved(Offsets offsets, Direction direction) {
     return offsets;
 }
 
-Company companyIn(FileSystem& files, const Session& session) {
-    for (const CompanyLine& line : loadCompanies(files, session.folder))
-        if (line.code() && line.code() == session.company) return line.company;
-    return {};
-}
-
 }  // namespace
 
 std::string lineOffsetText(int lines) {
@@ -62,10 +56,10 @@ CartaoPontos::CartaoPontos(const Workplace& at, const CartaoPontosServices& serv
 
 void CartaoPontos::load() {
     (void)attempt(at_, incorrectData(), [this] {
-        printer_ = loadPrinterName(at_.files, at_.session.folder);
-        feed_ = loadPrinterMemory(at_.files, at_.session);
-        company_ = companyIn(at_.files, at_.session);
-        const CardStock* stock = loadStock(at_.files, at_.session);
+        printer_ = loadPrinterName(at_.store());
+        feed_ = loadPrinterMemory(at_.store(), *at_.session.company);
+        company_ = findCompany(at_.store(), *at_.session.company).value_or(Company());
+        const CardStock* stock = loadStock(at_.store(), *at_.session.company);
         entry_ = stock ? alignmentEntryOf(stock->code).value_or(0) : 0;
         readSelected();
         return true;
@@ -90,8 +84,8 @@ bool CartaoPontos::select(std::size_t entry) {
 }
 
 void CartaoPontos::readSelected() {
-    std::vector<Offsets> alignments = loadOffsets(at_.files, at_.session.folder);
-    scale_ = loadPrintScale(at_.files, at_.session.folder, scaleKey());
+    std::vector<Offsets> alignments = loadOffsets(at_.store());
+    scale_ = loadPrintScale(at_.store(), scaleKey());
     alignments_ = std::move(alignments);
 }
 
@@ -108,10 +102,10 @@ Alignment CartaoPontos::alignment() const {
 
 bool CartaoPontos::move(Direction direction) {
     return attemptWriting(at_, incorrectData(), [&] {
-        if (loadOffsets(at_.files, at_.session.folder)[entry_] != offsets())
+        if (loadOffsets(at_.store())[entry_] != offsets())
             throw Fault("alignment changed on disk", kChangedElsewhere);
         const Offsets now = moved(offsets(), direction);
-        saveOffsets(at_.files, at_.session.folder, entry_, now);
+        saveOffsets(at_.store(), entry_, now);
         alignments_[entry_] = now;
         return true;
     });
@@ -120,7 +114,7 @@ bool CartaoPontos::move(Direction direction) {
 bool CartaoPontos::reset() {
     if (!at_.person.agrees(kConfirmReset)) return false;
     return attemptWriting(at_, incorrectData(), [this] {
-        removeOffsets(at_.files, at_.session.folder);
+        removeOffsets(at_.store());
         alignments_.assign(kAlignmentEntries, Offsets());
         services_.memory.lines = 0;
         return true;
@@ -164,9 +158,9 @@ bool CartaoPontos::saveScale(const PrintScale& scale) {
         const PrintScaleKey key = scaleKey();
         if (key.printer.empty())
             throw Fault("no printer to keep a scale for", "Não há uma impressora escolhida.");
-        if (loadPrintScale(at_.files, at_.session.folder, key) != scale_)
+        if (loadPrintScale(at_.store(), key) != scale_)
             throw Fault("print scale changed on disk", kChangedElsewhere);
-        savePrintScale(at_.files, at_.session.folder, {key, scale});
+        savePrintScale(at_.store(), {key, scale});
         scale_ = scale;
         return true;
     });

@@ -21,10 +21,6 @@ constexpr std::size_t kFirstTrayName = 1;
 constexpr std::size_t kHeaderLine = 4;
 constexpr std::size_t kFeedLines = 5;
 
-std::vector<std::string> linesOf(FileSystem& files, const std::filesystem::path& path) {
-    return RecordFile(files, path).lines();
-}
-
 std::string valueAt(const std::vector<std::string>& lines, std::size_t at) {
     return at < lines.size() ? decodeWindows1252(trimmed(lines[at])) : std::string();
 }
@@ -47,16 +43,17 @@ PrinterMemory decode(const std::vector<std::string>& kind, const std::vector<std
 
 }  // namespace
 
-PrinterMemory loadPrinterMemory(FileSystem& files, const Session& session) {
-    return decode(linesOf(files, session.companyFile(kPrinterKindName)),
-                  linesOf(files, session.companyFile(kFeedName)));
+PrinterMemory loadPrinterMemory(const Store& store, const CompanyCode& company) {
+    return decode(RecordFile(store, company, kPrinterKindName).lines(),
+                  RecordFile(store, company, kFeedName).lines());
 }
 
-void savePrinterMemory(FileSystem& files, const Session& session, const PrinterMemory& memory) {
-    const auto kindFile = session.companyFile(kPrinterKindName);
-    const auto feedFile = session.companyFile(kFeedName);
-    std::vector<std::string> kind = linesOf(files, kindFile);
-    std::vector<std::string> feed = linesOf(files, feedFile);
+void savePrinterMemory(const Store& store, const CompanyCode& company,
+                       const PrinterMemory& memory) {
+    const RecordFile kindFile(store, company, kPrinterKindName);
+    const RecordFile feedFile(store, company, kFeedName);
+    std::vector<std::string> kind = kindFile.lines();
+    std::vector<std::string> feed = feedFile.lines();
     const PrinterMemory before = decode(kind, feed);
     if (kind.empty()) kind.emplace_back(kFaceDown);
     if (feed.empty()) feed = {std::string(kCentral), "", "", "", std::string(kWithHeader)};
@@ -69,7 +66,8 @@ void savePrinterMemory(FileSystem& files, const Session& session, const PrinterM
         put(feed[kFirstTrayName + i], before.trays[i], memory.trays[i], memory.trays[i]);
     put(feed[kHeaderLine], before.printHeader, memory.printHeader,
         memory.printHeader ? kWithHeader : kWithoutHeader);
-    files.replaceAll({{kindFile, joinedLines(kind)}, {feedFile, joinedLines(feed)}});
+    store.files.replaceAll(
+        {{kindFile.path(), joinedLines(kind)}, {feedFile.path(), joinedLines(feed)}});
 }
 
 }  // namespace winvrx

@@ -30,10 +30,10 @@ struct PrinterMemory {
 };
 
 /// A line that is missing or says nothing known means its default. Throws FileFault.
-[[nodiscard]] PrinterMemory loadPrinterMemory(FileSystem& files, const Session& session);
+[[nodiscard]] PrinterMemory loadPrinterMemory(const Store& store, const CompanyCode& company);
 
 /// Both files in one batch; lines past those known here, and lines that mean the same, stay as they
 /// are. Throws FileFault, and TextFault for a tray that cannot be stored.
-void savePrinterMemory(FileSystem& files, const Session& session, const PrinterMemory& memory);
+void savePrinterMemory(const Store& store, const CompanyCode& company, const PrinterMemory& memory);
 
 }  // namespace winvrx

@@ -14,7 +14,7 @@ TipoPonto::TipoPonto(const Workplace& at, Browser& browser) : at_(at), browser_(
 void TipoPonto::load() {
     current_ = nullptr;
     (void)attempt(at_, incorrectData(), [this] {
-        current_ = loadStock(at_.files, at_.session);
+        current_ = loadStock(at_.store(), *at_.session.company);
         return true;
     });
 }
@@ -32,9 +32,9 @@ std::string TipoPonto::label() const {
 
 bool TipoPonto::choose(const CardStock& stock) {
     return attemptWriting(at_, incorrectData(), [&] {
-        if (loadStock(at_.files, at_.session) != current_)
+        if (loadStock(at_.store(), *at_.session.company) != current_)
             throw Fault("stock changed on disk", std::string(kChangedElsewhere));
-        saveStock(at_.files, at_.session, stock);
+        saveStock(at_.store(), *at_.session.company, stock);
         current_ = &stock;
         return true;
     });

@@ -51,38 +51,35 @@ TEST(PrintScale, ALineIsReadAndWrittenByItsColumns) {
 
 TEST(PrintScale, EachPrinterAndStockHasALineOfItsOwn) {
     TestWorkplace desk;
-    const auto& folder = desk.session.folder;
-    EXPECT_EQ(loadPrintScale(desk.files, folder, kRecord.key), PrintScale());
+    EXPECT_EQ(loadPrintScale(desk.store(), kRecord.key), PrintScale());
     desk.file("EscalaImpressao") = "junk\r\n" + kLine + "kept\r\n";
-    EXPECT_EQ(loadPrintScale(desk.files, folder, kRecord.key), kRecord.scale);
-    EXPECT_EQ(loadPrintScale(desk.files, folder, {"HP-Balcao", "01"}), PrintScale());
-    EXPECT_EQ(loadPrintScale(desk.files, folder, {"Epson", "05"}), PrintScale());
+    EXPECT_EQ(loadPrintScale(desk.store(), kRecord.key), kRecord.scale);
+    EXPECT_EQ(loadPrintScale(desk.store(), {"HP-Balcao", "01"}), PrintScale());
+    EXPECT_EQ(loadPrintScale(desk.store(), {"Epson", "05"}), PrintScale());
 
     PrintScaleLine changed = kRecord;
     changed.scale.verticalOffset = 30;
-    savePrintScale(desk.files, folder, changed);
-    savePrintScale(desk.files, folder, {{"Impressão", "05"}, {}});
+    savePrintScale(desk.store(), changed);
+    savePrintScale(desk.store(), {{"Impressão", "05"}, {}});
     const std::string bytes = desk.file("EscalaImpressao");
     EXPECT_TRUE(bytes.starts_with("junk\r\nHP-Balcao"));
     EXPECT_NE(bytes.find("-1,50   0,30    kept\r\nImpress\xE3o"), std::string::npos) << bytes;
-    EXPECT_EQ(loadPrintScale(desk.files, folder, kRecord.key), changed.scale);
+    EXPECT_EQ(loadPrintScale(desk.store(), kRecord.key), changed.scale);
 
     const PrintScaleKey longName{std::string(90, 'x'), "05"};
-    savePrintScale(desk.files, folder, {longName, kRecord.scale});
-    EXPECT_EQ(loadPrintScale(desk.files, folder, longName), kRecord.scale);
-    savePrintScale(desk.files, folder, {longName, {}});
-    EXPECT_EQ(loadPrintScale(desk.files, folder, longName), PrintScale());
+    savePrintScale(desk.store(), {longName, kRecord.scale});
+    EXPECT_EQ(loadPrintScale(desk.store(), longName), kRecord.scale);
+    savePrintScale(desk.store(), {longName, {}});
+    EXPECT_EQ(loadPrintScale(desk.store(), longName), PrintScale());
 }
 
 TEST(PrintScale, AnAlignmentIsStockLinesAndPrinterTogether) {
     TestWorkplace desk;
     desk.file("EscalaImpressao") = kLine + "\r\n";
-    saveOffsets(desk.files, desk.session.folder, *alignmentEntryOf("05"), {50, 90});
-    const Alignment both =
-        loadAlignment(desk.files, desk.session.folder, kRecord.key, {.lines = 3});
+    saveOffsets(desk.store(), *alignmentEntryOf("05"), {50, 90});
+    const Alignment both = loadAlignment(desk.store(), kRecord.key, {.lines = 3});
     EXPECT_EQ(both, (Alignment{90, 50, 3, kRecord.scale}));
-    const Alignment other =
-        loadAlignment(desk.files, desk.session.folder, {"Epson", "01"}, {.lines = 0});
+    const Alignment other = loadAlignment(desk.store(), {"Epson", "01"}, {.lines = 0});
     EXPECT_EQ(other, (Alignment{10, 10, 0, {}}));
 }
 

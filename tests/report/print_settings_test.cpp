@@ -33,36 +33,34 @@ TEST(PrintSettings, AnEntryIsTwoOffsetsWithinTheirBounds) {
 
 TEST(PrintSettings, EachStockHasItsEntryAndTheOthersStay) {
     TestWorkplace desk;
-    const auto& folder = desk.session.folder;
-    EXPECT_EQ(loadOffsets(desk.files, folder), std::vector<Offsets>(kAlignmentEntries));
-    saveOffsets(desk.files, folder, *alignmentEntryOf("03"), {70, 1500});
+    EXPECT_EQ(loadOffsets(desk.store()), std::vector<Offsets>(kAlignmentEntries));
+    saveOffsets(desk.store(), *alignmentEntryOf("03"), {70, 1500});
     std::string expected;
     for (std::size_t entry = 0; entry < 16; ++entry)
         expected += std::string(entry == 2 ? "70         1500" : kDefaultLine) + "\r\n";
     EXPECT_EQ(desk.file("Config"), expected);
 
     desk.file("Config") = "strange\r\n" + expected + "further\r\n";
-    saveOffsets(desk.files, folder, 1, {10, 50});
+    saveOffsets(desk.store(), 1, {10, 50});
     EXPECT_EQ(desk.file("Config").substr(0, 24), "strange\r\n10         50\r\n");
     EXPECT_TRUE(desk.file("Config").ends_with("\r\nfurther\r\n"));
-    EXPECT_EQ(loadOffsets(desk.files, folder)[3], (Offsets{70, 1500}));
+    EXPECT_EQ(loadOffsets(desk.store())[3], (Offsets{70, 1500}));
     desk.file("Config") = "250       40\r\n30\r\n";
-    EXPECT_EQ(loadOffsets(desk.files, folder)[1], (Offsets{30, 10}));
-    EXPECT_EQ(loadOffsets(desk.files, folder)[15], (Offsets{250, 40}));
+    EXPECT_EQ(loadOffsets(desk.store())[1], (Offsets{30, 10}));
+    EXPECT_EQ(loadOffsets(desk.store())[15], (Offsets{250, 40}));
     EXPECT_EQ(alignmentEntryOf("20"), 15U);
     EXPECT_EQ(alignmentEntryOf("14"), std::nullopt);
 }
 
 TEST(PrintSettings, PrinterIsTheStoredNameOrTheDefaultOne) {
     TestWorkplace desk;
-    const auto& folder = desk.session.folder;
-    EXPECT_EQ(loadPrinterName(desk.files, folder), "");
-    savePrinterName(desk.files, folder, "HP LaserJet Escritório");
+    EXPECT_EQ(loadPrinterName(desk.store()), "");
+    savePrinterName(desk.store(), "HP LaserJet Escritório");
     EXPECT_EQ(desk.file("ConfigX"), "HP LaserJet Escrit\xF3rio\r\n");
-    EXPECT_EQ(loadPrinterName(desk.files, folder), "HP LaserJet Escritório");
-    savePrinterName(desk.files, folder, "");
+    EXPECT_EQ(loadPrinterName(desk.store()), "HP LaserJet Escritório");
+    savePrinterName(desk.store(), "");
     EXPECT_EQ(desk.file("ConfigX"), "Padrao\r\n");
-    EXPECT_EQ(loadPrinterName(desk.files, folder), "");
+    EXPECT_EQ(loadPrinterName(desk.store()), "");
 }
 
 }  // namespace

@@ -18,7 +18,8 @@ FileTable officeClosingOn(int day) {
     march.fixedMonth = false;
     march.closingDay = day;
     MemoryFiles written;
-    saveMonthSettings(written, DataFolder('C', "/"), march);
+    const DataFolder folder('C', "/");
+    saveMonthSettings({written, folder}, march);
     FileTable files = filledOffice();
     files[inDataFolder("03-2024ds.rdx")] = written.content.begin()->second;
     return files;

@@ -37,8 +37,8 @@ struct CardScreen : ::testing::Test {
         MonthSettings march;
         march.month = 2024y / 3;
         march.setHoliday(*parseDate("29/03/2024"), true);
-        saveMonthSettings(desk.files, desk.session.folder, march);
-        saveSelectedMonth(desk.files, desk.session.folder, {2024y / 3, ShiftFilter::Todos});
+        saveMonthSettings(desk.store(), march);
+        saveSelectedMonth(desk.store(), {2024y / 3, ShiftFilter::Todos});
     }
 
     void hire(const std::vector<Employee>& people) {

@@ -36,14 +36,14 @@ struct TestLocks final : RotationMembership, PayrollLock {
     std::set<std::string> members;
     std::set<std::string> closed;
 
-    bool isMember(const CompanyCode&, const EmployeeCode& employee) const override {
-        return members.contains(employee.text());
+    bool isMember(const EmployeeKey& key) const override {
+        return members.contains(key.employee.text());
     }
-    bool hasClosedMonth(const CompanyCode&, const EmployeeCode& employee) const override {
-        return closed.contains(employee.text());
+    bool hasClosedMonth(const EmployeeKey& key) const override {
+        return closed.contains(key.employee.text());
     }
-    bool isClosed(const CompanyCode&, const EmployeeCode& employee, WorkMonth) const override {
-        return closed.contains(employee.text());
+    bool isClosed(const EmployeeKey& key, WorkMonth) const override {
+        return closed.contains(key.employee.text());
     }
 };
 

@@ -34,8 +34,7 @@ inline void fillPrintingDesk(TestWorkplace& desk, const char* stock) {
                                 encode(cardHolder("002", "ANA PAULA", "Dois")) + "\r\n" +
                                 encode(cardHolder("003", "RUI BARBOSA", "Tres")) + "\r\n";
     desk.file("01CartaoDePontoTipo") = std::string(stock) + "\r\n";
-    saveSelectedMonth(desk.files, desk.session.folder,
-                      {std::chrono::year(2024) / 3, ShiftFilter::Todos});
+    saveSelectedMonth(desk.store(), {std::chrono::year(2024) / 3, ShiftFilter::Todos});
 }
 
 /// Stock "RHJ", and an engine that prints nothing.

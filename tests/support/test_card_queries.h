@@ -11,8 +11,8 @@ namespace winvrx::testing {
 struct TestLeaves final : LeaveCalendar {
     std::map<std::string, EmployeeLeaves> leaves;
 
-    EmployeeLeaves leavesOf(const CompanyCode&, const EmployeeCode& employee) const override {
-        const auto found = leaves.find(employee.text());
+    EmployeeLeaves leavesOf(const EmployeeKey& key) const override {
+        const auto found = leaves.find(key.employee.text());
         return found == leaves.end() ? EmployeeLeaves() : found->second;
     }
     void add(const std::string& employee, const char* first, const char* last) {

@@ -29,6 +29,7 @@ struct TestWorkplace {
     FolderLock lock{lockDisk, host};
     Workplace at{files, person, clock, log, session, lock};
 
+    [[nodiscard]] Store store() const { return at.store(); }
     [[nodiscard]] std::string& file(const std::string& name) {
         return files.content["/data/" + name];
     }

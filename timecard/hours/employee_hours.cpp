@@ -9,14 +9,6 @@ namespace {
 constexpr std::string_view kClosingEnd = ".prd";
 constexpr std::chrono::months kOneMonth{1};
 
-/// Where an employee's records lie.
-struct Records {
-    FileSystem& files;
-    const DataFolder& folder;
-    const CompanyCode& company;
-    EmployeeCode employee;
-};
-
 std::vector<PunchLine> blankDays(const DayPeriod& period) {
     std::vector<PunchLine> lines;
     for (Date date = period.first; date <= period.last; date = plusDays(date, 1))
@@ -47,16 +39,16 @@ class DayPlaces {
     std::vector<bool> taken_;
 };
 
-bool putClosingRecord(DayPlaces& places, const Records& at, WorkMonth month) {
-    const RecordFile record(at.files,
-                            at.folder.file(closingFileName(at.company, at.employee, month)));
+bool putClosingRecord(DayPlaces& places, const Store& store, const EmployeeKey& key,
+                      WorkMonth month) {
+    const RecordFile record(store, closingFileName(key, month));
     for (const std::string& bytes : record.lines())
         places.put(decodePunchLine(bytes));
     return record.exists();
 }
 
-bool putMonth(DayPlaces& places, const Records& at, WorkMonth month) {
-    auto lines = loadPunches(at.files, at.folder, at.company, at.employee, month);
+bool putMonth(DayPlaces& places, const Store& store, const EmployeeKey& key, WorkMonth month) {
+    auto lines = loadPunches(store, key, month);
     if (!lines) return false;
     Date date = firstDay(month);
     for (PunchLine& line : *lines) {
@@ -67,38 +59,36 @@ bool putMonth(DayPlaces& places, const Records& at, WorkMonth month) {
     return true;
 }
 
-WorkTerms termsOf(const Records& at, const Employee& employee, const MonthSettings& settings,
-                  const DayPeriod& period) {
-    const auto schedule = loadSchedule(at.files, at.folder, at.company, at.employee);
-    WorkTerms terms =
-        workTerms(settings, overtimeOf(at.files, at.folder, at.company, at.employee, settings),
-                  schedule.value_or(StandardSchedule()), employee);
+WorkTerms termsOf(const Store& store, const EmployeeKey& key, const Employee& employee,
+                  const MonthSettings& settings, const DayPeriod& period) {
+    const auto schedule = loadSchedule(store, key);
+    WorkTerms terms = workTerms(settings, overtimeOf(store, key, settings),
+                                schedule.value_or(StandardSchedule()), employee);
     if (const WorkMonth first = monthOf(period.first); first != settings.month)
-        for (const Date date : loadMonthSettings(at.files, at.folder, first).holidays())
+        for (const Date date : loadMonthSettings(store, first).holidays())
             terms.holidays.push_back(date);
     return terms;
 }
 
 }  // namespace
 
-std::optional<EmployeeHours> loadEmployeeHours(FileSystem& files, const DataFolder& folder,
-                                               const CompanyCode& company, const Employee& employee,
+std::optional<EmployeeHours> loadEmployeeHours(const Store& store, const CompanyCode& company,
+                                               const Employee& employee,
                                                const MonthSettings& settings, HoursPeriod which) {
-    const Records at{files, folder, company, employee.employeeCode().value()};
+    const EmployeeKey key{company, employee.employeeCode().value()};
     const DayPeriod month{firstDay(settings.month), lastDay(settings.month)};
     const DayPeriod period = which == HoursPeriod::ClosingPeriod ? closingPeriod(settings) : month;
     DayPlaces places(period);
-    bool any = period != month && putClosingRecord(places, at, settings.month);
+    bool any = period != month && putClosingRecord(places, store, key, settings.month);
     for (WorkMonth one = monthOf(period.first); one <= settings.month; one += kOneMonth)
-        any = putMonth(places, at, one) || any;
+        any = putMonth(places, store, key, one) || any;
     if (!any) return std::nullopt;
     return EmployeeHours{period, std::move(places).lines(),
-                         termsOf(at, employee, settings, period)};
+                         termsOf(store, key, employee, settings, period)};
 }
 
-std::string closingFileName(const CompanyCode& company, const EmployeeCode& employee,
-                            WorkMonth month) {
-    std::string name = punchFileName(company, employee, month);
+std::string closingFileName(const EmployeeKey& key, WorkMonth month) {
+    std::string name = punchFileName(key, month);
     return name.replace(name.rfind('.'), std::string::npos, kClosingEnd);
 }
 

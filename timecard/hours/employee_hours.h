@@ -28,12 +28,13 @@ struct EmployeeHours {
 /// the punches of its months. The overtime figures are the employee's own of the
 /// work month, or that month's; each day goes by the holidays of its own month. A missing schedule
 /// asks for nothing. nullopt when none of the records of punches exists. Throws FileFault.
-[[nodiscard]] std::optional<EmployeeHours> loadEmployeeHours(
-    FileSystem& files, const DataFolder& folder, const CompanyCode& company,
-    const Employee& employee, const MonthSettings& settings, HoursPeriod which);
+[[nodiscard]] std::optional<EmployeeHours> loadEmployeeHours(const Store& store,
+                                                             const CompanyCode& company,
+                                                             const Employee& employee,
+                                                             const MonthSettings& settings,
+                                                             HoursPeriod which);
 
 /// "01001-03-2024.prd": the punch record's name with another end.
-[[nodiscard]] std::string closingFileName(const CompanyCode& company, const EmployeeCode& employee,
-                                          WorkMonth month);
+[[nodiscard]] std::string closingFileName(const EmployeeKey& key, WorkMonth month);
 
 }  // namespace winvrx

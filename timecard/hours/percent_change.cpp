@@ -26,8 +26,8 @@ int percentIn(std::string_view typed) {
 }
 
 OvertimeRules onDisk(const Workplace& at, const PercentChange& change) {
-    return overtimeOf(at.files, at.session.folder, change.company, change.employee,
-                      loadMonthSettings(at.files, at.session.folder, change.month));
+    return overtimeOf(at.store(), {change.company, change.employee},
+                      loadMonthSettings(at.store(), change.month));
 }
 
 }  // namespace
@@ -42,8 +42,7 @@ bool changePercent(const Workplace& at, const PercentChange& change) {
         if (rules != change.shown)
             throw Fault("overtime figures changed on disk", std::string(kChangedElsewhere));
         rules.*percentOf(change.category) = percent;
-        saveOvertime(at.files, at.session.folder, change.company, change.employee,
-                     {change.month, rules});
+        saveOvertime(at.store(), {change.company, change.employee}, {change.month, rules});
         return true;
     });
 }

@@ -25,23 +25,21 @@ DataMesCorrente::DataMesCorrente(const Workplace& at) : at_(at) {
 
 void DataMesCorrente::open() {
     (void)attempt(at_, incorrectData(), [this] {
-        const auto selected = loadSelectedMonth(at_.files, at_.session.folder);
+        const auto selected = loadSelectedMonth(at_.store());
         load(selected ? selected->month : monthOf(at_.clock.today()));
         return true;
     });
 }
 
 std::optional<MonthSettings> DataMesCorrente::readRecord(WorkMonth month) const {
-    const DataFolder& folder = at_.session.folder;
-    if (!hasMonthSettings(at_.files, folder, month)) return std::nullopt;
-    return loadMonthSettings(at_.files, folder, month);
+    if (!hasMonthSettings(at_.store(), month)) return std::nullopt;
+    return loadMonthSettings(at_.store(), month);
 }
 
 void DataMesCorrente::load(WorkMonth month) {
-    const DataFolder& folder = at_.session.folder;
-    auto offer = offeredHolidays(at_.files, folder, month);
+    auto offer = offeredHolidays(at_.store(), month);
     auto onDisk = readRecord(month);
-    auto unread = unreadMonthLines(at_.files, folder, month);
+    auto unread = unreadMonthLines(at_.store(), month);
     auto ownRules = ownRulesOfList(at_, month);
     offer_ = std::move(offer);
     onDisk_ = std::move(onDisk);
@@ -123,7 +121,7 @@ std::vector<Holiday> DataMesCorrente::untickedHolidays() const {
 
 void DataMesCorrente::reloadOffer() {
     (void)attempt(at_, incorrectData(), [this] {
-        auto offer = offeredHolidays(at_.files, at_.session.folder, settings_.month);
+        auto offer = offeredHolidays(at_.store(), settings_.month);
         const auto before = proposedSettings(settings_.month, offer_).holidayCells;
         const auto after = proposedSettings(settings_.month, offer).holidayCells;
         for (std::size_t cell = 0; cell < kHolidayCells && !isRecorded(); ++cell)
@@ -170,11 +168,11 @@ void DataMesCorrente::write() {
     if (readRecord(settings_.month) != onDisk_)
         throw Fault("month changed on disk", std::string(kChangedElsewhere));
     if (!toWrite.recordTicks) toWrite.holidayCells = onDisk_.value_or(MonthSettings()).holidayCells;
-    saveMonthSettings(at_.files, at_.session.folder, toWrite);
+    saveMonthSettings(at_.store(), toWrite);
     const auto shownTicks = settings_.holidayCells;
     onDisk_ = opened_ = settings_ = toWrite;
     settings_.holidayCells = shownTicks;
-    unread_ = unreadMonthLines(at_.files, at_.session.folder, toWrite.month);
+    unread_ = unreadMonthLines(at_.store(), toWrite.month);
 }
 
 bool DataMesCorrente::record() {
@@ -187,8 +185,7 @@ bool DataMesCorrente::record() {
 bool DataMesCorrente::confirm() {
     return attemptWriting(at_, incorrectData(), [this] {
         write();
-        saveSelectedMonth(at_.files, at_.session.folder,
-                          {settings_.month, at_.session.shiftFilter});
+        saveSelectedMonth(at_.store(), {settings_.month, at_.session.shiftFilter});
         return true;
     });
 }

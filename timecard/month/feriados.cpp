@@ -43,7 +43,7 @@ void requireFree(const std::vector<LocalHolidayLine>& lines, const HolidayDay& d
 
 void Feriados::load() {
     (void)attempt(at_, incorrectData(), [this] {
-        lines_ = loadLocalHolidays(at_.files, at_.session.folder);
+        lines_ = loadLocalHolidays(at_.store());
         return true;
     });
 }
@@ -58,7 +58,7 @@ bool Feriados::include(const TypedHoliday& typed) {
         requireFree(lines_, holiday.day);
         if (!at_.person.agrees(kConfirmInclude)) return false;
         const auto hold = holdFolder(at_);
-        auto lines = loadLocalHolidays(at_.files, at_.session.folder);
+        auto lines = loadLocalHolidays(at_.store());
         requireFree(lines, holiday.day);
         lines.push_back(decodeLocalHoliday(encode(holiday)));
         save(std::move(lines));
@@ -99,14 +99,14 @@ void Feriados::help() {
 }
 
 std::vector<LocalHolidayLine> Feriados::linesAsShown() const {
-    auto lines = loadLocalHolidays(at_.files, at_.session.folder);
+    auto lines = loadLocalHolidays(at_.store());
     if (!std::ranges::equal(lines, lines_, {}, &LocalHolidayLine::bytes, &LocalHolidayLine::bytes))
         throw Fault("list of holidays changed on disk", std::string(kChangedElsewhere));
     return lines;
 }
 
 void Feriados::save(std::vector<LocalHolidayLine> lines) {
-    saveLocalHolidays(at_.files, at_.session.folder, lines);
+    saveLocalHolidays(at_.store(), lines);
     lines_ = std::move(lines);
 }
 

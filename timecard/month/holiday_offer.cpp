@@ -6,9 +6,9 @@
 
 namespace winvrx {
 
-std::vector<Holiday> offeredHolidays(FileSystem& files, const DataFolder& folder, WorkMonth month) {
+std::vector<Holiday> offeredHolidays(const Store& store, WorkMonth month) {
     std::vector<Holiday> offer = calendarHolidays(month);
-    for (const LocalHolidayLine& line : loadLocalHolidays(files, folder)) {
+    for (const LocalHolidayLine& line : loadLocalHolidays(store)) {
         const auto date = line.holiday ? dateIn(month, line.holiday->day) : std::nullopt;
         if (date) offer.push_back({*date, line.holiday->name, HolidayKind::Local});
     }

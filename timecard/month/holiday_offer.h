@@ -12,8 +12,7 @@
 namespace winvrx {
 
 /// In the order of the dates. Throws FileFault.
-[[nodiscard]] std::vector<Holiday> offeredHolidays(FileSystem& files, const DataFolder& folder,
-                                                   WorkMonth month);
+[[nodiscard]] std::vector<Holiday> offeredHolidays(const Store& store, WorkMonth month);
 
 /// Offered ticked: what is a holiday by law or by the user's own list.
 [[nodiscard]] constexpr bool isOfferedTicked(const Holiday& holiday) {

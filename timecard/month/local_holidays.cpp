@@ -65,20 +65,19 @@ LocalHolidayLine decodeLocalHoliday(std::string lineBytes) {
     return line;
 }
 
-std::vector<LocalHolidayLine> loadLocalHolidays(FileSystem& files, const DataFolder& folder) {
+std::vector<LocalHolidayLine> loadLocalHolidays(const Store& store) {
     std::vector<LocalHolidayLine> lines;
-    for (std::string& bytes : RecordFile(files, folder.file(kLocalHolidaysName)).lines())
+    for (std::string& bytes : RecordFile(store, kLocalHolidaysName).lines())
         lines.push_back(decodeLocalHoliday(std::move(bytes)));
     return lines;
 }
 
-void saveLocalHolidays(FileSystem& files, const DataFolder& folder,
-                       const std::vector<LocalHolidayLine>& lines) {
+void saveLocalHolidays(const Store& store, const std::vector<LocalHolidayLine>& lines) {
     std::vector<std::string> bytes;
     bytes.reserve(lines.size());
     for (const LocalHolidayLine& line : lines)
         bytes.push_back(line.bytes);
-    RecordFile(files, folder.file(kLocalHolidaysName)).rewrite(bytes);
+    RecordFile(store, kLocalHolidaysName).rewrite(bytes);
 }
 
 }  // namespace winvrx

@@ -61,9 +61,7 @@ struct LocalHolidayLine {
 inline constexpr std::string_view kLocalHolidaysName = "Feriados";
 
 /// In file order; empty when there is no list. Throws FileFault.
-[[nodiscard]] std::vector<LocalHolidayLine> loadLocalHolidays(FileSystem& files,
-                                                              const DataFolder& folder);
-void saveLocalHolidays(FileSystem& files, const DataFolder& folder,
-                       const std::vector<LocalHolidayLine>& lines);
+[[nodiscard]] std::vector<LocalHolidayLine> loadLocalHolidays(const Store& store);
+void saveLocalHolidays(const Store& store, const std::vector<LocalHolidayLine>& lines);
 
 }  // namespace winvrx

@@ -13,27 +13,24 @@ constexpr std::string_view kFromOffer = "Feriados ainda não confirmados.";
 }  // namespace
 
 MonthSettings TimecardCalendar::settingsOf(WorkMonth month) const {
-    const DataFolder& folder = at_.session.folder;
-    if (hasMonthSettings(at_.files, folder, month))
-        return loadMonthSettings(at_.files, folder, month);
-    return proposedSettings(month, offeredHolidays(at_.files, folder, month));
+    if (hasMonthSettings(at_.store(), month)) return loadMonthSettings(at_.store(), month);
+    return proposedSettings(month, offeredHolidays(at_.store(), month));
 }
 
 MonthOverview TimecardCalendar::overview(Date today) const {
-    const DataFolder& folder = at_.session.folder;
     const WorkMonth present = monthOf(today);
-    const auto selected = loadSelectedMonth(at_.files, folder);
+    const auto selected = loadSelectedMonth(at_.store());
     MonthOverview overview;
     overview.month = selected ? selected->month : present;
     const MonthSettings settings = settingsOf(overview.month);
     const MonthDayCounts counts = countDays(settings);
     overview.holidays = settings.holidays();
-    overview.recorded = hasMonthSettings(at_.files, folder, overview.month);
+    overview.recorded = hasMonthSettings(at_.store(), overview.month);
     overview.businessDays = counts.businessDays;
     overview.restDays = counts.restDays;
     overview.notices = businessDayNotices(settingsOf(present),
                                           settingsOf(present + std::chrono::months{1}), today);
-    if (!hasMonthSettings(at_.files, folder, present)) overview.notices.emplace_back(kFromOffer);
+    if (!hasMonthSettings(at_.store(), present)) overview.notices.emplace_back(kFromOffer);
     return overview;
 }
 

@@ -76,8 +76,8 @@ std::vector<std::string> encodeInto(std::vector<std::string> record,
     return record;
 }
 
-RecordFile recordOf(FileSystem& files, const DataFolder& folder, WorkMonth month) {
-    return {files, folder.file(monthRecordName(month))};
+RecordFile recordOf(const Store& store, WorkMonth month) {
+    return {store, monthRecordName(month)};
 }
 
 }  // namespace
@@ -108,18 +108,17 @@ std::string monthRecordName(WorkMonth month) {
     return monthKey(month) + "ds.rdx";
 }
 
-bool hasMonthSettings(FileSystem& files, const DataFolder& folder, WorkMonth month) {
-    return recordOf(files, folder, month).exists();
+bool hasMonthSettings(const Store& store, WorkMonth month) {
+    return recordOf(store, month).exists();
 }
 
-MonthSettings loadMonthSettings(FileSystem& files, const DataFolder& folder, WorkMonth month) {
-    return decode(month, recordOf(files, folder, month).lines());
+MonthSettings loadMonthSettings(const Store& store, WorkMonth month) {
+    return decode(month, recordOf(store, month).lines());
 }
 
-std::vector<UnreadLine> unreadMonthLines(FileSystem& files, const DataFolder& folder,
-                                         WorkMonth month) {
+std::vector<UnreadLine> unreadMonthLines(const Store& store, WorkMonth month) {
     std::vector<UnreadLine> unread;
-    const auto lines = recordOf(files, folder, month).lines();
+    const auto lines = recordOf(store, month).lines();
     for (std::size_t line = 1; line <= lines.size(); ++line) {
         const std::string& bytes = lines[line - 1];
         const bool understood = line <= kKnownLines && numberOf(bytes, line);
@@ -128,8 +127,8 @@ std::vector<UnreadLine> unreadMonthLines(FileSystem& files, const DataFolder& fo
     return unread;
 }
 
-void saveMonthSettings(FileSystem& files, const DataFolder& folder, const MonthSettings& settings) {
-    RecordFile record = recordOf(files, folder, settings.month);
+void saveMonthSettings(const Store& store, const MonthSettings& settings) {
+    RecordFile record = recordOf(store, settings.month);
     record.rewrite(encodeInto(record.lines(), settings));
 }
 

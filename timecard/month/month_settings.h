@@ -42,12 +42,11 @@ struct MonthSettings {
 
 inline constexpr int kHighestClosingDay = 31;
 
-[[nodiscard]] bool hasMonthSettings(FileSystem& files, const DataFolder& folder, WorkMonth month);
+[[nodiscard]] bool hasMonthSettings(const Store& store, WorkMonth month);
 
 /// The month's record; the defaults where there is none. A line that is not a number of its range
 /// counts as the default.
-[[nodiscard]] MonthSettings loadMonthSettings(FileSystem& files, const DataFolder& folder,
-                                              WorkMonth month);
+[[nodiscard]] MonthSettings loadMonthSettings(const Store& store, WorkMonth month);
 
 /// A line of the record that holds no number of its range, or stands behind the known ones. It is
 /// kept as it stands.
@@ -57,11 +56,10 @@ struct UnreadLine {
 
     [[nodiscard]] bool operator==(const UnreadLine&) const = default;
 };
-[[nodiscard]] std::vector<UnreadLine> unreadMonthLines(FileSystem& files, const DataFolder& folder,
-                                                       WorkMonth month);
+[[nodiscard]] std::vector<UnreadLine> unreadMonthLines(const Store& store, WorkMonth month);
 
 /// A line whose meaning does not change keeps its bytes, those that are not understood and those
 /// past the known ones included.
-void saveMonthSettings(FileSystem& files, const DataFolder& folder, const MonthSettings& settings);
+void saveMonthSettings(const Store& store, const MonthSettings& settings);
 
 }  // namespace winvrx

@@ -13,9 +13,8 @@ std::optional<int> numberAt(std::size_t place, std::string_view lineBytes) {
                             kOvertimeFigures[place].highest);
 }
 
-RecordFile recordOf(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
-                    const EmployeeCode& employee) {
-    return {files, folder.companyFile(company, overtimeFileName(employee))};
+RecordFile recordOf(const Store& store, const EmployeeKey& key) {
+    return {store, key.company, overtimeFileName(key.employee)};
 }
 
 std::vector<std::string>::iterator lineOf(std::vector<std::string>& lines, WorkMonth month) {
@@ -54,24 +53,21 @@ std::string overtimeFileName(const EmployeeCode& employee) {
     return std::string(kOvertimeStem) + employee.text();
 }
 
-std::optional<OvertimeRules> loadOvertime(FileSystem& files, const DataFolder& folder,
-                                          const CompanyCode& company, const EmployeeCode& employee,
+std::optional<OvertimeRules> loadOvertime(const Store& store, const EmployeeKey& key,
                                           WorkMonth month) {
-    auto lines = recordOf(files, folder, company, employee).lines();
+    auto lines = recordOf(store, key).lines();
     const auto found = lineOf(lines, month);
     if (found == lines.end()) return std::nullopt;
     return decodeOvertime(*found)->rules;
 }
 
-OvertimeRules overtimeOf(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
-                         const EmployeeCode& employee, const MonthSettings& month) {
-    return loadOvertime(files, folder, company, employee, month.month).value_or(month.overtime);
+OvertimeRules overtimeOf(const Store& store, const EmployeeKey& key, const MonthSettings& month) {
+    return loadOvertime(store, key, month.month).value_or(month.overtime);
 }
 
-FileSystem::NewContent withOvertime(FileSystem& files, const DataFolder& folder,
-                                    const CompanyCode& company, const EmployeeCode& employee,
+FileSystem::NewContent withOvertime(const Store& store, const EmployeeKey& key,
                                     const OvertimeLine& line) {
-    const RecordFile record = recordOf(files, folder, company, employee);
+    const RecordFile record = recordOf(store, key);
     auto lines = record.lines();
     const auto found = lineOf(lines, line.month);
     if (found == lines.end())
@@ -81,10 +77,9 @@ FileSystem::NewContent withOvertime(FileSystem& files, const DataFolder& folder,
     return {record.path(), joinedLines(lines)};
 }
 
-void saveOvertime(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
-                  const EmployeeCode& employee, const OvertimeLine& line) {
-    const auto content = withOvertime(files, folder, company, employee, line);
-    files.replace(content.file, content.bytes);
+void saveOvertime(const Store& store, const EmployeeKey& key, const OvertimeLine& line) {
+    const auto content = withOvertime(store, key, line);
+    store.files.replace(content.file, content.bytes);
 }
 
 }  // namespace winvrx

@@ -48,22 +48,16 @@ struct OvertimeLine {
 
 /// The employee's own figures of the month: the first line that is understood and has the month;
 /// nullopt where there is none. Throws FileFault.
-[[nodiscard]] std::optional<OvertimeRules> loadOvertime(FileSystem& files, const DataFolder& folder,
-                                                        const CompanyCode& company,
-                                                        const EmployeeCode& employee,
+[[nodiscard]] std::optional<OvertimeRules> loadOvertime(const Store& store, const EmployeeKey& key,
                                                         WorkMonth month);
 
 /// The rules that hold for the employee in the month: his own line, else the month's.
-[[nodiscard]] OvertimeRules overtimeOf(FileSystem& files, const DataFolder& folder,
-                                       const CompanyCode& company, const EmployeeCode& employee,
+[[nodiscard]] OvertimeRules overtimeOf(const Store& store, const EmployeeKey& key,
                                        const MonthSettings& month);
 
 /// The employee's file with the month's figures put into it; every other line stays as it is.
-[[nodiscard]] FileSystem::NewContent withOvertime(FileSystem& files, const DataFolder& folder,
-                                                  const CompanyCode& company,
-                                                  const EmployeeCode& employee,
+[[nodiscard]] FileSystem::NewContent withOvertime(const Store& store, const EmployeeKey& key,
                                                   const OvertimeLine& line);
-void saveOvertime(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
-                  const EmployeeCode& employee, const OvertimeLine& line);
+void saveOvertime(const Store& store, const EmployeeKey& key, const OvertimeLine& line);
 
 }  // namespace winvrx

@@ -20,8 +20,7 @@ const Message kNobodyListed{"Aviso",
 constexpr std::ptrdiff_t kWrittenTogether = 64;
 
 Message confirmation(const Workplace& at, WorkMonth month, std::size_t employees) {
-    const std::string company =
-        titleOf(loadCompanies(at.files, at.session.folder), at.session.company);
+    const std::string company = titleOf(loadCompanies(at.store()), at.session.company);
     const std::string count = employees == 1 ? "1 funcionário recebe"
                                              : std::to_string(employees) + " funcionários recebem";
     return {"ALTERAÇÃO",
@@ -43,12 +42,11 @@ std::set<EmployeeCode> listedCodes(const Workplace& at) {
 std::vector<FileSystem::NewContent> filesToWrite(const Workplace& at,
                                                  const std::set<EmployeeCode>& codes,
                                                  const OvertimeLine& line) {
-    const DataFolder& folder = at.session.folder;
     const CompanyCode& company = at.session.company.value();
     std::vector<FileSystem::NewContent> batch;
     for (const EmployeeCode& code : codes)
-        if (loadOvertime(at.files, folder, company, code, line.month) != line.rules)
-            batch.push_back(withOvertime(at.files, folder, company, code, line));
+        if (loadOvertime(at.store(), {company, code}, line.month) != line.rules)
+            batch.push_back(withOvertime(at.store(), {company, code}, line));
     return batch;
 }
 
@@ -70,7 +68,7 @@ OvertimeUpdate writeFor(const Workplace& at, const OvertimeLine& line,
 
 std::vector<Employee> listedEmployees(const Workplace& at) {
     if (!at.session.company) return {};
-    return employeesOf(EmployeeRegister(at.files, at.session.folder, *at.session.company).load(),
+    return employeesOf(EmployeeRegister(at.store(), *at.session.company).load(),
                        at.session.shiftFilter);
 }
 
@@ -82,8 +80,7 @@ std::vector<OvertimeRules> ownRulesOfList(const Workplace& at, WorkMonth month) 
     for (const Employee& one : listedEmployees(at)) {
         const EmployeeCode code = one.employeeCode().value();
         if (!names.contains(at.session.company->text() + overtimeFileName(code))) continue;
-        if (const auto rules =
-                loadOvertime(at.files, at.session.folder, *at.session.company, code, month))
+        if (const auto rules = loadOvertime(at.store(), {*at.session.company, code}, month))
             own.push_back(*rules);
     }
     return own;

@@ -4,8 +4,8 @@
 
 namespace winvrx {
 
-std::optional<SelectedMonth> loadSelectedMonth(FileSystem& files, const DataFolder& folder) {
-    const auto values = RecordFile(files, folder.file(kSelectedMonthName)).values();
+std::optional<SelectedMonth> loadSelectedMonth(const Store& store) {
+    const auto values = RecordFile(store, kSelectedMonthName).values();
     if (values.empty()) return std::nullopt;
     const auto month = parseMonthKey(values[0]);
     if (!month) return std::nullopt;
@@ -13,8 +13,8 @@ std::optional<SelectedMonth> loadSelectedMonth(FileSystem& files, const DataFold
     return SelectedMonth{*month, filter.value_or(ShiftFilter::Todos)};
 }
 
-void saveSelectedMonth(FileSystem& files, const DataFolder& folder, const SelectedMonth& selected) {
-    RecordFile(files, folder.file(kSelectedMonthName))
+void saveSelectedMonth(const Store& store, const SelectedMonth& selected) {
+    RecordFile(store, kSelectedMonthName)
         .rewriteValues({monthKey(selected.month), std::string(codeOf(selected.shiftFilter))});
 }
 

@@ -16,8 +16,7 @@ struct SelectedMonth {
 };
 
 /// nullopt when no month is chosen, or the file does not hold one.
-[[nodiscard]] std::optional<SelectedMonth> loadSelectedMonth(FileSystem& files,
-                                                             const DataFolder& folder);
-void saveSelectedMonth(FileSystem& files, const DataFolder& folder, const SelectedMonth& selected);
+[[nodiscard]] std::optional<SelectedMonth> loadSelectedMonth(const Store& store);
+void saveSelectedMonth(const Store& store, const SelectedMonth& selected);
 
 }  // namespace winvrx

@@ -27,7 +27,7 @@ constexpr std::string_view kSaturdayNormal = "Sábado(Normal)";
 constexpr std::string_view kSaturdayExtra = "Sábado(Extra)";
 
 std::string nameOf(const Workplace& at, const CompanyCode& code) {
-    for (const CompanyLine& line : loadCompanies(at.files, at.session.folder))
+    for (const CompanyLine& line : loadCompanies(at.store()))
         if (line.code() == code) return line.company.name;
     return {};
 }
@@ -51,13 +51,12 @@ bool CartaoPontoDados::open() {
             at_.person.tell(noCompany());
             return false;
         }
-        const auto selected = loadSelectedMonth(at_.files, at_.session.folder);
+        const auto selected = loadSelectedMonth(at_.store());
         if (!selected) {
             at_.person.tell(kNoMonth);
             return false;
         }
-        loadList(*at_.session.company,
-                 loadMonthSettings(at_.files, at_.session.folder, selected->month),
+        loadList(*at_.session.company, loadMonthSettings(at_.store(), selected->month),
                  selected->shiftFilter);
         return true;
     });
@@ -65,13 +64,13 @@ bool CartaoPontoDados::open() {
 
 void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings& settings,
                                 ShiftFilter filter) {
-    const auto lines = EmployeeRegister(at_.files, at_.session.folder, company).load();
+    const auto lines = EmployeeRegister(at_.store(), company).load();
     std::string name = nameOf(at_, company);
     std::vector<Employee> employees = employeesOf(lines, filter);
     std::vector<EmployeeMark> marks;
     for (const Employee& one : employees)
         marks.push_back(markOf(company, one, settings.month));
-    minutes_ = loadMinutes(at_.files, at_.session.folder);
+    minutes_ = loadMinutes(at_.store());
     const std::string chosen = company_ == company && selected() ? selected()->code : "";
     company_ = company;
     companyName_ = std::move(name);
@@ -93,18 +92,17 @@ void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings&
 EmployeeMark CartaoPontoDados::markOf(const CompanyCode& company, const Employee& employee,
                                       WorkMonth month) const {
     const EmployeeCode code = employee.employeeCode().value();
-    return {.onLeave = queries_.leaves.leavesOf(company, code).touch(month),
-            .closed = queries_.payroll.isClosed(company, code, month)};
+    return {.onLeave = queries_.leaves.leavesOf({company, code}).touch(month),
+            .closed = queries_.payroll.isClosed({company, code}, month)};
 }
 
 void CartaoPontoDados::loadCard(std::size_t position) {
     const EmployeeCode code = employees_.at(position).employeeCode().value();
     const CompanyCode& company = company_.value();
-    const auto schedule = loadSchedule(at_.files, at_.session.folder, company, code);
-    const OvertimeRules overtime =
-        overtimeOf(at_.files, at_.session.folder, company, code, settings_);
-    auto punches = loadPunches(at_.files, at_.session.folder, company, code, settings_.month);
-    unreadLines_ = unreadPunchLines(at_.files, at_.session.folder, company, code, settings_.month);
+    const auto schedule = loadSchedule(at_.store(), {company, code});
+    const OvertimeRules overtime = overtimeOf(at_.store(), {company, code}, settings_);
+    auto punches = loadPunches(at_.store(), {company, code}, settings_.month);
+    unreadLines_ = unreadPunchLines(at_.store(), {company, code}, settings_.month);
     marks_.at(position) = markOf(company, employees_[position], settings_.month);
     position_ = position;
     overtime_ = overtime;
@@ -139,7 +137,7 @@ EmployeeCode CartaoPontoDados::selectedCode() const {
 
 std::filesystem::path CartaoPontoDados::punchFile() const {
     return at_.session.folder.file(
-        punchFileName(company_.value(), selectedCode(), settings_.month));
+        punchFileName({company_.value(), selectedCode()}, settings_.month));
 }
 
 bool CartaoPontoDados::requireSelection() {
@@ -173,16 +171,14 @@ bool CartaoPontoDados::saveSchedule() {
             schedule.saturdayIsNormal = at_.person.agrees(kSaturdayIsNormal);
         const auto hold = holdFolder(at_);
         requireScheduleAsShown();
-        winvrx::saveSchedule(at_.files, at_.session.folder, company_.value(), selectedCode(),
-                             schedule);
+        winvrx::saveSchedule(at_.store(), {company_.value(), selectedCode()}, schedule);
         schedule_ = TypedSchedule(decodeSchedule(encode(schedule)));
         return true;
     });
 }
 
 void CartaoPontoDados::requireScheduleAsShown() const {
-    const auto onDisk =
-        loadSchedule(at_.files, at_.session.folder, company_.value(), selectedCode());
+    const auto onDisk = loadSchedule(at_.store(), {company_.value(), selectedCode()});
     if (onDisk.value_or(StandardSchedule()) != schedule_.recorded())
         throw Fault("schedule changed on disk", std::string(kChangedElsewhere));
 }
@@ -255,13 +251,12 @@ bool CartaoPontoDados::savePunches() {
         const auto hold = holdFolder(at_);
         if (!requireOpenMonth()) return false;
         const CompanyCode& company = company_.value();
-        const auto onDisk =
-            loadPunches(at_.files, at_.session.folder, company, selectedCode(), settings_.month);
+        const auto onDisk = loadPunches(at_.store(), {company, selectedCode()}, settings_.month);
         if (onDisk.value_or(blankMonth(settings_.month)) != sheet_.recorded())
             throw Fault("punches changed on disk", std::string(kChangedElsewhere));
         std::vector<FileSystem::NewContent> batch;
-        PunchFiles(at_.files, at_.session.folder, queries_.payroll, settings_)
-            .add(batch, company, selectedCode(),
+        PunchFiles(at_.store(), queries_.payroll, settings_)
+            .add(batch, {company, selectedCode()},
                  editedPunchRecord(at_.files.read(punchFile()).value_or(std::string()),
                                    settings_.month, sheet_.lines()));
         at_.files.replaceAll(batch);

@@ -50,7 +50,7 @@ bool CartaoPontoDados::requireOpenMonth() {
 bool CartaoPontoDados::chooseMinutes(Minutes minutes) {
     if (minutes == minutes_) return true;
     return attemptWriting(at_, incorrectData(), [&] {
-        saveMinutes(at_.files, at_.session.folder, minutes);
+        saveMinutes(at_.store(), minutes);
         minutes_ = minutes;
         return true;
     });
@@ -87,7 +87,7 @@ bool CartaoPontoDados::passesChecks() {
          .month = settings_.month,
          .applied = applied_,
          .edited = sheet_.changed(),
-         .inGroup = rotates && queries_.rotation.isMember(company, selectedCode()),
+         .inGroup = rotates && queries_.rotation.isMember({company, selectedCode()}),
          .lacksSituation = leavesWorkBlank(schedule_.schedule()) && situationToApply_.empty(),
          .onLeave = marks_[*position_].onLeave});
 }
@@ -107,7 +107,7 @@ bool CartaoPontoDados::applyPunches() {
         if (at_.files.read(punchFile()) != before)
             throw Fault("punches changed on disk", std::string(kChangedElsewhere));
         if (!requireOpenMonth()) return false;
-        ListApplication application(at_.files, at_.session.folder, queries_, applicationOrder());
+        ListApplication application(at_.store(), queries_, applicationOrder());
         ListApplication::Batch batch;
         application.fillOne(batch, *selected(), selectedCode());
         at_.files.replaceAll(batch);
@@ -155,7 +155,7 @@ bool CartaoPontoDados::fillAll(const std::vector<std::size_t>& positions, bool s
     requireScheduleAsShown();
     ApplicationOrder order = applicationOrder();
     if (sameHours) order.common = schedule_.recorded();
-    ListApplication application(at_.files, at_.session.folder, queries_, std::move(order));
+    ListApplication application(at_.store(), queries_, std::move(order));
     const auto batch = application.fill(codes, progress);
     if (!batch) return false;
     at_.files.replaceAll(*batch);

@@ -47,7 +47,7 @@ bool CartaoPontoDados::changePercent(HourCategory category, std::string_view typ
             !winvrx::changePercent(
                 at_, {company, selectedCode(), settings_.month, overtime_, category, typed}))
             return false;
-        overtime_ = overtimeOf(at_.files, at_.session.folder, company, selectedCode(), settings_);
+        overtime_ = overtimeOf(at_.store(), {company, selectedCode()}, settings_);
         return true;
     });
 }

@@ -30,11 +30,10 @@ bool EmployeeLeaves::contain(Date date) const {
                        [date](const LeavePeriod& one) { return one.contains(date); });
 }
 
-EmployeeLeaves RecordedLeaves::leavesOf(const CompanyCode& company,
-                                        const EmployeeCode& employee) const {
+EmployeeLeaves RecordedLeaves::leavesOf(const EmployeeKey& key) const {
     EmployeeLeaves leaves;
-    const auto bytes =
-        files_.read(folder_.companyFile(company, std::string(kLeaveStem) + employee.text()));
+    const auto bytes = store_.files.read(
+        store_.folder.companyFile(key.company, std::string(kLeaveStem) + key.employee.text()));
     for (const std::string& line : splitLines(bytes.value_or(std::string()))) {
         if (!isLeave(line)) continue;
         const auto first = parseDate(fieldOf(line, kFirstDay));

@@ -32,8 +32,7 @@ struct EmployeeLeaves {
 class LeaveCalendar {
   public:
     virtual ~LeaveCalendar() = default;
-    [[nodiscard]] virtual EmployeeLeaves leavesOf(const CompanyCode& company,
-                                                  const EmployeeCode& employee) const = 0;
+    [[nodiscard]] virtual EmployeeLeaves leavesOf(const EmployeeKey& key) const = 0;
 };
 
 /// Answers from the file that the leaves keep for each employee: company code, "configAf", employee
@@ -42,15 +41,12 @@ class LeaveCalendar {
 class RecordedLeaves final : public LeaveCalendar {
   public:
     /// Both outlive this object; `folder` is the one in use when a question is asked.
-    RecordedLeaves(const FileSystem& files, const DataFolder& folder)
-        : files_(files), folder_(folder) {}
+    RecordedLeaves(const Store& store) : store_(store) {}
 
-    [[nodiscard]] EmployeeLeaves leavesOf(const CompanyCode& company,
-                                          const EmployeeCode& employee) const override;
+    [[nodiscard]] EmployeeLeaves leavesOf(const EmployeeKey& key) const override;
 
   private:
-    const FileSystem& files_;
-    const DataFolder& folder_;
+    Store store_;
 };
 
 }  // namespace winvrx

@@ -11,9 +11,8 @@ namespace winvrx {
 
 namespace {
 
-std::filesystem::path scheduleFile(const DataFolder& folder, const CompanyCode& company,
-                                   const EmployeeCode& employee) {
-    return folder.companyFile(company, scheduleFileName(employee));
+std::filesystem::path scheduleFile(const DataFolder& folder, const EmployeeKey& key) {
+    return folder.companyFile(key.company, scheduleFileName(key.employee));
 }
 
 void requireReadable(const EmployeeLeaves& leaves) {
@@ -32,13 +31,12 @@ void requireReadable(const StandardSchedule& schedule) {
 
 }  // namespace
 
-ListApplication::ListApplication(FileSystem& files, const DataFolder& folder,
-                                 const CardQueries& queries, ApplicationOrder order)
-    : files_(files),
-      folder_(folder),
+ListApplication::ListApplication(const Store& store, const CardQueries& queries,
+                                 ApplicationOrder order)
+    : store_(store),
       queries_(queries),
       order_(std::move(order)),
-      punchFiles_(files, folder, queries.payroll, order_.settings) {}
+      punchFiles_(store, queries.payroll, order_.settings) {}
 
 std::string_view ListApplication::textOf(Remark remark) {
     switch (remark) {
@@ -67,11 +65,11 @@ std::string_view ListApplication::textOf(Remark remark) {
 std::optional<ListApplication::Remark> ListApplication::hindrance(const Employee& employee,
                                                                   const EmployeeCode& code) const {
     const WorkMonth month = order_.settings.month;
-    if (queries_.payroll.isClosed(order_.company, code, month)) return Remark::Closed;
+    if (queries_.payroll.isClosed({order_.company, code}, month)) return Remark::Closed;
     const auto inactive = inactive_.find(code);
     if (inactive != inactive_.end() && inactive->second < firstDay(month)) return Remark::Inactive;
     const bool rotates = employee.scaleOr() != Scale::Normal;
-    if (lacksGroup(employee, rotates && queries_.rotation.isMember(order_.company, code)))
+    if (lacksGroup(employee, rotates && queries_.rotation.isMember({order_.company, code})))
         return Remark::NoGroup;
     if (const auto admission = requireAdmission(employee); admission && *admission > lastDay(month))
         return Remark::AdmittedLater;
@@ -80,12 +78,12 @@ std::optional<ListApplication::Remark> ListApplication::hindrance(const Employee
 
 StandardSchedule ListApplication::scheduleOf(const EmployeeCode& code) const {
     if (order_.common) return *order_.common;
-    return loadSchedule(files_, folder_, order_.company, code).value_or(StandardSchedule());
+    return loadSchedule(store_, {order_.company, code}).value_or(StandardSchedule());
 }
 
 void ListApplication::copySchedule(Batch& batch, const EmployeeCode& code) const {
-    const auto file = scheduleFile(folder_, order_.company, code);
-    auto lines = RecordFile(files_, file).lines();
+    const auto file = scheduleFile(store_.folder, {order_.company, code});
+    auto lines = RecordFile(store_.files, file).lines();
     if (lines.empty()) lines.emplace_back();
     lines.front() = encode(*order_.common, std::move(lines.front()));
     batch.push_back({file, joinedLines(lines)});
@@ -93,7 +91,7 @@ void ListApplication::copySchedule(Batch& batch, const EmployeeCode& code) const
 
 void ListApplication::fillOne(Batch& batch, const Employee& employee, const EmployeeCode& code) {
     const StandardSchedule schedule = scheduleOf(code);
-    const EmployeeLeaves leaves = queries_.leaves.leavesOf(order_.company, code);
+    const EmployeeLeaves leaves = queries_.leaves.leavesOf({order_.company, code});
     requireReadable(schedule);
     requireReadable(leaves);
     Application application{.schedule = schedule,
@@ -102,11 +100,11 @@ void ListApplication::fillOne(Batch& batch, const Employee& employee, const Empl
                             .situation = order_.situation};
     if (order_.minutes == Minutes::Varied)
         application.spread = [&](const DaySchedule& day, Date date) {
-            return variation_.vary(day, order_.company, code, date);
+            return variation_.vary(day, {order_.company, code}, date);
         };
     std::string record = punchRecordBytes(filledMonth(application, order_.settings));
     if (order_.common) copySchedule(batch, code);
-    punchFiles_.add(batch, order_.company, code, std::move(record));
+    punchFiles_.add(batch, {order_.company, code}, std::move(record));
     if (leavesWorkBlank(schedule)) remarks_[Remark::NoTimes].push_back(employee.name);
     if (leaves.touch(order_.settings.month)) remarks_[Remark::OnLeave].push_back(employee.name);
     filled_.insert(code);
@@ -131,9 +129,9 @@ std::optional<ListApplication::Batch> ListApplication::fill(const std::vector<Em
                                                             const Progress& progress) {
     filled_.clear();
     remarks_.clear();
-    inactive_ = inactiveEmployees(files_, folder_, order_.company);
+    inactive_ = inactiveEmployees(store_, order_.company);
     std::map<EmployeeCode, Employee> people;
-    for (EmployeeLine& line : EmployeeRegister(files_, folder_, order_.company).load())
+    for (EmployeeLine& line : EmployeeRegister(store_, order_.company).load())
         if (const auto code = line.code()) people.emplace(*code, std::move(line.employee));
     Batch batch;
     std::set<EmployeeCode> seen;

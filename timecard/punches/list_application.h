@@ -40,8 +40,7 @@ class ListApplication {
     using Progress = std::function<bool(int done, int total)>;
 
     /// `files`, `folder` and `queries` outlive this object.
-    ListApplication(FileSystem& files, const DataFolder& folder, const CardQueries& queries,
-                    ApplicationOrder order);
+    ListApplication(const Store& store, const CardQueries& queries, ApplicationOrder order);
 
     /// Fills the cards of these employees as the register has them now, that of a code which
     /// several bear for the first of them. nullopt when cancelled.
@@ -76,8 +75,7 @@ class ListApplication {
     void copySchedule(Batch& batch, const EmployeeCode& code) const;
     void take(Batch& batch, const Employee& employee, const EmployeeCode& code);
 
-    FileSystem& files_;
-    const DataFolder& folder_;
+    Store store_;
     CardQueries queries_;
     ApplicationOrder order_;
     PunchFiles punchFiles_;

@@ -91,17 +91,16 @@ const std::vector<MinuteVariation::Moves>& MinuteVariation::movesOf(const Punche
     return all;
 }
 
-DaySchedule MinuteVariation::vary(const DaySchedule& day, const CompanyCode& company,
-                                  const EmployeeCode& employee, Date date) {
+DaySchedule MinuteVariation::vary(const DaySchedule& day, const EmployeeKey& key, Date date) {
     DaySchedule varied = day;
     const auto times = timesOf(varied);
     Punches punches{};
     for (std::size_t place = 0; place < kPunches; ++place)
         punches[place] = minuteOf(*times[place]);
     const std::vector<Moves>& all = movesOf(punches);
-    const auto key = mixed(static_cast<std::uint64_t>(company.number()) * 1000U +
-                           static_cast<std::uint64_t>(employee.number()));
-    const Moves& moves = all[shuffled(daysSinceEpoch(date) % all.size(), all.size(), key)];
+    const auto seed = mixed(static_cast<std::uint64_t>(key.company.number()) * 1000U +
+                            static_cast<std::uint64_t>(key.employee.number()));
+    const Moves& moves = all[shuffled(daysSinceEpoch(date) % all.size(), all.size(), seed)];
     for (std::size_t place = 0; place < kPunches; ++place)
         if (*times[place]) (*times[place])->sinceMidnight += std::chrono::minutes{moves[place]};
     return varied;

@@ -24,8 +24,7 @@ inline constexpr int kMostMinutesOfDay = 10;
 /// An object keeps what it worked out for a schedule; one serves a whole list of employees.
 class MinuteVariation {
   public:
-    [[nodiscard]] DaySchedule vary(const DaySchedule& day, const CompanyCode& company,
-                                   const EmployeeCode& employee, Date date);
+    [[nodiscard]] DaySchedule vary(const DaySchedule& day, const EmployeeKey& key, Date date);
 
   private:
     static constexpr std::size_t kPunches = 4;

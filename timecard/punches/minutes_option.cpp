@@ -11,15 +11,14 @@ constexpr int kVaried = 1;
 
 }  // namespace
 
-Minutes loadMinutes(FileSystem& files, const DataFolder& folder) {
-    const auto values = RecordFile(files, folder.file(kMinutesName)).values();
+Minutes loadMinutes(const Store& store) {
+    const auto values = RecordFile(store, kMinutesName).values();
     if (values.empty()) return Minutes::Fixed;
     return parseWholeNumber(values.front(), kVaried, kVaried) ? Minutes::Varied : Minutes::Fixed;
 }
 
-void saveMinutes(FileSystem& files, const DataFolder& folder, Minutes minutes) {
-    RecordFile(files, folder.file(kMinutesName))
-        .rewriteValues({minutes == Minutes::Varied ? "1" : "0"});
+void saveMinutes(const Store& store, Minutes minutes) {
+    RecordFile(store, kMinutesName).rewriteValues({minutes == Minutes::Varied ? "1" : "0"});
 }
 
 }  // namespace winvrx

@@ -12,7 +12,7 @@ inline constexpr std::string_view kMinutesName = "MinFixVar";
 
 /// The choice of the whole installation: the record `MinFixVar`, one line with a number, 1 for
 /// varied minutes. Anything else, or no file, means fixed ones.
-[[nodiscard]] Minutes loadMinutes(FileSystem& files, const DataFolder& folder);
-void saveMinutes(FileSystem& files, const DataFolder& folder, Minutes minutes);
+[[nodiscard]] Minutes loadMinutes(const Store& store);
+void saveMinutes(const Store& store, Minutes minutes);
 
 }  // namespace winvrx

@@ -48,40 +48,40 @@ std::string refreshed(Lines period, WorkMonth month, const Lines& record) {
 
 }  // namespace
 
-PunchFiles::PunchFiles(FileSystem& files, const DataFolder& folder, const PayrollLock& payroll,
+PunchFiles::PunchFiles(const Store& store, const PayrollLock& payroll,
                        const MonthSettings& settings)
-    : files_(files),
-      folder_(folder),
+    : store_(store),
       payroll_(payroll),
       month_(settings.month),
       period_(closingPeriod(settings)),
-      nextPeriod_(closingPeriod(loadMonthSettings(files, folder, month_ + kOneMonth))) {}
+      nextPeriod_(closingPeriod(loadMonthSettings(store, month_ + kOneMonth))) {}
 
-void PunchFiles::add(std::vector<FileSystem::NewContent>& batch, const CompanyCode& company,
-                     const EmployeeCode& employee, std::string record) const {
+void PunchFiles::add(std::vector<FileSystem::NewContent>& batch, const EmployeeKey& key,
+                     std::string record) const {
     const auto recorded = [&](WorkMonth month) {
-        return RecordFile(files_, folder_.file(punchFileName(company, employee, month))).lines();
+        return RecordFile(store_, punchFileName(key, month)).lines();
     };
     const auto periodFile = [&](WorkMonth month) {
-        return folder_.file(closingFileName(company, employee, month));
+        return store_.folder.file(closingFileName(key, month));
     };
     // The month was once counted otherwise: should it be again, its record must not be out of date.
     const auto refreshedPeriod = [&](WorkMonth month) {
-        return refreshed(RecordFile(files_, periodFile(month)).lines(), month_, splitLines(record));
+        return refreshed(RecordFile(store_.files, periodFile(month)).lines(), month_,
+                         splitLines(record));
     };
     if (!isCalendarMonth(period_)) {
         const Lines before = reachesBack(period_) ? recorded(month_ - kOneMonth) : Lines();
         batch.push_back({periodFile(month_), periodBytes(period_, before, splitLines(record))});
-    } else if (files_.exists(periodFile(month_))) {
+    } else if (store_.files.exists(periodFile(month_))) {
         batch.push_back({periodFile(month_), refreshedPeriod(month_)});
     }
     const WorkMonth next = month_ + kOneMonth;
-    if (files_.exists(periodFile(next)) && !payroll_.isClosed(company, employee, next))
+    if (store_.files.exists(periodFile(next)) && !payroll_.isClosed(key, next))
         batch.push_back(
             {periodFile(next), reachesBack(nextPeriod_)
                                    ? periodBytes(nextPeriod_, splitLines(record), recorded(next))
                                    : refreshedPeriod(next)});
-    batch.push_back({folder_.file(punchFileName(company, employee, month_)), std::move(record)});
+    batch.push_back({store_.folder.file(punchFileName(key, month_)), std::move(record)});
 }
 
 }  // namespace winvrx

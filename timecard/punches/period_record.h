@@ -15,16 +15,14 @@ namespace winvrx {
 class PunchFiles {
   public:
     /// The referred objects outlive this one.
-    PunchFiles(FileSystem& files, const DataFolder& folder, const PayrollLock& payroll,
-               const MonthSettings& settings);
+    PunchFiles(const Store& store, const PayrollLock& payroll, const MonthSettings& settings);
 
     /// Adds the files of one employee to `batch`. `record` is the new punch record, whole.
-    void add(std::vector<FileSystem::NewContent>& batch, const CompanyCode& company,
-             const EmployeeCode& employee, std::string record) const;
+    void add(std::vector<FileSystem::NewContent>& batch, const EmployeeKey& key,
+             std::string record) const;
 
   private:
-    FileSystem& files_;
-    const DataFolder& folder_;
+    Store store_;
     const PayrollLock& payroll_;
     WorkMonth month_;
     DayPeriod period_;

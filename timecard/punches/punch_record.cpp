@@ -42,9 +42,8 @@ RecordContent contentOf(const std::vector<std::string>& lines, WorkMonth month) 
     return content;
 }
 
-RecordFile recordOf(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
-                    const EmployeeCode& employee, WorkMonth month) {
-    return {files, folder.file(punchFileName(company, employee, month))};
+RecordFile recordOf(const Store& store, const EmployeeKey& key, WorkMonth month) {
+    return {store, punchFileName(key, month)};
 }
 
 }  // namespace
@@ -86,9 +85,8 @@ PunchLine decodePunchLine(std::string_view lineBytes) {
     return line;
 }
 
-std::string punchFileName(const CompanyCode& company, const EmployeeCode& employee,
-                          WorkMonth month) {
-    return company.text() + employee.text() + "-" + monthKey(month) + ".bdx";
+std::string punchFileName(const EmployeeKey& key, WorkMonth month) {
+    return key.company.text() + key.employee.text() + "-" + monthKey(month) + ".bdx";
 }
 
 std::vector<PunchLine> blankMonth(WorkMonth month) {
@@ -98,19 +96,16 @@ std::vector<PunchLine> blankMonth(WorkMonth month) {
     return lines;
 }
 
-std::optional<std::vector<PunchLine>> loadPunches(FileSystem& files, const DataFolder& folder,
-                                                  const CompanyCode& company,
-                                                  const EmployeeCode& employee, WorkMonth month) {
-    const RecordFile record = recordOf(files, folder, company, employee, month);
+std::optional<std::vector<PunchLine>> loadPunches(const Store& store, const EmployeeKey& key,
+                                                  WorkMonth month) {
+    const RecordFile record = recordOf(store, key, month);
     if (!record.exists()) return std::nullopt;
     return contentOf(record.lines(), month).days;
 }
 
-std::vector<std::string> unreadPunchLines(FileSystem& files, const DataFolder& folder,
-                                          const CompanyCode& company, const EmployeeCode& employee,
+std::vector<std::string> unreadPunchLines(const Store& store, const EmployeeKey& key,
                                           WorkMonth month) {
-    std::vector<std::string> unread =
-        contentOf(recordOf(files, folder, company, employee, month).lines(), month).others;
+    std::vector<std::string> unread = contentOf(recordOf(store, key, month).lines(), month).others;
     for (std::string& line : unread)
         line = readableText(line);
     return unread;

@@ -63,24 +63,19 @@ static_assert(isContiguous(kPunchFields, kPunchWidth));
 [[nodiscard]] PunchLine decodePunchLine(std::string_view lineBytes);
 
 /// "01001-03-2024.bdx": company in characters 1-2, employee in 3-5, ".bdx" in 14-17.
-[[nodiscard]] std::string punchFileName(const CompanyCode& company, const EmployeeCode& employee,
-                                        WorkMonth month);
+[[nodiscard]] std::string punchFileName(const EmployeeKey& key, WorkMonth month);
 
 /// One line for each day of the month with its label only.
 [[nodiscard]] std::vector<PunchLine> blankMonth(WorkMonth month);
 
 /// One line for each day of the month, in date order; days that the record lacks carry their label
 /// only. Of two lines for one day the first counts. nullopt when no punches were applied.
-[[nodiscard]] std::optional<std::vector<PunchLine>> loadPunches(FileSystem& files,
-                                                                const DataFolder& folder,
-                                                                const CompanyCode& company,
-                                                                const EmployeeCode& employee,
+[[nodiscard]] std::optional<std::vector<PunchLine>> loadPunches(const Store& store,
+                                                                const EmployeeKey& key,
                                                                 WorkMonth month);
 
 /// What can be shown of the lines of a record that stand for no day of the month, in file order.
-[[nodiscard]] std::vector<std::string> unreadPunchLines(FileSystem& files, const DataFolder& folder,
-                                                        const CompanyCode& company,
-                                                        const EmployeeCode& employee,
+[[nodiscard]] std::vector<std::string> unreadPunchLines(const Store& store, const EmployeeKey& key,
                                                         WorkMonth month);
 
 /// The line of two blanks that opens a record.

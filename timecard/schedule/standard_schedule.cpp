@@ -61,9 +61,8 @@ void putFlag(RecordLine& line, Column column, bool value) {
     if (blank || flagIn(line.bytes(), column) != value) line.put(column, value ? "1" : "0");
 }
 
-RecordFile recordOf(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
-                    const EmployeeCode& employee) {
-    return {files, folder.companyFile(company, scheduleFileName(employee))};
+RecordFile recordOf(const Store& store, const EmployeeKey& key) {
+    return {store, key.company, scheduleFileName(key.employee)};
 }
 
 }  // namespace
@@ -131,16 +130,13 @@ std::string scheduleFileName(const EmployeeCode& employee) {
     return std::string(kScheduleStem) + employee.text() + ".pdx";
 }
 
-std::optional<StandardSchedule> loadSchedule(FileSystem& files, const DataFolder& folder,
-                                             const CompanyCode& company,
-                                             const EmployeeCode& employee) {
-    const auto lines = recordOf(files, folder, company, employee).lines();
+std::optional<StandardSchedule> loadSchedule(const Store& store, const EmployeeKey& key) {
+    const auto lines = recordOf(store, key).lines();
     return lines.empty() ? std::nullopt : std::optional(decodeSchedule(lines.front()));
 }
 
-void saveSchedule(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
-                  const EmployeeCode& employee, const StandardSchedule& schedule) {
-    RecordFile record = recordOf(files, folder, company, employee);
+void saveSchedule(const Store& store, const EmployeeKey& key, const StandardSchedule& schedule) {
+    RecordFile record = recordOf(store, key);
     std::vector<std::string> lines = record.lines();
     if (lines.empty()) lines.emplace_back();
     lines.front() = encode(schedule, std::move(lines.front()));

@@ -67,12 +67,9 @@ inline constexpr std::size_t kFirstSaturdayTime = 4;
 [[nodiscard]] std::string scheduleFileName(const EmployeeCode& employee);
 
 /// nullopt when the employee has no schedule yet.
-[[nodiscard]] std::optional<StandardSchedule> loadSchedule(FileSystem& files,
-                                                           const DataFolder& folder,
-                                                           const CompanyCode& company,
-                                                           const EmployeeCode& employee);
+[[nodiscard]] std::optional<StandardSchedule> loadSchedule(const Store& store,
+                                                           const EmployeeKey& key);
 /// Lines behind the first, if the file has any, stay as they are.
-void saveSchedule(FileSystem& files, const DataFolder& folder, const CompanyCode& company,
-                  const EmployeeCode& employee, const StandardSchedule& schedule);
+void saveSchedule(const Store& store, const EmployeeKey& key, const StandardSchedule& schedule);
 
 }  // namespace winvrx

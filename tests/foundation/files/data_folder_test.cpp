@@ -78,7 +78,7 @@ TEST(DataFolder, NamesAreReadByPosition) {
                           {"bk-0115-03-2024-10-00.bkp", false, false},
                           {"", false, false}}) {
         EXPECT_EQ(isRecordOfCompany(c.name, kFirst), c.ofCompany) << c.name;
-        EXPECT_EQ(isRecordOfEmployee(c.name, kFirst, kEmployee), c.ofEmployee) << c.name;
+        EXPECT_EQ(isRecordOfEmployee(c.name, {kFirst, kEmployee}), c.ofEmployee) << c.name;
     }
 }
 
@@ -88,11 +88,11 @@ TEST(DataFolder, DeletingACodeLeavesTheOthersAlone) {
     for (const char* name : {"01Empresa", "01CartaPonto", "01PadrHor001.pdx", "02CartaPonto",
                              "02PadrHor001.pdx", "02PadrHor002.pdx", "02001-03-2024.bdx"})
         files.content[folder.file(name)] = name;
-    removeRecordsOfEmployee(files, folder, kSecond, kEmployee);
+    removeRecordsOfEmployee({files, folder}, {kSecond, kEmployee});
     EXPECT_TRUE(files.exists("/data/02PadrHor002.pdx"));
     EXPECT_TRUE(files.exists("/data/02CartaPonto"));
     EXPECT_EQ(files.content.size(), 5U);
-    removeRecordsOfCompany(files, folder, kSecond);
+    removeRecordsOfCompany({files, folder}, kSecond);
     EXPECT_EQ(files.content.size(), 3U);
     EXPECT_TRUE(files.exists("/data/01Empresa"));
     EXPECT_TRUE(files.exists("/data/01CartaPonto"));

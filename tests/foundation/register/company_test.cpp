@@ -68,7 +68,7 @@ TEST(Company, BytesThatNobodyUnderstandsAreKept) {
 
 TEST(CompanyRegister, AMissingRegisterBeginsWithTheSampleCompany) {
     TestWorkplace desk;
-    EXPECT_TRUE(loadCompanies(desk.files, kFolder).empty());
+    EXPECT_TRUE(loadCompanies({desk.files, kFolder}).empty());
     const auto lines = loadOrCreateCompanies(desk.at);
     ASSERT_EQ(lines.size(), 1U);
     EXPECT_EQ(lines[0].company, sampleCompany(kToday));
@@ -87,12 +87,12 @@ TEST(CompanyRegister, LinesThatNobodyUnderstandsComeBackAsTheyWere) {
     MemoryFiles files;
     const std::string bytes = "01 A\r\n\r\nXX ?\x81\r\n123\r\n";
     files.content["/data/01Empresa"] = bytes;
-    const auto lines = loadCompanies(files, kFolder);
+    const auto lines = loadCompanies({files, kFolder});
     ASSERT_EQ(lines.size(), 4U);
     EXPECT_TRUE(lines[0].code());
     for (const std::size_t damaged : {1U, 2U, 3U})
         EXPECT_FALSE(lines[damaged].code()) << damaged;
-    saveCompanies(files, kFolder, lines);
+    saveCompanies({files, kFolder}, lines);
     EXPECT_EQ(files.content["/data/01Empresa"], bytes);
 }
 

@@ -83,7 +83,7 @@ TEST(Employee, RecordTextsHaveAMeaning) {
 
 TEST(EmployeeRegister, OneCopyAnHourIsKept) {
     MemoryFiles files;
-    EmployeeRegister list(files, kFolder, kCompany);
+    EmployeeRegister list({files, kFolder}, kCompany);
     list.save({lineOf("001")}, at("15/03/2024", "10:05"));
     EXPECT_EQ(files.content.size(), 1U) << "nothing to copy the first time";
     const std::string first = files.content["/data/01CartaPonto"];
@@ -100,7 +100,7 @@ TEST(EmployeeRegister, OneCopyAnHourIsKept) {
 
 TEST(EmployeeRegister, NothingIsWrittenWhenTheCopyFails) {
     MemoryFiles files;
-    EmployeeRegister list(files, kFolder, kCompany);
+    EmployeeRegister list({files, kFolder}, kCompany);
     list.save({lineOf("001")}, at("15/03/2024", "10:05"));
     const auto before = files.content;
     files.failOn.insert("bk-0115-03-2024-10-00.bkp");

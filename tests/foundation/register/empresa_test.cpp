@@ -66,7 +66,7 @@ TEST_F(EmpresaTest, IncludeAppendsUnderTheNextCode) {
     EXPECT_TRUE(empresa_.include(typed));
     EXPECT_EQ(desk_.person.shown[0].title, "INCLUSÃO");
     EXPECT_THAT(desk_.person.takeTexts(), ElementsAre("Confirma a Inclusão?"));
-    const Company stored = loadCompanies(desk_.files, desk_.session.folder).at(1).company;
+    const Company stored = loadCompanies(desk_.store()).at(1).company;
     EXPECT_EQ(stored.code, "02");
     EXPECT_EQ(stored.name, "PADARIA DO ZÉ");
     EXPECT_EQ(stored.recordDate, "15/03/2024");
@@ -96,7 +96,7 @@ TEST_F(EmpresaTest, ChangeKeepsCodeAndOrder) {
     EXPECT_EQ(desk_.person.shown[0].title, "ALTERAÇÃO");
     EXPECT_THAT(desk_.person.takeTexts(), ElementsAre("Confirma a Alteração do Item Selecionado?"));
     EXPECT_EQ(codes(), "01 02 03 ");
-    EXPECT_EQ(loadCompanies(desk_.files, desk_.session.folder)[0].company.name, "EMPRESA NOVA");
+    EXPECT_EQ(loadCompanies(desk_.store())[0].company.name, "EMPRESA NOVA");
 }
 
 TEST_F(EmpresaTest, TheFirstCompanyStays) {

@@ -82,7 +82,7 @@ TEST_F(CartaoTest, PrintOneRefusesInOrder) {
         desk.person.answers = {Answer::Yes};
         EXPECT_FALSE(screen.printOne(one.selected, {}));
         EXPECT_EQ(desk.person.takeTexts(), (Texts{kConfirmOne, one.refusal}));
-        saveSelectedMonth(desk.files, desk.session.folder, {kMarch, ShiftFilter::Todos});
+        saveSelectedMonth(desk.store(), {kMarch, ShiftFilter::Todos});
     }
     EXPECT_TRUE(engine.jobs.empty());
 }
@@ -252,13 +252,13 @@ TEST_F(CartaoOpened, ProgressCancelsTheRun) {
 }
 
 TEST_F(CartaoOpened, AlignmentAndPrinterAreThoseOfTheStockInUse) {
-    saveOffsets(desk.files, desk.session.folder, *alignmentEntryOf("20"), {50, 70});
-    savePrintScale(desk.files, desk.session.folder, {{"Epson", "20"}, {10100, 9900, 5, -5}});
+    saveOffsets(desk.store(), *alignmentEntryOf("20"), {50, 70});
+    savePrintScale(desk.store(), {{"Epson", "20"}, {10100, 9900, 5, -5}});
     alignment.lines = 2;
     EXPECT_TRUE(screen.printAll({}));
     EXPECT_EQ(engine.jobs.at(0).request.printerName, "");
     EXPECT_EQ(engine.jobs.at(0).request.alignment, (Alignment{70, 50, 2, {10100, 9900, 5, -5}}));
-    savePrinterName(desk.files, desk.session.folder, "Impressora-da-recepcao-do-3o-andar");
+    savePrinterName(desk.store(), "Impressora-da-recepcao-do-3o-andar");
     screen.load();
     EXPECT_TRUE(screen.printAll({}));
     EXPECT_EQ(engine.jobs.at(1).request.printerName, "Impressora-da-recepcao-do-3o-a");
@@ -286,17 +286,17 @@ TEST_F(CartaoOpened, CardIsMadeOfTheEmployeesRecords) {
     schedule.weekday.morning = {parseTime("07:00"), parseTime("11:00")};
     const CompanyCode company = *desk.session.company;
     const EmployeeCode ana = *EmployeeCode::parse("002");
-    saveSchedule(desk.files, desk.session.folder, company, ana, schedule);
+    saveSchedule(desk.store(), {company, ana}, schedule);
     std::vector<PunchLine> punches(31);
     for (std::size_t day = 0; day < punches.size(); ++day)
         punches[day].label = dayLabel(plusDays(firstDay(kMarch), static_cast<int>(day)));
     punches[0].morningEntry = "07:03";
     punches[0].morningExit = "11:00";
     punches[1].situation = "DESCANSO SEMANAL";
-    desk.file(punchFileName(company, ana, kMarch)) = punchRecordBytes(punches);
+    desk.file(punchFileName({company, ana}, kMarch)) = punchRecordBytes(punches);
     OvertimeRules own;
     own.totalsFormat = TotalsFormat::DecimalHours;
-    saveOvertime(desk.files, desk.session.folder, company, ana, {kMarch, own});
+    saveOvertime(desk.store(), {company, ana}, {kMarch, own});
     EXPECT_TRUE(screen.printAll({}));
     const auto& rows = engine.jobs.at(0).cards.at(1);
     EXPECT_EQ(rows[0][cardColumn("razao")], "EMPRESA MODELO LTDA");

@@ -58,14 +58,14 @@ TEST_F(CartaoPontosTest, EachStepIsTwentyTwipsWithinTheBoundsAndRecorded) {
         for (int press = 0; press < one.presses; ++press)
             EXPECT_TRUE(screen.move(one.direction));
         EXPECT_EQ(screen.offsets(), one.offsets);
-        EXPECT_EQ(loadOffsets(desk.files, desk.session.folder)[4], one.offsets);
-        EXPECT_EQ(loadOffsets(desk.files, desk.session.folder)[3], Offsets());
+        EXPECT_EQ(loadOffsets(desk.store())[4], one.offsets);
+        EXPECT_EQ(loadOffsets(desk.store())[3], Offsets());
     }
 }
 
 TEST_F(CartaoPontosTest, AnEntryLoadsItsOffsetsAndItsScale) {
-    saveOffsets(desk.files, desk.session.folder, 0, {50, 90});
-    savePrintScale(desk.files, desk.session.folder, {{"HP-Balcao", "01"}, {10100, 9900, 100, -50}});
+    saveOffsets(desk.store(), 0, {50, 90});
+    savePrintScale(desk.store(), {{"HP-Balcao", "01"}, {10100, 9900, 100, -50}});
     EXPECT_TRUE(screen.select(0));
     EXPECT_EQ(screen.alignment(), (Alignment{90, 50, 0, {10100, 9900, 100, -50}}));
     EXPECT_EQ(screen.layoutName(), "tilibcenter.rpt");
@@ -117,11 +117,11 @@ TEST_F(CartaoPontosTest, AFailedStepLeavesFileAndFigures) {
     EXPECT_EQ(desk.file("Config"), before);
     desk.files.failWritesOn.clear();
     desk.person.takeTexts();
-    saveOffsets(desk.files, desk.session.folder, 4, {500, 500});
+    saveOffsets(desk.store(), 4, {500, 500});
     EXPECT_FALSE(screen.move(Direction::Right));
     EXPECT_EQ(desk.person.shown.at(0).detail,
               "O alinhamento foi alterado por outro computador. Abra a tela novamente.");
-    EXPECT_EQ(loadOffsets(desk.files, desk.session.folder)[4], (Offsets{500, 500}));
+    EXPECT_EQ(loadOffsets(desk.store())[4], (Offsets{500, 500}));
 }
 
 TEST_F(CartaoPontosTest, TestPrintAsksForTheCardAndTakesTheAlignmentAlong) {
@@ -187,7 +187,7 @@ TEST_F(CartaoPontosTest, FailedPrintsAreTold) {
 TEST_F(CartaoPontosTest, ScaleIsTypedOrMeasuredAndKeptForPrinterAndStock) {
     EXPECT_TRUE(screen.typeScale({"100,5", "99,75", "-1,2", "0"}));
     EXPECT_EQ(screen.scale(), (PrintScale{10050, 9975, -120, 0}));
-    EXPECT_EQ(loadPrintScale(desk.files, desk.session.folder, {"HP-Balcao", "05"}), screen.scale());
+    EXPECT_EQ(loadPrintScale(desk.store(), {"HP-Balcao", "05"}), screen.scale());
     EXPECT_TRUE(screen.typeDistances({"31", "181", "30", "260"}));
     EXPECT_EQ(screen.scale(), (PrintScale{10000, 10000, -100, 0}));
 

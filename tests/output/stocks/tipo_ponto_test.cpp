@@ -152,7 +152,7 @@ TEST(TipoPonto, AStoredStockNamesNoLayoutOutside) {
     for (const char* line : {"../../x", "/e", "..", "01/../x", "1 ", "\xB2\xB3", "\t1", "0"}) {
         Desk desk;
         desk.file("01CartaoDePontoTipo") = line;
-        const CardStock* stock = loadStock(desk.files, desk.session);
+        const CardStock* stock = loadStock(desk.store(), *desk.session.company);
         const bool known = std::string_view(line).starts_with("01");
         EXPECT_EQ(stock != nullptr, known) << line;
         EXPECT_EQ(layoutFor(line, TrayPosition::Central, LayoutSet::A), std::nullopt) << line;

@@ -31,7 +31,7 @@ struct EmployeeHoursTest : ::testing::Test {
     std::string& file(const std::string& name) { return files.content["/data/" + name]; }
 
     [[nodiscard]] std::optional<EmployeeHours> load(HoursPeriod which) {
-        return loadEmployeeHours(files, folder, kCompany, ana, settings, which);
+        return loadEmployeeHours({files, folder}, kCompany, ana, settings, which);
     }
 };
 
@@ -74,7 +74,7 @@ TEST_F(EmployeeHoursTest, EachDayGoesByTheHolidaysOfItsOwnMonth) {
     MonthSettings february;
     february.month = 2024y / 2;
     february.setHoliday(*parseDate("28/02/2024"), true);
-    saveMonthSettings(files, folder, february);
+    saveMonthSettings({files, folder}, february);
     settings.setHoliday(*parseDate("28/03/2024"), true);
     file("01001-02-2024.bdx") = "  \r\n28/qua/fev08:0012:00\r\n";
     file("01001-03-2024.bdx") = "  \r\n";
@@ -89,7 +89,7 @@ TEST_F(EmployeeHoursTest, TheEmployeesOwnFiguresComeBeforeTheMonths) {
     file("01001-03-2024.bdx") = "  \r\n05/ter/mar08:0017:00\r\n";
     OvertimeRules own;
     own.mode = OvertimeMode::SingleLevel;
-    saveOvertime(files, folder, kCompany, kAna, {settings.month, own});
+    saveOvertime({files, folder}, {kCompany, kAna}, {settings.month, own});
     const auto hours = load(HoursPeriod::CalendarMonth);
     ASSERT_TRUE(hours);
     EXPECT_EQ(hours->totals()[HourCategory::ExtraMaximum], 1h);

@@ -25,7 +25,7 @@ struct PercentChangeTest : ::testing::Test {
     [[nodiscard]] OvertimeRules recorded(WorkMonth month) {
         MonthSettings settings;
         settings.month = month;
-        return overtimeOf(desk.files, desk.session.folder, kCompany, kAna, settings);
+        return overtimeOf(desk.store(), {kCompany, kAna}, settings);
     }
 };
 
@@ -59,7 +59,7 @@ TEST_F(PercentChangeTest, RefusesWhatIsNoPercentage) {
 
 TEST_F(PercentChangeTest, ARefusalOrAnotherWriterLeavesTheRecord) {
     const OvertimeLine before{2024y / 3, shown};
-    saveOvertime(desk.files, desk.session.folder, kCompany, kAna, before);
+    saveOvertime(desk.store(), {kCompany, kAna}, before);
     const std::string bytes = desk.file(kRecord);
     desk.person.answers = {Answer::No};
     EXPECT_FALSE(change(HourCategory::ExtraMinimum, "60"));

@@ -102,8 +102,8 @@ TEST(BusinessDays, ThePresentMonthIsJudgedByItsRecordElseByTheOffer) {
     EXPECT_EQ(overview.notices[0], "Hoje é o(a) 28 do Mês e, 24º Dia Útil do Mes de março");
     EXPECT_EQ(overview.notices[4], "Feriados ainda não confirmados.");
 
-    saveMonthSettings(desk.files, desk.session.folder, monthWith("03-2024", {"04/03/2024"}));
-    saveSelectedMonth(desk.files, desk.session.folder, {*parseMonthKey("02-2024"), {}});
+    saveMonthSettings(desk.store(), monthWith("03-2024", {"04/03/2024"}));
+    saveSelectedMonth(desk.store(), {*parseMonthKey("02-2024"), {}});
     overview = calendar.overview(today);
     EXPECT_EQ(overview.month, *parseMonthKey("02-2024"));
     EXPECT_FALSE(overview.recorded);

@@ -37,7 +37,7 @@ const MonthNumberField& fieldOf(std::string MonthNumbers::*typed) {
 
 TEST_F(MonthScreen, OpensOnTheSelectedMonthElseOnThePresentOne) {
     EXPECT_EQ(screen.settings().month, 2024y / 3);
-    saveSelectedMonth(desk.files, desk.session.folder, {2023y / 12, ShiftFilter::Todos});
+    saveSelectedMonth(desk.store(), {2023y / 12, ShiftFilter::Todos});
     screen.open();
     EXPECT_EQ(screen.monthCaption(), "DEZEMBRO/2023");
     EXPECT_EQ(screen.holidayHeading(), "Selecione os feriados no mês de: DEZEMBRO/2023");
@@ -107,7 +107,7 @@ TEST_F(MonthScreen, RecordsAndConfirms) {
     EXPECT_TRUE(screen.record());
     EXPECT_FALSE(screen.changed());
     EXPECT_FALSE(desk.files.content.contains("/data/DataIde.ivc"));
-    const auto written = loadMonthSettings(desk.files, desk.session.folder, 2024y / 3);
+    const auto written = loadMonthSettings(desk.store(), 2024y / 3);
     EXPECT_THAT(written.holidays(),
                 ElementsAre(*parseDate("19/03/2024"), *parseDate("29/03/2024")));
     EXPECT_EQ(written.overtime.nightMaximumPercent, 130);
@@ -153,14 +153,13 @@ TEST_F(MonthScreen, WithoutGravacaoTheTicksOnRecordStay) {
     screen.setRecordTicks(true);
     screen.clearTicks();
     ASSERT_TRUE(screen.record());
-    EXPECT_THAT(loadMonthSettings(desk.files, desk.session.folder, 2024y / 3).holidays(),
-                ::testing::IsEmpty());
+    EXPECT_THAT(loadMonthSettings(desk.store(), 2024y / 3).holidays(), ::testing::IsEmpty());
 }
 
 TEST_F(MonthScreen, AMonthChangedElsewhereMeanwhileIsNotOverwritten) {
     MonthSettings elsewhere = screen.settings();
     elsewhere.closingDay = 21;
-    saveMonthSettings(desk.files, desk.session.folder, elsewhere);
+    saveMonthSettings(desk.store(), elsewhere);
     const auto untouched = desk.files.content;
     tick("29/03/2024");
     EXPECT_FALSE(screen.record());

@@ -114,7 +114,7 @@ TEST(Holidays, TheUsersOwnDaysAreOfferedAmongTheOthers) {
     desk.file("Feriados") =
         "30/02      NUNCA\r\n20/11/2023 MUNICIPAL\r\n03/11      PADROEIRA\r\n"
         "15/11      BANDEIRA\r\n03/11/2024 S\xD3 EM 2024\r\n";
-    const auto offer = offeredHolidays(desk.files, desk.session.folder, 2024y / 11);
+    const auto offer = offeredHolidays(desk.store(), 2024y / 11);
     EXPECT_THAT(textsOf(offer), ElementsAre("02/11+Finados", "03/11+PADROEIRA", "03/11+SÓ EM 2024",
                                             "15/11+Proclamação da República", "15/11+BANDEIRA",
                                             "20/11+Consciência Negra"));

@@ -33,7 +33,7 @@ TEST(MonthSettings, RecordHasItsValuesOnTheirLines) {
     TestWorkplace desk;
     const MonthSettings settings = unusualSettings();
     desk.file("03-2024ds.rdx") = std::string(53, '\n') + "de outra vers\xE3o\n\n";
-    saveMonthSettings(desk.files, desk.session.folder, settings);
+    saveMonthSettings(desk.store(), settings);
     const auto lines = splitLines(desk.file("03-2024ds.rdx"));
     ASSERT_EQ(lines.size(), 55U);
     // March 2024 begins on a Friday, cell 5 from 0: day 29 is cell 33, line 34.
@@ -42,26 +42,26 @@ TEST(MonthSettings, RecordHasItsValuesOnTheirLines) {
     EXPECT_THAT(std::vector(lines.begin() + 42, lines.end()),
                 ::testing::ElementsAre("60", "70", "120", "130", "0", "1", "1", "1", "3", "21", "0",
                                        "de outra vers\xE3o", ""));
-    EXPECT_EQ(loadMonthSettings(desk.files, desk.session.folder, 2024y / 3), settings);
+    EXPECT_EQ(loadMonthSettings(desk.store(), 2024y / 3), settings);
 }
 
 TEST(MonthSettings, WhatIsNoNumberOfItsRangeCountsAsDefault) {
     MonthSettings defaults;
     defaults.month = 2024y / 3;
     TestWorkplace desk;
-    EXPECT_FALSE(hasMonthSettings(desk.files, desk.session.folder, 2024y / 3));
-    EXPECT_EQ(loadMonthSettings(desk.files, desk.session.folder, 2024y / 3), defaults);
+    EXPECT_FALSE(hasMonthSettings(desk.store(), 2024y / 3));
+    EXPECT_EQ(loadMonthSettings(desk.store(), 2024y / 3), defaults);
     for (const char* junk : {"x", "-1", "1000", "50%", "5 0", "99999999999999999999", ""}) {
         std::string& file = desk.file("03-2024ds.rdx");
         file.clear();
         for (int line = 0; line < 53; ++line)
             file.append(junk).append("\n");
-        EXPECT_EQ(loadMonthSettings(desk.files, desk.session.folder, 2024y / 3), defaults) << junk;
+        EXPECT_EQ(loadMonthSettings(desk.store(), 2024y / 3), defaults) << junk;
     }
     desk.file("03-2024ds.rdx") = "0\r\n0\r\n0\r\n0\r\n0\r\n 1";
     MonthSettings cutShort = defaults;
     cutShort.setHoliday(*parseDate("01/03/2024"), true);
-    EXPECT_EQ(loadMonthSettings(desk.files, desk.session.folder, 2024y / 3), cutShort);
+    EXPECT_EQ(loadMonthSettings(desk.store(), 2024y / 3), cutShort);
 }
 
 TEST(MonthSettings, ALineWhoseMeaningStaysKeepsItsBytes) {
@@ -72,13 +72,13 @@ TEST(MonthSettings, ALineWhoseMeaningStaysKeepsItsBytes) {
     lines[43] = " 070";
     lines[53] = "alheia \x81";
     desk.file("03-2024ds.rdx") = joinedLines(lines);
-    MonthSettings settings = loadMonthSettings(desk.files, desk.session.folder, 2024y / 3);
+    MonthSettings settings = loadMonthSettings(desk.store(), 2024y / 3);
     settings.overtime.maximumPercent = 120;
-    saveMonthSettings(desk.files, desk.session.folder, settings);
+    saveMonthSettings(desk.store(), settings);
     lines[44] = "120";
     EXPECT_EQ(splitLines(desk.file("03-2024ds.rdx")), lines);
     settings.overtime.minimumPercent = 60;
-    saveMonthSettings(desk.files, desk.session.folder, settings);
+    saveMonthSettings(desk.store(), settings);
     lines[42] = "60";
     EXPECT_EQ(splitLines(desk.file("03-2024ds.rdx")), lines);
 }
@@ -87,7 +87,7 @@ TEST(MonthSettings, LinesThatAreNotUnderstoodAreNamed) {
     TestWorkplace desk;
     const auto unread = [&](const std::vector<std::string>& lines) {
         desk.file("03-2024ds.rdx") = joinedLines(lines);
-        return unreadMonthLines(desk.files, desk.session.folder, 2024y / 3);
+        return unreadMonthLines(desk.store(), 2024y / 3);
     };
     std::vector<std::string> lines(53, " 1 ");
     EXPECT_THAT(unread(lines), ::testing::IsEmpty());
@@ -128,19 +128,19 @@ TEST(MonthSettings, HolidaysAreThoseOfTheMonthAlone) {
 
 TEST(SelectedMonth, KeepsMonthAndFilterAndMistrustsTheFile) {
     TestWorkplace desk;
-    EXPECT_FALSE(loadSelectedMonth(desk.files, desk.session.folder));
-    saveSelectedMonth(desk.files, desk.session.folder, {2024y / 3, ShiftFilter::Dois});
+    EXPECT_FALSE(loadSelectedMonth(desk.store()));
+    saveSelectedMonth(desk.store(), {2024y / 3, ShiftFilter::Dois});
     EXPECT_EQ(desk.file("DataIde.ivc"), "03-2024\r\nDois\r\n");
-    const auto selected = loadSelectedMonth(desk.files, desk.session.folder);
+    const auto selected = loadSelectedMonth(desk.store());
     ASSERT_TRUE(selected);
     EXPECT_EQ(selected->month, 2024y / 3);
     EXPECT_EQ(selected->shiftFilter, ShiftFilter::Dois);
     for (const char* junk : {"", "\r\n", "13-2024", "03/2024", "março/2024\r\nDois"}) {
         desk.file("DataIde.ivc") = junk;
-        EXPECT_FALSE(loadSelectedMonth(desk.files, desk.session.folder)) << junk;
+        EXPECT_FALSE(loadSelectedMonth(desk.store())) << junk;
     }
     desk.file("DataIde.ivc") = "03-2024\nNenhum";
-    EXPECT_EQ(loadSelectedMonth(desk.files, desk.session.folder)->shiftFilter, ShiftFilter::Todos);
+    EXPECT_EQ(loadSelectedMonth(desk.store())->shiftFilter, ShiftFilter::Todos);
 }
 
 }  // namespace

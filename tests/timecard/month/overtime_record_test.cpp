@@ -55,7 +55,7 @@ TEST(OvertimeRecord, AMonthIsPutAmongTheOthersWhichStay) {
     const auto save = [&](WorkMonth month) {
         OvertimeLine line = unusualLine();
         line.month = month;
-        saveOvertime(desk.files, desk.session.folder, kCompany, kAna, line);
+        saveOvertime(desk.store(), {kCompany, kAna}, line);
     };
     save(2024y / 3);
     EXPECT_EQ(desk.file("01MedHorExtr001"), "03-2024 60  7   120 130 1 1 1 12\r\n");
@@ -81,18 +81,15 @@ TEST(OvertimeRecord, TheMonthsRulesHoldWhereTheEmployeeHasNone) {
     MonthSettings march;
     march.month = 2024y / 3;
     march.overtime.minimumPercent = 75;
-    const auto rules = [&] {
-        return overtimeOf(desk.files, desk.session.folder, kCompany, kAna, march);
-    };
+    const auto rules = [&] { return overtimeOf(desk.store(), {kCompany, kAna}, march); };
     EXPECT_EQ(rules(), march.overtime);
     OvertimeLine line = unusualLine();
     line.month = 2024y / 4;
-    saveOvertime(desk.files, desk.session.folder, kCompany, kAna, line);
+    saveOvertime(desk.store(), {kCompany, kAna}, line);
     EXPECT_EQ(rules(), march.overtime);
-    saveOvertime(desk.files, desk.session.folder, kCompany, kAna, unusualLine());
+    saveOvertime(desk.store(), {kCompany, kAna}, unusualLine());
     EXPECT_EQ(rules(), unusualLine().rules);
-    EXPECT_FALSE(loadOvertime(desk.files, desk.session.folder, kCompany,
-                              *EmployeeCode::parse("002"), 2024y / 3));
+    EXPECT_FALSE(loadOvertime(desk.store(), {kCompany, *EmployeeCode::parse("002")}, 2024y / 3));
 }
 
 }  // namespace

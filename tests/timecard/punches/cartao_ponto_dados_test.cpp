@@ -120,7 +120,7 @@ TEST_F(CardScreen, SavingPunchesWritesThePeriodsRecord) {
     march.month = 2024y / 3;
     march.fixedMonth = false;
     march.closingDay = 21;
-    saveMonthSettings(desk.files, desk.session.folder, march);
+    saveMonthSettings(desk.store(), march);
     desk.file(kPunches) =
         "  \r\n04/seg/mar08:0012:00  " + std::string(23, ' ') + "as ten chars   and the rest\r\n";
     openOn(0);
@@ -237,7 +237,7 @@ TEST_F(CardScreen, AFailingDiskLeavesTheMonthOnTheScreen) {
     openOn(0);
     screen.sheet().type(4, PunchCell::MorningEntry, "8");
     desk.files.failOn = {"01CartaPonto"};
-    saveSelectedMonth(desk.files, desk.session.folder, {2024y / 4, ShiftFilter::Todos});
+    saveSelectedMonth(desk.store(), {2024y / 4, ShiftFilter::Todos});
     EXPECT_FALSE(screen.open());
     EXPECT_EQ(screen.settings().month, 2024y / 3);
     EXPECT_EQ(screen.sheet().text(4, PunchCell::MorningEntry), "08:00");

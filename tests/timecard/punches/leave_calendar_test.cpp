@@ -24,17 +24,17 @@ std::string leave(const char* type, const char* first, const char* last) {
 TEST(RecordedLeaves, AreTheNumberedLinesOfTheEmployeesFile) {
     testing::MemoryFiles files;
     const DataFolder folder('C', "/data");
-    const RecordedLeaves calendar(files, folder);
+    const RecordedLeaves calendar({files, folder});
     const CompanyCode company = *CompanyCode::parse("01");
     const EmployeeCode ana = *EmployeeCode::parse("001");
-    EXPECT_THAT(calendar.leavesOf(company, ana).periods, IsEmpty());
+    EXPECT_THAT(calendar.leavesOf({company, ana}).periods, IsEmpty());
 
     files.content["/data/01configAf001"] =
         joinedLines({leave("006 FÉRIAS", "20/02/2024", "05/03/2024"), "nota",
                      leave("008 RESCISÃO_CONTRATO_TRABALHO", "31/03/2024", "31/03/2024"),
                      leave("007 ATESTADO_DECALRAÇÃO", "31/02/2024", "02/03/2024"),
                      leave("003 AUXILIO_DOENÇA", "10/03/2024", "09/03/2024"), "**** "});
-    const EmployeeLeaves leaves = calendar.leavesOf(company, ana);
+    const EmployeeLeaves leaves = calendar.leavesOf({company, ana});
     ASSERT_EQ(leaves.periods.size(), 2U);
     EXPECT_EQ(leaves.unread.size(), 2U);
     struct Case {

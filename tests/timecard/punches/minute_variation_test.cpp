@@ -63,7 +63,7 @@ Year yearOf(const DaySchedule& standard, int employees) {
         DaySchedule yesterday;
         for (Date date = *parseDate("01/01/2024"); date <= *parseDate("31/12/2024");
              date = plusDays(date, 1)) {
-            const DaySchedule varied = variation.vary(standard, kCompany, employee, date);
+            const DaySchedule varied = variation.vary(standard, {kCompany, employee}, date);
             year.faults += faultsOf(standard, varied);
             if (varied == yesterday) ++year.equalDays;
             yesterday = varied;
@@ -101,8 +101,9 @@ TEST(MinuteVariation, IsTheSameOnEveryMachineAndDiffersBetweenEmployees) {
     const DaySchedule standard = dayOf({"08:00", "12:00", "13:00", "17:00"});
     const auto text = [&](const char* company, const char* employee, const char* date) {
         MinuteVariation variation;
-        const DaySchedule day = variation.vary(standard, *CompanyCode::parse(company),
-                                               *EmployeeCode::parse(employee), *parseDate(date));
+        const DaySchedule day =
+            variation.vary(standard, {*CompanyCode::parse(company), *EmployeeCode::parse(employee)},
+                           *parseDate(date));
         std::string times;
         for (const Punch& punch : punchesOf(day))
             times += timeText(punch.value()) + " ";
@@ -123,11 +124,11 @@ TEST(MinutesOption, OneMeansVaried) {
                           Case{"0\r\n", Minutes::Fixed}, Case{"2\r\n", Minutes::Fixed},
                           Case{"", Minutes::Fixed}, Case{"x1", Minutes::Fixed}}) {
         desk.file("MinFixVar") = c.file;
-        EXPECT_EQ(loadMinutes(desk.files, desk.session.folder), c.minutes) << c.file;
+        EXPECT_EQ(loadMinutes(desk.store()), c.minutes) << c.file;
     }
     desk.files.content.clear();
-    EXPECT_EQ(loadMinutes(desk.files, desk.session.folder), Minutes::Fixed);
-    saveMinutes(desk.files, desk.session.folder, Minutes::Varied);
+    EXPECT_EQ(loadMinutes(desk.store()), Minutes::Fixed);
+    saveMinutes(desk.store(), Minutes::Varied);
     EXPECT_EQ(desk.file("MinFixVar"), "1\r\n");
 }
 

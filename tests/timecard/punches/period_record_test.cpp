@@ -37,8 +37,7 @@ struct PeriodRecords : ::testing::Test {
 
     auto filesOf(const MonthSettings& settings, const char* record) {
         std::vector<FileSystem::NewContent> batch;
-        PunchFiles(desk.files, desk.session.folder, asked.locks, settings)
-            .add(batch, kCompany, kAna, record);
+        PunchFiles(desk.store(), asked.locks, settings).add(batch, {kCompany, kAna}, record);
         return linesOf(batch);
     }
 };
@@ -82,7 +81,7 @@ TEST_F(PeriodRecords, OneOfATimeWithAnotherPeriodFollowsItsDays) {
 
 TEST_F(PeriodRecords, TheNextPeriodFollowsUnlessItIsClosed) {
     const MonthSettings february = closingOn(2024y / 2, 21);
-    saveMonthSettings(desk.files, desk.session.folder, closingOn(2024y / 3, 21));
+    saveMonthSettings(desk.store(), closingOn(2024y / 3, 21));
     const std::string record = "  \r\n29/qui/fev08:00\r\n";
     EXPECT_FALSE(filesOf(february, record.c_str()).contains("01001-03-2024.prd"));
 

@@ -41,7 +41,7 @@ TEST(PunchLine, TextThatCannotBeStoredIsRefused) {
 
 /// Records the lines over what the employee's record holds.
 void edit(TestWorkplace& desk, WorkMonth month, const std::vector<PunchLine>& lines) {
-    std::string& record = desk.file(punchFileName(kCompany, kEmployee, month));
+    std::string& record = desk.file(punchFileName({kCompany, kEmployee}, month));
     record = editedPunchRecord(record, month, lines);
 }
 
@@ -70,12 +70,12 @@ TEST(PunchRecord, WritesTheOpeningLineAndEveryDayInOrder) {
     EXPECT_EQ(written[0], "  ");
     EXPECT_EQ(written[1], "01/qui/fev" + std::string(50, ' '));
     EXPECT_EQ(written[29], "29/qui/fev08:00" + std::string(45, ' '));
-    EXPECT_EQ(loadPunches(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 2), lines);
+    EXPECT_EQ(loadPunches(desk.store(), {kCompany, kEmployee}, 2024y / 2), lines);
 }
 
 TEST(PunchRecord, DamagedRecordGivesEveryDayAndKeepsWhatItDoesNotKnow) {
     TestWorkplace desk;
-    EXPECT_FALSE(loadPunches(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 3));
+    EXPECT_FALSE(loadPunches(desk.store(), {kCompany, kEmployee}, 2024y / 3));
     desk.file(kName) =
         "  \r\n"
         "02/sab/mar09:00\r\n"
@@ -83,7 +83,7 @@ TEST(PunchRecord, DamagedRecordGivesEveryDayAndKeepsWhatItDoesNotKnow) {
         "01/sex/mar08:0012:00\r\n"
         "01/sex/mar07:00\r\n"
         "05/ter/mar08:0";
-    const auto lines = loadPunches(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 3);
+    const auto lines = loadPunches(desk.store(), {kCompany, kEmployee}, 2024y / 3);
     ASSERT_TRUE(lines);
     ASSERT_EQ(lines->size(), 31U);
     EXPECT_EQ((*lines)[0].morningEntry, "08:00");
@@ -91,7 +91,7 @@ TEST(PunchRecord, DamagedRecordGivesEveryDayAndKeepsWhatItDoesNotKnow) {
     EXPECT_EQ((*lines)[4].morningEntry, "08:0");
     EXPECT_EQ((*lines)[30].label, "31/dom/mar");
 
-    EXPECT_THAT(unreadPunchLines(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 3),
+    EXPECT_THAT(unreadPunchLines(desk.store(), {kCompany, kEmployee}, 2024y / 3),
                 ::testing::ElementsAre("anotação de alguém", "01/sex/mar07:00"));
 
     edit(desk, 2024y / 3, *lines);
@@ -99,7 +99,7 @@ TEST(PunchRecord, DamagedRecordGivesEveryDayAndKeepsWhatItDoesNotKnow) {
     ASSERT_EQ(written.size(), 34U);
     EXPECT_EQ(written[32], "anota\xE7\xE3o de algu\xE9m");
     EXPECT_EQ(written[33], "01/sex/mar07:00");
-    EXPECT_EQ(loadPunches(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 3), lines);
+    EXPECT_EQ(loadPunches(desk.store(), {kCompany, kEmployee}, 2024y / 3), lines);
 }
 
 TEST(PunchRecord, ADayWithStrangeBytesDoesNotKeepTheOthersFromBeingSaved) {
@@ -107,7 +107,7 @@ TEST(PunchRecord, ADayWithStrangeBytesDoesNotKeepTheOthersFromBeingSaved) {
     const std::string strange =
         "02/sab/mar\x01\x81:00      \t" + std::string(37, ' ') + "further\x8D";
     desk.file(kName) = "  \r\n" + strange + "\r\n";
-    auto lines = *loadPunches(desk.files, desk.session.folder, kCompany, kEmployee, 2024y / 3);
+    auto lines = *loadPunches(desk.store(), {kCompany, kEmployee}, 2024y / 3);
     lines[4].morningEntry = "08:00";
     edit(desk, 2024y / 3, lines);
     const auto written = splitLines(desk.file(kName));
@@ -118,7 +118,7 @@ TEST(PunchRecord, ADayWithStrangeBytesDoesNotKeepTheOthersFromBeingSaved) {
 TEST(PunchRecord, ADayPastTheMonthsEndIsNoDay) {
     TestWorkplace desk;
     desk.file("01001-02-2026.bdx") = "  \r\n29/dom/fev08:00\r\n";
-    const auto lines = loadPunches(desk.files, desk.session.folder, kCompany, kEmployee, 2026y / 2);
+    const auto lines = loadPunches(desk.store(), {kCompany, kEmployee}, 2026y / 2);
     EXPECT_EQ(lines, blankMonth(2026y / 2));
 }
 

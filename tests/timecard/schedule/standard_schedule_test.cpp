@@ -60,11 +60,11 @@ TEST(StandardSchedule, WhatIsNoTimeStaysUntilATimeIsPutThere) {
 
 TEST(StandardSchedule, SavingReplacesTheFirstLineOnly) {
     TestWorkplace desk;
-    EXPECT_FALSE(loadSchedule(desk.files, desk.session.folder, kCompany, kEmployee));
+    EXPECT_FALSE(loadSchedule(desk.store(), {kCompany, kEmployee}));
     desk.file("01PadrHor007.pdx") = sampleLine() + "\r\nlinha alheia\r\n";
-    StandardSchedule schedule = *loadSchedule(desk.files, desk.session.folder, kCompany, kEmployee);
+    StandardSchedule schedule = *loadSchedule(desk.store(), {kCompany, kEmployee});
     schedule.weekday.morning.entry = parseTime("07:30");
-    saveSchedule(desk.files, desk.session.folder, kCompany, kEmployee, schedule);
+    saveSchedule(desk.store(), {kCompany, kEmployee}, schedule);
     std::string expected = sampleLine().replace(0, 5, "07:30");
     EXPECT_EQ(desk.file("01PadrHor007.pdx"), expected + "\r\nlinha alheia\r\n");
 }

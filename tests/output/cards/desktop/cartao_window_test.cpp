@@ -60,8 +60,7 @@ class CartaoWindowTest : public ::testing::Test {
         desk.file("01CartaPonto") = encode(employee("001", "JOSÉ DA SILVA", "Unico")) + "\r\n" +
                                     encode(employee("002", "ANA PAULA", "Dois")) + "\r\n";
         desk.file("01CartaoDePontoTipo") = "01Tilibra\r\n";
-        saveSelectedMonth(desk.files, desk.session.folder,
-                          {std::chrono::year(2024) / 3, ShiftFilter::Todos});
+        saveSelectedMonth(desk.store(), {std::chrono::year(2024) / 3, ShiftFilter::Todos});
     }
 
     static Employee employee(const char* code, const char* name, const char* shift) {
@@ -146,8 +145,7 @@ TEST_F(CartaoWindowTest, ReturnsFromTheOtherScreensUpToDate) {
         .openStocks = [this](QWidget*) { desk.file("01CartaoDePontoTipo") = "05\r\n"; },
         .openWorkMonth =
             [this](QWidget*) {
-                saveSelectedMonth(desk.files, desk.session.folder,
-                                  {std::chrono::year(2024) / 2, ShiftFilter::Todos});
+                saveSelectedMonth(desk.store(), {std::chrono::year(2024) / 2, ShiftFilter::Todos});
             }};
     CartaoWindow window(cartao, links);
     open(window);

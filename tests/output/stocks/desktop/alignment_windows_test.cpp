@@ -61,7 +61,7 @@ TEST_F(AlignmentWindow, TheSampleMovesWithTheOffsets) {
         driven.press(Qt::Key_Down, Qt::ControlModifier);
     EXPECT_EQ(driven.get<QLineEdit>("alinhamento.horizontal").text(), QStringLiteral("810"));
     EXPECT_EQ(driven.get<QLineEdit>("alinhamento.vertical").text(), QStringLiteral("410"));
-    EXPECT_EQ(loadOffsets(desk.files, desk.session.folder)[0], (Offsets{410, 810}));
+    EXPECT_EQ(loadOffsets(desk.store())[0], (Offsets{410, 810}));
     const double dotsPerTwip = driven.get<QWidget>("sample.page").width() / (210 / 25.4 * 1440);
     const QPoint moved = firstInk(driven) - before;
     constexpr double kDot = 1.5;
@@ -80,7 +80,7 @@ TEST_F(AlignmentWindow, TheSampleLeavesTheHeaderToTheStockAsThePrintDoes) {
         return firstInk(driven).y();
     };
     const int withHeader = top();
-    savePrinterMemory(desk.files, desk.session, {.printHeader = false});
+    savePrinterMemory(desk.store(), *desk.session.company, {.printHeader = false});
     EXPECT_GT(top(), withHeader);
 }
 
@@ -147,7 +147,7 @@ TEST_F(AlignmentWindow, TypedScaleStaysUntilItIsRecorded) {
 }
 
 TEST_F(AlignmentWindow, AnEntryIsShownWithItsOffsetsAndAMissingLayoutSaidSo) {
-    saveOffsets(desk.files, desk.session.folder, 15, {70, 90});
+    saveOffsets(desk.store(), 15, {70, 90});
     DrivenWindow<CartaoPontosWindow> driven(screen, [](const std::string& name) {
         if (name != "tilibcenter.rpt") throw LayoutFault(name, "not found");
         return shippedLayout(name);

@@ -38,7 +38,7 @@ struct MonthWindow : ::testing::Test {
         return rows.join(u'\n').toStdString();
     }
     [[nodiscard]] MonthSettings recorded() {
-        return loadMonthSettings(desk.files, desk.session.folder, *parseMonthKey("03-2024"));
+        return loadMonthSettings(desk.store(), *parseMonthKey("03-2024"));
     }
 };
 
@@ -154,7 +154,7 @@ TEST_F(MonthWindow, AWrongNumberIsSaidBesideItAndKeepsTheWindowOpen) {
     driven->click("month.confirm");
     EXPECT_EQ(driven->window.result(), QDialog::Accepted);
     EXPECT_EQ(recorded().overtime.minimumPercent, 60);
-    EXPECT_TRUE(loadSelectedMonth(desk.files, desk.session.folder));
+    EXPECT_TRUE(loadSelectedMonth(desk.store()));
 }
 
 TEST_F(MonthWindow, ChoicesAreRecordedAndShownAgain) {

@@ -43,8 +43,7 @@ struct CardWindow : ::testing::Test {
         jose.shift = "Dois";
         desk.file("01CartaPonto") = joinedLines({encode(ana), encode(jose)});
         desk.file("01PadrHor001.pdx") = "08:0012:0013:0017:00";
-        saveSelectedMonth(desk.files, desk.session.folder,
-                          {*parseMonthKey("03-2024"), ShiftFilter::Todos});
+        saveSelectedMonth(desk.store(), {*parseMonthKey("03-2024"), ShiftFilter::Todos});
     }
 
     void open() {
