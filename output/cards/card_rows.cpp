@@ -3,6 +3,7 @@
 #include "foundation/values/text.h"
 #include "timecard/hours/hours.h"
 #include "timecard/punches/situation.h"
+#include "timecard/schedule/schedule_words.h"
 
 #include <chrono>
 
@@ -12,34 +13,27 @@ namespace {
 
 constexpr int kFirstHalfEnd = 15;
 
-std::string pairText(const TimePair& pair) {
-    if (!pair.entry && !pair.exit) return {};
-    const auto shown = [](const std::optional<TimeOfDay>& time) {
-        return time ? timeText(*time) : std::string();
-    };
-    return "Ent:" + shown(pair.entry) + " Saí:" + shown(pair.exit);
-}
+/// The header block as the screen shows it.
+constexpr std::string_view kHeaderText =
+    "Razão: {razao}\n"
+    "Cnpj: {cnpj} - Reg.: {registro} CTPS: {ctps}\n"
+    "Admiss: {admissao}\n"
+    "Função: {funcao}\n"
+    "Período.: {periodo} - Descanso Semanal: {descanso}\n"
+    "{horario} - Inter.Refei.: {refeicao}";
 
-DaySchedule weekdaySchedule(const CardData& card) {
-    return card.schedule ? card.schedule->weekday : DaySchedule();
+MergeWords headerWords(const CardData& card) {
+    MergeWords words = mergeWords(card.company, card.employee);
+    putMonth(words, card.settings.month);
+    putSchedule(words, card.schedule ? card.schedule->weekday : DaySchedule());
+    return words;
 }
 
 CardRow headerRow(const CardData& card) {
-    const Employee& employee = card.employee;
+    const MergeWords words = headerWords(card);
     CardRow row;
-    row[cardColumn("razao")] = card.company.name;
-    row[cardColumn("cnpj")] = card.company.taxId;
-    row[cardColumn("registro")] = employee.registration;
-    row[cardColumn("ctps")] = employee.workBooklet;
-    row[cardColumn("admissao")] = employee.admission;
-    row[cardColumn("funcao")] = employee.function;
-    row[cardColumn("periodo")] = periodText(card.settings.month);
-    row[cardColumn("descanso")] = restDayText(employee);
-    row[cardColumn("horario")] = scheduleText(weekdaySchedule(card));
-    row[cardColumn("refeicao")] = mealText(weekdaySchedule(card));
-    row[cardColumn("nome")] = employee.name;
-    row[cardColumn("codigo")] = employee.code;
-    row[cardColumn("mes")] = monthTitle(card.settings.month);
+    for (std::size_t at = 0; at < cardColumn("linha"); ++at)
+        row[at] = words.at(kCardColumns[at]);
     return row;
 }
 
@@ -116,38 +110,8 @@ class PunchWriter {
 
 }  // namespace
 
-std::string restDayText(const Employee& employee) {
-    return std::string(weekdayName(weeklyRestOf(employee)));
-}
-
-std::string scheduleText(const DaySchedule& schedule) {
-    const std::string morning = pairText(schedule.morning);
-    const std::string afternoon = pairText(schedule.afternoon);
-    return morning + (morning.empty() || afternoon.empty() ? "" : " ") + afternoon;
-}
-
-std::string mealText(const DaySchedule& schedule) {
-    if (!schedule.morning.exit || !schedule.afternoon.entry) return {};
-    return timeText(*schedule.morning.exit) + " às " + timeText(*schedule.afternoon.entry);
-}
-
-std::string periodText(WorkMonth month) {
-    return dateText(firstDay(month)) + " a " + dateText(lastDay(month));
-}
-
 std::string headerText(const CardData& card) {
-    const Employee& employee = card.employee;
-    std::string text = "Razão: " + card.company.name;
-    text += "\nCnpj: " + card.company.taxId;
-    text += " - Reg.: " + employee.registration;
-    text += " CTPS: " + employee.workBooklet;
-    text += "\nAdmiss: " + employee.admission;
-    text += "\nFunção: " + employee.function;
-    text += "\nPeríodo.: " + periodText(card.settings.month);
-    text += " - Descanso Semanal: " + restDayText(employee);
-    text += "\n" + scheduleText(weekdaySchedule(card));
-    text += " - Inter.Refei.: " + mealText(weekdaySchedule(card));
-    return text;
+    return headerWords(card).filled(kHeaderText);
 }
 
 std::vector<CardRow> cardRows(const CardData& card) {

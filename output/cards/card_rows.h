@@ -34,18 +34,6 @@ struct CardData {
     std::optional<std::vector<PunchLine>> punches;  ///< nullopt: none were applied
 };
 
-/// "domingo" … "sábado"; Sunday where the record does not say.
-[[nodiscard]] std::string restDayText(const Employee& employee);
-
-/// "Ent:08:00 Saí:12:00 Ent:13:00 Saí:17:00"; a pair without times is left out.
-[[nodiscard]] std::string scheduleText(const DaySchedule& schedule);
-
-/// "12:00 às 13:00"; empty unless the day has both a morning exit and an afternoon entry.
-[[nodiscard]] std::string mealText(const DaySchedule& schedule);
-
-/// "01/03/2024 a 31/03/2024".
-[[nodiscard]] std::string periodText(WorkMonth month);
-
 /// The header block as the screen shows it, captions included, in lines.
 [[nodiscard]] std::string headerText(const CardData& card);
 

@@ -227,26 +227,5 @@ TEST(CardHeader, TextIsInOrderWithItsCaptions) {
               "Ent:08:00 Saí:12:00 Ent:13:00 Saí:17:00 - Inter.Refei.: 12:00 às 13:00");
 }
 
-TEST(CardHeader, ScheduleRestAndMeal) {
-    const TimePair morning = pairOf("06:00", "12:00");
-    const TimePair night = pairOf("22:00", "06:00");
-    EXPECT_EQ(scheduleText({morning, {}}), "Ent:06:00 Saí:12:00");
-    EXPECT_EQ(scheduleText({{}, night}), "Ent:22:00 Saí:06:00");
-    EXPECT_EQ(scheduleText({}), "");
-    EXPECT_EQ(mealText({morning, {}}), "");
-    EXPECT_EQ(mealText({{}, night}), "");
-    for (const auto& [stored, shown] :
-         std::vector<std::pair<const char*, const char*>>{{"", "domingo"},
-                                                          {"dom", "domingo"},
-                                                          {"seg", "segunda-feira"},
-                                                          {"SÁB", "sábado"},
-                                                          {"sab", "sábado"},
-                                                          {"???", "domingo"}}) {
-        Employee employee;
-        employee.restDay = stored;
-        EXPECT_EQ(restDayText(employee), shown) << stored;
-    }
-}
-
 }  // namespace
 }  // namespace winvrx
