@@ -20,12 +20,12 @@ const Message kRotationScale{"Aplicação de Ponto",
 const Message kAddToRotation{
     "Aplicação de Ponto", "Portanto é Necessário PRIMEIRO adicioná-lo na ESCALA DE REVEZAMENTO!!!",
     Icon::Exclamation};
+const std::string kNoScheduleTimes = "O horário de trabalho não tem horas de segunda a sexta";
 const Message kNoSituation{
     "Situação",
     "Você não informou a Situação para Essa Operação! Se deseja Informar Clique em 'CANCELAR', "
     "Senão, Clique em 'OK' para Prosseguir",
-    Icon::Question, Buttons::OkCancel,
-    "O horário de trabalho não tem horas de segunda a sexta: os dias ficarão sem horas."};
+    Icon::Question, Buttons::OkCancel, kNoScheduleTimes + ": os dias ficarão sem horas."};
 const Message kHasLeave{
     "Afastamento",
     "Este Funcionário possui Informação de Afastamento! Se Deseja desistir Clique em 'CANCELAR', "
@@ -54,6 +54,20 @@ const Message kEveryShift{
     kSameHoursTitle,
     "ERRO!! O TURNO selecionado não pode ser <Todos>, Portanto Selecione um turno Específico!",
     Icon::Critical};
+Message modelLacksSchedule(const Employee& model) {
+    return {kSameHoursTitle, kNoScheduleTimes + ".", Icon::Critical, Buttons::Ok,
+            "Grave primeiro o horário de " + model.code + " " + model.name +
+                ", ou selecione outro funcionário."};
+}
+
+Message modelNotListed(const Employee& model) {
+    Message message = kNoEmployeeLine;
+    message.detail = model.code + " " + model.name +
+                     " não está na lista mostrada. Limpe a pesquisa ou selecione um funcionário da "
+                     "lista.";
+    return message;
+}
+
 const Message kErasesAll{
     "Aplicação Ponto",
     "Esta Operação Irá Apagar Todos os Dados Já Existentes, Se Houverem Alterações Serão Perdidas "
@@ -75,19 +89,23 @@ Message confirmList(const std::string& description) {
             Icon::Question, Buttons::YesNo};
 }
 
-Message counted(Message message, std::size_t employees) {
-    message.detail = employees == 1 ? "A lista tem 1 funcionário."
-                                    : "A lista tem " + std::to_string(employees) + " funcionários.";
+Message confirmation(const ListApplicationCase& asked) {
+    Message message = asked.sameHours ? kConfirmSameHours : confirmList(asked.description);
+    if (asked.sameHours)
+        message.detail =
+            "O horário é o de " + asked.selected->code + " " + asked.selected->name + ". ";
+    message.detail += "A lista tem " + std::to_string(asked.employees) +
+                      (asked.employees == 1 ? " funcionário." : " funcionários.");
     return message;
 }
 
-bool mayReplaceApplied(Operator& person, const ApplicationCase& asked) {
+bool confirmReplacement(Operator& person, const ApplicationCase& asked) {
     if (!asked.applied && !asked.edited) return true;
     if (asked.applied) person.tell(kAlreadyApplied);
     return person.agrees(kReplaceApplied);
 }
 
-bool isAdmittedBy(Operator& person, const Employee& employee, WorkMonth month) {
+bool requireAdmittedBy(Operator& person, const Employee& employee, WorkMonth month) {
     const auto admission = requireAdmission(employee);
     const bool inTime = !admission || *admission <= lastDay(month);
     if (!inTime) person.tell(kAdmissionTooLate);
@@ -109,8 +127,8 @@ bool lacksGroup(const Employee& employee, bool inGroup) {
     return employee.scaleOr() != Scale::Normal && !inGroup;
 }
 
-bool passesApplicationChecks(Operator& person, const ApplicationCase& asked) {
-    if (!mayReplaceApplied(person, asked)) return false;
+bool confirmApplication(Operator& person, const ApplicationCase& asked) {
+    if (!confirmReplacement(person, asked)) return false;
     if (lacksGroup(asked.employee, asked.inGroup)) {
         person.tell(kRotationScale);
         person.tell(kAddToRotation);
@@ -118,22 +136,24 @@ bool passesApplicationChecks(Operator& person, const ApplicationCase& asked) {
     }
     if (asked.lacksSituation && !person.agrees(kNoSituation)) return false;
     if (asked.onLeave && !person.agrees(kHasLeave)) return false;
-    return isAdmittedBy(person, asked.employee, asked.month) && person.agrees(kConfirmApplication);
+    return requireAdmittedBy(person, asked.employee, asked.month) &&
+           person.agrees(kConfirmApplication);
 }
 
-bool passesListChecks(Operator& person, const ListApplicationCase& asked) {
+bool confirmListApplication(Operator& person, const ListApplicationCase& asked) {
     const auto refuse = [&person](const Message& message) {
         person.tell(message);
         return false;
     };
     if (asked.onLeave) return refuse(kModelOnLeave);
     if (!asked.selected) return refuse(kNoEmployeeLine);
-    if (!isAdmittedBy(person, *asked.selected, asked.month)) return false;
+    if (asked.sameHours && !asked.listed) return refuse(modelNotListed(*asked.selected));
+    if (!requireAdmittedBy(person, *asked.selected, asked.month)) return false;
     if (asked.sameHours && asked.mixed) return refuse(kMixedList);
     if (asked.sameHours && asked.everyShift) return refuse(kEveryShift);
-    if (!person.agrees(kErasesAll) || !person.agrees(kCertainToReplace)) return false;
-    const Message confirm = asked.sameHours ? kConfirmSameHours : confirmList(asked.description);
-    return person.agrees(counted(confirm, asked.employees));
+    if (asked.sameHours && asked.lacksSchedule) return refuse(modelLacksSchedule(*asked.selected));
+    return person.agrees(kErasesAll) && person.agrees(kCertainToReplace) &&
+           person.agrees(confirmation(asked));
 }
 
 }  // namespace winvrx

@@ -21,20 +21,22 @@ struct ApplicationCase {
 
 /// Tells or asks one thing after the other until the operator has confirmed or something ends the
 /// command; true when the punches may be applied. Throws Fault for an admission date that is none.
-[[nodiscard]] bool passesApplicationChecks(Operator& person, const ApplicationCase& asked);
+[[nodiscard]] bool confirmApplication(Operator& person, const ApplicationCase& asked);
 
 /// What the checks of "Aplicar Ponto p/Todos" ask of the list and of the employee selected in it.
 struct ListApplicationCase {
     const Employee* selected = nullptr;
     WorkMonth month;
-    bool onLeave = false;     ///< the employee selected
-    bool sameHours = false;   ///< his schedule is to become everyone's
-    bool mixed = false;       ///< the list has more than one shift or scale
-    bool everyShift = false;  ///< the list is not filtered by shift
-    std::string description;  ///< of the list: "Turno: Unico"
+    bool onLeave = false;        ///< the employee selected
+    bool sameHours = false;      ///< his schedule is to become everyone's
+    bool listed = true;          ///< the employee selected is one of those to be filled
+    bool lacksSchedule = false;  ///< the employee selected
+    bool mixed = false;          ///< the list has more than one shift or scale
+    bool everyShift = false;     ///< the list is not filtered by shift
+    std::string description;     ///< of the list: "Turno: Unico"
     std::size_t employees = 0;
 };
-[[nodiscard]] bool passesListChecks(Operator& person, const ListApplicationCase& asked);
+[[nodiscard]] bool confirmListApplication(Operator& person, const ListApplicationCase& asked);
 
 /// nullopt when the record has none. Throws Fault when what stands there is no date.
 [[nodiscard]] std::optional<Date> requireAdmission(const Employee& employee);

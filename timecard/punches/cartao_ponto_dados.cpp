@@ -40,7 +40,7 @@ Message inPunchEntry(Message message) {
 }  // namespace
 
 CartaoPontoDados::CartaoPontoDados(const Workplace& at, const CardQueries& queries)
-    : at_(at), queries_(queries) {
+    : at_(at), queries_(queries), filter_(at.session.shiftFilter) {
     settings_.month = monthOf(at_.clock.today());
     sheet_ = CardSheet(blankMonth(settings_.month));
 }
@@ -56,8 +56,7 @@ bool CartaoPontoDados::open() {
             at_.person.tell(kNoMonth);
             return false;
         }
-        loadList(*at_.session.company, loadMonthSettings(at_.store(), selected->month),
-                 selected->shiftFilter);
+        loadList(*at_.session.company, loadMonthSettings(at_.store(), selected->month), filter_);
         return true;
     });
 }
@@ -112,7 +111,7 @@ void CartaoPontoDados::loadCard(std::size_t position) {
 }
 
 bool CartaoPontoDados::filterBy(ShiftFilter filter) {
-    if (!mayLeave()) return false;
+    if (!confirmLeaving()) return false;
     return attempt(at_, incorrectData(), [&] {
         loadList(company_.value(), settings_, filter);
         return true;
@@ -120,7 +119,7 @@ bool CartaoPontoDados::filterBy(ShiftFilter filter) {
 }
 
 bool CartaoPontoDados::select(std::size_t position) {
-    if (!mayLeave()) return false;
+    if (!confirmLeaving()) return false;
     return attempt(at_, incorrectData(), [&] {
         loadCard(position);
         return true;
@@ -209,7 +208,7 @@ DayKind CartaoPontoDados::kindOf(int day) const {
 }
 
 bool CartaoPontoDados::pasteCells(int day, PunchCell cell, std::string_view text) {
-    if (!mayEdit()) return false;
+    if (!requireEditable()) return false;
     Message refusal = inPunchEntry(incorrectData());
     refusal.detail = paste(sheet_, day, cell, parseCellBlock(text));
     if (!refusal.detail.empty()) at_.person.tell(refusal);
@@ -230,7 +229,7 @@ std::vector<int> CartaoPontoDados::daysWithoutSituation() const {
     return days;
 }
 
-bool CartaoPontoDados::acceptsBlankDays() {
+bool CartaoPontoDados::confirmBlankDays() {
     const std::vector<int> days = daysWithoutSituation();
     if (days.empty()) return true;
     Message message = kNeedsSituation;
@@ -247,7 +246,7 @@ bool CartaoPontoDados::savePunches() {
     return attempt(at_, inPunchEntry(incorrectData()), [this] {
         if (!requireOpenMonth()) return false;
         if (const auto finding = sheet_.firstFinding()) throw Fault("punches typed", *finding);
-        if (!acceptsBlankDays()) return false;
+        if (!confirmBlankDays()) return false;
         const auto hold = holdFolder(at_);
         if (!requireOpenMonth()) return false;
         const CompanyCode& company = company_.value();
@@ -270,7 +269,7 @@ bool CartaoPontoDados::saveChanges() {
     return (!schedule_.changed() || saveSchedule()) && (!sheet_.changed() || savePunches());
 }
 
-bool CartaoPontoDados::mayLeave() {
+bool CartaoPontoDados::confirmLeaving() {
     if (!changed()) return true;
     const Answer answer = at_.person.ask(kRecordChanges);
     if (answer == Answer::Cancel) return false;

@@ -25,9 +25,9 @@ class CartaoPontoDados {
   public:
     CartaoPontoDados(const Workplace& at, const CardQueries& queries);
 
-    /// Loads the work month and the list, filtered as the month was chosen; the card of the
-    /// employee chosen before stays chosen if the list has it. False when no company or no month is
-    /// chosen.
+    /// Loads the work month and the list; the filter stays, at first that of the main window, and
+    /// so does the employee chosen before if the list has him. False when no company or no month
+    /// is chosen.
     [[nodiscard]] bool open();
     [[nodiscard]] const std::optional<CompanyCode>& company() const { return company_; }
     [[nodiscard]] const std::string& companyName() const { return companyName_; }
@@ -76,7 +76,7 @@ class CartaoPontoDados {
     /// The month is closed for the employee selected: "Folha Fechada".
     [[nodiscard]] bool closed() const;
     /// False when the month is closed, which the operator is then told.
-    [[nodiscard]] bool mayEdit();
+    [[nodiscard]] bool requireEditable();
     /// Puts the cells of a spreadsheet into the sheet, from `day` and `cell` on. False when that
     /// is refused.
     [[nodiscard]] bool pasteCells(int day, PunchCell cell, std::string_view text);
@@ -101,7 +101,7 @@ class CartaoPontoDados {
     [[nodiscard]] bool changed() const { return schedule_.changed() || sheet_.changed(); }
     /// Asks whether unrecorded changes are to be recorded. True when the screen may go on to
     /// something else: they are recorded or given up.
-    [[nodiscard]] bool mayLeave();
+    [[nodiscard]] bool confirmLeaving();
 
   private:
     void loadList(const CompanyCode& company, const MonthSettings& settings, ShiftFilter filter);
@@ -114,13 +114,15 @@ class CartaoPontoDados {
     void requireReadableSchedule() const;
     void requireScheduleAsShown() const;
     void requireStorableSituation() const;
-    [[nodiscard]] bool scheduleIsRecorded();
-    [[nodiscard]] bool passesChecks();
-    [[nodiscard]] bool passesChecks(const std::vector<std::size_t>& positions, bool sameHours);
+    /// Offers to record a schedule that was typed. False when it stays unrecorded.
+    [[nodiscard]] bool saveTypedSchedule();
+    [[nodiscard]] bool confirmApplication();
+    [[nodiscard]] bool confirmListApplication(const std::vector<std::size_t>& positions,
+                                              bool sameHours);
     [[nodiscard]] ApplicationOrder applicationOrder() const;
     [[nodiscard]] bool fillAll(const std::vector<std::size_t>& positions, bool sameHours,
                                const ListApplication::Progress& progress);
-    [[nodiscard]] bool acceptsBlankDays();
+    [[nodiscard]] bool confirmBlankDays();
     [[nodiscard]] EmployeeCode selectedCode() const;
     [[nodiscard]] WorkTerms terms() const;
     [[nodiscard]] std::filesystem::path punchFile() const;
@@ -134,7 +136,7 @@ class CartaoPontoDados {
     std::string companyName_;
     MonthSettings settings_;
     OvertimeRules overtime_;
-    ShiftFilter filter_ = ShiftFilter::Todos;
+    ShiftFilter filter_;
     std::vector<Employee> employees_;
     std::vector<EmployeeMark> marks_;
     std::optional<std::size_t> position_;

@@ -36,7 +36,7 @@ bool CartaoPontoDados::closed() const {
     return position_ && marks_[*position_].closed;
 }
 
-bool CartaoPontoDados::mayEdit() {
+bool CartaoPontoDados::requireEditable() {
     if (!requireSelection()) return false;
     if (closed()) at_.person.tell(kClosedMonth);
     return !closed();
@@ -44,7 +44,7 @@ bool CartaoPontoDados::mayEdit() {
 
 bool CartaoPontoDados::requireOpenMonth() {
     marks_[*position_] = markOf(company_.value(), *selected(), settings_.month);
-    return mayEdit();
+    return requireEditable();
 }
 
 bool CartaoPontoDados::chooseMinutes(Minutes minutes) {
@@ -74,14 +74,14 @@ ApplicationOrder CartaoPontoDados::applicationOrder() const {
             .common = std::nullopt};
 }
 
-bool CartaoPontoDados::scheduleIsRecorded() {
+bool CartaoPontoDados::saveTypedSchedule() {
     return !schedule_.changed() || (at_.person.agrees(kScheduleNotRecorded) && saveSchedule());
 }
 
-bool CartaoPontoDados::passesChecks() {
+bool CartaoPontoDados::confirmApplication() {
     const CompanyCode& company = company_.value();
     const bool rotates = selected()->scaleOr() != Scale::Normal;
-    return passesApplicationChecks(
+    return winvrx::confirmApplication(
         at_.person,
         {.employee = *selected(),
          .month = settings_.month,
@@ -98,10 +98,10 @@ bool CartaoPontoDados::applyPunches() {
         if (!requireOpenMonth()) return false;
         const auto before = at_.files.read(punchFile());
         applied_ = applied_ || before;
-        if (!passesChecks()) return false;
+        if (!confirmApplication()) return false;
         requireStorableSituation();
         requireReadableSchedule();
-        if (!scheduleIsRecorded()) return false;
+        if (!saveTypedSchedule()) return false;
         const auto hold = holdFolder(at_);
         requireScheduleAsShown();
         if (at_.files.read(punchFile()) != before)
@@ -117,31 +117,35 @@ bool CartaoPontoDados::applyPunches() {
     });
 }
 
-bool CartaoPontoDados::passesChecks(const std::vector<std::size_t>& positions, bool sameHours) {
+bool CartaoPontoDados::confirmListApplication(const std::vector<std::size_t>& positions,
+                                              bool sameHours) {
     const auto differs = [&](std::size_t position) {
         const Employee& one = employees_.at(position);
         const Employee& first = employees_.at(positions.front());
         return one.shiftOr() != first.shiftOr() || one.scaleOr() != first.scaleOr();
     };
     const bool chosen = selected() && !positions.empty();
-    return passesListChecks(at_.person, {.selected = chosen ? selected() : nullptr,
-                                         .month = settings_.month,
-                                         .onLeave = chosen && marks_[*position_].onLeave,
-                                         .sameHours = sameHours,
-                                         .mixed = std::ranges::any_of(positions, differs),
-                                         .everyShift = filter_ == ShiftFilter::Todos,
-                                         .description = "Turno: " + std::string(codeOf(filter_)),
-                                         .employees = positions.size()});
+    return winvrx::confirmListApplication(
+        at_.person, {.selected = chosen ? selected() : nullptr,
+                     .month = settings_.month,
+                     .onLeave = chosen && marks_[*position_].onLeave,
+                     .sameHours = sameHours,
+                     .listed = chosen && std::ranges::count(positions, *position_) > 0,
+                     .lacksSchedule = leavesWorkBlank(schedule_.schedule()),
+                     .mixed = std::ranges::any_of(positions, differs),
+                     .everyShift = filter_ == ShiftFilter::Todos,
+                     .description = "Turno: " + std::string(codeOf(filter_)),
+                     .employees = positions.size()});
 }
 
 bool CartaoPontoDados::applyToAll(const std::vector<std::size_t>& positions, bool sameHours,
                                   const ListApplication::Progress& progress) {
     if (!company_) return requireSelection();
     return attempt(at_, incorrectData(), [&] {
-        if (!passesChecks(positions, sameHours)) return false;
+        if (!confirmListApplication(positions, sameHours)) return false;
         requireStorableSituation();
         requireReadableSchedule();
-        if (!scheduleIsRecorded()) return false;
+        if (!saveTypedSchedule()) return false;
         return fillAll(positions, sameHours, progress);
     });
 }

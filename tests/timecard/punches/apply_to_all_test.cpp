@@ -22,6 +22,9 @@ const std::string kMixed =
 const std::string kEveryShift =
     "x HORÁRIO DE TRABALHO IGUAL PARA TODOS: ERRO!! O TURNO selecionado não pode ser <Todos>, "
     "Portanto Selecione um turno Específico!";
+const std::string kNoSchedule =
+    "x HORÁRIO DE TRABALHO IGUAL PARA TODOS: O horário de trabalho não tem horas de segunda a "
+    "sexta.";
 const std::string kErases =
     "! Aplicação Ponto: Esta Operação Irá Apagar Todos os Dados Já Existentes, Se Houverem "
     "Alterações Serão Perdidas e Substituidas Pelo Ponto Padrão.";
@@ -71,55 +74,69 @@ TEST_F(ApplyToAll, ChecksInOrder) {
         const char* admission = "01/02/2020";
         bool onLeave = false;
         bool done = false;
+        bool scheduled = true;
+        bool hidden = false;
     };
     constexpr Answer kOk = Answer::Ok, kYes = Answer::Yes, kNo = Answer::No,
                      kCancel = Answer::Cancel;
     constexpr auto kTodos = ShiftFilter::Todos;
     const char* after = "01/04/2024";
-    for (const Case& c :
-         std::vector<Case>{{.what = "leave",
-         .shown = {kOnLeave},
-         .filter = kTodos,
-         .scaleOfCaio = "5x1",
-         .admission = after,
-         .onLeave = true},
-                           {.what = "nobody",
-                           .shown = {kNoLine},
-                           .filter = ShiftFilter::Tres,
-                           .scaleOfCaio = "",
-                           .selected = false},
-                           {.what = "admitted later",
-                           .shown = {kDates},
-                           .filter = kTodos,
-                           .scaleOfCaio = "5x1",
-                           .admission = after},
-                           {.what = "shifts differ", .shown = {kMixed}, .filter = kTodos},
-                           {.what = "scales differ", .shown = {kMixed}, .scaleOfCaio = "5x1"},
-                           {.what = "erases, cancelled", .shown = {kErases}, .answers = {kCancel}},
-                           {.what = "certain, cancelled",
-                           .shown = {kErases, kCertain},
-                           .answers = {kOk, kCancel}},
-                           {.what = "not confirmed",
-                           .shown = {kErases, kCertain, kSameHours},
-                           .answers = {kOk, kOk, kNo}},
-                           {.what = "same hours",
-                           .shown = {kErases, kCertain, kSameHours},
-                           .answers = {kOk, kOk, kYes},
-                           .done = true},
-                           {.what = "own hours, not confirmed",
-                           .shown = {kErases, kCertain, kOwnHours},
-                           .answers = {kOk, kOk, kNo},
-                           .sameHours = false,
-                           .scaleOfCaio = "5x1"},
-                           {.what = "own hours, leave",
-                           .shown = {kOnLeave},
-                           .sameHours = false,
-                           .onLeave = true}}) {
+    for (const Case& c : std::vector<Case>{
+             {.what = "leave",
+              .shown = {kOnLeave},
+              .filter = kTodos,
+              .scaleOfCaio = "5x1",
+              .admission = after,
+              .onLeave = true},
+             {.what = "nobody",
+             .shown = {kNoLine},
+             .filter = ShiftFilter::Tres,
+             .scaleOfCaio = "",
+             .selected = false},
+             {.what = "admitted later",
+             .shown = {kDates},
+             .filter = kTodos,
+             .scaleOfCaio = "5x1",
+             .admission = after},
+             {.what = "shifts differ", .shown = {kMixed}, .filter = kTodos},
+             {.what = "scales differ", .shown = {kMixed}, .scaleOfCaio = "5x1"},
+             {.what = "the model is not in the list",
+             .shown = {kNoLine},
+             .scaleOfCaio = "12x36",
+             .hidden = true},
+             {.what = "no schedule to be everyone's", .shown = {kNoSchedule}, .scheduled = false},
+             {.what = "own hours, none of his own",
+             .shown = {kErases, kCertain, kOwnHours},
+             .answers = {kOk, kOk, kNo},
+             .sameHours = false,
+             .scheduled = false,
+             .hidden = true},
+             {.what = "erases, cancelled", .shown = {kErases}, .answers = {kCancel}},
+             {.what = "certain, cancelled",
+             .shown = {kErases, kCertain},
+             .answers = {kOk, kCancel}},
+             {.what = "not confirmed",
+             .shown = {kErases, kCertain, kSameHours},
+             .answers = {kOk, kOk, kNo}},
+             {.what = "same hours",
+             .shown = {kErases, kCertain, kSameHours},
+             .answers = {kOk, kOk, kYes},
+             .done = true},
+             {.what = "own hours, not confirmed",
+             .shown = {kErases, kCertain, kOwnHours},
+             .answers = {kOk, kOk, kNo},
+             .sameHours = false,
+             .scaleOfCaio = "5x1"},
+             {.what = "own hours, leave",
+             .shown = {kOnLeave},
+             .sameHours = false,
+             .onLeave = true}}) {
         Employee ana = employee("001", "ANA", "Unico", "Norma");
         ana.admission = c.admission;
         hire({ana, employee("003", "CAIO", "Unico", c.scaleOfCaio),
               employee("002", "BIA", "Dois", "Norma")});
         asked.forget();
+        desk.file(kSchedule) = c.scheduled ? "08:0012:0013:0017:001 08:0012:00\r\n" : "";
         if (c.onLeave) asked.leaves.add("001", "10/03/2024", "12/03/2024");
         ASSERT_TRUE(screen.open() && screen.filterBy(c.filter));
         if (c.selected) {
@@ -128,7 +145,9 @@ TEST_F(ApplyToAll, ChecksInOrder) {
         const auto untouched = desk.files.content;
         desk.person.shown.clear();
         desk.person.answers.assign(c.answers.begin(), c.answers.end());
-        EXPECT_EQ(screen.applyToAll(everyone(), c.sameHours), c.done) << c.what;
+        auto listed = everyone();
+        if (c.hidden) listed.erase(listed.begin());
+        EXPECT_EQ(screen.applyToAll(listed, c.sameHours), c.done) << c.what;
         EXPECT_EQ(takeShown(), c.shown) << c.what;
         EXPECT_EQ(desk.files.content == untouched, !c.done) << c.what;
     }
@@ -146,7 +165,8 @@ TEST_F(ApplyToAll, TheScheduleOfTheOneSelectedBecomesEveryones) {
     ASSERT_TRUE(screen.open() && screen.filterBy(ShiftFilter::Unico) && screen.select(0));
     agreeToAll();
     ASSERT_TRUE(screen.applyToAll(everyone(), true));
-    EXPECT_EQ(desk.person.shown.back().detail, "A lista tem 3 funcionários.");
+    EXPECT_EQ(desk.person.shown.back().detail,
+              "O horário é o de 001 ANA. A lista tem 3 funcionários.");
     EXPECT_EQ(screen.filledCards(), 3);
     for (const char* one : {"001", "003", "004"})
         EXPECT_EQ(firstDayOf(one), "08:0012:0013:0017:00") << one;

@@ -20,6 +20,17 @@ TEST_F(CardScreen, AsksForCompanyAndMonthFirst) {
                 ElementsAre("Informe um Mês de Trabalho!!", "Cadastre Primeiro Uma Empresa!!"));
 }
 
+TEST_F(CardScreen, TheMainWindowsShiftHoldsUntilAnotherIsChosen) {
+    desk.session.shiftFilter = ShiftFilter::Dois;
+    CartaoPontoDados opened(desk.at, asked.queries);
+    ASSERT_TRUE(opened.open());
+    EXPECT_EQ(opened.employees().size(), 1U) << "whatever the month was chosen with";
+    ASSERT_TRUE(opened.filterBy(ShiftFilter::Unico));
+    saveSelectedMonth(desk.store(), {2024y / 4, ShiftFilter::Dois});
+    ASSERT_TRUE(opened.open());
+    EXPECT_EQ(opened.filter(), ShiftFilter::Unico) << "the month's screen was visited";
+}
+
 TEST_F(CardScreen, ListFollowsTheShiftAndKeepsTheEmployeeChosen) {
     openOn(2);
     ASSERT_TRUE(screen.filterBy(ShiftFilter::Unico));
@@ -69,13 +80,13 @@ TEST_F(CardScreen, TheSecondFlagIsRecordedAndTheOpaqueColumnsStay) {
 TEST_F(CardScreen, AClosedMonthRefusesEveryChange) {
     desk.file(kPunches) = "  \r\n01/sex/mar07:00\r\n";
     openOn(0);
-    EXPECT_TRUE(screen.mayEdit());
+    EXPECT_TRUE(screen.requireEditable());
     screen.sheet().type(4, PunchCell::MorningEntry, "8");
     asked.locks.closed = {"001"};
     const auto untouched = desk.files.content;
     EXPECT_FALSE(screen.savePunches());
     EXPECT_TRUE(screen.closed());
-    EXPECT_FALSE(screen.mayEdit());
+    EXPECT_FALSE(screen.requireEditable());
     EXPECT_EQ(desk.person.shown.back().title, "DIGITAÇÃO DO PONTO");
     EXPECT_EQ(desk.person.takeTexts().back(),
               "ATENÇÃO! Não é Possível Alterar o Ponto! Já Foi Gerada a Folha de Pagamento para "

@@ -145,7 +145,7 @@ void CartaoPontoDadosWindow::connectGrid(HalfMonth which) {
     const PunchGrid* grid = &half(which).grid();
     connect(&half(which).model(), &PunchModel::edited, this, &CartaoPontoDadosWindow::showState);
     connect(grid, &PunchGrid::cellChanged, this, [this, which] { followCursor(which); });
-    connect(grid, &PunchGrid::changeRefused, this, [this] { (void)command_.mayEdit(); });
+    connect(grid, &PunchGrid::changeRefused, this, [this] { (void)command_.requireEditable(); });
     connect(grid, &PunchGrid::leftAtEnd, this, [this, which] {
         showHalf(otherThan(which));
         half(shown_).grid().goToStart();
@@ -371,12 +371,12 @@ void CartaoPontoDadosWindow::save() {
 
 void CartaoPontoDadosWindow::changeMonth() {
     commitEditors();
-    if (command_.mayLeave()) emit monthSettingsRequested();
+    if (command_.confirmLeaving()) emit monthSettingsRequested();
 }
 
 bool CartaoPontoDadosWindow::mayClose() {
     commitEditors();
-    return command_.mayLeave();
+    return command_.confirmLeaving();
 }
 
 }  // namespace winvrx
