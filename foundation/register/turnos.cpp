@@ -20,6 +20,12 @@ const Message kBarredByScale{
     "Aviso", "Dado Incorreto!", Icon::Exclamation, Buttons::Ok,
     "A escala 12x36 é permitida somente nos turnos 1 e 3. Altere primeiro a escala."};
 
+Message noShiftChosen(const Employee& employee) {
+    return {"Aviso", "Dado Incorreto!", Icon::Exclamation, Buttons::Ok,
+            "O turno \"" + employee.shift + "\" de " + employee.code + " " + employee.name +
+                " não é conhecido. Escolha o novo turno na lista."};
+}
+
 }  // namespace
 
 void Turnos::load() {
@@ -32,7 +38,11 @@ void Turnos::load() {
     });
 }
 
-bool Turnos::change(const Employee& employee, Shift shift) {
+bool Turnos::change(const Employee& employee, std::optional<Shift> shift) {
+    if (!shift) {
+        at_.person.tell(noShiftChosen(employee));
+        return false;
+    }
     if (!at_.person.agrees(kConfirmChange)) return false;
     return attempt(at_, incorrectData(), [&] {
         const CompanyCode company = at_.session.company.value();
@@ -43,7 +53,7 @@ bool Turnos::change(const Employee& employee, Shift shift) {
             at_.person.tell(kRotationMember);
             return false;
         }
-        if (!allows(employee.scaleOr(), shift)) {
+        if (!allows(employee.scaleOr(), *shift)) {
             at_.person.tell(kBarredByScale);
             return false;
         }
@@ -51,7 +61,7 @@ bool Turnos::change(const Employee& employee, Shift shift) {
         lines = list.load();
         EmployeeLine& line = lineOfEmployee(lines, employee);
         Employee changed = employee;
-        changed.shift = codeOf(shift);
+        changed.shift = codeOf(*shift);
         line = lineOf(changed, line.bytes);
         list.save(lines, at_.clock.now());
         lines_ = std::move(lines);

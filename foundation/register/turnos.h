@@ -27,9 +27,10 @@ class Turnos {
     /// "01 EMPRESA MODELO LTDA"; empty when no company is selected.
     [[nodiscard]] const std::string& companyTitle() const { return companyTitle_; }
 
-    /// Gives the employee, one of those shown, another shift, unless he is in a rotation group, his
-    /// scale bars it, or his record has changed since it was shown. True when it was recorded.
-    [[nodiscard]] bool change(const Employee& employee, Shift shift);
+    /// Gives the employee, one of those shown, another shift, unless none is chosen, he is in a
+    /// rotation group, his scale bars it, or his record has changed since it was shown. True when
+    /// it was recorded.
+    [[nodiscard]] bool change(const Employee& employee, std::optional<Shift> shift);
     /// Tells that an employee has to be selected first.
     void askForEmployee();
     void help();

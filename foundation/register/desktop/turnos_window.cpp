@@ -167,8 +167,10 @@ void TurnosWindow::select(std::optional<std::size_t> position) {
 }
 
 void TurnosWindow::changeShift() {
-    if (!current_ || shifts_->currentRow() < 0) return turnos_.askForEmployee();
-    const Shift shift = kShifts.at(static_cast<std::size_t>(shifts_->currentRow()));
+    if (!current_) return turnos_.askForEmployee();
+    const int row = shifts_->currentRow();
+    const auto shift =
+        row < 0 ? std::nullopt : std::optional(kShifts.at(static_cast<std::size_t>(row)));
     const std::size_t place = *current_;
     if (!turnos_.change(shown_.at(place), shift)) return;
     showList();

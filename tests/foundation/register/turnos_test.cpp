@@ -68,6 +68,11 @@ TEST_F(TurnosTest, Refuses) {
               "Revezamento. ");
     EXPECT_FALSE(turnos_.change(turnos_.shown()[1], Shift::Dois));
     EXPECT_EQ(desk_.person.shown.back().text, "Dado Incorreto!") << "12x36 bars the second shift";
+    Employee unknown = turnos_.shown()[0];
+    unknown.shift = "Seis";
+    EXPECT_FALSE(turnos_.change(unknown, std::nullopt));
+    EXPECT_EQ(desk_.person.shown.back().detail,
+              "O turno \"Seis\" de 001 ANA não é conhecido. Escolha o novo turno na lista.");
     EXPECT_EQ(desk_.files.content, before);
 }
 

@@ -193,7 +193,7 @@ void PunchModel::clear(const QItemSelectionRange& block) {
             if (const auto cell = cellOf(column))
                 cells.push_back({days_.first + row, *cell, std::string()});
     command_.sheet().type(cells);
-    emit dataChanged(index(block.top(), Day), index(block.bottom(), Total));
+    emit dataChanged(index(block.top(), Day), index(block.bottom(), Difference));
     emit edited();
 }
 
