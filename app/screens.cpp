@@ -50,13 +50,13 @@ void Screens::openCompanies(QWidget* parent) {
 
 void Screens::openEmployees(QWidget* parent) {
     XlsxSpreadsheet spreadsheet;
-    Empregados employees(at_, {browser_, editor_, spreadsheet, locks_, locks_});
+    Empregados employees(at_, {browser_, editor_, spreadsheet, records_, records_});
     EmployeeImport import(at_);
     EmpregadosWindow(employees, import, parent).exec();
 }
 
 void Screens::openShifts(QWidget* parent) {
-    Turnos shifts(at_, browser_, locks_);
+    Turnos shifts(at_, browser_, records_);
     TurnosWindow(shifts, parent).exec();
 }
 
@@ -83,7 +83,7 @@ void Screens::openLocalHolidays(QWidget* parent) {
 }
 
 void Screens::openTimeCard(QWidget* parent) {
-    CartaoPontoDados card(at_, {locks_, locks_, leaves_});
+    CartaoPontoDados card(at_, {records_, records_, records_});
     (void)card.open();
     CartaoPontoDadosWindow window(card, parent);
     QObject::connect(&window, &CartaoPontoDadosWindow::monthSettingsRequested, &window, [&] {

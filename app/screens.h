@@ -10,7 +10,6 @@
 #include "report/print_settings.h"
 #include "report/printers.h"
 #include "report/report_engine.h"
-#include "timecard/punches/leave_calendar.h"
 
 #include <QString>
 
@@ -39,8 +38,7 @@ class Screens {
           editor_(editor),
           printing_(std::move(printing)),
           copies_(copies),
-          locks_(at.store()),
-          leaves_(at.store()) {}
+          records_(at.store()) {}
 
     void openCompanies(QWidget* parent);
     void openEmployees(QWidget* parent);
@@ -84,8 +82,7 @@ class Screens {
     Printing printing_;
     AlignmentMemory alignment_;
     SafetyCopies& copies_;
-    RecordedLocks locks_;
-    RecordedLeaves leaves_;
+    RecordedAnswers records_;
 };
 
 }  // namespace winvrx

@@ -74,8 +74,7 @@ void hire(const Store& store) {
 
 /// Ours and the floor in turn, so that both meet the same disk.
 bool measure(const char* name, const Store& store, Minutes minutes) {
-    const RecordedLocks locks(store);
-    const RecordedLeaves leaves(store);
+    const RecordedAnswers records(store);
     MonthSettings march;
     march.month = 2024y / 3;
     const ApplicationOrder order{
@@ -85,7 +84,7 @@ bool measure(const char* name, const Store& store, Minutes minutes) {
     std::vector<double> floor;
     for (int round = 0; round <= kRounds; ++round) {
         const double applied = milliseconds([&] {
-            ListApplication application(store, {locks, locks, leaves}, order);
+            ListApplication application(store, {records, records, records}, order);
             batch = application.fill(everyone(), {}).value();
             store.files.replaceAll(batch);
         });

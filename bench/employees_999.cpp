@@ -109,8 +109,8 @@ bool measureScreen(const Workplace& at) {
     NoBrowser browser;
     NoEditor editor;
     XlsxSpreadsheet spreadsheet;
-    const RecordedLocks locks(at.store());
-    Empregados screen(at, {browser, editor, spreadsheet, locks, locks});
+    const RecordedAnswers records(at.store());
+    Empregados screen(at, {browser, editor, spreadsheet, records, records});
     EmployeeImport import(at);
     const bool opened = report("open", milliseconds([&] {
                                    EmpregadosWindow window(screen, import);

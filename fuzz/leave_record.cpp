@@ -1,22 +1,39 @@
+#include "foundation/register/leave_record.h"
 #include "fuzz/invariant.h"
-#include "timecard/punches/leave_calendar.h"
 
 using namespace winvrx;
 using fuzz::require;
 
+namespace {
+
+void requireKept(const std::string& line) {
+    const auto leave = decodeLeave(line);
+    if (!leave) return;
+    require(encode(*leave, line) == fuzz::widened(line, kLeaveWidth),
+            "a leave that is not changed keeps its bytes");
+    const auto period = leave->period();
+    if (!period) return;
+    require(period->first.ok() && period->last.ok(), "a leave's days are of the calendar");
+    require(period->first <= period->last, "a leave does not end before it begins");
+}
+
+}  // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     testing::MemoryFiles files;
-    files.content[fuzz::kFolder.companyFile(fuzz::kCompany, std::string(kLeaveStem) + "001")] =
-        fuzz::textOf(data, size);
+    const std::string bytes(fuzz::textOf(data, size));
+    files.content[fuzz::kFolder.companyFile(fuzz::kCompany, leaveFileName(fuzz::kEmployee))] =
+        bytes;
+    for (const std::string& line : splitLines(bytes))
+        requireKept(line);
     const EmployeeLeaves leaves =
-        RecordedLeaves({files, fuzz::kFolder}).leavesOf({fuzz::kCompany, fuzz::kEmployee});
-    for (const LeavePeriod& one : leaves.periods) {
-        require(one.first.ok() && one.last.ok(), "a leave's days are of the calendar");
-        require(one.first <= one.last, "a leave does not end before it begins");
+        loadLeaves({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee});
+    for (const LeavePeriod& one : leaves.periods)
         require(leaves.contain(one.first) && leaves.touch(monthOf(one.last)),
                 "a leave holds its own days");
-    }
     for (const std::string& line : leaves.unread)
         require(isUtf8(line), "a leave that is not understood can be shown");
+    if (const auto since = inactiveSince(bytes))
+        require(since->ok(), "an employee is inactive since a day of the calendar");
     return 0;
 }

@@ -1,5 +1,7 @@
 #include "foundation/files/data_folder.h"
 
+#include "foundation/files/payroll_file.h"
+
 #include <algorithm>
 #include <functional>
 #include <optional>
@@ -14,10 +16,6 @@ constexpr std::size_t kEmployeeMonthFileLength = 15;
 
 /// "01", "001", "-03-2024", then ".bdx".
 constexpr std::size_t kPunchSuffixStart = 14;
-
-/// The stem, and the zeros that make three digits five.
-constexpr std::string_view kPayrollZeros = "fp00";
-static_assert(kPayrollZeros.starts_with(kPayrollStem));
 
 std::string withForwardSlashes(std::string_view text) {
     std::string result(text);
@@ -45,11 +43,6 @@ bool isMonthFile(std::string_view name) {
     return std::all_of(month.begin(), month.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-/// "01fp" and the five digits of an employee code.
-bool isPayrollFile(std::string_view name) {
-    return standsAt(name, 3, kPayrollZeros) && name.ends_with(".bdx");
-}
-
 std::optional<std::string_view> stemOf(std::string_view name) {
     for (const std::string_view stem : {kScheduleStem, kOvertimeStem, kLeaveStem})
         if (standsAt(name, 3, stem)) return stem;
@@ -60,7 +53,7 @@ std::optional<std::string_view> stemOf(std::string_view name) {
 
 /// Where the name of an employee's file carries the employee code, counted from 1.
 std::size_t employeeCodeStart(std::string_view name) {
-    if (isPayrollFile(name)) return 3 + kPayrollZeros.size();
+    if (isPayrollFile(name)) return kPayrollEmployeeStart;
     return 3 + stemOf(name).value_or(std::string_view()).size();
 }
 

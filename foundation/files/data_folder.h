@@ -87,9 +87,6 @@ inline constexpr std::string_view kLeaveStem = "configAf";
 /// Stems of an employee's termination documents, which are named like his leave file.
 inline constexpr std::array<std::string_view, 3> kTerminationStems = {"TRTC", "THRTC", "AviTRTC"};
 inline constexpr std::string_view kEmployeeListStem = "CartaPonto";
-/// Opens the name of a payroll file, behind the company code; the employee code follows with five
-/// digits, then the month "mm-yyyy" and ".bdx".
-inline constexpr std::string_view kPayrollStem = "fp";
 
 /// Files of the run: both go when the program ends.
 inline constexpr std::string_view kStartMemoryName = "LocMen.lvc";

@@ -1,7 +1,7 @@
 #include "foundation/register/employee_queries.h"
 
+#include "foundation/files/payroll_file.h"
 #include "foundation/files/record_file.h"
-#include "foundation/values/text.h"
 
 #include <algorithm>
 
@@ -10,11 +10,10 @@ namespace winvrx {
 namespace {
 
 constexpr std::string_view kGroupStem = "GRUPO-";
-constexpr int kPayrollDigits = 5;
 
 }  // namespace
 
-bool RecordedLocks::isMember(const EmployeeKey& key) const {
+bool RecordedAnswers::isMember(const EmployeeKey& key) const {
     const std::string beginning = key.company.text() + std::string(kGroupStem);
     for (const std::string& name : store_.files.names(store_.folder.path())) {
         if (!name.starts_with(beginning)) continue;
@@ -28,17 +27,18 @@ bool RecordedLocks::isMember(const EmployeeKey& key) const {
     return false;
 }
 
-bool RecordedLocks::hasClosedMonth(const EmployeeKey& key) const {
+bool RecordedAnswers::hasClosedMonth(const EmployeeKey& key) const {
     const auto names = store_.files.names(store_.folder.path());
     return std::any_of(names.begin(), names.end(),
                        [&](const std::string& name) { return isPayrollOfEmployee(name, key); });
 }
 
-bool RecordedLocks::isClosed(const EmployeeKey& key, WorkMonth month) const {
-    const std::string name = std::string(kPayrollStem) +
-                             padded(key.employee.number(), kPayrollDigits) + monthKey(month) +
-                             ".bdx";
-    return store_.files.exists(store_.folder.companyFile(key.company, name));
+bool RecordedAnswers::isClosed(const EmployeeKey& key, WorkMonth month) const {
+    return store_.files.exists(store_.folder.file(payrollFileName(key, month)));
+}
+
+EmployeeLeaves RecordedAnswers::leavesOf(const EmployeeKey& key) const {
+    return loadLeaves(store_, key);
 }
 
 }  // namespace winvrx

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "foundation/files/data_folder.h"
+#include "foundation/register/leave_record.h"
 #include "foundation/values/codes.h"
 #include "foundation/values/date.h"
 
-// What the employee register has to ask of subjects that lie above it. They answer through these
-// queries; app/ joins the two.
+// What the employee register and the punches have to ask of subjects that lie above them. They
+// answer through these queries; app/ joins the two.
 
 namespace winvrx {
 
@@ -27,17 +28,25 @@ class PayrollLock {
     [[nodiscard]] virtual bool isClosed(const EmployeeKey& key, WorkMonth month) const = 0;
 };
 
-/// Answers both from the files that the subjects leave in the data folder: a payroll file named
-/// company code, "fp", five-digit employee code, month, ".bdx"; a group file whose name begins with
-/// company code and "GRUPO-", with the employee's code at the head of one of its lines.
-class RecordedLocks final : public RotationMembership, public PayrollLock {
+/// Asked of the leaves.
+class LeaveCalendar {
+  public:
+    virtual ~LeaveCalendar() = default;
+    [[nodiscard]] virtual EmployeeLeaves leavesOf(const EmployeeKey& key) const = 0;
+};
+
+/// Answers them from the files that the subjects leave in the data folder: payroll files, leave
+/// files, and a group file whose name begins with company code and "GRUPO-", with the employee's
+/// code at the head of one of its lines.
+class RecordedAnswers final : public RotationMembership, public PayrollLock, public LeaveCalendar {
   public:
     /// Both outlive this object; `folder` is the one in use when a question is asked.
-    RecordedLocks(const Store& store) : store_(store) {}
+    RecordedAnswers(const Store& store) : store_(store) {}
 
     [[nodiscard]] bool isMember(const EmployeeKey& key) const override;
     [[nodiscard]] bool hasClosedMonth(const EmployeeKey& key) const override;
     [[nodiscard]] bool isClosed(const EmployeeKey& key, WorkMonth month) const override;
+    [[nodiscard]] EmployeeLeaves leavesOf(const EmployeeKey& key) const override;
 
   private:
     Store store_;

@@ -2,7 +2,7 @@
 
 #include "foundation/register/employee_checks.h"
 #include "foundation/register/employee_transfer.h"
-#include "foundation/register/leave_status.h"
+#include "foundation/register/leave_record.h"
 #include "foundation/values/text.h"
 
 namespace winvrx {

@@ -1,7 +1,7 @@
 #include "timecard/punches/list_application.h"
 
 #include "foundation/files/file_faults.h"
-#include "foundation/register/leave_status.h"
+#include "foundation/register/leave_record.h"
 #include "timecard/punches/application_checks.h"
 #include "timecard/punches/punch_application.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "foundation/register/employee_queries.h"
 #include "foundation/register/employee_register.h"
-#include "timecard/punches/leave_calendar.h"
 #include "timecard/punches/minute_variation.h"
 #include "timecard/punches/minutes_option.h"
 #include "timecard/punches/period_record.h"

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "foundation/register/leave_record.h"
 #include "timecard/month/month_settings.h"
-#include "timecard/punches/leave_calendar.h"
 #include "timecard/punches/punch_record.h"
 
 #include <functional>

@@ -1,6 +1,5 @@
 #include "foundation/register/employee_queries.h"
 
-#include "foundation/register/leave_status.h"
 #include "tests/support/memory_files.h"
 
 #include <gtest/gtest.h>
@@ -13,9 +12,9 @@ const CompanyCode kCompany = *CompanyCode::parse("01");
 const EmployeeCode kAna = *EmployeeCode::parse("001");
 const EmployeeCode kBia = *EmployeeCode::parse("002");
 
-TEST(RecordedLocks, AnswerFromTheFilesOfTheCompany) {
+TEST(RecordedAnswers, AnswerFromTheFilesOfTheCompany) {
     testing::MemoryFiles files;
-    const RecordedLocks locks({files, kFolder});
+    const RecordedAnswers locks({files, kFolder});
     for (const char* name : {"02fp0000103-2024.bdx", "01001-03-2024.bdx", "01fp0000203-2024.bdx"})
         files.content[kFolder.file(name)] = "";
     files.content["/data/02GRUPO-001032024.er"] = "001 ANA\r\n";
@@ -27,35 +26,6 @@ TEST(RecordedLocks, AnswerFromTheFilesOfTheCompany) {
     EXPECT_FALSE(locks.isClosed({kCompany, kAna}, *parseMonthKey("03-2024")));
     EXPECT_FALSE(locks.isMember({kCompany, kAna}));
     EXPECT_TRUE(locks.isMember({kCompany, kBia}));
-}
-
-TEST(LeaveStatus, ADateBehindTheMarkMakesInactive) {
-    struct Case {
-        const char* file;
-        const char* since;
-    };
-    for (const Case& c : {Case{"", ""},
-                          {"**** \r\n", ""},
-                          {"**** 10/02/2024\r\n", "10/02/2024"},
-                          {"****\r\n", ""},
-                          {"**** 31/02/2024\r\n", ""},
-                          {"006 F\xC9RIAS\r\n**** 10/02/2024", "10/02/2024"},
-                          {"008 RESCIS\xC3O 10/02/2024\r\n**** \r\n", ""},
-                          {"*** 10/02/2024\r\n", ""}}) {
-        const auto since = inactiveSince(c.file);
-        EXPECT_EQ(since ? dateText(*since) : "", c.since) << c.file;
-    }
-}
-
-TEST(LeaveStatus, InactiveAreThoseOfTheCompany) {
-    testing::MemoryFiles files;
-    files.content["/data/01configAf001"] = "**** 10/02/2024\r\n";
-    files.content["/data/01configAf002"] = "**** \r\n";
-    files.content["/data/02configAf002"] = "**** 10/02/2024\r\n";
-    files.content["/data/01configAfx"] = "**** 10/02/2024\r\n";
-    const auto inactive = inactiveEmployees({files, kFolder}, kCompany);
-    ASSERT_EQ(inactive.size(), 1U);
-    EXPECT_EQ(inactive.begin()->first, kAna);
 }
 
 }  // namespace

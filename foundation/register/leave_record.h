@@ -1,0 +1,107 @@
+#pragma once
+
+#include "foundation/files/data_folder.h"
+#include "foundation/files/record_fields.h"
+#include "foundation/values/date.h"
+
+#include <array>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The leave file of an employee: a line for each time away from work, then the status line, "**** "
+// alone for an active employee and "**** dd/mm/yyyy" for one inactive since that day. No file means
+// no leaves and an active employee. A line that begins with three digits is a leave; one that is
+// neither a leave nor the status says nothing.
+
+namespace winvrx {
+
+/// The first and the last day of a time away from work, both of them away.
+struct LeavePeriod {
+    Date first;
+    Date last;
+
+    [[nodiscard]] bool contains(Date date) const { return first <= date && date <= last; }
+    [[nodiscard]] bool touches(WorkMonth month) const {
+        return first <= lastDay(month) && last >= firstDay(month);
+    }
+};
+
+/// A leave as its line has it, days as "dd/mm/yyyy". What stands behind the duration belongs to a
+/// termination of the contract and is blank for any other leave.
+struct Leave {
+    std::string type;  ///< "006 FÉRIAS": the code, then the name
+    std::string firstDay;
+    std::string lastDay;
+    std::string duration;  ///< "020 Dias e 0 Horas"
+    std::string firstTerminationDate;
+    std::string secondTerminationDate;
+    std::string terminationType;
+    std::string noticeType;
+    std::string firstNoticeDate;
+    std::string secondNoticeDate;
+    std::string thirdNoticeDate;
+
+    [[nodiscard]] bool operator==(const Leave&) const = default;
+
+    /// nullopt when its days are no dates or end before they begin.
+    [[nodiscard]] std::optional<LeavePeriod> period() const;
+};
+
+/// One field of a leave's line. The layout's one place; docs/record-layouts.md shows it with
+/// examples.
+struct LeaveField {
+    std::string Leave::*member;
+    Column column;
+};
+
+inline constexpr std::array kLeaveFields = {
+    LeaveField{&Leave::type, {1, 30}},
+    LeaveField{&Leave::firstDay, {31, 10}},
+    LeaveField{&Leave::lastDay, {43, 10}},
+    LeaveField{&Leave::duration, {55, 20}},
+    LeaveField{&Leave::firstTerminationDate, {75, 10}},
+    LeaveField{&Leave::secondTerminationDate, {87, 10}},
+    LeaveField{&Leave::terminationType, {99, 55}},
+    LeaveField{&Leave::noticeType, {156, 20}},
+    LeaveField{&Leave::firstNoticeDate, {178, 10}},
+    LeaveField{&Leave::secondNoticeDate, {190, 10}},
+    LeaveField{&Leave::thirdNoticeDate, {202, 10}},
+};
+
+inline constexpr std::size_t kLeaveWidth = 211;
+static_assert(isOrdered(kLeaveFields, kLeaveWidth));
+
+/// Built upon `existing`: a column that says the same keeps its bytes. Throws TextFault when a text
+/// cannot be stored.
+[[nodiscard]] std::string encode(const Leave& leave, std::string existing = {});
+/// nullopt for a line that is no leave.
+[[nodiscard]] std::optional<Leave> decodeLeave(std::string_view lineBytes);
+
+/// "**** ", and the day since which the employee is inactive.
+[[nodiscard]] std::string leaveStatusLine(std::optional<Date> inactiveSince);
+/// The day that the status line names; nullopt while the employee is active. `leaveFileBytes` is
+/// the whole file.
+[[nodiscard]] std::optional<Date> inactiveSince(std::string_view leaveFileBytes);
+
+/// "configAf001", to be put behind the company code.
+[[nodiscard]] std::string leaveFileName(const EmployeeCode& employee);
+
+/// The leaves of an employee, in order of record.
+struct EmployeeLeaves {
+    std::vector<LeavePeriod> periods;
+    std::vector<std::string> unread;  ///< leaves whose days cannot be read, as they can be shown
+
+    [[nodiscard]] bool touch(WorkMonth month) const;
+    [[nodiscard]] bool contain(Date date) const;
+};
+/// Throws FileFault.
+[[nodiscard]] EmployeeLeaves loadLeaves(const Store& store, const EmployeeKey& key);
+
+/// The inactive employees of a company and since when. Throws FileFault.
+[[nodiscard]] std::map<EmployeeCode, Date> inactiveEmployees(const Store& store,
+                                                             const CompanyCode& company);
+
+}  // namespace winvrx
