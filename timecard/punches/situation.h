@@ -5,12 +5,12 @@
 #include <string>
 #include <string_view>
 
-// The situation of a day ("Situação"): one of these texts, or any other, which says nothing about
-// the hours. Letter case and accents count.
+// The situation of a day ("Situação"): one of these texts, letter case and accents aside, or any
+// other, which says nothing about the hours.
 //
 //     findSituation("Falta Injustifi")->word     "Falta Injustificada"
-//     meaningOf("FERIADO")                       DayMeaning::Holiday
-//     meaningOf("falta")                         DayMeaning::Work
+//     meaningOf("FALTA")                         DayMeaning::Missing
+//     meaningOf("treinamento")                   DayMeaning::Work
 
 namespace winvrx {
 
@@ -53,8 +53,8 @@ inline constexpr std::array kSituations = {
     Situation{kSituationLeave, "AFASTAMENTO", DayMeaning::Leave},
 };
 
-/// The situation that a text stands for, whole, as stored, or as the cards shorten it
-/// ("Falta Inj."); nullptr for any other text.
+/// The situation that a text stands for, letter case and accents aside: whole, as stored, or as the
+/// cards shorten it ("Falta Inj."); nullptr for any other text.
 [[nodiscard]] const Situation* findSituation(std::string_view text);
 
 /// What an operator means by a text: the word of a situation that it is, letter case and accents

@@ -13,16 +13,27 @@ TEST(Situation, IsKnownByItsWordItsStoredMarkAndItsShortForm) {
         const char* text;
         DayMeaning meaning;
     };
-    for (const Case& c :
-         {Case{"Falta", DayMeaning::Missing}, Case{"Falta Injustificada", DayMeaning::Missing},
-          Case{"Falta Injustifi", DayMeaning::Missing}, Case{"Falta Inj.", DayMeaning::Missing},
-          Case{"FERIADO", DayMeaning::Holiday}, Case{"DESCANSO SEMANAL", DayMeaning::WeeklyRest},
-          Case{"DESCANSO SEMANA", DayMeaning::WeeklyRest}, Case{"AFASTAMENTO", DayMeaning::Leave},
-          Case{"Atestado", DayMeaning::Excused}, Case{"Abonado", DayMeaning::Excused},
-          Case{"Férias", DayMeaning::Excused}, Case{"Folga", DayMeaning::Excused},
-          Case{"", DayMeaning::Work}, Case{"falta", DayMeaning::Work},
-          Case{"Faltas", DayMeaning::Work}, Case{"Ferias", DayMeaning::Work},
-          Case{"treinamento", DayMeaning::Work}})
+    for (const Case& c : {Case{"Falta", DayMeaning::Missing},
+                          Case{"Falta Injustificada", DayMeaning::Missing},
+                          Case{"Falta Injustifi", DayMeaning::Missing},
+                          Case{"Falta Inj.", DayMeaning::Missing},
+                          Case{"FERIADO", DayMeaning::Holiday},
+                          Case{"DESCANSO SEMANAL", DayMeaning::WeeklyRest},
+                          Case{"DESCANSO SEMANA", DayMeaning::WeeklyRest},
+                          Case{"AFASTAMENTO", DayMeaning::Leave},
+                          Case{"Atestado", DayMeaning::Excused},
+                          Case{"Abonado", DayMeaning::Excused},
+                          Case{"Férias", DayMeaning::Excused},
+                          Case{"Folga", DayMeaning::Excused},
+                          Case{"FALTA", DayMeaning::Missing},
+                          Case{"falta inj.", DayMeaning::Missing},
+                          Case{"FERIAS", DayMeaning::Excused},
+                          Case{"Feriado", DayMeaning::Holiday},
+                          Case{"descanso semana", DayMeaning::WeeklyRest},
+                          Case{"", DayMeaning::Work},
+                          Case{"Faltas", DayMeaning::Work},
+                          Case{"Fal", DayMeaning::Work},
+                          Case{"treinamento", DayMeaning::Work}})
         EXPECT_EQ(meaningOf(c.text), c.meaning) << c.text;
 }
 
