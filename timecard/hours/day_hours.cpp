@@ -3,6 +3,8 @@
 #include "timecard/hours/tolerance.h"
 
 #include <algorithm>
+#include <array>
+#include <optional>
 
 namespace winvrx {
 
@@ -15,35 +17,33 @@ constexpr std::chrono::hours kDay{24};
 struct DayPunches {
     DaySchedule regular;
     TimePair extra;
-
-    [[nodiscard]] bool none() const { return regular == DaySchedule() && extra == TimePair(); }
 };
 
 /// What the calendar, the schedule and the line's mark make of a day.
 struct DayTerms {
     DayMeaning meaning = DayMeaning::Work;
     DaySchedule scheduled;
-    bool atMaximum = false;  ///< a rest day: extra hours are paid at the maximum
+    std::optional<HourRule> rest;  ///< why the day is one of rest, where it is
     bool paidRest = false;
 };
+
+constexpr std::array kRegularPairs = {&DaySchedule::morning, &DaySchedule::afternoon};
 
 DaySchedule scheduledOn(std::chrono::weekday weekday, const WorkTerms& terms) {
     if (weekday != std::chrono::Saturday) return terms.weekday;
     return terms.saturdayIsNormal ? terms.saturday : DaySchedule();
 }
 
-DayTerms dayTerms(const DayPunches& punches, DayMeaning meaning, Date date,
-                  const WorkTerms& terms) {
+DayTerms dayTerms(DayMeaning meaning, Date date, const WorkTerms& terms) {
     const std::chrono::weekday weekday = weekdayOf(date);
     DayTerms day;
     day.meaning = meaning;
     day.paidRest = weekday == std::chrono::Sunday || terms.isHoliday(date);
-    day.atMaximum =
-        day.paidRest || meaning == DayMeaning::Holiday || meaning == DayMeaning::WeeklyRest;
-    // The employee's own rest day asks for nothing as long as nothing is said of it.
-    const bool ownRest = weekday == terms.restDay && meaning == DayMeaning::Work && punches.none();
-    if (!day.atMaximum && meaning != DayMeaning::Leave && !ownRest)
-        day.scheduled = scheduledOn(weekday, terms);
+    if (day.paidRest || meaning == DayMeaning::Holiday || meaning == DayMeaning::WeeklyRest)
+        day.rest = HourRule::RestDay;
+    else if (weekday == terms.restDay && meaning == DayMeaning::Work)
+        day.rest = HourRule::OwnRestDay;
+    if (!day.rest && meaning != DayMeaning::Leave) day.scheduled = scheduledOn(weekday, terms);
     return day;
 }
 
@@ -73,23 +73,29 @@ class DayWalk {
             return;
         }
         const bool tolerated = isTolerated(punches.regular, day_.scheduled);
-        const bool exact = punches.regular == day_.scheduled;
-        normalRule_ = tolerated && !exact ? HourRule::Tolerated : HourRule::WithinSchedule;
-        seconds normal{0};
-        for (const auto member : {&DaySchedule::morning, &DaySchedule::afternoon}) {
-            const TimePair& pair = punches.regular.*member;
-            const bool scheduled = lengthOf(day_.scheduled.*member).count() > 0;
-            const seconds share = tolerated ? (scheduled ? lengthOf(pair) : seconds{0})
-                                            : std::min(lengthOf(pair), standard_ - normal);
-            workPair(pair, share);
-            normal += share;
+        seconds left = tolerated ? tolerate(punches.regular) : standard_;
+        for (const auto pair : kRegularPairs) {
+            const seconds normal = std::min(seconds{lengthOf(punches.regular.*pair)}, left);
+            workPair(punches.regular.*pair, normal);
+            left -= normal;
         }
         workPair(punches.extra, seconds{0});
-        if (!tolerated && day_.meaning != DayMeaning::Excused)
-            give(HourCategory::Missing, HourRule::ShortOfSchedule, standard_ - normal);
+        if (day_.meaning != DayMeaning::Excused)
+            give(HourCategory::Missing, HourRule::ShortOfSchedule, left);
     }
 
   private:
+    /// How long the scheduled pairs were worked: so much of a tolerated day is normal.
+    seconds tolerate(const DaySchedule& worked) {
+        seconds normal{0};
+        for (const auto pair : kRegularPairs) {
+            if (lengthOf(day_.scheduled.*pair).count() == 0) continue;
+            normal += lengthOf(worked.*pair);
+            if (worked.*pair != day_.scheduled.*pair) normalRule_ = HourRule::Tolerated;
+        }
+        return normal;
+    }
+
     /// The first `normal` of the pair's time is normal, the rest is extra.
     void workPair(const TimePair& pair, seconds normal) {
         const seconds length = lengthOf(pair);
@@ -115,8 +121,8 @@ class DayWalk {
     void giveExtra(seconds from, seconds to, bool night) {
         if (overtime_.mode == OvertimeMode::SingleLevel) {
             give(maximum(night), HourRule::SingleLevel, from, to);
-        } else if (day_.atMaximum) {
-            give(maximum(night), HourRule::RestDay, from, to);
+        } else if (day_.rest) {
+            give(maximum(night), *day_.rest, from, to);
         } else if (!overtime_.differentiatedPercent) {
             give(minimum(night), HourRule::WorkingDay, from, to);
         } else {
@@ -156,7 +162,7 @@ template <typename Visit>
 void walk(const PunchLine& line, Date date, const WorkTerms& terms, Visit visit) {
     if (terms.admission && date < *terms.admission) return;
     const DayPunches punches{{line.morning(), line.afternoon()}, line.extra()};
-    const DayTerms day = dayTerms(punches, meaningOf(line.situation), date, terms);
+    const DayTerms day = dayTerms(meaningOf(line.situation), date, terms);
     DayWalk(day, terms, visit).work(punches);
 }
 

@@ -95,6 +95,7 @@ enum class HourRule {
     UpToThreshold,    ///< extra, up to the daily threshold
     AboveThreshold,   ///< extra, above it
     RestDay,          ///< extra on a Sunday, a holiday or a day marked as rest
+    OwnRestDay,       ///< extra on the employee's own weekly rest day
     SingleLevel,      ///< extra, paid at one percentage only
     MarkedMissing,    ///< the day is marked as an absence
     ShortOfSchedule,  ///< worked less than the schedule asks for, beyond the tolerance

@@ -204,7 +204,9 @@ DayKind CartaoPontoDados::kindOf(int day) const {
             break;
     }
     if (settings_.isHoliday(date)) return DayKind::Holiday;
-    return weekdayOf(date) == std::chrono::Sunday ? DayKind::WeeklyRest : DayKind::Work;
+    const auto weekday = weekdayOf(date);
+    const bool ownRest = selected() && weekday == weeklyRestOf(*selected());
+    return ownRest || weekday == std::chrono::Sunday ? DayKind::WeeklyRest : DayKind::Work;
 }
 
 bool CartaoPontoDados::pasteCells(int day, PunchCell cell, std::string_view text) {

@@ -97,6 +97,7 @@ void ListApplication::fillOne(Batch& batch, const Employee& employee, const Empl
     Application application{.schedule = schedule,
                             .admission = requireAdmission(employee),
                             .leaves = leaves,
+                            .restDay = weeklyRestOf(employee),
                             .situation = order_.situation};
     if (order_.minutes == Minutes::Varied)
         application.spread = [&](const DaySchedule& day, Date date) {

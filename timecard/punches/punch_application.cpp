@@ -26,7 +26,7 @@ void fill(PunchLine& line, Date date, const Application& application,
         line.situation = kSituationLeave;
     else if (settings.isHoliday(date))
         line.situation = kSituationHoliday;
-    else if (weekday == std::chrono::Sunday)
+    else if (weekday == std::chrono::Sunday || weekday == application.restDay)
         line.situation = kSituationWeeklyRest;
     else if (day != DaySchedule())
         putTimes(line, application.spread ? application.spread(day, date) : day);

@@ -16,6 +16,7 @@ struct Application {
     StandardSchedule schedule;
     std::optional<Date> admission = {};
     EmployeeLeaves leaves = {};
+    std::chrono::weekday restDay = std::chrono::Sunday;  ///< the employee's own weekly rest
     /// Of the days of work for which the schedule has no times.
     std::string situation = {};
     /// Moves the times of a day ("Minutos Variados"); none leaves them as they stand.
@@ -24,7 +25,8 @@ struct Application {
 
 /// Fills the month from the schedule. The first that fits decides: before admission a day has its
 /// label only; in a leave the situation "AFASTAMENTO"; on a ticked holiday "FERIADO" and on a
-/// Sunday "DESCANSO SEMANAL"; a Saturday the Saturday times; any other day morning and afternoon.
+/// Sunday and the own rest day "DESCANSO SEMANAL"; a Saturday the Saturday times; any other day
+/// morning and afternoon.
 [[nodiscard]] std::vector<PunchLine> filledMonth(const Application& application,
                                                  const MonthSettings& settings);
 
