@@ -26,7 +26,6 @@ void speakPortuguese(QApplication& application) {
 
 void setUpDesktop(QApplication& application) {
     QApplication::setApplicationName(QStringLiteral("winvrx"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Winvrx"));
     speakPortuguese(application);
     look::apply(application);
     QApplication::setWindowIcon(look::icon(QStringLiteral("winvrx")));

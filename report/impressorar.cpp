@@ -10,10 +10,10 @@ namespace winvrx {
 
 namespace {
 
-const Message kNoAddDialogue{std::string(kImpressorarTitle), "Ocorreu Erro", Icon::Exclamation,
-                             Buttons::Ok,
-                             "Este computador não tem uma tela para adicionar impressoras. Peça a "
-                             "quem cuida dele."};
+const Message kNoAddDialogue =
+    refusal(kImpressorarTitle, "Ocorreu Erro",
+            "Este computador não tem uma tela para adicionar impressoras. Peça a "
+            "quem cuida dele.");
 
 constexpr auto kChangedElsewhere =
     "A impressora foi trocada por outro computador. Abra a tela novamente.";
@@ -27,7 +27,6 @@ void Impressorar::load() {
     (void)attempt(at_, incorrectData(), [this] {
         names_ = printers_.names();
         chosen_ = loadPrinterName(at_.store());
-        return true;
     });
 }
 
@@ -68,7 +67,6 @@ bool Impressorar::store(const std::string& name) {
             throw Fault("printer changed on disk", kChangedElsewhere);
         savePrinterName(at_.store(), name);
         chosen_ = name;
-        return true;
     });
 }
 

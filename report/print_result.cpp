@@ -6,23 +6,22 @@ namespace {
 
 constexpr auto kTitle = "IMPRESSÃO";
 
-const Message kNoPrinter{kTitle,
-                         "ERRO NA IMPRESSÃO DO RELATÓRIO - Isto ocorre quando não há Impressoras "
-                         "Instalada no PC!",
-                         Icon::Critical};
+const Message kNoPrinter =
+    failure(kTitle,
+            "ERRO NA IMPRESSÃO DO RELATÓRIO - Isto ocorre quando não há Impressoras "
+            "Instalada no PC!");
 
-const Message kNoEngine{
-    kTitle, "Erro na Instalação do Programa!\n* Confirme a Instalação do CrystalReport;",
-    Icon::Critical};
+const Message kNoEngine =
+    failure(kTitle, "Erro na Instalação do Programa!\n* Confirme a Instalação do CrystalReport;");
 
 }  // namespace
 
 Message printFailed() {
-    return {kTitle, "Erro na Impressão do Relatório.", Icon::Critical};
+    return failure(kTitle, "Erro na Impressão do Relatório.");
 }
 
 Message printerGone(const std::string& title) {
-    return {title, "ERRO AO IMPRIMIR", Icon::Critical};
+    return failure(title, "ERRO AO IMPRIMIR");
 }
 
 bool isPrinted(ReportResult result, Operator& person, const ReportEngine& engine) {

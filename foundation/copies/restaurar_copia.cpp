@@ -8,16 +8,15 @@ namespace winvrx {
 
 namespace {
 
-const Message kFailure{"Erro", "Ocorreu Erro", Icon::Critical};
-const Message kNoneChosen{"Aviso", "Selecione uma Cópia na Lista!", Icon::Exclamation};
-const Message kNothingToDo{"Aviso", "A Pasta de Dados já está igual a esta Cópia!",
-                           Icon::Information};
+const Message kFailure = failure("Erro", "Ocorreu Erro");
+const Message kNoneChosen = refusal("Aviso", "Selecione uma Cópia na Lista!");
+const Message kNothingToDo = notice("Aviso", "A Pasta de Dados já está igual a esta Cópia!");
 
 Message confirmation(const CopyName& name) {
-    return {"RESTAURAR", "Confirma a Restauração da Cópia de " + momentOfCopy(name) + "?",
-            Icon::Exclamation, Buttons::YesNo,
-            "A pasta de dados volta a ser o que era. O estado de agora é guardado antes, como mais "
-            "uma cópia desta lista."};
+    return warning(
+        "RESTAURAR", "Confirma a Restauração da Cópia de " + momentOfCopy(name) + "?",
+        "A pasta de dados volta a ser o que era. O estado de agora é guardado antes, como mais "
+        "uma cópia desta lista.");
 }
 
 std::string counted(int count, std::string_view one, std::string_view many) {
@@ -82,10 +81,7 @@ std::string_view originOfCopy(const CopyName& name) {
 }
 
 void RestaurarCopia::load() {
-    (void)attempt(at_, kFailure, [this] {
-        list_ = copies_.list(at_.session.folder);
-        return true;
-    });
+    (void)attempt(at_, kFailure, [this] { list_ = copies_.list(at_.session.folder); });
 }
 
 CopyPreview RestaurarCopia::preview(const CopyName& copy) const {

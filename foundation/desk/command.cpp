@@ -7,30 +7,29 @@ namespace winvrx {
 namespace {
 
 Message takeOver(const LockHolder& holder) {
-    return {"Pasta de Dados em Uso",
-            "A pasta de dados está em uso por " + holder.description() +
-                ". Deseja continuar mesmo assim?",
-            Icon::Exclamation, Buttons::YesNo,
-            "Continue somente se esse computador foi desligado ou travou durante uma gravação."};
+    return warning(
+        "Pasta de Dados em Uso",
+        "A pasta de dados está em uso por " + holder.description() +
+            ". Deseja continuar mesmo assim?",
+        "Continue somente se esse computador foi desligado ou travou durante uma gravação.");
 }
 
 }  // namespace
 
 Message incorrectData() {
-    return {"Erro", "Dados incorretos!", Icon::Critical};
+    return failure("Erro", "Dados incorretos!");
 }
 
 Message noCompany() {
-    return {"Aviso", "Cadastre Primeiro Uma Empresa!!", Icon::Exclamation};
+    return refusal("Aviso", "Cadastre Primeiro Uma Empresa!!");
 }
 
 Message noEmployeeSelected() {
-    return {"Aviso", "Selecione um Funcionário na Lista!", Icon::Exclamation};
+    return refusal("Aviso", "Selecione um Funcionário na Lista!");
 }
 
 Message discardTyped() {
-    return {"Aviso", "Há dados digitados que não foram gravados. Deseja descartá-los?",
-            Icon::Exclamation, Buttons::YesNo};
+    return warning("Aviso", "Há dados digitados que não foram gravados. Deseja descartá-los?");
 }
 
 void reportFailure(const Workplace& at, Message message, const std::exception& fault) {
@@ -50,7 +49,7 @@ FolderLock::Hold holdFolder(const Workplace& at, const std::filesystem::path& fo
 }
 
 void openHelp(const Workplace& at, Browser& browser) {
-    if (!browser.openHelp()) at.person.tell({"Erro", "Ocorreu Erro", Icon::Exclamation});
+    if (!browser.openHelp()) at.person.tell(refusal("Erro", "Ocorreu Erro"));
 }
 
 }  // namespace winvrx

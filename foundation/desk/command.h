@@ -9,6 +9,7 @@
 #include "foundation/values/faults.h"
 
 #include <exception>
+#include <type_traits>
 
 namespace winvrx {
 
@@ -45,12 +46,17 @@ void reportFailure(const Workplace& at, Message message, const std::exception& f
 /// Opens the help page; "Ocorreu Erro" when no browser shows it.
 void openHelp(const Workplace& at, Browser& browser);
 
-/// Runs a command under its catch-all. `work` returns whether the command was carried out; a fault
-/// on the way is logged and told, and counts as not carried out.
+/// Runs a command under its catch-all. `work` returns whether the command was carried out, or
+/// nothing when it always is; a fault on the way is logged and told, and counts as not carried out.
 template <typename Work>
 [[nodiscard]] bool attempt(const Workplace& at, const Message& onFailure, Work&& work) {
     try {
-        return work();
+        if constexpr (std::is_void_v<std::invoke_result_t<Work&>>) {
+            work();
+            return true;
+        } else {
+            return work();
+        }
     } catch (const std::exception& fault) {
         reportFailure(at, onFailure, fault);
         return false;

@@ -1,22 +1,8 @@
 #pragma once
 
-#include <string>
+#include "foundation/desk/message.h"
 
 namespace winvrx {
-
-enum class Icon { None, Information, Question, Exclamation, Critical };
-enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
-enum class Answer { Ok, Cancel, Yes, No };
-
-/// One message box. `text` is the system's own wording; `detail` says in a further sentence what
-/// happened, and is shown smaller below it.
-struct Message {
-    std::string title;
-    std::string text;
-    Icon icon = Icon::None;
-    Buttons buttons = Buttons::Ok;
-    std::string detail = {};
-};
 
 /// The person at the desk: the one seam through which commands show message boxes.
 class Operator {
@@ -28,10 +14,7 @@ class Operator {
     virtual Answer ask(const Message& message) = 0;
 
     void tell(const Message& message) { (void)ask(message); }
-    [[nodiscard]] bool agrees(const Message& message) {
-        const Answer answer = ask(message);
-        return answer == Answer::Yes || answer == Answer::Ok;
-    }
+    [[nodiscard]] bool agrees(const Message& message) { return ask(message) == agreement(message); }
 };
 
 }  // namespace winvrx

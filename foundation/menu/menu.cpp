@@ -11,31 +11,28 @@ namespace {
 
 constexpr std::string_view kEarlierTitle = "Dados de Funcionarios da Versão Anterior";
 
-const Message kAlreadyOpen{"Aviso", "O Aplicativo Já está Aberto!", Icon::Exclamation};
-const Message kShareNotFound{"Aviso Diretório de Rede",
-                             "Diretório de Rede Não Encontrado, ou Rede Desconectada!",
-                             Icon::Critical};
-const Message kNoEmployee{"Aviso",
-                          "Não há Dados de Funcionários! Cadastre pelo menos um Funcionário.",
-                          Icon::Exclamation};
-const Message kFailure{"Erro", "Ocorreu Erro", Icon::Critical};
-const Message kUseEarlier{
-    std::string(kEarlierTitle),
-    "Existem Dados Cadastrados na Versão Anterior! Deseja Utilizar essa Base de Dados Anterior?",
-    Icon::Question, Buttons::YesNo};
-const Message kConfirmUse{std::string(kEarlierTitle), "Clique em OK para Confirmar.",
-                          Icon::Question, Buttons::OkCancel};
-const Message kDiscardEarlier{
-    std::string(kEarlierTitle),
+const Message kAlreadyOpen = refusal("Aviso", "O Aplicativo Já está Aberto!");
+const Message kShareNotFound =
+    failure("Aviso Diretório de Rede", "Diretório de Rede Não Encontrado, ou Rede Desconectada!");
+const Message kNoEmployee =
+    refusal("Aviso", "Não há Dados de Funcionários! Cadastre pelo menos um Funcionário.");
+const Message kFailure = failure("Erro", "Ocorreu Erro");
+const Message kUseEarlier = question(
+    kEarlierTitle,
+    "Existem Dados Cadastrados na Versão Anterior! Deseja Utilizar essa Base de Dados Anterior?");
+const Message kConfirmUse =
+    riskyQuestion(kEarlierTitle, "Clique em OK para Confirmar.", {}, Buttons::OkCancel);
+const Message kDiscardEarlier = warning(
+    kEarlierTitle,
     "Tem Certeza que Não quer utilizar os Dados Cadastrados na Versão Anterior? Clique em 'OK' "
     "para excluir permanentemente essa Base de Dados Anterior.",
-    Icon::Exclamation, Buttons::OkCancel};
-const Message kConfirmDiscard{std::string(kEarlierTitle), "Clique em OK para Confirmar a Exclusão.",
-                              Icon::Exclamation, Buttons::OkCancel};
+    {}, Buttons::OkCancel);
+const Message kConfirmDiscard =
+    warning(kEarlierTitle, "Clique em OK para Confirmar a Exclusão.", {}, Buttons::OkCancel);
 
 Message driveMissing(char letter) {
-    return {"Aviso", std::string("O drive ") + letter + " não está disponível.", Icon::Exclamation,
-            Buttons::Ok, std::string("Os dados do drive ") + kDefaultDrive + " serão usados."};
+    return refusal("Aviso", std::string("O drive ") + letter + " não está disponível.",
+                   std::string("Os dados do drive ") + kDefaultDrive + " serão usados.");
 }
 
 bool needsCompany(MenuCommand command) {
@@ -82,7 +79,6 @@ bool Menu::start() {
     (void)attempt(at_, kFailure, [this] {
         openFolder(kDefaultDrive);
         readDriveLetter();
-        return true;
     });
     reloadCompanies();
     return true;
@@ -143,10 +139,8 @@ void Menu::removeHeld(const std::filesystem::path& file) {
 }
 
 void Menu::reloadCompanies() {
-    const bool loaded = attempt(at_, incorrectData(), [this] {
-        companies_ = loadOrCreateCompanies(at_);
-        return true;
-    });
+    const bool loaded =
+        attempt(at_, incorrectData(), [this] { companies_ = loadOrCreateCompanies(at_); });
     if (!loaded) companies_.clear();
     if (!selected()) at_.session.company.reset();
 }
@@ -163,7 +157,6 @@ void Menu::select(std::size_t position) {
     (void)attempt(at_, kFailure, [&] {
         at_.session.company = companies_.at(position).code();
         removeHeld(at_.session.folder.file(kSelectedMonthName));
-        return true;
     });
 }
 
@@ -176,7 +169,6 @@ void Menu::useDrive(char letter) {
         const auto memory = localFolder(kDefaultDrive) / kStartMemoryName;
         const auto hold = holdFolder(at_, memory.parent_path());
         RecordFile(at_.files, memory).rewrite({std::string(1, letter)});
-        return true;
     });
     if (!moved) at_.session.folder = before;
     at_.session.company.reset();
@@ -249,7 +241,6 @@ void Menu::exit() {
         removeHeld(at_.session.folder.file(kSelectedMonthName));
         removeHeld(at_.session.folder.file(kStartMemoryName));
         removeHeld(localFolder(kDefaultDrive) / kStartMemoryName);
-        return true;
     });
 }
 

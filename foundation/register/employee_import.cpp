@@ -11,10 +11,9 @@ namespace winvrx {
 namespace {
 
 Message confirmation(std::size_t count) {
-    return {"INCLUSÃO", "Confirma a Inclusão na LISTA DE FUNCIONARIOS?", Icon::Question,
-            Buttons::YesNo,
-            count == 1 ? "Será incluído 1 funcionário."
-                       : "Serão incluídos " + std::to_string(count) + " funcionários."};
+    return question("INCLUSÃO", "Confirma a Inclusão na LISTA DE FUNCIONARIOS?",
+                    count == 1 ? "Será incluído 1 funcionário."
+                               : "Serão incluídos " + std::to_string(count) + " funcionários.");
 }
 
 bool isSame(const std::vector<EmployeeLine>& lines, const std::vector<EmployeeLine>& others) {
@@ -42,7 +41,6 @@ bool EmployeeImport::open(const std::filesystem::path& csv) {
         const CsvRows table = parseCsv(*bytes);
         before_ = EmployeeRegister(at_.store(), *at_.session.company).load();
         judge(table);
-        return true;
     });
 }
 
@@ -89,7 +87,6 @@ bool EmployeeImport::include() {
         for (const ImportedRow& row : rows_)
             if (row.isGood()) lines.push_back(lineOf(row.employee));
         list.save(lines, at_.clock.now());
-        return true;
     });
 }
 

@@ -9,50 +9,40 @@ namespace winvrx {
 
 namespace {
 
-const Message kIncomplete{"Aviso", "Dados Incompletos!!", Icon::Exclamation};
-const Message kNotAccepted{"Aviso", "Dado Incorreto!", Icon::Exclamation};
-const Message kWrongAdmission{"Aviso", "Data de Admissão Incorreta!!", Icon::Exclamation};
-const Message kConfirmInclude{"INCLUSÃO", "Confirma a Inclusão na LISTA DE FUNCIONARIOS?",
-                              Icon::Question, Buttons::YesNo};
-const Message kConfirmChange{"ALTERAÇÃO", "Confirma Alteração deste ITEM?", Icon::Question,
-                             Buttons::YesNo};
-const Message kConfirmDelete{"EXCLUSÃO",
-                             "Deseja Excluir o ìtem Selecionado da LISTA DE FUNCIONARIOS?",
-                             Icon::Exclamation, Buttons::YesNo};
+const Message kIncomplete = refusal("Aviso", "Dados Incompletos!!");
+const Message kNotAccepted = refusal("Aviso", "Dado Incorreto!");
+const Message kWrongAdmission = refusal("Aviso", "Data de Admissão Incorreta!!");
+const Message kConfirmInclude =
+    question("INCLUSÃO", "Confirma a Inclusão na LISTA DE FUNCIONARIOS?");
+const Message kConfirmChange = question("ALTERAÇÃO", "Confirma Alteração deste ITEM?");
+const Message kConfirmDelete =
+    warning("EXCLUSÃO", "Deseja Excluir o ìtem Selecionado da LISTA DE FUNCIONARIOS?");
 
-const Message kRotationMember{
+const Message kRotationMember = refusal(
     "ALTERAÇÃO",
     "Não Permitido Alteração de TURNO ou ESCALA deste Funcionário pois consta na lista de um dos "
-    "Grupos de Escala de Revezamento. Para Alterar, Primeiro Remova-o da Lista de Revezamento. ",
-    Icon::Exclamation};
-const Message kPayrollClosed{
+    "Grupos de Escala de Revezamento. Para Alterar, Primeiro Remova-o da Lista de Revezamento. ");
+const Message kPayrollClosed = refusal(
     "ALTERAÇÃO",
     "ATENÇÃO! Não é Recomendável Alterar o Cadastro de Funcionário! Já Foi Gerada a Folha de "
-    "Pagamento para este Funcionário!!",
-    Icon::Exclamation};
-const Message kConfirmDespitePayroll{
-    "ALTERAÇÃO", "Confirma Gravar Alteração dos Dados do Funcionário Selecionado?", Icon::Question,
-    Buttons::YesNo};
-const Message kNoOtherCompany{"Transferência", "Não há outra empresa cadastrada.",
-                              Icon::Exclamation};
-const Message kRegisteredThere{
-    "Transferência", "Este Funcionário Já Está Cadastrado na Outra Empresa!! ", Icon::Exclamation};
-const Message kHasPunches{"Transferência",
-                          "Este Funcionário Possui Dados de Ponto e não poderá ser Transferido "
-                          "para Outra Empresa!! ",
-                          Icon::Exclamation};
-const Message kDeletesMember{
+    "Pagamento para este Funcionário!!");
+const Message kConfirmDespitePayroll =
+    question("ALTERAÇÃO", "Confirma Gravar Alteração dos Dados do Funcionário Selecionado?");
+const Message kNoOtherCompany = refusal("Transferência", "Não há outra empresa cadastrada.");
+const Message kRegisteredThere =
+    refusal("Transferência", "Este Funcionário Já Está Cadastrado na Outra Empresa!! ");
+const Message kHasPunches =
+    refusal("Transferência",
+            "Este Funcionário Possui Dados de Ponto e não poderá ser Transferido "
+            "para Outra Empresa!! ");
+const Message kDeletesMember = refusal(
     "EXCLUSÃO",
     "Não Permitido Excluir este Funcionário pois O COLABORADOR Consta na na Lista de um dos Grupos "
-    "da Escala de Revezamento. Para Alterar, Primeiro Remova-o da Lista de Revezamento. ",
-    Icon::Exclamation};
-const Message kDeleteDespiteGroup{"EXCLUSÃO", "Deseja Excluir Mesmo Assim?", Icon::Exclamation,
-                                  Buttons::YesNo};
-const Message kConfirmDeleteAll{"EXCLUSÃO", "Deseja Excluir Toda LISTA DE FUNCIONARIOS?",
-                                Icon::Exclamation, Buttons::YesNo};
-const Message kCertainDeleteAll{"EXCLUSÃO",
-                                "Tem Certeza de que Deseja Excluir Toda LISTA DE FUNCIONARIOS?",
-                                Icon::Exclamation, Buttons::YesNo};
+    "da Escala de Revezamento. Para Alterar, Primeiro Remova-o da Lista de Revezamento. ");
+const Message kDeleteDespiteGroup = warning("EXCLUSÃO", "Deseja Excluir Mesmo Assim?");
+const Message kConfirmDeleteAll = warning("EXCLUSÃO", "Deseja Excluir Toda LISTA DE FUNCIONARIOS?");
+const Message kCertainDeleteAll =
+    warning("EXCLUSÃO", "Tem Certeza de que Deseja Excluir Toda LISTA DE FUNCIONARIOS?");
 
 Message withDetail(Message message, std::string detail) {
     message.detail = std::move(detail);
@@ -80,10 +70,7 @@ Empregados::Empregados(const Workplace& at, const EmployeeSurroundings& around)
     : at_(at), around_(around) {}
 
 void Empregados::load() {
-    (void)attempt(at_, incorrectData(), [this] {
-        read();
-        return true;
-    });
+    (void)attempt(at_, incorrectData(), [this] { read(); });
 }
 
 void Empregados::read() {
@@ -217,7 +204,6 @@ bool Empregados::removeAll() {
         for (const EmployeeLine& line : lines)
             removeFilesOf(line, {});
         save({});
-        return true;
     });
 }
 

@@ -15,25 +15,21 @@ namespace {
 
 constexpr std::string_view kWait = "Aguarde ....";
 
-const Message kConfirmSortByName{"ORDEM ALFABETICA", "Confirma Ordenação Alfabetica dos ITENS?",
-                                 Icon::Question, Buttons::YesNo};
-const Message kConfirmSortByAdmission{"ORDEM POR ADIMISSAO",
-                                      "Confirma Ordenação por Data de Adimissão dos ITENS?",
-                                      Icon::Question, Buttons::YesNo};
-const Message kUnreadableAdmission{"ORDEM POR ADIMISSAO",
-                                   "ERRO! Dados incorretos no ITENS Selecionado!", Icon::Critical};
-const Message kNoPlace{"MOVER", "O Numero da Posição Inválido!", Icon::Exclamation};
-const Message kPlaceTooLow{
+const Message kConfirmSortByName =
+    riskyQuestion("ORDEM ALFABETICA", "Confirma Ordenação Alfabetica dos ITENS?");
+const Message kConfirmSortByAdmission =
+    riskyQuestion("ORDEM POR ADIMISSAO", "Confirma Ordenação por Data de Adimissão dos ITENS?");
+const Message kUnreadableAdmission =
+    failure("ORDEM POR ADIMISSAO", "ERRO! Dados incorretos no ITENS Selecionado!");
+const Message kNoPlace = refusal("MOVER", "O Numero da Posição Inválido!");
+const Message kPlaceTooLow = refusal(
     "MOVER",
-    "O Numero da Posição não deve ser Igual ou Menor que 0 (Quantidade de Itens na Lista)!",
-    Icon::Exclamation};
-const Message kPlaceTooHigh{
-    "MOVER", "O Numero da Posição não deve ser Maior do que a Quantidade de Itens na Lista!",
-    Icon::Exclamation};
-const Message kConfirmReport{"ATIVOS E INATIVOS",
-                             "Confirma Geração do Relatório de Colaboradores Ativos e Inativos?",
-                             Icon::Question, Buttons::YesNo};
-const Message kNotOpened{"ATIVOS E INATIVOS", "Ocorreu Erro", Icon::Exclamation};
+    "O Numero da Posição não deve ser Igual ou Menor que 0 (Quantidade de Itens na Lista)!");
+const Message kPlaceTooHigh = refusal(
+    "MOVER", "O Numero da Posição não deve ser Maior do que a Quantidade de Itens na Lista!");
+const Message kConfirmReport = question(
+    "ATIVOS E INATIVOS", "Confirma Geração do Relatório de Colaboradores Ativos e Inativos?");
+const Message kNotOpened = refusal("ATIVOS E INATIVOS", "Ocorreu Erro");
 
 constexpr std::string_view kActiveReportName = "RelAtivos.txt";
 constexpr std::string_view kInactiveReportName = "RelInativos.txt";
@@ -74,7 +70,6 @@ bool Empregados::sort(const Message& question, const Message& onFailure, Sort&& 
         auto lines = employeeRegister().load();
         order(lines);
         save(std::move(lines));
-        return true;
     });
 }
 
@@ -97,7 +92,6 @@ bool Empregados::moveTo(std::size_t position, std::string_view typedPlace) {
         if (lines.size() != lines_.size()) throw changedElsewhere();
         moveLine(lines, position, static_cast<std::size_t>(*place) - 1);
         save(std::move(lines));
-        return true;
     });
 }
 
@@ -136,7 +130,6 @@ bool Empregados::exportTo(const std::filesystem::path& file) {
         at_.files.replace(file, isWorkbookName(file)
                                     ? around_.spreadsheet.workbookOf(table, "Funcionários")
                                     : csvText(rowsOf(table)));
-        return true;
     });
 }
 

@@ -8,26 +8,21 @@ namespace winvrx {
 
 namespace {
 
-const Message kConfirmInclude{"INCLUSÃO", "Confirma a Inclusão?", Icon::Question, Buttons::YesNo};
-const Message kConfirmChange{"ALTERAÇÃO", "Confirma a Alteração do Item Selecionado?",
-                             Icon::Question, Buttons::YesNo};
-const Message kFirstCompany{
+const Message kConfirmInclude = question("INCLUSÃO", "Confirma a Inclusão?");
+const Message kConfirmChange = question("ALTERAÇÃO", "Confirma a Alteração do Item Selecionado?");
+const Message kFirstCompany = failure(
     "Excluindo Empresa",
     "ATENCAO!!! Não é Possível Excluir a Primeira Empresa. Você Pode Alterar os Dados Cadastrados "
-    "nesta Empresa! ",
-    Icon::Critical};
-const Message kConfirmDelete{"EXCLUSÃO", "Confirma a Exclusão do Item Selecionado?", Icon::Question,
-                             Buttons::YesNo};
-const Message kHasEmployees{
+    "nesta Empresa! ");
+const Message kConfirmDelete =
+    riskyQuestion("EXCLUSÃO", "Confirma a Exclusão do Item Selecionado?");
+const Message kHasEmployees = warning(
     "CUIDADO!!! - Excluindo Empresa",
     "ATENCAO!!! Não é Possível Excluir agora. Existem Funcioários Cadastrados nesta Empresa! "
-    "Deseja Excluir toda lista de Funcionário Incluindo desta Empresa Selecionada?",
-    Icon::Exclamation, Buttons::YesNo};
-const Message kDeletesEmployees{
-    "EXCLUIR", "Este Comando irá Exluir a Empresa e a Lista de Funcionarios. Deseja Continuar?",
-    Icon::Exclamation, Buttons::YesNo};
-const Message kCertain{"EXCLUIR", "Tem Certeza que Deseja Excluir o Item Selecionado?",
-                       Icon::Exclamation, Buttons::YesNo};
+    "Deseja Excluir toda lista de Funcionário Incluindo desta Empresa Selecionada?");
+const Message kDeletesEmployees = warning(
+    "EXCLUIR", "Este Comando irá Exluir a Empresa e a Lista de Funcionarios. Deseja Continuar?");
+const Message kCertain = warning("EXCLUIR", "Tem Certeza que Deseja Excluir o Item Selecionado?");
 
 constexpr auto kChangedElsewhere =
     "O cadastro foi alterado por outro computador. Abra a tela novamente.";
@@ -45,10 +40,7 @@ CompanyLine lineOf(Company company, const CompanyCode& code, Date today,
 Empresa::Empresa(const Workplace& at, Browser& browser) : at_(at), browser_(browser) {}
 
 void Empresa::load() {
-    (void)attempt(at_, incorrectData(), [this] {
-        lines_ = loadOrCreateCompanies(at_);
-        return true;
-    });
+    (void)attempt(at_, incorrectData(), [this] { lines_ = loadOrCreateCompanies(at_); });
 }
 
 bool Empresa::include(Company typed) {
@@ -62,7 +54,6 @@ bool Empresa::include(Company typed) {
             throw Fault("no free company code", "Todos os códigos de 01 a 99 já estão em uso.");
         lines.push_back(lineOf(std::move(typed), *code, at_.clock.today()));
         save(std::move(lines));
-        return true;
     });
 }
 
@@ -78,7 +69,6 @@ bool Empresa::change(std::size_t position, Company typed) {
                         "Esta linha do cadastro não tem um código válido.");
         lines[position] = lineOf(std::move(typed), *code, at_.clock.today(), lines[position].bytes);
         save(std::move(lines));
-        return true;
     });
 }
 

@@ -9,21 +9,19 @@ namespace winvrx {
 
 namespace {
 
-const Message kConfirmChange{"ALTERAÇÃO", "Confirma Alteração deste ITEM?", Icon::Question,
-                             Buttons::YesNo};
-const Message kRotationMember{
+const Message kConfirmChange = question("ALTERAÇÃO", "Confirma Alteração deste ITEM?");
+const Message kRotationMember = refusal(
     "ALTERAÇÃO",
     "Não Permitido Alteração de Turno deste Funcionário pois consta na lista de um dos Grupos da "
-    "Escala de Revezamento. Para Alterar, Primeiro Remova-o da Lista de Revezamento. ",
-    Icon::Exclamation};
-const Message kBarredByScale{
-    "Aviso", "Dado Incorreto!", Icon::Exclamation, Buttons::Ok,
-    "A escala 12x36 é permitida somente nos turnos 1 e 3. Altere primeiro a escala."};
+    "Escala de Revezamento. Para Alterar, Primeiro Remova-o da Lista de Revezamento. ");
+const Message kBarredByScale =
+    refusal("Aviso", "Dado Incorreto!",
+            "A escala 12x36 é permitida somente nos turnos 1 e 3. Altere primeiro a escala.");
 
 Message noShiftChosen(const Employee& employee) {
-    return {"Aviso", "Dado Incorreto!", Icon::Exclamation, Buttons::Ok,
-            "O turno \"" + employee.shift + "\" de " + employee.code + " " + employee.name +
-                " não é conhecido. Escolha o novo turno na lista."};
+    return refusal("Aviso", "Dado Incorreto!",
+                   "O turno \"" + employee.shift + "\" de " + employee.code + " " + employee.name +
+                       " não é conhecido. Escolha o novo turno na lista.");
 }
 
 }  // namespace
@@ -34,7 +32,6 @@ void Turnos::load() {
         lines_.clear();
         if (at_.session.company)
             lines_ = EmployeeRegister(at_.store(), *at_.session.company).load();
-        return true;
     });
 }
 

@@ -12,23 +12,21 @@ namespace {
 
 constexpr auto kPrinting = "IMPRIMINDO";
 
-const Message kCancelOthers{kPrinting, "Deseja Cancelar as demais Impressões? ", Icon::Question,
-                            Buttons::YesNo};
-const Message kLeaveSecondSide{kPrinting,
-                               "Deseja deixar os cartões impressos somente no primeiro lado?",
-                               Icon::Exclamation, Buttons::YesNo};
-const Message kReplaceFiles{kPrinting,
-                            "Já existem nesta pasta arquivos destes cartões. Deseja substituí-los?",
-                            Icon::Exclamation, Buttons::YesNo};
+const Message kCancelOthers = riskyQuestion(kPrinting, "Deseja Cancelar as demais Impressões? ");
+const Message kLeaveSecondSide =
+    warning(kPrinting, "Deseja deixar os cartões impressos somente no primeiro lado?");
+const Message kReplaceFiles =
+    warning(kPrinting, "Já existem nesta pasta arquivos destes cartões. Deseja substituí-los?");
 
 Message confirmCardOf(const Employee& employee) {
-    return {kPrinting, "Confirma a Impressão do Cartão do " + employee.name + " ? ", Icon::Question,
-            Buttons::YesNoCancel};
+    return question(kPrinting, "Confirma a Impressão do Cartão do " + employee.name + " ? ", {},
+                    Buttons::YesNoCancel);
 }
 
 Message printSecondSide(CardOutput output, std::size_t cards) {
-    return {kPrinting, "O primeiro lado já foi enviado. Deseja imprimir o segundo lado agora?",
-            Icon::Question, Buttons::YesNo, stackInstruction(output, cards)};
+    return question(kPrinting,
+                    "O primeiro lado já foi enviado. Deseja imprimir o segundo lado agora?",
+                    stackInstruction(output, cards));
 }
 
 }  // namespace

@@ -17,18 +17,15 @@ namespace {
 
 constexpr std::string_view kPrintingDrive = "C";
 
-const Message kConfirmOne{"IMPRIMIR CARTÃO PONTO",
-                          "Este Comando Irá Imprimir o Item Selecionado. Deseja Prosseguir?",
-                          Icon::Question, Buttons::YesNo};
-const Message kNoStock{"IMPRIMIR CARTÃO PONTO", "Selecione um Tipo de Cartão na Lista! ",
-                       Icon::Exclamation};
-const Message kNoEmployee{"IMPRIMIR CARTÃO PONTO", "Selecione um Funcionário na Lista! ",
-                          Icon::Exclamation};
-const Message kNoMonth{"IMPRIMIR CARTÃO PONTO", "Informe um Mês de Trabalho!!", Icon::Exclamation};
-const Message kWrongDrive{"Imprimir",
-                          "Diretório Inválido p/ Impressão! Transfira os dados do diretório atual "
-                          "para o Diretório 'C'.",
-                          Icon::Critical};
+const Message kConfirmOne = question(
+    "IMPRIMIR CARTÃO PONTO", "Este Comando Irá Imprimir o Item Selecionado. Deseja Prosseguir?");
+const Message kNoStock = refusal("IMPRIMIR CARTÃO PONTO", "Selecione um Tipo de Cartão na Lista! ");
+const Message kNoEmployee = refusal("IMPRIMIR CARTÃO PONTO", "Selecione um Funcionário na Lista! ");
+const Message kNoMonth = refusal("IMPRIMIR CARTÃO PONTO", "Informe um Mês de Trabalho!!");
+const Message kWrongDrive =
+    failure("Imprimir",
+            "Diretório Inválido p/ Impressão! Transfira os dados do diretório atual "
+            "para o Diretório 'C'.");
 
 Company requireCompany(const Store& store, const CompanyCode& code) {
     if (auto company = findCompany(store, code)) return *company;
@@ -52,7 +49,6 @@ void Cartao::load() {
         remembered_ = loadPrinterMemory(at_.store(), *at_.session.company);
         if (!hasUnwritten) choices_.printer = remembered_;
         readEmployees();
-        return true;
     });
 }
 
@@ -61,7 +57,6 @@ bool Cartao::remember() {
     return attemptWriting(at_, incorrectData(), [this] {
         savePrinterMemory(at_.store(), *at_.session.company, choices_.printer);
         remembered_ = choices_.printer;
-        return true;
     });
 }
 
@@ -73,10 +68,7 @@ void Cartao::setFilter(ShiftFilter filter) {
     filter_ = filter;
     ofShift_.clear();
     employees_.clear();
-    (void)attempt(at_, incorrectData(), [this] {
-        readEmployees();
-        return true;
-    });
+    (void)attempt(at_, incorrectData(), [this] { readEmployees(); });
 }
 
 void Cartao::readEmployees() {
@@ -96,10 +88,7 @@ void Cartao::setSearch(std::string text) {
 std::string Cartao::headerPreview(std::optional<std::size_t> position) const {
     if (!month_ || !position || *position >= employees_.size()) return {};
     std::string text;
-    (void)attempt(at_, incorrectData(), [&] {
-        text = headerText(cardOf(employees_[*position]));
-        return true;
-    });
+    (void)attempt(at_, incorrectData(), [&] { text = headerText(cardOf(employees_[*position])); });
     return text;
 }
 

@@ -11,30 +11,29 @@ namespace winvrx {
 
 namespace {
 
-const Message kConfirmReset{"EXCLUSÃO", "Confirma a Volta de Todos os Alinhamentos ao Padrão?",
-                            Icon::Question, Buttons::YesNo,
-                            "Os ajustes de todos os tipos de cartão voltam a 10 e 10."};
-const Message kConfirmCalibration{
+const Message kConfirmReset =
+    riskyQuestion("EXCLUSÃO", "Confirma a Volta de Todos os Alinhamentos ao Padrão?",
+                  "Os ajustes de todos os tipos de cartão voltam a 10 e 10.");
+const Message kConfirmCalibration = question(
     "Imprimir Folha de Calibração",
     "Coloque uma Folha A4 em Branco na Impressora! Pressione SIM para Imprimir ou NÃO para "
-    "Cancelar Impressão.",
-    Icon::Question, Buttons::YesNo};
-const Message kScaleOutOfBounds{
-    std::string(kCartaoPontosTitle), "Dados incorretos!", Icon::Exclamation, Buttons::Ok,
-    "A escala vai de 90,00 a 110,00 por cento e o deslocamento de -50,00 a 50,00 mm."};
-const Message kImpossibleDistances{
-    std::string(kCartaoPontosTitle), "Dados incorretos!", Icon::Exclamation, Buttons::Ok,
+    "Cancelar Impressão.");
+const Message kScaleOutOfBounds =
+    refusal(kCartaoPontosTitle, "Dados incorretos!",
+            "A escala vai de 90,00 a 110,00 por cento e o deslocamento de -50,00 a 50,00 mm.");
+const Message kImpossibleDistances = refusal(
+    kCartaoPontosTitle, "Dados incorretos!",
     "As distâncias medidas não combinam com a folha de calibração. Meça de novo, a partir da borda "
-    "do papel."};
+    "do papel.");
 
 constexpr auto kChangedElsewhere =
     "O alinhamento foi alterado por outro computador. Abra a tela novamente.";
 
 Message confirmTest(const CardStock& stock) {
-    return {"Imprimir Teste",
-            "Coloque um Cartão " + std::string(stock.displayName) +
-                " na Impressora! Pressione SIM para Imprimir ou NÃO para Cancelar Impressão.",
-            Icon::Question, Buttons::YesNo};
+    return question(
+        "Imprimir Teste",
+        "Coloque um Cartão " + std::string(stock.displayName) +
+            " na Impressora! Pressione SIM para Imprimir ou NÃO para Cancelar Impressão.");
 }
 
 Offsets moved(Offsets offsets, Direction direction) {
@@ -62,7 +61,6 @@ void CartaoPontos::load() {
         const CardStock* stock = loadStock(at_.store(), *at_.session.company);
         entry_ = stock ? alignmentEntryOf(stock->code).value_or(0) : 0;
         readSelected();
-        return true;
     });
 }
 
@@ -75,10 +73,7 @@ std::vector<const CardStock*> CartaoPontos::entries() {
 
 bool CartaoPontos::select(std::size_t entry) {
     const std::size_t former = std::exchange(entry_, entry);
-    const bool read = attempt(at_, incorrectData(), [this] {
-        readSelected();
-        return true;
-    });
+    const bool read = attempt(at_, incorrectData(), [this] { readSelected(); });
     if (!read) entry_ = former;
     return read;
 }
@@ -107,7 +102,6 @@ bool CartaoPontos::move(Direction direction) {
         const Offsets now = moved(offsets(), direction);
         saveOffsets(at_.store(), entry_, now);
         alignments_[entry_] = now;
-        return true;
     });
 }
 
@@ -117,7 +111,6 @@ bool CartaoPontos::reset() {
         removeOffsets(at_.store());
         alignments_.assign(kAlignmentEntries, Offsets());
         services_.memory.lines = 0;
-        return true;
     });
 }
 
@@ -162,7 +155,6 @@ bool CartaoPontos::saveScale(const PrintScale& scale) {
             throw Fault("print scale changed on disk", kChangedElsewhere);
         savePrintScale(at_.store(), {key, scale});
         scale_ = scale;
-        return true;
     });
 }
 

@@ -13,10 +13,8 @@ TipoPonto::TipoPonto(const Workplace& at, Browser& browser) : at_(at), browser_(
 
 void TipoPonto::load() {
     current_ = nullptr;
-    (void)attempt(at_, incorrectData(), [this] {
-        current_ = loadStock(at_.store(), *at_.session.company);
-        return true;
-    });
+    (void)attempt(at_, incorrectData(),
+                  [this] { current_ = loadStock(at_.store(), *at_.session.company); });
 }
 
 std::vector<const CardStock*> TipoPonto::offered() {
@@ -36,7 +34,6 @@ bool TipoPonto::choose(const CardStock& stock) {
             throw Fault("stock changed on disk", std::string(kChangedElsewhere));
         saveStock(at_.store(), *at_.session.company, stock);
         current_ = &stock;
-        return true;
     });
 }
 

@@ -62,8 +62,8 @@ QWidget* ImpressorarWindow::buildBody() {
                      QStringLiteral("installed"));
     column->addWidget(kind_);
     list_ = new QListWidget(body);
-    list_->setObjectName(QStringLiteral("impressorar.printers"));
-    list_->setAccessibleName(QStringLiteral("Impressoras instaladas"));
+    look::name(*list_, QStringLiteral("impressorar.printers"),
+               QStringLiteral("Impressoras instaladas"));
     column->addWidget(list_, 1);
     empty_ = look::label(
         QStringLiteral("Nenhuma impressora instalada. Use \"Adicionar Uma Impressora =>>\"."),

@@ -50,8 +50,7 @@ QWidget* PreviewWindow::buildBody(LayoutPainter& painter) {
     view_ = new PageView(painter);
     view_->setObjectName(QStringLiteral("preview.page"));
     scroll_ = new QScrollArea(this);
-    scroll_->setObjectName(QStringLiteral("preview.scroll"));
-    scroll_->setAccessibleName(QStringLiteral("Visualização"));
+    look::name(*scroll_, QStringLiteral("preview.scroll"), QStringLiteral("Visualização"));
     scroll_->setWidget(view_);
     scroll_->setAlignment(Qt::AlignCenter);
     scroll_->setBackgroundRole(QPalette::Mid);

@@ -3,12 +3,12 @@
 #include "foundation/desk/browser.h"
 #include "foundation/desk/log.h"
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/progress.h"
 #include "report/desktop/card_spool.h"
 #include "report/desktop/card_table.h"
 #include "report/desktop/layout.h"
 #include "report/desktop/layout_painter.h"
 #include "report/desktop/preview_window.h"
-#include "report/desktop/print_progress.h"
 #include "report/desktop/report_device.h"
 
 #include <QApplication>
@@ -164,7 +164,9 @@ ReportResult QtReportEngine::deliver(PreviewWindow& window, const ReportRequest&
                                      const Layout& layout, CardSpool& spool) {
     const bool sideBySide = request.output == ReportOutput::Printer && request.printPreviewed;
     const int cards = static_cast<int>(spool.size()) * (sideBySide ? layout.sides : 1);
-    PrintProgress shown(window.windowTitle(), QStringLiteral("preview.progress"), &window);
+    Progress shown({QStringLiteral("preview.progress"), window.windowTitle(),
+                    QStringLiteral("Cartão %1 de %2")},
+                   &window);
     const CardProgress progress = [&shown, cards](int done) { return shown.show(done, cards); };
     return sideBySide ? request.printPreviewed(progress)
                       : printSpool(request, layout, spool, progress);

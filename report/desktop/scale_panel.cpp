@@ -71,8 +71,7 @@ void ScalePanel::addFields(QVBoxLayout& column, Fields& fields,
 void ScalePanel::addButton(QVBoxLayout& column, const QString& text, const char* name,
                            void (ScalePanel::*give)()) {
     auto* button = new QPushButton(text, this);
-    button->setObjectName(QLatin1String(name));
-    button->setAccessibleName(QString(text).remove(QLatin1Char('&')));
+    look::name(*button, QLatin1String(name), text);
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, give);
     column.addWidget(button, 0, Qt::AlignLeft);

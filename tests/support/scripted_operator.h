@@ -19,8 +19,7 @@ class ScriptedOperator final : public Operator {
     Answer ask(const Message& message) override {
         shown.push_back(message);
         if (onAsk) onAsk();
-        if (message.buttons == Buttons::Ok) return Answer::Ok;
-        if (answers.empty()) return message.buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+        if (message.buttons == Buttons::Ok || answers.empty()) return harmlessAnswer(message);
         const Answer answer = answers.front();
         answers.pop_front();
         return answer;

@@ -10,10 +10,9 @@ namespace winvrx {
 namespace {
 
 Message confirmation(const std::string& caption, int percent) {
-    return {"ALTERAÇÃO",
-            "Confirma a Alteração de \"" + caption + "\" para " + std::to_string(percent) +
-                "% para este Funcionário neste Mês?",
-            Icon::Question, Buttons::YesNo};
+    return question("ALTERAÇÃO", "Confirma a Alteração de \"" + caption + "\" para " +
+                                     std::to_string(percent) +
+                                     "% para este Funcionário neste Mês?");
 }
 
 int percentIn(std::string_view typed) {

@@ -8,9 +8,8 @@ namespace winvrx {
 
 namespace {
 
-const Message kGiveUpChanges{
-    "ALTERAÇÃO", "As alterações deste mês ainda não foram gravadas. Deseja abandoná-las?",
-    Icon::Question, Buttons::YesNo};
+const Message kGiveUpChanges = riskyQuestion(
+    "ALTERAÇÃO", "As alterações deste mês ainda não foram gravadas. Deseja abandoná-las?");
 
 constexpr std::string_view kChangedElsewhere =
     "Este mês foi alterado por outro computador. Abra a tela novamente.";
@@ -27,7 +26,6 @@ void DataMesCorrente::open() {
     (void)attempt(at_, incorrectData(), [this] {
         const auto selected = loadSelectedMonth(at_.store());
         load(selected ? selected->month : monthOf(at_.clock.today()));
-        return true;
     });
 }
 
@@ -63,10 +61,7 @@ std::vector<WorkMonth> DataMesCorrente::months() const {
 bool DataMesCorrente::chooseMonth(WorkMonth month) {
     if (month == settings_.month) return true;
     if (!mayLeave()) return false;
-    return attempt(at_, incorrectData(), [&] {
-        load(month);
-        return true;
-    });
+    return attempt(at_, incorrectData(), [&] { load(month); });
 }
 
 bool DataMesCorrente::chooseNextReference() {
@@ -97,7 +92,6 @@ void DataMesCorrente::restoreTicks() {
             record.value_or(proposedSettings(settings_.month, offer_)).holidayCells;
         opened_.holidayCells = settings_.holidayCells;
         if (onDisk_ && record) onDisk_->holidayCells = record->holidayCells;
-        return true;
     });
 }
 
@@ -128,7 +122,6 @@ void DataMesCorrente::reloadOffer() {
             if (before[cell] != after[cell])
                 settings_.holidayCells[cell] = opened_.holidayCells[cell] = after[cell];
         offer_ = std::move(offer);
-        return true;
     });
 }
 
@@ -176,32 +169,24 @@ void DataMesCorrente::write() {
 }
 
 bool DataMesCorrente::record() {
-    return attemptWriting(at_, incorrectData(), [this] {
-        write();
-        return true;
-    });
+    return attemptWriting(at_, incorrectData(), [this] { write(); });
 }
 
 bool DataMesCorrente::confirm() {
     return attemptWriting(at_, incorrectData(), [this] {
         write();
         saveSelectedMonth(at_.store(), {settings_.month, at_.session.shiftFilter});
-        return true;
     });
 }
 
 std::optional<OvertimeUpdate> DataMesCorrente::updateAll(const OvertimeProgress& progress) {
     OvertimeRules rules;
-    const bool readable = attempt(at_, incorrectData(), [&] {
-        rules = withNumbers(settings_, numbers_).overtime;
-        return true;
-    });
+    const bool readable =
+        attempt(at_, incorrectData(), [&] { rules = withNumbers(settings_, numbers_).overtime; });
     if (!readable) return std::nullopt;
     const auto updated = updateOvertimeOfList(at_, settings_.month, rules, progress);
-    (void)attempt(at_, incorrectData(), [this] {
-        ownRules_ = ownRulesOfList(at_, settings_.month);
-        return true;
-    });
+    (void)attempt(at_, incorrectData(),
+                  [this] { ownRules_ = ownRulesOfList(at_, settings_.month); });
     return updated;
 }
 

@@ -8,11 +8,10 @@ namespace winvrx {
 
 namespace {
 
-const Message kConfirmInclude{"INCLUSÃO", "Confirma a Inclusão?", Icon::Question, Buttons::YesNo};
-const Message kConfirmChange{"ALTERAÇÃO", "Confirma a Alteração do Item Selecionado?",
-                             Icon::Question, Buttons::YesNo};
-const Message kConfirmDelete{"EXCLUSÃO", "Confirma a Exclusão do Item Selecionado?", Icon::Question,
-                             Buttons::YesNo};
+const Message kConfirmInclude = question("INCLUSÃO", "Confirma a Inclusão?");
+const Message kConfirmChange = question("ALTERAÇÃO", "Confirma a Alteração do Item Selecionado?");
+const Message kConfirmDelete =
+    riskyQuestion("EXCLUSÃO", "Confirma a Exclusão do Item Selecionado?");
 
 constexpr std::string_view kNoDay = "Digite o dia como dd/mm (todo ano) ou dd/mm/aaaa (uma vez).";
 constexpr std::string_view kNoName = "Digite o nome do feriado.";
@@ -42,10 +41,7 @@ void requireFree(const std::vector<LocalHolidayLine>& lines, const HolidayDay& d
 }  // namespace
 
 void Feriados::load() {
-    (void)attempt(at_, incorrectData(), [this] {
-        lines_ = loadLocalHolidays(at_.store());
-        return true;
-    });
+    (void)attempt(at_, incorrectData(), [this] { lines_ = loadLocalHolidays(at_.store()); });
 }
 
 std::string Feriados::findingOf(const std::string& day) {
@@ -86,7 +82,6 @@ bool Feriados::remove(std::size_t position) {
         auto lines = linesAsShown();
         lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(position));
         save(std::move(lines));
-        return true;
     });
 }
 

@@ -12,9 +12,8 @@ namespace winvrx {
 
 namespace {
 
-const Message kNobodyListed{"Aviso",
-                            "Não há Dados de Funcionários! Cadastre pelo menos um Funcionário.",
-                            Icon::Exclamation};
+const Message kNobodyListed =
+    refusal("Aviso", "Não há Dados de Funcionários! Cadastre pelo menos um Funcionário.");
 
 /// So many that a batch's flush is shared, so few that the operator sees it move on.
 constexpr std::ptrdiff_t kWrittenTogether = 64;
@@ -23,12 +22,12 @@ Message confirmation(const Workplace& at, WorkMonth month, std::size_t employees
     const std::string company = titleOf(loadCompanies(at.store()), at.session.company);
     const std::string count = employees == 1 ? "1 funcionário recebe"
                                              : std::to_string(employees) + " funcionários recebem";
-    return {"ALTERAÇÃO",
-            "Confirma Atualizar as Horas Extras de " + upperCase(monthTitle(month)) +
-                " p/Todos os Funcionários da Lista?",
-            Icon::Question, Buttons::YesNo,
-            company + ", turno " + std::string(codeOf(at.session.shiftFilter)) + ": " + count +
-                " as configurações de horas extras desta tela no lugar das que tinham no mês."};
+    return riskyQuestion(
+        "ALTERAÇÃO",
+        "Confirma Atualizar as Horas Extras de " + upperCase(monthTitle(month)) +
+            " p/Todos os Funcionários da Lista?",
+        company + ", turno " + std::string(codeOf(at.session.shiftFilter)) + ": " + count +
+            " as configurações de horas extras desta tela no lugar das que tinham no mês.");
 }
 
 std::set<EmployeeCode> listedCodes(const Workplace& at) {

@@ -6,58 +6,51 @@ namespace winvrx {
 
 namespace {
 
-const Message kAlreadyApplied{"Aplicação Ponto",
-                              "Já Existem Dados de Ponto Aplicados para Esse Funcionário! .",
-                              Icon::Exclamation};
-const Message kReplaceApplied{
+const Message kAlreadyApplied =
+    refusal("Aplicação Ponto", "Já Existem Dados de Ponto Aplicados para Esse Funcionário! .");
+const Message kReplaceApplied = riskyQuestion(
     "Aplicação Ponto",
     "Se Prosseguir, Irá Perder todas as Alterações Feitas para este Funcionário. Deseja Substituir "
     "os Dados Já Aplicados.",
-    Icon::Question, Buttons::OkCancel};
-const Message kRotationScale{"Aplicação de Ponto",
-                             "Este Funcionário foi definido como ESCALA DE REVEZAMENTO!!!",
-                             Icon::Exclamation};
-const Message kAddToRotation{
-    "Aplicação de Ponto", "Portanto é Necessário PRIMEIRO adicioná-lo na ESCALA DE REVEZAMENTO!!!",
-    Icon::Exclamation};
+    {}, Buttons::OkCancel);
+const Message kRotationScale =
+    refusal("Aplicação de Ponto", "Este Funcionário foi definido como ESCALA DE REVEZAMENTO!!!");
+const Message kAddToRotation = refusal(
+    "Aplicação de Ponto", "Portanto é Necessário PRIMEIRO adicioná-lo na ESCALA DE REVEZAMENTO!!!");
 const std::string kNoScheduleTimes = "O horário de trabalho não tem horas de segunda a sexta";
-const Message kNoSituation{
+const Message kNoSituation = question(
     "Situação",
     "Você não informou a Situação para Essa Operação! Se deseja Informar Clique em 'CANCELAR', "
     "Senão, Clique em 'OK' para Prosseguir",
-    Icon::Question, Buttons::OkCancel, kNoScheduleTimes + ": os dias ficarão sem horas."};
-const Message kHasLeave{
+    kNoScheduleTimes + ": os dias ficarão sem horas.", Buttons::OkCancel);
+const Message kHasLeave = question(
     "Afastamento",
     "Este Funcionário possui Informação de Afastamento! Se Deseja desistir Clique em 'CANCELAR', "
     "Senão, Clique em 'OK' para Prosseguir",
-    Icon::Question, Buttons::OkCancel};
-const Message kAdmissionTooLate{"Analise de Datas",
-                                "A data de Admissão deste Funcionário não está dentro Período do "
-                                "Mês de de Aplicação de Ponto!",
-                                Icon::Critical};
-const Message kConfirmApplication{
+    {}, Buttons::OkCancel);
+const Message kAdmissionTooLate =
+    failure("Analise de Datas",
+            "A data de Admissão deste Funcionário não está dentro Período do "
+            "Mês de de Aplicação de Ponto!");
+const Message kConfirmApplication = question(
     "Aplicação de Pontos",
-    "Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão para o Item Selecionado?",
-    Icon::Question, Buttons::YesNo};
+    "Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão para o Item Selecionado?");
 
 const std::string kSameHoursTitle = "HORÁRIO DE TRABALHO IGUAL PARA TODOS";
-const Message kModelOnLeave{"Afastamento",
-                            "Escolha ou Selecione outro Funcionário que não tenha Afastamento!",
-                            Icon::Exclamation};
-const Message kNoEmployeeLine{"Descrição do Item", "Selecione Outro ITEM!!!", Icon::Exclamation};
-const Message kMixedList{
+const Message kModelOnLeave =
+    refusal("Afastamento", "Escolha ou Selecione outro Funcionário que não tenha Afastamento!");
+const Message kNoEmployeeLine = refusal("Descrição do Item", "Selecione Outro ITEM!!!");
+const Message kMixedList = failure(
     kSameHoursTitle,
     "ERRO!! Existe TURNOS e ESCALA diferente na Lista, Portanto não é possível padronizar HORÁRIO "
-    "DE TRABALHO IGUAL PARA TODOS!",
-    Icon::Critical};
-const Message kEveryShift{
+    "DE TRABALHO IGUAL PARA TODOS!");
+const Message kEveryShift = failure(
     kSameHoursTitle,
-    "ERRO!! O TURNO selecionado não pode ser <Todos>, Portanto Selecione um turno Específico!",
-    Icon::Critical};
+    "ERRO!! O TURNO selecionado não pode ser <Todos>, Portanto Selecione um turno Específico!");
 Message modelLacksSchedule(const Employee& model) {
-    return {kSameHoursTitle, kNoScheduleTimes + ".", Icon::Critical, Buttons::Ok,
-            "Grave primeiro o horário de " + model.code + " " + model.name +
-                ", ou selecione outro funcionário."};
+    return failure(kSameHoursTitle, kNoScheduleTimes + ".",
+                   "Grave primeiro o horário de " + model.code + " " + model.name +
+                       ", ou selecione outro funcionário.");
 }
 
 Message modelNotListed(const Employee& model) {
@@ -68,25 +61,24 @@ Message modelNotListed(const Employee& model) {
     return message;
 }
 
-const Message kErasesAll{
+const Message kErasesAll = warning(
     "Aplicação Ponto",
     "Esta Operação Irá Apagar Todos os Dados Já Existentes, Se Houverem Alterações Serão Perdidas "
     "e Substituidas Pelo Ponto Padrão.",
-    Icon::Exclamation, Buttons::OkCancel};
-const Message kCertainToReplace{"Aplicação Ponto???",
-                                "Tem Certeza que Deseja Substituir as Alterações Já Aplicadas.",
-                                Icon::Question, Buttons::OkCancel};
-const Message kConfirmSameHours{
+    {}, Buttons::OkCancel);
+const Message kCertainToReplace = riskyQuestion(
+    "Aplicação Ponto???", "Tem Certeza que Deseja Substituir as Alterações Já Aplicadas.", {},
+    Buttons::OkCancel);
+const Message kConfirmSameHours = riskyQuestion(
     kSameHoursTitle,
-    "Confirma HORÁRIO DE TRABALHO IGUAL PARA TODOS com BASE no FUNCIONÁRIO SELECIONADO?",
-    Icon::Question, Buttons::YesNo};
+    "Confirma HORÁRIO DE TRABALHO IGUAL PARA TODOS com BASE no FUNCIONÁRIO SELECIONADO?");
 
 Message confirmList(const std::string& description) {
-    return {"Aplicação de Pontos",
-            "Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão para Todos os Itens "
-            "do " +
-                description + " da Lista?",
-            Icon::Question, Buttons::YesNo};
+    return question(
+        "Aplicação de Pontos",
+        "Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão para Todos os Itens "
+        "do " +
+            description + " da Lista?");
 }
 
 Message confirmation(const ListApplicationCase& asked) {

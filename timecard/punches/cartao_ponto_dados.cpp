@@ -12,14 +12,13 @@ namespace winvrx {
 
 namespace {
 
-const Message kNoMonth{"Aviso", "Informe um Mês de Trabalho!!", Icon::Exclamation};
-const Message kSaturdayIsNormal{"HORÁRIO DE TRABALHO", "No SÁBADO Será HORA NORMAL?",
-                                Icon::Question, Buttons::YesNo};
-const Message kNeedsSituation{"DIGITAÇÃO DO PONTO", "Informe o Tipo de Situação!",
-                              Icon::Exclamation, Buttons::OkCancel};
-const Message kRecordChanges{
-    "ALTERAÇÃO", "As alterações deste Funcionário ainda não foram gravadas. Deseja gravá-las?",
-    Icon::Question, Buttons::YesNoCancel};
+const Message kNoMonth = refusal("Aviso", "Informe um Mês de Trabalho!!");
+const Message kSaturdayIsNormal = question("HORÁRIO DE TRABALHO", "No SÁBADO Será HORA NORMAL?");
+const Message kNeedsSituation =
+    warning("DIGITAÇÃO DO PONTO", "Informe o Tipo de Situação!", {}, Buttons::OkCancel);
+const Message kRecordChanges = question(
+    "ALTERAÇÃO", "As alterações deste Funcionário ainda não foram gravadas. Deseja gravá-las?", {},
+    Buttons::YesNoCancel);
 
 constexpr std::string_view kWeekly = " HORAS SEMANAIS";
 constexpr std::string_view kMonthly = " HORAS MENSAIS";
@@ -112,18 +111,12 @@ void CartaoPontoDados::loadCard(std::size_t position) {
 
 bool CartaoPontoDados::filterBy(ShiftFilter filter) {
     if (!confirmLeaving()) return false;
-    return attempt(at_, incorrectData(), [&] {
-        loadList(company_.value(), settings_, filter);
-        return true;
-    });
+    return attempt(at_, incorrectData(), [&] { loadList(company_.value(), settings_, filter); });
 }
 
 bool CartaoPontoDados::select(std::size_t position) {
     if (!confirmLeaving()) return false;
-    return attempt(at_, incorrectData(), [&] {
-        loadCard(position);
-        return true;
-    });
+    return attempt(at_, incorrectData(), [&] { loadCard(position); });
 }
 
 const Employee* CartaoPontoDados::selected() const {
@@ -172,7 +165,6 @@ bool CartaoPontoDados::saveSchedule() {
         requireScheduleAsShown();
         winvrx::saveSchedule(at_.store(), {company_.value(), selectedCode()}, schedule);
         schedule_ = TypedSchedule(decodeSchedule(encode(schedule)));
-        return true;
     });
 }
 

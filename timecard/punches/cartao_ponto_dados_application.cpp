@@ -12,15 +12,13 @@ namespace winvrx {
 
 namespace {
 
-const Message kClosedMonth{
-    "DIGITAÇÃO DO PONTO",
-    "ATENÇÃO! Não é Possível Alterar o Ponto! Já Foi Gerada a Folha de Pagamento para este "
-    "Funcionário!!",
-    Icon::Exclamation};
-const Message kScheduleNotRecorded{
+const Message kClosedMonth =
+    refusal("DIGITAÇÃO DO PONTO",
+            "ATENÇÃO! Não é Possível Alterar o Ponto! Já Foi Gerada a Folha de Pagamento para este "
+            "Funcionário!!");
+const Message kScheduleNotRecorded = question(
     "Aplicação de Pontos",
-    "O Horário de Trabalho foi alterado e ainda não foi gravado. Deseja gravá-lo e aplicá-lo?",
-    Icon::Question, Buttons::YesNo};
+    "O Horário de Trabalho foi alterado e ainda não foi gravado. Deseja gravá-lo e aplicá-lo?");
 
 /// Of one kind that a message names; the log has them all.
 constexpr std::size_t kMostNames = 30;
@@ -52,7 +50,6 @@ bool CartaoPontoDados::chooseMinutes(Minutes minutes) {
     return attemptWriting(at_, incorrectData(), [&] {
         saveMinutes(at_.store(), minutes);
         minutes_ = minutes;
-        return true;
     });
 }
 
@@ -168,8 +165,8 @@ bool CartaoPontoDados::fillAll(const std::vector<std::size_t>& positions, bool s
     if (const std::string remarks = application.remarks(kMostNames); !remarks.empty()) {
         const std::string all = application.remarks(codes.size());
         if (all != remarks) at_.log.write("punches of a list: " + all);
-        at_.person.tell({"Aplicação de Pontos", summaryOf(filledCards_, codes.size()),
-                         Icon::Information, Buttons::Ok, remarks});
+        at_.person.tell(
+            notice("Aplicação de Pontos", summaryOf(filledCards_, codes.size()), remarks));
     }
     return true;
 }

@@ -17,24 +17,13 @@ namespace winvrx {
 
 namespace {
 
-constexpr int kFewestRows = 3;
 constexpr int kFilesCell = 2;
 constexpr int kSizeCell = 3;
 
 QTreeWidget* table(const QString& objectName, const QString& name, const QStringList& headings,
                    QWidget* parent) {
-    auto* table = new QTreeWidget(parent);
-    table->setObjectName(objectName);
-    table->setAccessibleName(name);
-    table->setHeaderLabels(headings);
-    table->setMinimumSize(1, kFewestRows * table->fontMetrics().height());
-    table->setRootIsDecorated(false);
-    table->setUniformRowHeights(true);
-    table->setAlternatingRowColors(true);
-    table->setAllColumnsShowFocus(true);
-    table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    QTreeWidget* table = look::table(objectName, name, headings, parent);
     table->header()->setSectionResizeMode(1, QHeaderView::Stretch);
-    table->header()->setStretchLastSection(false);
     return table;
 }
 

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QProgressDialog>
 
 namespace winvrx {
 
@@ -39,15 +40,16 @@ QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
     return QMessageBox::Ok;
 }
 
-QMessageBox::StandardButton harmlessOf(Buttons buttons) {
-    switch (buttons) {
-        case Buttons::Ok:
+QMessageBox::StandardButton buttonOf(Answer answer) {
+    switch (answer) {
+        case Answer::Ok:
             return QMessageBox::Ok;
-        case Buttons::YesNo:
-            return QMessageBox::No;
-        case Buttons::OkCancel:
-        case Buttons::YesNoCancel:
+        case Answer::Cancel:
             return QMessageBox::Cancel;
+        case Answer::Yes:
+            return QMessageBox::Yes;
+        case Answer::No:
+            return QMessageBox::No;
     }
     return QMessageBox::Ok;
 }
@@ -65,10 +67,18 @@ Answer answerOf(int button) {
     }
 }
 
+/// The window that the box belongs to. A progress dialog steps back until the next step.
+QWidget* windowBelow() {
+    auto* progress = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+    if (!progress) return QApplication::activeWindow();
+    progress->hide();
+    return progress->parentWidget();
+}
+
 }  // namespace
 
 Answer MessageBoxOperator::ask(const Message& message) {
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(windowBelow());
     box.setObjectName(QStringLiteral("messageBox"));
     box.setWindowTitle(toQt(message.title));
     box.setTextFormat(Qt::PlainText);
@@ -76,8 +86,9 @@ Answer MessageBoxOperator::ask(const Message& message) {
     box.setInformativeText(toQt(message.detail));
     box.setIcon(iconOf(message.icon));
     box.setStandardButtons(buttonsOf(message.buttons));
-    box.setDefaultButton(harmlessOf(message.buttons));
-    box.setEscapeButton(harmlessOf(message.buttons));
+    box.setDefaultButton(
+        buttonOf(message.carriesOn ? agreement(message) : harmlessAnswer(message)));
+    box.setEscapeButton(buttonOf(harmlessAnswer(message)));
     return answerOf(box.exec());
 }
 

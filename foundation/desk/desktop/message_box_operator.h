@@ -5,7 +5,7 @@
 namespace winvrx {
 
 /// Shows messages in modal boxes over the active window. The box bears the object name
-/// "messageBox"; the harmless button is the default and answers Esc.
+/// "messageBox"; ENTER does what the message says, Esc gives the harmless answer.
 class MessageBoxOperator final : public Operator {
   public:
     Answer ask(const Message& message) override;

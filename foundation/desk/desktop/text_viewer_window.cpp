@@ -31,8 +31,7 @@ TextViewerWindow::TextViewerWindow(const QString& title, const QString& text, QW
     auto* column = new QVBoxLayout(body);
     look::layOutBody(*column);
     text_ = new QPlainTextEdit(text, body);
-    text_->setObjectName(QStringLiteral("relatorio.text"));
-    text_->setAccessibleName(title);
+    look::name(*text_, QStringLiteral("relatorio.text"), title);
     text_->setReadOnly(true);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     text_->setLineWrapMode(QPlainTextEdit::NoWrap);

@@ -98,8 +98,7 @@ QWidget* MenuWindow::buildCompanies() {
         new SearchBox(QStringLiteral("menu.search"), QStringLiteral("Pesquisar empresa…"), side);
     column->addWidget(search_);
     companies_ = new QListWidget(side);
-    companies_->setObjectName(QStringLiteral("menu.companies"));
-    companies_->setAccessibleName(QStringLiteral("Lista de empresas"));
+    look::name(*companies_, QStringLiteral("menu.companies"), QStringLiteral("Lista de empresas"));
     companies_->setFrameShape(QFrame::NoFrame);
     companies_->setTextElideMode(Qt::ElideRight);
     companies_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -109,8 +108,7 @@ QWidget* MenuWindow::buildCompanies() {
     auto* filter = new QHBoxLayout;
     auto* caption = new QLabel(QStringLiteral("T&urno:"), side);
     shift_ = new QComboBox(side);
-    shift_->setObjectName(QStringLiteral("menu.shift"));
-    shift_->setAccessibleName(QStringLiteral("Turno"));
+    look::name(*shift_, QStringLiteral("menu.shift"), QStringLiteral("Turno"));
     caption->setBuddy(shift_);
     filter->addWidget(caption);
     filter->addWidget(shift_, 1);
@@ -137,12 +135,8 @@ QWidget* MenuWindow::buildCommands() {
     for (const QString& group : groups)
         addGroup(*column, group);
     column->addStretch(1);
-    auto* area = new QScrollArea(this);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setFocusPolicy(Qt::NoFocus);
+    QScrollArea* area = look::scrolled(content, this);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area->setWidget(content);
     return area;
 }
 
@@ -202,8 +196,7 @@ QWidget* MenuWindow::buildDataFolder() {
     auto* row = new QHBoxLayout;
     auto* caption = new QLabel(QStringLiteral("Dri&ve de Origem:"), part);
     drive_ = new QComboBox(part);
-    drive_->setObjectName(QStringLiteral("menu.drive"));
-    drive_->setAccessibleName(QStringLiteral("Drive de Origem"));
+    look::name(*drive_, QStringLiteral("menu.drive"), QStringLiteral("Drive de Origem"));
     caption->setBuddy(drive_);
     row->addWidget(caption);
     row->addWidget(drive_, 1);
@@ -300,10 +293,7 @@ void MenuWindow::showOverview() {
     const Date today = at_.clock.today();
     MonthOverview overview;
     overview.month = monthOf(today);
-    (void)attempt(at_, incorrectData(), [&] {
-        overview = calendar_.overview(today);
-        return true;
-    });
+    (void)attempt(at_, incorrectData(), [&] { overview = calendar_.overview(today); });
     monthName_->setText(toQt(monthTitle(overview.month)));
     month_->show(overview, today);
     const QString counts =

@@ -21,8 +21,7 @@ int weekdayIndex(Date date) {
 }  // namespace
 
 MonthView::MonthView(QWidget* parent) : QWidget(parent) {
-    setObjectName(QStringLiteral("menu.month"));
-    setAccessibleName(QStringLiteral("Calendário do mês"));
+    look::name(*this, QStringLiteral("menu.month"), QStringLiteral("Calendário do mês"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 

@@ -103,8 +103,7 @@ ChoiceField* restDayChoice(QWidget* parent) {
 }  // namespace
 
 EmployeeForm::EmployeeForm(QWidget* parent) : QTabWidget(parent) {
-    setObjectName(objectNameOf("tabs"));
-    setAccessibleName(QStringLiteral("Cadastro do funcionário"));
+    look::name(*this, objectNameOf("tabs"), QStringLiteral("Cadastro do funcionário"));
     addPage(QStringLiteral("&1 Identificação"), kIdentity);
     addPage(QStringLiteral("&2 Contrato"), kContract);
     addPage(QStringLiteral("&3 Documentos"), kDocuments);

@@ -56,19 +56,12 @@ void EmployeeImportWindow::buildBody() {
     auto* column = new QVBoxLayout(body);
     look::layOutBody(*column);
     onlyProblems_ = new QCheckBox(QStringLiteral("Mostrar somente linhas com &problema"), body);
-    onlyProblems_->setObjectName(QStringLiteral("importar.onlyProblems"));
-    onlyProblems_->setAccessibleName(QStringLiteral("Mostrar somente linhas com problema"));
+    look::name(*onlyProblems_, QStringLiteral("importar.onlyProblems"),
+               QStringLiteral("Mostrar somente linhas com problema"));
     connect(onlyProblems_, &QCheckBox::toggled, this, &EmployeeImportWindow::filter);
     column->addWidget(onlyProblems_);
-    rows_ = new QTreeWidget(body);
-    rows_->setObjectName(QStringLiteral("importar.rows"));
-    rows_->setAccessibleName(QStringLiteral("Linhas da planilha"));
-    rows_->setHeaderLabels(kHeadings);
-    rows_->setRootIsDecorated(false);
-    rows_->setUniformRowHeights(true);
-    rows_->setAlternatingRowColors(true);
-    rows_->setAllColumnsShowFocus(true);
-    rows_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    rows_ = look::table(QStringLiteral("importar.rows"), QStringLiteral("Linhas da planilha"),
+                        kHeadings, body);
     rows_->header()->setStretchLastSection(true);
     column->addWidget(rows_, 1);
     setBody(body);

@@ -75,8 +75,7 @@ QWidget* TurnosWindow::buildLists() {
 
 QComboBox* TurnosWindow::buildFilter(QWidget* parent) {
     auto* filter = new QComboBox(parent);
-    filter->setObjectName(QStringLiteral("turnos.filter"));
-    filter->setAccessibleName(QStringLiteral("Turno mostrado"));
+    look::name(*filter, QStringLiteral("turnos.filter"), QStringLiteral("Turno mostrado"));
     for (const ShiftFilter one : kMenuShiftFilters)
         filter->addItem(QStringLiteral("Turno: ") + toQt(codeOf(one)));
     const auto* place =
@@ -104,8 +103,7 @@ QWidget* TurnosWindow::buildShifts() {
     column->addSpacing(look::kGap);
     column->addWidget(look::heading(toQt(kShiftListTitle), part));
     shifts_ = new QListWidget(part);
-    shifts_->setObjectName(QStringLiteral("turnos.shifts"));
-    shifts_->setAccessibleName(toQt(kShiftListTitle));
+    look::name(*shifts_, QStringLiteral("turnos.shifts"), toQt(kShiftListTitle));
     shifts_->setFont(look::fixedFont());
     for (const Shift shift : kShifts)
         shifts_->addItem(toQt(listTextOf(shift)));

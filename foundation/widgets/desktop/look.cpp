@@ -6,8 +6,11 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QFontDatabase>
+#include <QHeaderView>
 #include <QLabel>
+#include <QScrollArea>
 #include <QStyle>
+#include <QTreeWidget>
 
 #include <array>
 
@@ -25,6 +28,8 @@ struct TintPair {
     QRgb light;
     QRgb dark;
 };
+
+constexpr int kFewestRows = 3;  ///< that a table shows
 
 constexpr std::array<TintPair, 8> kTints = {{
     {0xFF0B6B6B, 0xFF5CC4BD},  // Accent
@@ -196,6 +201,35 @@ QIcon icon(const QString& name) {
 
 QIcon icon(const QString& name, Tint tint) {
     return QIcon(new SvgIconEngine(name, tint));
+}
+
+void name(QWidget& widget, const QString& objectName, const QString& spoken) {
+    widget.setObjectName(objectName);
+    widget.setAccessibleName(QString(spoken).remove(QLatin1Char('&')));
+}
+
+QTreeWidget* table(const QString& objectName, const QString& spoken, const QStringList& headings,
+                   QWidget* parent) {
+    auto* table = new QTreeWidget(parent);
+    name(*table, objectName, spoken);
+    table->setHeaderLabels(headings);
+    table->setMinimumSize(1, kFewestRows * table->fontMetrics().height());
+    table->setRootIsDecorated(false);
+    table->setUniformRowHeights(true);
+    table->setAlternatingRowColors(true);
+    table->setAllColumnsShowFocus(true);
+    table->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->header()->setStretchLastSection(false);
+    return table;
+}
+
+QScrollArea* scrolled(QWidget* content, QWidget* parent) {
+    auto* area = new QScrollArea(parent);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(content);
+    return area;
 }
 
 void layOutBody(QBoxLayout& layout) {

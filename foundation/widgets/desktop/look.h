@@ -6,10 +6,13 @@
 #include <QPalette>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
 class QApplication;
 class QBoxLayout;
 class QLabel;
+class QScrollArea;
+class QTreeWidget;
 class QWidget;
 
 // How every window looks: colours, sizes, fonts and icons in one place. A window never sets a
@@ -69,6 +72,16 @@ void setTint(QLabel& label, Tint tint);
 /// palette at the moment of painting, so that it turns with light and dark.
 [[nodiscard]] QIcon icon(const QString& name);
 [[nodiscard]] QIcon icon(const QString& name, Tint tint);
+
+/// What tests and screen readers find the widget by; a caption's mnemonic is left out.
+void name(QWidget& widget, const QString& objectName, const QString& spoken);
+
+/// A list of rows under headings, as wide as its texts; read only and without a tree's signs. Where
+/// a column is to take the room that is left, its section is set to stretch.
+[[nodiscard]] QTreeWidget* table(const QString& objectName, const QString& spoken,
+                                 const QStringList& headings, QWidget* parent);
+/// Lets what does not fit be scrolled. The area has no frame and takes no focus.
+[[nodiscard]] QScrollArea* scrolled(QWidget* content, QWidget* parent);
 
 /// Margins and spacing of a window's body.
 void layOutBody(QBoxLayout& layout);

@@ -34,8 +34,7 @@ OptionGroup::OptionGroup(const QString& caption, const QString& objectName, int 
 
 void OptionGroup::addOption(int id, const QString& text, const QString& name) {
     auto* option = new QRadioButton(text, this);
-    option->setObjectName(objectName() + QLatin1Char('.') + name);
-    option->setAccessibleName(QString(text).remove(QLatin1Char('&')));
+    look::name(*option, objectName() + QLatin1Char('.') + name, text);
     option->setAccessibleDescription(caption_);
     const int before = static_cast<int>(options_->buttons().size());
     options_->addButton(option, id);

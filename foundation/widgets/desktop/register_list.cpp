@@ -22,7 +22,6 @@ namespace {
 
 constexpr int kSearchedRole = Qt::UserRole;
 constexpr int kUnderstoodRole = Qt::UserRole + 1;
-constexpr int kFewestRows = 3;
 constexpr int kStretched = 1;  ///< the column that takes the room left, a name
 constexpr int kCellMargin = 2 * look::kGap;
 constexpr int kWidestInLetters = 16;  ///< a column beside the name; the name needs the room more
@@ -47,17 +46,9 @@ RegisterList::RegisterList(const QString& screen, const QString& title, const QS
 
 void RegisterList::buildTree(const QString& screen, const QString& title,
                              const QStringList& headings) {
-    tree_ = new QTreeWidget(pages_);
-    tree_->setObjectName(screen + QStringLiteral(".list"));
-    tree_->setAccessibleName(title);
-    tree_->setHeaderLabels(headings);
-    tree_->setMinimumSize(1, kFewestRows * tree_->fontMetrics().height());
-    tree_->setRootIsDecorated(false);
-    tree_->setUniformRowHeights(true);
-    tree_->setAlternatingRowColors(true);
-    tree_->setAllColumnsShowFocus(true);
+    tree_ = look::table(screen + QStringLiteral(".list"), title, headings, pages_);
+    tree_->header()->setSectionResizeMode(QHeaderView::Interactive);
     tree_->header()->setSectionResizeMode(kStretched, QHeaderView::Stretch);
-    tree_->header()->setStretchLastSection(false);
     tree_->installEventFilter(this);
     connect(tree_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (item) emit chosen(static_cast<std::size_t>(tree_->indexOfTopLevelItem(item)));

@@ -144,8 +144,7 @@ void ScreenWindow::setState(const QString& text) {
 
 QPushButton* ScreenWindow::addClosingButton(const QString& text, const QString& objectName) {
     auto* button = new QPushButton(text, this);
-    button->setObjectName(objectName);
-    button->setAccessibleName(QString(text).remove(QLatin1Char('&')));
+    look::name(*button, objectName, text);
     button->setAutoDefault(false);
     closing_->addWidget(button);
     return button;

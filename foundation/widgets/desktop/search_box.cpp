@@ -26,8 +26,7 @@ bool isPlainText(const QKeyEvent& event) {
 
 SearchBox::SearchBox(const QString& objectName, const QString& placeholder, QWidget* parent)
     : QLineEdit(parent) {
-    setObjectName(objectName);
-    setAccessibleName(placeholder);
+    look::name(*this, objectName, placeholder);
     setPlaceholderText(placeholder);
     addAction(look::icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
     QAction* clearAll = addAction(look::icon(QStringLiteral("clear")), QLineEdit::TrailingPosition);

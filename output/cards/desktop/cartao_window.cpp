@@ -3,10 +3,10 @@
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"
 #include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/progress.h"
 #include "foundation/widgets/desktop/search_box.h"
 #include "output/cards/desktop/print_choices_box.h"
 #include "report/desktop/pdf_file_dialog.h"
-#include "report/desktop/print_progress.h"
 
 #include <QComboBox>
 #include <QFileDialog>
@@ -118,8 +118,7 @@ QWidget* CartaoWindow::buildList(QWidget* parent) {
     auto* column = new QVBoxLayout(part);
     look::layOutPart(*column);
     shift_ = new QComboBox(part);
-    shift_->setObjectName(QStringLiteral("cartao.shift"));
-    shift_->setAccessibleName(QStringLiteral("Turno"));
+    look::name(*shift_, QStringLiteral("cartao.shift"), QStringLiteral("Turno"));
     for (const ShiftFilter filter : kMenuShiftFilters)
         shift_->addItem(toQt(codeOf(filter)), static_cast<int>(filter));
     shift_->setCurrentIndex(shift_->findData(static_cast<int>(cartao_.filter())));
@@ -133,8 +132,7 @@ QWidget* CartaoWindow::buildList(QWidget* parent) {
                             QStringLiteral("Pesquisa Funcionário ..."), part);
     column->addWidget(search_);
     list_ = new QListWidget(part);
-    list_->setObjectName(QStringLiteral("cartao.employees"));
-    list_->setAccessibleName(QStringLiteral("Funcionários"));
+    look::name(*list_, QStringLiteral("cartao.employees"), QStringLiteral("Funcionários"));
     list_->setMinimumWidth(list_->fontMetrics().averageCharWidth() * kListCharacters);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     column->addWidget(list_, 1);
@@ -208,11 +206,13 @@ void CartaoWindow::printAll() {
         (void)cartao_.printAll(runWith(nullptr));
         return;
     }
-    PrintProgress progress(QStringLiteral("IMPRIMINDO"), QStringLiteral("cartao.progress"), this);
+    Progress progress({QStringLiteral("cartao.progress"), QStringLiteral("IMPRIMINDO"),
+                       QStringLiteral("Cartão %1 de %2")},
+                      this);
     (void)cartao_.printAll(runWith(&progress));
 }
 
-PrintRun CartaoWindow::runWith(PrintProgress* progress) {
+PrintRun CartaoWindow::runWith(Progress* progress) {
     PrintRun run{
         .choosePdf = [this](const std::string& proposedName) { return choosePdf(proposedName); },
         .choosePdfFolder = [this] { return choosePdfFolder(); }};

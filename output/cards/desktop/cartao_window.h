@@ -14,7 +14,7 @@ class QListWidget;
 namespace winvrx {
 
 class PrintChoicesBox;
-class PrintProgress;
+class Progress;
 class SearchBox;
 
 /// The screens that the printing screen opens. Each returns when its screen is closed.
@@ -47,7 +47,7 @@ class CartaoWindow : public ScreenWindow {
     void visit(const std::function<void(QWidget*)>& screen);
     void printOne();
     void printAll();
-    [[nodiscard]] PrintRun runWith(PrintProgress* progress);
+    [[nodiscard]] PrintRun runWith(Progress* progress);
     [[nodiscard]] std::string choosePdf(const std::string& proposedName);
     [[nodiscard]] std::string choosePdfFolder();
 

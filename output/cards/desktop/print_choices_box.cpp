@@ -99,8 +99,8 @@ QWidget* PrintChoicesBox::buildHeaderChoice() {
     look::layOutPart(*column);
     column->addWidget(look::heading(QStringLiteral("# - Impresso Cabeçalho de Cartão:"), part));
     printHeader_ = new QCheckBox(QStringLiteral("Imprimir empresa e funcion&ário"), part);
-    printHeader_->setObjectName(QStringLiteral("cartao.printHeader"));
-    printHeader_->setAccessibleName(QStringLiteral("Impresso Cabeçalho de Cartão"));
+    look::name(*printHeader_, QStringLiteral("cartao.printHeader"),
+               QStringLiteral("Impresso Cabeçalho de Cartão"));
     column->addWidget(printHeader_);
     return part;
 }

@@ -45,8 +45,7 @@ AlignmentPad::AlignmentPad(QWidget* parent) : QWidget(parent) {
 QAbstractButton* AlignmentPad::arrow(const QString& text, const char* icon, const QKeySequence& key,
                                      const char* name, Direction direction) {
     auto* button = new QPushButton(look::icon(QLatin1String(icon)), text, this);
-    button->setObjectName(QStringLiteral("alinhamento.") + QLatin1String(name));
-    button->setAccessibleName(QString(text).remove(QLatin1Char('&')));
+    look::name(*button, QStringLiteral("alinhamento.") + QLatin1String(name), text);
     button->setToolTip(key.toString(QKeySequence::NativeText));
     button->setAutoDefault(false);
     button->setAutoRepeat(true);
@@ -65,8 +64,7 @@ QWidget* AlignmentPad::buildAxis(const QString& heading, QLineEdit*& box, const 
     title->setAlignment(Qt::AlignHCenter);
     column->addWidget(title);
     box = new QLineEdit(part);
-    box->setObjectName(QLatin1String(boxName));
-    box->setAccessibleName(heading);
+    look::name(*box, QLatin1String(boxName), heading);
     box->setReadOnly(true);
     box->setFocusPolicy(Qt::NoFocus);
     box->setFont(look::fixedFont());

@@ -21,8 +21,7 @@ constexpr double kLargestZoom = 1.5;
 
 CardSample::CardSample(LayoutSource layouts, QWidget* parent)
     : QScrollArea(parent), layouts_(std::move(layouts)) {
-    setObjectName(QStringLiteral("sample"));
-    setAccessibleName(QStringLiteral("Amostra do cartão"));
+    look::name(*this, QStringLiteral("sample"), QStringLiteral("Amostra do cartão"));
     setAlignment(Qt::AlignCenter);
     setBackgroundRole(QPalette::Mid);
     setFrameShape(QFrame::NoFrame);

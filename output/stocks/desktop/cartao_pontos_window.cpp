@@ -72,15 +72,11 @@ QWidget* CartaoPontosWindow::buildBody(LayoutSource layouts) {
 }
 
 QWidget* CartaoPontosWindow::buildEntries(QWidget* parent) {
-    entries_ = new QTreeWidget(parent);
-    entries_->setObjectName(QStringLiteral("cartaoPontos.entries"));
-    entries_->setAccessibleName(QStringLiteral("Alinhamentos"));
-    entries_->setHeaderLabels({QStringLiteral("Tipo de cartão"), QStringLiteral("Vertical"),
-                               QStringLiteral("Horizontal")});
-    entries_->setRootIsDecorated(false);
+    entries_ = look::table(QStringLiteral("cartaoPontos.entries"), QStringLiteral("Alinhamentos"),
+                           {QStringLiteral("Tipo de cartão"), QStringLiteral("Vertical"),
+                            QStringLiteral("Horizontal")},
+                           parent);
     entries_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    entries_->header()->setStretchLastSection(false);
-    entries_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     entries_->header()->setSectionResizeMode(kStockColumn, QHeaderView::Stretch);
     const int letter = entries_->fontMetrics().averageCharWidth();
     entries_->setFixedWidth(letter * 2 * kStockCharacters + look::kGroupGap);
@@ -99,8 +95,7 @@ QWidget* CartaoPontosWindow::buildSample(LayoutSource layouts, QWidget* parent) 
 
 QWidget* CartaoPontosWindow::buildAdjustments(QWidget* parent) {
     auto* tabs = new QTabWidget(parent);
-    tabs->setObjectName(QStringLiteral("cartaoPontos.tabs"));
-    tabs->setAccessibleName(QStringLiteral("Ajustes"));
+    look::name(*tabs, QStringLiteral("cartaoPontos.tabs"), QStringLiteral("Ajustes"));
     pad_ = new AlignmentPad;
     tabs->addTab(framed(pad_), QStringLiteral("Alinha&mento"));
     scale_ = new ScalePanel;

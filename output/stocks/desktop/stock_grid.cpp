@@ -16,8 +16,7 @@ namespace winvrx {
 StockGrid::StockGrid(const QString& objectName, const std::vector<const CardStock*>& stocks,
                      CardPictures& pictures, QWidget* parent)
     : QScrollArea(parent), stocks_(stocks), group_(new QButtonGroup(this)) {
-    setObjectName(objectName);
-    setAccessibleName(QStringLiteral("Marcas de cartão"));
+    look::name(*this, objectName, QStringLiteral("Marcas de cartão"));
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

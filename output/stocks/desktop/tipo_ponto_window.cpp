@@ -59,12 +59,7 @@ QWidget* TipoPontoWindow::buildBody() {
 }
 
 QWidget* TipoPontoWindow::buildInUse(QWidget* parent) {
-    auto* sight = new QScrollArea(parent);
-    sight->setFixedWidth(kPanelWidth);
-    sight->setFrameShape(QFrame::NoFrame);
-    sight->setWidgetResizable(true);
-    sight->setFocusPolicy(Qt::NoFocus);
-    auto* panel = new QWidget(sight);
+    auto* panel = new QWidget;
     auto* column = new QVBoxLayout(panel);
     look::layOutPart(*column);
     column->addWidget(look::heading(QStringLiteral("Cartão em uso"), panel));
@@ -84,7 +79,8 @@ QWidget* TipoPontoWindow::buildInUse(QWidget* parent) {
     lateral_ = addSheet(*sheets, QStringLiteral("Lateral"), QStringLiteral("tipoPonto.lateral"));
     column->addWidget(sheets_);
     column->addStretch();
-    sight->setWidget(panel);
+    QScrollArea* sight = look::scrolled(panel, parent);
+    sight->setFixedWidth(kPanelWidth);
     return sight;
 }
 
@@ -93,8 +89,7 @@ QLabel* TipoPontoWindow::addSheet(QBoxLayout& row, const QString& position, cons
     auto* column = new QVBoxLayout;
     column->setSpacing(look::kSmallGap);
     auto* sheet = new QLabel(sheets_);
-    sheet->setObjectName(name);
-    sheet->setAccessibleName(QStringLiteral("Cartão na bandeja: ") + position);
+    look::name(*sheet, name, QStringLiteral("Cartão na bandeja: ") + position);
     sheet->setFrameShape(QFrame::StyledPanel);
     column->addWidget(sheet);
     column->addWidget(look::label(position, look::TextSize::Hint, sheets_), 0, Qt::AlignHCenter);

@@ -84,8 +84,8 @@ QWidget* HoursExplanationWindow::buildBody(const std::vector<ExplainedPart>& par
 QTableWidget* HoursExplanationWindow::buildTable(const std::vector<ExplainedPart>& parts) {
     auto* table =
         new QTableWidget(static_cast<int>(parts.size()), static_cast<int>(kHeadings.size()), this);
-    table->setObjectName(QStringLiteral("hoursExplanation.parts"));
-    table->setAccessibleName(QStringLiteral("Dias e minutos do total"));
+    look::name(*table, QStringLiteral("hoursExplanation.parts"),
+               QStringLiteral("Dias e minutos do total"));
     table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setTabKeyNavigation(false);

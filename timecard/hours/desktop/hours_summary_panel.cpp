@@ -78,8 +78,7 @@ HoursSummaryPanel::HoursSummaryPanel(QWidget* parent)
 }
 
 void HoursSummaryPanel::buildTable() {
-    table_->setObjectName(QStringLiteral("hours.table"));
-    table_->setAccessibleName(kTitle);
+    look::name(*table_, QStringLiteral("hours.table"), kTitle);
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_->setSelectionMode(QAbstractItemView::SingleSelection);
     table_->setTabKeyNavigation(false);

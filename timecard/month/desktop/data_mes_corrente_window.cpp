@@ -3,6 +3,7 @@
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/checked_field.h"
 #include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/progress.h"
 #include "timecard/month/desktop/holiday_panel.h"
 #include "timecard/month/desktop/month_rules_panel.h"
 
@@ -10,7 +11,6 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
@@ -22,8 +22,6 @@ namespace winvrx {
 
 namespace {
 
-/// Milliseconds before a progress dialog shows.
-constexpr int kPatience = 500;
 /// Narrower windows show the rules under the holidays.
 constexpr int kSideBySide = 960;
 
@@ -68,12 +66,7 @@ QWidget* DataMesCorrenteWindow::buildBody() {
     rules_ = new MonthRulesPanel(command_, page);
     connect(rules_, &MonthRulesPanel::edited, this, &DataMesCorrenteWindow::showState);
     columns_->addWidget(rules_, 3);
-    auto* scroll = new QScrollArea(this);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setWidget(page);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    return scroll;
+    return look::scrolled(page, this);
 }
 
 QWidget* DataMesCorrenteWindow::buildMonthColumn() {
@@ -81,8 +74,7 @@ QWidget* DataMesCorrenteWindow::buildMonthColumn() {
     auto* column = new QVBoxLayout(widget);
     look::layOutPart(*column);
     month_ = new QComboBox(widget);
-    month_->setObjectName(QStringLiteral("month.month"));
-    month_->setAccessibleName(QStringLiteral("Mês de Trabalho"));
+    look::name(*month_, QStringLiteral("month.month"), QStringLiteral("Mês de Trabalho"));
     QLabel* label = look::label(QStringLiteral("&Mês de Trabalho"), look::TextSize::Body, widget);
     label->setBuddy(month_);
     auto* row = new QHBoxLayout;
@@ -160,18 +152,11 @@ void DataMesCorrenteWindow::recordMonth() {
 }
 
 void DataMesCorrenteWindow::updateAll() {
-    QProgressDialog dialog(QStringLiteral("Atualizando os funcionários…"),
-                           QStringLiteral("Cancelar"), 0, 0, this);
-    dialog.setObjectName(QStringLiteral("month.progress"));
-    dialog.setWindowTitle(QStringLiteral("ALTERAÇÃO"));
-    dialog.setWindowModality(Qt::WindowModal);
-    dialog.setMinimumDuration(kPatience);
-    dialog.reset();
-    const auto updated = command_.updateAll([&dialog](std::size_t done, std::size_t total) {
-        dialog.setMaximum(static_cast<int>(total));
-        dialog.setLabelText(QStringLiteral("Funcionário %1 de %2").arg(done).arg(total));
-        dialog.setValue(static_cast<int>(done));
-        return !dialog.wasCanceled();
+    Progress progress({QStringLiteral("month.progress"), QStringLiteral("ALTERAÇÃO"),
+                       QStringLiteral("Funcionário %1 de %2")},
+                      this);
+    const auto updated = command_.updateAll([&progress](std::size_t done, std::size_t total) {
+        return progress.show(static_cast<int>(done), static_cast<int>(total));
     });
     rules_->refresh();
     if (!updated) return;

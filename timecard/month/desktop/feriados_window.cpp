@@ -70,12 +70,7 @@ QWidget* FeriadosWindow::buildForm() {
     note->setWordWrap(true);
     column->addWidget(note);
     column->addStretch();
-    auto* scroll = new QScrollArea(this);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(form);
-    return scroll;
+    return look::scrolled(form, this);
 }
 
 std::vector<RegisterList::Row> FeriadosWindow::rows() const {

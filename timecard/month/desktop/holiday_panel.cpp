@@ -16,7 +16,6 @@ namespace winvrx {
 
 namespace {
 
-constexpr int kFewestRows = 3;
 constexpr int kNameCell = 2;
 constexpr int kOfferCell = 3;
 
@@ -39,8 +38,7 @@ void showText(QLabel& label, const QString& text) {
 QPushButton* button(const char* icon, const QString& text, const char* objectName,
                     QWidget* parent) {
     auto* button = new QPushButton(look::icon(QString::fromLatin1(icon)), text, parent);
-    button->setObjectName(QString::fromLatin1(objectName));
-    button->setAccessibleName(QString(text).remove(QLatin1Char('&')));
+    look::name(*button, QString::fromLatin1(objectName), text);
     button->setAutoDefault(false);
     return button;
 }
@@ -80,18 +78,12 @@ QWidget* HolidayPanel::buildList() {
     auto* part = new QWidget(this);
     auto* column = new QVBoxLayout(part);
     look::layOutPart(*column);
-    holidays_ = new QTreeWidget(part);
-    holidays_->setObjectName(QStringLiteral("month.holidays"));
-    holidays_->setAccessibleName(QStringLiteral("Feriados"));
-    holidays_->setColumnCount(kOfferCell + 1);
+    holidays_ = look::table(QStringLiteral("month.holidays"), QStringLiteral("Feriados"),
+                            QStringList(kOfferCell + 1), part);
     holidays_->setHeaderHidden(true);
-    holidays_->setRootIsDecorated(false);
-    holidays_->setAllColumnsShowFocus(true);
+    holidays_->setAlternatingRowColors(false);
     holidays_->setTabKeyNavigation(false);
-    holidays_->setMinimumHeight(holidays_->fontMetrics().height() * kFewestRows);
     holidays_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
-    holidays_->header()->setStretchLastSection(false);
-    holidays_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     holidays_->header()->setSectionResizeMode(kNameCell, QHeaderView::Stretch);
     QLabel* label = look::label(QStringLiteral("F&eriados:"), look::TextSize::Body, part);
     label->setBuddy(holidays_);
@@ -107,8 +99,7 @@ QWidget* HolidayPanel::buildCommands() {
     QPushButton* reset = button("clear", QStringLiteral("&Reset."), "month.reset", part);
     QPushButton* restore = button("restore", QStringLiteral("Resta&urar"), "month.restore", part);
     recordTicks_ = new QCheckBox(QStringLiteral("&Gravação"), part);
-    recordTicks_->setObjectName(QStringLiteral("month.recordTicks"));
-    recordTicks_->setAccessibleName(QStringLiteral("Gravação"));
+    look::name(*recordTicks_, QStringLiteral("month.recordTicks"), QStringLiteral("Gravação"));
     recordTicks_->setToolTip(
         QStringLiteral("Gravar também as marcas dos feriados. Sem isso, ficam as já gravadas."));
     column->addSpacing(part->fontMetrics().height() + look::kGap);

@@ -66,8 +66,7 @@ MonthRulesPanel::MonthRulesPanel(DataMesCorrente& command, QWidget* parent)
 
 QRadioButton* MonthRulesPanel::addChoice(const QString& caption, const QString& objectName) {
     auto* choice = new QRadioButton(caption, this);
-    choice->setObjectName(objectName);
-    choice->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
+    look::name(*choice, objectName, caption);
     return choice;
 }
 
@@ -93,8 +92,7 @@ void MonthRulesPanel::addClosing(QVBoxLayout& column) {
 void MonthRulesPanel::addNumber(QGridLayout& grid, int row, int column, std::size_t field) {
     const NumberText& text = kNumberTexts[field];
     auto* edit = new QLineEdit(this);
-    edit->setObjectName(QString::fromUtf8(text.objectName));
-    edit->setAccessibleName(toQt(kMonthNumberFields[field].caption));
+    look::name(*edit, QString::fromUtf8(text.objectName), toQt(kMonthNumberFields[field].caption));
     edit->setMaxLength(kLongestNumber);
     edit->setProperty("lastField", field == kThreshold);
     edit->setAlignment(Qt::AlignRight);

@@ -59,13 +59,13 @@ QRadioButton* ApplicationBar::buildMinutes(const QString& text, const QString& o
 }
 
 void ApplicationBar::buildSituation() {
-    situation_->setObjectName(QStringLiteral("card.situation"));
-    situation_->setAccessibleName(QStringLiteral("Situação dos dias sem horário de trabalho"));
+    look::name(*situation_, QStringLiteral("card.situation"),
+               QStringLiteral("Situação dos dias sem horário de trabalho"));
     situation_->setToolTip(QStringLiteral(
         "Situação que o ponto aplicado dá aos dias de trabalho que ficam sem horas."));
     situation_->setEditable(true);
-    situation_->lineEdit()->setObjectName(QStringLiteral("card.situation.text"));
-    situation_->lineEdit()->setAccessibleName(situation_->accessibleName());
+    look::name(*situation_->lineEdit(), QStringLiteral("card.situation.text"),
+               situation_->accessibleName());
     situation_->addItem(QString());
     for (const Situation& situation : kSituations)
         situation_->addItem(toQt(situation.word));

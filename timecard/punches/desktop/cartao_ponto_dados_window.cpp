@@ -2,6 +2,7 @@
 
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/progress.h"
 #include "timecard/hours/desktop/hours_summary_panel.h"
 #include "timecard/punches/desktop/application_bar.h"
 #include "timecard/punches/desktop/employee_panel.h"
@@ -12,7 +13,6 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QShortcut>
@@ -27,23 +27,9 @@ namespace {
 /// Of the side; both halves beside it bring one more column of hours.
 constexpr int kSideWidth = 288;
 constexpr int kWideSideWidth = 332;
-constexpr int kPatience = 500;  // milliseconds without progress shown
-constexpr int kManyCards = 100;
 
 HalfMonth otherThan(HalfMonth half) {
     return half == HalfMonth::First ? HalfMonth::Second : HalfMonth::First;
-}
-
-std::unique_ptr<QProgressDialog> progressDialog(int cards, QWidget* parent) {
-    auto dialog = std::make_unique<QProgressDialog>(QStringLiteral("Preparando os cartões…"),
-                                                    QStringLiteral("Cancelar"), 0, cards, parent);
-    dialog->setObjectName(QStringLiteral("card.progress"));
-    dialog->setWindowTitle(QStringLiteral("Aplicação de Pontos"));
-    dialog->setWindowModality(Qt::WindowModal);
-    dialog->setMinimumDuration(cards > kManyCards ? 0 : kPatience);
-    dialog->setAutoClose(false);
-    dialog->setAutoReset(false);
-    return dialog;
 }
 
 }  // namespace
@@ -345,16 +331,16 @@ void CartaoPontoDadosWindow::apply() {
 void CartaoPontoDadosWindow::applyToAll() {
     commitEditors();
     const auto positions = employees_->shown();
-    std::unique_ptr<QProgressDialog> dialog;
-    const auto progress = [&dialog, this](int done, int total) {
-        if (!dialog) dialog = progressDialog(total, this);
-        dialog->setLabelText(done < total ? QStringLiteral("Cartão %1 de %2").arg(done).arg(total)
-                                          : QStringLiteral("Gravando %1 cartões…").arg(total));
-        dialog->setValue(done);
-        return !dialog->wasCanceled();
-    };
-    const bool applied = command_.applyToAll(positions, application_->sameHours(), progress);
-    dialog.reset();
+    bool applied = false;
+    {
+        Progress progress(
+            {QStringLiteral("card.progress"), QStringLiteral("Aplicação de Pontos"),
+             QStringLiteral("Cartão %1 de %2"), QStringLiteral("Gravando %1 cartões…")},
+            this);
+        applied = command_.applyToAll(
+            positions, application_->sameHours(),
+            [&progress](int done, int total) { return progress.show(done, total); });
+    }
     employees_->refresh();
     showCard();
     if (applied)

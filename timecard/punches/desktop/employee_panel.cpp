@@ -47,8 +47,7 @@ EmployeePanel::EmployeePanel(const CartaoPontoDados& command, QWidget* parent)
 }
 
 void EmployeePanel::buildShift() {
-    shift_->setObjectName(QStringLiteral("card.shift"));
-    shift_->setAccessibleName(QStringLiteral("Turno"));
+    look::name(*shift_, QStringLiteral("card.shift"), QStringLiteral("Turno"));
     for (const ShiftFilter filter : kShiftFilters)
         shift_->addItem(filter == ShiftFilter::Todos
                             ? toQt(codeOf(filter))
@@ -66,8 +65,7 @@ void EmployeePanel::buildShift() {
 }
 
 void EmployeePanel::buildList() {
-    list_->setObjectName(QStringLiteral("card.employees"));
-    list_->setAccessibleName(QStringLiteral("Funcionários"));
+    look::name(*list_, QStringLiteral("card.employees"), QStringLiteral("Funcionários"));
     list_->setTextElideMode(Qt::ElideRight);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     search_->serve(list_);

@@ -79,8 +79,7 @@ class PunchDelegate : public QStyledItemDelegate {
   private:
     static QWidget* situationEditor(QWidget* parent) {
         auto* box = new QComboBox(parent);
-        box->setObjectName(QStringLiteral("punch.situation"));
-        box->setAccessibleName(QStringLiteral("Situação"));
+        look::name(*box, QStringLiteral("punch.situation"), QStringLiteral("Situação"));
         box->setEditable(true);
         box->addItem(QString());
         for (const Situation& situation : kSituations)
@@ -96,9 +95,9 @@ class PunchDelegate : public QStyledItemDelegate {
 
 PunchGrid::PunchGrid(PunchModel* model, const QString& objectName, QWidget* parent)
     : QTableView(parent), punches_(model) {
-    setObjectName(objectName);
-    setAccessibleName(objectName.endsWith(QLatin1Char('1')) ? QStringLiteral("1º Quinzena")
-                                                            : QStringLiteral("2º Quinzena"));
+    look::name(*this, objectName,
+               objectName.endsWith(QLatin1Char('1')) ? QStringLiteral("1º Quinzena")
+                                                     : QStringLiteral("2º Quinzena"));
     setModel(model);
     setItemDelegate(new PunchDelegate(this));
     setSelectionMode(QAbstractItemView::ContiguousSelection);

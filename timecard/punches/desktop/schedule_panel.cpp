@@ -67,8 +67,7 @@ void SchedulePanel::buildSave() {
         emit edited();
     });
     save_ = new QPushButton(look::icon(QStringLiteral("save")), QStringLiteral("Gravar &Horário"));
-    save_->setObjectName(QStringLiteral("schedule.save"));
-    save_->setAccessibleName(QStringLiteral("Gravar Horário"));
+    look::name(*save_, QStringLiteral("schedule.save"), QStringLiteral("Gravar Horário"));
     save_->setAutoDefault(false);
     connect(save_, &QPushButton::clicked, this, &SchedulePanel::saveRequested);
 }
