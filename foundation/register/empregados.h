@@ -110,9 +110,6 @@ class Empregados {
     void save(std::vector<EmployeeLine> lines);
     template <typename Sort>
     [[nodiscard]] bool sort(const Message& question, const Message& onFailure, Sort&& order);
-    /// Returns the path of the file that it wrote.
-    [[nodiscard]] std::filesystem::path writeReport(std::string_view name,
-                                                    const std::vector<std::string>& lines) const;
 
     Workplace at_;
     EmployeeSurroundings around_;

@@ -1,4 +1,5 @@
 // The commands on the whole list: order, reports and export.
+#include "foundation/desk/text_report.h"
 #include "foundation/register/activity_report.h"
 #include "foundation/register/employee_order.h"
 #include "foundation/register/employee_table.h"
@@ -30,9 +31,6 @@ const Message kPlaceTooHigh = refusal(
 const Message kConfirmReport = question(
     "ATIVOS E INATIVOS", "Confirma Geração do Relatório de Colaboradores Ativos e Inativos?");
 const Message kNotOpened = refusal("ATIVOS E INATIVOS", "Ocorreu Erro");
-
-constexpr std::string_view kActiveReportName = "RelAtivos.txt";
-constexpr std::string_view kInactiveReportName = "RelInativos.txt";
 
 /// nullopt unless the whole text is a number.
 std::optional<long> numberOf(std::string_view text) {
@@ -106,21 +104,13 @@ bool Empregados::report() {
                                   readable(line, &Employee::function),
                                   readable(line, &Employee::admission), inactiveSince(line)});
         const Date today = at_.clock.today();
-        const auto active = writeReport(kActiveReportName, activeReport(people, today));
-        const auto inactive = writeReport(kInactiveReportName, inactiveReport(people, today));
-        const bool activeOpened = around_.editor.open(active);
-        if (activeOpened && around_.editor.open(inactive)) return true;
-        at_.person.tell(kNotOpened);
-        return false;
+        const bool shown = showReports(
+            at_, around_.editor,
+            {{at_.session.companyFile("RelAtivos.txt"), activeReport(people, today)},
+             {at_.session.companyFile("RelInativos.txt"), inactiveReport(people, today)}});
+        if (!shown) at_.person.tell(kNotOpened);
+        return shown;
     });
-}
-
-std::filesystem::path Empregados::writeReport(std::string_view name,
-                                              const std::vector<std::string>& lines) const {
-    const auto hold = holdFolder(at_);
-    RecordFile file(at_.files, at_.session.companyFile(name));
-    file.rewriteValues(lines);
-    return file.path();
 }
 
 bool Empregados::exportTo(const std::filesystem::path& file) {
