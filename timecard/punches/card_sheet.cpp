@@ -3,6 +3,8 @@
 #include "foundation/values/faults.h"
 #include "foundation/values/text.h"
 
+#include <algorithm>
+
 namespace winvrx {
 
 namespace {
@@ -74,9 +76,31 @@ void CardSheet::type(const std::vector<TypedCell>& cells) {
         if (text != this->text(one.day, one.cell))
             edit.push_back({one.day, one.cell, std::move(text)});
     }
-    if (edit.empty()) return;
-    done_.push_back(exchange(edit));
+    Edit before = exchange(edit);
+    note_.clear();
+    Edit cleared = clearWholeDays(cells);
+    before.insert(before.begin(), cleared.begin(), cleared.end());
+    if (before.empty()) return;
+    done_.push_back(std::move(before));
     undone_.clear();
+}
+
+CardSheet::Edit CardSheet::clearWholeDays(const std::vector<TypedCell>& cells) {
+    Edit edit;
+    std::vector<std::string> labels;
+    for (const TypedCell& one : cells) {
+        const bool situation = one.cell == PunchCell::Situation;
+        if (!situation || !isWholeDay(line(one.day).situation) || !hasTimes(one.day)) continue;
+        labels.push_back(line(one.day).label);
+        for (const PunchCell cell : kPunchCells)
+            if (isTime(cell) && !text(one.day, cell).empty()) edit.push_back({one.day, cell, {}});
+    }
+    if (labels.size() == 1)
+        note_ = line(edit.front().day).situation + ": as horas de " + labels.front() + " saíram";
+    else if (!labels.empty())
+        note_ = "As horas de " + std::to_string(labels.size()) + " dias com situação saíram";
+    if (!note_.empty()) note_ += "; Ctrl+Z as traz de volta.";
+    return exchange(edit);
 }
 
 CardSheet::Edit CardSheet::exchange(const Edit& edit) {
@@ -91,6 +115,7 @@ CardSheet::Edit CardSheet::exchange(const Edit& edit) {
 
 std::optional<int> CardSheet::move(std::vector<Edit>& from, std::vector<Edit>& to) {
     if (from.empty()) return std::nullopt;
+    note_.clear();
     to.push_back(exchange(from.back()));
     from.pop_back();
     return to.back().front().day;
@@ -105,13 +130,17 @@ std::optional<int> CardSheet::redo() {
 }
 
 bool CardSheet::isBlank(int day) const {
-    for (const PunchCell cell : kPunchCells)
-        if (cell != PunchCell::ShortField && !text(day, cell).empty()) return false;
-    return true;
+    return !hasTimes(day) && line(day).situation.empty();
+}
+
+bool CardSheet::hasTimes(int day) const {
+    return std::any_of(kPunchCells.begin(), kPunchCells.end(),
+                       [&](PunchCell cell) { return isTime(cell) && !text(day, cell).empty(); });
 }
 
 void CardSheet::markRecorded() {
     recorded_ = lines_;
+    note_.clear();
     done_.clear();
     undone_.clear();
 }
@@ -125,7 +154,10 @@ std::string CardSheet::findingAt(int day, PunchCell cell) const {
 std::string CardSheet::noticeAt(int day, PunchCell cell) const {
     const std::string finding = findingAt(day, cell);
     const std::string& recorded = text(day, cell);
-    if (!finding.empty() || !isTime(cell) || recorded.empty()) return finding;
+    if (!finding.empty() || recorded.empty()) return finding;
+    if (cell == PunchCell::Situation && isWholeDay(recorded) && hasTimes(day))
+        return "Num dia com horas o cartão imprime as horas e não \"" + recorded + "\".";
+    if (!isTime(cell)) return {};
     if (!parseTypedTime(recorded))
         return "\"" + recorded + "\" não é uma hora: fica como está e não conta.";
     const bool absent = meaningOf(line(day).situation) == DayMeaning::Missing;

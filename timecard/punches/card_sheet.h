@@ -58,10 +58,12 @@ class CardSheet {
     [[nodiscard]] const std::string& text(int day, PunchCell cell) const;
 
     /// Takes what was typed: a time is brought to "hh:mm", a situation to its word, anything else
-    /// stays as it is.
+    /// stays as it is. A situation of the whole day empties the times of its day.
     void type(int day, PunchCell cell, std::string_view text);
     /// The same for many cells, taken back as one edit.
     void type(const std::vector<TypedCell>& cells);
+    /// What the last edit did beyond what was typed, in one sentence; empty when nothing.
+    [[nodiscard]] const std::string& note() const { return note_; }
     /// Takes back the last edit, or makes the last one taken back again. A day that it touched;
     /// nullopt when there is none.
     std::optional<int> undo();
@@ -70,8 +72,8 @@ class CardSheet {
     /// Why a cell as typed cannot be recorded, in one sentence; empty when it can. What was
     /// recorded before is never a fault.
     [[nodiscard]] std::string findingAt(int day, PunchCell cell) const;
-    /// The finding, or else that a recorded time counts for nothing: it is none, or the day is
-    /// marked as an absence.
+    /// The finding, or else that a recorded time counts for nothing, because it is none or the day
+    /// is marked as an absence, or that the card prints the times and not the situation.
     [[nodiscard]] std::string noticeAt(int day, PunchCell cell) const;
     /// The first finding of the month behind the label of its day.
     [[nodiscard]] std::optional<std::string> firstFinding() const;
@@ -89,12 +91,16 @@ class CardSheet {
     using Edit = std::vector<TypedCell>;
 
     [[nodiscard]] std::string& place(int day, PunchCell cell);
-    /// Puts the texts into their cells; returns those that stood there.
+    /// Puts the texts into their cells; returns those that stood there, the last one first.
     Edit exchange(const Edit& edit);
+    /// Empties the times of the days that `cells` give to a situation of the whole day.
+    Edit clearWholeDays(const std::vector<TypedCell>& cells);
+    [[nodiscard]] bool hasTimes(int day) const;
     std::optional<int> move(std::vector<Edit>& from, std::vector<Edit>& to);
 
     std::vector<Edit> done_;
     std::vector<Edit> undone_;
+    std::string note_;
     std::vector<PunchLine> lines_;
     std::vector<PunchLine> recorded_;
 };

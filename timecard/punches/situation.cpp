@@ -60,4 +60,9 @@ DayMeaning meaningOf(std::string_view situation) {
     return found ? found->meaning : DayMeaning::Work;
 }
 
+bool isWholeDay(std::string_view situation) {
+    const DayMeaning meaning = meaningOf(situation);
+    return meaning == DayMeaning::Missing || meaning == DayMeaning::Excused;
+}
+
 }  // namespace winvrx

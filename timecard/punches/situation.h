@@ -65,4 +65,8 @@ inline constexpr std::array kSituations = {
 /// DayMeaning::Work for a text that is none of kSituations, the blank included.
 [[nodiscard]] DayMeaning meaningOf(std::string_view situation);
 
+/// An absence, excused or not, which takes the day as a whole: the card prints its word only on a
+/// day without times.
+[[nodiscard]] bool isWholeDay(std::string_view situation);
+
 }  // namespace winvrx

@@ -58,6 +58,7 @@ TEST_F(CardHours, AMonthWithoutPunchesHasNoFigures) {
 
 TEST_F(CardHours, TimesLeftOnAnAbsenceAreNotCountedAndPointedOut) {
     screen.sheet().type(4, PunchCell::Situation, "Falta");
+    screen.sheet().type(4, PunchCell::MorningEntry, "08:04");
     EXPECT_EQ(screen.totalOf(4), "");
     EXPECT_EQ(screen.differenceOf(4), "-08:00");
     EXPECT_EQ(screen.sheet().noticeAt(4, PunchCell::MorningEntry),

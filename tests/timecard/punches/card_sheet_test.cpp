@@ -40,7 +40,7 @@ TEST_F(EditedSheet, EditsAreTakenBackAndMadeAgainUntilRecorded) {
     sheet.type(1, PunchCell::MorningEntry, "8");
     sheet.type(1, PunchCell::MorningEntry, "9");
     sheet.type(1, PunchCell::MorningEntry, "9:00");  // no change
-    sheet.type({{2, PunchCell::MorningEntry, "7"}, {2, PunchCell::Situation, "Falta"}});
+    sheet.type({{2, PunchCell::MorningEntry, "7"}, {2, PunchCell::Situation, "FERIADO"}});
     EXPECT_EQ(sheet.undo(), 2);
     EXPECT_EQ(entryOf(2), "");
     EXPECT_EQ(sheet.line(2).situation, "");
@@ -56,6 +56,47 @@ TEST_F(EditedSheet, EditsAreTakenBackAndMadeAgainUntilRecorded) {
     sheet.markRecorded();
     EXPECT_FALSE(sheet.undo());
     EXPECT_EQ(entryOf(3), "06:00");
+}
+
+TEST_F(EditedSheet, AnAbsenceEmptiesItsDayInTheSameEdit) {
+    struct Case {
+        const char* typed;
+        bool wholeDay;
+    };
+    for (const Case& c : {Case{"fal", true}, Case{"Falta Injustificada", true},
+                          Case{"Falta Inj.", true}, Case{"atestado", true}, Case{"ferias", true},
+                          Case{"Folga", true}, Case{"abonado", true}, Case{"FERIADO", false},
+                          Case{"AFASTAMENTO", false}, Case{"Reunião", false}, Case{"", false}})
+        for (const bool pasted : {false, true}) {
+            sheet = CardSheet(blankMonth(2024y / 2));
+            sheet.type({{5, PunchCell::MorningEntry, "8h"}, {5, PunchCell::ExtraExit, "20"}});
+            const PunchLine before = sheet.line(5);
+            if (pasted)
+                EXPECT_EQ(paste(sheet, 5, PunchCell::ExtraExit, {{"21", "x", c.typed}}), "");
+            else
+                sheet.type(5, PunchCell::Situation, c.typed);
+            const PunchLine& after = sheet.line(5);
+            EXPECT_EQ(after.morningEntry, c.wholeDay ? "" : "8h") << c.typed;
+            EXPECT_EQ(after.extraExit.empty(), c.wholeDay) << c.typed;
+            EXPECT_EQ(sheet.note().empty(), !c.wholeDay) << c.typed;
+            EXPECT_EQ(sheet.line(5) == before || sheet.undo() == 5, true) << c.typed;
+            EXPECT_EQ(sheet.line(5), before) << c.typed;
+        }
+    EXPECT_EQ(sheet.note(), "");
+}
+
+TEST_F(EditedSheet, ManyAbsencesAreSaidInOneSentence) {
+    sheet.type({{5, PunchCell::MorningEntry, "8"}, {6, PunchCell::MorningEntry, "8"}});
+    sheet.type(7, PunchCell::Situation, "Falta");
+    EXPECT_EQ(sheet.note(), "") << "nothing was lost";
+    sheet.type(5, PunchCell::Situation, "Falta");
+    EXPECT_EQ(sheet.note(), "Falta: as horas de 05/seg/fev saíram; Ctrl+Z as traz de volta.");
+    EXPECT_TRUE(sheet.undo());
+    EXPECT_EQ(paste(sheet, 5, PunchCell::Situation, {{"Folga"}, {"Folga"}}), "");
+    EXPECT_EQ(sheet.note(), "As horas de 2 dias com situação saíram; Ctrl+Z as traz de volta.");
+    sheet.type(5, PunchCell::MorningEntry, "8");
+    EXPECT_EQ(sheet.noticeAt(5, PunchCell::Situation),
+              "Num dia com horas o cartão imprime as horas e não \"Folga\".");
 }
 
 TEST(CellBlock, IsReadAsSpreadsheetsWriteIt) {
@@ -78,11 +119,11 @@ TEST(CellBlock, IsReadAsSpreadsheetsWriteIt) {
 
 TEST_F(EditedSheet, ABlockIsPastedAsOneEdit) {
     EXPECT_EQ(paste(sheet, 28, PunchCell::ExtraExit,
-                    parseCellBlock("20:00:00\tx\tFalta Inj.\n8:30:15\t\t\n")),
+                    parseCellBlock("20:00:00\tx\tReunião\n8:30:15\t\t\n")),
               "");
     EXPECT_EQ(sheet.line(28).extraExit, "20:00");
     EXPECT_EQ(sheet.line(28).shortField, "x");
-    EXPECT_EQ(sheet.line(28).situation, "Falta Inj.");
+    EXPECT_EQ(sheet.line(28).situation, "Reunião");
     EXPECT_EQ(sheet.line(29).extraExit, "8:30:15");
     EXPECT_EQ(sheet.findingAt(29, PunchCell::ExtraExit),
               "\"8:30:15\" não é uma hora de 00:00 a 23:59.");

@@ -307,6 +307,8 @@ void CartaoPontoDadosWindow::showState() {
     if (notice.isEmpty()) notice = model.doubtAt(at);
     if (!notice.isEmpty())
         setState(QStringLiteral("⚠ ") + notice);
+    else if (!command_.sheet().note().empty())
+        setState(toQt(command_.sheet().note()));
     else if (command_.closed())
         setState(QStringLiteral("Folha Fechada: o ponto deste mês não pode ser alterado"));
     else if (command_.changed())

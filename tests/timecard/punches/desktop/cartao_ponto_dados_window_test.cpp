@@ -161,6 +161,20 @@ TEST_F(CardWindow, TypingASituationReplacesTheOneThatStands) {
     EXPECT_EQ(cell(1, 3, PunchModel::Situation), "Falta");
 }
 
+TEST_F(CardWindow, AnAbsenceTakesTheTimesOutAndSaysSo) {
+    desk.file(kPunches) = "  \r\n04/seg/mar08:0012:00\r\n";
+    open();
+    grid(1).setFocus();
+    grid(1).setCurrentIndex(grid(1).model()->index(3, PunchModel::Situation));
+    enter("fal");
+    EXPECT_EQ(cell(1, 3, 1) + cell(1, 3, PunchModel::Situation), "Falta");
+    EXPECT_EQ(driven->text("state"),
+              "Falta: as horas de 04/seg/mar saíram; Ctrl+Z as traz de volta.");
+    driven->press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(cell(1, 3, 1) + cell(1, 3, PunchModel::Situation), "08:00");
+    EXPECT_EQ(driven->text("state"), "Ponto gravado");
+}
+
 TEST_F(CardWindow, WhatStandsInAnOpenEditorIsNotLost) {
     open();
     grid(1).goToStart();
