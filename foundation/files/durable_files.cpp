@@ -4,12 +4,13 @@
 #include "foundation/files/folder_lock.h"
 
 #include <algorithm>
-#include <set>
+#include <map>
 
 namespace winvrx {
 
 namespace {
 
+using Operation = FileFault::Operation;
 using std::filesystem::path;
 
 path temporaryOf(const path& file) {
@@ -18,6 +19,12 @@ path temporaryOf(const path& file) {
 
 bool isTemporary(const std::string& name) {
     return name.ends_with(kTemporarySuffix);
+}
+
+/// The operator knows the record, not the name under which it is being written.
+path recordOf(const path& file) {
+    const std::string name = file.string();
+    return isTemporary(name) ? name.substr(0, name.size() - kTemporarySuffix.size()) : name;
 }
 
 }  // namespace
@@ -36,33 +43,35 @@ void DurableFiles::replace(const path& file, std::string_view bytes) {
 
 void DurableFiles::replaceAll(const std::vector<NewContent>& files) {
     std::vector<path> temporaries;
-    std::set<path> folders;
+    std::map<path, path> folders;  // each with a file that was written in it
     for (const NewContent& content : files)
         if (content.bytes.size() > kLargestFile)
-            throw FileFault(FileFault::Operation::Write, content.file, FileProblem::TooLarge);
+            throw FileFault(Operation::Write, content.file, FileProblem::TooLarge);
     try {
         for (const NewContent& content : files) {
             temporaries.push_back(temporaryOf(content.file));
-            writeTemporary(content);
-            folders.insert(content.file.parent_path());
+            disk_->write(temporaries.back(), content.bytes);
+            folders.emplace(content.file.parent_path(), content.file);
         }
         disk_->flush(temporaries);
         for (std::size_t i = 0; i < files.size(); ++i)
             disk_->rename(temporaries[i], files[i].file);
+    } catch (const FileFault& fault) {
+        discard(files);
+        throw FileFault(Operation::Write, recordOf(fault.file()), fault.cause());
     } catch (...) {
         discard(files);
         throw;
     }
-    for (const path& folder : folders)
-        disk_->flushFolder(folder);
+    for (const auto& [folder, file] : folders)
+        flushFolder(folder, Operation::Write, file);
 }
 
-void DurableFiles::writeTemporary(const NewContent& content) {
+void DurableFiles::flushFolder(const path& folder, Operation operation, const path& file) {
     try {
-        disk_->write(temporaryOf(content.file), content.bytes);
+        disk_->flushFolder(folder);
     } catch (const FileFault& fault) {
-        // The operator knows the record, not the name under which it is being written.
-        throw FileFault(FileFault::Operation::Write, content.file, fault.cause());
+        throw FileFault(operation, file, fault.cause());
     }
 }
 
@@ -79,7 +88,7 @@ void DurableFiles::discard(const std::vector<NewContent>& files) noexcept {
 
 bool DurableFiles::remove(const path& file) {
     if (!disk_->remove(file)) return false;
-    disk_->flushFolder(file.parent_path());
+    flushFolder(file.parent_path(), Operation::Remove, file);
     return true;
 }
 

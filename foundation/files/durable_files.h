@@ -29,7 +29,8 @@ class DurableFiles final : public FileSystem {
     void removeLeftovers(const std::filesystem::path& folder) override;
 
   private:
-    void writeTemporary(const NewContent& content);
+    void flushFolder(const std::filesystem::path& folder, FileFault::Operation operation,
+                     const std::filesystem::path& file);
     void discard(const std::vector<NewContent>& files) noexcept;
 
     std::shared_ptr<Disk> disk_;

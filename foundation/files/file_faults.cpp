@@ -38,6 +38,13 @@ class FileProblemCategory final : public std::error_category {
     }
 };
 
+/// What the operator calls it; a folder's path may end with a separator.
+std::string nameOf(const std::filesystem::path& file) {
+    const auto name = file.has_filename() ? file.filename() : file.parent_path().filename();
+    if (!name.empty()) return name.string();
+    return file.empty() ? "a pasta de dados" : file.string();
+}
+
 std::string causeText(std::error_code cause) {
     const std::error_condition condition = cause.default_error_condition();
     if (condition == std::errc::no_space_on_device) return "o disco está cheio";
@@ -61,8 +68,9 @@ std::error_code make_error_code(FileProblem problem) {
 
 FileFault::FileFault(Operation operation, const std::filesystem::path& file, std::error_code cause)
     : Fault(operationName(operation) + " " + file.string() + ": " + cause.message(),
-            "Não foi possível " + operationName(operation) + " \"" + file.filename().string() +
+            "Não foi possível " + operationName(operation) + " \"" + nameOf(file) +
                 "\": " + causeText(cause) + "."),
+      file_(file),
       cause_(cause) {}
 
 }  // namespace winvrx

@@ -31,9 +31,11 @@ class FileFault : public Fault {
 
     FileFault(Operation operation, const std::filesystem::path& file, std::error_code cause);
 
+    [[nodiscard]] const std::filesystem::path& file() const { return file_; }
     [[nodiscard]] std::error_code cause() const { return cause_; }
 
   private:
+    std::filesystem::path file_;
     std::error_code cause_;
 };
 

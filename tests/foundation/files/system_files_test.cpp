@@ -89,6 +89,16 @@ TEST_F(SystemFiles, FaultsNameFileAndCause) {
     EXPECT_EQ(sortedNames(), (std::vector<std::string>{"file"}));
 }
 
+TEST_F(SystemFiles, FaultsNameFoldersToo) {
+    const std::pair<fs::path, const char*> cases[] = {
+        {"/a/Winvrx", "Winvrx"}, {"/a/Winvrx/", "Winvrx"}, {"/", "/"}, {"", "a pasta de dados"}};
+    for (const auto& [folder, name] : cases)
+        EXPECT_EQ(FileFault(FileFault::Operation::List, folder,
+                            std::make_error_code(std::errc::io_error))
+                      .explanation(),
+                  std::string("Não foi possível listar \"") + name + "\": o disco não respondeu.");
+}
+
 TEST_F(SystemFiles, ALookUpThatFailsIsNotAMissingFile) {
     fs::create_symlink("loop", folder_ / "loop");
     EXPECT_THROW((void)files_->exists(folder_ / "loop" / "list"), FileFault);
