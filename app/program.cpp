@@ -19,7 +19,7 @@ std::string nativePath(const std::filesystem::path& path) {
 
 Program::Program(const Surroundings& surroundings)
     : surroundings_(surroundings),
-      files_(systemFiles()),
+      files_(surroundings.files ? surroundings.files(systemFiles()) : systemFiles()),
       browser_(std::make_unique<DesktopBrowser>(
           QString::fromStdString((surroundings.programFolder / "help").string()))),
       editor_(makeEditor()),
@@ -28,7 +28,15 @@ Program::Program(const Surroundings& surroundings)
       disk_(systemDisk()),
       host_(systemHost()),
       lock_(*disk_, *host_),
-      at_{copiedFiles_, person_, surroundings.clock, surroundings.log, session_, lock_},
+      at_{copiedFiles_,
+          person_,
+          surroundings.clock,
+          surroundings.log,
+          session_,
+          lock_,
+          [this](const std::string& act) {
+              copies_.makeCopyBefore(session_.folder, surroundings_.clock.now(), act);
+          }},
       calendar_(at_),
       engine_(makeEngine()),
       printers_(surroundings.printers ? surroundings.printers()

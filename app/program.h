@@ -32,6 +32,8 @@ struct Surroundings {
     std::function<std::unique_ptr<TextEditor>(const FileSystem&, Browser&)> editor = nullptr;
     /// The printers to choose from; the system's when nullptr.
     std::function<std::unique_ptr<Printers>()> printers = nullptr;
+    /// The disk: takes the program's own files and may put others before them.
+    std::function<std::unique_ptr<FileSystem>(std::unique_ptr<FileSystem>)> files = nullptr;
 };
 
 /// Joins rules, adapters and windows into the running program.

@@ -43,6 +43,9 @@ class UnflushedDisk final : public Disk {
     [[nodiscard]] std::vector<std::string> names(const path& folder) const override {
         return disk_.names(folder);
     }
+    [[nodiscard]] std::vector<ListedFile> list(const path& folder) const override {
+        return disk_.list(folder);
+    }
     void makeFolder(const path& folder) override { disk_.makeFolder(folder); }
 
   private:

@@ -37,6 +37,8 @@ class Archiver {
   public:
     /// The next file to be packed; nullopt after the last.
     using Source = std::function<std::optional<ArchiveEntry>()>;
+    /// Asked for each name, in order: whether the file is to be handed over.
+    using Choice = std::function<bool(const std::string& name)>;
     using Visitor = std::function<void(ArchiveEntry)>;
 
     virtual ~Archiver() = default;
@@ -44,12 +46,10 @@ class Archiver {
     /// The bytes of an archive of the source's files. Throws Fault when they are too many.
     [[nodiscard]] virtual std::string pack(const Source& next) const = 0;
 
-    /// The names of the files in it, in order. Throws DamagedArchive.
-    [[nodiscard]] virtual std::vector<std::string> names(std::string_view archive) const = 0;
-
-    /// Hands over each file with its bytes, checked against the archive's own sums. Throws
+    /// Hands over each chosen file with its bytes, checked against the archive's own sums. Throws
     /// DamagedArchive, perhaps after some files were handed over.
-    virtual void unpack(std::string_view archive, const Visitor& visit) const = 0;
+    virtual void unpack(std::string_view archive, const Choice& chosen,
+                        const Visitor& visit) const = 0;
 };
 
 }  // namespace winvrx

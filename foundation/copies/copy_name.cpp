@@ -13,7 +13,7 @@ namespace winvrx {
 namespace {
 
 constexpr std::string_view kEnding = ".zip";
-constexpr std::string_view kReplacedMark = "-antes";
+constexpr std::string_view kBeforeMark = "-antes";
 constexpr std::size_t kMomentLength = std::string_view("2024-03-15-0812").size();
 constexpr std::size_t kMostDigits = 6;
 
@@ -51,7 +51,7 @@ int numberIn(std::string_view rest) {
 
 std::string CopyName::text() const {
     std::string text = momentText(made);
-    if (kind == Kind::Replaced) text += kReplacedMark;
+    if (kind == Kind::Before) text += kBeforeMark;
     if (number > 1) text += "-" + std::to_string(number);
     return text + std::string(kEnding);
 }
@@ -64,9 +64,9 @@ std::optional<CopyName> CopyName::parse(std::string_view fileName) {
     CopyName name{.made = *made};
     std::string_view rest = fileName.substr(kMomentLength);
     rest.remove_suffix(kEnding.size());
-    if (rest.starts_with(kReplacedMark)) {
-        name.kind = Kind::Replaced;
-        rest.remove_prefix(kReplacedMark.size());
+    if (rest.starts_with(kBeforeMark)) {
+        name.kind = Kind::Before;
+        rest.remove_prefix(kBeforeMark.size());
     }
     name.number = numberIn(rest);
     // Written back it must be the same name, else it is somebody else's file.
@@ -79,6 +79,11 @@ bool CopyName::isOlderThan(const CopyName& other) const {
         return std::tuple(name.made.date, name.made.time, name.kind, name.number);
     };
     return rank(*this) < rank(other);
+}
+
+std::string momentOfCopy(const CopyName& name) {
+    return std::string(weekdayShort(weekdayOf(name.made.date))) + ", " + dateText(name.made.date) +
+           " às " + timeText(name.made.time);
 }
 
 std::vector<CopyName> outdated(const std::vector<CopyName>& copies, Date today) {

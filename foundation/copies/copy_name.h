@@ -12,10 +12,10 @@ namespace winvrx {
 /// What a safety copy is called, which tells when and why it was made:
 ///
 ///     2024-03-15-0812.zip            the day's copy, made at 08:12
-///     2024-03-15-1020-antes.zip      the state that a restored copy replaced at 10:20
+///     2024-03-15-1020-antes.zip      the state before a copy was restored or much was deleted
 ///     2024-03-15-1020-antes-2.zip    a second one within that minute
 struct CopyName {
-    enum class Kind { Daily, Replaced };
+    enum class Kind { Daily, Before };
 
     Clock::Moment made;
     Kind kind = Kind::Daily;
@@ -28,6 +28,9 @@ struct CopyName {
     [[nodiscard]] bool isOlderThan(const CopyName& other) const;
     [[nodiscard]] bool operator==(const CopyName& other) const { return text() == other.text(); }
 };
+
+/// "sex, 15/03/2024 às 08:12".
+[[nodiscard]] std::string momentOfCopy(const CopyName& name);
 
 /// On how many days of use the copies reach back.
 inline constexpr std::size_t kDaysOfCopies = 7;

@@ -32,10 +32,8 @@ void DailyCopyFiles::beforeChange(const std::filesystem::path& file) {
 
 void DailyCopyFiles::copyOnce() {
     try {
-        const Clock::Moment now = clock_.now();
-        if (copies_.hasDailyCopy(session_.folder, now.date)) return;
         // A folder that was empty is copied when there is something in it.
-        if (!copies_.makeDailyCopy(session_.folder, now)) last_.reset();
+        if (!copies_.makeDailyCopy(session_.folder, clock_.now())) last_.reset();
     } catch (const std::exception& fault) {
         log_.write(std::string("the day's copy: ") + fault.what());
     }

@@ -3,7 +3,7 @@
 #include "foundation/copies/safety_copies.h"
 #include "foundation/desk/log.h"
 #include "foundation/desk/session.h"
-#include "foundation/files/file_system.h"
+#include "foundation/files/forwarding_files.h"
 #include "foundation/values/clock.h"
 
 #include <optional>
@@ -13,33 +13,15 @@ namespace winvrx {
 /// The file system with which the commands work: passes everything on, and before the day's first
 /// change of a record in the data folder has the folder copied. A copy that fails is logged and
 /// never stops the change; it is tried again at the next start or on the next day.
-class DailyCopyFiles final : public FileSystem {
+class DailyCopyFiles final : public ForwardingFiles {
   public:
     DailyCopyFiles(FileSystem& files, SafetyCopies& copies, const Session& session,
                    const Clock& clock, Log& log)
-        : files_(files), copies_(copies), session_(session), clock_(clock), log_(log) {}
+        : ForwardingFiles(files), copies_(copies), session_(session), clock_(clock), log_(log) {}
 
-    [[nodiscard]] std::optional<std::string> read(
-        const std::filesystem::path& file) const override {
-        return files_.read(file);
-    }
     void replace(const std::filesystem::path& file, std::string_view bytes) override;
     void replaceAll(const std::vector<NewContent>& files) override;
     bool remove(const std::filesystem::path& file) override;
-    [[nodiscard]] bool exists(const std::filesystem::path& file) const override {
-        return files_.exists(file);
-    }
-    [[nodiscard]] std::vector<std::string> names(
-        const std::filesystem::path& folder) const override {
-        return files_.names(folder);
-    }
-    void makeFolder(const std::filesystem::path& folder) override { files_.makeFolder(folder); }
-    [[nodiscard]] bool hasLeftovers(const std::filesystem::path& folder) const override {
-        return files_.hasLeftovers(folder);
-    }
-    void removeLeftovers(const std::filesystem::path& folder) override {
-        files_.removeLeftovers(folder);
-    }
 
   private:
     struct Attempt {
@@ -52,7 +34,6 @@ class DailyCopyFiles final : public FileSystem {
     void beforeChange(const std::filesystem::path& file);
     void copyOnce();
 
-    FileSystem& files_;
     SafetyCopies& copies_;
     const Session& session_;
     const Clock& clock_;

@@ -71,17 +71,14 @@ std::string SubjectChange::text() const {
     return text;
 }
 
-std::string momentOfCopy(const CopyName& name) {
-    return std::string(weekdayShort(weekdayOf(name.made.date))) + ", " + dateText(name.made.date) +
-           " às " + timeText(name.made.time);
-}
-
-std::string_view originOfCopy(const CopyName& name) {
-    return name.kind == CopyName::Kind::Daily ? "Cópia do dia" : "Antes de restaurar";
+std::string originOfCopy(const SafetyCopy& copy) {
+    if (copy.name.kind == CopyName::Kind::Daily) return "Cópia do dia";
+    return "Antes de " + (copy.before.empty() ? "restaurar" : copy.before);
 }
 
 void RestaurarCopia::load() {
-    (void)attempt(at_, kFailure, [this] { list_ = copies_.list(at_.session.folder); });
+    (void)attempt(at_, kFailure,
+                  [this] { list_ = copies_.list(at_.session.folder, at_.clock.today()); });
 }
 
 CopyPreview RestaurarCopia::preview(const CopyName& copy) const {

@@ -29,11 +29,8 @@ struct CopyPreview {
     std::string problem;  ///< why it cannot be restored; else empty
 };
 
-/// "sex, 15/03/2024 às 08:12".
-[[nodiscard]] std::string momentOfCopy(const CopyName& name);
-
-/// "Cópia do dia" or "Antes de restaurar".
-[[nodiscard]] std::string_view originOfCopy(const CopyName& name);
+/// "Cópia do dia" or "Antes de excluir a empresa 02 PADARIA".
+[[nodiscard]] std::string originOfCopy(const SafetyCopy& copy);
 
 /// The screen "Restaurar Cópia": the safety copies of the data folder, what each would bring back,
 /// and the command that brings one back.

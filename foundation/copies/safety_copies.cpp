@@ -3,94 +3,195 @@
 #include "foundation/copies/copied_files.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace winvrx {
 
 namespace {
 
-std::filesystem::path copiesFolder(const DataFolder& folder) {
-    return folder.path() / kCopiesSubfolder;
-}
+/// With more archives than this to refer to, a copy takes in what the lesser half of them holds. So
+/// their number stays small, and a file is packed again but a few times in years.
+constexpr std::size_t kMostOthers = 20;
 
-std::filesystem::path pathOf(const DataFolder& folder, const CopyName& copy) {
-    return copiesFolder(folder) / copy.text();
-}
-
-/// Names of an archive are anybody's: each must be one file of the folder, and there but once.
-class CheckedNames {
-  public:
-    void add(const std::string& name) {
-        if (!isPlainFileName(name)) throw DamagedArchive("not the name of a file: " + name);
-        if (!names_.insert(name).second) throw DamagedArchive("two files called " + name);
-    }
-    [[nodiscard]] bool contains(const std::string& name) const { return names_.contains(name); }
-    /// A copy without files would empty the folder.
-    void refuseNone() const {
-        if (names_.empty()) throw DamagedArchive("no files");
-    }
-
-  private:
-    std::set<std::string> names_;
-};
-
-std::vector<std::string> copiedFiles(const Store& store) {
-    std::vector<std::string> names = store.files.names(store.folder.path());
-    std::erase_if(names, [](const std::string& name) { return !isCopiedFile(name); });
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-}  // namespace
-
-bool SafetyCopies::hasDailyCopy(const DataFolder& folder, Date day) const {
-    const auto copies = copiesIn(folder);
+bool hasDailyCopy(const CopyShelf& shelf, Date day) {
+    const auto copies = shelf.copies();
     return std::any_of(copies.begin(), copies.end(), [&](const CopyName& copy) {
         return copy.kind == CopyName::Kind::Daily && copy.made.date == day;
     });
 }
 
+/// The archives that hold the files, those with the fewest first.
+std::vector<std::string> byFewestFiles(const CopyContents& contents) {
+    std::map<std::string, std::size_t> counts;
+    for (const auto& [name, file] : contents.files)
+        ++counts[file.archive];
+    std::vector<std::string> archives;
+    for (const auto& [name, count] : counts)
+        archives.push_back(name);
+    std::stable_sort(archives.begin(), archives.end(),
+                     [&](const std::string& left, const std::string& right) {
+                         return counts.at(left) < counts.at(right);
+                     });
+    return archives;
+}
+
+/// Forgets where the files lie that the lesser half of too many archives holds, so that they are
+/// packed again.
+void limitOthers(CopyContents& contents) {
+    std::vector<std::string> archives = byFewestFiles(contents);
+    if (archives.size() <= kMostOthers) return;
+    archives.resize(archives.size() / 2);
+    const std::set<std::string> lesser(archives.begin(), archives.end());
+    std::erase_if(contents.files,
+                  [&](const auto& entry) { return lesser.contains(entry.second.archive); });
+    std::erase_if(contents.others, [&](const auto& other) { return lesser.contains(other.first); });
+}
+
+}  // namespace
+
 bool SafetyCopies::makeDailyCopy(const DataFolder& folder, Clock::Moment now) {
-    const Packed state = packed(folder, Unreadable::LeaveOut);
-    if (state.files.empty()) return false;
-    files_.makeFolder(copiesFolder(folder));
-    files_.removeLeftovers(copiesFolder(folder));
-    files_.replace(pathOf(folder, {.made = now}), state.archive);
+    const CopyShelf shelf(files_, archiver_, folder);
+    if (hasDailyCopy(shelf, now.date)) return true;
+    if (!make(shelf, folder, now, {})) return false;
     removeOutdated(folder, now.date);
     return true;
 }
 
+void SafetyCopies::makeCopyBefore(const DataFolder& folder, Clock::Moment now,
+                                  const std::string& act) {
+    const CopyShelf shelf(files_, archiver_, folder);
+    make(shelf, folder, now, {.kind = CopyName::Kind::Before, .before = act});
+}
+
+std::optional<CopyContents> SafetyCopies::make(const CopyShelf& shelf, const DataFolder& folder,
+                                               Clock::Moment now, const Purpose& purpose) {
+    const std::vector<ListedFile> here = copiedFiles(folder);
+    if (here.empty()) return std::nullopt;
+    CopyContents contents = unchangedSince(shelf, here, purpose);
+    contents.before = purpose.before;
+    const std::string archive = pack(folder, here, contents, purpose.unreadable);
+    if (contents.files.empty()) return std::nullopt;
+    files_.makeFolder(shelf.path());
+    files_.removeLeftovers(shelf.path());
+    files_.replace(shelf.path() / shelf.freeName(now, purpose.kind).text(), archive);
+    return contents;
+}
+
+std::vector<ListedFile> SafetyCopies::copiedFiles(const DataFolder& folder) const {
+    std::vector<ListedFile> files = files_.list(folder.path());
+    std::erase_if(files, [](const ListedFile& file) { return !isCopiedFile(file.name); });
+    std::sort(files.begin(), files.end(), [](const ListedFile& left, const ListedFile& right) {
+        return left.name < right.name;
+    });
+    return files;
+}
+
+std::optional<OpenedCopy> SafetyCopies::predecessor(const CopyShelf& shelf) const {
+    const auto latest = shelf.latest();
+    if (!latest) return std::nullopt;
+    try {
+        return shelf.open(*latest);
+    } catch (const DamagedArchive& fault) {
+        log_.write("copy " + latest->text() + ": " + fault.what());
+        return std::nullopt;
+    }
+}
+
+CopyContents SafetyCopies::unchangedSince(const CopyShelf& shelf,
+                                          const std::vector<ListedFile>& here,
+                                          const Purpose& purpose) const {
+    CopyContents contents;
+    const auto before = predecessor(shelf);
+    if (!before) return contents;
+    CopyContents::Archives archives = before->contents.others;
+    archives.emplace(before->name.text(), before->archive.size());
+    // What an archive held that is gone or damaged is packed again.
+    std::erase_if(archives,
+                  [&](const auto& other) { return !shelf.has(other.first, other.second); });
+    for (const ListedFile& file : here) {
+        if (purpose.packed.contains(file.name) || !before->isUnchanged(file)) continue;
+        CopyContents::File unchanged = before->contents.files.at(file.name);
+        if (unchanged.archive.empty()) unchanged.archive = before->name.text();
+        const auto other = archives.find(unchanged.archive);
+        if (other == archives.end()) continue;
+        contents.others.insert(*other);
+        contents.files.emplace(file.name, std::move(unchanged));
+    }
+    limitOthers(contents);
+    return contents;
+}
+
+std::string SafetyCopies::pack(const DataFolder& folder, const std::vector<ListedFile>& here,
+                               CopyContents& contents, Unreadable unreadable) const {
+    const auto read = [&](const std::string& name) -> std::optional<std::string> {
+        try {
+            return files_.read(folder.path() / name);
+        } catch (const FileFault& fault) {
+            if (unreadable == Unreadable::Refuse) throw;
+            log_.write(std::string("left out of the copy: ") + fault.what());
+            return std::nullopt;
+        }
+    };
+    const std::size_t all = here.size() - contents.files.size();
+    std::size_t done = 0;
+    bool ended = false;
+    auto file = here.begin();
+    return archiver_.pack([&]() -> std::optional<ArchiveEntry> {
+        for (; file != here.end(); ++file) {
+            if (contents.files.contains(file->name)) continue;
+            if (progress_) progress_(++done, all);
+            auto bytes = read(file->name);
+            if (!bytes) continue;
+            contents.files[file->name] = {bytes->size(), file->written, {}};
+            return ArchiveEntry{file++->name, std::move(*bytes)};
+        }
+        if (std::exchange(ended, true)) return std::nullopt;
+        return ArchiveEntry{std::string(kContentsName), encode(contents)};
+    });
+}
+
 void SafetyCopies::removeOutdated(const DataFolder& folder, Date today) {
-    for (const CopyName& copy : outdated(copiesIn(folder), today))
-        files_.remove(pathOf(folder, copy));
+    const CopyShelf shelf(files_, archiver_, folder);
+    const auto copies = shelf.copies();
+    const auto old = outdated(copies, today);
+    if (old.empty()) return;
+    const std::set<std::string> outdatedNames = [&] {
+        std::set<std::string> names;
+        for (const CopyName& copy : old)
+            names.insert(copy.text());
+        return names;
+    }();
+    std::set<std::string> needed;
+    for (const CopyName& copy : copies)
+        if (!outdatedNames.contains(copy.text()))
+            for (const auto& [other, size] : shelf.othersOf(copy))
+                needed.insert(other);
+    for (const std::string& name : outdatedNames)
+        if (!needed.contains(name)) files_.remove(shelf.path() / name);
 }
 
-std::vector<CopyName> SafetyCopies::copiesIn(const DataFolder& folder) const {
-    std::vector<CopyName> copies;
-    for (const std::string& name : files_.names(copiesFolder(folder)))
-        if (const auto copy = CopyName::parse(name)) copies.push_back(*copy);
-    std::sort(copies.begin(), copies.end(),
-              [](const CopyName& left, const CopyName& right) { return right.isOlderThan(left); });
-    return copies;
-}
-
-std::vector<SafetyCopy> SafetyCopies::list(const DataFolder& folder) const {
+std::vector<SafetyCopy> SafetyCopies::list(const DataFolder& folder, Date today) const {
+    const CopyShelf shelf(files_, archiver_, folder);
+    const auto copies = shelf.copies();
+    const auto old = outdated(copies, today);
     std::vector<SafetyCopy> list;
-    for (const CopyName& copy : copiesIn(folder))
-        list.push_back(described(folder, copy));
+    for (const CopyName& copy : copies)
+        if (std::find(old.begin(), old.end(), copy) == old.end())
+            list.push_back(described(shelf, copy));
     return list;
 }
 
-SafetyCopy SafetyCopies::described(const DataFolder& folder, const CopyName& copy) const {
-    SafetyCopy described{.name = copy};
+SafetyCopy SafetyCopies::described(const CopyShelf& shelf, const CopyName& copy) const {
+    SafetyCopy described{.name = copy, .before = {}};
     try {
-        const std::string archive = archiveOf(folder, copy);
-        described.bytes = archive.size();
-        CheckedNames checked;
-        for (const std::string& name : archiver_.names(archive)) {
-            checked.add(name);
-            ++described.files;
-        }
-        checked.refuseNone();
+        const OpenedCopy opened = shelf.open(copy);
+        described.before = opened.contents.before;
+        described.files = opened.contents.files.size();
+        described.bytes = opened.archive.size();
+        const auto& others = opened.contents.others;
+        described.damaged = !std::all_of(others.begin(), others.end(), [&](const auto& other) {
+            return shelf.has(other.first, other.second);
+        });
     } catch (const Fault& fault) {
         log_.write("copy " + copy.text() + ": " + fault.what());
         described.damaged = true;
@@ -98,44 +199,21 @@ SafetyCopy SafetyCopies::described(const DataFolder& folder, const CopyName& cop
     return described;
 }
 
-std::string SafetyCopies::archiveOf(const DataFolder& folder, const CopyName& copy) const {
-    auto bytes = files_.read(pathOf(folder, copy));
-    if (!bytes) throw Fault("no copy " + copy.text(), "A cópia não está mais na pasta de cópias.");
-    return std::move(*bytes);
-}
-
-SafetyCopies::Packed SafetyCopies::packed(const DataFolder& folder, Unreadable unreadable) const {
-    const std::vector<std::string> names = copiedFiles({files_, folder});
-    Packed packed;
-    const auto readable = [&](const std::string& name) -> std::optional<std::string> {
-        try {
-            return files_.read(folder.path() / name);
-        } catch (const FileFault& fault) {
-            if (unreadable == Unreadable::Refuse) throw;
-            log_.write(std::string("left out of the day's copy: ") + fault.what());
-            return std::nullopt;
-        }
-    };
-    auto name = names.begin();
-    packed.archive = archiver_.pack([&]() -> std::optional<ArchiveEntry> {
-        for (; name != names.end(); ++name) {
-            auto bytes = readable(*name);
-            if (!bytes) continue;
-            packed.files.insert(*name);
-            return ArchiveEntry{*name++, std::move(*bytes)};
-        }
-        return std::nullopt;
-    });
-    return packed;
-}
-
 SafetyCopies::Difference SafetyCopies::difference(const DataFolder& folder,
                                                   const CopyName& copy) const {
+    const CopyShelf shelf(files_, archiver_, folder);
+    const OpenedCopy opened = shelf.open(copy);
     Difference difference;
-    CheckedNames inCopy;
-    archiver_.unpack(archiveOf(folder, copy), [&](ArchiveEntry entry) {
-        inCopy.add(entry.name);
-        if (!isCopiedFile(entry.name)) return;
+    std::set<std::string> compared;
+    for (const auto& [name, file] : opened.contents.files)
+        if (isCopiedFile(name)) compared.insert(name);
+    for (const ListedFile& file : copiedFiles(folder)) {
+        if (!opened.contents.files.contains(file.name))
+            difference.changes.push_back({file.name, FileChange::Kind::OnlyHere});
+        else if (opened.isUnchanged(file))
+            compared.erase(file.name);
+    }
+    shelf.unpack(opened, compared, [&](ArchiveEntry entry) {
         const auto file = folder.path() / entry.name;
         const auto here = files_.read(file);
         if (here == entry.bytes) return;
@@ -143,10 +221,6 @@ SafetyCopies::Difference SafetyCopies::difference(const DataFolder& folder,
             {entry.name, here ? FileChange::Kind::Differs : FileChange::Kind::OnlyInCopy});
         difference.contents.push_back({file, std::move(entry.bytes)});
     });
-    inCopy.refuseNone();
-    for (const std::string& name : copiedFiles({files_, folder}))
-        if (!inCopy.contains(name))
-            difference.changes.push_back({name, FileChange::Kind::OnlyHere});
     std::sort(
         difference.changes.begin(), difference.changes.end(),
         [](const FileChange& left, const FileChange& right) { return left.file < right.file; });
@@ -158,24 +232,19 @@ std::vector<FileChange> SafetyCopies::changes(const DataFolder& folder,
     return difference(folder, copy).changes;
 }
 
-std::set<std::string> SafetyCopies::keepReplaced(const DataFolder& folder, Clock::Moment now) {
-    Packed state = packed(folder, Unreadable::Refuse);
-    if (state.files.empty()) return {};
-    CopyName name{.made = now, .kind = CopyName::Kind::Replaced};
-    while (files_.exists(pathOf(folder, name)))
-        ++name.number;
-    files_.makeFolder(copiesFolder(folder));
-    files_.replace(pathOf(folder, name), state.archive);
-    return std::move(state.files);
-}
-
 void SafetyCopies::restore(const DataFolder& folder, const CopyName& copy, Clock::Moment now) {
     const Difference difference = this->difference(folder, copy);
     if (difference.changes.empty()) return;
-    const std::set<std::string> kept = keepReplaced(folder, now);
+    Purpose purpose{.kind = CopyName::Kind::Before,
+                    .before = "restaurar a cópia de " + momentOfCopy(copy),
+                    .unreadable = Unreadable::Refuse};
+    for (const FileChange& change : difference.changes)
+        purpose.packed.insert(change.file);
+    const CopyShelf shelf(files_, archiver_, folder);
+    const auto kept = make(shelf, folder, now, purpose);
     if (!difference.contents.empty()) files_.replaceAll(difference.contents);
     for (const FileChange& change : difference.changes)
-        if (change.kind == FileChange::Kind::OnlyHere && kept.contains(change.file))
+        if (change.kind == FileChange::Kind::OnlyHere && kept && kept->files.contains(change.file))
             files_.remove(folder.path() / change.file);
 }
 

@@ -1,28 +1,27 @@
 #pragma once
 
-#include "foundation/copies/archiver.h"
-#include "foundation/copies/copy_name.h"
+#include "foundation/copies/copy_shelf.h"
 #include "foundation/desk/log.h"
-#include "foundation/files/data_folder.h"
 
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
 
-// Safety copies of the data folder: each an archive of the folder's files, in its sub-folder
-// "Copias". The first write of a day makes one; those older than the last seven days of use go.
-// Before a copy is brought back, what it replaces becomes a copy itself.
+// Safety copies of the data folder: archives in its sub-folder "Copias". The first write of a day
+// makes one, and so does a command that deletes much or brings a copy back, before it does so;
+// those older than the last seven days of use go. A copy packs the files that changed since the one
+// before it and names the archives that hold the rest (copy_contents.h).
 
 namespace winvrx {
-
-inline constexpr std::string_view kCopiesSubfolder = "Copias";
 
 /// A copy as the operator sees it.
 struct SafetyCopy {
     CopyName name;
+    std::string before;  ///< what it was made before, in words; empty for a day's
     std::size_t files = 0;
-    std::size_t bytes = 0;  ///< of the archive
-    bool damaged = false;
+    std::size_t bytes = 0;  ///< of its own archive
+    bool damaged = false;   ///< it, or an archive that it needs
 };
 
 /// What bringing back a copy would do to one file of the folder.
@@ -42,19 +41,23 @@ struct FileChange {
 /// All functions throw Fault and then leave the folder's records as they were, but where stated.
 class SafetyCopies {
   public:
+    /// Told how many of how many files are packed.
+    using Progress = std::function<void(std::size_t done, std::size_t all)>;
+
     /// `files` must not make copies itself.
-    SafetyCopies(FileSystem& files, const Archiver& archiver, Log& log)
-        : files_(files), archiver_(archiver), log_(log) {}
+    SafetyCopies(FileSystem& files, const Archiver& archiver, Log& log, Progress progress = nullptr)
+        : files_(files), archiver_(archiver), log_(log), progress_(std::move(progress)) {}
 
-    [[nodiscard]] bool hasDailyCopy(const DataFolder& folder, Date day) const;
-
-    /// Copies the folder and removes the copies that are outdated by then. False when there is
-    /// nothing to copy yet. A file that cannot be read is logged and left out: the others are worth
-    /// keeping.
+    /// Copies the folder, unless the day has its copy, and removes the copies that are outdated by
+    /// then. False when there is nothing to copy yet. A file that cannot be read is logged and left
+    /// out: the others are worth keeping.
     bool makeDailyCopy(const DataFolder& folder, Clock::Moment now);
 
-    /// Newest first.
-    [[nodiscard]] std::vector<SafetyCopy> list(const DataFolder& folder) const;
+    /// The same, whatever copies there are, before `act`: "excluir a empresa 02 PADARIA".
+    void makeCopyBefore(const DataFolder& folder, Clock::Moment now, const std::string& act);
+
+    /// Those that are not outdated, newest first.
+    [[nodiscard]] std::vector<SafetyCopy> list(const DataFolder& folder, Date today) const;
 
     /// What bringing the copy back would change, sorted by file; nothing when the folder is as the
     /// copy is.
@@ -63,33 +66,43 @@ class SafetyCopies {
 
     /// Makes the folder what it was: files that differ get their bytes back, missing ones come
     /// back, and those that the copy does not have go. First the present state becomes a further
-    /// copy, with every file; when that fails nothing is changed. Each file holds its old bytes or
-    /// its new ones whenever this is cut short, and running it again ends right.
+    /// copy, with every file, and itself packs what is to be replaced; when that fails nothing is
+    /// changed. Each file holds its old bytes or its new ones whenever this is cut short, and
+    /// running it again ends right.
     void restore(const DataFolder& folder, const CopyName& copy, Clock::Moment now);
 
   private:
     enum class Unreadable { LeaveOut, Refuse };
 
-    struct Packed {
-        std::string archive;
-        std::set<std::string> files;
+    struct Purpose {
+        CopyName::Kind kind = CopyName::Kind::Daily;
+        std::string before = {};
+        std::set<std::string> packed = {};  ///< files that it holds itself, changed or not
+        Unreadable unreadable = Unreadable::LeaveOut;
     };
     struct Difference {
         std::vector<FileChange> changes;
         std::vector<FileSystem::NewContent> contents;
     };
 
-    [[nodiscard]] std::vector<CopyName> copiesIn(const DataFolder& folder) const;
-    [[nodiscard]] std::string archiveOf(const DataFolder& folder, const CopyName& copy) const;
-    [[nodiscard]] SafetyCopy described(const DataFolder& folder, const CopyName& copy) const;
-    [[nodiscard]] Packed packed(const DataFolder& folder, Unreadable unreadable) const;
+    [[nodiscard]] std::vector<ListedFile> copiedFiles(const DataFolder& folder) const;
+    [[nodiscard]] SafetyCopy described(const CopyShelf& shelf, const CopyName& copy) const;
+    [[nodiscard]] std::optional<OpenedCopy> predecessor(const CopyShelf& shelf) const;
+    [[nodiscard]] CopyContents unchangedSince(const CopyShelf& shelf,
+                                              const std::vector<ListedFile>& here,
+                                              const Purpose& purpose) const;
+    [[nodiscard]] std::string pack(const DataFolder& folder, const std::vector<ListedFile>& here,
+                                   CopyContents& contents, Unreadable unreadable) const;
+    /// nullopt when there is nothing to copy.
+    std::optional<CopyContents> make(const CopyShelf& shelf, const DataFolder& folder,
+                                     Clock::Moment now, const Purpose& purpose);
     [[nodiscard]] Difference difference(const DataFolder& folder, const CopyName& copy) const;
-    [[nodiscard]] std::set<std::string> keepReplaced(const DataFolder& folder, Clock::Moment now);
     void removeOutdated(const DataFolder& folder, Date today);
 
     FileSystem& files_;
     const Archiver& archiver_;
     Log& log_;
+    Progress progress_;
 };
 
 }  // namespace winvrx

@@ -9,6 +9,8 @@
 #include "foundation/values/faults.h"
 
 #include <exception>
+#include <functional>
+#include <string>
 #include <type_traits>
 
 namespace winvrx {
@@ -23,6 +25,9 @@ struct Workplace {
     Log& log;
     Session& session;
     FolderLock& lock;
+    /// Keeps the state of the data folder before `act`, which deletes much: "excluir a empresa 02
+    /// PADARIA". Who calls holds the folder. Throws Fault, and then nothing is to be deleted.
+    std::function<void(const std::string& act)> keepStateBefore = [](const std::string&) {};
 
     /// The records of the folder in use.
     [[nodiscard]] Store store() const { return {files, session.folder}; }

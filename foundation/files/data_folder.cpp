@@ -43,6 +43,11 @@ bool isMonthFile(std::string_view name) {
     return std::all_of(month.begin(), month.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
+bool isSetting(std::string_view name) {
+    return std::find(kCompanySettings.begin(), kCompanySettings.end(), name) !=
+           kCompanySettings.end();
+}
+
 std::optional<std::string_view> stemOf(std::string_view name) {
     for (const std::string_view stem : {kScheduleStem, kOvertimeStem, kLeaveStem})
         if (standsAt(name, 3, stem)) return stem;
@@ -88,7 +93,8 @@ std::filesystem::path DataFolder::file(std::string_view name) const {
 bool isRecordOfCompany(std::string_view name, const CompanyCode& company) {
     if (!name.starts_with(company.text())) return false;
     return stemOf(name) || name.find(kLeaveStem) != std::string_view::npos ||
-           isPunchOrPayrollFile(name) || isMonthFile(name) || name.substr(2) == kEmployeeListStem;
+           isPunchOrPayrollFile(name) || isMonthFile(name) || name.substr(2) == kEmployeeListStem ||
+           isSetting(name.substr(2));
 }
 
 bool isRecordOfEmployee(std::string_view name, const EmployeeKey& key) {
@@ -117,6 +123,11 @@ std::string renamedForEmployee(std::string_view name, const EmployeeKey& key) {
 
 void removeRecordsOfCompany(const Store& store, const CompanyCode& company) {
     removeWhere(store, [&](std::string_view name) { return isRecordOfCompany(name, company); });
+}
+
+void removeSettingsOfCompany(const Store& store, const CompanyCode& company) {
+    for (const std::string_view name : kCompanySettings)
+        store.files.remove(store.folder.companyFile(company, name));
 }
 
 void removeRecordsOfEmployee(const Store& store, const EmployeeKey& key) {

@@ -88,6 +88,13 @@ inline constexpr std::string_view kLeaveStem = "configAf";
 inline constexpr std::array<std::string_view, 3> kTerminationStems = {"TRTC", "THRTC", "AviTRTC"};
 inline constexpr std::string_view kEmployeeListStem = "CartaPonto";
 
+/// Settings of one company, behind its code: card stock, how cards come out, trays and header.
+inline constexpr std::string_view kStockSettingName = "CartaoDePontoTipo";
+inline constexpr std::string_view kPrinterKindName = "ImpressoraTipo";
+inline constexpr std::string_view kFeedName = "Impresstec";
+inline constexpr std::array<std::string_view, 3> kCompanySettings = {kStockSettingName,
+                                                                     kPrinterKindName, kFeedName};
+
 /// Files of the run: both go when the program ends.
 inline constexpr std::string_view kStartMemoryName = "LocMen.lvc";
 inline constexpr std::string_view kSelectedMonthName = "DataIde.ivc";
@@ -95,9 +102,9 @@ inline constexpr std::string_view kSelectedMonthName = "DataIde.ivc";
 /// The scratch database of the report engine: no record.
 inline constexpr std::string_view kReportDatabaseName = "qdb.mdb";
 
-/// True for the names of records that go when the company goes: its schedules, overtime figures,
-/// leaves, termination documents, punches, month files and employee list. Names are read by
-/// position: company code in characters 1-2, then the stem.
+/// True for the names of the files that go when the company goes: its schedules, overtime figures,
+/// leaves, termination documents, punches, month files, employee list and settings. Names are read
+/// by position: company code in characters 1-2, then the stem.
 [[nodiscard]] bool isRecordOfCompany(std::string_view name, const CompanyCode& company);
 
 /// The same for one employee: the employee code stands behind the stem, or in characters 3-5.
@@ -114,6 +121,9 @@ inline constexpr std::string_view kReportDatabaseName = "qdb.mdb";
 
 /// Deletes the files of a company. Can be run again after a failure.
 void removeRecordsOfCompany(const Store& store, const CompanyCode& company);
+/// Only its settings, so that a company that gets the code of an earlier one does not begin with
+/// those that an older version of the program left behind.
+void removeSettingsOfCompany(const Store& store, const CompanyCode& company);
 void removeRecordsOfEmployee(const Store& store, const EmployeeKey& key);
 
 }  // namespace winvrx

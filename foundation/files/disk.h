@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/files/listed_file.h"
+
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -50,6 +52,10 @@ class Disk {
 
     /// Names of the files in `folder`; none when there is no such folder.
     [[nodiscard]] virtual std::vector<std::string> names(
+        const std::filesystem::path& folder) const = 0;
+
+    /// The same files with size and time, from one pass over the folder.
+    [[nodiscard]] virtual std::vector<ListedFile> list(
         const std::filesystem::path& folder) const = 0;
 
     /// Makes the folder and its parents; nothing to do when it stands.

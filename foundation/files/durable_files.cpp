@@ -21,6 +21,10 @@ bool isTemporary(const std::string& name) {
     return name.ends_with(kTemporarySuffix);
 }
 
+bool isNoRecord(const std::string& name) {
+    return isTemporary(name) || name.ends_with(kLockSuffix);
+}
+
 /// The operator knows the record, not the name under which it is being written.
 path recordOf(const path& file) {
     const std::string name = file.string();
@@ -98,10 +102,14 @@ bool DurableFiles::exists(const path& file) const {
 
 std::vector<std::string> DurableFiles::names(const path& folder) const {
     std::vector<std::string> names = disk_->names(folder);
-    std::erase_if(names, [](const std::string& name) {
-        return isTemporary(name) || name.ends_with(kLockSuffix);
-    });
+    std::erase_if(names, isNoRecord);
     return names;
+}
+
+std::vector<ListedFile> DurableFiles::list(const path& folder) const {
+    std::vector<ListedFile> files = disk_->list(folder);
+    std::erase_if(files, [](const ListedFile& file) { return isNoRecord(file.name); });
+    return files;
 }
 
 void DurableFiles::makeFolder(const path& folder) {

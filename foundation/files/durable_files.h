@@ -22,6 +22,7 @@ class DurableFiles final : public FileSystem {
     [[nodiscard]] bool exists(const std::filesystem::path& file) const override;
     [[nodiscard]] std::vector<std::string> names(
         const std::filesystem::path& folder) const override;
+    [[nodiscard]] std::vector<ListedFile> list(const std::filesystem::path& folder) const override;
     void makeFolder(const std::filesystem::path& folder) override;
 
     [[nodiscard]] bool hasLeftovers(const std::filesystem::path& folder) const override;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/files/file_faults.h"
+#include "foundation/files/listed_file.h"
 
 #include <filesystem>
 #include <memory>
@@ -46,6 +47,10 @@ class FileSystem {
     /// Names of the files in `folder`, in no particular order, half-written ones and locks left
     /// out; none when the folder is missing.
     [[nodiscard]] virtual std::vector<std::string> names(
+        const std::filesystem::path& folder) const = 0;
+
+    /// The same files with size and time, from one pass over the folder.
+    [[nodiscard]] virtual std::vector<ListedFile> list(
         const std::filesystem::path& folder) const = 0;
 
     /// Makes the folder and its parents; nothing to do when it stands.

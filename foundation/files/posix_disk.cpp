@@ -6,6 +6,7 @@
 #include <array>
 #include <cerrno>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -101,6 +102,25 @@ void flushOne(const path& file) {
     if (!descriptor.open() || ::fsync(descriptor.number()) != 0) fail(Operation::Write, file);
 }
 
+using Folder = std::unique_ptr<DIR, int (*)(DIR*)>;
+
+/// What stands in the folder under this name; nullopt for a folder and for what has gone meanwhile.
+std::optional<ListedFile> listed(const Folder& folder, const char* name, const path& path) {
+    struct stat status {};
+    struct stat target {};
+    const int number = ::dirfd(folder.get());
+    if (::fstatat(number, name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
+        if (!isMissing(errno)) fail(Operation::List, path);
+        return std::nullopt;
+    }
+    const bool toFolder = S_ISLNK(status.st_mode) && ::fstatat(number, name, &target, 0) == 0 &&
+                          S_ISDIR(target.st_mode);
+    if (toFolder || S_ISDIR(status.st_mode)) return std::nullopt;
+    return ListedFile{name, static_cast<std::uint64_t>(status.st_size),
+                      std::chrono::seconds(status.st_mtim.tv_sec) +
+                          std::chrono::nanoseconds(status.st_mtim.tv_nsec)};
+}
+
 class PosixDisk final : public StandardFolders {
   public:
     [[nodiscard]] std::optional<std::string> read(const path& file) const override {
@@ -164,6 +184,20 @@ class PosixDisk final : public StandardFolders {
         const Descriptor descriptor(folder, O_RDONLY | O_DIRECTORY);
         if (!descriptor.open()) fail(Operation::Write, folder);
         if (::fsync(descriptor.number()) != 0 && errno != EINVAL) fail(Operation::Write, folder);
+    }
+
+    [[nodiscard]] std::vector<ListedFile> list(const path& folder) const override {
+        std::vector<ListedFile> files;
+        const Folder open(::opendir(folder.c_str()), &::closedir);
+        if (!open && isMissing(errno)) return files;
+        if (!open) fail(Operation::List, folder);
+        while (true) {
+            errno = 0;
+            const dirent* entry = ::readdir(open.get());
+            if (!entry && errno != 0) fail(Operation::List, folder);
+            if (!entry) return files;
+            if (auto file = listed(open, entry->d_name, folder)) files.push_back(std::move(*file));
+        }
     }
 
     [[nodiscard]] bool exists(const path& file) const override {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 #ifndef NOMINMAX
 #define NOMINMAX
@@ -73,6 +74,20 @@ void writeAll(const Handle& out, std::string_view bytes, const path& file) {
             fail(Operation::Write, file);
         bytes.remove_prefix(count);
     }
+}
+
+/// From 1601 to 1970, in the hundreds of nanoseconds that Windows counts.
+constexpr std::uint64_t kTicksBefore1970 = 116'444'736'000'000'000;
+
+std::uint64_t joined(DWORD high, DWORD low) {
+    return (std::uint64_t{high} << 32U) | low;
+}
+
+ListedFile listed(const WIN32_FIND_DATAW& found) {
+    const std::uint64_t ticks =
+        joined(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime);
+    return {path(found.cFileName).string(), joined(found.nFileSizeHigh, found.nFileSizeLow),
+            std::chrono::nanoseconds(static_cast<std::int64_t>(ticks - kTicksBefore1970) * 100)};
 }
 
 class WindowsDisk final : public StandardFolders {
@@ -146,6 +161,26 @@ class WindowsDisk final : public StandardFolders {
     /// Windows has no flush of a folder: renames are written through, and its file systems keep
     /// removals in their journal.
     void flushFolder(const path&) override {}
+
+    [[nodiscard]] std::vector<ListedFile> list(const path& folder) const override {
+        std::vector<ListedFile> files;
+        WIN32_FIND_DATAW found{};
+        const HANDLE search =
+            ::FindFirstFileExW((folder / L"*").c_str(), FindExInfoBasic, &found,
+                               FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
+        if (search == INVALID_HANDLE_VALUE) {
+            if (isMissing(::GetLastError())) return files;
+            fail(Operation::List, folder);
+        }
+        do {
+            if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
+                files.push_back(listed(found));
+        } while (::FindNextFileW(search, &found));
+        const DWORD error = ::GetLastError();
+        ::FindClose(search);
+        if (error != ERROR_NO_MORE_FILES) fail(Operation::List, folder, error);
+        return files;
+    }
 
     [[nodiscard]] bool exists(const path& file) const override {
         if (::GetFileAttributesW(file.c_str()) != INVALID_FILE_ATTRIBUTES) return true;

@@ -71,9 +71,6 @@ inline constexpr std::array<std::string_view, 16> kPrintOrder = {
 [[nodiscard]] std::optional<std::string> layoutFor(std::string_view code, TrayPosition tray,
                                                    LayoutSet set);
 
-/// The setting file that holds the stock in use, to be put behind the company code.
-inline constexpr std::string_view kStockSettingName = "CartaoDePontoTipo";
-
 /// The line of the setting file: "12SDN", "05", "06 BMVIX - TRIX".
 [[nodiscard]] std::string settingLineOf(const CardStock& stock);
 

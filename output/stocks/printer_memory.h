@@ -14,9 +14,6 @@
 
 namespace winvrx {
 
-inline constexpr std::string_view kPrinterKindName = "ImpressoraTipo";
-inline constexpr std::string_view kFeedName = "Impresstec";
-
 /// A tray's name has at most so many characters.
 inline constexpr std::size_t kTrayWidth = 30;
 

@@ -4,7 +4,6 @@
 
 #include <gmock/gmock.h>
 
-
 // Every writing command on a disk that fails at operation 1, 2, 3 … until it fails no more.
 
 namespace winvrx {
@@ -52,9 +51,9 @@ class EveryCommand : public ::testing::TestWithParam<WritingCommand> {
 void expectTold(const Outcome& outcome, std::errc error) {
     EXPECT_FALSE(outcome.failures.empty());
     for (const Message& told : outcome.failures)
-        EXPECT_THAT(told.detail, ::testing::Not(::testing::AnyOf(
-                                     "", ::testing::HasSubstr(kTemporarySuffix),
-                                     ::testing::HasSubstr("\"\""))));
+        EXPECT_THAT(told.detail,
+                    ::testing::Not(::testing::AnyOf("", ::testing::HasSubstr(kTemporarySuffix),
+                                                    ::testing::HasSubstr("\"\""))));
     EXPECT_THAT(outcome.logged,
                 ::testing::Contains(::testing::AllOf(
                     ::testing::ContainsRegex("(ler|gravar|excluir|listar|criar a pasta) /root"),

@@ -70,6 +70,10 @@ class FaultyDisk final : public Disk {
         step(FileFault::Operation::List, folder);
         return disk_.names(folder);
     }
+    [[nodiscard]] std::vector<ListedFile> list(const std::filesystem::path& folder) const override {
+        step(FileFault::Operation::List, folder);
+        return disk_.list(folder);
+    }
     void makeFolder(const std::filesystem::path& folder) override {
         change(FileFault::Operation::MakeFolder, folder, [&] { disk_.makeFolder(folder); });
     }

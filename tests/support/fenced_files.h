@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/memory_files.h"
+#include "foundation/files/forwarding_files.h"
 
 #include <string>
 #include <vector>
@@ -8,10 +8,10 @@
 namespace winvrx::testing {
 
 /// Files in memory that remember each use of a path outside one folder.
-class FencedFiles final : public FileSystem {
+class FencedFiles final : public ForwardingFiles {
   public:
     FencedFiles(FileSystem& files, std::filesystem::path folder)
-        : files_(files), folder_(std::move(folder)) {}
+        : ForwardingFiles(files), folder_(std::move(folder)) {}
 
     [[nodiscard]] const std::vector<std::string>& trespasses() const { return trespasses_; }
 
@@ -42,6 +42,10 @@ class FencedFiles final : public FileSystem {
         watch(folder / "any");
         return files_.names(folder);
     }
+    [[nodiscard]] std::vector<ListedFile> list(const std::filesystem::path& folder) const override {
+        watch(folder / "any");
+        return files_.list(folder);
+    }
     void makeFolder(const std::filesystem::path& folder) override {
         watch(folder / "any");
         files_.makeFolder(folder);
@@ -62,7 +66,6 @@ class FencedFiles final : public FileSystem {
         if (!inside || path.find('\0') != std::string::npos) trespasses_.push_back(path);
     }
 
-    FileSystem& files_;
     std::filesystem::path folder_;
     mutable std::vector<std::string> trespasses_;
 };

@@ -8,7 +8,7 @@ using std::filesystem::path;
 
 MemoryDisk::MemoryDisk(const Files& files) {
     for (const auto& [file, bytes] : files)
-        now_[file] = std::make_shared<Content>(Content{bytes, bytes});
+        now_[file] = std::make_shared<Content>(Content{bytes, bytes, {}});
     lasting_ = now_;
 }
 
@@ -21,6 +21,7 @@ void MemoryDisk::write(const path& file, std::string_view bytes) {
     auto& content = now_[file];
     if (!content) content = std::make_shared<Content>();
     content->bytes = bytes;
+    content->written = time_ += std::chrono::minutes(1);
 }
 
 bool MemoryDisk::create(const path& file, std::string_view bytes) {
@@ -61,6 +62,15 @@ std::vector<std::string> MemoryDisk::names(const path& folder) const {
     return names;
 }
 
+std::vector<ListedFile> MemoryDisk::list(const path& folder) const {
+    std::vector<ListedFile> files;
+    for (const std::string& name : names(folder)) {
+        const Content& content = *now_.at(folder / name);
+        files.push_back({name, content.bytes.size(), content.written});
+    }
+    return files;
+}
+
 void MemoryDisk::cutPower(std::mt19937& dice) {
     const auto side = [&dice] { return dice() % 2 == 0; };
     std::set<path> names;
@@ -75,7 +85,7 @@ void MemoryDisk::cutPower(std::mt19937& dice) {
     for (auto& [file, content] : left) {
         std::string bytes = side() ? content->bytes : content->lasting;
         if (bytes != content->lasting && side()) bytes.resize(bytes.size() / 2);
-        content = std::make_shared<Content>(Content{bytes, bytes});
+        content = std::make_shared<Content>(Content{bytes, bytes, content->written});
     }
     now_ = left;
     lasting_ = left;

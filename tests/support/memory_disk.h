@@ -29,6 +29,7 @@ class MemoryDisk final : public Disk {
     [[nodiscard]] bool exists(const std::filesystem::path& path) const override;
     [[nodiscard]] std::vector<std::string> names(
         const std::filesystem::path& folder) const override;
+    [[nodiscard]] std::vector<ListedFile> list(const std::filesystem::path& folder) const override;
     void makeFolder(const std::filesystem::path&) override {}
 
     /// Loses what was not flushed, or part of it, as the dice fall.
@@ -40,9 +41,11 @@ class MemoryDisk final : public Disk {
     struct Content {
         std::string bytes;
         std::string lasting;
+        std::chrono::nanoseconds written{};
     };
     using Entries = std::map<std::filesystem::path, std::shared_ptr<Content>>;
 
+    std::chrono::nanoseconds time_{};  ///< a minute for each write
     Entries now_;
     Entries lasting_;
 };

@@ -17,6 +17,7 @@ class MemoryFiles final : public FileSystem {
     std::set<std::string> failOn;
     std::set<std::filesystem::path> folders;
     std::set<std::string> failWritesOn;
+    std::map<std::filesystem::path, std::chrono::nanoseconds> times;
 
     [[nodiscard]] std::optional<std::string> read(
         const std::filesystem::path& file) const override {
@@ -56,18 +57,42 @@ class MemoryFiles final : public FileSystem {
         return names;
     }
 
+    /// A file's time is that of the first listing in which it held these bytes; listings are a
+    /// minute apart. A test may set `times` itself.
+    [[nodiscard]] std::vector<ListedFile> list(const std::filesystem::path& folder) const override {
+        std::vector<ListedFile> files;
+        now_ += std::chrono::minutes(1);
+        for (const std::string& name : names(folder)) {
+            const std::string& bytes = content.at(folder / name);
+            const auto [seen, first] = seen_.try_emplace(folder / name, Seen{bytes, now_});
+            if (!first && seen->second.bytes != bytes) seen->second = {bytes, now_};
+            const auto set = times.find(folder / name);
+            files.push_back(
+                {name, bytes.size(), set == times.end() ? seen->second.time : set->second});
+        }
+        return files;
+    }
+
     void makeFolder(const std::filesystem::path& folder) override { folders.insert(folder); }
 
     [[nodiscard]] bool hasLeftovers(const std::filesystem::path&) const override { return false; }
     void removeLeftovers(const std::filesystem::path&) override {}
 
   private:
+    struct Seen {
+        std::string bytes;
+        std::chrono::nanoseconds time;
+    };
+
     void check(FileFault::Operation operation, const std::filesystem::path& file) const {
         const std::string name = file.filename().string();
         const bool write = operation == FileFault::Operation::Write;
         if (failOn.contains(name) || (write && failWritesOn.contains(name)))
             throw FileFault(operation, file, std::make_error_code(std::errc::no_space_on_device));
     }
+
+    mutable std::map<std::filesystem::path, Seen> seen_;
+    mutable std::chrono::nanoseconds now_{};
 };
 
 }  // namespace winvrx::testing

@@ -23,13 +23,8 @@ class PlainArchiver final : public Archiver {
         return name + "|" + std::to_string(bytes.size()) + "\n" + bytes;
     }
 
-    [[nodiscard]] std::vector<std::string> names(std::string_view archive) const override {
-        std::vector<std::string> names;
-        unpack(archive, [&](const ArchiveEntry& entry) { names.push_back(entry.name); });
-        return names;
-    }
-
-    void unpack(std::string_view archive, const Visitor& visit) const override {
+    void unpack(std::string_view archive, const Choice& chosen,
+                const Visitor& visit) const override {
         std::istringstream in{std::string(archive)};
         std::string name;
         std::string size;
@@ -38,7 +33,7 @@ class PlainArchiver final : public Archiver {
             std::string bytes(std::stoul(size), '\0');
             if (!in.read(bytes.data(), static_cast<std::streamsize>(bytes.size())))
                 throw DamagedArchive("cut short");
-            visit({name, std::move(bytes)});
+            if (chosen(name)) visit({name, std::move(bytes)});
         }
     }
 };

@@ -40,8 +40,7 @@ QString sizeText(std::size_t bytes) {
 
 QStringList cellsOf(const SafetyCopy& copy) {
     const QString files = copy.damaged ? QStringLiteral("danificada") : QString::number(copy.files);
-    return {toQt(momentOfCopy(copy.name)), toQt(originOfCopy(copy.name)), files,
-            sizeText(copy.bytes)};
+    return {toQt(momentOfCopy(copy.name)), toQt(originOfCopy(copy)), files, sizeText(copy.bytes)};
 }
 
 QString summaryOf(const CopyPreview& preview) {

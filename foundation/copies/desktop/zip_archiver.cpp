@@ -147,17 +147,11 @@ std::string ZipArchiver::pack(const Source& next) const {
     return target;
 }
 
-std::vector<std::string> ZipArchiver::names(std::string_view archive) const {
-    std::vector<std::string> names;
-    for (ZipReader reader(archive, limits_); reader.next();)
-        names.push_back(reader.name());
-    return names;
-}
-
-void ZipArchiver::unpack(std::string_view archive, const Visitor& visit) const {
+void ZipArchiver::unpack(std::string_view archive, const Choice& chosen,
+                         const Visitor& visit) const {
     for (ZipReader reader(archive, limits_); reader.next();) {
         std::string name = reader.name();
-        visit({std::move(name), reader.bytes()});
+        if (chosen(name)) visit({std::move(name), reader.bytes()});
     }
 }
 

@@ -10,8 +10,8 @@ class ZipArchiver final : public Archiver {
     explicit ZipArchiver(const ArchiveLimits& limits = {}) : limits_(limits) {}
 
     [[nodiscard]] std::string pack(const Source& next) const override;
-    [[nodiscard]] std::vector<std::string> names(std::string_view archive) const override;
-    void unpack(std::string_view archive, const Visitor& visit) const override;
+    void unpack(std::string_view archive, const Choice& chosen,
+                const Visitor& visit) const override;
 
   private:
     ArchiveLimits limits_;

@@ -29,7 +29,7 @@ TEST(CopyNameTest, TellsWhenAndWhyACopyWasMade) {
     EXPECT_EQ(daily->kind, CopyName::Kind::Daily);
     const auto second = CopyName::parse("2024-03-15-0812-antes-2.zip");
     ASSERT_TRUE(second);
-    EXPECT_EQ(second->kind, CopyName::Kind::Replaced);
+    EXPECT_EQ(second->kind, CopyName::Kind::Before);
     EXPECT_EQ(second->number, 2);
     EXPECT_TRUE(daily->isOlderThan(*second));
     EXPECT_FALSE(second->isOlderThan(*daily));

@@ -61,7 +61,8 @@ TEST_F(RestaurarCopiaTest, AsksAndThenClearsTheWorkMonth) {
     EXPECT_FALSE(desk.files.content.contains("/data/DataIde.ivc"));
     screen.load();
     ASSERT_EQ(screen.copies().size(), 2U);
-    EXPECT_EQ(originOfCopy(screen.copies()[0].name), "Antes de restaurar");
+    EXPECT_EQ(originOfCopy(screen.copies()[0]),
+              "Antes de restaurar a cópia de sex, 15/03/2024 às 08:12");
 }
 
 TEST_F(RestaurarCopiaTest, RefusesWhatCannotBeRestored) {

@@ -71,7 +71,10 @@ TEST(DataFolder, NamesAreReadByPosition) {
                           {"01001132024.txt", false, false},
                           {"01001012.pdx", true, false},
                           {"01CartaPonto", true, false},
-                          {"01CartaoDePontoTipo", false, false},
+                          {"01CartaoDePontoTipo", true, false},
+                          {"01ImpressoraTipo", true, false},
+                          {"01Impresstec", true, false},
+                          {"01Impresstecla", false, false},
                           {"01Empresa", false, false},
                           {"02PadrHor001.pdx", false, false},
                           {"x01PadrHor001.pdx", false, false},
@@ -85,15 +88,18 @@ TEST(DataFolder, NamesAreReadByPosition) {
 TEST(DataFolder, DeletingACodeLeavesTheOthersAlone) {
     MemoryFiles files;
     const DataFolder folder('C', "/data");
-    for (const char* name : {"01Empresa", "01CartaPonto", "01PadrHor001.pdx", "02CartaPonto",
-                             "02PadrHor001.pdx", "02PadrHor002.pdx", "02001-03-2024.bdx"})
+    for (const char* name :
+         {"01Empresa", "01CartaPonto", "01PadrHor001.pdx", "02CartaPonto", "02PadrHor001.pdx",
+          "02PadrHor002.pdx", "02001-03-2024.bdx", "01Impresstec", "02Impresstec"})
         files.content[folder.file(name)] = name;
     removeRecordsOfEmployee({files, folder}, {kSecond, kEmployee});
     EXPECT_TRUE(files.exists("/data/02PadrHor002.pdx"));
     EXPECT_TRUE(files.exists("/data/02CartaPonto"));
-    EXPECT_EQ(files.content.size(), 5U);
+    EXPECT_EQ(files.content.size(), 7U);
+    removeSettingsOfCompany({files, folder}, kSecond);
+    EXPECT_EQ(files.content.size(), 6U);
     removeRecordsOfCompany({files, folder}, kSecond);
-    EXPECT_EQ(files.content.size(), 3U);
+    EXPECT_EQ(files.content.size(), 4U);
     EXPECT_TRUE(files.exists("/data/01Empresa"));
     EXPECT_TRUE(files.exists("/data/01CartaPonto"));
     EXPECT_TRUE(files.exists("/data/01PadrHor001.pdx"));

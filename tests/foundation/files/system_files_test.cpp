@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <algorithm>
@@ -93,10 +94,10 @@ TEST_F(SystemFiles, FaultsNameFoldersToo) {
     const std::pair<fs::path, const char*> cases[] = {
         {"/a/Winvrx", "Winvrx"}, {"/a/Winvrx/", "Winvrx"}, {"/", "/"}, {"", "a pasta de dados"}};
     for (const auto& [folder, name] : cases)
-        EXPECT_EQ(FileFault(FileFault::Operation::List, folder,
-                            std::make_error_code(std::errc::io_error))
-                      .explanation(),
-                  std::string("Não foi possível listar \"") + name + "\": o disco não respondeu.");
+        EXPECT_EQ(
+            FileFault(FileFault::Operation::List, folder, std::make_error_code(std::errc::io_error))
+                .explanation(),
+            std::string("Não foi possível listar \"") + name + "\": o disco não respondeu.");
 }
 
 TEST_F(SystemFiles, ALookUpThatFailsIsNotAMissingFile) {
@@ -208,8 +209,17 @@ TEST_F(SystemFiles, WithoutPermissionNothingChanges) {
 TEST_F(SystemFiles, ListsFilesButNoFolders) {
     files_->makeFolder(folder_ / "WinvrxOfNew" / "deep");
     files_->makeFolder(folder_ / "WinvrxOfNew" / "deep");
-    files_->replace(folder_ / "01Empresa", "x");
+    files_->replace(folder_ / "01Empresa", "four");
+    fs::create_directory_symlink("WinvrxOfNew", folder_ / "link to a folder");
     EXPECT_EQ(sortedNames(), (std::vector<std::string>{"01Empresa"}));
+    const struct timespec moment[] = {{1'710'489'600, 25}, {1'710'489'600, 25}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, (folder_ / "01Empresa").c_str(), moment, 0), 0);
+    const auto listed = files_->list(folder_);
+    ASSERT_EQ(listed.size(), 1U);
+    EXPECT_EQ(listed[0].name, "01Empresa");
+    EXPECT_EQ(listed[0].size, 4U);
+    EXPECT_EQ(listed[0].written.count(), 1'710'489'600'000'000'025);
+    EXPECT_TRUE(files_->list(folder_ / "none").empty());
 }
 
 }  // namespace

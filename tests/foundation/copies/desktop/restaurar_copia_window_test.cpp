@@ -67,7 +67,8 @@ TEST_F(RestaurarCopiaWindowTest, RestoresTheSelectedCopyByKeyboard) {
     desk_.person.answers = {Answer::Yes};
     driver_->press(Qt::Key_R, Qt::ControlModifier);
     EXPECT_EQ(desk_.file("01CartaPonto"), "14/03/2024");
-    EXPECT_EQ(cell("restaurar.list", 0, 1), "Antes de restaurar");
+    EXPECT_EQ(cell("restaurar.list", 0, 1),
+              "Antes de restaurar a cópia de qui, 14/03/2024 às 08:12");
     EXPECT_THAT(driver_->state(), HasSubstr("Cópia restaurada"));
 }
 
