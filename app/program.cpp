@@ -64,10 +64,9 @@ std::vector<std::filesystem::path> Program::layoutPlaces() const {
 }
 
 std::unique_ptr<ReportEngine> Program::makeEngine() {
-    const QtReportEngine::Places places{
-        .layoutFolders = [this] { return layoutPlaces(); },
-        .database = [this] { return session_.folder.file(kReportDatabaseName); }};
-    auto engine = std::make_unique<QtReportEngine>(places, *browser_, surroundings_.log);
+    auto engine = std::make_unique<QtReportEngine>(
+        [this] { return layoutPlaces(); },
+        [this] { return session_.folder.file(kReportDatabaseName); }, *browser_, surroundings_.log);
     if (!surroundings_.engine) return engine;
     return surroundings_.engine(std::move(engine));
 }

@@ -21,6 +21,7 @@
 #include "output/stocks/desktop/tipo_ponto_window.h"
 #include "output/stocks/tipo_ponto.h"
 #include "report/desktop/impressorar_window.h"
+#include "report/desktop/layout_reader.h"
 #include "report/impressorar.h"
 #include "timecard/month/desktop/data_mes_corrente_window.h"
 #include "timecard/month/desktop/feriados_window.h"
@@ -97,11 +98,11 @@ void Screens::openTimeCard(QWidget* parent) {
 void Screens::openCards(QWidget* parent, bool preview) {
     Cartao cards(at_, {browser_, printing_.engine, printing_.printers, alignment_});
     cards.choices().output = preview ? ReportOutput::Preview : ReportOutput::Printer;
-    const CartaoLinks links{.openStocks = [this](QWidget* over) { openStocks(over); },
-                            .openWorkMonth = [this](QWidget* over) { openWorkMonth(over); },
-                            .openPrinters = [this](QWidget* over) { openPrinters(over); },
-                            .openAlignment = [this](QWidget* over) { openAlignment(over); }};
-    CartaoWindow(cards, links, parent).exec();
+    const CartaoWindowDesk screens{.openStocks = [this](QWidget* over) { openStocks(over); },
+                                   .openWorkMonth = [this](QWidget* over) { openWorkMonth(over); },
+                                   .openPrinters = [this](QWidget* over) { openPrinters(over); },
+                                   .openAlignment = [this](QWidget* over) { openAlignment(over); }};
+    CartaoWindow(cards, screens, parent).exec();
 }
 
 void Screens::openStocks(QWidget* parent) {
@@ -118,7 +119,7 @@ void Screens::openPrinters(QWidget* parent) {
 void Screens::openAlignment(QWidget* parent) {
     CartaoPontos alignment(at_, {browser_, printing_.engine, printing_.printers, alignment_});
     const LayoutSource layouts = [this](const std::string& name) {
-        return loadLayout(printing_.layoutFolders(), name);
+        return loadLayout(printing_.layoutFolders(), name, cardColumns());
     };
     CartaoPontosWindow(alignment, layouts, parent).exec();
 }

@@ -6,8 +6,8 @@
 #include "foundation/desk/text_editor.h"
 #include "foundation/menu/menu.h"
 #include "foundation/register/employee_queries.h"
+#include "output/stocks/card_alignment.h"
 #include "output/stocks/desktop/card_pictures.h"
-#include "report/print_settings.h"
 #include "report/printers.h"
 #include "report/report_engine.h"
 

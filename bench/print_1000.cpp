@@ -5,6 +5,7 @@
 #include "bench/timing.h"
 #include "foundation/desk/browser.h"
 #include "foundation/desk/log.h"
+#include "output/stocks/card_rows.h"
 #include "report/desktop/qt_report_engine.h"
 
 #include <QFont>
@@ -52,9 +53,9 @@ std::string twoDigits(int number) {
     return (number < 10 ? "0" : "") + std::to_string(number);
 }
 
-std::vector<CardRow> cardOf(int employee) {
+ReportRows cardOf(int employee) {
     constexpr std::array<const char*, 7> kWeek = {"dom", "seg", "ter", "qua", "qui", "sex", "sáb"};
-    std::vector<CardRow> rows;
+    ReportRows rows;
     for (int day = 1; day <= kDays; ++day) {
         const bool rest = (day + 4) % 7 == 0;
         const std::string minutes = twoDigits((day * 7 + employee) % 60);
@@ -90,8 +91,8 @@ std::vector<CardRow> cardOf(int employee) {
 }
 
 /// The texts that a card shows, header captions included.
-std::vector<std::string> textsOf(const std::vector<CardRow>& rows) {
-    const CardRow& first = rows.front();
+std::vector<std::string> textsOf(const ReportRows& rows) {
+    const ReportRow& first = rows.front();
     std::vector<std::string> texts = {
         "Razão: " + first[0],
         "Cnpj: " + first[1] + " - Reg.: " + first[2] + " CTPS: " + first[3],
@@ -103,7 +104,7 @@ std::vector<std::string> textsOf(const std::vector<CardRow>& rows) {
         "Total: " + first[24]};
     constexpr std::size_t kFirstDayText = 14;
     constexpr std::size_t kLastDayText = 23;
-    for (const CardRow& row : rows)
+    for (const ReportRow& row : rows)
         for (std::size_t i = kFirstDayText; i <= kLastDayText; ++i)
             if (!row[i].empty()) texts.push_back(row[i]);
     return texts;
@@ -112,20 +113,17 @@ std::vector<std::string> textsOf(const std::vector<CardRow>& rows) {
 void printWithEngine(const std::string& folder, const std::string& layouts, int count) {
     NoBrowser browser;
     ErrorLog log;
-    QtReportEngine engine({[&] { return std::vector<std::filesystem::path>{layouts}; },
-                           [&] { return std::filesystem::path(folder) / "qdb.mdb"; }},
-                          browser, log);
+    QtReportEngine engine([&] { return std::vector<std::filesystem::path>{layouts}; },
+                          [&] { return std::filesystem::path(folder) / "qdb.mdb"; }, browser, log);
     ReportRequest request;
     request.layoutName = "tilibcenter.rpt";
     request.title = "CARTÃO PONTO";
+    request.columns = cardColumns();
     request.output = ReportOutput::PdfFile;
     request.pdfPath = folder + "/ours.pdf";
-    int next = 0;
-    const CardSource cards = [&]() -> std::optional<std::vector<CardRow>> {
-        if (next == count) return std::nullopt;
-        return cardOf(next++);
-    };
-    if (engine.print(request, cards, [](int) { return true; }) != ReportResult::Done) std::exit(1);
+    ReportPages cards(static_cast<std::size_t>(count),
+                      [](std::size_t at) { return cardOf(static_cast<int>(at)); });
+    if (engine.print(request, cards, [](int, int) { return true; }) != PrintEnd::Done) std::exit(1);
 }
 
 void printBare(const std::string& folder, int count) {

@@ -1,4 +1,5 @@
 #include "fuzz/invariant.h"
+#include "output/stocks/card_alignment.h"
 #include "report/print_scale.h"
 
 using namespace winvrx;

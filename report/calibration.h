@@ -1,6 +1,6 @@
 #pragma once
 
-#include "report/print_scale.h"
+#include "report/report_engine.h"
 
 #include <array>
 #include <optional>
@@ -12,6 +12,8 @@
 namespace winvrx {
 
 inline constexpr std::string_view kCalibrationLayout = "calibracao.rpt";
+/// The sheet's one column: the printer's name.
+inline constexpr std::string_view kCalibrationColumn = "nome";
 
 /// Where the crosses belong, hundredths of a millimetre from the sheet's left and upper edge: A
 /// near both edges, B to the right of it, C below it.
@@ -31,7 +33,29 @@ struct MeasuredSheet {
 inline constexpr std::array kMeasuredDistances = {&MeasuredSheet::leftToA, &MeasuredSheet::leftToB,
                                                   &MeasuredSheet::topToA, &MeasuredSheet::topToC};
 
-/// nullopt for distances that no printer gives.
+/// The scale that brings the crosses to where they belong; nullopt for distances that no printer
+/// gives.
 [[nodiscard]] std::optional<PrintScale> scaleFrom(const MeasuredSheet& sheet);
+
+/// Two crosses in one direction: where they belong, and where they were found, measured from the
+/// same edge of the paper. Hundredths of a millimetre.
+struct MeasuredMarks {
+    int nearBelongs = 0;
+    int farBelongs = 0;
+    int nearFound = 0;
+    int farFound = 0;
+};
+
+/// Scale and offset of one direction, as in PrintScale.
+struct AxisScale {
+    int scale = 10000;
+    int offset = 0;
+
+    [[nodiscard]] bool operator==(const AxisScale&) const = default;
+};
+
+/// The scale and offset of one direction; nullopt for distances that no printer gives. Requires
+/// nearBelongs < farBelongs, and marks printed without any scale or offset.
+[[nodiscard]] std::optional<AxisScale> correctionFor(const MeasuredMarks& marks);
 
 }  // namespace winvrx

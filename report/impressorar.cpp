@@ -1,7 +1,6 @@
 #include "report/impressorar.h"
 
-#include "report/print_result.h"
-#include "report/print_settings.h"
+#include "report/print_pages.h"
 
 #include <algorithm>
 #include <utility>

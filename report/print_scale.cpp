@@ -3,7 +3,6 @@
 #include "foundation/values/text.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <cstdlib>
 
 namespace winvrx {
@@ -27,12 +26,6 @@ int numberOf(std::string_view digits) {
 
 bool isWithin(const PrintScaleField& field, int value) {
     return field.least <= value && value <= field.greatest;
-}
-
-/// Half away from zero.
-std::int64_t dividedRounded(std::int64_t dividend, std::int64_t divisor) {
-    const std::int64_t half = divisor / 2;
-    return (dividend + (dividend < 0 ? -half : half)) / divisor;
 }
 
 bool isOf(const PrintScaleKey& key, std::string_view lineBytes) {
@@ -116,28 +109,6 @@ void savePrintScale(const Store& store, const PrintScaleLine& line) {
     else
         *found = encode(stored, *found);
     file.rewrite(lines);
-}
-
-Alignment loadAlignment(const Store& store, const PrintScaleKey& key,
-                        const AlignmentMemory& memory) {
-    const auto entry = alignmentEntryOf(key.stock);
-    const Offsets offsets = entry ? loadOffsets(store)[*entry] : Offsets();
-    return {.horizontalTwips = offsets.horizontal,
-            .verticalTwips = offsets.vertical,
-            .lines = memory.lines,
-            .scale = loadPrintScale(store, key)};
-}
-
-std::optional<AxisScale> correctionFor(const MeasuredMarks& marks) {
-    const std::int64_t belongs = marks.farBelongs - marks.nearBelongs;
-    const std::int64_t found = std::int64_t{marks.farFound} - marks.nearFound;
-    if (found <= 0) return std::nullopt;
-    const std::int64_t scale = dividedRounded(belongs * kWholeScale, found);
-    const std::int64_t offset =
-        dividedRounded(marks.nearBelongs * found - std::int64_t{marks.nearFound} * belongs, found);
-    if (scale < kSmallestScale || scale > kLargestScale || std::abs(offset) > kLargestScaleOffset)
-        return std::nullopt;
-    return AxisScale{static_cast<int>(scale), static_cast<int>(offset)};
 }
 
 }  // namespace winvrx

@@ -2,15 +2,16 @@
 
 #include "foundation/files/data_folder.h"
 #include "foundation/files/record_file.h"
-#include "report/print_settings.h"
+#include "report/report_engine.h"
 
 #include <array>
 #include <optional>
 #include <string>
 #include <string_view>
 
-// How true to measure each printer prints on each stock: `EscalaImpressao`, one line for a printer
-// and a stock, and how the scale follows from two distances measured on the calibration sheet.
+// The record `EscalaImpressao`: a printer may print everything a little too large, too small or too
+// far to one side, and differently on each stock. A line of the record says for one printer and one
+// stock by how much its print is to be scaled and moved to make up for that.
 
 namespace winvrx {
 
@@ -21,9 +22,9 @@ inline constexpr int kSmallestScale = 9000;
 inline constexpr int kLargestScale = 11000;
 inline constexpr int kLargestScaleOffset = 5000;  ///< hundredths of a millimetre, either way
 
-/// Whose scale a line holds.
+/// The printer and the stock that a line is for.
 struct PrintScaleKey {
-    std::string printer;  ///< the printer's own name, the default one's too
+    std::string printer;  ///< its name, also where it is the system's default printer
     std::string stock;    ///< two-digit code
 
     [[nodiscard]] bool operator==(const PrintScaleKey&) const = default;
@@ -36,7 +37,7 @@ struct PrintScaleLine {
     [[nodiscard]] bool operator==(const PrintScaleLine&) const = default;
 };
 
-/// A figure of a line. The layout's one place.
+/// One figure of a line: where it stands, and its bounds. Reader and writer both go by this table.
 struct PrintScaleField {
     int PrintScale::*member;
     Column column;
@@ -69,39 +70,15 @@ static_assert(kPrintScaleFields.back().column.end() == kPrintScaleWidth + 1);
 
 /// nullopt for a line without a printer, or with a figure that is none or out of its bounds.
 [[nodiscard]] std::optional<PrintScaleLine> decodePrintScale(std::string_view lineBytes);
-/// Built upon `existing`: what no column covers, and a figure that says the same, is kept. Throws
-/// TextFault when the printer's name cannot be stored.
+/// `existing` is the line that is replaced: bytes past the columns, and figures that have not
+/// changed, stay as they are there. Throws TextFault when the printer's name cannot be stored.
 [[nodiscard]] std::string encode(const PrintScaleLine& line, std::string existing = {});
 
-/// True to measure where the file has no line for it. Throws FileFault.
+/// The scale on record; 100 % and no offset where the file has no line for the key. Throws
+/// FileFault.
 [[nodiscard]] PrintScale loadPrintScale(const Store& store, const PrintScaleKey& key);
-/// Other lines stay as they are, understood or not. Throws FileFault and TextFault.
+/// Writes the key's line; all others stay as they are, understood or not. Throws FileFault and
+/// TextFault.
 void savePrintScale(const Store& store, const PrintScaleLine& line);
-
-/// How a print of this stock on this printer is moved: the stock's entry of the alignment list, the
-/// line offset and the printer's scale. Throws FileFault.
-[[nodiscard]] Alignment loadAlignment(const Store& store, const PrintScaleKey& key,
-                                      const AlignmentMemory& memory);
-
-/// Two marks of the calibration sheet in one direction: where they belong, and where they were
-/// found, measured from the same edge of the paper. Hundredths of a millimetre.
-struct MeasuredMarks {
-    int nearBelongs = 0;
-    int farBelongs = 0;
-    int nearFound = 0;
-    int farFound = 0;
-};
-
-/// Scale and offset of one direction.
-struct AxisScale {
-    int scale = kWholeScale;
-    int offset = 0;
-
-    [[nodiscard]] bool operator==(const AxisScale&) const = default;
-};
-
-/// What puts the marks where they belong, when they were printed true to measure; nullopt for
-/// distances that no printer gives. Requires nearBelongs < farBelongs.
-[[nodiscard]] std::optional<AxisScale> correctionFor(const MeasuredMarks& marks);
 
 }  // namespace winvrx

@@ -37,4 +37,14 @@ std::optional<std::string> installedPrinter(const std::vector<std::string>& inst
     return *found;
 }
 
+std::string loadPrinterName(const Store& store) {
+    const auto values = RecordFile(store, kPrinterName).values();
+    return values.empty() || values.front() == kDefaultPrinter ? std::string() : values.front();
+}
+
+void savePrinterName(const Store& store, const std::string& name) {
+    RecordFile(store, kPrinterName)
+        .rewriteValues({name.empty() ? std::string(kDefaultPrinter) : name});
+}
+
 }  // namespace winvrx

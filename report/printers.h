@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/files/record_file.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -32,5 +34,15 @@ class Printers {
 /// only one whose first 30 characters it is. nullopt where there is none, or more than one.
 [[nodiscard]] std::optional<std::string> installedPrinter(const std::vector<std::string>& installed,
                                                           std::string_view name);
+
+/// The record of the chosen printer, in the data folder itself and so the same for all companies.
+inline constexpr std::string_view kPrinterName = "ConfigX";
+/// What it holds for the system's default printer.
+inline constexpr std::string_view kDefaultPrinter = "Padrao";
+
+/// The chosen printer; empty stands for the system's default printer. Throws FileFault.
+[[nodiscard]] std::string loadPrinterName(const Store& store);
+/// Throws FileFault, and TextFault for a name that cannot be stored.
+void savePrinterName(const Store& store, const std::string& name);
 
 }  // namespace winvrx

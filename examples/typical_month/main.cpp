@@ -28,18 +28,22 @@ class PaperInAFile final : public ReportEngine {
     PaperInAFile(std::unique_ptr<ReportEngine> engine, std::string path)
         : engine_(std::move(engine)), path_(std::move(path)) {}
 
-    [[nodiscard]] ReportResult print(const ReportRequest& request, const CardSource& cards,
-                                     const CardProgress& progress) override {
+    [[nodiscard]] PrintEnd print(const ReportRequest& request, ReportPages& pages,
+                                 const PageProgress& progress) override {
         ReportRequest toFile = request;
         if (toFile.output == ReportOutput::Printer) {
             toFile.output = ReportOutput::PdfFile;
             toFile.pdfPath = path_;
         }
-        return engine_->print(toFile, cards, progress);
+        return engine_->print(toFile, pages, progress);
     }
-    [[nodiscard]] std::string explanation() const override { return engine_->explanation(); }
-    [[nodiscard]] int sidesOf(const std::string& layoutName) override {
-        return engine_->sidesOf(layoutName);
+    [[nodiscard]] PrintEnd preview(const ReportRequest& request, ReportPages& pages,
+                                   const PageProgress& progress,
+                                   const PrintShown& printShown) override {
+        return engine_->preview(request, pages, progress, printShown);
+    }
+    [[nodiscard]] int sidesOf(const ReportRequest& request) override {
+        return engine_->sidesOf(request);
     }
 
   private:

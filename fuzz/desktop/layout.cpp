@@ -1,4 +1,5 @@
 #include "fuzz/invariant.h"
+#include "output/stocks/card_rows.h"
 #include "report/desktop/layout_reader.h"
 
 #include <QBuffer>
@@ -23,9 +24,9 @@ void check(const Layout& layout, const LayoutText& text) {
     require(text.ink < layout.inks.size(), "a text has an ink");
     require(text.width.value_or(1) > 0, "a text has room");
     for (const LayoutText::Piece& piece : text.pieces)
-        require(piece.column.value_or(0) < kCardColumns.size(), "a column exists");
+        require(piece.column.value_or(0) < layout.columns, "a column exists");
     for (const std::size_t column : text.unless)
-        require(column < kCardColumns.size(), "a column exists");
+        require(column < layout.columns, "a column exists");
 }
 
 void check(const Layout&, const LayoutLine& line) {
@@ -61,7 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     file.setData(reinterpret_cast<const char*>(data), static_cast<int>(size));
     file.open(QIODevice::ReadOnly);
     try {
-        check(readLayout(file, "fuzz.rpt"));
+        check(readLayout(file, "fuzz.rpt", cardColumns()));
     } catch (const LayoutFault&) {
         // A damaged layout is refused.
     }

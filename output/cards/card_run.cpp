@@ -1,7 +1,6 @@
 #include "output/cards/card_run.h"
 
-#include "report/pdf_name.h"
-#include "report/print_result.h"
+#include "output/cards/pdf_name.h"
 
 #include <algorithm>
 #include <utility>
@@ -13,8 +12,6 @@ namespace {
 constexpr auto kPrinting = "IMPRIMINDO";
 
 const Message kCancelOthers = riskyQuestion(kPrinting, "Deseja Cancelar as demais Impressões? ");
-const Message kLeaveSecondSide =
-    warning(kPrinting, "Deseja deixar os cartões impressos somente no primeiro lado?");
 const Message kReplaceFiles =
     warning(kPrinting, "Já existem nesta pasta arquivos destes cartões. Deseja substituí-los?");
 
@@ -23,46 +20,30 @@ Message confirmCardOf(const Employee& employee) {
                     Buttons::YesNoCancel);
 }
 
-Message printSecondSide(CardOutput output, std::size_t cards) {
-    return question(kPrinting,
-                    "O primeiro lado já foi enviado. Deseja imprimir o segundo lado agora?",
-                    stackInstruction(output, cards));
-}
-
 }  // namespace
 
-CardRun::CardRun(const Workplace& at, ReportEngine& engine, CardRunPlan plan, const PrintRun& run)
-    : at_(at), engine_(engine), plan_(std::move(plan)), run_(run) {}
+CardRun::CardRun(const Workplace& at, ReportEngine& engine, CardBatch batch, const PrintRun& run)
+    : at_(at), engine_(engine), batch_(std::move(batch)), run_(run) {}
 
 bool CardRun::print() {
-    const LayoutSet set = plan_.choices.mode == PrintMode::OneRun ? LayoutSet::A : LayoutSet::B;
-    twoSided_ = engine_.sidesOf(plan_.layoutOf(set)) > 1;
-    const bool twice = twoSided_ && plan_.choices.output == ReportOutput::Printer;
-    cardsInAll_ = static_cast<int>(plan_.people.size()) * (twice ? 2 : 1);
-    const bool files = plan_.choices.output == ReportOutput::PdfFile &&
-                       plan_.choices.pdfFiles == PdfFiles::OneForEach;
-    if (files && !choosesFolder()) return false;
-    return plan_.choices.mode == PrintMode::OneRun ? oneRun() : oneAtATime();
+    const bool pdfOfEach = batch_.choices.output == ReportOutput::PdfFile &&
+                           batch_.choices.pdfFiles == PdfFiles::OneForEach;
+    if (pdfOfEach && !choosePdfFolder()) return false;
+    if (batch_.choices.mode == PrintMode::OneAtATime) return printOneAtATime();
+    return printJob(batch_.people, LayoutSet::A);
 }
 
-bool CardRun::oneRun() {
-    People people;
-    for (const Employee& employee : plan_.people)
-        people.push_back(&employee);
-    return send(people, LayoutSet::A);
-}
-
-bool CardRun::oneAtATime() {
+bool CardRun::printOneAtATime() {
     bool first = true;
-    for (const Employee& employee : plan_.people) {
+    for (const Employee& employee : batch_.people) {
         if (!first && at_.person.agrees(kCancelOthers)) return false;
-        if (!confirms(employee) || !send({&employee}, LayoutSet::B)) return false;
+        if (!confirmCard(employee) || !printJob({employee}, LayoutSet::B)) return false;
         first = false;
     }
     return true;
 }
 
-bool CardRun::confirms(const Employee& employee) {
+bool CardRun::confirmCard(const Employee& employee) {
     const Message question = confirmCardOf(employee);
     Answer answer = at_.person.ask(question);
     while (answer == Answer::No)
@@ -70,109 +51,58 @@ bool CardRun::confirms(const Employee& employee) {
     return answer == Answer::Yes;
 }
 
-bool CardRun::send(const People& people, LayoutSet set) {
-    switch (plan_.choices.output) {
-        case ReportOutput::Preview:
-            return preview(people, set);
-        case ReportOutput::Printer:
-            return toPrinter(people, set);
-        case ReportOutput::PdfFile:
-            break;
+bool CardRun::printJob(const People& people, LayoutSet set) {
+    ReportRequest request = requestFor(set);
+    if (request.output == ReportOutput::PdfFile) {
+        if (batch_.choices.pdfFiles == PdfFiles::OneForEach) return savePdfOfEach(people, set);
+        if (run_.choosePdf) request.pdfPath = run_.choosePdf(pdfNameFor(people));
+        if (request.pdfPath.empty()) return false;
+    } else {
+        request.pdfPath = pdfNameFor(people);
     }
-    return plan_.choices.pdfFiles == PdfFiles::OneForAll ? toOnePdf(people, set)
-                                                         : toPdfOfEach(people, set);
-}
-
-bool CardRun::preview(const People& people, LayoutSet set) {
-    ReportRequest request = requestFor(set, ReportOutput::Preview);
-    request.pdfPath = pdfNameFor(people);
-    if (twoSided_)
-        request.printPreviewed = [&](const CardProgress& progress) {
-            cardsDone_ = 0;
-            const auto ofTheRun =
-                std::exchange(run_.progress, [&progress](int done, int) { return progress(done); });
-            const bool printed =
-                attempt(at_, printFailed(), [&] { return toPrinter(people, set); });
-            run_.progress = ofTheRun;
-            return printed ? ReportResult::Done : ReportResult::Cancelled;
-        };
-    return job(request, people);
-}
-
-bool CardRun::toPrinter(const People& people, LayoutSet set) {
-    ReportRequest request = requestFor(set, ReportOutput::Printer);
-    if (!twoSided_) return job(request, people);
-    request.side = CardSide::First;
-    if (!job(request, inPrintOrder(people, CardSide::First))) return false;
-    if (!turnsTheStack(people.size())) return false;
-    request.side = CardSide::Second;
-    return job(request, inPrintOrder(people, CardSide::Second));
-}
-
-bool CardRun::turnsTheStack(std::size_t cards) {
-    const Message question = printSecondSide(plan_.choices.printer.output, cards);
-    while (!at_.person.agrees(question))
-        if (at_.person.agrees(kLeaveSecondSide)) return false;
-    return true;
-}
-
-bool CardRun::toOnePdf(const People& people, LayoutSet set) {
-    ReportRequest request = requestFor(set, ReportOutput::PdfFile);
-    if (run_.choosePdf) request.pdfPath = run_.choosePdf(pdfNameFor(people));
-    return !request.pdfPath.empty() && job(request, people);
+    return send(request, people, run_.progress);
 }
 
 std::string CardRun::pdfNameFor(const People& people) const {
-    return people.size() == 1 ? pdfNameOf(*people.front(), plan_.month)
-                              : pdfNameOf(plan_.companyName, plan_.month);
+    return people.size() == 1 ? pdfNameOf(people.front(), batch_.month)
+                              : pdfNameOf(batch_.companyName, batch_.month);
 }
 
-bool CardRun::toPdfOfEach(const People& people, LayoutSet set) {
-    ReportRequest request = requestFor(set, ReportOutput::PdfFile);
-    return std::ranges::all_of(people, [&](const Employee* employee) {
-        request.pdfPath = pdfFolder_ + "/" + pdfNameOf(*employee, plan_.month);
-        return job(request, {employee});
+bool CardRun::savePdfOfEach(const People& people, LayoutSet set) {
+    ReportRequest request = requestFor(set);
+    int saved = 0;
+    const PageProgress progress = [&](int, int) {
+        return !run_.progress || run_.progress(++saved, static_cast<int>(people.size()));
+    };
+    return std::ranges::all_of(people, [&](const Employee& employee) {
+        request.pdfPath = pdfFolder_ + "/" + pdfNameOf(employee, batch_.month);
+        return send(request, {employee}, progress);
     });
 }
 
-bool CardRun::choosesFolder() {
+bool CardRun::choosePdfFolder() {
     if (run_.choosePdfFolder) pdfFolder_ = run_.choosePdfFolder();
-    return !pdfFolder_.empty() && mayReplaceFiles();
+    return !pdfFolder_.empty() && confirmReplacing();
 }
 
-bool CardRun::mayReplaceFiles() {
-    const bool any = std::ranges::any_of(plan_.people, [&](const Employee& employee) {
-        return at_.files.exists(pdfFolder_ + "/" + pdfNameOf(employee, plan_.month));
+bool CardRun::confirmReplacing() {
+    const bool any = std::ranges::any_of(batch_.people, [&](const Employee& employee) {
+        return at_.files.exists(pdfFolder_ + "/" + pdfNameOf(employee, batch_.month));
     });
     return !any || at_.person.agrees(kReplaceFiles);
 }
 
-ReportRequest CardRun::requestFor(LayoutSet set, ReportOutput output) const {
-    ReportRequest request = plan_.request;
-    request.layoutName = plan_.layoutOf(set);
-    request.output = output;
+ReportRequest CardRun::requestFor(LayoutSet set) const {
+    ReportRequest request = batch_.request;
+    request.layoutName = layoutFor(batch_.stockCode, batch_.choices.printer.tray, set).value();
+    request.output = batch_.choices.output;
     return request;
 }
 
-CardRun::People CardRun::inPrintOrder(const People& people, CardSide side) const {
-    People ordered;
-    for (const std::size_t at : printOrder(people.size(), side, plan_.choices.printer.output))
-        ordered.push_back(people[at]);
-    return ordered;
-}
-
-bool CardRun::job(const ReportRequest& request, const People& people) {
-    std::size_t next = 0;
-    const CardSource cards = [&]() -> std::optional<std::vector<CardRow>> {
-        if (next == people.size()) return std::nullopt;
-        return plan_.rowsOf(*people[next++]);
-    };
-    const int before = cardsDone_;
-    const CardProgress progress = [&](int done) {
-        cardsDone_ = before + done;
-        return !run_.progress || run_.progress(cardsDone_, cardsInAll_);
-    };
-    return isPrinted(engine_.print(request, cards, progress), at_.person, engine_);
+bool CardRun::send(const ReportRequest& request, const People& people,
+                   const PageProgress& progress) {
+    ReportPages cards(people.size(), [&](std::size_t at) { return batch_.rowsOf(people[at]); });
+    return printPages({at_, engine_, progress}, request, cards) == PrintEnd::Done;
 }
 
 }  // namespace winvrx

@@ -3,7 +3,7 @@
 #include "foundation/register/company_register.h"
 #include "foundation/register/employee_register.h"
 #include "foundation/values/text.h"
-#include "report/print_result.h"
+#include "report/print_pages.h"
 #include "timecard/month/overtime_record.h"
 #include "timecard/month/selected_month.h"
 
@@ -35,8 +35,8 @@ Company requireCompany(const Store& store, const CompanyCode& code) {
 
 }  // namespace
 
-Cartao::Cartao(const Workplace& at, const CartaoServices& services)
-    : at_(at), services_(services), filter_(at.session.shiftFilter) {}
+Cartao::Cartao(const Workplace& at, const CartaoDesk& desk)
+    : at_(at), desk_(desk), filter_(at.session.shiftFilter) {}
 
 void Cartao::load() {
     (void)attempt(at_, incorrectData(), [this] {
@@ -95,18 +95,18 @@ std::string Cartao::headerPreview(std::optional<std::size_t> position) const {
 bool Cartao::printOne(std::optional<std::size_t> position, const PrintRun& run) {
     if (!at_.person.agrees(kConfirmOne)) return false;
     const bool selected = position && *position < employees_.size();
-    return isReady(selected) && print({employees_[*position]}, run);
+    return requireChoices(selected) && print({employees_[*position]}, run);
 }
 
 bool Cartao::printAll(const PrintRun& run) {
-    return isReady(!employees_.empty()) && print(employees_, run);
+    return requireChoices(!employees_.empty()) && print(employees_, run);
 }
 
 void Cartao::help() {
-    openHelp(at_, services_.browser);
+    openHelp(at_, desk_.browser);
 }
 
-bool Cartao::isReady(bool anyEmployee) {
+bool Cartao::requireChoices(bool anyEmployee) {
     const Message* refusal = nullptr;
     if (!stock_ || !layoutFor(stock_->code, choices_.printer.tray, LayoutSet::A))
         refusal = &kNoStock;
@@ -118,7 +118,7 @@ bool Cartao::isReady(bool anyEmployee) {
     return !refusal;
 }
 
-bool Cartao::drivePrints() {
+bool Cartao::requirePrintingDrive() {
     const char letter = at_.session.folder.driveLetter();
     if (upperCase(std::string(1, letter)) == kPrintingDrive) return true;
     at_.person.tell(kWrongDrive);
@@ -126,32 +126,30 @@ bool Cartao::drivePrints() {
 }
 
 bool Cartao::print(const std::vector<Employee>& people, const PrintRun& run) {
-    if (!drivePrints()) return false;
+    if (!requirePrintingDrive()) return false;
     (void)remember();
     return attempt(at_, printFailed(),
-                   [&] { return CardRun(at_, services_.engine, planFor(people), run).print(); });
+                   [&] { return CardRun(at_, desk_.engine, batchOf(people), run).print(); });
 }
 
-CardRunPlan Cartao::planFor(const std::vector<Employee>& people) const {
-    const std::string entry = printerEntry(1, printer_);
-    const PrintScaleKey key{printer_.empty() ? services_.printers.defaultName() : printer_,
+CardBatch Cartao::batchOf(const std::vector<Employee>& people) const {
+    const PrintScaleKey key{printer_.empty() ? desk_.printers.defaultName() : printer_,
                             std::string(stock_->code)};
     const ReportRequest request{.layoutName = {},
                                 .title = std::string(kCartaoTitle),
+                                .columns = cardColumns(),
                                 .printHeader = choices_.printer.printHeader,
-                                .alignment = loadAlignment(at_.store(), key, services_.alignment),
-                                .output = choices_.output,
-                                .printerName = printerOfEntry(entry),
+                                .alignment = loadAlignment(at_.store(), key, desk_.alignment),
+                                .exit = choices_.printer.exit,
+                                .noun = cardNoun(),
+                                .printerName = printerOfEntry(printerEntry(1, printer_)),
                                 .trays = choices_.printer.trays};
     return {.people = people,
             .companyName = company_.name,
             .month = *month_,
+            .stockCode = std::string(stock_->code),
             .choices = choices_,
             .request = request,
-            .layoutOf =
-                [this](LayoutSet set) {
-                    return layoutFor(stock_->code, choices_.printer.tray, set).value();
-                },
             .rowsOf = [this](const Employee& employee) { return cardRows(cardOf(employee)); }};
 }
 

@@ -3,9 +3,9 @@
 #include "foundation/desk/browser.h"
 #include "foundation/desk/command.h"
 #include "foundation/register/company.h"
-#include "output/cards/card_rows.h"
 #include "output/cards/card_run.h"
-#include "report/print_scale.h"
+#include "output/stocks/card_alignment.h"
+#include "output/stocks/card_rows.h"
 #include "report/printers.h"
 
 #include <optional>
@@ -18,7 +18,7 @@ namespace winvrx {
 inline constexpr std::string_view kCartaoTitle = "CARTÃO PONTO";
 
 /// What the printing screen works with beside the desk. All outlive the screen.
-struct CartaoServices {
+struct CartaoDesk {
     Browser& browser;
     ReportEngine& engine;
     const Printers& printers;
@@ -32,7 +32,7 @@ struct CartaoServices {
 /// printed stay printed.
 class Cartao {
   public:
-    Cartao(const Workplace& at, const CartaoServices& services);
+    Cartao(const Workplace& at, const CartaoDesk& desk);
 
     /// Reads company, employees, work month, stock, printer and what the screen remembers again.
     void load();
@@ -69,14 +69,14 @@ class Cartao {
 
   private:
     void readEmployees();
-    [[nodiscard]] bool isReady(bool anyEmployee);
-    [[nodiscard]] bool drivePrints();
+    [[nodiscard]] bool requireChoices(bool anyEmployee);
+    [[nodiscard]] bool requirePrintingDrive();
     [[nodiscard]] bool print(const std::vector<Employee>& people, const PrintRun& run);
-    [[nodiscard]] CardRunPlan planFor(const std::vector<Employee>& people) const;
+    [[nodiscard]] CardBatch batchOf(const std::vector<Employee>& people) const;
     [[nodiscard]] CardData cardOf(const Employee& employee) const;
 
     Workplace at_;
-    CartaoServices services_;
+    CartaoDesk desk_;
     PrintChoices choices_;
     PrinterMemory remembered_;
     ShiftFilter filter_;

@@ -2,7 +2,8 @@
 
 #include "foundation/register/company_register.h"
 #include "output/stocks/sample_card.h"
-#include "report/print_result.h"
+#include "report/calibration.h"
+#include "report/print_pages.h"
 
 #include <algorithm>
 #include <utility>
@@ -50,8 +51,8 @@ std::string lineOffsetText(int lines) {
     return std::to_string(lines) + (lines == 1 ? " Linha" : " Linhas");
 }
 
-CartaoPontos::CartaoPontos(const Workplace& at, const CartaoPontosServices& services)
-    : at_(at), services_(services) {}
+CartaoPontos::CartaoPontos(const Workplace& at, const CartaoPontosDesk& desk)
+    : at_(at), desk_(desk) {}
 
 void CartaoPontos::load() {
     (void)attempt(at_, incorrectData(), [this] {
@@ -91,7 +92,7 @@ const CardStock& CartaoPontos::stock() const {
 Alignment CartaoPontos::alignment() const {
     return {.horizontalTwips = offsets().horizontal,
             .verticalTwips = offsets().vertical,
-            .lines = services_.memory.lines,
+            .lines = desk_.memory.lines,
             .scale = scale_};
 }
 
@@ -110,23 +111,23 @@ bool CartaoPontos::reset() {
     return attemptWriting(at_, incorrectData(), [this] {
         removeOffsets(at_.store());
         alignments_.assign(kAlignmentEntries, Offsets());
-        services_.memory.lines = 0;
+        desk_.memory.lines = 0;
     });
 }
 
 std::string CartaoPontos::lineOffset() const {
-    return services_.memory.lines == 0 ? std::string() : lineOffsetText(services_.memory.lines);
+    return desk_.memory.lines == 0 ? std::string() : lineOffsetText(desk_.memory.lines);
 }
 
 void CartaoPontos::typeLineOffset(std::string_view text) {
-    int& lines = services_.memory.lines;
+    int& lines = desk_.memory.lines;
     lines = kGreatestLineOffset;
     while (lines > 1 && lineOffsetText(lines) != text)
         --lines;
 }
 
 std::string CartaoPontos::printer() const {
-    return printer_.empty() ? services_.printers.defaultName() : printer_;
+    return printer_.empty() ? desk_.printers.defaultName() : printer_;
 }
 
 PrintScaleKey CartaoPontos::scaleKey() const {
@@ -172,51 +173,48 @@ bool CartaoPontos::typeDistances(const std::array<std::string, 4>& distances) {
     return false;
 }
 
-bool CartaoPontos::mayDiscardTyped() {
+bool CartaoPontos::confirmDiscarding() {
     return at_.person.agrees(discardTyped());
 }
 
 bool CartaoPontos::printTest() {
     if (!at_.person.agrees(confirmTest(stock()))) return false;
-    ReportRequest request{.layoutName = layoutName(), .title = "Imprimir Teste"};
-    request.printHeader = feed_.printHeader;
-    request.alignment = alignment();
-    request.side = CardSide::First;
-    return print(std::move(request), sampleRows());
+    return print({.layoutName = layoutName(),
+                  .title = "Imprimir Teste",
+                  .columns = cardColumns(),
+                  .printHeader = feed_.printHeader,
+                  .alignment = alignment(),
+                  .exit = feed_.exit,
+                  .noun = cardNoun()},
+                 sampleRows());
 }
 
 bool CartaoPontos::printCalibrationSheet() {
     if (!at_.person.agrees(kConfirmCalibration)) return false;
-    CardRow row;
-    row[cardColumn("nome")] = printer();
-    return print(
-        {.layoutName = std::string(kCalibrationLayout), .title = "Imprimir Folha de Calibração"},
-        {row});
+    return print({.layoutName = std::string(kCalibrationLayout),
+                  .title = "Imprimir Folha de Calibração",
+                  .columns = {std::string(kCalibrationColumn)}},
+                 {{printer()}});
 }
 
-bool CartaoPontos::print(ReportRequest request, std::vector<CardRow> rows) {
+bool CartaoPontos::print(ReportRequest request, const ReportRows& rows) {
     request.output = ReportOutput::Printer;
     request.printerName = printerOfEntry(printerEntry(1, printer_));
     request.trays = feed_.trays;
-    return attempt(at_, printFailed(), [&] {
-        std::optional card = std::move(rows);
-        const auto cards = [&card] { return std::exchange(card, std::nullopt); };
-        const ReportResult result =
-            services_.engine.print(request, cards, [](int) { return true; });
-        return isPrinted(result, at_.person, services_.engine);
-    });
+    ReportPages one(1, [&rows](std::size_t) { return rows; });
+    return printPages({at_, desk_.engine}, request, one) == PrintEnd::Done;
 }
 
 std::string CartaoPontos::layoutName() const {
     return layoutFor(stock().code, feed_.tray, LayoutSet::B).value();
 }
 
-std::vector<CardRow> CartaoPontos::sampleRows() const {
+ReportRows CartaoPontos::sampleRows() const {
     return sampleCardRows(company_, monthOf(at_.clock.today()));
 }
 
 void CartaoPontos::help() {
-    openHelp(at_, services_.browser);
+    openHelp(at_, desk_.browser);
 }
 
 }  // namespace winvrx

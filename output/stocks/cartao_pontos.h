@@ -3,9 +3,9 @@
 #include "foundation/desk/browser.h"
 #include "foundation/desk/command.h"
 #include "foundation/register/company.h"
+#include "output/stocks/card_alignment.h"
 #include "output/stocks/printer_memory.h"
 #include "report/calibration.h"
-#include "report/print_scale.h"
 #include "report/printers.h"
 
 #include <array>
@@ -27,7 +27,7 @@ enum class Direction { Left, Right, Up, Down };
 [[nodiscard]] std::string lineOffsetText(int lines);
 
 /// What the alignment screen works with beside the desk. All outlive the screen.
-struct CartaoPontosServices {
+struct CartaoPontosDesk {
     Browser& browser;
     ReportEngine& engine;
     const Printers& printers;
@@ -40,7 +40,7 @@ struct CartaoPontosServices {
 /// A command that is refused or fails leaves files and figures as they were.
 class CartaoPontos {
   public:
-    CartaoPontos(const Workplace& at, const CartaoPontosServices& services);
+    CartaoPontos(const Workplace& at, const CartaoPontosDesk& desk);
 
     /// Reads everything again and selects the stock in use, or else the first of the list.
     void load();
@@ -76,7 +76,7 @@ class CartaoPontos {
     /// order of kMeasuredDistances, and records it. False when told why not.
     bool typeDistances(const std::array<std::string, 4>& distances);
     /// Asks before typed but unrecorded figures are left behind. True when they may go.
-    [[nodiscard]] bool mayDiscardTyped();
+    [[nodiscard]] bool confirmDiscarding();
 
     /// "Imprimir Teste". True when the card was printed.
     bool printTest();
@@ -84,7 +84,7 @@ class CartaoPontos {
 
     /// The layout of the selected stock, and the card that the sample on the screen shows.
     [[nodiscard]] std::string layoutName() const;
-    [[nodiscard]] std::vector<CardRow> sampleRows() const;
+    [[nodiscard]] ReportRows sampleRows() const;
     /// False where the printing screen leaves the header block to the stock.
     [[nodiscard]] bool printsHeader() const { return feed_.printHeader; }
 
@@ -94,10 +94,10 @@ class CartaoPontos {
     void readSelected();
     [[nodiscard]] bool saveScale(const PrintScale& scale);
     [[nodiscard]] PrintScaleKey scaleKey() const;
-    [[nodiscard]] bool print(ReportRequest request, std::vector<CardRow> rows);
+    [[nodiscard]] bool print(ReportRequest request, const ReportRows& rows);
 
     Workplace at_;
-    CartaoPontosServices services_;
+    CartaoPontosDesk desk_;
     std::size_t entry_ = 0;
     std::vector<Offsets> alignments_ = std::vector<Offsets>(kAlignmentEntries);
     PrintScale scale_;

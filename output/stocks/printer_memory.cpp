@@ -33,7 +33,7 @@ void put(std::string& line, const Value& before, const Value& now, std::string_v
 
 PrinterMemory decode(const std::vector<std::string>& kind, const std::vector<std::string>& feed) {
     PrinterMemory memory;
-    if (valueAt(kind, 0) == kFaceUp) memory.output = CardOutput::FaceUp;
+    if (valueAt(kind, 0) == kFaceUp) memory.exit = SheetExit::FaceUp;
     if (valueAt(feed, kTrayLine) == kLateral) memory.tray = TrayPosition::Lateral;
     for (std::size_t i = 0; i < memory.trays.size(); ++i)
         memory.trays[i] = firstCharacters(valueAt(feed, kFirstTrayName + i), kTrayWidth);
@@ -58,8 +58,7 @@ void savePrinterMemory(const Store& store, const CompanyCode& company,
     if (kind.empty()) kind.emplace_back(kFaceDown);
     if (feed.empty()) feed = {std::string(kCentral), "", "", "", std::string(kWithHeader)};
     if (feed.size() < kFeedLines) feed.resize(kFeedLines);
-    put(kind[0], before.output, memory.output,
-        memory.output == CardOutput::FaceUp ? kFaceUp : kFaceDown);
+    put(kind[0], before.exit, memory.exit, memory.exit == SheetExit::FaceUp ? kFaceUp : kFaceDown);
     put(feed[kTrayLine], before.tray, memory.tray,
         memory.tray == TrayPosition::Lateral ? kLateral : kCentral);
     for (std::size_t i = 0; i < memory.trays.size(); ++i)

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/desk/session.h"
-#include "output/cards/card_sides.h"
 #include "output/stocks/card_stock.h"
+#include "report/report_engine.h"
 
 #include <array>
 #include <string>
@@ -18,7 +18,7 @@ namespace winvrx {
 inline constexpr std::size_t kTrayWidth = 30;
 
 struct PrinterMemory {
-    CardOutput output = CardOutput::FaceDown;
+    SheetExit exit = SheetExit::FaceDown;
     TrayPosition tray = TrayPosition::Central;
     std::array<std::string, 3> trays = {};
     bool printHeader = true;

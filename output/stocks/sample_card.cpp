@@ -24,7 +24,7 @@ std::vector<PunchLine> samplePunches(WorkMonth month) {
 
 }  // namespace
 
-std::vector<CardRow> sampleCardRows(const Company& company, WorkMonth month) {
+ReportRows sampleCardRows(const Company& company, WorkMonth month) {
     Employee employee;
     employee.code = "000";
     employee.name = "CARTÃO DE TESTE";

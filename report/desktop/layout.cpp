@@ -1,21 +1,12 @@
 #include "report/desktop/layout.h"
 
-#include "report/desktop/layout_reader.h"
-
-#include <QFile>
+#include "foundation/values/desktop/qt_text.h"
 
 #include <algorithm>
 
 namespace winvrx {
 
 namespace {
-
-std::string listed(const std::vector<std::filesystem::path>& folders) {
-    std::string text;
-    for (const auto& folder : folders)
-        text += (text.empty() ? "" : ", ") + folder.string();
-    return text;
-}
 
 void collect(const LayoutText& text, std::vector<std::size_t>& columns) {
     for (const LayoutText::Piece& piece : text.pieces)
@@ -34,6 +25,14 @@ bool isOfFirstRow(const LayoutSection& section) {
 }
 
 }  // namespace
+
+PageText pageText(const ReportRows& rows) {
+    PageText text(rows.size());
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        for (const std::string& value : rows[i])
+            text[i].push_back(toQt(value));
+    return text;
+}
 
 QRectF cardArea(const Layout& layout) {
     QRectF area;
@@ -61,26 +60,5 @@ LayoutFault::LayoutFault(const std::string& file, const std::string& cause)
 LayoutFault::LayoutFault(const std::string& file, long long line, const std::string& cause)
     : Fault(file + ":" + std::to_string(line) + ": " + cause,
             "O layout " + file + " tem um erro na linha " + std::to_string(line) + ".") {}
-
-std::optional<std::filesystem::path> findLayout(const std::vector<std::filesystem::path>& folders,
-                                                const std::string& name) {
-    for (const auto& folder : folders) {
-        std::error_code error;
-        const auto file = folder / name;
-        if (std::filesystem::is_regular_file(file, error)) return file;
-    }
-    return std::nullopt;
-}
-
-Layout loadLayout(const std::vector<std::filesystem::path>& folders, const std::string& name) {
-    if (name.empty() || std::filesystem::path(name).filename() != name)
-        throw LayoutFault(name, "not the name of a layout file");
-    const auto path = findLayout(folders, name);
-    if (!path) throw LayoutFault(name, "not found in " + listed(folders));
-    QFile file(*path);
-    if (!file.open(QIODevice::ReadOnly))
-        throw LayoutFault(path->string(), file.errorString().toStdString());
-    return readLayout(file, path->string());
-}
 
 }  // namespace winvrx

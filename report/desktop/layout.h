@@ -22,6 +22,12 @@
 
 namespace winvrx {
 
+/// The rows of a page as they are drawn.
+using PageRow = std::vector<QString>;
+using PageText = std::vector<PageRow>;
+
+[[nodiscard]] PageText pageText(const ReportRows& rows);
+
 inline constexpr double kLayoutUnitsPerMillimetre = 100.0;
 inline constexpr double kLayoutUnitsPerInch = 2540.0;
 inline constexpr double kTwipsPerInch = 1440.0;
@@ -40,7 +46,7 @@ struct Ink {
 struct LayoutText {
     enum class Anchor { Start, Middle, End };
 
-    /// A text as it stands, or a column of the card table.
+    /// A text as it stands, or a column of the table.
     struct Piece {
         QString literal;
         std::optional<std::size_t> column;
@@ -80,23 +86,24 @@ enum class LayoutBlock {
 struct LayoutSection {
     LayoutBlock block = LayoutBlock::Always;
     int side = 0;      ///< the face of the card, 1 or 2; 0: on each
-    int first = 0;     ///< the card's row that it begins with, from 0
-    int rows = 0;      ///< drawn once for each of the card's rows, at most so often; 0: drawn once
+    int first = 0;     ///< the page's row that it begins with, from 0
+    int rows = 0;      ///< drawn once for each of the page's rows, at most so often; 0: drawn once
     double pitch = 0;  ///< from one row down to the next
     std::vector<LayoutMark> marks;
 };
 
 /// The columns that a layout draws, each named once.
 struct DrawnColumns {
-    std::vector<std::size_t> once;    ///< of the card's first row
+    std::vector<std::size_t> once;    ///< of the page's first row
     std::vector<std::size_t> inRows;  ///< of every row
 };
 
 struct Layout {
-    QSizeF page;          ///< millimetres
-    double rowPitch = 0;  ///< what one line of the alignment's line offset moves
-    int sides = 1;        ///< faces of the card, each a page of its own
-    QString description;  ///< of the file's author: size and kind of the card
+    QSizeF page;              ///< millimetres
+    std::size_t columns = 0;  ///< of the table that it was read for
+    double rowPitch = 0;      ///< what one line of the alignment's line offset moves
+    int sides = 1;            ///< faces of the card, each a page of its own
+    QString description;      ///< of the file's author: size and kind of the card
     std::vector<Ink> inks;
     std::vector<LayoutSection> sections;
 };
@@ -113,13 +120,5 @@ class LayoutFault : public Fault {
     LayoutFault(const std::string& file, const std::string& cause);
     LayoutFault(const std::string& file, long long line, const std::string& cause);
 };
-
-/// The file of that name in the first of the folders that has it.
-[[nodiscard]] std::optional<std::filesystem::path> findLayout(
-    const std::vector<std::filesystem::path>& folders, const std::string& name);
-
-/// Reads the file that findLayout() gives. Throws LayoutFault.
-[[nodiscard]] Layout loadLayout(const std::vector<std::filesystem::path>& folders,
-                                const std::string& name);
 
 }  // namespace winvrx

@@ -14,8 +14,6 @@ namespace {
 /// Letters narrower than this can no longer be read; the text is cut instead.
 constexpr double kNarrowest = 0.6;
 
-const CardTextRow kNoRow;
-
 QTransform transformOf(const Alignment& alignment, double rowPitch) {
     constexpr double kUnitsPerTwip = kLayoutUnitsPerInch / kTwipsPerInch;
     constexpr double kWhole = PrintScale().horizontalScale;
@@ -27,13 +25,13 @@ QTransform transformOf(const Alignment& alignment, double rowPitch) {
                scale.verticalOffset + alignment.verticalTwips * kUnitsPerTwip);
 }
 
-void compose(const LayoutText& text, const CardTextRow& row, QString& into) {
+void compose(const LayoutText& text, const PageRow& row, QString& into) {
     into.clear();
     for (const LayoutText::Piece& piece : text.pieces)
         into += piece.column ? row[*piece.column] : piece.literal;
 }
 
-bool isLeftOut(const LayoutText& text, const CardTextRow& row) {
+bool isLeftOut(const LayoutText& text, const PageRow& row) {
     const auto isBlank = [&](std::size_t column) { return row[column].isEmpty(); };
     return !std::ranges::all_of(text.unless, isBlank) ||
            (!text.when.empty() && std::ranges::all_of(text.when, isBlank));
@@ -63,14 +61,15 @@ LayoutPainter::LayoutPainter(Layout layout, const Choice& choice)
     : layout_(std::move(layout)),
       choice_(choice),
       onPaper_(transformOf(choice.alignment, layout_.rowPitch)),
-      runs_(layout_.inks.size()) {
+      runs_(layout_.inks.size()),
+      blank_(layout_.columns) {
     for (const Ink& ink : layout_.inks)
         fonts_.push_back(std::make_unique<GlyphFont>(ink));
 }
 
 LayoutPainter::~LayoutPainter() = default;
 
-void LayoutPainter::paint(QPainter& painter, const CardText& rows, int side) {
+void LayoutPainter::paint(QPainter& painter, const PageText& rows, int side) {
     if (choice_.stock) paintSections(painter, true, rows, side);
     const QTransform paper = painter.worldTransform();
     painter.setWorldTransform(onPaper_, true);
@@ -78,7 +77,7 @@ void LayoutPainter::paint(QPainter& painter, const CardText& rows, int side) {
     painter.setWorldTransform(paper);
 }
 
-void LayoutPainter::paintSections(QPainter& painter, bool stock, const CardText& rows, int side) {
+void LayoutPainter::paintSections(QPainter& painter, bool stock, const PageText& rows, int side) {
     for (const LayoutSection& section : layout_.sections) {
         if (section.side != 0 && section.side != side) continue;
         if (section.block == LayoutBlock::Header && !choice_.header) continue;
@@ -88,20 +87,20 @@ void LayoutPainter::paintSections(QPainter& painter, bool stock, const CardText&
 }
 
 void LayoutPainter::paintSection(QPainter& painter, const LayoutSection& section,
-                                 const CardText& rows) {
+                                 const PageText& rows) {
     const bool isStock = section.block == LayoutBlock::Stock;
     const int present = isStock ? section.rows : static_cast<int>(rows.size()) - section.first;
     const int count = section.rows == 0 ? 1 : std::min(section.rows, present);
     for (int i = 0; i < count; ++i) {
         const auto position = static_cast<std::size_t>(section.first + i);
-        const CardTextRow& row = position < rows.size() ? rows[position] : kNoRow;
+        const PageRow& row = position < rows.size() ? rows[position] : blank_;
         const QPointF shift = QPointF(0, i * section.pitch);
         for (const LayoutMark& mark : section.marks)
             paintMark(painter, mark, row, shift);
     }
 }
 
-void LayoutPainter::paintMark(QPainter& painter, const LayoutMark& mark, const CardTextRow& row,
+void LayoutPainter::paintMark(QPainter& painter, const LayoutMark& mark, const PageRow& row,
                               QPointF shift) {
     if (const auto* text = std::get_if<LayoutText>(&mark)) {
         write(painter, *text, row, shift);
@@ -118,7 +117,7 @@ void LayoutPainter::paintMark(QPainter& painter, const LayoutMark& mark, const C
     }
 }
 
-void LayoutPainter::write(QPainter& painter, const LayoutText& text, const CardTextRow& row,
+void LayoutPainter::write(QPainter& painter, const LayoutText& text, const PageRow& row,
                           QPointF shift) {
     if (!layout_.inks[text.ink].colour.isValid() || isLeftOut(text, row)) return;
     compose(text, row, written_);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "report/desktop/card_text.h"
 #include "report/desktop/glyph_font.h"
 #include "report/desktop/layout.h"
 
@@ -13,7 +12,7 @@ class QPainter;
 
 namespace winvrx {
 
-/// Paints a card: the one paint function of preview window, printer and PDF. Text stays text.
+/// Paints a page: the one paint function of preview window, printer and PDF. Text stays text.
 class LayoutPainter {
   public:
     struct Choice {
@@ -30,9 +29,9 @@ class LayoutPainter {
     [[nodiscard]] const Layout& layout() const { return layout_; }
 
     /// Requires a painter with the paper's top left corner as origin and the layout's units; see
-    /// layoutScale(). Rows beyond those that the layout repeats are not drawn; a card without rows
-    /// shows what does not depend on them. `side` is a face of the card, from 1 on.
-    void paint(QPainter& painter, const CardText& rows, int side = 1);
+    /// layoutScale(). Rows beyond those that the layout repeats are not drawn; a page without rows
+    /// shows what does not depend on them. `side` is a side of the paper, from 1 on.
+    void paint(QPainter& painter, const PageText& rows, int side = 1);
 
   private:
     struct Run {
@@ -40,11 +39,10 @@ class LayoutPainter {
         std::vector<QPointF> positions;
     };
 
-    void paintSections(QPainter& painter, bool stock, const CardText& rows, int side);
-    void paintSection(QPainter& painter, const LayoutSection& section, const CardText& rows);
-    void paintMark(QPainter& painter, const LayoutMark& mark, const CardTextRow& row,
-                   QPointF shift);
-    void write(QPainter& painter, const LayoutText& text, const CardTextRow& row, QPointF shift);
+    void paintSections(QPainter& painter, bool stock, const PageText& rows, int side);
+    void paintSection(QPainter& painter, const LayoutSection& section, const PageText& rows);
+    void paintMark(QPainter& painter, const LayoutMark& mark, const PageRow& row, QPointF shift);
+    void write(QPainter& painter, const LayoutText& text, const PageRow& row, QPointF shift);
     void writeGlyphs(std::size_t ink, const QString& text, QPointF start);
     void writeTransformed(QPainter& painter, std::size_t ink, const QString& text, QPointF start,
                           double squeeze);
@@ -55,6 +53,7 @@ class LayoutPainter {
     QTransform onPaper_;  ///< from the layout to the paper that the printer needs
     std::vector<std::unique_ptr<GlyphFont>> fonts_;  ///< one for each ink
     std::vector<Run> runs_;                          ///< the same
+    PageRow blank_;  ///< stands for a row that the page does not have
     QString written_;
 };
 

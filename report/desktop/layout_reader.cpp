@@ -2,6 +2,7 @@
 
 #include "report/desktop/layout_values.h"
 
+#include <QFile>
 #include <QXmlStreamReader>
 
 #include <algorithm>
@@ -47,7 +48,10 @@ struct Context {
 
 class LayoutReader {
   public:
-    LayoutReader(QIODevice& file, const std::string& name) : xml_(&file), name_(name) {}
+    LayoutReader(QIODevice& file, const std::string& name, const ColumnNames& columns)
+        : xml_(&file), name_(name), columns_(columns) {
+        layout_.columns = columns.size();
+    }
 
     Layout read() {
         try {
@@ -224,15 +228,15 @@ class LayoutReader {
         if (const auto width = values.number(QStringLiteral("data-width")))
             text.width = positive(*width, QStringLiteral("data-width")) * scale_;
         if (const auto unless = values.text(QStringLiteral("data-unless")))
-            text.unless = columnsNamed(*unless);
+            text.unless = columnsNamed(*unless, columns_);
         if (const auto when = values.text(QStringLiteral("data-when")))
-            text.when = columnsNamed(*when);
+            text.when = columnsNamed(*when, columns_);
         const auto field = values.text(QStringLiteral("data-field"));
         const auto pattern = values.text(QStringLiteral("data-template"));
         if (field && pattern)
             throw BadValue(QStringLiteral("data-field and data-template on one text"));
-        if (field) text.pieces.push_back({QString(), columnNamed(*field)});
-        if (pattern) text.pieces = templatePieces(*pattern);
+        if (field) text.pieces.push_back({QString(), columnNamed(*field, columns_)});
+        if (pattern) text.pieces = templatePieces(*pattern, columns_);
         const QString sample = readSample();
         if (!field && !pattern) text.pieces.push_back({sample, std::nullopt});
         add(std::move(text), context);
@@ -302,18 +306,48 @@ class LayoutReader {
 
     QXmlStreamReader xml_;
     const std::string& name_;
+    const ColumnNames& columns_;
     Layout layout_;
     double scale_ = 1;
     int depth_ = 0;
     std::size_t marks_ = 0;
 };
 
+std::string listed(const std::vector<std::filesystem::path>& folders) {
+    std::string text;
+    for (const auto& folder : folders)
+        text += (text.empty() ? "" : ", ") + folder.string();
+    return text;
+}
+
 }  // namespace
 
-Layout readLayout(QIODevice& file, const std::string& name) {
+Layout readLayout(QIODevice& file, const std::string& name, const ColumnNames& columns) {
     if (file.size() > kLargestLayout)
         throw LayoutFault(name, "larger than " + std::to_string(kLargestLayout >> 20) + " MB");
-    return LayoutReader(file, name).read();
+    return LayoutReader(file, name, columns).read();
+}
+
+std::optional<std::filesystem::path> findLayout(const std::vector<std::filesystem::path>& folders,
+                                                const std::string& name) {
+    for (const auto& folder : folders) {
+        std::error_code error;
+        const auto file = folder / name;
+        if (std::filesystem::is_regular_file(file, error)) return file;
+    }
+    return std::nullopt;
+}
+
+Layout loadLayout(const std::vector<std::filesystem::path>& folders, const std::string& name,
+                  const ColumnNames& columns) {
+    if (name.empty() || std::filesystem::path(name).filename() != name)
+        throw LayoutFault(name, "not the name of a layout file");
+    const auto path = findLayout(folders, name);
+    if (!path) throw LayoutFault(name, "not found in " + listed(folders));
+    QFile file(*path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw LayoutFault(path->string(), file.errorString().toStdString());
+    return readLayout(file, path->string(), columns);
 }
 
 }  // namespace winvrx

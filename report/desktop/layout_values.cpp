@@ -115,22 +115,23 @@ std::vector<double> numberList(const QString& text) {
     return numbers;
 }
 
-std::size_t columnNamed(const QString& name) {
-    const auto found = std::ranges::find(kCardColumns, name.toStdString());
-    if (found == kCardColumns.end())
-        throw BadValue(QStringLiteral("unknown field \"%1\"").arg(name));
-    return static_cast<std::size_t>(found - kCardColumns.begin());
+std::size_t columnNamed(const QString& name, const std::vector<std::string>& columns) {
+    const auto found = std::ranges::find(columns, name.toStdString());
+    if (found == columns.end()) throw BadValue(QStringLiteral("unknown field \"%1\"").arg(name));
+    return static_cast<std::size_t>(found - columns.begin());
 }
 
-std::vector<std::size_t> columnsNamed(const QString& names) {
-    std::vector<std::size_t> columns;
+std::vector<std::size_t> columnsNamed(const QString& names,
+                                      const std::vector<std::string>& columns) {
+    std::vector<std::size_t> positions;
     const QStringList parts = words(names);
     for (const QString& name : parts)
-        columns.push_back(columnNamed(name));
-    return columns;
+        positions.push_back(columnNamed(name, columns));
+    return positions;
 }
 
-std::vector<LayoutText::Piece> templatePieces(const QString& text) {
+std::vector<LayoutText::Piece> templatePieces(const QString& text,
+                                              const std::vector<std::string>& columns) {
     std::vector<LayoutText::Piece> pieces;
     qsizetype position = 0;
     while (position < text.size()) {
@@ -142,7 +143,7 @@ std::vector<LayoutText::Piece> templatePieces(const QString& text) {
         if (!isField && part.contains(u'}'))
             throw BadValue(QStringLiteral("\"}\" without \"{\" in \"%1\"").arg(text));
         if (isField)
-            pieces.push_back({QString(), columnNamed(part.sliced(1))});
+            pieces.push_back({QString(), columnNamed(part.sliced(1), columns)});
         else
             pieces.push_back({part, std::nullopt});
         position += part.size() + (isField ? 1 : 0);

@@ -7,6 +7,8 @@
 #include <QXmlStreamAttributes>
 
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 // The values that stand in the attributes of a layout file. Each function throws BadValue, whose
 // text says what is wrong; the reader adds file and line.
@@ -43,13 +45,15 @@ class ElementValues {
 /// Numbers separated by blanks or commas.
 [[nodiscard]] std::vector<double> numberList(const QString& text);
 
-/// The position in kCardColumns of a column's name.
-[[nodiscard]] std::size_t columnNamed(const QString& name);
+/// The position in `columns` of a column's name.
+[[nodiscard]] std::size_t columnNamed(const QString& name, const std::vector<std::string>& columns);
 /// Names separated by blanks or commas.
-[[nodiscard]] std::vector<std::size_t> columnsNamed(const QString& names);
+[[nodiscard]] std::vector<std::size_t> columnsNamed(const QString& names,
+                                                    const std::vector<std::string>& columns);
 
 /// "Cnpj: {cnpj} - Reg.: {registro}" cut into pieces.
-[[nodiscard]] std::vector<LayoutText::Piece> templatePieces(const QString& text);
+[[nodiscard]] std::vector<LayoutText::Piece> templatePieces(
+    const QString& text, const std::vector<std::string>& columns);
 
 [[nodiscard]] QStringList fontFamilies(const QString& text);
 [[nodiscard]] int fontWeight(const QString& text);

@@ -29,7 +29,7 @@ double PageView::scale() const {
     return layoutScale(logicalDpiX()) * zoom_;
 }
 
-void PageView::showCard(CardText rows, int side) {
+void PageView::showPage(PageText rows, int side) {
     rows_ = std::move(rows);
     side_ = side;
     update();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "report/desktop/card_text.h"
+#include "report/desktop/layout.h"
 
 #include <QWidget>
 
@@ -20,7 +20,7 @@ class PageView : public QWidget {
     /// From the layout's units to the view's dots.
     [[nodiscard]] double scale() const;
 
-    void showCard(CardText rows, int side);
+    void showPage(PageText rows, int side);
     /// 1 shows the sheet in its real size.
     void setZoom(double zoom);
     /// The zoom at which the whole sheet fits into `room`.
@@ -33,7 +33,7 @@ class PageView : public QWidget {
     [[nodiscard]] QSizeF realSize() const;
 
     LayoutPainter* painter_;
-    CardText rows_;
+    PageText rows_;
     int side_ = 1;
     double zoom_ = 1;
 };

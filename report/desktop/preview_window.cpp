@@ -2,8 +2,8 @@
 
 #include "foundation/values/faults.h"
 #include "foundation/widgets/desktop/look.h"
-#include "report/desktop/card_spool.h"
 #include "report/desktop/layout_painter.h"
+#include "report/desktop/page_spool.h"
 #include "report/desktop/page_view.h"
 #include "report/desktop/pdf_file_dialog.h"
 
@@ -28,10 +28,10 @@ constexpr QSize kUsualSize(1040, 660);
 
 }  // namespace
 
-PreviewWindow::PreviewWindow(const QString& title, LayoutPainter& painter, CardSpool& cards,
+PreviewWindow::PreviewWindow(const QString& title, LayoutPainter& painter, PageSpool& pages,
                              QWidget* parent)
     : ScreenWindow(QStringLiteral("preview"), title, parent),
-      cards_(cards),
+      pages_(pages),
       sides_(painter.layout().sides) {
     setBody(buildBody(painter));
     buildOutputCommands();
@@ -92,14 +92,14 @@ void PreviewWindow::buildZoomCommands() {
 }
 
 int PreviewWindow::pageCount() const {
-    return static_cast<int>(cards_.size()) * sides_;
+    return static_cast<int>(pages_.size()) * sides_;
 }
 
 /// "1 de 48"; of a card with two sides "1 de 48, frente".
 QString PreviewWindow::whichPage() const {
-    const QString card = QStringLiteral("%1 de %2").arg(page_ / sides_ + 1).arg(cards_.size());
-    if (sides_ == 1) return card;
-    return card + (page_ % sides_ == 0 ? QStringLiteral(", frente") : QStringLiteral(", verso"));
+    const QString page = QStringLiteral("%1 de %2").arg(page_ / sides_ + 1).arg(pages_.size());
+    if (sides_ == 1) return page;
+    return page + (page_ % sides_ == 0 ? QStringLiteral(", frente") : QStringLiteral(", verso"));
 }
 
 void PreviewWindow::showPage(int page) {
@@ -108,7 +108,8 @@ void PreviewWindow::showPage(int page) {
     previous_->setEnabled(page_ > 0);
     next_->setEnabled(page_ < count - 1);
     try {
-        view_->showCard(cards_.at(static_cast<std::size_t>(page_ / sides_)), 1 + page_ % sides_);
+        const auto rows = pages_.at(static_cast<std::size_t>(page_ / sides_));
+        view_->showPage(pageText(rows), 1 + page_ % sides_);
         setState(whichPage());
     } catch (const Fault& fault) {
         tell(QStringLiteral("⚠ ") + QString::fromStdString(fault.explanation()));

@@ -6,7 +6,7 @@ class QScrollArea;
 
 namespace winvrx {
 
-class CardSpool;
+class PageSpool;
 class LayoutPainter;
 class PageView;
 
@@ -15,8 +15,8 @@ class PreviewWindow : public ScreenWindow {
     Q_OBJECT
 
   public:
-    /// `cards` holds one card or more; it and `painter` outlive the window.
-    PreviewWindow(const QString& title, LayoutPainter& painter, CardSpool& cards, QWidget* parent);
+    /// `pages` holds one page or more; it and `painter` outlive the window.
+    PreviewWindow(const QString& title, LayoutPainter& painter, PageSpool& pages, QWidget* parent);
 
     /// The file name that "Salvar PDF" proposes.
     void proposePdf(const QString& name) { pdfName_ = name; }
@@ -49,7 +49,7 @@ class PreviewWindow : public ScreenWindow {
     void showZoom();
     void choosePdf();
 
-    CardSpool& cards_;
+    PageSpool& pages_;
     int sides_;
     PageView* view_;
     QScrollArea* scroll_;

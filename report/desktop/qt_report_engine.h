@@ -1,20 +1,19 @@
 #pragma once
 
-#include "report/desktop/card_text.h"
 #include "report/report_engine.h"
 
 #include <filesystem>
 #include <functional>
 #include <vector>
 
+class QString;
+
 namespace winvrx {
 
 class Browser;
-class CardSpool;
-class LayoutPainter;
 class Log;
+class PageSpool;
 class PreviewWindow;
-class ReportDevice;
 struct Layout;
 
 /// Where layouts are searched, first to last: a user's own in the data folder, then those shipped
@@ -26,42 +25,38 @@ struct Layout;
 /// QApplication and is used from its thread.
 class QtReportEngine final : public ReportEngine {
   public:
-    /// Asked at each run, since the operator may change the data folder.
-    struct Places {
-        std::function<std::vector<std::filesystem::path>()> layoutFolders;
-        std::function<std::filesystem::path()> database;
-    };
+    using Folders = std::function<std::vector<std::filesystem::path>()>;
+    using Database = std::function<std::filesystem::path()>;
 
-    /// `browser` shows the help page from the preview window.
-    QtReportEngine(Places places, Browser& browser, Log& log);
+    /// The folders of layouts and the path of the database are asked for at each run, since the
+    /// operator may change the data folder. `browser` shows the help page from the preview window.
+    QtReportEngine(Folders layoutFolders, Database database, Browser& browser, Log& log);
 
-    [[nodiscard]] ReportResult print(const ReportRequest& request, const CardSource& cards,
-                                     const CardProgress& progress) override;
-    [[nodiscard]] std::string explanation() const override { return explanation_; }
-    [[nodiscard]] int sidesOf(const std::string& layoutName) override;
+    [[nodiscard]] PrintEnd print(const ReportRequest& request, ReportPages& pages,
+                                 const PageProgress& progress) override;
+    [[nodiscard]] PrintEnd preview(const ReportRequest& request, ReportPages& pages,
+                                   const PageProgress& progress,
+                                   const PrintShown& printShown) override;
+    [[nodiscard]] int sidesOf(const ReportRequest& request) override;
 
   private:
-    using Pages = std::function<std::optional<CardText>()>;
+    /// Throws ReportFault where the engine is not installed, and LayoutFault.
+    [[nodiscard]] Layout layoutOf(const ReportRequest& request) const;
+    /// Fills the spool with the pages, each by way of the table.
+    [[nodiscard]] PrintEnd gather(const ReportRequest& request, const Layout& layout,
+                                  ReportPages& pages, const PageProgress& progress,
+                                  PageSpool& spool);
+    void connectCommands(PreviewWindow& window, const ReportRequest& request, PageSpool& spool,
+                         const PrintShown& printShown, PrintEnd& end);
+    [[nodiscard]] PrintEnd printFrom(PreviewWindow& window, const ReportRequest& request,
+                                     PageSpool& spool, const PrintShown& printShown);
+    void savePdf(PreviewWindow& window, ReportRequest request, PageSpool& spool,
+                 const QString& path);
 
-    [[nodiscard]] ReportResult attempt(const std::function<ReportResult()>& run);
-    [[nodiscard]] ReportResult run(const ReportRequest& request, const CardSource& cards,
-                                   const CardProgress& progress);
-    [[nodiscard]] ReportResult preview(const ReportRequest& request, const Layout& layout,
-                                       const Pages& pages, const CardProgress& progress);
-    [[nodiscard]] ReportResult printFrom(PreviewWindow& window, const ReportRequest& request,
-                                         const Layout& layout, CardSpool& spool);
-    void connectCommands(PreviewWindow& window, const ReportRequest& request, const Layout& layout,
-                         CardSpool& spool, ReportResult& result);
-    /// Prints or saves what is previewed, with progress once it takes a while.
-    [[nodiscard]] ReportResult deliver(PreviewWindow& window, const ReportRequest& request,
-                                       const Layout& layout, CardSpool& spool);
-    [[nodiscard]] ReportResult printSpool(const ReportRequest& request, const Layout& layout,
-                                          CardSpool& spool, const CardProgress& progress);
-
-    Places places_;
+    Folders layoutFolders_;
+    Database database_;
     Browser& browser_;
     Log& log_;
-    std::string explanation_;
 };
 
 }  // namespace winvrx

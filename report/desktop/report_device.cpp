@@ -67,6 +67,10 @@ class PdfDevice final : public ReportDevice {
     QPainter painter_;
 };
 
+ReportFault printerGone(const std::string& what, const std::string& explanation) {
+    return {ReportFault::Kind::PrinterGone, what, explanation};
+}
+
 QPrinterInfo printerOf(const std::string& name) {
     std::optional<std::string> found = name;
     if (!name.empty()) found = installedPrinter(SystemPrinters::installed(), name);
@@ -74,9 +78,9 @@ QPrinterInfo printerOf(const std::string& name) {
                               : found      ? QPrinterInfo::printerInfo(toQt(*found))
                                            : QPrinterInfo();
     if (info.isNull())
-        throw PrinterFault(name.empty() ? "no default printer" : "no printer of the name " + name,
-                           name.empty() ? "Nenhuma impressora padrão está definida."
-                                        : "A impressora " + name + " não foi encontrada.");
+        throw printerGone(name.empty() ? "no default printer" : "no printer of the name " + name,
+                          name.empty() ? "Nenhuma impressora padrão está definida."
+                                       : "A impressora " + name + " não foi encontrada.");
     return info;
 }
 
@@ -125,8 +129,8 @@ class PrinterDevice final : public ReportDevice {
   private:
     [[noreturn]] void fail(const std::string& cause) const {
         const std::string name = printer_.printerName().toStdString();
-        throw PrinterFault("printer " + name + " " + cause,
-                           "A impressora " + name + " não pôde ser usada.");
+        throw printerGone("printer " + name + " " + cause,
+                          "A impressora " + name + " não pôde ser usada.");
     }
 
     QPrinter printer_;
@@ -135,14 +139,12 @@ class PrinterDevice final : public ReportDevice {
 
 }  // namespace
 
-bool hasPrinters() {
-    return !SystemPrinters::installed().empty();
-}
-
 std::unique_ptr<ReportDevice> openDevice(const ReportRequest& request, QSizeF page) {
-    if (request.output == ReportOutput::Printer)
-        return std::make_unique<PrinterDevice>(request, page);
-    return std::make_unique<PdfDevice>(request.pdfPath, request.title, page);
+    if (request.output == ReportOutput::PdfFile)
+        return std::make_unique<PdfDevice>(request.pdfPath, request.title, page);
+    if (SystemPrinters::installed().empty())
+        throw ReportFault(ReportFault::Kind::NoPrinter, "no printer is installed", {});
+    return std::make_unique<PrinterDevice>(request, page);
 }
 
 }  // namespace winvrx

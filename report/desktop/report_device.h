@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/values/faults.h"
 #include "report/report_engine.h"
 
 #include <QSizeF>
@@ -11,16 +10,10 @@ class QPainter;
 
 namespace winvrx {
 
-/// A printer that is not there or does not answer.
-class PrinterFault : public Fault {
-  public:
-    using Fault::Fault;
-};
-
 /// Where the pages of a run go. All functions throw Fault.
 ///
 /// Destroyed before finish(), a PDF leaves no file behind, while a printer is sent the pages drawn
-/// so far: cards already printed stay printed.
+/// so far: pages already printed stay printed.
 class ReportDevice {
   public:
     virtual ~ReportDevice() = default;
@@ -31,10 +24,8 @@ class ReportDevice {
     virtual void finish() = 0;
 };
 
-/// False when no printer is installed.
-[[nodiscard]] bool hasPrinters();
-
 /// The device that the request asks for: Printer, or PdfFile at its path. `page` in millimetres.
+/// Throws ReportFault where no printer, or not this one, is installed.
 [[nodiscard]] std::unique_ptr<ReportDevice> openDevice(const ReportRequest& request, QSizeF page);
 
 }  // namespace winvrx

@@ -27,6 +27,17 @@ TEST(PrinterEntry, HoldsTheNameInCharacters5To34) {
     EXPECT_EQ(installedPrinter({"Epson"}, "Epso"), std::nullopt);
 }
 
+TEST(PrinterEntry, ChosenIsTheStoredNameOrTheDefaultOne) {
+    TestWorkplace desk;
+    EXPECT_EQ(loadPrinterName(desk.store()), "");
+    savePrinterName(desk.store(), "HP LaserJet Escritório");
+    EXPECT_EQ(desk.file("ConfigX"), "HP LaserJet Escrit\xF3rio\r\n");
+    EXPECT_EQ(loadPrinterName(desk.store()), "HP LaserJet Escritório");
+    savePrinterName(desk.store(), "");
+    EXPECT_EQ(desk.file("ConfigX"), "Padrao\r\n");
+    EXPECT_EQ(loadPrinterName(desk.store()), "");
+}
+
 struct Opened : ::testing::Test {
     Opened() { screen.load(); }
 

@@ -73,16 +73,6 @@ TEST(PrintScale, EachPrinterAndStockHasALineOfItsOwn) {
     EXPECT_EQ(loadPrintScale(desk.store(), longName), PrintScale());
 }
 
-TEST(PrintScale, AnAlignmentIsStockLinesAndPrinterTogether) {
-    TestWorkplace desk;
-    desk.file("EscalaImpressao") = kLine + "\r\n";
-    saveOffsets(desk.store(), *alignmentEntryOf("05"), {50, 90});
-    const Alignment both = loadAlignment(desk.store(), kRecord.key, {.lines = 3});
-    EXPECT_EQ(both, (Alignment{90, 50, 3, kRecord.scale}));
-    const Alignment other = loadAlignment(desk.store(), {"Epson", "01"}, {.lines = 0});
-    EXPECT_EQ(other, (Alignment{10, 10, 0, {}}));
-}
-
 /// Where a printer that errs by this scale and offset puts a mark, hundredths of a millimetre.
 int foundAt(int belongs, double scale, int offset) {
     return static_cast<int>(belongs * scale + offset + 0.5);

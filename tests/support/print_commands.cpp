@@ -39,7 +39,7 @@ bool rememberChoices(const Workplace& at, const Drives&) {
     const AlignmentMemory memory;
     Cartao screen(at, {browser, engine, printers, memory});
     screen.load();
-    screen.choices().printer.output = CardOutput::FaceUp;
+    screen.choices().printer.exit = SheetExit::FaceUp;
     screen.choices().printer.trays[0] = "Manual";
     return screen.employees().size() == 3 && screen.remember();
 }

@@ -16,8 +16,7 @@ class PrintedCard : public ::testing::Test {
 
     /// The words of one card printed with the desk's request.
     std::vector<PrintedWord> words() {
-        EXPECT_EQ(desk_.print(1), ReportResult::Done)
-            << ::testing::PrintToString(desk_.log.entries);
+        EXPECT_EQ(desk_.print(1), PrintEnd::Done) << ::testing::PrintToString(desk_.log.entries);
         return printedWords(desk_.pdf());
     }
 

@@ -3,7 +3,7 @@
 #include "foundation/register/company_register.h"
 #include "foundation/register/employee_register.h"
 #include "output/cards/cartao.h"
-#include "report/print_settings.h"
+#include "output/stocks/card_alignment.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "foundation/values/text.h"
+#include "output/stocks/card_rows.h"
 #include "report/desktop/qt_report_engine.h"
+#include "report/print_pages.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 
@@ -13,10 +15,10 @@
 
 namespace winvrx::testing {
 
-/// The card of an employee "EMPREGADO n": thirty-one days, Sundays free.
-inline std::vector<CardRow> sampleCard(int number) {
+/// The card of an employee, "EMPREGADO 1" at 0: thirty-one days, Sundays free.
+inline ReportRows sampleCard(std::size_t at) {
     constexpr std::array<const char*, 7> kWeek = {"dom", "seg", "ter", "qua", "qui", "sex", "sáb"};
-    std::vector<CardRow> rows;
+    ReportRows rows;
     for (int day = 1; day <= 31; ++day) {
         const bool rest = (day + 4) % 7 == 0;
         const auto time = [rest](const char* text) { return rest ? "" : text; };
@@ -30,7 +32,7 @@ inline std::vector<CardRow> sampleCard(int number) {
                         "domingo",
                         "Ent:08:00 Saí:12:00 Ent:13:00 Saí:17:00",
                         "12:00 às 13:00",
-                        "EMPREGADO " + std::to_string(number),
+                        "EMPREGADO " + std::to_string(at + 1),
                         "007",
                         "março/2024",
                         std::to_string(day),
@@ -55,17 +57,18 @@ struct ReportDesk {
     QTemporaryDir scratch;
     std::filesystem::path folder{scratch.path().toStdString()};
     std::filesystem::path database = folder / "qdb.mdb";
-    RecordedLog log;
+    TestWorkplace office;
+    RecordedLog& log = office.log;
     TestBrowser browser;
-    QtReportEngine engine{{[this] {
-                               return layoutFolders(
-                                   folder, QCoreApplication::applicationDirPath().toStdString());
-                           },
-                           [this] { return database; }},
-                          browser,
-                          log};
+    QtReportEngine engine{[this] {
+                              return layoutFolders(
+                                  folder, QCoreApplication::applicationDirPath().toStdString());
+                          },
+                          [this] { return database; }, browser, log};
     ReportRequest request{.layoutName = "tilibcenter.rpt",
                           .title = "CARTÃO PONTO",
+                          .columns = cardColumns(),
+                          .noun = cardNoun(),
                           .output = ReportOutput::PdfFile,
                           .pdfPath = (folder / "cards.pdf").string()};
 
@@ -79,14 +82,11 @@ struct ReportDesk {
             throw std::runtime_error("no layout " + name);
     }
 
-    [[nodiscard]] ReportResult print(int cards) {
-        int next = 0;
-        return engine.print(
-            request,
-            [&]() -> std::optional<std::vector<CardRow>> {
-                return next < cards ? std::optional(sampleCard(++next)) : std::nullopt;
-            },
-            [](int) { return true; });
+    [[nodiscard]] PrintEnd print(ReportPages pages, const PageProgress& progress = {}) {
+        return printPages({office.at, engine, progress}, request, pages);
+    }
+    [[nodiscard]] PrintEnd print(int cards) {
+        return print(ReportPages(static_cast<std::size_t>(cards), sampleCard));
     }
 };
 

@@ -39,10 +39,10 @@ QString listText(const Employee& employee) {
 
 }  // namespace
 
-CartaoWindow::CartaoWindow(Cartao& cartao, CartaoLinks links, QWidget* parent)
+CartaoWindow::CartaoWindow(Cartao& cartao, CartaoWindowDesk desk, QWidget* parent)
     : ScreenWindow(QStringLiteral("cartao"), toQt(kCartaoTitle), parent),
       cartao_(cartao),
-      links_(std::move(links)) {
+      desk_(std::move(desk)) {
     cartao_.load();
     buildCommands();
     setBody(buildBody());
@@ -62,13 +62,13 @@ void CartaoWindow::buildCommands() {
         const std::function<void(QWidget*)>& screen;
     };
     const Command commands[] = {{"stock", QStringLiteral("Tipo de Cartão"), Qt::CTRL | Qt::Key_T,
-                                 "stock", links_.openStocks},
+                                 "stock", desk_.openStocks},
                                 {"month", QStringLiteral("Mês Trabalho (Todos)"),
-                                 Qt::CTRL | Qt::Key_M, "month", links_.openWorkMonth},
+                                 Qt::CTRL | Qt::Key_M, "month", desk_.openWorkMonth},
                                 {"printer-settings", QStringLiteral("Selecionar Impressora"),
-                                 Qt::CTRL | Qt::Key_R, "printer", links_.openPrinters},
+                                 Qt::CTRL | Qt::Key_R, "printer", desk_.openPrinters},
                                 {"align", QStringLiteral("Ajuste de Impressão"),
-                                 Qt::CTRL | Qt::Key_J, "alignment", links_.openAlignment}};
+                                 Qt::CTRL | Qt::Key_J, "alignment", desk_.openAlignment}};
     for (const Command& one : commands) {
         QToolButton* button = addCommand(QLatin1String(one.icon), one.text, one.key,
                                          QStringLiteral("cartao.") + QLatin1String(one.name));

@@ -18,7 +18,7 @@ class Progress;
 class SearchBox;
 
 /// The screens that the printing screen opens. Each returns when its screen is closed.
-struct CartaoLinks {
+struct CartaoWindowDesk {
     std::function<void(QWidget* parent)> openStocks = {};
     std::function<void(QWidget* parent)> openWorkMonth = {};
     std::function<void(QWidget* parent)> openPrinters = {};
@@ -31,7 +31,7 @@ class CartaoWindow : public ScreenWindow {
 
   public:
     /// `cartao` outlives the window; it is read again when the window opens.
-    CartaoWindow(Cartao& cartao, CartaoLinks links, QWidget* parent = nullptr);
+    CartaoWindow(Cartao& cartao, CartaoWindowDesk desk, QWidget* parent = nullptr);
 
   protected:
     [[nodiscard]] bool mayClose() override;
@@ -57,7 +57,7 @@ class CartaoWindow : public ScreenWindow {
     [[nodiscard]] std::optional<std::size_t> selected() const;
 
     Cartao& cartao_;
-    CartaoLinks links_;
+    CartaoWindowDesk desk_;
     QComboBox* shift_ = nullptr;
     SearchBox* search_ = nullptr;
     QListWidget* list_ = nullptr;

@@ -30,7 +30,7 @@ PrintChoicesBox::PrintChoicesBox(const PrintChoices& choices, QWidget* parent)
       output_(buildOutput()),
       mode_(buildMode()),
       tray_(buildTray()),
-      cardOutput_(buildCardOutput()) {
+      sheetExit_(buildSheetExit()) {
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(look::kGroupGap);
@@ -38,7 +38,7 @@ PrintChoicesBox::PrintChoicesBox(const PrintChoices& choices, QWidget* parent)
     grid->addWidget(output_, 0, 0, Qt::AlignTop);
     grid->addWidget(mode_, 0, 1, Qt::AlignTop);
     grid->addWidget(tray_, 1, 0, Qt::AlignTop);
-    grid->addWidget(cardOutput_, 1, 1, Qt::AlignTop);
+    grid->addWidget(sheetExit_, 1, 1, Qt::AlignTop);
     grid->addWidget(buildHeaderChoice(), 2, 0, Qt::AlignTop);
     grid->addWidget(buildPrinterTrays(), 2, 1);
     grid->setColumnStretch(1, 1);
@@ -81,14 +81,14 @@ OptionGroup* PrintChoicesBox::buildTray() {
     return group;
 }
 
-OptionGroup* PrintChoicesBox::buildCardOutput() {
+OptionGroup* PrintChoicesBox::buildSheetExit() {
     auto* group = new OptionGroup(QStringLiteral("Cartões de dois lados saem com a face:"),
                                   QStringLiteral("cartao.cardOutput"), 2, this);
     group->setToolTip(QStringLiteral(
         "Define a ordem do segundo lado. Se a bandeja imprime a face de baixo, escolha a outra."));
-    group->addOption(idOf(CardOutput::FaceDown), QStringLiteral("Impressa para &baixo"),
+    group->addOption(idOf(SheetExit::FaceDown), QStringLiteral("Impressa para &baixo"),
                      QStringLiteral("faceDown"));
-    group->addOption(idOf(CardOutput::FaceUp), QStringLiteral("Impressa para cima"),
+    group->addOption(idOf(SheetExit::FaceUp), QStringLiteral("Impressa para cima"),
                      QStringLiteral("faceUp"));
     return group;
 }
@@ -130,14 +130,14 @@ void PrintChoicesBox::showChoices(const PrintChoices& choices) {
         choices.output == ReportOutput::PdfFile && choices.pdfFiles == PdfFiles::OneForEach;
     output_->choose(pdfForEach ? kPdfForEach : idOf(choices.output));
     tray_->choose(idOf(choices.printer.tray));
-    cardOutput_->choose(idOf(choices.printer.output));
+    sheetExit_->choose(idOf(choices.printer.exit));
     printHeader_->setChecked(choices.printer.printHeader);
     for (std::size_t at = 0; at < trays_.size(); ++at)
         trays_[at]->setText(toQt(choices.printer.trays[at]));
 }
 
 void PrintChoicesBox::connectAll() {
-    for (OptionGroup* group : {mode_, output_, tray_, cardOutput_})
+    for (OptionGroup* group : {mode_, output_, tray_, sheetExit_})
         connect(group, &OptionGroup::picked, this, &PrintChoicesBox::changed);
     connect(printHeader_, &QCheckBox::toggled, this, &PrintChoicesBox::changed);
     for (TextField* field : trays_)
@@ -150,7 +150,7 @@ PrintChoices PrintChoicesBox::choices() const {
     choices.output =
         pdfForEach ? ReportOutput::PdfFile : static_cast<ReportOutput>(output_->chosen());
     choices.pdfFiles = pdfForEach ? PdfFiles::OneForEach : PdfFiles::OneForAll;
-    choices.printer = {.output = static_cast<CardOutput>(cardOutput_->chosen()),
+    choices.printer = {.exit = static_cast<SheetExit>(sheetExit_->chosen()),
                        .tray = static_cast<TrayPosition>(tray_->chosen()),
                        .trays = {},
                        .printHeader = printHeader_->isChecked()};

@@ -30,7 +30,7 @@ class PrintChoicesBox : public QWidget {
     [[nodiscard]] OptionGroup* buildOutput();
     [[nodiscard]] OptionGroup* buildMode();
     [[nodiscard]] OptionGroup* buildTray();
-    [[nodiscard]] OptionGroup* buildCardOutput();
+    [[nodiscard]] OptionGroup* buildSheetExit();
     [[nodiscard]] QWidget* buildHeaderChoice();
     [[nodiscard]] QWidget* buildPrinterTrays();
     void showChoices(const PrintChoices& choices);
@@ -39,7 +39,7 @@ class PrintChoicesBox : public QWidget {
     OptionGroup* output_;
     OptionGroup* mode_;
     OptionGroup* tray_;
-    OptionGroup* cardOutput_;
+    OptionGroup* sheetExit_;
     QCheckBox* printHeader_ = nullptr;
     std::array<TextField*, 3> trays_{};
 };

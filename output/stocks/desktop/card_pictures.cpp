@@ -2,7 +2,9 @@
 
 #include "foundation/desk/log.h"
 #include "foundation/values/desktop/qt_text.h"
+#include "output/stocks/card_rows.h"
 #include "report/desktop/layout_painter.h"
+#include "report/desktop/layout_reader.h"
 
 #include <QPainter>
 #include <QPixmapCache>
@@ -57,7 +59,7 @@ const CardPictures::Loaded& CardPictures::load(const std::string& name) {
     Loaded& loaded = entry->second;
     if (!isNew) return loaded;
     try {
-        loaded.layout = loadLayout(folders_(), name);
+        loaded.layout = loadLayout(folders_(), name, cardColumns());
     } catch (const LayoutFault& fault) {
         log_.write(std::string("card picture: ") + fault.what());
         loaded.fault = toQt(fault.explanation());

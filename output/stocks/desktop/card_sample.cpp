@@ -29,9 +29,9 @@ CardSample::CardSample(LayoutSource layouts, QWidget* parent)
 
 CardSample::~CardSample() = default;
 
-void CardSample::showCard(const std::string& layoutName, const std::vector<CardRow>& rows,
+void CardSample::showCard(const std::string& layoutName, const ReportRows& rows,
                           const Alignment& alignment, bool header) {
-    rows_ = cardText(rows);
+    rows_ = pageText(rows);
     header_ = header;
     try {
         layout_ = layouts_(layoutName);
@@ -55,7 +55,7 @@ void CardSample::align(const Alignment& alignment) {
         setWidget(page_);
     }
     painter_ = std::move(painter);
-    page_->showCard(rows_, 1);
+    page_->showPage(rows_, 1);
 }
 
 void CardSample::showProblem(const QString& text) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "report/desktop/card_text.h"
 #include "report/desktop/layout.h"
 
 #include <QScrollArea>
@@ -29,8 +28,8 @@ class CardSample : public QScrollArea {
     ~CardSample() override;
 
     /// A layout that is missing or damaged is said in its place.
-    void showCard(const std::string& layoutName, const std::vector<CardRow>& rows,
-                  const Alignment& alignment, bool header);
+    void showCard(const std::string& layoutName, const ReportRows& rows, const Alignment& alignment,
+                  bool header);
     /// Moves the print; the view stays where it is.
     void align(const Alignment& alignment);
 
@@ -44,7 +43,7 @@ class CardSample : public QScrollArea {
     LayoutSource layouts_;
     std::optional<Layout> layout_;
     std::unique_ptr<LayoutPainter> painter_;
-    CardText rows_;
+    PageText rows_;
     bool header_ = true;
     PageView* page_ = nullptr;
 };

@@ -131,7 +131,7 @@ void CartaoPontosWindow::connectAll() {
 
 void CartaoPontosWindow::select(int entry) {
     if (entry < 0 || static_cast<std::size_t>(entry) == screen_.selected()) return;
-    if (!scale_->hasTyped() || screen_.mayDiscardTyped())
+    if (!scale_->hasTyped() || screen_.confirmDiscarding())
         (void)screen_.select(static_cast<std::size_t>(entry));
     showEntries();
     showEntry();
@@ -156,7 +156,7 @@ void CartaoPontosWindow::printTest() {
 }
 
 bool CartaoPontosWindow::mayClose() {
-    return !scale_->hasTyped() || screen_.mayDiscardTyped();
+    return !scale_->hasTyped() || screen_.confirmDiscarding();
 }
 
 void CartaoPontosWindow::showEntry() {

@@ -67,11 +67,11 @@ TEST_F(CartaoOpened, OnePdfForEachEmployeeGoesIntoOneFolder) {
 }
 
 /// Names of the cards of a job, and the side that it printed.
-std::pair<CardSide, Texts> passOf(const RecordingEngine::Job& job) {
+std::pair<SheetSides, Texts> passOf(const RecordingEngine::Job& job) {
     Texts names;
     for (const auto& card : job.cards)
         names.push_back(card[0][cardColumn("nome")]);
-    return {job.request.side, names};
+    return {job.request.sides, names};
 }
 
 TEST_F(CartaoOpened, TwoSidesArePrintedOneAfterTheOther) {
@@ -83,18 +83,18 @@ TEST_F(CartaoOpened, TwoSidesArePrintedOneAfterTheOther) {
     }};
     const Texts forward = {"JOSÉ DA SILVA", "ANA PAULA", "RUI BARBOSA"};
     const Texts backward = {"RUI BARBOSA", "ANA PAULA", "JOSÉ DA SILVA"};
-    for (const auto& [output, second] :
-         {std::pair(CardOutput::FaceDown, backward), std::pair(CardOutput::FaceUp, forward)}) {
+    for (const auto& [exit, second] :
+         {std::pair(SheetExit::FaceDown, backward), std::pair(SheetExit::FaceUp, forward)}) {
         engine.jobs.clear();
         told.clear();
-        screen.choices().printer.output = output;
+        screen.choices().printer.exit = exit;
         desk.person.answers = {Answer::Yes};
         EXPECT_TRUE(screen.printAll(run));
-        EXPECT_EQ(desk.person.shown.at(0).detail, stackInstruction(output, 3));
+        EXPECT_EQ(desk.person.shown.at(0).detail, sheetsBackInstruction(exit, 3));
         desk.person.shown.clear();
         ASSERT_EQ(engine.jobs.size(), 2U);
-        EXPECT_EQ(passOf(engine.jobs[0]), std::pair(CardSide::First, forward));
-        EXPECT_EQ(passOf(engine.jobs[1]), std::pair(CardSide::Second, second));
+        EXPECT_EQ(passOf(engine.jobs[0]), std::pair(SheetSides::First, forward));
+        EXPECT_EQ(passOf(engine.jobs[1]), std::pair(SheetSides::Second, second));
         EXPECT_EQ(told.front(), std::pair(1, 6));
         EXPECT_EQ(told.back(), std::pair(6, 6));
     }
@@ -109,7 +109,7 @@ TEST_F(CartaoOpened, TheSecondSideIsLeftOnlyByDecision) {
     EXPECT_FALSE(screen.printAll({}));
     EXPECT_EQ(desk.person.takeTexts(), (Texts{second, leave, second, leave}));
     EXPECT_EQ(engine.jobs.size(), 1U);
-    engine.results = {ReportResult::Failed};
+    engine.outcomes = {RecordingEngine::Outcome::Fails};
     EXPECT_FALSE(screen.printAll({}));
     EXPECT_EQ(desk.person.takeTexts(), Texts{kFailed});
 }
@@ -120,50 +120,89 @@ TEST_F(CartaoOpened, TwoSidesAreSeenTogether) {
     screen.setSearch("jose");
     screen.choices().output = ReportOutput::PdfFile;
     EXPECT_TRUE(screen.printAll({.choosePdf = [](const std::string& name) { return "/" + name; }}));
-    EXPECT_EQ(passOf(engine.jobs.at(0)), std::pair(CardSide::Whole, jose));
+    EXPECT_EQ(passOf(engine.jobs.at(0)), std::pair(SheetSides::Both, jose));
 
     engine.jobs.clear();
     screen.choices().output = ReportOutput::Preview;
-    ReportResult printed = ReportResult::Failed;
-    engine.whilePreviewed = [&](const ReportRequest& request) {
-        desk.person.answers = {Answer::Yes};
-        const CardProgress goOn = [](int) { return true; };
-        EXPECT_EQ(request.pdfPath, "CARTÃO PONTO 001 JOSÉ DA SILVA 03-2024.pdf");
-        printed = request.printPreviewed(goOn);
-        engine.results = {ReportResult::NoPrinter};
-        EXPECT_EQ(request.printPreviewed(goOn), ReportResult::Cancelled);
+    engine.whilePreviewed = [&](const auto& print) {
+        desk.person.answers = {Answer::Yes, Answer::No, Answer::Yes};
+        EXPECT_EQ(print(), PrintEnd::Done);
+        EXPECT_EQ(print(), PrintEnd::Cancelled) << "the operator leaves the second side";
     };
     EXPECT_TRUE(screen.printAll({}));
-    EXPECT_EQ(printed, ReportResult::Done);
     ASSERT_EQ(engine.jobs.size(), 4U);
-    EXPECT_EQ(passOf(engine.jobs[0]), std::pair(CardSide::Whole, jose));
-    EXPECT_EQ(passOf(engine.jobs[1]), std::pair(CardSide::First, jose));
-    EXPECT_EQ(passOf(engine.jobs[2]), std::pair(CardSide::Second, jose));
+    EXPECT_EQ(passOf(engine.jobs[0]), std::pair(SheetSides::Both, jose));
+    EXPECT_EQ(engine.jobs[0].request.pdfPath, "CARTÃO PONTO 001 JOSÉ DA SILVA 03-2024.pdf");
+    EXPECT_EQ(passOf(engine.jobs[1]), std::pair(SheetSides::First, jose));
+    EXPECT_EQ(passOf(engine.jobs[2]), std::pair(SheetSides::Second, jose));
     EXPECT_EQ(engine.jobs[1].request.output, ReportOutput::Printer);
-    EXPECT_EQ(desk.person.shown.back().text, kNoPrinter);
 }
 
-/// The preview's progress is gone when the next card of the run is prepared.
-TEST_F(CartaoOpened, ThePreviewsProgressEndsWithItsPrinting) {
-    engine.sides = 2;
-    screen.choices().output = ReportOutput::Preview;
+/// One card at a time on one or two sides, printed at once or from its preview.
+TEST_F(CartaoOpened, AFailedCardEndsTheRunWhereverItIsPrintedFrom) {
+    using Outcome = RecordingEngine::Outcome;
+    const Outcome works = Outcome::Works;
+    const Outcome fails = Outcome::PrinterGone;
+    struct Case {
+        int sides;
+        ReportOutput output;
+        std::deque<Outcome> outcomes;
+        std::size_t jobs;  ///< the one that fails included
+    };
     screen.choices().mode = PrintMode::OneAtATime;
-    bool printing = false;
-    const CardProgress ofThePreview = [&printing](int) {
-        EXPECT_TRUE(printing);
-        return true;
+    engine.whilePreviewed = [](const auto& print) { (void)print(); };
+    for (const Case& one :
+         {Case{1, ReportOutput::Printer, {fails}, 1}, Case{2, ReportOutput::Printer, {fails}, 1},
+          Case{2, ReportOutput::Printer, {works, fails}, 2},
+          Case{1, ReportOutput::Preview, {works, fails}, 2},
+          Case{2, ReportOutput::Preview, {works, fails}, 2},
+          Case{2, ReportOutput::Preview, {works, works, fails}, 3}}) {
+        engine.jobs.clear();
+        engine.sides = one.sides;
+        engine.outcomes = one.outcomes;
+        screen.choices().output = one.output;
+        desk.person.answers = {Answer::Yes, Answer::Yes};
+        EXPECT_FALSE(screen.printAll({}));
+        EXPECT_EQ(engine.jobs.size(), one.jobs);
+        EXPECT_EQ(desk.person.takeTexts().back(), "ERRO AO IMPRIMIR");
+        desk.person.answers.clear();
+    }
+}
+
+/// Prints both sides the way the instruction has it, and looks at the cards then: each has its
+/// second side on its back, whether it is one card or a stack. See docs/layout-files.md.
+TEST(TwoSides, TheInstructionBringsEachCardsBackUnderThePrint) {
+    enum class Feed { PrintsUpperFace, PrintsLowerFace };
+    struct Card {
+        std::size_t number;
+        bool printIsUp;
+        bool operator==(const Card&) const = default;
     };
-    engine.whilePreviewed = [&](const ReportRequest& request) {
-        printing = true;
-        EXPECT_EQ(request.printPreviewed(ofThePreview), ReportResult::Done);
-        printing = false;
-    };
-    int told = 0;
-    const PrintRun run{.progress = [&told](int, int) { return ++told > 0; }};
-    const Answer yes = Answer::Yes;
-    desk.person.answers = {yes, yes, Answer::No, yes, yes, Answer::No, yes, yes};
-    EXPECT_TRUE(screen.printAll(run));
-    EXPECT_EQ(told, 3);
+    for (const std::size_t cards : {1U, 5U})
+        for (const bool leavesFaceDown : {true, false})
+            for (const Feed feed : {Feed::PrintsUpperFace, Feed::PrintsLowerFace}) {
+                const bool lower = feed == Feed::PrintsLowerFace;
+                // Who prints the lower face chooses the other of the two options.
+                const SheetExit chosen =
+                    leavesFaceDown != lower ? SheetExit::FaceDown : SheetExit::FaceUp;
+                std::vector<Card> stack;  // the bottom first
+                for (std::size_t number = 0; number < cards; ++number)
+                    stack.push_back({number, !leavesFaceDown});
+                if (sheetsBackInstruction(chosen, cards).starts_with("Vire")) {
+                    std::ranges::reverse(stack);
+                    for (Card& card : stack)
+                        card.printIsUp = !card.printIsUp;
+                }
+                ReportPages second(cards,
+                                   [](std::size_t at) { return ReportRows{{std::to_string(at)}}; });
+                second.restart(secondSideOrder(chosen));
+                while (const auto rows = second.next()) {
+                    const Card taken = stack.back();  // the tray takes the card on top
+                    stack.pop_back();
+                    EXPECT_EQ(std::to_string(taken.number), rows->front().front());
+                    EXPECT_EQ(taken.printIsUp, lower) << "its blank face is printed";
+                }
+            }
 }
 
 }  // namespace

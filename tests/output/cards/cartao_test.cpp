@@ -10,6 +10,7 @@ namespace {
 
 using testing::CartaoOpened;
 using testing::CartaoTest;
+using Outcome = testing::RecordingEngine::Outcome;
 using testing::Texts;
 
 constexpr WorkMonth kMarch = std::chrono::year(2024) / 3;
@@ -204,12 +205,11 @@ TEST_F(CartaoTest, OnlyDriveCPrints) {
 
 TEST_F(CartaoOpened, FailedCardEndsTheRun) {
     screen.choices().mode = PrintMode::OneAtATime;
-    for (const auto& [result, text] : {std::pair(ReportResult::Failed, kFailed),
-                                       std::pair(ReportResult::PrinterGone, kPrinterGone),
-                                       std::pair(ReportResult::NoEngine, kNoEngine),
-                                       std::pair(ReportResult::NoPrinter, kNoPrinter)}) {
+    for (const auto& [outcome, text] :
+         {std::pair(Outcome::Fails, kFailed), std::pair(Outcome::PrinterGone, kPrinterGone),
+          std::pair(Outcome::NoEngine, kNoEngine), std::pair(Outcome::NoPrinter, kNoPrinter)}) {
         engine.jobs.clear();
-        engine.results = {ReportResult::Done, result};
+        engine.outcomes = {Outcome::Works, outcome};
         desk.person.answers = {Answer::Yes, Answer::No, Answer::Yes, Answer::No, Answer::Yes};
         EXPECT_FALSE(screen.printAll({}));
         EXPECT_EQ(desk.person.shown.back().title, "IMPRESSÃO");

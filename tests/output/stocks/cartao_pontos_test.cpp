@@ -1,7 +1,7 @@
 #include "output/stocks/cartao_pontos.h"
 
 #include "foundation/register/company_register.h"
-#include "output/cards/card_rows.h"
+#include "output/stocks/card_rows.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
@@ -150,7 +150,6 @@ TEST_F(CartaoPontosTest, TestPrintAsksForTheCardAndTakesTheAlignmentAlong) {
     EXPECT_EQ(rows[0][cardColumn("razao")], "EMPRESA MODELO LTDA");
     EXPECT_EQ(rows[30][cardColumn("sai3")], "19:00");
     EXPECT_EQ(rows, screen.sampleRows());
-    EXPECT_EQ(request.side, CardSide::First);
 }
 
 TEST_F(CartaoPontosTest, CalibrationSheetIsPrintedUntouched) {
@@ -161,26 +160,27 @@ TEST_F(CartaoPontosTest, CalibrationSheetIsPrintedUntouched) {
     EXPECT_TRUE(screen.printCalibrationSheet());
     EXPECT_EQ(engine.jobs.at(0).request.alignment, Alignment());
     EXPECT_EQ(engine.jobs.at(0).request.layoutName, "calibracao.rpt");
-    EXPECT_EQ(engine.jobs.at(0).cards.at(0).at(0)[cardColumn("nome")], "HP-Balcao");
+    EXPECT_EQ(engine.jobs.at(0).cards.at(0), (ReportRows{{"HP-Balcao"}}));
 }
 
 TEST_F(CartaoPontosTest, FailedPrintsAreTold) {
     struct Case {
-        ReportResult result;
+        RecordingEngine::Outcome outcome;
         const char* text;
     };
     engine.why = "A impressora HP-Balcao não foi encontrada.";
     for (const Case& one :
-         {Case{ReportResult::PrinterGone, "ERRO AO IMPRIMIR"},
-          Case{ReportResult::Failed, "Erro na Impressão do Relatório."},
-          Case{ReportResult::NoPrinter,
+         {Case{RecordingEngine::Outcome::PrinterGone, "ERRO AO IMPRIMIR"},
+          Case{RecordingEngine::Outcome::Fails, "Erro na Impressão do Relatório."},
+          Case{RecordingEngine::Outcome::NoPrinter,
                "ERRO NA IMPRESSÃO DO RELATÓRIO - Isto ocorre quando não há Impressoras Instalada "
                "no PC!"}}) {
-        engine.results = {one.result};
+        engine.outcomes = {one.outcome};
         desk.person.answers = {Answer::Yes};
         EXPECT_FALSE(screen.printTest());
         EXPECT_EQ(desk.person.shown.back().text, one.text);
-        EXPECT_EQ(desk.person.shown.back().detail.empty(), one.result == ReportResult::NoPrinter);
+        EXPECT_EQ(desk.person.shown.back().detail.empty(),
+                  one.outcome == RecordingEngine::Outcome::NoPrinter);
     }
 }
 

@@ -12,7 +12,7 @@ using testing::TestWorkplace;
 TEST(PrinterMemory, IsWrittenInTwoFilesOfTheCompany) {
     TestWorkplace desk;
     EXPECT_EQ(loadPrinterMemory(desk.store(), *desk.session.company), PrinterMemory());
-    const PrinterMemory memory{.output = CardOutput::FaceUp,
+    const PrinterMemory memory{.exit = SheetExit::FaceUp,
                                .tray = TrayPosition::Lateral,
                                .trays = {"Manual", "", "Inferior ção"},
                                .printHeader = false};

@@ -45,7 +45,8 @@ class Cups : public ::testing::Test {
 TEST(Printing, SaysWhenNoPrinterIsInstalled) {
     ReportDesk desk;
     desk.request.output = ReportOutput::Printer;
-    EXPECT_EQ(desk.print(1), ReportResult::NoPrinter);
+    EXPECT_EQ(desk.print(1), PrintEnd::Failed);
+    EXPECT_THAT(desk.office.person.takeTexts().at(0), HasSubstr("não há Impressoras Instalada"));
 }
 
 TEST_F(Cups, PrintsTheCardsOfARunAsOneJob) {
@@ -53,7 +54,7 @@ TEST_F(Cups, PrintsTheCardsOfARunAsOneJob) {
     desk_.request.printerName = "cartao";
     desk_.request.alignment = {720, 1440, 0};
     desk_.request.trays = {"", "Manual", "Lower"};
-    ASSERT_EQ(desk_.print(3), ReportResult::Done) << ::testing::PrintToString(desk_.log.entries);
+    ASSERT_EQ(desk_.print(3), PrintEnd::Done) << ::testing::PrintToString(desk_.log.entries);
 
     EXPECT_EQ(printedPages(), 3);
     const auto words = printedWords(printServer.lastDocument());
@@ -67,11 +68,11 @@ TEST_F(Cups, PrintsTheCardsOfARunAsOneJob) {
 TEST_F(Cups, CountsFromTheSheetsCornerWhateverThePrintersMargins) {
     printServer.addPrinterWithMargins(QStringLiteral("margens"));
     desk_.request.printerName = "margens";
-    ASSERT_EQ(desk_.print(1), ReportResult::Done) << ::testing::PrintToString(desk_.log.entries);
+    ASSERT_EQ(desk_.print(1), PrintEnd::Done) << ::testing::PrintToString(desk_.log.entries);
     EXPECT_EQ(printedPages(), 1);
     const auto onPaper = printedWords(printServer.lastDocument());
     desk_.request.output = ReportOutput::PdfFile;
-    ASSERT_EQ(desk_.print(1), ReportResult::Done);
+    ASSERT_EQ(desk_.print(1), PrintEnd::Done);
     const auto inFile = printedWords(desk_.pdf());
     for (const auto& word : {QStringLiteral("Razão:"), QStringLiteral("08:00")}) {
         EXPECT_NEAR(wordOf(onPaper, word).left, wordOf(inFile, word).left, 0.01);
@@ -81,9 +82,9 @@ TEST_F(Cups, CountsFromTheSheetsCornerWhateverThePrintersMargins) {
 
 TEST_F(Cups, PrintsOnTheDefaultPrinter) {
     printServer.addPrinter(QStringLiteral("cartao"));
-    EXPECT_EQ(desk_.print(1), ReportResult::PrinterGone) << "no default printer is set";
+    EXPECT_EQ(desk_.print(1), PrintEnd::Failed) << "no default printer is set";
     printServer.makeDefault(QStringLiteral("cartao"));
-    ASSERT_EQ(desk_.print(1), ReportResult::Done);
+    ASSERT_EQ(desk_.print(1), PrintEnd::Done);
     EXPECT_EQ(printedPages(), 1);
 }
 
@@ -96,16 +97,15 @@ TEST_F(Cups, FindsALongName) {
     printServer.makeDefault(QStringLiteral("cartao"));
     EXPECT_EQ(printers.defaultName(), "cartao");
     desk_.request.printerName = longName.substr(0, 30);
-    ASSERT_EQ(desk_.print(2), ReportResult::Done) << ::testing::PrintToString(desk_.log.entries);
+    ASSERT_EQ(desk_.print(2), PrintEnd::Done) << ::testing::PrintToString(desk_.log.entries);
     EXPECT_EQ(printedPages(), 2);
 }
 
 TEST_F(Cups, KeepsTheCardsPrintedBeforeACancel) {
     printServer.addPrinter(QStringLiteral("cartao"));
     desk_.request.printerName = "cartao";
-    const CardSource endless = [] { return std::optional(sampleCard(9)); };
-    EXPECT_EQ(desk_.engine.print(desk_.request, endless, [](int done) { return done < 2; }),
-              ReportResult::Cancelled);
+    EXPECT_EQ(desk_.print(ReportPages(9, sampleCard), [](int done, int) { return done < 2; }),
+              PrintEnd::Cancelled);
     EXPECT_EQ(printedPages(), 2);
 }
 
@@ -159,21 +159,20 @@ TEST_F(Cups, FailsOnAPrinterThatIsNotThere) {
     printServer.addPrinter(QStringLiteral("outra"));
     printServer.removePrinter(QStringLiteral("cartao"));
     desk_.request.printerName = "cartao";
-    EXPECT_EQ(desk_.print(1), ReportResult::PrinterGone);
+    EXPECT_EQ(desk_.print(1), PrintEnd::Failed);
     EXPECT_THAT(desk_.log.entries, ElementsAre(HasSubstr("cartao")));
-    EXPECT_EQ(desk_.engine.explanation(), "A impressora cartao não foi encontrada.");
+    EXPECT_EQ(desk_.office.person.shown.at(0).detail, "A impressora cartao não foi encontrada.");
 }
 
 TEST_F(Cups, FailsWhenThePrinterGoesDuringTheRun) {
     printServer.addPrinter(QStringLiteral("cartao"));
     desk_.request.printerName = "cartao";
-    int given = 0;
-    const CardSource one = [&] { return given++ ? std::nullopt : std::optional(sampleCard(1)); };
-    const CardProgress unplug = [](int) {
+    const PageProgress unplug = [](int, int) {
         printServer.removePrinter(QStringLiteral("cartao"));
         return true;
     };
-    EXPECT_EQ(desk_.engine.print(desk_.request, one, unplug), ReportResult::PrinterGone);
+    EXPECT_EQ(desk_.print(ReportPages(1, sampleCard), unplug), PrintEnd::Failed);
+    EXPECT_EQ(desk_.office.person.takeTexts(), Texts{"ERRO AO IMPRIMIR"});
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "report/desktop/layout_reader.h"
 
+#include "output/stocks/card_rows.h"
+
 #include <QBuffer>
 
 #include <gmock/gmock.h>
@@ -14,7 +16,7 @@ using ::testing::StartsWith;
 Layout read(QByteArray bytes) {
     QBuffer file(&bytes);
     file.open(QIODevice::ReadOnly);
-    return readLayout(file, "card.rpt");
+    return readLayout(file, "card.rpt", cardColumns());
 }
 
 /// `body` begins on line 2.

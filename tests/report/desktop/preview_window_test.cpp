@@ -21,20 +21,24 @@ class Preview : public ::testing::Test {
   protected:
     void SetUp() override { desk_.request.output = ReportOutput::Preview; }
 
-    /// Previews `cards` cards and works in the window; closes it with Esc.
-    ReportResult preview(int cards, const std::function<void(PreviewWindow&)>& work) {
-        bool shown = false;
-        QTimer::singleShot(0, qApp, [&] {
+    /// Works in the next preview window, and closes it with Esc.
+    void work(std::function<void(PreviewWindow&)> steps) {
+        QTimer::singleShot(0, qApp, [this, steps = std::move(steps)] {
             auto* window = qobject_cast<PreviewWindow*>(QApplication::activeModalWidget());
             ASSERT_NE(window, nullptr);
-            shown = QTest::qWaitForWindowActive(window);
-            work(*window);
+            shown_ = QTest::qWaitForWindowActive(window);
+            steps(*window);
             if (window->isVisible()) QTest::keyClick(window, Qt::Key_Escape);
         });
-        const ReportResult result = desk_.print(cards);
+    }
+
+    PrintEnd preview(int cards, std::function<void(PreviewWindow&)> steps) {
+        shown_ = false;
+        work(std::move(steps));
+        const PrintEnd end = desk_.print(cards);
         QCoreApplication::processEvents();
-        EXPECT_TRUE(shown);
-        return result;
+        EXPECT_TRUE(shown_);
+        return end;
     }
 
     static QString stateOf(const PreviewWindow& window) {
@@ -46,6 +50,7 @@ class Preview : public ::testing::Test {
     }
 
     ReportDesk desk_;
+    bool shown_ = false;
 };
 
 TEST_F(Preview, TurnsPagesWithTheKeys) {
@@ -64,7 +69,7 @@ TEST_F(Preview, TurnsPagesWithTheKeys) {
                           QTest::keyClick(&window, Qt::Key_Home);
                           EXPECT_EQ(pageOf(window), first);
                       }),
-              ReportResult::Done);
+              PrintEnd::Done);
 }
 
 TEST_F(Preview, ShowsACardOfTwoSidesInTwoPages) {
@@ -81,7 +86,7 @@ TEST_F(Preview, ShowsACardOfTwoSidesInTwoPages) {
 }
 
 TEST_F(Preview, NeedsACard) {
-    EXPECT_EQ(desk_.print(0), ReportResult::Done);
+    EXPECT_EQ(desk_.print(0), PrintEnd::Done);
 }
 
 TEST_F(Preview, ShowsTheStockWhereItLies) {
@@ -129,37 +134,43 @@ TEST_F(Preview, SavesAllPagesAndSaysSo) {
     });
 }
 
-TEST_F(Preview, HandsAFailedPrintToTheCaller) {
-    EXPECT_EQ(preview(2,
-                      [](PreviewWindow& window) {
-                          window.findChild<QToolButton*>(QStringLiteral("preview.print"))->click();
-                          EXPECT_FALSE(window.isVisible());
-                      }),
-              ReportResult::NoPrinter);
+TEST_F(Preview, AFailedPrintClosesItAndIsToldOnce) {
+    for (const char* layout : {"tilibcenter.rpt", "dimepcenter.rpt"}) {
+        desk_.request.layoutName = layout;
+        EXPECT_EQ(preview(2,
+                          [](PreviewWindow& window) {
+                              QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+                              EXPECT_FALSE(window.isVisible());
+                          }),
+                  PrintEnd::Failed);
+        EXPECT_EQ(desk_.office.person.takeTexts().size(), 1U) << layout;
+    }
 }
 
-TEST_F(Preview, LeavesThePrintOfTwoSidesToItsCaller) {
+TEST_F(Preview, SaysWhatBecameOfThePrint) {
     desk_.request.layoutName = "dimepcenter.rpt";
-    ReportResult answer = ReportResult::Done;
+    PrintEnd answer = PrintEnd::Done;
     int asked = 0;
-    desk_.request.printPreviewed = [&](const CardProgress& progress) {
+    ReportPages cards(2, sampleCard);
+    const auto printShown = [&](ReportPages& shown, const PageProgress& progress) {
         ++asked;
-        EXPECT_TRUE(progress(1));
+        EXPECT_EQ(shown.count(), 2U);
+        EXPECT_EQ(shown.next(), sampleCard(0));
+        EXPECT_TRUE(progress(1, 4));
         return answer;
     };
-    EXPECT_EQ(preview(2,
-                      [&](PreviewWindow& window) {
-                          QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
-                          EXPECT_EQ(
-                              stateOf(window),
-                              QStringLiteral("1 de 2, frente · 2 cartões enviados à impressora"));
-                          answer = ReportResult::Cancelled;
-                          QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
-                          EXPECT_EQ(stateOf(window),
-                                    QStringLiteral("1 de 2, frente · Impressão cancelada"));
-                          EXPECT_TRUE(window.isVisible());
-                      }),
-              ReportResult::Done);
+    work([&](PreviewWindow& window) {
+        QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+        EXPECT_EQ(stateOf(window),
+                  QStringLiteral("1 de 2, frente · Enviado à impressora: 2 cartões"));
+        answer = PrintEnd::Cancelled;
+        QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier);
+        EXPECT_EQ(stateOf(window), QStringLiteral("1 de 2, frente · Impressão cancelada"));
+        EXPECT_TRUE(window.isVisible());
+    });
+    EXPECT_EQ(desk_.engine.preview(
+                  desk_.request, cards, [](int, int) { return true; }, printShown),
+              PrintEnd::Done);
     EXPECT_EQ(asked, 2);
 }
 

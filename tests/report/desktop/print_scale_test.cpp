@@ -1,5 +1,5 @@
 #include "report/calibration.h"
-#include "report/desktop/layout.h"
+#include "report/desktop/layout_reader.h"
 #include "tests/support/printed_card.h"
 
 #include <gtest/gtest.h>
@@ -59,7 +59,7 @@ TEST_F(PrintedScale, IsAppliedFromTheCornerOfThePaper) {
 TEST_F(PrintedScale, CalibrationSheetHasItsCrossesInPlace) {
     const Layout sheet =
         loadLayout({QCoreApplication::applicationDirPath().toStdString() + "/layouts"},
-                   std::string(kCalibrationLayout));
+                   std::string(kCalibrationLayout), {std::string(kCalibrationColumn)});
     const auto hasLine = [&sheet](QPointF middle, QPointF reach) {
         return std::ranges::any_of(sheet.sections, [&](const LayoutSection& section) {
             return std::ranges::any_of(section.marks, [&](const LayoutMark& mark) {

@@ -1,4 +1,4 @@
-#include "output/cards/card_rows.h"
+#include "output/stocks/card_rows.h"
 #include "output/stocks/card_stock.h"
 #include "tests/support/card_geometry.h"
 #include "tests/support/printed_card.h"
@@ -20,10 +20,10 @@ constexpr std::array kTrays = {TrayPosition::Central, TrayPosition::Lateral};
 constexpr std::array kSets = {LayoutSet::A, LayoutSet::B};
 
 /// A card on which no two values of the grid are alike.
-std::vector<CardRow> distinctCard() {
-    auto rows = sampleCard(1);
+ReportRows distinctCard() {
+    auto rows = sampleCard(0);
     int minutes = 0;
-    for (CardRow& row : rows) {
+    for (ReportRow& row : rows) {
         row[cardColumn("semana")] = "s" + row[cardColumn("dia")];
         row[cardColumn("situacao")] = "";
         for (const std::size_t column :
@@ -45,12 +45,9 @@ class CardBoxes : public PrintedCard {
   protected:
     /// The words of one card, by page and text.
     std::map<std::pair<int, QString>, PrintedWord> print(const std::string& layout,
-                                                         const std::vector<CardRow>& rows) {
+                                                         const ReportRows& rows) {
         desk_.request.layoutName = layout;
-        int given = 0;
-        const CardSource once = [&] { return given++ ? std::nullopt : std::optional(rows); };
-        EXPECT_EQ(desk_.engine.print(desk_.request, once, [](int) { return true; }),
-                  ReportResult::Done)
+        EXPECT_EQ(desk_.print(ReportPages(1, [&](std::size_t) { return rows; })), PrintEnd::Done)
             << ::testing::PrintToString(desk_.log.entries);
         std::map<std::pair<int, QString>, PrintedWord> words;
         for (const PrintedWord& word : printedWords(desk_.pdf()))
@@ -146,8 +143,8 @@ TEST_F(CardBoxes, EveryCardMovesByTheAlignmentToTheTwip) {
 }
 
 TEST_F(CardBoxes, NothingLeavesTheCardOrItsPrintablePartHoweverLong) {
-    auto rows = sampleCard(1);
-    for (CardRow& row : rows) {
+    auto rows = sampleCard(0);
+    for (ReportRow& row : rows) {
         for (const std::size_t column : {cardColumn("razao"), cardColumn("funcao"),
                                          cardColumn("nome"), cardColumn("situacao")})
             row[column] = std::string(68, 'W');
@@ -191,16 +188,17 @@ TEST_F(CardBoxes, HeaderCanBeLeftToEveryStock) {
 TEST_F(CardBoxes, ACardOfTwoFacesGivesTheFacesThatAreAskedFor) {
     const auto rows = distinctCard();
     struct Case {
-        CardSide side;
+        SheetSides sides;
         std::vector<const char*> firstDays;  ///< the first day on each page
     };
-    const Case cases[] = {
-        {CardSide::Whole, {"01", "16"}}, {CardSide::First, {"01"}}, {CardSide::Second, {"16"}}};
-    EXPECT_EQ(desk_.engine.sidesOf("dimepcenter.rpt"), 2);
-    EXPECT_EQ(desk_.engine.sidesOf("tilibcenter.rpt"), 1);
-    EXPECT_EQ(desk_.engine.sidesOf("missing.rpt"), 1);
+    const Case cases[] = {{SheetSides::Both, {"01", "16"}},
+                          {SheetSides::First, {"01"}},
+                          {SheetSides::Second, {"16"}}};
+    EXPECT_EQ(desk_.engine.sidesOf(desk_.request), 1);
+    desk_.request.layoutName = "dimepcenter.rpt";
+    EXPECT_EQ(desk_.engine.sidesOf(desk_.request), 2);
     for (const Case& one : cases) {
-        desk_.request.side = one.side;
+        desk_.request.sides = one.sides;
         const auto words = print("dimepcenter.rpt", rows);
         int page = 0;
         for (const char* day : one.firstDays) {

@@ -141,7 +141,7 @@ TEST_F(CartaoWindowTest, ListFollowsShiftAndSearch) {
 
 TEST_F(CartaoWindowTest, ReturnsFromTheOtherScreensUpToDate) {
     desk.files.content.erase("/data/DataIde.ivc");
-    const CartaoLinks links{
+    const CartaoWindowDesk links{
         .openStocks = [this](QWidget*) { desk.file("01CartaoDePontoTipo") = "05\r\n"; },
         .openWorkMonth =
             [this](QWidget*) {
@@ -223,7 +223,7 @@ TEST_F(CartaoWindowTest, FitsASmallScreenAndIsReachable) {
     EXPECT_LE(window.minimumSizeHint().width(), 1280);
     EXPECT_LE(window.minimumSizeHint().height(), 680);
     expectReachable(window);
-    EXPECT_EQ(DrivenWindow<CartaoWindow>(cartao, CartaoLinks()).sharedAltLetters(), "");
+    EXPECT_EQ(DrivenWindow<CartaoWindow>(cartao, CartaoWindowDesk()).sharedAltLetters(), "");
 }
 
 }  // namespace

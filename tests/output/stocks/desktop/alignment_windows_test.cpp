@@ -1,5 +1,7 @@
+#include "output/stocks/card_rows.h"
 #include "output/stocks/desktop/cartao_pontos_window.h"
 #include "report/desktop/impressorar_window.h"
+#include "report/desktop/layout_reader.h"
 #include "report/desktop/qt_report_engine.h"
 #include "report/impressorar.h"
 #include "tests/support/driven_window.h"
@@ -26,8 +28,8 @@ using testing::TestPrinters;
 using testing::TestWorkplace;
 
 Layout shippedLayout(const std::string& name) {
-    return loadLayout(layoutFolders({}, QCoreApplication::applicationDirPath().toStdString()),
-                      name);
+    return loadLayout(layoutFolders({}, QCoreApplication::applicationDirPath().toStdString()), name,
+                      cardColumns());
 }
 
 struct AlignmentWindow : ::testing::Test {

@@ -1,4 +1,4 @@
-#include "output/cards/card_rows.h"
+#include "output/stocks/card_rows.h"
 
 #include "foundation/values/text.h"
 #include "timecard/hours/hours.h"
@@ -29,9 +29,9 @@ MergeWords headerWords(const CardData& card) {
     return words;
 }
 
-CardRow headerRow(const CardData& card) {
+ReportRow headerRow(const CardData& card) {
     const MergeWords words = headerWords(card);
-    CardRow row;
+    ReportRow row(kCardColumns.size());
     for (std::size_t at = 0; at < cardColumn("linha"); ++at)
         row[at] = words.at(kCardColumns[at]);
     return row;
@@ -58,7 +58,7 @@ std::string situationOf(const CardData& card, const PunchLine& line, Date date) 
     return {};
 }
 
-void putTimes(CardRow& row, const PunchLine& line) {
+void putTimes(ReportRow& row, const PunchLine& line) {
     row[cardColumn("ent1")] = line.morningEntry;
     row[cardColumn("sai1")] = line.morningExit;
     row[cardColumn("ent2")] = line.afternoonEntry;
@@ -70,14 +70,14 @@ void putTimes(CardRow& row, const PunchLine& line) {
 /// Fills in the rows from the punches, then the sums that only the last of them completes.
 class PunchWriter {
   public:
-    PunchWriter(const CardData& card, std::vector<CardRow>& rows)
+    PunchWriter(const CardData& card, ReportRows& rows)
         : card_(card),
           terms_(workTerms(card.settings, card.settings.overtime,
                            card.schedule.value_or(StandardSchedule()), card.employee)),
           rows_(rows) {}
 
     void write(const PunchLine& line, Date date) {
-        CardRow& row = rows_[static_cast<std::size_t>(dayNumber(date) - 1)];
+        ReportRow& row = rows_[static_cast<std::size_t>(dayNumber(date) - 1)];
         if (!hasTimes(line)) {
             row[cardColumn("situacao")] = situationOf(card_, line, date);
             return;
@@ -103,19 +103,28 @@ class PunchWriter {
 
     const CardData& card_;
     WorkTerms terms_;
-    std::vector<CardRow>& rows_;
+    ReportRows& rows_;
     std::chrono::seconds firstHalf_{0};
     std::chrono::seconds secondHalf_{0};
 };
 
 }  // namespace
 
+const std::vector<std::string>& cardColumns() {
+    static const std::vector<std::string> names(kCardColumns.begin(), kCardColumns.end());
+    return names;
+}
+
+PageNoun cardNoun() {
+    return {"cartão", "cartões"};
+}
+
 std::string headerText(const CardData& card) {
     return headerWords(card).filled(kHeaderText);
 }
 
-std::vector<CardRow> cardRows(const CardData& card) {
-    std::vector<CardRow> rows(kCardLines, headerRow(card));
+ReportRows cardRows(const CardData& card) {
+    ReportRows rows(kCardLines, headerRow(card));
     for (int line = 1; line <= kCardLines; ++line)
         rows[static_cast<std::size_t>(line - 1)][cardColumn("linha")] = std::to_string(line);
 

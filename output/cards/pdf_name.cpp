@@ -1,4 +1,4 @@
-#include "report/pdf_name.h"
+#include "output/cards/pdf_name.h"
 
 #include "foundation/values/text.h"
 

@@ -1,4 +1,4 @@
-#include "output/cards/card_rows.h"
+#include "output/stocks/card_rows.h"
 
 #include "tests/support/test_workplace.h"
 
@@ -55,8 +55,8 @@ PunchLine withoutTimes(const char* label, const char* situation = "") {
 }
 
 /// The named columns of the row of `day`, parted by "|".
-std::string row(const std::vector<CardRow>& rows, int day) {
-    const CardRow& one = rows.at(static_cast<std::size_t>(day - 1));
+std::string row(const ReportRows& rows, int day) {
+    const ReportRow& one = rows.at(static_cast<std::size_t>(day - 1));
     std::string text = one[cardColumn("linha")];
     for (const std::size_t column :
          {cardColumn("dia"), cardColumn("semana"), cardColumn("ent1"), cardColumn("sai1"),
@@ -122,7 +122,7 @@ TEST(CardRows, ADayWithoutTimesSaysWhy) {
         CardData card = commercialCard(kMarch);
         card.punches->at(3) = withoutTimes("04/seg/mar", one.situation);
         card.punches->at(3).extraExit = one.time;
-        const CardRow printed = cardRows(card).at(3);
+        const ReportRow printed = cardRows(card).at(3);
         EXPECT_EQ(printed[cardColumn("situacao")], one.printed) << one.situation;
         EXPECT_EQ(printed[cardColumn("sai3")], one.time) << one.situation;
     }
@@ -213,7 +213,7 @@ TEST(CardRows, HeaderValues) {
           Case{cardColumn("refeicao"), "12:00 às 13:00"},
           Case{cardColumn("nome"), "MARIA APARECIDA DA CONCEIÇÃO E"},
           Case{cardColumn("codigo"), "001"}, Case{cardColumn("mes"), "março/2024"}})
-        for (const CardRow& each : rows)
+        for (const ReportRow& each : rows)
             EXPECT_EQ(each[one.column], one.value);
 }
 

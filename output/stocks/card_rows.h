@@ -7,6 +7,7 @@
 #include "timecard/punches/punch_record.h"
 #include "timecard/schedule/standard_schedule.h"
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,6 +18,23 @@
 namespace winvrx {
 
 inline constexpr int kCardLines = 31;
+
+/// The columns of `Tabela_base` for a card. Header values stand in every row of a card; day values
+/// in the row of their day.
+inline constexpr std::array<std::string_view, 26> kCardColumns = {
+    // header block
+    "razao", "cnpj", "registro", "ctps", "admissao", "funcao", "periodo", "descanso", "horario",
+    "refeicao", "nome", "codigo", "mes",
+    // one day
+    "linha", "dia", "semana", "ent1", "sai1", "ent2", "sai2", "ent3", "sai3", "horas", "situacao",
+    // the card's sums
+    "total", "quinzena"};
+
+/// The same, as a request and the layouts take them.
+[[nodiscard]] const std::vector<std::string>& cardColumns();
+
+/// "cartão", "cartões".
+[[nodiscard]] PageNoun cardNoun();
 
 /// Position of a column of kCardColumns. A name that is no column does not compile.
 [[nodiscard]] consteval std::size_t cardColumn(std::string_view name) {
@@ -42,6 +60,6 @@ struct CardData {
 /// "Falta Injustificada" as "Falta Inj.". "total" is the month's sum and
 /// "quinzena" the sum of the row's own half of the month. Without punches a row has its header
 /// values and day labels only.
-[[nodiscard]] std::vector<CardRow> cardRows(const CardData& card);
+[[nodiscard]] ReportRows cardRows(const CardData& card);
 
 }  // namespace winvrx

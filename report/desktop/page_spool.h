@@ -1,6 +1,6 @@
 #pragma once
 
-#include "report/desktop/card_text.h"
+#include "report/report_engine.h"
 
 #include <QTemporaryFile>
 
@@ -8,16 +8,16 @@
 
 namespace winvrx {
 
-/// The cards of a preview, kept in a temporary file so that memory does not grow with their
+/// The pages of a preview, kept in a temporary file so that memory does not grow with their
 /// number. Throws Fault when the disk is full.
-class CardSpool {
+class PageSpool {
   public:
-    CardSpool();
+    PageSpool();
 
-    void append(const CardText& rows);
+    void append(const ReportRows& rows);
     [[nodiscard]] std::size_t size() const { return starts_.size(); }
     /// Requires index < size().
-    [[nodiscard]] CardText at(std::size_t index);
+    [[nodiscard]] ReportRows at(std::size_t index);
 
   private:
     [[noreturn]] void fail() const;

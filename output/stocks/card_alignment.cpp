@@ -1,6 +1,7 @@
-#include "report/print_settings.h"
+#include "output/stocks/card_alignment.h"
 
 #include "foundation/values/text.h"
+#include "output/stocks/card_stock.h"
 
 #include <algorithm>
 #include <charconv>
@@ -77,14 +78,14 @@ void removeOffsets(const Store& store) {
     (void)RecordFile(store, kAlignmentName).remove();
 }
 
-std::string loadPrinterName(const Store& store) {
-    const auto values = RecordFile(store, kPrinterName).values();
-    return values.empty() || values.front() == kDefaultPrinter ? std::string() : values.front();
-}
-
-void savePrinterName(const Store& store, const std::string& name) {
-    RecordFile(store, kPrinterName)
-        .rewriteValues({name.empty() ? std::string(kDefaultPrinter) : name});
+Alignment loadAlignment(const Store& store, const PrintScaleKey& key,
+                        const AlignmentMemory& memory) {
+    const auto entry = alignmentEntryOf(key.stock);
+    const Offsets offsets = entry ? loadOffsets(store)[*entry] : Offsets();
+    return {.horizontalTwips = offsets.horizontal,
+            .verticalTwips = offsets.vertical,
+            .lines = memory.lines,
+            .scale = loadPrintScale(store, key)};
 }
 
 }  // namespace winvrx

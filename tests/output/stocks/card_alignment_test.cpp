@@ -1,4 +1,4 @@
-#include "report/print_settings.h"
+#include "output/stocks/card_alignment.h"
 
 #include "tests/support/test_workplace.h"
 
@@ -11,7 +11,7 @@ using testing::TestWorkplace;
 
 constexpr const char* kDefaultLine = "10         10";
 
-TEST(PrintSettings, AnEntryIsTwoOffsetsWithinTheirBounds) {
+TEST(CardAlignment, AnEntryIsTwoOffsetsWithinTheirBounds) {
     struct Case {
         const char* line;
         Offsets offsets;
@@ -31,7 +31,7 @@ TEST(PrintSettings, AnEntryIsTwoOffsetsWithinTheirBounds) {
     EXPECT_EQ(encode({.vertical = 10, .horizontal = 30}, "abc       20x"), "abc        30");
 }
 
-TEST(PrintSettings, EachStockHasItsEntryAndTheOthersStay) {
+TEST(CardAlignment, EachStockHasItsEntryAndTheOthersStay) {
     TestWorkplace desk;
     EXPECT_EQ(loadOffsets(desk.store()), std::vector<Offsets>(kAlignmentEntries));
     saveOffsets(desk.store(), *alignmentEntryOf("03"), {70, 1500});
@@ -52,15 +52,15 @@ TEST(PrintSettings, EachStockHasItsEntryAndTheOthersStay) {
     EXPECT_EQ(alignmentEntryOf("14"), std::nullopt);
 }
 
-TEST(PrintSettings, PrinterIsTheStoredNameOrTheDefaultOne) {
+TEST(CardAlignment, AnAlignmentIsStockLinesAndPrinterTogether) {
     TestWorkplace desk;
-    EXPECT_EQ(loadPrinterName(desk.store()), "");
-    savePrinterName(desk.store(), "HP LaserJet Escritório");
-    EXPECT_EQ(desk.file("ConfigX"), "HP LaserJet Escrit\xF3rio\r\n");
-    EXPECT_EQ(loadPrinterName(desk.store()), "HP LaserJet Escritório");
-    savePrinterName(desk.store(), "");
-    EXPECT_EQ(desk.file("ConfigX"), "Padrao\r\n");
-    EXPECT_EQ(loadPrinterName(desk.store()), "");
+    const PrintScaleLine line{{"HP-Balcao", "05"}, {9975, 10040, -150, 25}};
+    savePrintScale(desk.store(), line);
+    saveOffsets(desk.store(), *alignmentEntryOf("05"), {50, 90});
+    const Alignment both = loadAlignment(desk.store(), line.key, {.lines = 3});
+    EXPECT_EQ(both, (Alignment{90, 50, 3, line.scale}));
+    const Alignment other = loadAlignment(desk.store(), {"Epson", "01"}, {.lines = 0});
+    EXPECT_EQ(other, (Alignment{10, 10, 0, {}}));
 }
 
 }  // namespace

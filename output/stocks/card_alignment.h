@@ -3,6 +3,7 @@
 #include "foundation/files/data_folder.h"
 #include "foundation/files/record_file.h"
 #include "output/stocks/card_stock.h"
+#include "report/print_scale.h"
 #include "report/report_engine.h"
 
 #include <cstddef>
@@ -11,16 +12,12 @@
 #include <string_view>
 #include <vector>
 
-// The settings that every print takes along: the alignment `Config` and the printer `ConfigX`,
-// both in the data folder itself and so the same for all companies.
+// Where the print comes to lie on each stock: the record `Config`, in the data folder itself and so
+// the same for all companies, and what the alignment screen keeps beside it.
 
 namespace winvrx {
 
 inline constexpr std::string_view kAlignmentName = "Config";
-inline constexpr std::string_view kPrinterName = "ConfigX";
-
-/// What `ConfigX` holds for the system's default printer.
-inline constexpr std::string_view kDefaultPrinter = "Padrao";
 
 /// Twips, 1/1440 inch.
 inline constexpr int kDefaultOffset = 10;
@@ -59,9 +56,9 @@ void saveOffsets(const Store& store, std::size_t entry, const Offsets& offsets);
 /// Every entry is the default afterwards. Throws FileFault.
 void removeOffsets(const Store& store);
 
-/// The chosen printer; empty stands for the system's default printer. Throws FileFault.
-[[nodiscard]] std::string loadPrinterName(const Store& store);
-/// Throws FileFault, and TextFault for a name that cannot be stored.
-void savePrinterName(const Store& store, const std::string& name);
+/// How a print of this stock on this printer is moved: the stock's entry of the alignment list, the
+/// line offset and the printer's scale. Throws FileFault.
+[[nodiscard]] Alignment loadAlignment(const Store& store, const PrintScaleKey& key,
+                                      const AlignmentMemory& memory);
 
 }  // namespace winvrx
