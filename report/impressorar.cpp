@@ -40,9 +40,16 @@ std::vector<std::string> Impressorar::entries() const {
     return entries;
 }
 
-bool Impressorar::isReachable() const {
-    const std::string name = chosen_.empty() ? printers_.defaultName() : chosen_;
-    return std::ranges::find(names_, name) != names_.end();
+std::optional<std::size_t> Impressorar::position() const {
+    const auto meant = printersMeant(names_, chosen_);
+    if (chosen_.empty() || meant.size() != 1) return std::nullopt;
+    return static_cast<std::size_t>(std::ranges::find(names_, meant.front()) - names_.begin());
+}
+
+std::string Impressorar::problem() const {
+    if (!chosen_.empty()) return printerProblem(names_, chosen_);
+    const bool stands = std::ranges::find(names_, printers_.defaultName()) != names_.end();
+    return stands ? std::string() : "O sistema não tem impressora padrão.";
 }
 
 bool Impressorar::useDefault() {

@@ -4,6 +4,7 @@
 #include "foundation/desk/command.h"
 #include "report/printers.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,8 +31,11 @@ class Impressorar {
     [[nodiscard]] const std::string& chosen() const { return chosen_; }
     /// Empty when the system has none.
     [[nodiscard]] std::string defaultPrinter() const { return printers_.defaultName(); }
-    /// False when the chosen printer, or a default one, is not installed at the moment.
-    [[nodiscard]] bool isReachable() const;
+    /// Of the chosen one in printers(); nullopt for the default one, and where it is not there.
+    [[nodiscard]] std::optional<std::size_t> position() const;
+    /// Why the chosen printer, or a default one, cannot be reached at the moment; empty where it
+    /// can.
+    [[nodiscard]] std::string problem() const;
 
     /// "Imprimir direto na Impressora Padrão".
     bool useDefault();

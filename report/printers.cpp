@@ -3,38 +3,38 @@
 #include "foundation/values/text.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace winvrx {
 
 namespace {
 
 constexpr int kNumberDigits = 3;
-constexpr std::size_t kBeforeName = 4;
 constexpr std::size_t kNameWidth = 30;
-
-std::string shortName(std::string_view name) {
-    return std::string(trimmed(firstCharacters(name, kNameWidth)));
-}
 
 }  // namespace
 
 std::string printerEntry(std::size_t number, std::string_view name) {
-    return padded(static_cast<int>(number), kNumberDigits) + " " + fitted(name, kNameWidth);
+    const std::size_t width = std::max(kNameWidth, characterCount(name));
+    return padded(static_cast<int>(number), kNumberDigits) + " " + fitted(name, width);
 }
 
-std::string printerOfEntry(std::string_view entry) {
-    const std::size_t before = firstCharacters(entry, kBeforeName).size();
-    return shortName(entry.substr(before));
+std::vector<std::string> printersMeant(const std::vector<std::string>& installed,
+                                       std::string_view name) {
+    if (std::ranges::find(installed, name) != installed.end()) return {std::string(name)};
+    std::vector<std::string> meant;
+    std::ranges::copy_if(installed, std::back_inserter(meant), [name](const std::string& one) {
+        return trimmed(one) == name || trimmed(firstCharacters(one, kNameWidth)) == name;
+    });
+    return meant;
 }
 
-std::optional<std::string> installedPrinter(const std::vector<std::string>& installed,
-                                            std::string_view name) {
-    if (std::ranges::find(installed, name) != installed.end()) return std::string(name);
-    const auto isMeant = [name](const std::string& one) { return shortName(one) == name; };
-    const auto found = std::ranges::find_if(installed, isMeant);
-    if (found == installed.end() || std::ranges::count_if(installed, isMeant) > 1)
-        return std::nullopt;
-    return *found;
+std::string printerProblem(const std::vector<std::string>& installed, std::string_view name) {
+    const std::size_t count = printersMeant(installed, name).size();
+    if (count == 0) return "A impressora " + std::string(name) + " não foi encontrada.";
+    if (count == 1) return {};
+    return "Há mais de uma impressora cujo nome começa com " + std::string(name) +
+           ". Escolha-a de novo em \"Selecionar Impressora\".";
 }
 
 std::string loadPrinterName(const Store& store) {

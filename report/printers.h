@@ -2,7 +2,6 @@
 
 #include "foundation/files/record_file.h"
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,18 +21,20 @@ class Printers {
     [[nodiscard]] virtual bool openAddDialogue() = 0;
 };
 
-/// An entry of the list of printers: its number, and the name in characters 5 to 34.
+/// An entry of the list of printers: its number, and from the fifth character on the name, so that
+/// its first 30 characters are characters 5 to 34.
 ///
 ///     printerEntry(1, "HP LaserJet")      "001 HP LaserJet                   "
 [[nodiscard]] std::string printerEntry(std::size_t number, std::string_view name);
 
-/// Characters 5 to 34 of an entry, blanks trimmed.
-[[nodiscard]] std::string printerOfEntry(std::string_view entry);
+/// The installed printers that a recorded name may stand for: the one of that name, else those
+/// whose first 30 characters it is, as older records have it.
+[[nodiscard]] std::vector<std::string> printersMeant(const std::vector<std::string>& installed,
+                                                     std::string_view name);
 
-/// The installed printer that a name from an entry stands for: the printer of that name, else the
-/// only one whose first 30 characters it is. nullopt where there is none, or more than one.
-[[nodiscard]] std::optional<std::string> installedPrinter(const std::vector<std::string>& installed,
-                                                          std::string_view name);
+/// Why nothing can be printed on a recorded printer, in one sentence; empty where it can.
+[[nodiscard]] std::string printerProblem(const std::vector<std::string>& installed,
+                                         std::string_view name);
 
 /// The record of the chosen printer, in the data folder itself and so the same for all companies.
 inline constexpr std::string_view kPrinterName = "ConfigX";

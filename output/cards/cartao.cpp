@@ -142,7 +142,7 @@ CardBatch Cartao::batchOf(const std::vector<Employee>& people) const {
                                 .alignment = loadAlignment(at_.store(), key, desk_.alignment),
                                 .exit = choices_.printer.exit,
                                 .noun = cardNoun(),
-                                .printerName = printerOfEntry(printerEntry(1, printer_)),
+                                .printerName = printer_,
                                 .trays = choices_.printer.trays};
     return {.people = people,
             .companyName = company_.name,

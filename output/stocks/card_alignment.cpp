@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 
 namespace winvrx {
 
@@ -16,14 +17,16 @@ constexpr Column kHorizontal{11, std::string::npos};
 /// The offsets' own column has no end: a new one stands behind a blank, as in the default line.
 constexpr std::string_view kBeforeHorizontal = " ";
 
+/// A decimal number, with a comma or a point; the twips are whole.
 int offsetIn(std::string_view lineBytes, Column column) {
-    const std::string text = fieldOf(lineBytes, column);
-    int offset = kDefaultOffset;
+    std::string text = fieldOf(lineBytes, column);
+    std::ranges::replace(text, ',', '.');
+    double offset = kDefaultOffset;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), offset);
-    if (error == std::errc::result_out_of_range && end == text.data() + text.size())
-        return text.front() == '-' ? 0 : kGreatestOffset;
-    if (error != std::errc() || end != text.data() + text.size()) return kDefaultOffset;
-    return std::clamp(offset, 0, kGreatestOffset);
+    const bool isNumber = error == std::errc() && end == text.data() + text.size() &&
+                          text.find_first_not_of("-.0123456789") == std::string::npos;
+    if (!isNumber) return kDefaultOffset;
+    return static_cast<int>(std::lround(std::clamp<double>(offset, 0, kGreatestOffset)));
 }
 
 /// At least one for each entry.

@@ -1,6 +1,7 @@
 #include "output/stocks/cartao_pontos.h"
 
 #include "foundation/register/company_register.h"
+#include "foundation/values/text.h"
 #include "output/stocks/sample_card.h"
 #include "report/calibration.h"
 #include "report/print_pages.h"
@@ -14,7 +15,8 @@ namespace {
 
 const Message kConfirmReset =
     riskyQuestion("EXCLUSÃO", "Confirma a Volta de Todos os Alinhamentos ao Padrão?",
-                  "Os ajustes de todos os tipos de cartão voltam a 10 e 10.");
+                  "Os ajustes de todos os tipos de cartão voltam a 10 e 10, e a impressão "
+                  "deixa de descer em linhas.");
 const Message kConfirmCalibration = question(
     "Imprimir Folha de Calibração",
     "Coloque uma Folha A4 em Branco na Impressora! Pressione SIM para Imprimir ou NÃO para "
@@ -48,6 +50,7 @@ Offsets moved(Offsets offsets, Direction direction) {
 }  // namespace
 
 std::string lineOffsetText(int lines) {
+    if (lines == 0) return "nenhuma";
     return std::to_string(lines) + (lines == 1 ? " Linha" : " Linhas");
 }
 
@@ -116,14 +119,14 @@ bool CartaoPontos::reset() {
 }
 
 std::string CartaoPontos::lineOffset() const {
-    return desk_.memory.lines == 0 ? std::string() : lineOffsetText(desk_.memory.lines);
+    return lineOffsetText(desk_.memory.lines);
 }
 
 void CartaoPontos::typeLineOffset(std::string_view text) {
     int& lines = desk_.memory.lines;
-    lines = kGreatestLineOffset;
-    while (lines > 1 && lineOffsetText(lines) != text)
-        --lines;
+    for (lines = kGreatestLineOffset; lines >= 0; --lines)
+        if (lineOffsetText(lines) == text) return;
+    lines = trimmed(text).empty() ? 0 : 1;
 }
 
 std::string CartaoPontos::printer() const {
@@ -199,7 +202,7 @@ bool CartaoPontos::printCalibrationSheet() {
 
 bool CartaoPontos::print(ReportRequest request, const ReportRows& rows) {
     request.output = ReportOutput::Printer;
-    request.printerName = printerOfEntry(printerEntry(1, printer_));
+    request.printerName = printer_;
     request.trays = feed_.trays;
     ReportPages one(1, [&rows](std::size_t) { return rows; });
     return printPages({at_, desk_.engine}, request, one) == PrintEnd::Done;

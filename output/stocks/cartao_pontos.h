@@ -23,7 +23,7 @@ inline constexpr int kGreatestLineOffset = 10;
 
 enum class Direction { Left, Right, Up, Down };
 
-/// "1 Linha" … "10 Linhas".
+/// "nenhuma", "1 Linha" … "10 Linhas".
 [[nodiscard]] std::string lineOffsetText(int lines);
 
 /// What the alignment screen works with beside the desk. All outlive the screen.
@@ -62,9 +62,9 @@ class CartaoPontos {
     /// "Reset Alinhamentos": all entries, and the line offset. False when refused.
     bool reset();
 
-    /// The line offset's text; empty until one is chosen.
+    /// The line offset's text; "nenhuma" until one is chosen.
     [[nodiscard]] std::string lineOffset() const;
-    /// Takes a text of the drop-down; any other becomes "1 Linha".
+    /// Takes a text of the drop-down, and a blank one for "nenhuma"; any other becomes "1 Linha".
     void typeLineOffset(std::string_view text);
 
     /// The printer whose scale is shown; empty when none is installed.

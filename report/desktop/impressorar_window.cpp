@@ -13,8 +13,6 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace winvrx {
 
 namespace {
@@ -108,7 +106,7 @@ void ImpressorarWindow::chooseKind(int kind) {
 }
 
 void ImpressorarWindow::chooseRow(int row) {
-    if (screen_.printers().at(static_cast<std::size_t>(row)) == screen_.chosen()) return;
+    if (screen_.position() == static_cast<std::size_t>(row)) return;
     if (screen_.use(static_cast<std::size_t>(row)))
         showChoice();
     else  // The list is not to change while it tells of a row.
@@ -127,22 +125,18 @@ void ImpressorarWindow::showPrinters() {
 
 void ImpressorarWindow::showChoice() {
     const QSignalBlocker quiet(list_);
-    const auto& names = screen_.printers();
-    const auto chosen = std::ranges::find(names, screen_.chosen());
     list_->clearSelection();
-    if (chosen != names.end()) list_->setCurrentRow(static_cast<int>(chosen - names.begin()));
+    if (const auto chosen = screen_.position()) list_->setCurrentRow(static_cast<int>(*chosen));
     const bool isDefault = screen_.chosen().empty();
     kind_->choose(isDefault ? kDefault : kInstalled);
-    const std::string name = isDefault ? screen_.defaultPrinter() : screen_.chosen();
     setSubtitle(isDefault ? QStringLiteral("Em uso: impressora padrão")
-                          : QStringLiteral("Em uso: ") + toQt(name));
-    if (screen_.isReachable())
-        setState(isDefault ? QStringLiteral("Impressora padrão: ") + toQt(name)
-                           : QStringLiteral("A escolha é gravada na hora."));
+                          : QStringLiteral("Em uso: ") + toQt(screen_.chosen()));
+    const std::string problem = screen_.problem();
+    if (!problem.empty())
+        setState(QStringLiteral("⚠ ") + toQt(problem));
     else
-        setState(isDefault
-                     ? QStringLiteral("⚠ O sistema não tem impressora padrão.")
-                     : QStringLiteral("⚠ A impressora %1 não está instalada.").arg(toQt(name)));
+        setState(isDefault ? QStringLiteral("Impressora padrão: ") + toQt(screen_.defaultPrinter())
+                           : QStringLiteral("A escolha é gravada na hora."));
 }
 
 }  // namespace winvrx

@@ -2,6 +2,7 @@
 
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/faults.h"
+#include "foundation/values/text.h"
 #include "report/desktop/layout_painter.h"
 #include "report/desktop/system_printers.h"
 
@@ -72,16 +73,15 @@ ReportFault printerGone(const std::string& what, const std::string& explanation)
 }
 
 QPrinterInfo printerOf(const std::string& name) {
-    std::optional<std::string> found = name;
-    if (!name.empty()) found = installedPrinter(SystemPrinters::installed(), name);
-    const QPrinterInfo info = name.empty() ? QPrinterInfo::defaultPrinter()
-                              : found      ? QPrinterInfo::printerInfo(toQt(*found))
-                                           : QPrinterInfo();
-    if (info.isNull())
-        throw printerGone(name.empty() ? "no default printer" : "no printer of the name " + name,
-                          name.empty() ? "Nenhuma impressora padrão está definida."
-                                       : "A impressora " + name + " não foi encontrada.");
-    return info;
+    if (name.empty()) {
+        const QPrinterInfo usual = QPrinterInfo::defaultPrinter();
+        if (!usual.isNull()) return usual;
+        throw printerGone("no default printer", "Nenhuma impressora padrão está definida.");
+    }
+    const auto installed = SystemPrinters::installed();
+    const std::string problem = printerProblem(installed, name);
+    if (!problem.empty()) throw printerGone("no printer of the name " + name, problem);
+    return QPrinterInfo::printerInfo(toQt(printersMeant(installed, name).front()));
 }
 
 /// Hands an option to the printing system by its PPD keyword. The property's number is the one
@@ -102,9 +102,9 @@ class PrinterDevice final : public ReportDevice {
         printer_.setCreator(QStringLiteral("Winvrx"));
         printer_.setPageLayout(borderless(page));
         const auto tray =
-            std::ranges::find_if(request.trays, [](const auto& name) { return !name.empty(); });
+            std::ranges::find_if(request.trays, [](const auto& name) { return !trimmed(name).empty(); });
         if (tray != request.trays.end())
-            setSystemOption(printer_, QStringLiteral("InputSlot"), toQt(*tray));
+            setSystemOption(printer_, QStringLiteral("InputSlot"), toQt(trimmed(*tray)));
     }
 
     QPainter& nextPage() override {

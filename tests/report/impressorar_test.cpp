@@ -4,7 +4,7 @@
 #include "tests/support/test_printers.h"
 #include "tests/support/test_workplace.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace winvrx {
 namespace {
@@ -12,19 +12,41 @@ namespace {
 using testing::TestBrowser;
 using testing::TestPrinters;
 using testing::TestWorkplace;
+using ::testing::HasSubstr;
 using Texts = std::vector<std::string>;
 
-TEST(PrinterEntry, HoldsTheNameInCharacters5To34) {
+/// Thirty characters.
+const std::string kLong = "Impressora-da-recepcao-do-3o-a";
+
+TEST(PrinterEntry, HoldsTheNameFromItsFifthCharacter) {
     EXPECT_EQ(printerEntry(7, "Impressão"), "007 Impressão                     ");
-    EXPECT_EQ(printerOfEntry(printerEntry(7, "Impressão")), "Impressão");
-    const std::string longName = "Impressora-da-recepcao-do-3o-andar";
-    EXPECT_EQ(printerOfEntry(printerEntry(1, longName)), "Impressora-da-recepcao-do-3o-a");
-    EXPECT_EQ(printerOfEntry(printerEntry(1, "")), "");
-    EXPECT_EQ(printerOfEntry("0"), "");
-    EXPECT_EQ(installedPrinter({"Epson", longName}, "Impressora-da-recepcao-do-3o-a"), longName);
-    EXPECT_EQ(installedPrinter({longName, longName + "2"}, "Impressora-da-recepcao-do-3o-a"),
-              std::nullopt);
-    EXPECT_EQ(installedPrinter({"Epson"}, "Epso"), std::nullopt);
+    EXPECT_EQ(printerEntry(12, kLong + "balcao"), "012 " + kLong + "balcao");
+}
+
+TEST(Printer, OneThatIsThereIsNeverCalledMissing) {
+    struct Case {
+        const char* what;
+        Texts installed;
+        std::string recorded;
+        Texts meant;
+        const char* problem;
+    };
+    for (const Case& one : {
+             Case{"its name", {"Epson", "HP"}, "HP", {"HP"}, ""},
+             Case{"a whole name, another begins alike",
+                  {kLong + "1", kLong + "2"}, kLong + "2", {kLong + "2"}, ""},
+             Case{"the beginning of one name", {"Epson", kLong + "1"}, kLong, {kLong + "1"}, ""},
+             Case{"the beginning that is a name too", {kLong + "1", kLong}, kLong, {kLong}, ""},
+             Case{"the beginning of two", {kLong + "1", kLong + "2"}, kLong,
+                  {kLong + "1", kLong + "2"}, "Há mais de uma impressora"},
+             Case{"blanks around it", {" HP "}, "HP", {" HP "}, ""},
+             Case{"less than 30 characters", {"Epson"}, "Epso", {}, "não foi encontrada"},
+         }) {
+        SCOPED_TRACE(one.what);
+        EXPECT_EQ(printersMeant(one.installed, one.recorded), one.meant);
+        EXPECT_THAT(printerProblem(one.installed, one.recorded), HasSubstr(one.problem));
+        EXPECT_EQ(printerProblem(one.installed, one.recorded).empty(), one.meant.size() == 1);
+    }
 }
 
 TEST(PrinterEntry, ChosenIsTheStoredNameOrTheDefaultOne) {
@@ -66,9 +88,20 @@ TEST_F(Opened, APrinterThatWentMeanwhileCannotBeChosen) {
     EXPECT_EQ(desk.person.takeTexts(), Texts{"ERRO AO IMPRIMIR"});
     EXPECT_FALSE(desk.files.exists("/data/ConfigX"));
     EXPECT_EQ(screen.printers(), Texts{"Epson"});
-    EXPECT_TRUE(screen.isReachable());
+    EXPECT_EQ(screen.problem(), "");
     printers.usual = "";
-    EXPECT_FALSE(screen.isReachable());
+    EXPECT_EQ(screen.problem(), "O sistema não tem impressora padrão.");
+}
+
+TEST_F(Opened, TwoThatBeginAlikeAreToldApartByTheirEntries) {
+    printers.installed = {kLong + "1", kLong + "2"};
+    desk.file("ConfigX") = kLong + "\r\n";
+    screen.load();
+    EXPECT_NE(screen.entries()[0].substr(4), screen.entries()[1].substr(4));
+    EXPECT_EQ(screen.position(), std::nullopt);
+    EXPECT_TRUE(screen.use(1));
+    EXPECT_EQ(desk.file("ConfigX"), kLong + "2\r\n");
+    EXPECT_EQ(screen.position(), 1U);
 }
 
 TEST_F(Opened, AFailedOrOvertakenChoiceLeavesTheFormerOne) {

@@ -84,10 +84,8 @@ QWidget* AlignmentPad::buildLineOffset() {
     lines_->setObjectName(QStringLiteral("alinhamento.lines"));
     lines_->setEditable(true);
     lines_->setInsertPolicy(QComboBox::NoInsert);
-    for (int lines = 1; lines <= kGreatestLineOffset; ++lines)
+    for (int lines = 0; lines <= kGreatestLineOffset; ++lines)
         lines_->addItem(toQt(lineOffsetText(lines)));
-    lines_->setCurrentIndex(-1);
-    lines_->lineEdit()->setPlaceholderText(QStringLiteral("nenhuma"));
     lines_->setCompleter(nullptr);
     connect(lines_, &QComboBox::textActivated, this, &AlignmentPad::lineOffsetTyped);
     connect(lines_->lineEdit(), &QLineEdit::editingFinished, this, &AlignmentPad::finishTyping);

@@ -18,7 +18,6 @@ class AlignmentPad : public QWidget {
     explicit AlignmentPad(QWidget* parent = nullptr);
 
     void showOffsets(const Offsets& offsets);
-    /// Empty while none is chosen.
     void showLineOffset(const QString& text);
     /// Tells of a line offset that is typed and not yet told.
     void finishTyping();

@@ -261,7 +261,7 @@ TEST_F(CartaoOpened, AlignmentAndPrinterAreThoseOfTheStockInUse) {
     savePrinterName(desk.store(), "Impressora-da-recepcao-do-3o-andar");
     screen.load();
     EXPECT_TRUE(screen.printAll({}));
-    EXPECT_EQ(engine.jobs.at(1).request.printerName, "Impressora-da-recepcao-do-3o-a");
+    EXPECT_EQ(engine.jobs.at(1).request.printerName, "Impressora-da-recepcao-do-3o-andar");
     EXPECT_EQ(engine.jobs.at(1).request.alignment.scale, PrintScale());
 }
 

@@ -87,7 +87,7 @@ TEST_F(CartaoPontosTest, ResetAsksAndBringsTheDefaultsBack) {
 }
 
 TEST_F(CartaoPontosTest, LineOffsetTakesTheTextsOfItsListOnly) {
-    EXPECT_EQ(screen.lineOffset(), "");
+    EXPECT_EQ(screen.lineOffset(), "nenhuma");
     struct Case {
         const char* typed;
         const char* shown;
@@ -96,7 +96,7 @@ TEST_F(CartaoPontosTest, LineOffsetTakesTheTextsOfItsListOnly) {
     for (const Case& one :
          {Case{"2 Linhas", "2 Linhas", 2}, Case{"11 Linhas", "1 Linha", 1},
           Case{"10 Linhas", "10 Linhas", 10}, Case{"1 Linha", "1 Linha", 1},
-          Case{"9 linhas", "1 Linha", 1}, Case{"5", "1 Linha", 1}, Case{"", "1 Linha", 1},
+          Case{"9 linhas", "1 Linha", 1}, Case{"5", "1 Linha", 1}, Case{"", "nenhuma", 0}, Case{"0", "1 Linha", 1}, Case{"nenhuma", "nenhuma", 0},
           Case{"1 Linhas", "1 Linha", 1}, Case{"0 Linhas", "1 Linha", 1}}) {
         screen.typeLineOffset(one.typed);
         EXPECT_EQ(screen.lineOffset(), one.shown) << one.typed;

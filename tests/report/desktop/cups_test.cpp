@@ -53,7 +53,7 @@ TEST_F(Cups, PrintsTheCardsOfARunAsOneJob) {
     printServer.addPrinter(QStringLiteral("cartao"));
     desk_.request.printerName = "cartao";
     desk_.request.alignment = {720, 1440, 0};
-    desk_.request.trays = {"", "Manual", "Lower"};
+    desk_.request.trays = {" ", " Manual", "Lower"};
     ASSERT_EQ(desk_.print(3), PrintEnd::Done) << ::testing::PrintToString(desk_.log.entries);
 
     EXPECT_EQ(printedPages(), 3);

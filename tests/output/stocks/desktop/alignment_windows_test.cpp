@@ -90,7 +90,7 @@ TEST_F(AlignmentWindow, TypedLineOffsetIsAnsweredAndMovesTheSample) {
     DrivenWindow<CartaoPontosWindow> driven(screen, shippedLayout);
     const QPoint before = firstInk(driven);
     auto& lines = driven.get<QComboBox>("alinhamento.lines");
-    EXPECT_EQ(lines.count(), 10);
+    EXPECT_EQ(lines.count(), 11);
     const auto type = [&](const char* text) {
         lines.lineEdit()->setFocus();
         lines.lineEdit()->selectAll();
@@ -103,9 +103,15 @@ TEST_F(AlignmentWindow, TypedLineOffsetIsAnsweredAndMovesTheSample) {
     EXPECT_GT(firstInk(driven).y(), before.y());
     EXPECT_EQ(type("7 Linhas"), "7 Linhas");
     EXPECT_EQ(memory.lines, 7);
-    lines.setCurrentIndex(2);
+    lines.setCurrentIndex(3);
     emit lines.textActivated(lines.currentText());
     EXPECT_EQ(memory.lines, 3);
+    lines.lineEdit()->setFocus();
+    lines.lineEdit()->selectAll();
+    QTest::keyClick(lines.lineEdit(), Qt::Key_Delete);
+    QTest::keyClick(lines.lineEdit(), Qt::Key_Tab);
+    EXPECT_EQ(lines.currentText(), QStringLiteral("nenhuma"));
+    EXPECT_EQ(firstInk(driven), before);
 }
 
 TEST_F(AlignmentWindow, TypedLineOffsetCountsBeforeItsFieldIsLeft) {
