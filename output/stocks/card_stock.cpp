@@ -41,9 +41,13 @@ std::string settingLineOf(const CardStock& stock) {
     return std::string(stock.code) + std::string(stock.storedName);
 }
 
-const CardStock* loadStock(const Store& store, const CompanyCode& company) {
+std::string loadStockCode(const Store& store, const CompanyCode& company) {
     const auto lines = RecordFile(store, company, kStockSettingName).lines();
-    return lines.empty() ? nullptr : findStock(fieldOf(lines.front(), kCodeColumn));
+    return lines.empty() ? std::string() : fieldOf(lines.front(), kCodeColumn);
+}
+
+const CardStock* loadStock(const Store& store, const CompanyCode& company) {
+    return findStock(loadStockCode(store, company));
 }
 
 void saveStock(const Store& store, const CompanyCode& company, const CardStock& stock) {

@@ -74,6 +74,10 @@ inline constexpr std::array<std::string_view, 16> kPrintOrder = {
 /// The line of the setting file: "12SDN", "05", "06 BMVIX - TRIX".
 [[nodiscard]] std::string settingLineOf(const CardStock& stock);
 
+/// The stored code of the stock in use, whatever it is; empty where none is stored. Throws
+/// FileFault.
+[[nodiscard]] std::string loadStockCode(const Store& store, const CompanyCode& company);
+
 /// The stock in use at the selected company; nullptr when none is stored or the code is unknown.
 /// Throws FileFault.
 [[nodiscard]] const CardStock* loadStock(const Store& store, const CompanyCode& company);

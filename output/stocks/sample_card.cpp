@@ -1,8 +1,13 @@
 #include "output/stocks/sample_card.h"
 
+#include <array>
+
 namespace winvrx {
 
 namespace {
+
+/// In the middle of each half of the month.
+constexpr std::array<std::size_t, 2> kMonthRows = {7, 22};
 
 DaySchedule sampleTimes() {
     return {.morning = {parseTime("08:00"), parseTime("12:00")},
@@ -18,6 +23,12 @@ std::vector<PunchLine> samplePunches(WorkMonth month) {
         line.afternoonExit = "17:00";
         line.extraEntry = "18:00";
         line.extraExit = "19:00";
+    }
+    for (const std::size_t row : kMonthRows) {
+        PunchLine said;
+        said.label = lines.at(row).label;
+        said.situation = monthTitle(month);
+        lines.at(row) = said;
     }
     return lines;
 }

@@ -1,5 +1,7 @@
 #include "output/stocks/tipo_ponto.h"
 
+#include "foundation/values/text.h"
+
 namespace winvrx {
 
 namespace {
@@ -13,8 +15,12 @@ TipoPonto::TipoPonto(const Workplace& at, Browser& browser) : at_(at), browser_(
 
 void TipoPonto::load() {
     current_ = nullptr;
-    (void)attempt(at_, incorrectData(),
-                  [this] { current_ = loadStock(at_.store(), *at_.session.company); });
+    strangeCode_.clear();
+    (void)attempt(at_, incorrectData(), [this] {
+        const std::string code = loadStockCode(at_.store(), *at_.session.company);
+        current_ = findStock(code);
+        if (!current_ || !current_->offered) strangeCode_ = trimmed(code + " " + label());
+    });
 }
 
 std::vector<const CardStock*> TipoPonto::offered() {
@@ -34,6 +40,7 @@ bool TipoPonto::choose(const CardStock& stock) {
             throw Fault("stock changed on disk", std::string(kChangedElsewhere));
         saveStock(at_.store(), *at_.session.company, stock);
         current_ = &stock;
+        strangeCode_.clear();
     });
 }
 

@@ -22,6 +22,8 @@ class TipoPonto {
 
     /// nullptr while nothing, or nothing known, is stored.
     [[nodiscard]] const CardStock* current() const { return current_; }
+    /// What is stored and is no card to print on: "14 Etiqueta", "77". Empty otherwise.
+    [[nodiscard]] const std::string& strangeCode() const { return strangeCode_; }
     /// The display name of the current stock; empty when there is none.
     [[nodiscard]] std::string label() const;
 
@@ -34,6 +36,7 @@ class TipoPonto {
     Workplace at_;
     Browser& browser_;
     const CardStock* current_ = nullptr;
+    std::string strangeCode_;
 };
 
 }  // namespace winvrx

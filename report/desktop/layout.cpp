@@ -55,10 +55,11 @@ DrawnColumns drawnColumns(const Layout& layout) {
 }
 
 LayoutFault::LayoutFault(const std::string& file, const std::string& cause)
-    : Fault(file + ": " + cause, "O layout " + file + " não pôde ser aberto.") {}
+    : Fault(file + ": " + cause, "O layout " + file + " não pôde ser aberto: " + cause + ".") {}
 
 LayoutFault::LayoutFault(const std::string& file, long long line, const std::string& cause)
     : Fault(file + ":" + std::to_string(line) + ": " + cause,
-            "O layout " + file + " tem um erro na linha " + std::to_string(line) + ".") {}
+            "O layout " + file + " tem um erro na linha " + std::to_string(line) + ": " + cause +
+                ".") {}
 
 }  // namespace winvrx

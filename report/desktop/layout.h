@@ -114,7 +114,8 @@ struct Layout {
 
 [[nodiscard]] DrawnColumns drawnColumns(const Layout& layout);
 
-/// A layout that is missing or damaged. `what()` reads "tilibcenter.rpt:12: cause".
+/// A layout that is missing or damaged. `what()` reads "tilibcenter.rpt:12: cause", and the
+/// explanation says the same in a sentence. The cause is in Portuguese, for whoever draws layouts.
 class LayoutFault : public Fault {
   public:
     LayoutFault(const std::string& file, const std::string& cause);

@@ -22,7 +22,6 @@ const QStringList kSilentElements = {QStringLiteral("metadata"), QStringLiteral(
 const QString kDescription = QStringLiteral("desc");
 
 constexpr int kMostSides = 2;
-constexpr int kMostRows = 31;
 constexpr double kNarrowestPage = 1;  // millimetres
 constexpr double kWidestPage = 2000;
 constexpr double kCoarsestScale = 1e4;
@@ -59,15 +58,21 @@ class LayoutReader {
         } catch (const BadValue& fault) {
             throw LayoutFault(name_, xml_.lineNumber(), fault.what());
         }
-        if (xml_.hasError())
-            throw LayoutFault(name_, xml_.lineNumber(), xml_.errorString().toStdString());
+        if (xml_.hasError()) throw LayoutFault(name_, xml_.lineNumber(), xmlFault());
         return std::move(layout_);
     }
 
   private:
+    [[nodiscard]] std::string xmlFault() const {
+        return xml_.error() == QXmlStreamReader::PrematureEndOfDocumentError
+                   ? "o arquivo termina antes do fim"
+                   : "não é XML bem formado";
+    }
+
     void readRoot() {
         if (!xml_.readNextStartElement()) return;
-        if (xml_.name() != QStringLiteral("svg")) throw BadValue(QStringLiteral("not an svg file"));
+        if (xml_.name() != QStringLiteral("svg"))
+            throw BadValue(QStringLiteral("não é um arquivo svg"));
         const ElementValues values(xml_.attributes());
         Context context;
         readPage(values, context);
@@ -76,7 +81,7 @@ class LayoutReader {
         if (xml_.hasError()) return;
         if (layout_.rowPitch == 0)
             throw BadValue(QStringLiteral(
-                "no group with data-rows and data-pitch, and no data-pitch on the svg element"));
+                "nenhum grupo tem data-rows e data-pitch, e o elemento svg não tem data-pitch"));
         while (!xml_.atEnd())
             xml_.readNext();
     }
@@ -86,14 +91,14 @@ class LayoutReader {
         const double height = pageLength(values, QStringLiteral("height"));
         const auto box = numberList(values.text(QStringLiteral("viewBox")).value_or(QString()));
         if (box.size() != 4 || box[2] <= 0 || box[3] <= 0)
-            throw BadValue(QStringLiteral("viewBox is missing or not four numbers"));
+            throw BadValue(QStringLiteral("viewBox falta ou não tem quatro números"));
         constexpr double kTolerance = 0.001;
         if (std::abs(width / box[2] * box[3] / height - 1) > kTolerance)
-            throw BadValue(QStringLiteral("viewBox has not the proportions of width and height"));
+            throw BadValue(QStringLiteral("viewBox não tem as proporções de width e height"));
         layout_.page = QSizeF(width, height);
         scale_ = width * kLayoutUnitsPerMillimetre / box[2];
         if (scale_ > kCoarsestScale)
-            throw BadValue(QStringLiteral("viewBox is too small for width and height"));
+            throw BadValue(QStringLiteral("viewBox é pequeno demais para width e height"));
         context.origin = QPointF(-box[0], -box[1]) * scale_;
         if (const auto pitch = values.number(QStringLiteral("data-pitch")))
             layout_.rowPitch = positive(*pitch, QStringLiteral("data-pitch")) * scale_;
@@ -102,7 +107,7 @@ class LayoutReader {
     static double pageLength(const ElementValues& values, const QString& name) {
         const double length = values.requiredMillimetres(name);
         if (length < kNarrowestPage || length > kWidestPage)
-            throw BadValue(QStringLiteral("%1 is not from %2mm to %3mm")
+            throw BadValue(QStringLiteral("%1 não está entre %2mm e %3mm")
                                .arg(name)
                                .arg(kNarrowestPage)
                                .arg(kWidestPage));
@@ -110,7 +115,8 @@ class LayoutReader {
     }
 
     void readChildren(const Context& context) {
-        if (++depth_ > kDeepestGroup) throw BadValue(QStringLiteral("groups nested too deep"));
+        if (++depth_ > kDeepestGroup)
+            throw BadValue(QStringLiteral("grupos demais um dentro do outro"));
         readChildrenOf(context);
         --depth_;
     }
@@ -148,7 +154,7 @@ class LayoutReader {
             readLine(values, context);
         } else {
             throw BadValue(
-                QStringLiteral("<%1> cannot be drawn; use rect, line and text").arg(name));
+                QStringLiteral("<%1> não pode ser desenhado; use rect, line e text").arg(name));
         }
     }
 
@@ -173,20 +179,21 @@ class LayoutReader {
     void readGroup(const ElementValues& values, Context& context) {
         if (const auto block = values.text(QStringLiteral("data-block"))) {
             if (context.block != LayoutBlock::Always)
-                throw BadValue(QStringLiteral("data-block inside another block"));
+                throw BadValue(QStringLiteral("data-block dentro de outro bloco"));
             context.block = blockNamed(*block);
         }
-        if (const auto side = numbered(values, QStringLiteral("data-side"), kMostSides)) {
-            if (context.side > 0) throw BadValue(QStringLiteral("data-side inside data-side"));
+        if (const auto side = values.count(QStringLiteral("data-side"), kMostSides)) {
+            if (context.side > 0) throw BadValue(QStringLiteral("data-side dentro de data-side"));
             context.side = *side;
             layout_.sides = std::max(layout_.sides, *side);
         }
-        if (const auto first = numbered(values, QStringLiteral("data-first"), kMostRows)) {
-            if (context.first > 0) throw BadValue(QStringLiteral("data-first inside data-first"));
+        if (const auto first = values.count(QStringLiteral("data-first"), kMostRows)) {
+            if (context.first > 0)
+                throw BadValue(QStringLiteral("data-first dentro de data-first"));
             context.first = *first - 1;
         }
-        if (const auto rows = values.count(QStringLiteral("data-rows"))) {
-            if (context.rows > 0) throw BadValue(QStringLiteral("data-rows inside data-rows"));
+        if (const auto rows = values.count(QStringLiteral("data-rows"), kMostRows)) {
+            if (context.rows > 0) throw BadValue(QStringLiteral("data-rows dentro de data-rows"));
             const double pitch = values.requiredNumber(QStringLiteral("data-pitch"));
             context.rows = *rows;
             context.pitch = positive(pitch, QStringLiteral("data-pitch")) * scale_;
@@ -195,20 +202,13 @@ class LayoutReader {
         readChildren(context);
     }
 
-    static std::optional<int> numbered(const ElementValues& values, const QString& name, int most) {
-        const auto number = values.count(name);
-        if (number && (*number < 1 || *number > most))
-            throw BadValue(QStringLiteral("%1 is not from 1 to %2").arg(name).arg(most));
-        return number;
-    }
-
     void readRect(const ElementValues& values, const Context& context) {
         const QRectF area(position(values, context, QStringLiteral("x"), QStringLiteral("y")),
                           QSizeF(values.requiredNumber(QStringLiteral("width")),
                                  values.requiredNumber(QStringLiteral("height"))) *
                               scale_);
         if (area.width() < 0 || area.height() < 0)
-            throw BadValue(QStringLiteral("a rect of negative size"));
+            throw BadValue(QStringLiteral("um rect de tamanho negativo"));
         add(LayoutRect{area, context.fill, context.stroke, context.strokeWidth * scale_}, context);
         xml_.skipCurrentElement();
     }
@@ -234,7 +234,7 @@ class LayoutReader {
         const auto field = values.text(QStringLiteral("data-field"));
         const auto pattern = values.text(QStringLiteral("data-template"));
         if (field && pattern)
-            throw BadValue(QStringLiteral("data-field and data-template on one text"));
+            throw BadValue(QStringLiteral("data-field e data-template no mesmo text"));
         if (field) text.pieces.push_back({QString(), columnNamed(*field, columns_)});
         if (pattern) text.pieces = templatePieces(*pattern, columns_);
         const QString sample = readSample();
@@ -251,9 +251,10 @@ class LayoutReader {
             if (xml_.isCharacters()) sample += xml_.text();
             if (!xml_.isStartElement()) continue;
             if (xml_.name() != QStringLiteral("tspan"))
-                throw BadValue(QStringLiteral("<%1> inside a text").arg(xml_.name()));
+                throw BadValue(QStringLiteral("<%1> dentro de um text").arg(xml_.name()));
             if (++tspans > 1)
-                throw BadValue(QStringLiteral("a text of several lines; use one text for each"));
+                throw BadValue(
+                    QStringLiteral("um text de várias linhas; use um text para cada uma"));
         }
         return sample.simplified();
     }
@@ -265,21 +266,21 @@ class LayoutReader {
     }
 
     static double positive(double number, const QString& name) {
-        if (number <= 0) throw BadValue(QStringLiteral("%1 is not above 0").arg(name));
+        if (number <= 0) throw BadValue(QStringLiteral("%1 não é maior que 0").arg(name));
         return number;
     }
 
     std::size_t inkOf(const Context& context) {
-        if (context.fontSize <= 0) throw BadValue(QStringLiteral("font-size is missing"));
+        if (context.fontSize <= 0) throw BadValue(QStringLiteral("falta font-size"));
         const double size = context.fontSize * scale_;
-        if (size > kLargestLetter) throw BadValue(QStringLiteral("font-size is too large"));
+        if (size > kLargestLetter) throw BadValue(QStringLiteral("font-size é grande demais"));
         const Ink ink{context.families, std::max(1, qRound(size)), context.fontWeight,
                       context.italic, context.fill};
         const auto found = std::ranges::find(layout_.inks, ink);
         if (found != layout_.inks.end())
             return static_cast<std::size_t>(found - layout_.inks.begin());
         if (layout_.inks.size() == kMostInks)
-            throw BadValue(QStringLiteral("more than %1 fonts and colours").arg(kMostInks));
+            throw BadValue(QStringLiteral("mais de %1 letras e cores").arg(kMostInks));
         layout_.inks.push_back(ink);
         return layout_.inks.size() - 1;
     }
@@ -291,8 +292,10 @@ class LayoutReader {
     }
 
     void add(LayoutMark mark, const Context& context) {
-        if (++marks_ > kMostMarks)
-            throw BadValue(QStringLiteral("more than %1 elements").arg(kMostMarks));
+        marks_ += static_cast<std::size_t>(std::max(1, context.rows));
+        if (marks_ > kMostMarks)
+            throw BadValue(
+                QStringLiteral("mais de %1 elementos, contadas as repetições").arg(kMostMarks));
         auto& sections = layout_.sections;
         if (sections.empty() || !belongsTo(sections.back(), context))
             sections.push_back({.block = context.block,
@@ -324,7 +327,7 @@ std::string listed(const std::vector<std::filesystem::path>& folders) {
 
 Layout readLayout(QIODevice& file, const std::string& name, const ColumnNames& columns) {
     if (file.size() > kLargestLayout)
-        throw LayoutFault(name, "larger than " + std::to_string(kLargestLayout >> 20) + " MB");
+        throw LayoutFault(name, "maior que " + std::to_string(kLargestLayout >> 20) + " MB");
     return LayoutReader(file, name, columns).read();
 }
 
@@ -341,9 +344,9 @@ std::optional<std::filesystem::path> findLayout(const std::vector<std::filesyste
 Layout loadLayout(const std::vector<std::filesystem::path>& folders, const std::string& name,
                   const ColumnNames& columns) {
     if (name.empty() || std::filesystem::path(name).filename() != name)
-        throw LayoutFault(name, "not the name of a layout file");
+        throw LayoutFault(name, "não é um nome de arquivo");
     const auto path = findLayout(folders, name);
-    if (!path) throw LayoutFault(name, "not found in " + listed(folders));
+    if (!path) throw LayoutFault(name, "não está em " + listed(folders));
     QFile file(*path);
     if (!file.open(QIODevice::ReadOnly))
         throw LayoutFault(path->string(), file.errorString().toStdString());

@@ -16,7 +16,8 @@ namespace winvrx {
 /// full memory or a run without end.
 inline constexpr long long kLargestLayout = 4LL << 20;
 inline constexpr int kDeepestGroup = 64;
-inline constexpr std::size_t kMostMarks = 20'000;
+inline constexpr int kMostRows = 200;              ///< more than paper has lines
+inline constexpr std::size_t kMostMarks = 20'000;  ///< counted as often as they are drawn
 inline constexpr std::size_t kMostInks = 200;
 
 /// The columns that a layout may draw, in the order of a row's texts.

@@ -15,9 +15,9 @@ double toNumber(const QString& text, const QString& name) {
     bool valid = false;
     const double number = text.toDouble(&valid);
     if (!valid || !std::isfinite(number))
-        throw BadValue(QStringLiteral("%1=\"%2\" is not a number").arg(name, text));
+        throw BadValue(QStringLiteral("%1=\"%2\" não é um número").arg(name, text));
     if (std::abs(number) > kGreatestNumber)
-        throw BadValue(QStringLiteral("%1=\"%2\" is too large").arg(name, text));
+        throw BadValue(QStringLiteral("%1=\"%2\" é grande demais").arg(name, text));
     return number;
 }
 
@@ -57,18 +57,17 @@ std::optional<double> ElementValues::number(const QString& name) const {
 
 double ElementValues::requiredNumber(const QString& name) const {
     if (const auto value = number(name)) return *value;
-    throw BadValue(QStringLiteral("%1 is missing").arg(name));
+    throw BadValue(QStringLiteral("falta %1").arg(name));
 }
 
-std::optional<int> ElementValues::count(const QString& name) const {
-    constexpr int kHighest = 1000;
+std::optional<int> ElementValues::count(const QString& name, int most) const {
     const auto value = text(name);
     if (!value) return std::nullopt;
     bool valid = false;
     const int count = value->toInt(&valid);
-    if (!valid || count < 1 || count > kHighest)
-        throw BadValue(QStringLiteral("%1=\"%2\" is not a count from 1 to %3")
-                           .arg(name, *value, QString::number(kHighest)));
+    if (!valid || count < 1 || count > most)
+        throw BadValue(QStringLiteral("%1=\"%2\" não é um número inteiro de 1 a %3")
+                           .arg(name, *value, QString::number(most)));
     return count;
 }
 
@@ -78,17 +77,17 @@ std::optional<QColor> ElementValues::colour(const QString& name) const {
     if (*value == QStringLiteral("none")) return QColor();
     const QColor colour(*value);
     if (!colour.isValid())
-        throw BadValue(QStringLiteral("%1=\"%2\" is not a colour").arg(name, *value));
+        throw BadValue(QStringLiteral("%1=\"%2\" não é uma cor").arg(name, *value));
     return colour;
 }
 
 double ElementValues::requiredMillimetres(const QString& name) const {
     const QString value = text(name).value_or(QString());
     if (!value.endsWith(QStringLiteral("mm")))
-        throw BadValue(QStringLiteral("%1=\"%2\" is not in mm").arg(name, value));
+        throw BadValue(QStringLiteral("%1=\"%2\" não está em mm").arg(name, value));
     const double millimetres = toNumber(value.chopped(2), name);
     if (millimetres <= 0)
-        throw BadValue(QStringLiteral("%1=\"%2\" is not above 0").arg(name, value));
+        throw BadValue(QStringLiteral("%1=\"%2\" não é maior que 0").arg(name, value));
     return millimetres;
 }
 
@@ -104,20 +103,22 @@ QPointF ElementValues::translation() const {
     if (matrix && numbers.size() == 6 && numbers[0] == 1 && numbers[1] == 0 && numbers[2] == 0 &&
         numbers[3] == 1)
         return {numbers[4], numbers[5]};
-    throw BadValue(QStringLiteral("transform=\"%1\" is not a translation").arg(*transform));
+    throw BadValue(
+        QStringLiteral("transform=\"%1\" não é um deslocamento (translate)").arg(*transform));
 }
 
 std::vector<double> numberList(const QString& text) {
     std::vector<double> numbers;
     const QStringList parts = words(text);
     for (const QString& part : parts)
-        numbers.push_back(toNumber(part, QStringLiteral("number in the list")));
+        numbers.push_back(toNumber(part, QStringLiteral("número da lista")));
     return numbers;
 }
 
 std::size_t columnNamed(const QString& name, const std::vector<std::string>& columns) {
     const auto found = std::ranges::find(columns, name.toStdString());
-    if (found == columns.end()) throw BadValue(QStringLiteral("unknown field \"%1\"").arg(name));
+    if (found == columns.end())
+        throw BadValue(QStringLiteral("campo desconhecido \"%1\"").arg(name));
     return static_cast<std::size_t>(found - columns.begin());
 }
 
@@ -138,10 +139,10 @@ std::vector<LayoutText::Piece> templatePieces(const QString& text,
         const bool isField = text[position] == u'{';
         const qsizetype end = text.indexOf(isField ? u'}' : u'{', position);
         if (isField && end < 0)
-            throw BadValue(QStringLiteral("\"{\" without \"}\" in \"%1\"").arg(text));
+            throw BadValue(QStringLiteral("\"{\" sem \"}\" em \"%1\"").arg(text));
         const QString part = text.sliced(position, (end < 0 ? text.size() : end) - position);
         if (!isField && part.contains(u'}'))
-            throw BadValue(QStringLiteral("\"}\" without \"{\" in \"%1\"").arg(text));
+            throw BadValue(QStringLiteral("\"}\" sem \"{\" em \"%1\"").arg(text));
         if (isField)
             pieces.push_back({QString(), columnNamed(part.sliced(1), columns)});
         else
@@ -167,7 +168,7 @@ int fontWeight(const QString& text) {
     bool valid = false;
     const int weight = text.toInt(&valid);
     if (!valid || weight < 1 || weight > 1000)
-        throw BadValue(QStringLiteral("font-weight=\"%1\" is not a weight").arg(text));
+        throw BadValue(QStringLiteral("font-weight=\"%1\" não é um peso de letra").arg(text));
     return weight;
 }
 
@@ -175,13 +176,13 @@ LayoutText::Anchor anchorNamed(const QString& text) {
     if (text == QStringLiteral("start")) return LayoutText::Anchor::Start;
     if (text == QStringLiteral("middle")) return LayoutText::Anchor::Middle;
     if (text == QStringLiteral("end")) return LayoutText::Anchor::End;
-    throw BadValue(QStringLiteral("text-anchor=\"%1\" is not start, middle or end").arg(text));
+    throw BadValue(QStringLiteral("text-anchor=\"%1\" não é start, middle nem end").arg(text));
 }
 
 LayoutBlock blockNamed(const QString& text) {
     if (text == QStringLiteral("header")) return LayoutBlock::Header;
     if (text == QStringLiteral("stock")) return LayoutBlock::Stock;
-    throw BadValue(QStringLiteral("data-block=\"%1\" is not header or stock").arg(text));
+    throw BadValue(QStringLiteral("data-block=\"%1\" não é header nem stock").arg(text));
 }
 
 }  // namespace winvrx

@@ -11,7 +11,7 @@
 #include <vector>
 
 // The values that stand in the attributes of a layout file. Each function throws BadValue, whose
-// text says what is wrong; the reader adds file and line.
+// text says in Portuguese what is wrong; the reader adds file and line.
 
 namespace winvrx {
 
@@ -30,7 +30,7 @@ class ElementValues {
     [[nodiscard]] std::optional<QString> text(const QString& name) const;
     [[nodiscard]] std::optional<double> number(const QString& name) const;
     [[nodiscard]] double requiredNumber(const QString& name) const;
-    [[nodiscard]] std::optional<int> count(const QString& name) const;
+    [[nodiscard]] std::optional<int> count(const QString& name, int most) const;
     /// A colour; an invalid QColor for "none".
     [[nodiscard]] std::optional<QColor> colour(const QString& name) const;
     /// A length with the unit mm, in millimetres.

@@ -101,8 +101,8 @@ class PrinterDevice final : public ReportDevice {
         printer_.setDocName(toQt(request.title));
         printer_.setCreator(QStringLiteral("Winvrx"));
         printer_.setPageLayout(borderless(page));
-        const auto tray =
-            std::ranges::find_if(request.trays, [](const auto& name) { return !trimmed(name).empty(); });
+        const auto tray = std::ranges::find_if(
+            request.trays, [](const auto& name) { return !trimmed(name).empty(); });
         if (tray != request.trays.end())
             setSystemOption(printer_, QStringLiteral("InputSlot"), toQt(trimmed(*tray)));
     }

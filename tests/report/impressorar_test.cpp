@@ -9,10 +9,10 @@
 namespace winvrx {
 namespace {
 
+using ::testing::HasSubstr;
 using testing::TestBrowser;
 using testing::TestPrinters;
 using testing::TestWorkplace;
-using ::testing::HasSubstr;
 using Texts = std::vector<std::string>;
 
 /// Thirty characters.
@@ -34,11 +34,17 @@ TEST(Printer, OneThatIsThereIsNeverCalledMissing) {
     for (const Case& one : {
              Case{"its name", {"Epson", "HP"}, "HP", {"HP"}, ""},
              Case{"a whole name, another begins alike",
-                  {kLong + "1", kLong + "2"}, kLong + "2", {kLong + "2"}, ""},
+                  {kLong + "1", kLong + "2"},
+                  kLong + "2",
+                  {kLong + "2"},
+                  ""},
              Case{"the beginning of one name", {"Epson", kLong + "1"}, kLong, {kLong + "1"}, ""},
              Case{"the beginning that is a name too", {kLong + "1", kLong}, kLong, {kLong}, ""},
-             Case{"the beginning of two", {kLong + "1", kLong + "2"}, kLong,
-                  {kLong + "1", kLong + "2"}, "Há mais de uma impressora"},
+             Case{"the beginning of two",
+                  {kLong + "1", kLong + "2"},
+                  kLong,
+                  {kLong + "1", kLong + "2"},
+                  "Há mais de uma impressora"},
              Case{"blanks around it", {" HP "}, "HP", {" HP "}, ""},
              Case{"less than 30 characters", {"Epson"}, "Epso", {}, "não foi encontrada"},
          }) {

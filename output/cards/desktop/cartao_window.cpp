@@ -189,6 +189,7 @@ void CartaoWindow::visit(const std::function<void(QWidget*)>& screen) {
     (void)cartao_.remember();
     if (screen) screen(this);
     cartao_.load();
+    choices_->showChoices(cartao_.choices());
     showList();
 }
 

@@ -9,6 +9,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 namespace winvrx {
@@ -17,6 +18,8 @@ namespace {
 
 /// The option beside those of ReportOutput: a PDF file for each employee.
 constexpr int kPdfForEach = 100;
+
+constexpr QSize kPictureSize(120, 40);
 
 template <typename Choice>
 constexpr int idOf(Choice choice) {
@@ -38,7 +41,11 @@ PrintChoicesBox::PrintChoicesBox(const PrintChoices& choices, QWidget* parent)
     grid->addWidget(output_, 0, 0, Qt::AlignTop);
     grid->addWidget(mode_, 0, 1, Qt::AlignTop);
     grid->addWidget(tray_, 1, 0, Qt::AlignTop);
-    grid->addWidget(sheetExit_, 1, 1, Qt::AlignTop);
+    auto* exit = new QHBoxLayout;
+    exit->setSpacing(look::kGroupGap);
+    exit->addWidget(sheetExit_, 0, Qt::AlignTop);
+    exit->addWidget(buildSheetExitPicture(), 1, Qt::AlignTop);
+    grid->addLayout(exit, 1, 1, Qt::AlignTop);
     grid->addWidget(buildHeaderChoice(), 2, 0, Qt::AlignTop);
     grid->addWidget(buildPrinterTrays(), 2, 1);
     grid->setColumnStretch(1, 1);
@@ -93,6 +100,30 @@ OptionGroup* PrintChoicesBox::buildSheetExit() {
     return group;
 }
 
+QWidget* PrintChoicesBox::buildSheetExitPicture() {
+    auto* part = new QWidget(this);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    picture_ = new QLabel(part);
+    picture_->setObjectName(QStringLiteral("cartao.sheetExitPicture"));
+    column->addWidget(picture_);
+    pictureText_ = look::label(QString(), look::TextSize::Hint, part);
+    column->addWidget(pictureText_);
+    return part;
+}
+
+void PrintChoicesBox::showSheetExit() {
+    const auto exit = static_cast<SheetExit>(sheetExit_->chosen());
+    const bool down = exit == SheetExit::FaceDown;
+    picture_->setPixmap(
+        look::icon(down ? QStringLiteral("sheets-face-down") : QStringLiteral("sheets-face-up"))
+            .pixmap(kPictureSize, devicePixelRatioF()));
+    pictureText_->setText(down ? QStringLiteral("Voltam como saíram, sem virar")
+                               : QStringLiteral("Voltam viradas"));
+    picture_->setAccessibleName(toQt(sheetsBackInstruction(exit, 2)));
+    picture_->setToolTip(picture_->accessibleName());
+}
+
 QWidget* PrintChoicesBox::buildHeaderChoice() {
     auto* part = new QWidget(this);
     auto* column = new QVBoxLayout(part);
@@ -125,18 +156,21 @@ QWidget* PrintChoicesBox::buildPrinterTrays() {
 }
 
 void PrintChoicesBox::showChoices(const PrintChoices& choices) {
+    const QSignalBlocker quiet(this);
     mode_->choose(idOf(choices.mode));
     const bool pdfForEach =
         choices.output == ReportOutput::PdfFile && choices.pdfFiles == PdfFiles::OneForEach;
     output_->choose(pdfForEach ? kPdfForEach : idOf(choices.output));
     tray_->choose(idOf(choices.printer.tray));
     sheetExit_->choose(idOf(choices.printer.exit));
+    showSheetExit();
     printHeader_->setChecked(choices.printer.printHeader);
     for (std::size_t at = 0; at < trays_.size(); ++at)
         trays_[at]->setText(toQt(choices.printer.trays[at]));
 }
 
 void PrintChoicesBox::connectAll() {
+    connect(sheetExit_, &OptionGroup::picked, this, &PrintChoicesBox::showSheetExit);
     for (OptionGroup* group : {mode_, output_, tray_, sheetExit_})
         connect(group, &OptionGroup::picked, this, &PrintChoicesBox::changed);
     connect(printHeader_, &QCheckBox::toggled, this, &PrintChoicesBox::changed);

@@ -7,6 +7,7 @@
 #include <array>
 
 class QCheckBox;
+class QLabel;
 
 namespace winvrx {
 
@@ -22,6 +23,8 @@ class PrintChoicesBox : public QWidget {
     explicit PrintChoicesBox(const PrintChoices& choices, QWidget* parent = nullptr);
 
     [[nodiscard]] PrintChoices choices() const;
+    /// Without changed().
+    void showChoices(const PrintChoices& choices);
 
   signals:
     void changed();
@@ -31,15 +34,19 @@ class PrintChoicesBox : public QWidget {
     [[nodiscard]] OptionGroup* buildMode();
     [[nodiscard]] OptionGroup* buildTray();
     [[nodiscard]] OptionGroup* buildSheetExit();
+    [[nodiscard]] QWidget* buildSheetExitPicture();
+    /// How the sheets of the chosen option go back into the tray.
+    void showSheetExit();
     [[nodiscard]] QWidget* buildHeaderChoice();
     [[nodiscard]] QWidget* buildPrinterTrays();
-    void showChoices(const PrintChoices& choices);
     void connectAll();
 
     OptionGroup* output_;
     OptionGroup* mode_;
     OptionGroup* tray_;
     OptionGroup* sheetExit_;
+    QLabel* picture_ = nullptr;
+    QLabel* pictureText_ = nullptr;
     QCheckBox* printHeader_ = nullptr;
     std::array<TextField*, 3> trays_{};
 };

@@ -51,7 +51,11 @@ QString CardPictures::description(const CardStock& stock) {
 }
 
 QString CardPictures::fault(const CardStock& stock) {
-    return load(layoutNameOf(stock)).fault;
+    for (const LayoutSet set : {LayoutSet::A, LayoutSet::B})
+        for (const TrayPosition tray : {TrayPosition::Central, TrayPosition::Lateral})
+            if (const auto name = layoutFor(stock.code, tray, set))
+                if (const QString fault = load(*name).fault; !fault.isEmpty()) return fault;
+    return {};
 }
 
 const CardPictures::Loaded& CardPictures::load(const std::string& name) {

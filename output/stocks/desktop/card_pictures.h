@@ -40,7 +40,8 @@ class CardPictures {
 
     /// What the layout's author says of the card: its size and kind.
     [[nodiscard]] QString description(const CardStock& stock);
-    /// One sentence for the operator; empty where the layout is sound.
+    /// One sentence for the operator on the first of the stock's layouts that is not sound; empty
+    /// where all are.
     [[nodiscard]] QString fault(const CardStock& stock);
 
   private:

@@ -26,6 +26,8 @@ const QString kState =
     QStringLiteral("A escolha é gravada na hora. Setas ou os dois dígitos do código escolhem.");
 const QString kNoStock = QStringLiteral(
     "Nenhum cartão escolhido ainda. Compare os desenhos com o cartão que está na impressora.");
+const QString kNoCard = QStringLiteral(
+    "⚠ O tipo gravado, \"%1\", não é um cartão de ponto. Escolha o cartão que está na impressora.");
 
 }  // namespace
 
@@ -110,7 +112,9 @@ void TipoPontoWindow::showCurrent() {
     options_->choose(stock);
     const bool isCard = stock && stock->offered;
     const QString fault = isCard ? pictures_.fault(*stock) : QString();
-    description_->setText(!isCard            ? kNoStock
+    const std::string& strange = stocks_.strangeCode();
+    description_->setText(!strange.empty()   ? kNoCard.arg(toQt(strange))
+                          : !isCard          ? kNoStock
                           : !fault.isEmpty() ? QStringLiteral("⚠ ") + fault
                                              : pictures_.description(*stock));
     sheets_->setVisible(isCard && fault.isEmpty());

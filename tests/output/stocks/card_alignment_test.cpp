@@ -21,8 +21,8 @@ TEST(CardAlignment, AnEntryIsTwoOffsetsWithinTheirBounds) {
           Case{"0          0", {0, 0}}, Case{"99999     -40", {kGreatestOffset, 0}},
           Case{"99999999991", {kGreatestOffset, 1}}, Case{"12,5      70.25", {13, 70}},
           Case{"1499,6     -0.5", {1500, 0}}, Case{"1e2       inf", {10, 10}},
-          Case{"1,2,3     .", {10, 10}}, Case{"abc       20x", {10, 10}},
-          Case{"30", {30, 10}}, Case{"", {10, 10}}, Case{"20        30    junk", {20, 10}}}) {
+          Case{"1,2,3     .", {10, 10}}, Case{"abc       20x", {10, 10}}, Case{"30", {30, 10}},
+          Case{"", {10, 10}}, Case{"20        30    junk", {20, 10}}}) {
         EXPECT_EQ(decodeOffsets(one.line), one.offsets) << one.line;
         const std::string kept = *one.line ? one.line : kDefaultLine;
         EXPECT_EQ(encode(one.offsets, one.line), kept);

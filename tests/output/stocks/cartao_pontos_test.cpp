@@ -96,8 +96,9 @@ TEST_F(CartaoPontosTest, LineOffsetTakesTheTextsOfItsListOnly) {
     for (const Case& one :
          {Case{"2 Linhas", "2 Linhas", 2}, Case{"11 Linhas", "1 Linha", 1},
           Case{"10 Linhas", "10 Linhas", 10}, Case{"1 Linha", "1 Linha", 1},
-          Case{"9 linhas", "1 Linha", 1}, Case{"5", "1 Linha", 1}, Case{"", "nenhuma", 0}, Case{"0", "1 Linha", 1}, Case{"nenhuma", "nenhuma", 0},
-          Case{"1 Linhas", "1 Linha", 1}, Case{"0 Linhas", "1 Linha", 1}}) {
+          Case{"9 linhas", "1 Linha", 1}, Case{"5", "1 Linha", 1}, Case{"", "nenhuma", 0},
+          Case{"0", "1 Linha", 1}, Case{"nenhuma", "nenhuma", 0}, Case{"1 Linhas", "1 Linha", 1},
+          Case{"0 Linhas", "1 Linha", 1}}) {
         screen.typeLineOffset(one.typed);
         EXPECT_EQ(screen.lineOffset(), one.shown) << one.typed;
         EXPECT_EQ(screen.alignment().lines, one.lines) << one.typed;
@@ -150,6 +151,15 @@ TEST_F(CartaoPontosTest, TestPrintAsksForTheCardAndTakesTheAlignmentAlong) {
     EXPECT_EQ(rows[0][cardColumn("razao")], "EMPRESA MODELO LTDA");
     EXPECT_EQ(rows[30][cardColumn("sai3")], "19:00");
     EXPECT_EQ(rows, screen.sampleRows());
+    for (const std::size_t row : {7U, 22U})
+        EXPECT_EQ(rows[row][cardColumn("situacao")], "março/2024") << "without the header too";
+
+    engine.sides = 2;
+    desk.person.answers = {Answer::Yes, Answer::Yes};
+    EXPECT_TRUE(screen.printTest());
+    ASSERT_EQ(engine.jobs.size(), 3U);
+    EXPECT_EQ(engine.jobs[1].request.sides, SheetSides::First);
+    EXPECT_EQ(engine.jobs[2].request.sides, SheetSides::Second);
 }
 
 TEST_F(CartaoPontosTest, CalibrationSheetIsPrintedUntouched) {

@@ -142,7 +142,11 @@ TEST_F(CartaoWindowTest, ListFollowsShiftAndSearch) {
 TEST_F(CartaoWindowTest, ReturnsFromTheOtherScreensUpToDate) {
     desk.files.content.erase("/data/DataIde.ivc");
     const CartaoWindowDesk links{
-        .openStocks = [this](QWidget*) { desk.file("01CartaoDePontoTipo") = "05\r\n"; },
+        .openStocks =
+            [this](QWidget*) {
+                desk.file("01CartaoDePontoTipo") = "05\r\n";
+                desk.file("01Impresstec") = "Lateral\r\n \r\nManual\r\n\r\n0\r\n";
+            },
         .openWorkMonth =
             [this](QWidget*) {
                 saveSelectedMonth(desk.store(), {std::chrono::year(2024) / 2, ShiftFilter::Todos});
@@ -156,6 +160,10 @@ TEST_F(CartaoWindowTest, ReturnsFromTheOtherScreensUpToDate) {
     EXPECT_TRUE(header->text().contains(QStringLiteral("01/02/2024 a 29/02/2024")));
     press(window, "cartao.stock");
     EXPECT_TRUE(find<QLabel>(window, "state")->text().contains(QStringLiteral("MADIS")));
+    EXPECT_TRUE(find<QRadioButton>(window, "cartao.tray.lateral")->isChecked());
+    EXPECT_FALSE(find<QCheckBox>(window, "cartao.printHeader")->isChecked());
+    EXPECT_EQ(find<QLineEdit>(window, "cartao.printerTray2")->text(), QStringLiteral("Manual"));
+    EXPECT_EQ(cartao.choices().printer.trays[1], "Manual");
     EXPECT_EQ(find<QListWidget>(window, "cartao.employees")->currentRow(), 1);
     QTest::keyClick(&window, Qt::Key_F1);
     EXPECT_EQ(browser.opened, 1);

@@ -165,7 +165,8 @@ TEST_F(AlignmentWindow, AnEntryIsShownWithItsOffsetsAndAMissingLayoutSaidSo) {
     EXPECT_EQ(entries.topLevelItem(15)->text(1), QStringLiteral("70"));
     QTest::keyClick(&entries, Qt::Key_End);
     EXPECT_EQ(driven.get<QLineEdit>("alinhamento.horizontal").text(), QStringLiteral("90"));
-    EXPECT_EQ(driven.text("sample.problem"), "⚠ O layout RHJcenter.rpt não pôde ser aberto.");
+    EXPECT_EQ(driven.text("sample.problem"),
+              "⚠ O layout RHJcenter.rpt não pôde ser aberto: not found.");
     driven.click("alinhamento.right");
     EXPECT_EQ(entries.topLevelItem(15)->text(2), QStringLiteral("110"));
     QTest::keyClick(&entries, Qt::Key_Home);

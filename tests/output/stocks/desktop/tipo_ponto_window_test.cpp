@@ -108,6 +108,9 @@ TEST_F(TipoPontoWindowTest, WhatIsNotOfferedLeavesNoOptionChosen) {
     for (const char* line : {"", "14Etiqueta\r\n", "77\r\n"}) {
         desk_.file("01CartaoDePontoTipo") = line;
         TipoPontoWindow window(stocks_, pictures_);
+        const QString said =
+            window.findChild<QLabel*>(QStringLiteral("tipoPonto.description"))->text();
+        EXPECT_EQ(said.contains(QStringLiteral("não é um cartão de ponto")), *line != '\0');
         int options = 0;
         for (const auto* option : window.findChildren<QRadioButton*>()) {
             ++options;
@@ -140,18 +143,23 @@ TEST_F(TipoPontoWindowTest, AllCardsAreInSightAndTheChosenOneOnASmallScreen) {
 }
 
 TEST_F(TipoPontoWindowTest, ADamagedLayoutIsToldAndTheOthersAreShown) {
-    places_.write("madiscenter.rpt", "<svg>");
-    desk_.file("01CartaoDePontoTipo") = "05\r\n";
-    TipoPontoWindow window(stocks_, pictures_);
-    const WindowDriver driver(window);
-    EXPECT_THAT(driver.find<QLabel>("tipoPonto.description").text().toStdString(),
-                HasSubstr("madiscenter.rpt tem um erro na linha 1"));
-    EXPECT_FALSE(driver.find("tipoPonto.central").isVisible());
-    EXPECT_THAT(desk_.log.entries, ElementsAre(HasSubstr("madiscenter.rpt:1: ")));
-    driver.typeHere("12");
-    EXPECT_EQ(driver.find<QLabel>("tipoPonto.description").text(),
-              QStringLiteral("Cartão de 82 x 178 mm, as quinzenas lado a lado."));
-    EXPECT_TRUE(driver.find("tipoPonto.central").isVisible());
+    for (const char* damaged : {"madiscenter.rpt", "madisleft.rpt"}) {
+        const LayoutPlaces places;
+        places.write(damaged, "<svg>");
+        desk_.log.entries.clear();
+        desk_.file("01CartaoDePontoTipo") = "05\r\n";
+        CardPictures pictures([&places] { return places.folders(); }, desk_.log);
+        TipoPontoWindow window(stocks_, pictures);
+        const WindowDriver driver(window);
+        EXPECT_THAT(driver.find<QLabel>("tipoPonto.description").text().toStdString(),
+                    HasSubstr(std::string(damaged) + " tem um erro na linha 1: width="));
+        EXPECT_FALSE(driver.find("tipoPonto.central").isVisible());
+        EXPECT_THAT(desk_.log.entries, ElementsAre(HasSubstr(std::string(damaged) + ":1: ")));
+        driver.typeHere("12");
+        EXPECT_EQ(driver.find<QLabel>("tipoPonto.description").text(),
+                  QStringLiteral("Cartão de 82 x 178 mm, as quinzenas lado a lado."));
+        EXPECT_TRUE(driver.find("tipoPonto.central").isVisible());
+    }
 }
 
 /// Each stock looks like no other, and the two tray positions do.
