@@ -113,7 +113,7 @@ void registerEmployees(Player& player) {
 
 void lookAtShifts(Player& player) {
     player.click("menu.shifts.open"_t);
-    player.choose("turnos.list"_t, "003"_t);
+    player.choose("turnos.employees"_t, "003"_t);
     player.picture("turnos"_t);
     player.click("turnos.close"_t);
 }

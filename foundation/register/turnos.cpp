@@ -29,9 +29,9 @@ Message noShiftChosen(const Employee& employee) {
 void Turnos::load() {
     (void)attempt(at_, incorrectData(), [this] {
         companyTitle_ = titleOf(loadCompanies(at_.store()), at_.session.company);
-        lines_.clear();
-        if (at_.session.company)
-            lines_ = EmployeeRegister(at_.store(), *at_.session.company).load();
+        std::vector<EmployeeLine> lines;
+        if (at_.session.company) lines = EmployeeRegister(at_.store(), *at_.session.company).load();
+        list_.fill(lines);
     });
 }
 
@@ -43,8 +43,8 @@ bool Turnos::change(const Employee& employee, std::optional<Shift> shift) {
     if (!at_.person.agrees(kConfirmChange)) return false;
     return attempt(at_, incorrectData(), [&] {
         const CompanyCode company = at_.session.company.value();
-        EmployeeRegister list(at_.store(), company);
-        auto lines = list.load();
+        EmployeeRegister stored(at_.store(), company);
+        auto lines = stored.load();
         (void)lineOfEmployee(lines, employee);
         if (rotation_.isMember({company, employee.employeeCode().value()})) {
             at_.person.tell(kRotationMember);
@@ -55,13 +55,13 @@ bool Turnos::change(const Employee& employee, std::optional<Shift> shift) {
             return false;
         }
         const auto hold = holdFolder(at_);
-        lines = list.load();
+        lines = stored.load();
         EmployeeLine& line = lineOfEmployee(lines, employee);
         Employee changed = employee;
         changed.shift = codeOf(*shift);
         line = lineOf(changed, line.bytes);
-        list.save(lines, at_.clock.now());
-        lines_ = std::move(lines);
+        stored.save(lines, at_.clock.now());
+        list_.fill(lines);
         return true;
     });
 }

@@ -2,8 +2,8 @@
 
 #include "foundation/desk/browser.h"
 #include "foundation/desk/command.h"
+#include "foundation/register/employee_list.h"
 #include "foundation/register/employee_queries.h"
-#include "foundation/register/employee_register.h"
 
 #include <optional>
 #include <string>
@@ -16,18 +16,16 @@ namespace winvrx {
 class Turnos {
   public:
     Turnos(const Workplace& at, Browser& browser, const RotationMembership& rotation)
-        : at_(at), browser_(browser), rotation_(rotation), filter_(at.session.shiftFilter) {}
+        : at_(at), browser_(browser), rotation_(rotation), list_(at.session.shiftFilter) {}
 
     /// Reads the list of the selected company; none selected gives an empty list.
     void load();
-    [[nodiscard]] ShiftFilter filter() const { return filter_; }
-    void setFilter(ShiftFilter filter) { filter_ = filter; }
-    /// The employees with a code whose shift passes the filter, in list order.
-    [[nodiscard]] std::vector<Employee> shown() const { return employeesOf(lines_, filter_); }
+    [[nodiscard]] EmployeeList& list() { return list_; }
+    [[nodiscard]] const EmployeeList& list() const { return list_; }
     /// "01 EMPRESA MODELO LTDA"; empty when no company is selected.
     [[nodiscard]] const std::string& companyTitle() const { return companyTitle_; }
 
-    /// Gives the employee, one of those shown, another shift, unless none is chosen, he is in a
+    /// Gives the employee, one of the list, another shift, unless none is chosen, he is in a
     /// rotation group, his scale bars it, or his record has changed since it was shown. True when
     /// it was recorded.
     [[nodiscard]] bool change(const Employee& employee, std::optional<Shift> shift);
@@ -43,8 +41,7 @@ class Turnos {
     Workplace at_;
     Browser& browser_;
     const RotationMembership& rotation_;
-    ShiftFilter filter_;
-    std::vector<EmployeeLine> lines_;
+    EmployeeList list_;
     std::string companyTitle_;
 };
 

@@ -7,8 +7,6 @@
 #include "timecard/month/overtime_record.h"
 #include "timecard/month/selected_month.h"
 
-#include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace winvrx {
@@ -36,7 +34,7 @@ Company requireCompany(const Store& store, const CompanyCode& code) {
 }  // namespace
 
 Cartao::Cartao(const Workplace& at, const CartaoDesk& desk)
-    : at_(at), desk_(desk), filter_(at.session.shiftFilter) {}
+    : at_(at), desk_(desk), list_(at.session.shiftFilter) {}
 
 void Cartao::load() {
     (void)attempt(at_, incorrectData(), [this] {
@@ -48,7 +46,7 @@ void Cartao::load() {
         const bool hasUnwritten = choices_.printer != remembered_;
         remembered_ = loadPrinterMemory(at_.store(), *at_.session.company);
         if (!hasUnwritten) choices_.printer = remembered_;
-        readEmployees();
+        list_.fill(EmployeeRegister(at_.store(), *at_.session.company).load());
     });
 }
 
@@ -64,42 +62,24 @@ std::string Cartao::stockLabel() const {
     return stock_ ? std::string(stock_->displayName) : std::string();
 }
 
-void Cartao::setFilter(ShiftFilter filter) {
-    filter_ = filter;
-    ofShift_.clear();
-    employees_.clear();
-    (void)attempt(at_, incorrectData(), [this] { readEmployees(); });
-}
-
-void Cartao::readEmployees() {
-    const EmployeeRegister list(at_.store(), at_.session.company.value());
-    ofShift_ = employeesOf(list.load(), filter_);
-    setSearch(search_);
-}
-
-void Cartao::setSearch(std::string text) {
-    search_ = std::move(text);
-    employees_.clear();
-    std::ranges::copy_if(ofShift_, std::back_inserter(employees_), [this](const Employee& one) {
-        return matchesSearch(one.code + " " + one.name, search_);
-    });
-}
-
 std::string Cartao::headerPreview(std::optional<std::size_t> position) const {
-    if (!month_ || !position || *position >= employees_.size()) return {};
+    if (!month_ || !isShown(position)) return {};
     std::string text;
-    (void)attempt(at_, incorrectData(), [&] { text = headerText(cardOf(employees_[*position])); });
+    (void)attempt(at_, incorrectData(),
+                  [&] { text = headerText(cardOf(list_.employees()[*position])); });
     return text;
 }
 
 bool Cartao::printOne(std::optional<std::size_t> position, const PrintRun& run) {
     if (!at_.person.agrees(kConfirmOne)) return false;
-    const bool selected = position && *position < employees_.size();
-    return requireChoices(selected) && print({employees_[*position]}, run);
+    return requireChoices(isShown(position)) && print({list_.employees()[*position]}, run);
 }
 
 bool Cartao::printAll(const PrintRun& run) {
-    return requireChoices(!employees_.empty()) && print(employees_, run);
+    std::vector<Employee> people;
+    for (const std::size_t position : list_.shown())
+        people.push_back(list_.employees()[position]);
+    return requireChoices(!people.empty()) && print(people, run);
 }
 
 void Cartao::help() {

@@ -3,6 +3,7 @@
 #include "foundation/desk/browser.h"
 #include "foundation/desk/command.h"
 #include "foundation/register/company.h"
+#include "foundation/register/employee_list.h"
 #include "output/cards/card_run.h"
 #include "output/stocks/card_alignment.h"
 #include "output/stocks/card_rows.h"
@@ -27,9 +28,8 @@ struct CartaoDesk {
 
 /// The time-card printing screen.
 ///
-/// Prints the cards of the list: the employees that pass the shift filter and the search, in file
-/// order. A card's records are read when its turn comes. A failed card ends the run; cards already
-/// printed stay printed.
+/// Prints the cards of those whom the list shows, in file order. A card's records are read when its
+/// turn comes. A failed card ends the run; cards already printed stay printed.
 class Cartao {
   public:
     Cartao(const Workplace& at, const CartaoDesk& desk);
@@ -40,19 +40,14 @@ class Cartao {
     /// could not be written.
     bool remember();
 
-    [[nodiscard]] const std::vector<Employee>& employees() const { return employees_; }
+    [[nodiscard]] EmployeeList& list() { return list_; }
+    [[nodiscard]] const EmployeeList& list() const { return list_; }
     [[nodiscard]] const Company& company() const { return company_; }
     /// The stock's display name; empty when none is chosen.
     [[nodiscard]] std::string stockLabel() const;
     /// Empty stands for the system's default printer.
     [[nodiscard]] const std::string& printerName() const { return printer_; }
     [[nodiscard]] std::optional<WorkMonth> month() const { return month_; }
-
-    [[nodiscard]] ShiftFilter filter() const { return filter_; }
-    /// Reads the employees of this filter.
-    void setFilter(ShiftFilter filter);
-    /// Keeps on the list those whose code or name match; an empty text keeps all.
-    void setSearch(std::string text);
 
     [[nodiscard]] PrintChoices& choices() { return choices_; }
 
@@ -68,7 +63,9 @@ class Cartao {
     void help();
 
   private:
-    void readEmployees();
+    [[nodiscard]] bool isShown(std::optional<std::size_t> position) const {
+        return position && list_.isShown(*position);
+    }
     [[nodiscard]] bool requireChoices(bool anyEmployee);
     [[nodiscard]] bool requirePrintingDrive();
     [[nodiscard]] bool print(const std::vector<Employee>& people, const PrintRun& run);
@@ -79,11 +76,8 @@ class Cartao {
     CartaoDesk desk_;
     PrintChoices choices_;
     PrinterMemory remembered_;
-    ShiftFilter filter_;
+    EmployeeList list_;
     Company company_;
-    std::string search_;
-    std::vector<Employee> ofShift_;
-    std::vector<Employee> employees_;
     std::optional<WorkMonth> month_;
     const CardStock* stock_ = nullptr;
     std::string printer_;

@@ -55,11 +55,10 @@ std::vector<WritingCommand> cardCommands() {
         {"apply punches", filledOffice(),
          onCardOf(1, [](CartaoPontoDados& screen) { return screen.applyPunches(); })},
         {"apply punches to all", officeClosingOn(21),
-         onCardOf(
-             1,
-             [](CartaoPontoDados& screen) {
-                 return screen.filterBy(ShiftFilter::Unico) && screen.applyToAll({0, 1, 2}, true);
-             })},
+         onCardOf(1,
+                  [](CartaoPontoDados& screen) {
+                      return screen.filterBy(ShiftFilter::Unico) && screen.applyToAll(true);
+                  })},
         {"choose minutes", filledOffice(),
          onCardOf(0,
                   [](CartaoPontoDados& screen) { return screen.chooseMinutes(Minutes::Varied); })},

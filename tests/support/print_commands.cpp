@@ -41,7 +41,7 @@ bool rememberChoices(const Workplace& at, const Drives&) {
     screen.load();
     screen.choices().printer.exit = SheetExit::FaceUp;
     screen.choices().printer.trays[0] = "Manual";
-    return screen.employees().size() == 3 && screen.remember();
+    return screen.list().employees().size() == 3 && screen.remember();
 }
 
 FileTable officeWithAPrinter() {

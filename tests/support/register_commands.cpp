@@ -51,7 +51,8 @@ bool changeShift(const Workplace& at, const Drives&) {
     TestLocks locks;
     Turnos screen(at, browser, locks);
     screen.load();
-    return screen.shown().size() > 1 && screen.change(screen.shown()[1], Shift::Dois);
+    return screen.list().employees().size() > 1 &&
+           screen.change(screen.list().employees()[1], Shift::Dois);
 }
 
 bool importEmployees(const Workplace& at, const Drives&) {

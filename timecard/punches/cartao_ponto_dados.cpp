@@ -39,7 +39,7 @@ Message inPunchEntry(Message message) {
 }  // namespace
 
 CartaoPontoDados::CartaoPontoDados(const Workplace& at, const CardQueries& queries)
-    : at_(at), queries_(queries), filter_(at.session.shiftFilter) {
+    : at_(at), queries_(queries), list_(at.session.shiftFilter) {
     settings_.month = monthOf(at_.clock.today());
     sheet_ = CardSheet(blankMonth(settings_.month));
 }
@@ -55,53 +55,52 @@ bool CartaoPontoDados::open() {
             at_.person.tell(kNoMonth);
             return false;
         }
-        loadList(*at_.session.company, loadMonthSettings(at_.store(), selected->month), filter_);
+        loadList(*at_.session.company, loadMonthSettings(at_.store(), selected->month));
         return true;
     });
 }
 
-void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings& settings,
-                                ShiftFilter filter) {
+void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings& settings) {
     const auto lines = EmployeeRegister(at_.store(), company).load();
     std::string name = nameOf(at_, company);
-    std::vector<Employee> employees = employeesOf(lines, filter);
-    std::vector<EmployeeMark> marks;
-    for (const Employee& one : employees)
-        marks.push_back(markOf(company, one, settings.month));
+    EmployeeList::Marks marks;
+    for (const Employee& one : employeesOf(lines, ShiftFilter::Todos)) {
+        const EmployeeCode code = one.employeeCode().value();
+        marks.emplace(code, marksOf(company, code, settings.month));
+    }
     minutes_ = loadMinutes(at_.store());
     const std::string chosen = company_ == company && selected() ? selected()->code : "";
     company_ = company;
     companyName_ = std::move(name);
     settings_ = settings;
-    filter_ = filter;
-    employees_ = std::move(employees);
-    marks_ = std::move(marks);
+    list_.fill(lines, std::move(marks));
+    loadCardOf(chosen);
+}
+
+EmployeeMarks CartaoPontoDados::marksOf(const CompanyCode& company, const EmployeeCode& employee,
+                                        WorkMonth month) const {
+    return {.onLeave = queries_.leaves.leavesOf({company, employee}).touch(month),
+            .closed = queries_.payroll.isClosed({company, employee}, month)};
+}
+
+void CartaoPontoDados::loadCardOf(const std::string& code) {
     position_.reset();
     overtime_ = settings_.overtime;
     schedule_ = TypedSchedule();
     sheet_ = CardSheet(blankMonth(settings_.month));
     unreadLines_.clear();
     applied_ = false;
-    const auto found = std::find_if(employees_.begin(), employees_.end(),
-                                    [&](const Employee& one) { return one.code == chosen; });
-    if (found != employees_.end()) loadCard(static_cast<std::size_t>(found - employees_.begin()));
-}
-
-EmployeeMark CartaoPontoDados::markOf(const CompanyCode& company, const Employee& employee,
-                                      WorkMonth month) const {
-    const EmployeeCode code = employee.employeeCode().value();
-    return {.onLeave = queries_.leaves.leavesOf({company, code}).touch(month),
-            .closed = queries_.payroll.isClosed({company, code}, month)};
+    if (const auto position = list_.positionOf(code)) loadCard(*position);
 }
 
 void CartaoPontoDados::loadCard(std::size_t position) {
-    const EmployeeCode code = employees_.at(position).employeeCode().value();
+    const EmployeeCode code = list_.employees().at(position).employeeCode().value();
     const CompanyCode& company = company_.value();
     const auto schedule = loadSchedule(at_.store(), {company, code});
     const OvertimeRules overtime = overtimeOf(at_.store(), {company, code}, settings_);
     auto punches = loadPunches(at_.store(), {company, code}, settings_.month);
     unreadLines_ = unreadPunchLines(at_.store(), {company, code}, settings_.month);
-    marks_.at(position) = markOf(company, employees_[position], settings_.month);
+    list_.mark(position, marksOf(company, code, settings_.month));
     position_ = position;
     overtime_ = overtime;
     schedule_ = TypedSchedule(schedule.value_or(StandardSchedule()));
@@ -109,9 +108,21 @@ void CartaoPontoDados::loadCard(std::size_t position) {
     sheet_ = CardSheet(punches ? std::move(*punches) : blankMonth(settings_.month));
 }
 
-bool CartaoPontoDados::filterBy(ShiftFilter filter) {
+bool CartaoPontoDados::narrow(const std::function<void()>& filter) {
     if (!confirmLeaving()) return false;
-    return attempt(at_, incorrectData(), [&] { loadList(company_.value(), settings_, filter); });
+    return attempt(at_, incorrectData(), [&] {
+        const std::string chosen = selected() ? selected()->code : "";
+        filter();
+        loadCardOf(chosen);
+    });
+}
+
+bool CartaoPontoDados::filterBy(ShiftFilter shift) {
+    return narrow([&] { list_.filterBy(shift); });
+}
+
+bool CartaoPontoDados::filterBy(std::optional<Scale> scale) {
+    return narrow([&] { list_.filterBy(scale); });
 }
 
 bool CartaoPontoDados::select(std::size_t position) {
@@ -120,7 +131,11 @@ bool CartaoPontoDados::select(std::size_t position) {
 }
 
 const Employee* CartaoPontoDados::selected() const {
-    return position_ ? &employees_[*position_] : nullptr;
+    return position_ ? &list_.employees()[*position_] : nullptr;
+}
+
+EmployeeMarks CartaoPontoDados::marks() const {
+    return position_ ? list_.marks(*position_) : EmployeeMarks();
 }
 
 EmployeeCode CartaoPontoDados::selectedCode() const {

@@ -1,15 +1,15 @@
 #pragma once
 
 #include "foundation/desk/command.h"
-#include "foundation/register/employee_register.h"
+#include "foundation/register/employee_list.h"
 #include "timecard/hours/hours_summary.h"
 #include "timecard/month/month_settings.h"
 #include "timecard/punches/card_sheet.h"
 #include "timecard/punches/day_kind.h"
-#include "timecard/punches/employee_mark.h"
 #include "timecard/punches/list_application.h"
 #include "timecard/schedule/typed_schedule.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -32,11 +32,11 @@ class CartaoPontoDados {
     [[nodiscard]] const std::optional<CompanyCode>& company() const { return company_; }
     [[nodiscard]] const std::string& companyName() const { return companyName_; }
     [[nodiscard]] const MonthSettings& settings() const { return settings_; }
-    [[nodiscard]] ShiftFilter filter() const { return filter_; }
-    /// False when the operator keeps unrecorded changes.
-    [[nodiscard]] bool filterBy(ShiftFilter filter);
-    [[nodiscard]] const std::vector<Employee>& employees() const { return employees_; }
-    [[nodiscard]] EmployeeMark mark(std::size_t position) const { return marks_.at(position); }
+    [[nodiscard]] EmployeeList& list() { return list_; }
+    [[nodiscard]] const EmployeeList& list() const { return list_; }
+    /// False when the operator stays with unrecorded changes.
+    [[nodiscard]] bool filterBy(ShiftFilter shift);
+    [[nodiscard]] bool filterBy(std::optional<Scale> scale);
 
     /// Loads the card of the employee at `position` of the list. False when the operator stays with
     /// unrecorded changes, or it cannot be read.
@@ -44,6 +44,8 @@ class CartaoPontoDados {
     [[nodiscard]] std::optional<std::size_t> selectedPosition() const { return position_; }
     /// nullptr when none is selected.
     [[nodiscard]] const Employee* selected() const;
+    /// No marks when none is selected.
+    [[nodiscard]] EmployeeMarks marks() const;
 
     [[nodiscard]] TypedSchedule& schedule() { return schedule_; }
     [[nodiscard]] std::string weeklyCaption() const;   ///< "44,0 HORAS SEMANAIS"
@@ -62,11 +64,10 @@ class CartaoPontoDados {
 
     /// "Aplicar Ponto": fills the month from the standard schedule.
     [[nodiscard]] bool applyPunches();
-    /// "Aplicar Ponto p/Todos" for these positions of the list: each card from the employee's own
+    /// "Aplicar Ponto p/Todos" for those whom the list shows: each card from the employee's own
     /// schedule or, with `sameHours`, from that of the one selected, which becomes his. Who cannot
     /// be filled stays as he is and is named at the end; cancelling leaves everyone as he was.
-    [[nodiscard]] bool applyToAll(const std::vector<std::size_t>& positions, bool sameHours,
-                                  const ListApplication::Progress& progress = {});
+    [[nodiscard]] bool applyToAll(bool sameHours, const ListApplication::Progress& progress = {});
     /// How many cards the last application filled.
     [[nodiscard]] int filledCards() const { return filledCards_; }
 
@@ -104,10 +105,13 @@ class CartaoPontoDados {
     [[nodiscard]] bool confirmLeaving();
 
   private:
-    void loadList(const CompanyCode& company, const MonthSettings& settings, ShiftFilter filter);
+    void loadList(const CompanyCode& company, const MonthSettings& settings);
+    [[nodiscard]] bool narrow(const std::function<void()>& filter);
+    /// Shows the card of who bears the code, a blank one if the list has nobody who does.
+    void loadCardOf(const std::string& code);
     void loadCard(std::size_t position);
-    [[nodiscard]] EmployeeMark markOf(const CompanyCode& company, const Employee& employee,
-                                      WorkMonth month) const;
+    [[nodiscard]] EmployeeMarks marksOf(const CompanyCode& company, const EmployeeCode& employee,
+                                        WorkMonth month) const;
     [[nodiscard]] bool requireSelection();
     /// Tells the operator when the month of the employee selected is closed now.
     [[nodiscard]] bool requireOpenMonth();
@@ -136,9 +140,7 @@ class CartaoPontoDados {
     std::string companyName_;
     MonthSettings settings_;
     OvertimeRules overtime_;
-    ShiftFilter filter_;
-    std::vector<Employee> employees_;
-    std::vector<EmployeeMark> marks_;
+    EmployeeList list_;
     std::optional<std::size_t> position_;
     TypedSchedule schedule_;
     CardSheet sheet_;

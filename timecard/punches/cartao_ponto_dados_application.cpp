@@ -28,10 +28,17 @@ std::string summaryOf(int filled, std::size_t asked) {
            (asked == 1 ? " funcionário." : " funcionários.");
 }
 
+/// "Turno: Unico", "Turno: Unico, Escala: 5x1".
+std::string descriptionOf(const EmployeeList& list) {
+    std::string text = "Turno: " + std::string(codeOf(list.shift()));
+    if (list.scale()) text.append(", Escala: ").append(codeOf(*list.scale()));
+    return text;
+}
+
 }  // namespace
 
 bool CartaoPontoDados::closed() const {
-    return position_ && marks_[*position_].closed;
+    return marks().closed;
 }
 
 bool CartaoPontoDados::requireEditable() {
@@ -41,7 +48,7 @@ bool CartaoPontoDados::requireEditable() {
 }
 
 bool CartaoPontoDados::requireOpenMonth() {
-    marks_[*position_] = markOf(company_.value(), *selected(), settings_.month);
+    list_.mark(*position_, marksOf(company_.value(), selectedCode(), settings_.month));
     return requireEditable();
 }
 
@@ -86,7 +93,7 @@ bool CartaoPontoDados::confirmApplication() {
          .edited = sheet_.changed(),
          .inGroup = rotates && queries_.rotation.isMember({company, selectedCode()}),
          .lacksSituation = leavesWorkBlank(schedule_.schedule()) && situationToApply_.empty(),
-         .onLeave = marks_[*position_].onLeave});
+         .onLeave = marks().onLeave});
 }
 
 bool CartaoPontoDados::applyPunches() {
@@ -117,28 +124,28 @@ bool CartaoPontoDados::applyPunches() {
 bool CartaoPontoDados::confirmListApplication(const std::vector<std::size_t>& positions,
                                               bool sameHours) {
     const auto differs = [&](std::size_t position) {
-        const Employee& one = employees_.at(position);
-        const Employee& first = employees_.at(positions.front());
+        const Employee& one = list_.employees().at(position);
+        const Employee& first = list_.employees().at(positions.front());
         return one.shiftOr() != first.shiftOr() || one.scaleOr() != first.scaleOr();
     };
     const bool chosen = selected() && !positions.empty();
     return winvrx::confirmListApplication(
         at_.person, {.selected = chosen ? selected() : nullptr,
                      .month = settings_.month,
-                     .onLeave = chosen && marks_[*position_].onLeave,
+                     .onLeave = chosen && marks().onLeave,
                      .sameHours = sameHours,
                      .listed = chosen && std::ranges::count(positions, *position_) > 0,
                      .lacksSchedule = leavesWorkBlank(schedule_.schedule()),
                      .mixed = std::ranges::any_of(positions, differs),
-                     .everyShift = filter_ == ShiftFilter::Todos,
-                     .description = "Turno: " + std::string(codeOf(filter_)),
+                     .everyShift = list_.shift() == ShiftFilter::Todos,
+                     .description = descriptionOf(list_),
                      .employees = positions.size()});
 }
 
-bool CartaoPontoDados::applyToAll(const std::vector<std::size_t>& positions, bool sameHours,
-                                  const ListApplication::Progress& progress) {
+bool CartaoPontoDados::applyToAll(bool sameHours, const ListApplication::Progress& progress) {
     if (!company_) return requireSelection();
     return attempt(at_, incorrectData(), [&] {
+        const auto positions = list_.shown();
         if (!confirmListApplication(positions, sameHours)) return false;
         requireStorableSituation();
         requireReadableSchedule();
@@ -151,7 +158,7 @@ bool CartaoPontoDados::fillAll(const std::vector<std::size_t>& positions, bool s
                                const ListApplication::Progress& progress) {
     std::vector<EmployeeCode> codes;
     for (const std::size_t position : positions)
-        codes.push_back(employees_.at(position).employeeCode().value());
+        codes.push_back(list_.employees().at(position).employeeCode().value());
     const auto hold = holdFolder(at_);
     requireScheduleAsShown();
     ApplicationOrder order = applicationOrder();

@@ -1,12 +1,11 @@
 #include "foundation/register/desktop/turnos_window.h"
 
+#include "foundation/register/desktop/employee_picker.h"
 #include "foundation/register/empregados.h"
 #include "foundation/register/turnos.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/look.h"
-#include "foundation/widgets/desktop/register_list.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -26,14 +25,9 @@ QString shiftText(const Employee& employee) {
     return shift ? toQt(codeOf(*shift)) : toQt(employee.shift);
 }
 
-std::vector<RegisterList::Row> rowsOf(const std::vector<Employee>& employees) {
-    std::vector<RegisterList::Row> rows;
-    for (const Employee& one : employees) {
-        const QStringList cells = {toQt(one.code), toQt(one.name), shiftText(one),
-                                   toQt(codeOf(one.scaleOr()))};
-        rows.push_back({cells, toQt(searchedText(one))});
-    }
-    return rows;
+QString termsOf(const Employee& employee) {
+    return QStringLiteral("Turno %1 · Escala %2")
+        .arg(shiftText(employee), toQt(codeOf(employee.scaleOr())));
 }
 
 }  // namespace
@@ -44,48 +38,33 @@ TurnosWindow::TurnosWindow(Turnos& turnos, QWidget* parent)
     auto* row = new QHBoxLayout(body);
     look::layOutBody(*row);
     row->setSpacing(look::kGroupGap);
-    row->addWidget(buildLists(), 3);
+    row->addWidget(buildEmployees(), 3);
     row->addWidget(buildShifts(), 2);
     setBody(body);
     buildCommands();
     turnos_.load();
     if (!turnos_.companyTitle().empty()) setChips({toQt(turnos_.companyTitle())});
-    showList();
-    list_->takeFocus();
+    employees_->refresh();
+    showSelected();
+    employees_->focusList();
 }
 
-QWidget* TurnosWindow::buildLists() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
-    QComboBox* filter = buildFilter(part);
-    column->addWidget(filter);
-    list_ = new RegisterList(QStringLiteral("turnos"), toQt(kEmployeeListTitle),
-                             QStringLiteral("Pesquisar nome, código, função ou CPF…"),
-                             {QStringLiteral("Código"), QStringLiteral("Nome"),
-                              QStringLiteral("Turno"), QStringLiteral("Escala")},
-                             part);
-    column->addWidget(list_, 1);
-    connect(list_, &RegisterList::chosen, this, [this](std::size_t position) { select(position); });
-    connect(list_, &RegisterList::firstRequested, filter,
-            [filter] { filter->setCurrentIndex(filter->count() - 1); });
-    connect(list_, &RegisterList::entered, this, [this] { shifts_->setFocus(Qt::TabFocusReason); });
-    return part;
-}
-
-QComboBox* TurnosWindow::buildFilter(QWidget* parent) {
-    auto* filter = new QComboBox(parent);
-    look::name(*filter, QStringLiteral("turnos.filter"), QStringLiteral("Turno mostrado"));
-    for (const ShiftFilter one : kMenuShiftFilters)
-        filter->addItem(QStringLiteral("Turno: ") + toQt(codeOf(one)));
-    const auto* place =
-        std::find(kMenuShiftFilters.begin(), kMenuShiftFilters.end(), turnos_.filter());
-    filter->setCurrentIndex(static_cast<int>(place - kMenuShiftFilters.begin()));
-    connect(filter, &QComboBox::currentIndexChanged, this, [this](int index) {
-        turnos_.setFilter(kMenuShiftFilters[static_cast<std::size_t>(index)]);
-        showList();
+QWidget* TurnosWindow::buildEmployees() {
+    employees_ = new EmployeePicker(turnos_.list(),
+                                    {.screen = QStringLiteral("turnos"), .details = termsOf}, this);
+    connect(employees_, &EmployeePicker::shiftChosen, this, [this](ShiftFilter shift) {
+        turnos_.list().filterBy(shift);
+        employees_->refresh();
+        showSelected();
     });
-    return filter;
+    connect(employees_, &EmployeePicker::searched, this, [this] {
+        employees_->selectShown();
+        showSelected();
+    });
+    connect(employees_, &EmployeePicker::employeeChosen, this, &TurnosWindow::showSelected);
+    connect(employees_, &EmployeePicker::opened, this,
+            [this] { shifts_->setFocus(Qt::TabFocusReason); });
+    return employees_;
 }
 
 QWidget* TurnosWindow::buildShifts() {
@@ -131,22 +110,8 @@ void TurnosWindow::buildCommands() {
     connect(close, &QPushButton::clicked, this, &TurnosWindow::reject);
 }
 
-void TurnosWindow::showList() {
-    shown_ = turnos_.shown();
-    if (turnos_.filter() == ShiftFilter::Todos)
-        list_->setEmptyTexts(QStringLiteral("Nenhum funcionário ainda. Inclua o primeiro no "
-                                            "Registro de Funcionários."),
-                             QString());
-    else
-        list_->setEmptyTexts(QStringLiteral("Nenhum funcionário neste turno."),
-                             QStringLiteral("Mostrar todos os turnos"));
-    list_->setRows(rowsOf(shown_));
-    select(shown_.empty() ? std::nullopt : std::optional<std::size_t>(0));
-    list_->mark(current_);
-}
-
-void TurnosWindow::select(std::optional<std::size_t> position) {
-    current_ = position;
+void TurnosWindow::showSelected() {
+    const auto position = employees_->selected();
     if (!position) {
         name_->setText(QStringLiteral("Nenhum funcionário selecionado"));
         details_->clear();
@@ -154,28 +119,29 @@ void TurnosWindow::select(std::optional<std::size_t> position) {
         setState(QString());
         return;
     }
-    const Employee& employee = shown_.at(*position);
+    const auto& employees = turnos_.list().employees();
+    const Employee& employee = employees.at(*position);
     name_->setText(toQt(employee.code + " " + employee.name));
-    details_->setText(
-        QStringLiteral("Turno %1 · Escala %2 · %3")
-            .arg(shiftText(employee), toQt(codeOf(employee.scaleOr())), toQt(employee.function)));
+    details_->setText(termsOf(employee) + QStringLiteral(" · ") + toQt(employee.function));
     const auto shift = parseShift(employee.shift);
     shifts_->setCurrentRow(shift ? static_cast<int>(*shift) : -1);
-    setState(QStringLiteral("%1 de %2").arg(*position + 1).arg(shown_.size()));
+    setState(QStringLiteral("%1 de %2").arg(*position + 1).arg(employees.size()));
 }
 
 void TurnosWindow::changeShift() {
-    if (!current_) return turnos_.askForEmployee();
+    const auto place = employees_->selected();
+    if (!place) return turnos_.askForEmployee();
     const int row = shifts_->currentRow();
     const auto shift =
         row < 0 ? std::nullopt : std::optional(kShifts.at(static_cast<std::size_t>(row)));
-    const std::size_t place = *current_;
-    if (!turnos_.change(shown_.at(place), shift)) return;
-    showList();
+    if (!turnos_.change(turnos_.list().employees().at(*place), shift)) return;
+    employees_->refresh();
     // With a filter the employee may have left the list; then the one after him is next.
-    if (!shown_.empty()) select(std::min(place, shown_.size() - 1));
-    list_->mark(current_);
-    list_->takeFocus();
+    const std::size_t count = turnos_.list().employees().size();
+    if (count > 0) employees_->select(std::min(*place, count - 1));
+    employees_->selectShown();
+    showSelected();
+    employees_->focusList();
 }
 
 }  // namespace winvrx

@@ -1,19 +1,14 @@
 #pragma once
 
-#include "foundation/register/employee.h"
 #include "foundation/widgets/desktop/screen_window.h"
 
-#include <optional>
-#include <vector>
-
-class QComboBox;
 class QLabel;
 class QListWidget;
 class QPushButton;
 
 namespace winvrx {
 
-class RegisterList;
+class EmployeePicker;
 class Turnos;
 
 /// The window of the screen that changes shifts: pick the filter, an employee, the new shift.
@@ -25,18 +20,14 @@ class TurnosWindow : public ScreenWindow {
     explicit TurnosWindow(Turnos& turnos, QWidget* parent = nullptr);
 
   private:
-    [[nodiscard]] QWidget* buildLists();
+    [[nodiscard]] QWidget* buildEmployees();
     [[nodiscard]] QWidget* buildShifts();
-    [[nodiscard]] QComboBox* buildFilter(QWidget* parent);
     void buildCommands();
-    void showList();
-    void select(std::optional<std::size_t> position);
+    void showSelected();
     void changeShift();
 
     Turnos& turnos_;
-    std::vector<Employee> shown_;
-    std::optional<std::size_t> current_;
-    RegisterList* list_ = nullptr;
+    EmployeePicker* employees_ = nullptr;
     QLabel* name_ = nullptr;
     QLabel* details_ = nullptr;
     QListWidget* shifts_ = nullptr;

@@ -1,22 +1,19 @@
 #include "output/cards/desktop/cartao_window.h"
 
+#include "foundation/register/desktop/employee_picker.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/progress.h"
-#include "foundation/widgets/desktop/search_box.h"
 #include "output/cards/desktop/print_choices_box.h"
 #include "report/desktop/pdf_file_dialog.h"
 
-#include <QComboBox>
 #include <QFileDialog>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 #include <QShortcut>
-#include <QSignalBlocker>
 #include <QStandardPaths>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -33,10 +30,6 @@ QString countText(std::size_t cards) {
                       : QStringLiteral("%1 cartões").arg(static_cast<qulonglong>(cards));
 }
 
-QString listText(const Employee& employee) {
-    return toQt(employee.code) + QStringLiteral("   ") + toQt(employee.name);
-}
-
 }  // namespace
 
 CartaoWindow::CartaoWindow(Cartao& cartao, CartaoWindowDesk desk, QWidget* parent)
@@ -48,9 +41,8 @@ CartaoWindow::CartaoWindow(Cartao& cartao, CartaoWindowDesk desk, QWidget* paren
     setBody(buildBody());
     buildClosingButtons();
     connectAll();
-    search_->serve(list_);
     showList();
-    list_->setFocus();
+    employees_->focusList();
 }
 
 void CartaoWindow::buildCommands() {
@@ -102,7 +94,9 @@ QWidget* CartaoWindow::buildBody() {
     auto* row = new QHBoxLayout(body);
     look::layOutBody(*row);
     row->setSpacing(look::kGroupGap);
-    row->addWidget(buildList(body), 2);
+    employees_ = new EmployeePicker(cartao_.list(), {.screen = QStringLiteral("cartao")}, body);
+    employees_->setMinimumWidth(employees_->fontMetrics().averageCharWidth() * kListCharacters);
+    row->addWidget(employees_, 2);
     auto* right = new QVBoxLayout;
     right->setSpacing(look::kGroupGap);
     right->addWidget(buildPreview(body));
@@ -111,36 +105,6 @@ QWidget* CartaoWindow::buildBody() {
     right->addStretch();
     row->addLayout(right, 3);
     return body;
-}
-
-QWidget* CartaoWindow::buildList(QWidget* parent) {
-    auto* part = new QWidget(parent);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
-    shift_ = new QComboBox(part);
-    look::name(*shift_, QStringLiteral("cartao.shift"), QStringLiteral("Turno"));
-    for (const ShiftFilter filter : kMenuShiftFilters)
-        shift_->addItem(toQt(codeOf(filter)), static_cast<int>(filter));
-    shift_->setCurrentIndex(shift_->findData(static_cast<int>(cartao_.filter())));
-    auto* shiftLabel = new QLabel(QStringLiteral("T&urno:"), part);
-    shiftLabel->setBuddy(shift_);
-    auto* shiftRow = new QHBoxLayout;
-    shiftRow->addWidget(shiftLabel);
-    shiftRow->addWidget(shift_, 1);
-    column->addLayout(shiftRow);
-    search_ = new SearchBox(QStringLiteral("cartao.search"),
-                            QStringLiteral("Pesquisa Funcionário ..."), part);
-    column->addWidget(search_);
-    list_ = new QListWidget(part);
-    look::name(*list_, QStringLiteral("cartao.employees"), QStringLiteral("Funcionários"));
-    list_->setMinimumWidth(list_->fontMetrics().averageCharWidth() * kListCharacters);
-    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    column->addWidget(list_, 1);
-    emptyList_ = look::label(QString(), look::TextSize::Hint, part);
-    emptyList_->setObjectName(QStringLiteral("cartao.emptyList"));
-    emptyList_->setWordWrap(true);
-    column->addWidget(emptyList_);
-    return part;
 }
 
 QWidget* CartaoWindow::buildPreview(QWidget* parent) {
@@ -174,15 +138,17 @@ void CartaoWindow::connectAll() {
         showPreview();
         showContext();
     });
-    connect(shift_, &QComboBox::currentIndexChanged, this, [this] {
-        cartao_.setFilter(static_cast<ShiftFilter>(shift_->currentData().toInt()));
+    connect(employees_, &EmployeePicker::shiftChosen, this, [this](ShiftFilter shift) {
+        cartao_.list().filterBy(shift);
         showList();
     });
-    connect(search_, &SearchBox::textChanged, this, [this](const QString& text) {
-        cartao_.setSearch(toUtf8(text));
-        showList();
+    connect(employees_, &EmployeePicker::searched, this, [this] {
+        employees_->selectShown();
+        showPreview();
+        showContext();
     });
-    connect(list_, &QListWidget::currentRowChanged, this, &CartaoWindow::showPreview);
+    connect(employees_, &EmployeePicker::employeeChosen, this, &CartaoWindow::showPreview);
+    connect(employees_, &EmployeePicker::opened, this, &CartaoWindow::printOne);
 }
 
 void CartaoWindow::visit(const std::function<void(QWidget*)>& screen) {
@@ -199,7 +165,7 @@ bool CartaoWindow::mayClose() {
 }
 
 void CartaoWindow::printOne() {
-    (void)cartao_.printOne(selected(), runWith(nullptr));
+    (void)cartao_.printOne(employees_->selected(), runWith(nullptr));
 }
 
 void CartaoWindow::printAll() {
@@ -233,27 +199,13 @@ std::string CartaoWindow::choosePdfFolder() {
 }
 
 void CartaoWindow::showList() {
-    const QString former = list_->currentItem() ? list_->currentItem()->text() : QString();
-    {
-        const QSignalBlocker quiet(list_);
-        list_->clear();
-        for (const Employee& employee : cartao_.employees())
-            list_->addItem(listText(employee));
-        const auto same = list_->findItems(former, Qt::MatchExactly);
-        list_->setCurrentRow(same.isEmpty() ? 0 : list_->row(same.front()));
-    }
-    const bool empty = cartao_.employees().empty();
-    emptyList_->setVisible(empty);
-    emptyList_->setText(search_->text().isEmpty()
-                            ? QStringLiteral("Nenhum funcionário neste turno. Escolha outro turno "
-                                             "ou inclua funcionários no cadastro.")
-                            : QStringLiteral("Nenhum funcionário com este nome ou código."));
+    employees_->refresh();
     showPreview();
     showContext();
 }
 
 void CartaoWindow::showPreview() {
-    const QString text = toQt(cartao_.headerPreview(selected()));
+    const QString text = toQt(cartao_.headerPreview(employees_->selected()));
     header_->setEnabled(!text.isEmpty() && cartao_.choices().printer.printHeader);
     if (!text.isEmpty())
         header_->setText(text);
@@ -276,16 +228,11 @@ void CartaoWindow::showContext() {
     setChips({toQt(cartao_.company().code) + QLatin1Char(' ') + toQt(cartao_.company().name),
               cartao_.month() ? toQt(monthTitle(*cartao_.month()))
                               : QStringLiteral("Sem mês de trabalho"),
-              toQt(codeOf(cartao_.filter()))});
-    setState(QStringList{countText(cartao_.employees().size()),
+              toQt(codeOf(cartao_.list().shift()))});
+    setState(QStringList{countText(cartao_.list().shown().size()),
                          stock.isEmpty() ? QStringLiteral("sem tipo de cartão") : stock,
                          central ? QStringLiteral("Central") : QStringLiteral("Lateral"), printer}
                  .join(QStringLiteral(" · ")));
-}
-
-std::optional<std::size_t> CartaoWindow::selected() const {
-    const int row = list_->currentRow();
-    return row < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(row));
 }
 
 }  // namespace winvrx

@@ -7,15 +7,13 @@
 #include <optional>
 #include <string>
 
-class QComboBox;
 class QLabel;
-class QListWidget;
 
 namespace winvrx {
 
+class EmployeePicker;
 class PrintChoicesBox;
 class Progress;
-class SearchBox;
 
 /// The screens that the printing screen opens. Each returns when its screen is closed.
 struct CartaoWindowDesk {
@@ -40,7 +38,6 @@ class CartaoWindow : public ScreenWindow {
     void buildCommands();
     void buildClosingButtons();
     [[nodiscard]] QWidget* buildBody();
-    [[nodiscard]] QWidget* buildList(QWidget* parent);
     [[nodiscard]] QWidget* buildPreview(QWidget* parent);
     void connectAll();
 
@@ -54,14 +51,9 @@ class CartaoWindow : public ScreenWindow {
     void showList();
     void showPreview();
     void showContext();
-    [[nodiscard]] std::optional<std::size_t> selected() const;
-
     Cartao& cartao_;
     CartaoWindowDesk desk_;
-    QComboBox* shift_ = nullptr;
-    SearchBox* search_ = nullptr;
-    QListWidget* list_ = nullptr;
-    QLabel* emptyList_ = nullptr;
+    EmployeePicker* employees_ = nullptr;
     QLabel* header_ = nullptr;
     QLabel* headerHint_ = nullptr;
     PrintChoicesBox* choices_ = nullptr;

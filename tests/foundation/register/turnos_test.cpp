@@ -23,7 +23,7 @@ class TurnosTest : public ::testing::Test {
 
     [[nodiscard]] std::string shown() const {
         std::string codes;
-        for (const Employee& one : turnos_.shown())
+        for (const Employee& one : turnos_.list().employees())
             codes += one.code + " ";
         return codes;
     }
@@ -34,10 +34,11 @@ class TurnosTest : public ::testing::Test {
 
 TEST_F(TurnosTest, ChangesTheShiftOnly) {
     const Employee before = decodeEmployee(splitLines(desk_.file("01CartaPonto"))[0]);
-    EXPECT_FALSE(turnos_.change(turnos_.shown()[0], Shift::Dois)) << "No leaves the shift";
+    EXPECT_FALSE(turnos_.change(turnos_.list().employees()[0], Shift::Dois))
+        << "No leaves the shift";
     desk_.person.takeTexts();
     desk_.person.answers = {Answer::Yes};
-    EXPECT_TRUE(turnos_.change(turnos_.shown()[0], Shift::Dois));
+    EXPECT_TRUE(turnos_.change(turnos_.list().employees()[0], Shift::Dois));
     EXPECT_EQ(desk_.person.shown[0].title, "ALTERAÇÃO");
     EXPECT_THAT(desk_.person.takeTexts(), ElementsAre("Confirma Alteração deste ITEM?"));
     Employee after = decodeEmployee(splitLines(desk_.file("01CartaPonto"))[0]);
@@ -49,26 +50,26 @@ TEST_F(TurnosTest, ChangesTheShiftOnly) {
 
 TEST_F(TurnosTest, TheListFollowsTheFilter) {
     EXPECT_EQ(shown(), "001 002 ");
-    turnos_.setFilter(ShiftFilter::Tres);
+    turnos_.list().filterBy(ShiftFilter::Tres);
     EXPECT_EQ(shown(), "002 ");
-    turnos_.setFilter(ShiftFilter::Dois);
+    turnos_.list().filterBy(ShiftFilter::Dois);
     EXPECT_EQ(shown(), "");
     desk_.session.shiftFilter = ShiftFilter::Unico;
-    EXPECT_EQ(Turnos(desk_.at, desk_.browser, desk_.locks).filter(), ShiftFilter::Unico);
+    EXPECT_EQ(Turnos(desk_.at, desk_.browser, desk_.locks).list().shift(), ShiftFilter::Unico);
 }
 
 TEST_F(TurnosTest, Refuses) {
     const auto before = desk_.files.content;
     desk_.locks.members = {"001"};
     desk_.person.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
-    EXPECT_FALSE(turnos_.change(turnos_.shown()[0], Shift::Dois));
+    EXPECT_FALSE(turnos_.change(turnos_.list().employees()[0], Shift::Dois));
     EXPECT_EQ(desk_.person.shown.back().text,
               "Não Permitido Alteração de Turno deste Funcionário pois consta na lista de um dos "
               "Grupos da Escala de Revezamento. Para Alterar, Primeiro Remova-o da Lista de "
               "Revezamento. ");
-    EXPECT_FALSE(turnos_.change(turnos_.shown()[1], Shift::Dois));
+    EXPECT_FALSE(turnos_.change(turnos_.list().employees()[1], Shift::Dois));
     EXPECT_EQ(desk_.person.shown.back().text, "Dado Incorreto!") << "12x36 bars the second shift";
-    Employee unknown = turnos_.shown()[0];
+    Employee unknown = turnos_.list().employees()[0];
     unknown.shift = "Seis";
     EXPECT_FALSE(turnos_.change(unknown, std::nullopt));
     EXPECT_EQ(desk_.person.shown.back().detail,
@@ -77,7 +78,7 @@ TEST_F(TurnosTest, Refuses) {
 }
 
 TEST_F(TurnosTest, ARecordChangedMeanwhileIsNotWritten) {
-    const Employee shown = turnos_.shown()[0];
+    const Employee shown = turnos_.list().employees()[0];
     struct Case {
         const char* what;
         std::vector<Employee> list;
@@ -103,9 +104,9 @@ TEST_F(TurnosTest, OfTwoLinesWithOneCodeTheOneShownIsChanged) {
                  {EmployeeDesk::employee("001", "ANA"), EmployeeDesk::employee("001", "EVA")});
     turnos_.load();
     desk_.person.answers = {Answer::Yes};
-    EXPECT_TRUE(turnos_.change(turnos_.shown()[1], Shift::Dois));
-    EXPECT_EQ(turnos_.shown()[0].shift, "Unico");
-    EXPECT_EQ(turnos_.shown()[1].shift, "Dois");
+    EXPECT_TRUE(turnos_.change(turnos_.list().employees()[1], Shift::Dois));
+    EXPECT_EQ(turnos_.list().employees()[0].shift, "Unico");
+    EXPECT_EQ(turnos_.list().employees()[1].shift, "Dois");
 }
 
 }  // namespace

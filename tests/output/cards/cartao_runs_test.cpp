@@ -117,7 +117,7 @@ TEST_F(CartaoOpened, TheSecondSideIsLeftOnlyByDecision) {
 TEST_F(CartaoOpened, TwoSidesAreSeenTogether) {
     engine.sides = 2;
     const Texts jose = {"JOSÉ DA SILVA"};
-    screen.setSearch("jose");
+    screen.list().searchFor("jose");
     screen.choices().output = ReportOutput::PdfFile;
     EXPECT_TRUE(screen.printAll({.choosePdf = [](const std::string& name) { return "/" + name; }}));
     EXPECT_EQ(passOf(engine.jobs.at(0)), std::pair(SheetSides::Both, jose));

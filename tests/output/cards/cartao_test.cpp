@@ -32,19 +32,19 @@ const std::string kNoPrinter =
 TEST_F(CartaoOpened, ListFollowsShiftAndSearch) {
     const auto names = [this] {
         Texts names;
-        for (const Employee& one : screen.employees())
-            names.push_back(one.name);
+        for (const std::size_t position : screen.list().shown())
+            names.push_back(screen.list().employees()[position].name);
         return names;
     };
     EXPECT_EQ(names(), (Texts{"JOSÉ DA SILVA", "ANA PAULA", "RUI BARBOSA"}));
-    screen.setFilter(ShiftFilter::Dois);
+    screen.list().filterBy(ShiftFilter::Dois);
     EXPECT_EQ(names(), Texts{"ANA PAULA"});
-    screen.setFilter(ShiftFilter::Todos);
-    screen.setSearch("jose");
+    screen.list().filterBy(ShiftFilter::Todos);
+    screen.list().searchFor("jose");
     EXPECT_EQ(names(), Texts{"JOSÉ DA SILVA"});
     screen.load();
     EXPECT_EQ(names(), Texts{"JOSÉ DA SILVA"});
-    screen.setSearch("003");
+    screen.list().searchFor("003");
     EXPECT_EQ(names(), Texts{"RUI BARBOSA"});
     EXPECT_TRUE(screen.printAll({}));
     EXPECT_EQ(printed(), Texts{"RUI BARBOSA"});
@@ -232,7 +232,7 @@ TEST_F(CartaoTest, UnreadableRegisterIsToldOnce) {
         desk.files.failOn = {name};
         screen.load();
         EXPECT_EQ(desk.person.takeTexts(), Texts{"Dados incorretos!"}) << name;
-        EXPECT_TRUE(screen.employees().empty());
+        EXPECT_TRUE(screen.list().employees().empty());
     }
 }
 

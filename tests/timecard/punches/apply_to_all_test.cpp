@@ -46,12 +46,6 @@ struct ApplyToAll : CardScreen {
         desk.file(kSchedule) = "08:0012:0013:0017:001 08:0012:00\r\n";
     }
 
-    [[nodiscard]] std::vector<std::size_t> everyone() const {
-        std::vector<std::size_t> positions;
-        for (std::size_t i = 0; i < screen.employees().size(); ++i)
-            positions.push_back(i);
-        return positions;
-    }
     void agreeToAll() { desk.person.answers = {Answer::Ok, Answer::Ok, Answer::Yes}; }
     [[nodiscard]] std::string firstDayOf(const char* employee) {
         const auto lines = splitLines(desk.file("01" + std::string(employee) + "-03-2024.bdx"));
@@ -145,9 +139,8 @@ TEST_F(ApplyToAll, ChecksInOrder) {
         const auto untouched = desk.files.content;
         desk.person.shown.clear();
         desk.person.answers.assign(c.answers.begin(), c.answers.end());
-        auto listed = everyone();
-        if (c.hidden) listed.erase(listed.begin());
-        EXPECT_EQ(screen.applyToAll(listed, c.sameHours), c.done) << c.what;
+        screen.list().searchFor(c.hidden ? "caio" : "");
+        EXPECT_EQ(screen.applyToAll(c.sameHours), c.done) << c.what;
         EXPECT_EQ(takeShown(), c.shown) << c.what;
         EXPECT_EQ(desk.files.content == untouched, !c.done) << c.what;
     }
@@ -156,7 +149,7 @@ TEST_F(ApplyToAll, ChecksInOrder) {
 TEST_F(ApplyToAll, OneShiftInAListOfAllShiftsIsRefusedByTheFilter) {
     hire({employee("001", "ANA", "Unico", "Norma"), employee("003", "CAIO", "Unico", "Norma")});
     openOn(0);
-    EXPECT_FALSE(screen.applyToAll(everyone(), true));
+    EXPECT_FALSE(screen.applyToAll(true));
     EXPECT_THAT(takeShown(), ElementsAre(kEveryShift));
 }
 
@@ -164,7 +157,7 @@ TEST_F(ApplyToAll, TheScheduleOfTheOneSelectedBecomesEveryones) {
     desk.file("01PadrHor003.pdx") = "06:00" + std::string(187, ' ') + "behind\r\nsecond line\r\n";
     ASSERT_TRUE(screen.open() && screen.filterBy(ShiftFilter::Unico) && screen.select(0));
     agreeToAll();
-    ASSERT_TRUE(screen.applyToAll(everyone(), true));
+    ASSERT_TRUE(screen.applyToAll(true));
     EXPECT_EQ(desk.person.shown.back().detail,
               "O horário é o de 001 ANA. A lista tem 3 funcionários.");
     EXPECT_EQ(screen.filledCards(), 3);
@@ -191,7 +184,7 @@ TEST_F(ApplyToAll, EachHasHisOwnHoursAndWhoCannotBeFilledIsNamed) {
     desk.file("01PadrHor007.pdx") = "14:0018:0019:0022:00\r\n";
     openOn(0);
     agreeToAll();
-    ASSERT_TRUE(screen.applyToAll(everyone(), false));
+    ASSERT_TRUE(screen.applyToAll(false));
     const Message& report = desk.person.shown.back();
     EXPECT_EQ(report.title, "Aplicação de Pontos");
     EXPECT_EQ(report.text, "Ponto aplicado para 3 de 8 funcionários.");
@@ -220,7 +213,7 @@ TEST_F(ApplyToAll, ALongReportIsCutOnTheScreenAndWholeInTheLog) {
     hire(people);
     openOn(0);
     agreeToAll();
-    ASSERT_TRUE(screen.applyToAll(everyone(), false));
+    ASSERT_TRUE(screen.applyToAll(false));
     EXPECT_THAT(desk.person.shown.back().detail, ::testing::EndsWith(", N e mais 9"));
     EXPECT_THAT(desk.log.entries, ElementsAre(HasSubstr("ULTIMA")));
 }
@@ -230,7 +223,7 @@ TEST_F(ApplyToAll, CancellingLeavesEverythingAsItWas) {
     const auto untouched = desk.files.content;
     agreeToAll();
     std::vector<int> counts;
-    EXPECT_FALSE(screen.applyToAll(everyone(), true, [&](int done, int total) {
+    EXPECT_FALSE(screen.applyToAll(true, [&](int done, int total) {
         counts.push_back(done);
         EXPECT_EQ(total, 3);
         return done < 2;
@@ -245,7 +238,7 @@ TEST_F(ApplyToAll, TheRegisterIsReadAgainBeforeTheCardsAreFilled) {
     caio.admission = "15/03/2024";
     hire({employee("001", "ANA", "Unico", "Norma"), caio});
     agreeToAll();
-    ASSERT_TRUE(screen.applyToAll(everyone(), true));
+    ASSERT_TRUE(screen.applyToAll(true));
     EXPECT_EQ(firstDayOf("003"), std::string(20, ' '));
     EXPECT_THAT(desk.person.shown.back().detail, HasSubstr("Não está mais no cadastro: 004"));
 }
@@ -255,7 +248,7 @@ TEST_F(ApplyToAll, ACodeThatTwoBearIsFilledOnce) {
           employee("001", "OUTRA ANA", "Unico", "Norma")});
     openOn(0);
     agreeToAll();
-    ASSERT_TRUE(screen.applyToAll(everyone(), false));
+    ASSERT_TRUE(screen.applyToAll(false));
     EXPECT_EQ(desk.person.shown.back().text, "Ponto aplicado para 2 de 3 funcionários.");
     EXPECT_THAT(desk.person.shown.back().detail,
                 HasSubstr("Código repetido no cadastro, vale o primeiro: 001"));
@@ -267,7 +260,7 @@ TEST_F(ApplyToAll, UnrecordedCellsOfAClosedMonthStayOnTheScreen) {
     screen.sheet().type(4, PunchCell::MorningEntry, "9");
     asked.locks.closed = {"001"};
     agreeToAll();
-    ASSERT_TRUE(screen.applyToAll(everyone(), false));
+    ASSERT_TRUE(screen.applyToAll(false));
     EXPECT_EQ(screen.sheet().text(4, PunchCell::MorningEntry), "09:00");
 }
 

@@ -24,19 +24,19 @@ TEST_F(CardScreen, TheMainWindowsShiftHoldsUntilAnotherIsChosen) {
     desk.session.shiftFilter = ShiftFilter::Dois;
     CartaoPontoDados opened(desk.at, asked.queries);
     ASSERT_TRUE(opened.open());
-    EXPECT_EQ(opened.employees().size(), 1U) << "whatever the month was chosen with";
+    EXPECT_EQ(opened.list().employees().size(), 1U) << "whatever the month was chosen with";
     ASSERT_TRUE(opened.filterBy(ShiftFilter::Unico));
     saveSelectedMonth(desk.store(), {2024y / 4, ShiftFilter::Dois});
     ASSERT_TRUE(opened.open());
-    EXPECT_EQ(opened.filter(), ShiftFilter::Unico) << "the month's screen was visited";
+    EXPECT_EQ(opened.list().shift(), ShiftFilter::Unico) << "the month's screen was visited";
 }
 
 TEST_F(CardScreen, ListFollowsTheShiftAndKeepsTheEmployeeChosen) {
     openOn(2);
     ASSERT_TRUE(screen.filterBy(ShiftFilter::Unico));
-    ASSERT_EQ(screen.employees().size(), 2U);
+    ASSERT_EQ(screen.list().employees().size(), 2U);
     EXPECT_EQ(screen.selected()->name, "CAIO");
-    ASSERT_TRUE(screen.filterBy(ShiftFilter::Dois));
+    ASSERT_TRUE(screen.filterBy(Scale::TwelveByThirtySix));
     EXPECT_EQ(screen.selected(), nullptr);
     EXPECT_FALSE(screen.applyPunches());
     EXPECT_THAT(desk.person.takeTexts(), ElementsAre("Selecione um Funcionário na Lista!"));
@@ -92,8 +92,8 @@ TEST_F(CardScreen, AClosedMonthRefusesEveryChange) {
               "ATENÇÃO! Não é Possível Alterar o Ponto! Já Foi Gerada a Folha de Pagamento para "
               "este Funcionário!!");
     EXPECT_EQ(desk.files.content, untouched);
-    EXPECT_TRUE(screen.mark(0).closed);
-    EXPECT_FALSE(screen.mark(1).closed);
+    EXPECT_TRUE(screen.list().marks(0).closed);
+    EXPECT_FALSE(screen.list().marks(1).closed);
 }
 
 TEST_F(CardScreen, ADayOfWorkEmptiedWithoutASituationIsAskedAbout) {

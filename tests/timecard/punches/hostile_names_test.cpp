@@ -30,7 +30,7 @@ TEST(HostileNames, AStoredMonthOrCodeNamesNoFileOutside) {
     CartaoPontoDados screen(at, asked.queries);
     desk.file("01PadrHor001.pdx") = "08:0012:00";
     ASSERT_TRUE(screen.open());
-    ASSERT_EQ(screen.employees().size(), 1U);
+    ASSERT_EQ(screen.list().employees().size(), 1U);
     ASSERT_TRUE(screen.select(0));
     desk.person.answers = {Answer::Yes};
     EXPECT_TRUE(screen.applyPunches());

@@ -80,7 +80,7 @@ bool ApplicationBar::sameHours() const {
 
 void ApplicationBar::showCaption() {
     const QString caption =
-        sameHours() ? kSameHoursOf + toQt(codeOf(command_.filter())) : kSameHours;
+        sameHours() ? kSameHoursOf + toQt(codeOf(command_.list().shift())) : kSameHours;
     sameHours_->setAccessibleName(caption);
     // The long caption takes two lines.
     sameHours_->setText(

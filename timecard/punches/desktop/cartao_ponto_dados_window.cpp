@@ -1,11 +1,11 @@
 #include "timecard/punches/desktop/cartao_ponto_dados_window.h"
 
+#include "foundation/register/desktop/employee_picker.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/progress.h"
 #include "timecard/hours/desktop/hours_summary_panel.h"
 #include "timecard/punches/desktop/application_bar.h"
-#include "timecard/punches/desktop/employee_panel.h"
 #include "timecard/punches/desktop/half_month_panel.h"
 #include "timecard/punches/desktop/punch_grid.h"
 #include "timecard/punches/desktop/schedule_panel.h"
@@ -27,6 +27,10 @@ namespace {
 /// Of the side; both halves beside it bring one more column of hours.
 constexpr int kSideWidth = 288;
 constexpr int kWideSideWidth = 332;
+constexpr std::array kShiftFilters = {ShiftFilter::Todos, ShiftFilter::Unico, ShiftFilter::Um,
+                                      ShiftFilter::Dois, ShiftFilter::Tres};
+const QString kNoMonth = QStringLiteral(
+    "Escolha primeiro o mês de trabalho em \"Configurações Feriados e Horas extras\" (F7).");
 
 HalfMonth otherThan(HalfMonth half) {
     return half == HalfMonth::First ? HalfMonth::Second : HalfMonth::First;
@@ -64,7 +68,9 @@ QWidget* CartaoPontoDadosWindow::buildSide() {
     side_ = new QWidget(this);
     auto* column = new QVBoxLayout(side_);
     look::layOutPart(*column);
-    employees_ = new EmployeePanel(command_, side_);
+    employees_ = new EmployeePicker(
+        command_.list(),
+        {.screen = QStringLiteral("card"), .shifts = kShiftFilters, .scales = true}, side_);
     column->addWidget(employees_, 1);
     column->addWidget(buildHours());
     QRadioButton* enter = buildEntryMode(QStringLiteral("Usar Tecla &ENTER"),
@@ -170,14 +176,16 @@ void CartaoPontoDadosWindow::buildCommands() {
 }
 
 void CartaoPontoDadosWindow::connectEmployees() {
-    connect(employees_, &EmployeePanel::shiftChosen, this, [this](ShiftFilter filter) {
+    const auto narrow = [this](auto filter) {
         commitEditors();
         (void)command_.filterBy(filter);
         refresh();
-    });
-    connect(employees_, &EmployeePanel::employeeChosen, this,
+    };
+    connect(employees_, &EmployeePicker::shiftChosen, this, narrow);
+    connect(employees_, &EmployeePicker::scaleChosen, this, narrow);
+    connect(employees_, &EmployeePicker::employeeChosen, this,
             &CartaoPontoDadosWindow::chooseEmployee);
-    connect(employees_, &EmployeePanel::opened, this, [this] { half(shown_).grid().goToStart(); });
+    connect(employees_, &EmployeePicker::opened, this, [this] { half(shown_).grid().goToStart(); });
 }
 
 void CartaoPontoDadosWindow::addEmployeeKeys() {
@@ -231,11 +239,12 @@ void CartaoPontoDadosWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void CartaoPontoDadosWindow::refresh() {
-    if (!command_.selected() && !command_.employees().empty()) (void)command_.select(0);
+    if (!command_.selected() && !command_.list().employees().empty()) (void)command_.select(0);
     if (command_.company())
         setChips({toQt(command_.company()->text() + " " + command_.companyName()),
                   toQt(monthTitle(command_.settings().month)),
-                  QStringLiteral("Turno: ") + toQt(codeOf(command_.filter()))});
+                  QStringLiteral("Turno: ") + toQt(codeOf(command_.list().shift()))});
+    employees_->setHint(command_.company() ? QString() : kNoMonth);
     employees_->refresh();
     application_->refresh();
     showCard();
@@ -248,7 +257,7 @@ void CartaoPontoDadosWindow::chooseEmployee(std::size_t position) {
 }
 
 void CartaoPontoDadosWindow::showCard() {
-    employees_->showSelected();
+    employees_->select(command_.selectedPosition());
     schedule_->refresh();
     showUnread();
     layOutHalves();
@@ -332,23 +341,23 @@ void CartaoPontoDadosWindow::apply() {
 
 void CartaoPontoDadosWindow::applyToAll() {
     commitEditors();
-    const auto positions = employees_->shown();
+    const std::size_t listed = command_.list().shown().size();
     bool applied = false;
     {
         Progress progress(
             {QStringLiteral("card.progress"), QStringLiteral("Aplicação de Pontos"),
              QStringLiteral("Cartão %1 de %2"), QStringLiteral("Gravando %1 cartões…")},
             this);
-        applied = command_.applyToAll(
-            positions, application_->sameHours(),
-            [&progress](int done, int total) { return progress.show(done, total); });
+        applied = command_.applyToAll(application_->sameHours(), [&progress](int done, int total) {
+            return progress.show(done, total);
+        });
     }
     employees_->refresh();
     showCard();
     if (applied)
         setState(QStringLiteral("Ponto aplicado: %1 de %2 da lista")
                      .arg(command_.filledCards())
-                     .arg(positions.size()));
+                     .arg(listed));
 }
 
 void CartaoPontoDadosWindow::save() {

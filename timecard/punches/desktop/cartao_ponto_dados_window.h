@@ -12,7 +12,7 @@ class QToolButton;
 namespace winvrx {
 
 class ApplicationBar;
-class EmployeePanel;
+class EmployeePicker;
 class HalfMonthPanel;
 class HoursSummaryPanel;
 class SchedulePanel;
@@ -76,7 +76,7 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     CartaoPontoDados& command_;
     HalfMonth shown_ = HalfMonth::First;
     QWidget* side_ = nullptr;
-    EmployeePanel* employees_ = nullptr;
+    EmployeePicker* employees_ = nullptr;
     HoursSummaryPanel* hours_ = nullptr;
     SchedulePanel* schedule_ = nullptr;
     ApplicationBar* application_ = nullptr;

@@ -9,13 +9,6 @@
 
 namespace winvrx {
 
-namespace {
-
-const QString kOnLeave = QStringLiteral("⚠ COLABORADOR COM AFASTAMENTO!!!");
-const QString kClosed = QStringLiteral("⚠ Folha Fechada");
-
-}  // namespace
-
 HalfMonthPanel::HalfMonthPanel(CartaoPontoDados& command, HalfMonth half, QWidget* parent)
     : QWidget(parent), command_(command), half_(half) {
     const QString number = half == HalfMonth::First ? QStringLiteral("1") : QStringLiteral("2");
@@ -50,11 +43,9 @@ void HalfMonthPanel::showSheet() {
 
 void HalfMonthPanel::showHeading() {
     heading_->setText(nameOf(half_) + QStringLiteral("  ·  ") + toQt(command_.totalOf(half_)));
-    const auto position = command_.selectedPosition();
-    const EmployeeMark mark = position ? command_.mark(*position) : EmployeeMark();
     QStringList marks;
-    if (mark.onLeave) marks << kOnLeave;
-    if (mark.closed) marks << kClosed;
+    for (const std::string& text : textsOf(command_.marks()))
+        marks << QStringLiteral("⚠ ") + toQt(text);
     marks_->setText(marks.join(QStringLiteral("  ·  ")));
 }
 

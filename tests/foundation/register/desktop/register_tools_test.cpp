@@ -26,12 +26,12 @@ TEST(TurnosWindow, ChangesShiftsWithTheKeyboardAlone) {
     Turnos turnos(desk.at, desk.browser, desk.locks);
     TurnosWindow window(turnos);
     const WindowDriver screen(window);
-    EXPECT_EQ(screen.focusName(), "turnos.list");
-    const auto& filter = screen.find<QComboBox>("turnos.filter");
+    EXPECT_EQ(screen.focusName(), "turnos.employees");
+    const auto& filter = screen.find<QComboBox>("turnos.shift");
     std::vector<std::string> filters;
     for (int item = 0; item < filter.count(); ++item)
         filters.push_back(toUtf8(filter.itemText(item)));
-    EXPECT_THAT(filters, ElementsAre("Turno: Unico", "Turno: Dois", "Turno: Tres", "Turno: Todos"));
+    EXPECT_THAT(filters, ElementsAre("Turno: Unico", "Turno: Dois", "Turno: Tres", "Todos"));
     screen.press(Qt::Key_Down);
     EXPECT_EQ(screen.find<QLabel>("turnos.name").text().toStdString(), "002 BIA");
     screen.press(Qt::Key_Return);
@@ -40,8 +40,8 @@ TEST(TurnosWindow, ChangesShiftsWithTheKeyboardAlone) {
     screen.press(Qt::Key_Down);
     desk.person.answers = {Answer::Yes};
     screen.press(Qt::Key_Return);
-    EXPECT_EQ(turnos.shown()[1].shift, "Dois");
-    EXPECT_EQ(turnos.shown()[0].shift, "Unico");
+    EXPECT_EQ(turnos.list().employees()[1].shift, "Dois");
+    EXPECT_EQ(turnos.list().employees()[0].shift, "Unico");
     EXPECT_EQ(namelessWidgets(window), "");
 }
 
@@ -50,14 +50,14 @@ TEST(TurnosWindow, AnEmptyListSaysWhatToDoNext) {
     Turnos turnos(desk.at, desk.browser, desk.locks);
     TurnosWindow window(turnos);
     const WindowDriver screen(window);
-    const auto& all = screen.find<QPushButton>("turnos.first");
+    const auto& all = screen.find<QPushButton>("turnos.everyShift");
     EXPECT_FALSE(all.isVisible()) << "every shift is shown already";
     EXPECT_THAT(toUtf8(screen.find<QLabel>("turnos.empty").text()), HasSubstr("Registro de"));
-    auto& filter = screen.find<QComboBox>("turnos.filter");
-    filter.setCurrentIndex(0);
+    auto& filter = screen.find<QComboBox>("turnos.shift");
+    emit filter.activated(0);
     EXPECT_TRUE(all.isVisible());
-    screen.find<QPushButton>("turnos.first").click();
-    EXPECT_EQ(toUtf8(filter.currentText()), "Turno: Todos");
+    screen.find<QPushButton>("turnos.everyShift").click();
+    EXPECT_EQ(toUtf8(filter.currentText()), "Todos");
 }
 
 TEST(EmployeeImportWindow, ShowsEachRowsFinding) {

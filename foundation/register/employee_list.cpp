@@ -1,0 +1,72 @@
+#include "foundation/register/employee_list.h"
+
+#include "foundation/values/text.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace winvrx {
+
+std::vector<std::string> textsOf(const EmployeeMarks& marks) {
+    std::vector<std::string> texts;
+    if (marks.onLeave) texts.emplace_back("COLABORADOR COM AFASTAMENTO!!!");
+    if (marks.closed) texts.emplace_back("Folha Fechada");
+    if (marks.inactiveSince) texts.push_back("Inativo desde " + dateText(*marks.inactiveSince));
+    return texts;
+}
+
+void EmployeeList::fill(const std::vector<EmployeeLine>& lines, Marks marks) {
+    everyone_ = employeesOf(lines, ShiftFilter::Todos);
+    marks_ = std::move(marks);
+    filter();
+}
+
+void EmployeeList::filterBy(ShiftFilter shift) {
+    shift_ = shift;
+    filter();
+}
+
+void EmployeeList::filterBy(std::optional<Scale> scale) {
+    scale_ = scale;
+    filter();
+}
+
+void EmployeeList::filter() {
+    employees_.clear();
+    std::ranges::copy_if(everyone_, std::back_inserter(employees_), [this](const Employee& one) {
+        return passes(shift_, one.shiftOr()) && (!scale_ || one.scaleOr() == *scale_);
+    });
+}
+
+bool EmployeeList::isShown(std::size_t position) const {
+    if (position >= employees_.size()) return false;
+    if (search_.empty()) return true;
+    std::string text = searchedText(employees_[position]);
+    for (const std::string& mark : textsOf(marks(position)))
+        text += mark + " ";
+    return matchesSearch(text, search_);
+}
+
+std::vector<std::size_t> EmployeeList::shown() const {
+    std::vector<std::size_t> positions;
+    for (std::size_t position = 0; position < employees_.size(); ++position)
+        if (isShown(position)) positions.push_back(position);
+    return positions;
+}
+
+std::optional<std::size_t> EmployeeList::positionOf(std::string_view code) const {
+    const auto found = std::ranges::find(employees_, code, &Employee::code);
+    if (found == employees_.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - employees_.begin());
+}
+
+EmployeeMarks EmployeeList::marks(std::size_t position) const {
+    const auto found = marks_.find(employees_.at(position).employeeCode().value());
+    return found == marks_.end() ? EmployeeMarks() : found->second;
+}
+
+void EmployeeList::mark(std::size_t position, const EmployeeMarks& marks) {
+    marks_[employees_.at(position).employeeCode().value()] = marks;
+}
+
+}  // namespace winvrx

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "foundation/register/employee_register.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace winvrx {
+
+/// What a list says of an employee beside his name.
+struct EmployeeMarks {
+    bool onLeave = false;  ///< in the work month
+    bool closed = false;   ///< the month's payroll has been generated
+    std::optional<Date> inactiveSince = {};
+
+    [[nodiscard]] bool operator==(const EmployeeMarks&) const = default;
+};
+
+/// "COLABORADOR COM AFASTAMENTO!!!", "Folha Fechada", "Inativo desde 10/02/2024".
+[[nodiscard]] std::vector<std::string> textsOf(const EmployeeMarks& marks);
+
+/// The employees of a company as a screen lists them, in file order: those of a shift and a scale,
+/// narrowed by what is searched for. A line without a code is in no list.
+class EmployeeList {
+  public:
+    using Marks = std::map<EmployeeCode, EmployeeMarks>;
+
+    explicit EmployeeList(ShiftFilter shift) : shift_(shift) {}
+
+    /// Takes a register; shift, scale and search stay.
+    void fill(const std::vector<EmployeeLine>& lines, Marks marks = {});
+    [[nodiscard]] ShiftFilter shift() const { return shift_; }
+    void filterBy(ShiftFilter shift);
+    /// nullopt stands for every scale.
+    [[nodiscard]] std::optional<Scale> scale() const { return scale_; }
+    void filterBy(std::optional<Scale> scale);
+    /// Code, name, function, CPF and marks are searched, letter case and accents aside.
+    void searchFor(std::string text) { search_ = std::move(text); }
+    [[nodiscard]] const std::string& search() const { return search_; }
+
+    /// Those of shift and scale. Positions count in here, whatever is searched for.
+    [[nodiscard]] const std::vector<Employee>& employees() const { return employees_; }
+    /// Whether there is an employee at `position` and the search finds him.
+    [[nodiscard]] bool isShown(std::size_t position) const;
+    /// The positions that the search shows.
+    [[nodiscard]] std::vector<std::size_t> shown() const;
+    /// The first who bears the code.
+    [[nodiscard]] std::optional<std::size_t> positionOf(std::string_view code) const;
+
+    [[nodiscard]] EmployeeMarks marks(std::size_t position) const;
+    void mark(std::size_t position, const EmployeeMarks& marks);
+
+  private:
+    void filter();
+
+    ShiftFilter shift_;
+    std::optional<Scale> scale_;
+    std::string search_;
+    std::vector<Employee> everyone_;
+    Marks marks_;
+    std::vector<Employee> employees_;
+};
+
+}  // namespace winvrx
