@@ -96,7 +96,7 @@ void Screens::openTimeCard(QWidget* parent) {
 }
 
 void Screens::openCards(QWidget* parent, bool preview) {
-    Cartao cards(at_, {browser_, printing_.engine, printing_.printers, alignment_});
+    Cartao cards(at_, {browser_, printing_.engine, printing_.printers, alignment_, records_});
     cards.choices().output = preview ? ReportOutput::Preview : ReportOutput::Printer;
     const CartaoWindowDesk screens{.openStocks = [this](QWidget* over) { openStocks(over); },
                                    .openWorkMonth = [this](QWidget* over) { openWorkMonth(over); },

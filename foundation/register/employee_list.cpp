@@ -1,5 +1,6 @@
 #include "foundation/register/employee_list.h"
 
+#include "foundation/files/file_faults.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>
@@ -12,7 +13,40 @@ std::vector<std::string> textsOf(const EmployeeMarks& marks) {
     if (marks.onLeave) texts.emplace_back("COLABORADOR COM AFASTAMENTO!!!");
     if (marks.closed) texts.emplace_back("Folha Fechada");
     if (marks.inactiveSince) texts.push_back("Inativo desde " + dateText(*marks.inactiveSince));
+    if (marks.unreadable) texts.emplace_back("Os afastamentos não podem ser lidos");
     return texts;
+}
+
+EmployeeMarks leaveMarks(const LeaveCalendar& leaves, const EmployeeKey& key,
+                         std::optional<WorkMonth> month) {
+    try {
+        const EmployeeLeaves found = leaves.leavesOf(key);
+        return {.onLeave = month && found.touch(*month), .inactiveSince = found.inactiveSince};
+    } catch (const FileFault&) {
+        return {.unreadable = true};
+    }
+}
+
+bool belongsTo(WorkMonth month, const Employee& employee, const EmployeeMarks& marks) {
+    const auto admission = employee.admissionDate();
+    return !marks.isInactiveBefore(month) && !(admission && *admission > lastDay(month));
+}
+
+std::string namesText(const std::vector<std::string>& names, std::size_t most) {
+    std::string text;
+    for (std::size_t i = 0; i < std::min(names.size(), most); ++i)
+        text += (i == 0 ? "" : ", ") + names[i];
+    if (names.size() > most) text += " e mais " + std::to_string(names.size() - most);
+    return text;
+}
+
+EmployeeList::Marks EmployeeList::leaveMarks(const LeaveCalendar& leaves,
+                                             const CompanyCode& company, const FolderNames& names,
+                                             std::optional<WorkMonth> month) {
+    Marks marks;
+    for (const EmployeeCode& code : leaves.recorded(company, names))
+        marks.emplace(code, winvrx::leaveMarks(leaves, {company, code}, month));
+    return marks;
 }
 
 void EmployeeList::fill(const std::vector<EmployeeLine>& lines, Marks marks) {

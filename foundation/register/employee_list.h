@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/register/employee_queries.h"
 #include "foundation/register/employee_register.h"
 
 #include <map>
@@ -12,21 +13,41 @@ namespace winvrx {
 
 /// What a list says of an employee beside his name.
 struct EmployeeMarks {
-    bool onLeave = false;  ///< in the work month
-    bool closed = false;   ///< the month's payroll has been generated
+    bool onLeave = false;     ///< in the work month
+    bool closed = false;      ///< the month's payroll has been generated
+    bool unreadable = false;  ///< his leaves cannot be read
     std::optional<Date> inactiveSince = {};
 
-    [[nodiscard]] bool operator==(const EmployeeMarks&) const = default;
+    [[nodiscard]] bool isInactiveBefore(WorkMonth month) const {
+        return inactiveSince && *inactiveSince < firstDay(month);
+    }
 };
 
 /// "COLABORADOR COM AFASTAMENTO!!!", "Folha Fechada", "Inativo desde 10/02/2024".
 [[nodiscard]] std::vector<std::string> textsOf(const EmployeeMarks& marks);
+
+/// What the leaves say of an employee; `onLeave` goes by `month`, without one it is false.
+[[nodiscard]] EmployeeMarks leaveMarks(const LeaveCalendar& leaves, const EmployeeKey& key,
+                                       std::optional<WorkMonth> month);
+
+/// False for who was inactive before the month or is admitted after it.
+[[nodiscard]] bool belongsTo(WorkMonth month, const Employee& employee, const EmployeeMarks& marks);
+
+/// "ANA, JOSÉ e mais 9": the first `most` of the names.
+[[nodiscard]] std::string namesText(const std::vector<std::string>& names, std::size_t most);
+
+/// Of one kind that a message names.
+inline constexpr std::size_t kMostNames = 30;
 
 /// The employees of a company as a screen lists them, in file order: those of a shift and a scale,
 /// narrowed by what is searched for. A line without a code is in no list.
 class EmployeeList {
   public:
     using Marks = std::map<EmployeeCode, EmployeeMarks>;
+
+    /// What the leaves say of a company's employees; reads only of whom something is on record.
+    [[nodiscard]] static Marks leaveMarks(const LeaveCalendar& leaves, const CompanyCode& company,
+                                          const FolderNames& names, std::optional<WorkMonth> month);
 
     explicit EmployeeList(ShiftFilter shift) : shift_(shift) {}
 

@@ -10,21 +10,23 @@ namespace winvrx {
 namespace {
 
 constexpr std::string_view kGroupStem = "GRUPO-";
+constexpr std::size_t kCodeDigits = 3;
 
 }  // namespace
 
 bool RecordedAnswers::isMember(const EmployeeKey& key) const {
-    const std::string beginning = key.company.text() + std::string(kGroupStem);
-    for (const std::string& name : store_.files.names(store_.folder.path())) {
-        if (!name.starts_with(beginning)) continue;
-        const auto lines =
-            splitLines(store_.files.read(store_.folder.file(name)).value_or(std::string()));
-        if (std::any_of(lines.begin(), lines.end(), [&](const std::string& line) {
-                return line.starts_with(key.employee.text());
-            }))
-            return true;
-    }
-    return false;
+    return members(key.company, namesIn(store_)).contains(key.employee);
+}
+
+std::set<EmployeeCode> RecordedAnswers::members(const CompanyCode& company,
+                                                const FolderNames& names) const {
+    std::set<EmployeeCode> members;
+    for (const std::string& name : beginningWith(names, company.text() + std::string(kGroupStem)))
+        for (const std::string& line :
+             splitLines(store_.files.read(store_.folder.file(name)).value_or(std::string())))
+            if (const auto code = EmployeeCode::parse(line.substr(0, kCodeDigits)))
+                members.insert(*code);
+    return members;
 }
 
 bool RecordedAnswers::hasClosedMonth(const EmployeeKey& key) const {
@@ -37,8 +39,24 @@ bool RecordedAnswers::isClosed(const EmployeeKey& key, WorkMonth month) const {
     return store_.files.exists(store_.folder.file(payrollFileName(key, month)));
 }
 
+std::set<EmployeeCode> RecordedAnswers::closedIn(const CompanyCode& company, WorkMonth month,
+                                                 const FolderNames& names) const {
+    std::set<EmployeeCode> closed;
+    for (const std::string& name : beginningWith(names, company.text())) {
+        if (!isPayrollFile(name)) continue;
+        const auto code = EmployeeCode::parse(name.substr(kPayrollEmployeeStart - 1, kCodeDigits));
+        if (code && name == payrollFileName({company, *code}, month)) closed.insert(*code);
+    }
+    return closed;
+}
+
 EmployeeLeaves RecordedAnswers::leavesOf(const EmployeeKey& key) const {
     return loadLeaves(store_, key);
+}
+
+std::set<EmployeeCode> RecordedAnswers::recorded(const CompanyCode& company,
+                                                 const FolderNames& names) const {
+    return employeesWithLeaveFile(company, names);
 }
 
 }  // namespace winvrx

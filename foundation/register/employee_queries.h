@@ -1,12 +1,16 @@
 #pragma once
 
 #include "foundation/files/data_folder.h"
+#include "foundation/files/folder_names.h"
 #include "foundation/register/leave_record.h"
 #include "foundation/values/codes.h"
 #include "foundation/values/date.h"
 
+#include <set>
+
 // What the employee register and the punches have to ask of subjects that lie above them. They
-// answer through these queries; app/ joins the two.
+// answer through these queries; app/ joins the two. What is asked of a whole list takes the names
+// in the data folder, so that a screen lists it once.
 
 namespace winvrx {
 
@@ -16,6 +20,8 @@ class RotationMembership {
     virtual ~RotationMembership() = default;
     /// Whether the employee stands in one of the company's rotation groups.
     [[nodiscard]] virtual bool isMember(const EmployeeKey& key) const = 0;
+    [[nodiscard]] virtual std::set<EmployeeCode> members(const CompanyCode& company,
+                                                         const FolderNames& names) const = 0;
 };
 
 /// Asked of the payroll.
@@ -26,13 +32,21 @@ class PayrollLock {
     [[nodiscard]] virtual bool hasClosedMonth(const EmployeeKey& key) const = 0;
     /// Whether the payroll of the employee and month has been generated: the month is closed.
     [[nodiscard]] virtual bool isClosed(const EmployeeKey& key, WorkMonth month) const = 0;
+    /// The employees for whom the month is closed.
+    [[nodiscard]] virtual std::set<EmployeeCode> closedIn(const CompanyCode& company,
+                                                          WorkMonth month,
+                                                          const FolderNames& names) const = 0;
 };
 
 /// Asked of the leaves.
 class LeaveCalendar {
   public:
     virtual ~LeaveCalendar() = default;
+    /// Throws FileFault.
     [[nodiscard]] virtual EmployeeLeaves leavesOf(const EmployeeKey& key) const = 0;
+    /// The employees of whom something is on record; the others have no leaves and are active.
+    [[nodiscard]] virtual std::set<EmployeeCode> recorded(const CompanyCode& company,
+                                                          const FolderNames& names) const = 0;
 };
 
 /// Answers them from the files that the subjects leave in the data folder: payroll files, leave
@@ -44,9 +58,15 @@ class RecordedAnswers final : public RotationMembership, public PayrollLock, pub
     RecordedAnswers(const Store& store) : store_(store) {}
 
     [[nodiscard]] bool isMember(const EmployeeKey& key) const override;
+    [[nodiscard]] std::set<EmployeeCode> members(const CompanyCode& company,
+                                                 const FolderNames& names) const override;
     [[nodiscard]] bool hasClosedMonth(const EmployeeKey& key) const override;
     [[nodiscard]] bool isClosed(const EmployeeKey& key, WorkMonth month) const override;
+    [[nodiscard]] std::set<EmployeeCode> closedIn(const CompanyCode& company, WorkMonth month,
+                                                  const FolderNames& names) const override;
     [[nodiscard]] EmployeeLeaves leavesOf(const EmployeeKey& key) const override;
+    [[nodiscard]] std::set<EmployeeCode> recorded(const CompanyCode& company,
+                                                  const FolderNames& names) const override;
 
   private:
     Store store_;

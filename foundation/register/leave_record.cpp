@@ -65,8 +65,11 @@ bool EmployeeLeaves::contain(Date date) const {
 
 EmployeeLeaves loadLeaves(const Store& store, const EmployeeKey& key) {
     EmployeeLeaves leaves;
-    for (const std::string& line :
-         RecordFile(store, key.company, leaveFileName(key.employee)).lines()) {
+    const std::string bytes =
+        store.files.read(store.folder.companyFile(key.company, leaveFileName(key.employee)))
+            .value_or(std::string());
+    leaves.inactiveSince = inactiveSince(bytes);
+    for (const std::string& line : splitLines(bytes)) {
         const auto leave = decodeLeave(line);
         if (!leave) continue;
         if (const auto period = leave->period())
@@ -77,17 +80,21 @@ EmployeeLeaves loadLeaves(const Store& store, const EmployeeKey& key) {
     return leaves;
 }
 
-std::map<EmployeeCode, Date> inactiveEmployees(const Store& store, const CompanyCode& company) {
+std::set<EmployeeCode> employeesWithLeaveFile(const CompanyCode& company,
+                                              const FolderNames& names) {
     const std::string beginning = company.text() + std::string(kLeaveStem);
+    std::set<EmployeeCode> employees;
+    for (const std::string& name : beginningWith(names, beginning))
+        if (const auto code = EmployeeCode::parse(name.substr(beginning.size())))
+            employees.insert(*code);
+    return employees;
+}
+
+std::map<EmployeeCode, Date> inactiveEmployees(const Store& store, const CompanyCode& company) {
     std::map<EmployeeCode, Date> inactive;
-    for (const std::string& name : store.files.names(store.folder.path())) {
-        if (!name.starts_with(beginning)) continue;
-        const auto code = EmployeeCode::parse(std::string_view(name).substr(beginning.size()));
-        if (!code) continue;
-        const auto since =
-            inactiveSince(store.files.read(store.folder.file(name)).value_or(std::string()));
-        if (since) inactive.emplace(*code, *since);
-    }
+    for (const EmployeeCode& code : employeesWithLeaveFile(company, namesIn(store)))
+        if (const auto since = loadLeaves(store, {company, code}).inactiveSince)
+            inactive.emplace(code, *since);
     return inactive;
 }
 

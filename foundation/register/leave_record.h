@@ -1,12 +1,14 @@
 #pragma once
 
 #include "foundation/files/data_folder.h"
+#include "foundation/files/folder_names.h"
 #include "foundation/files/record_fields.h"
 #include "foundation/values/date.h"
 
 #include <array>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -93,12 +95,17 @@ static_assert(isOrdered(kLeaveFields, kLeaveWidth));
 struct EmployeeLeaves {
     std::vector<LeavePeriod> periods;
     std::vector<std::string> unread;  ///< leaves whose days cannot be read, as they can be shown
+    std::optional<Date> inactiveSince = {};
 
     [[nodiscard]] bool touch(WorkMonth month) const;
     [[nodiscard]] bool contain(Date date) const;
 };
 /// Throws FileFault.
 [[nodiscard]] EmployeeLeaves loadLeaves(const Store& store, const EmployeeKey& key);
+
+/// The employees of a company who have a leave file, by the names in the data folder.
+[[nodiscard]] std::set<EmployeeCode> employeesWithLeaveFile(const CompanyCode& company,
+                                                            const FolderNames& names);
 
 /// The inactive employees of a company and since when. Throws FileFault.
 [[nodiscard]] std::map<EmployeeCode, Date> inactiveEmployees(const Store& store,

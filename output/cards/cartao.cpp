@@ -25,6 +25,13 @@ const Message kWrongDrive =
             "Diretório Inválido p/ Impressão! Transfira os dados do diretório atual "
             "para o Diretório 'C'.");
 
+Message confirmOutsiders(const std::vector<std::string>& names) {
+    return question("IMPRIMIR CARTÃO PONTO",
+                    "Há Funcionários Inativos antes do Mês de Trabalho ou Admitidos depois dele. "
+                    "Deseja Imprimir também os Cartões deles?",
+                    namesText(names, kMostNames));
+}
+
 Company requireCompany(const Store& store, const CompanyCode& code) {
     if (auto company = findCompany(store, code)) return *company;
     throw Fault("company is not in the register",
@@ -46,7 +53,10 @@ void Cartao::load() {
         const bool hasUnwritten = choices_.printer != remembered_;
         remembered_ = loadPrinterMemory(at_.store(), *at_.session.company);
         if (!hasUnwritten) choices_.printer = remembered_;
-        list_.fill(EmployeeRegister(at_.store(), *at_.session.company).load());
+        const CompanyCode& company = *at_.session.company;
+        list_.fill(
+            EmployeeRegister(at_.store(), company).load(),
+            EmployeeList::leaveMarks(desk_.leaves, company, namesIn(at_.store()), std::nullopt));
     });
 }
 
@@ -72,14 +82,29 @@ std::string Cartao::headerPreview(std::optional<std::size_t> position) const {
 
 bool Cartao::printOne(std::optional<std::size_t> position, const PrintRun& run) {
     if (!at_.person.agrees(kConfirmOne)) return false;
-    return requireChoices(isShown(position)) && print({list_.employees()[*position]}, run);
+    return requireChoices(isShown(position)) && requirePrintingDrive() &&
+           print({list_.employees()[*position]}, run);
 }
 
 bool Cartao::printAll(const PrintRun& run) {
-    std::vector<Employee> people;
-    for (const std::size_t position : list_.shown())
-        people.push_back(list_.employees()[position]);
-    return requireChoices(!people.empty()) && print(people, run);
+    if (!requireChoices(!list_.shown().empty()) || !requirePrintingDrive()) return false;
+    const auto people = confirmPeople();
+    return !people.empty() && print(people, run);
+}
+
+std::vector<Employee> Cartao::confirmPeople() {
+    std::vector<Employee> everyone;
+    std::vector<Employee> ofMonth;
+    std::vector<std::string> others;
+    for (const std::size_t position : list_.shown()) {
+        const Employee& one = list_.employees()[position];
+        everyone.push_back(one);
+        if (belongsTo(month_.value(), one, list_.marks(position)))
+            ofMonth.push_back(one);
+        else
+            others.push_back(one.name);
+    }
+    return others.empty() || at_.person.agrees(confirmOutsiders(others)) ? everyone : ofMonth;
 }
 
 void Cartao::help() {
@@ -106,7 +131,6 @@ bool Cartao::requirePrintingDrive() {
 }
 
 bool Cartao::print(const std::vector<Employee>& people, const PrintRun& run) {
-    if (!requirePrintingDrive()) return false;
     (void)remember();
     return attempt(at_, printFailed(),
                    [&] { return CardRun(at_, desk_.engine, batchOf(people), run).print(); });

@@ -24,6 +24,7 @@ struct CartaoDesk {
     ReportEngine& engine;
     const Printers& printers;
     const AlignmentMemory& alignment;
+    const LeaveCalendar& leaves;
 };
 
 /// The time-card printing screen.
@@ -57,7 +58,8 @@ class Cartao {
 
     /// "Imprimir >": the card of the selected employee. True when it was printed.
     [[nodiscard]] bool printOne(std::optional<std::size_t> position, const PrintRun& run);
-    /// "Imprimir >>": every card of the list. True when all were printed.
+    /// "Imprimir >>": every card of the list; asks whether those of employees who were inactive
+    /// before the month or are admitted after it are meant too. True when all were printed.
     [[nodiscard]] bool printAll(const PrintRun& run);
 
     void help();
@@ -66,6 +68,7 @@ class Cartao {
     [[nodiscard]] bool isShown(std::optional<std::size_t> position) const {
         return position && list_.isShown(*position);
     }
+    [[nodiscard]] std::vector<Employee> confirmPeople();
     [[nodiscard]] bool requireChoices(bool anyEmployee);
     [[nodiscard]] bool requirePrintingDrive();
     [[nodiscard]] bool print(const std::vector<Employee>& people, const PrintRun& run);

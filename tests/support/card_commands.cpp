@@ -1,7 +1,7 @@
 // What the screens of the time card and of its printing write.
 #include "output/stocks/tipo_ponto.h"
 #include "tests/support/test_browser.h"
-#include "tests/support/test_card_queries.h"
+#include "tests/support/test_punch_desk.h"
 #include "tests/support/writing_commands.h"
 #include "timecard/punches/cartao_ponto_dados.h"
 
@@ -28,8 +28,8 @@ FileTable officeClosingOn(int day) {
 template <typename Give>
 auto onCardOf(std::size_t position, Give give) {
     return [position, give](const Workplace& at, const Drives&) {
-        const TestCardQueries asked;
-        CartaoPontoDados screen(at, asked.queries);
+        const TestPunchDesk asked;
+        CartaoPontoDados screen(at, asked.desk);
         return screen.open() && screen.select(position) && give(screen);
     };
 }

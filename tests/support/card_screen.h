@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/test_card_queries.h"
+#include "tests/support/test_punch_desk.h"
 #include "tests/support/test_workplace.h"
 #include "timecard/month/selected_month.h"
 #include "timecard/punches/cartao_ponto_dados.h"
@@ -27,8 +27,8 @@ inline Employee employee(const char* code, const char* name, const char* shift, 
 /// A company of three, with March 2024 chosen and Good Friday ticked.
 struct CardScreen : ::testing::Test {
     TestWorkplace desk;
-    TestCardQueries asked;
-    CartaoPontoDados screen{desk.at, asked.queries};
+    TestPunchDesk asked;
+    CartaoPontoDados screen{desk.at, asked.desk};
 
     void SetUp() override {
         using namespace std::chrono_literals;

@@ -31,13 +31,28 @@ class TestSpreadsheet final : public Spreadsheet {
     }
 };
 
+/// The codes that a test names by their texts.
+[[nodiscard]] inline std::set<EmployeeCode> codesOf(const std::set<std::string>& texts) {
+    std::set<EmployeeCode> codes;
+    for (const std::string& text : texts)
+        codes.insert(EmployeeCode::parse(text).value());
+    return codes;
+}
+
 /// Answers with the employees that the test names.
 struct TestLocks final : RotationMembership, PayrollLock {
-    std::set<std::string> members;
+    std::set<std::string> inGroups;
     std::set<std::string> closed;
 
     bool isMember(const EmployeeKey& key) const override {
-        return members.contains(key.employee.text());
+        return inGroups.contains(key.employee.text());
+    }
+    std::set<EmployeeCode> members(const CompanyCode&, const FolderNames&) const override {
+        return codesOf(inGroups);
+    }
+    std::set<EmployeeCode> closedIn(const CompanyCode&, WorkMonth,
+                                    const FolderNames&) const override {
+        return codesOf(closed);
     }
     bool hasClosedMonth(const EmployeeKey& key) const override {
         return closed.contains(key.employee.text());

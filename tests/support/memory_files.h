@@ -18,9 +18,12 @@ class MemoryFiles final : public FileSystem {
     std::set<std::filesystem::path> folders;
     std::set<std::string> failWritesOn;
     std::map<std::filesystem::path, std::chrono::nanoseconds> times;
+    mutable int listings = 0;  ///< how often a folder was listed
+    mutable int reads = 0;
 
     [[nodiscard]] std::optional<std::string> read(
         const std::filesystem::path& file) const override {
+        ++reads;
         check(FileFault::Operation::Read, file);
         const auto found = content.find(file);
         return found == content.end() ? std::nullopt : std::optional(found->second);
@@ -51,6 +54,7 @@ class MemoryFiles final : public FileSystem {
 
     [[nodiscard]] std::vector<std::string> names(
         const std::filesystem::path& folder) const override {
+        ++listings;
         std::vector<std::string> names;
         for (const auto& [file, bytes] : content)
             if (file.parent_path() / "" == folder / "") names.push_back(file.filename().string());

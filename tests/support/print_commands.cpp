@@ -5,6 +5,7 @@
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
+#include "tests/support/test_punch_desk.h"
 #include "tests/support/writing_commands.h"
 
 namespace winvrx::testing {
@@ -37,7 +38,8 @@ bool rememberChoices(const Workplace& at, const Drives&) {
     RecordingEngine engine;
     const TestPrinters printers;
     const AlignmentMemory memory;
-    Cartao screen(at, {browser, engine, printers, memory});
+    const TestLeaves leaves;
+    Cartao screen(at, {browser, engine, printers, memory, leaves});
     screen.load();
     screen.choices().printer.exit = SheetExit::FaceUp;
     screen.choices().printer.trays[0] = "Manual";

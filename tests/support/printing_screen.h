@@ -7,6 +7,7 @@
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
+#include "tests/support/test_punch_desk.h"
 #include "tests/support/test_workplace.h"
 #include "timecard/month/selected_month.h"
 
@@ -59,7 +60,8 @@ class CartaoTest : public ::testing::Test {
     RecordingEngine engine;
     TestPrinters printers;
     AlignmentMemory alignment;
-    Cartao screen{desk.at, {browser, engine, printers, alignment}};
+    TestLeaves leaves;
+    Cartao screen{desk.at, {browser, engine, printers, alignment, leaves}};
 };
 
 class CartaoOpened : public CartaoTest {

@@ -28,6 +28,11 @@ const Message kHasLeave = question(
     "Este Funcionário possui Informação de Afastamento! Se Deseja desistir Clique em 'CANCELAR', "
     "Senão, Clique em 'OK' para Prosseguir",
     {}, Buttons::OkCancel);
+const Message kInactive = question(
+    "Aplicação Ponto",
+    "Este Funcionário está Inativo desde antes do Mês de Trabalho! Se Deseja desistir Clique em "
+    "'CANCELAR', Senão, Clique em 'OK' para Prosseguir",
+    {}, Buttons::OkCancel);
 const Message kAdmissionTooLate =
     failure("Analise de Datas",
             "A data de Admissão deste Funcionário não está dentro Período do "
@@ -128,6 +133,7 @@ bool confirmApplication(Operator& person, const ApplicationCase& asked) {
     }
     if (asked.lacksSituation && !person.agrees(kNoSituation)) return false;
     if (asked.onLeave && !person.agrees(kHasLeave)) return false;
+    if (asked.inactive && !person.agrees(kInactive)) return false;
     return requireAdmittedBy(person, asked.employee, asked.month) &&
            person.agrees(kConfirmApplication);
 }

@@ -17,6 +17,7 @@ struct ApplicationCase {
     bool inGroup = false;  ///< of a rotation
     bool lacksSituation = false;
     bool onLeave = false;
+    bool inactive = false;  ///< before the month
 };
 
 /// Tells or asks one thing after the other until the operator has confirmed or something ends the

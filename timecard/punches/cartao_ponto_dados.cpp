@@ -38,8 +38,8 @@ Message inPunchEntry(Message message) {
 
 }  // namespace
 
-CartaoPontoDados::CartaoPontoDados(const Workplace& at, const CardQueries& queries)
-    : at_(at), queries_(queries), list_(at.session.shiftFilter) {
+CartaoPontoDados::CartaoPontoDados(const Workplace& at, const PunchDesk& desk)
+    : at_(at), desk_(desk), list_(at.session.shiftFilter) {
     settings_.month = monthOf(at_.clock.today());
     sheet_ = CardSheet(blankMonth(settings_.month));
 }
@@ -63,11 +63,10 @@ bool CartaoPontoDados::open() {
 void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings& settings) {
     const auto lines = EmployeeRegister(at_.store(), company).load();
     std::string name = nameOf(at_, company);
-    EmployeeList::Marks marks;
-    for (const Employee& one : employeesOf(lines, ShiftFilter::Todos)) {
-        const EmployeeCode code = one.employeeCode().value();
-        marks.emplace(code, marksOf(company, code, settings.month));
-    }
+    const FolderNames names = namesIn(at_.store());
+    auto marks = EmployeeList::leaveMarks(desk_.leaves, company, names, settings.month);
+    for (const EmployeeCode& code : desk_.payroll.closedIn(company, settings.month, names))
+        marks[code].closed = true;
     minutes_ = loadMinutes(at_.store());
     const std::string chosen = company_ == company && selected() ? selected()->code : "";
     company_ = company;
@@ -77,10 +76,10 @@ void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings&
     loadCardOf(chosen);
 }
 
-EmployeeMarks CartaoPontoDados::marksOf(const CompanyCode& company, const EmployeeCode& employee,
-                                        WorkMonth month) const {
-    return {.onLeave = queries_.leaves.leavesOf({company, employee}).touch(month),
-            .closed = queries_.payroll.isClosed({company, employee}, month)};
+EmployeeMarks CartaoPontoDados::marksOf(const EmployeeKey& key) const {
+    EmployeeMarks marks = leaveMarks(desk_.leaves, key, settings_.month);
+    marks.closed = desk_.payroll.isClosed(key, settings_.month);
+    return marks;
 }
 
 void CartaoPontoDados::loadCardOf(const std::string& code) {
@@ -100,7 +99,7 @@ void CartaoPontoDados::loadCard(std::size_t position) {
     const OvertimeRules overtime = overtimeOf(at_.store(), {company, code}, settings_);
     auto punches = loadPunches(at_.store(), {company, code}, settings_.month);
     unreadLines_ = unreadPunchLines(at_.store(), {company, code}, settings_.month);
-    list_.mark(position, marksOf(company, code, settings_.month));
+    list_.mark(position, marksOf({company, code}));
     position_ = position;
     overtime_ = overtime;
     schedule_ = TypedSchedule(schedule.value_or(StandardSchedule()));
@@ -263,7 +262,7 @@ bool CartaoPontoDados::savePunches() {
         if (onDisk.value_or(blankMonth(settings_.month)) != sheet_.recorded())
             throw Fault("punches changed on disk", std::string(kChangedElsewhere));
         std::vector<FileSystem::NewContent> batch;
-        PunchFiles(at_.store(), queries_.payroll, settings_)
+        PunchFiles(at_.store(), desk_.payroll, settings_)
             .add(batch, {company, selectedCode()},
                  editedPunchRecord(at_.files.read(punchFile()).value_or(std::string()),
                                    settings_.month, sheet_.lines()));

@@ -23,7 +23,7 @@ namespace winvrx {
 /// record as it was, and what was typed stays on the screen.
 class CartaoPontoDados {
   public:
-    CartaoPontoDados(const Workplace& at, const CardQueries& queries);
+    CartaoPontoDados(const Workplace& at, const PunchDesk& desk);
 
     /// Loads the work month and the list; the filter stays, at first that of the main window, and
     /// so does the employee chosen before if the list has him. False when no company or no month
@@ -110,8 +110,7 @@ class CartaoPontoDados {
     /// Shows the card of who bears the code, a blank one if the list has nobody who does.
     void loadCardOf(const std::string& code);
     void loadCard(std::size_t position);
-    [[nodiscard]] EmployeeMarks marksOf(const CompanyCode& company, const EmployeeCode& employee,
-                                        WorkMonth month) const;
+    [[nodiscard]] EmployeeMarks marksOf(const EmployeeKey& key) const;
     [[nodiscard]] bool requireSelection();
     /// Tells the operator when the month of the employee selected is closed now.
     [[nodiscard]] bool requireOpenMonth();
@@ -135,7 +134,7 @@ class CartaoPontoDados {
     [[nodiscard]] bool hasPunches() const;
 
     Workplace at_;
-    CardQueries queries_;
+    PunchDesk desk_;
     std::optional<CompanyCode> company_;
     std::string companyName_;
     MonthSettings settings_;

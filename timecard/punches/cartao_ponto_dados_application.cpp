@@ -20,9 +20,6 @@ const Message kScheduleNotRecorded = question(
     "Aplicação de Pontos",
     "O Horário de Trabalho foi alterado e ainda não foi gravado. Deseja gravá-lo e aplicá-lo?");
 
-/// Of one kind that a message names; the log has them all.
-constexpr std::size_t kMostNames = 30;
-
 std::string summaryOf(int filled, std::size_t asked) {
     return "Ponto aplicado para " + std::to_string(filled) + " de " + std::to_string(asked) +
            (asked == 1 ? " funcionário." : " funcionários.");
@@ -48,7 +45,7 @@ bool CartaoPontoDados::requireEditable() {
 }
 
 bool CartaoPontoDados::requireOpenMonth() {
-    list_.mark(*position_, marksOf(company_.value(), selectedCode(), settings_.month));
+    list_.mark(*position_, marksOf({company_.value(), selectedCode()}));
     return requireEditable();
 }
 
@@ -91,9 +88,10 @@ bool CartaoPontoDados::confirmApplication() {
          .month = settings_.month,
          .applied = applied_,
          .edited = sheet_.changed(),
-         .inGroup = rotates && queries_.rotation.isMember({company, selectedCode()}),
+         .inGroup = rotates && desk_.rotation.isMember({company, selectedCode()}),
          .lacksSituation = leavesWorkBlank(schedule_.schedule()) && situationToApply_.empty(),
-         .onLeave = marks().onLeave});
+         .onLeave = marks().onLeave,
+         .inactive = marks().isInactiveBefore(settings_.month)});
 }
 
 bool CartaoPontoDados::applyPunches() {
@@ -111,9 +109,10 @@ bool CartaoPontoDados::applyPunches() {
         if (at_.files.read(punchFile()) != before)
             throw Fault("punches changed on disk", std::string(kChangedElsewhere));
         if (!requireOpenMonth()) return false;
-        ListApplication application(at_.store(), queries_, applicationOrder());
+        ListApplication application(at_.store(), desk_, applicationOrder());
         ListApplication::Batch batch;
-        application.fillOne(batch, *selected(), selectedCode());
+        application.fillOne(batch, *selected(), selectedCode(),
+                            desk_.leaves.leavesOf({company_.value(), selectedCode()}));
         at_.files.replaceAll(batch);
         filledCards_ = application.filled();
         loadCard(*position_);
@@ -163,7 +162,7 @@ bool CartaoPontoDados::fillAll(const std::vector<std::size_t>& positions, bool s
     requireScheduleAsShown();
     ApplicationOrder order = applicationOrder();
     if (sameHours) order.common = schedule_.recorded();
-    ListApplication application(at_.store(), queries_, std::move(order));
+    ListApplication application(at_.store(), desk_, std::move(order));
     const auto batch = application.fill(codes, progress);
     if (!batch) return false;
     at_.files.replaceAll(*batch);

@@ -1,7 +1,7 @@
 #include "timecard/punches/list_application.h"
 
 #include "foundation/files/file_faults.h"
-#include "foundation/register/leave_record.h"
+#include "foundation/register/employee_list.h"
 #include "timecard/punches/application_checks.h"
 #include "timecard/punches/punch_application.h"
 
@@ -31,12 +31,11 @@ void requireReadable(const StandardSchedule& schedule) {
 
 }  // namespace
 
-ListApplication::ListApplication(const Store& store, const CardQueries& queries,
-                                 ApplicationOrder order)
+ListApplication::ListApplication(const Store& store, const PunchDesk& desk, ApplicationOrder order)
     : store_(store),
-      queries_(queries),
+      desk_(desk),
       order_(std::move(order)),
-      punchFiles_(store, queries.payroll, order_.settings) {}
+      punchFiles_(store, desk.payroll, order_.settings) {}
 
 std::string_view ListApplication::textOf(Remark remark) {
     switch (remark) {
@@ -62,15 +61,12 @@ std::string_view ListApplication::textOf(Remark remark) {
     return {};
 }
 
-std::optional<ListApplication::Remark> ListApplication::hindrance(const Employee& employee,
-                                                                  const EmployeeCode& code) const {
+std::optional<ListApplication::Remark> ListApplication::hindrance(
+    const Employee& employee, const EmployeeCode& code, const EmployeeLeaves& leaves) const {
     const WorkMonth month = order_.settings.month;
-    if (queries_.payroll.isClosed({order_.company, code}, month)) return Remark::Closed;
-    const auto inactive = inactive_.find(code);
-    if (inactive != inactive_.end() && inactive->second < firstDay(month)) return Remark::Inactive;
-    const bool rotates = employee.scaleOr() != Scale::Normal;
-    if (lacksGroup(employee, rotates && queries_.rotation.isMember({order_.company, code})))
-        return Remark::NoGroup;
+    if (closed_.contains(code)) return Remark::Closed;
+    if (leaves.inactiveSince && *leaves.inactiveSince < firstDay(month)) return Remark::Inactive;
+    if (lacksGroup(employee, inGroups_.contains(code))) return Remark::NoGroup;
     if (const auto admission = requireAdmission(employee); admission && *admission > lastDay(month))
         return Remark::AdmittedLater;
     return std::nullopt;
@@ -89,9 +85,9 @@ void ListApplication::copySchedule(Batch& batch, const EmployeeCode& code) const
     batch.push_back({file, joinedLines(lines)});
 }
 
-void ListApplication::fillOne(Batch& batch, const Employee& employee, const EmployeeCode& code) {
+void ListApplication::fillOne(Batch& batch, const Employee& employee, const EmployeeCode& code,
+                              const EmployeeLeaves& leaves) {
     const StandardSchedule schedule = scheduleOf(code);
-    const EmployeeLeaves leaves = queries_.leaves.leavesOf({order_.company, code});
     requireReadable(schedule);
     requireReadable(leaves);
     Application application{.schedule = schedule,
@@ -111,13 +107,26 @@ void ListApplication::fillOne(Batch& batch, const Employee& employee, const Empl
     filled_.insert(code);
 }
 
+void ListApplication::look(const std::map<EmployeeCode, Employee>& people) {
+    const FolderNames names = namesIn(store_);
+    closed_ = desk_.payroll.closedIn(order_.company, order_.settings.month, names);
+    withLeaves_ = desk_.leaves.recorded(order_.company, names);
+    inGroups_.clear();
+    const auto rotates = [](const auto& one) { return one.second.scaleOr() != Scale::Normal; };
+    if (std::ranges::any_of(people, rotates))
+        inGroups_ = desk_.rotation.members(order_.company, names);
+}
+
 void ListApplication::take(Batch& batch, const Employee& employee, const EmployeeCode& code) {
     const std::size_t before = batch.size();
     try {
-        if (const auto reason = hindrance(employee, code))
+        const auto leaves = withLeaves_.contains(code)
+                                ? desk_.leaves.leavesOf({order_.company, code})
+                                : EmployeeLeaves();
+        if (const auto reason = hindrance(employee, code, leaves))
             remarks_[*reason].push_back(employee.name);
         else
-            fillOne(batch, employee, code);
+            fillOne(batch, employee, code, leaves);
     } catch (const FileFault&) {
         throw;
     } catch (const Fault& fault) {
@@ -130,10 +139,10 @@ std::optional<ListApplication::Batch> ListApplication::fill(const std::vector<Em
                                                             const Progress& progress) {
     filled_.clear();
     remarks_.clear();
-    inactive_ = inactiveEmployees(store_, order_.company);
     std::map<EmployeeCode, Employee> people;
     for (EmployeeLine& line : EmployeeRegister(store_, order_.company).load())
         if (const auto code = line.code()) people.emplace(*code, std::move(line.employee));
+    look(people);
     Batch batch;
     std::set<EmployeeCode> seen;
     int done = 0;
@@ -154,11 +163,7 @@ std::string ListApplication::remarks(std::size_t mostNames) const {
     std::string text;
     for (const auto& [remark, names] : remarks_) {
         if (!text.empty()) text += '\n';
-        text += textOf(remark);
-        const std::size_t named = std::min(names.size(), mostNames);
-        for (std::size_t i = 0; i < named; ++i)
-            text += (i == 0 ? "" : ", ") + names[i];
-        if (named < names.size()) text += " e mais " + std::to_string(names.size() - named);
+        text.append(textOf(remark)).append(namesText(names, mostNames));
     }
     return text;
 }

@@ -16,7 +16,7 @@
 namespace winvrx {
 
 /// What the punches ask of other subjects; all outlive the commands.
-struct CardQueries {
+struct PunchDesk {
     const RotationMembership& rotation;
     const PayrollLock& payroll;
     const LeaveCalendar& leaves;
@@ -39,8 +39,8 @@ class ListApplication {
     /// Told after each employee; false cancels.
     using Progress = std::function<bool(int done, int total)>;
 
-    /// `files`, `folder` and `queries` outlive this object.
-    ListApplication(const Store& store, const CardQueries& queries, ApplicationOrder order);
+    /// `files`, `folder` and `desk` outlive this object.
+    ListApplication(const Store& store, const PunchDesk& desk, ApplicationOrder order);
 
     /// Fills the cards of these employees as the register has them now, that of a code which
     /// several bear for the first of them. nullopt when cancelled.
@@ -53,7 +53,8 @@ class ListApplication {
     [[nodiscard]] std::string remarks(std::size_t mostNames) const;
 
     /// The card of one employee, whose own records decide.
-    void fillOne(Batch& batch, const Employee& employee, const EmployeeCode& code);
+    void fillOne(Batch& batch, const Employee& employee, const EmployeeCode& code,
+                 const EmployeeLeaves& leaves);
 
   private:
     enum class Remark {
@@ -70,17 +71,22 @@ class ListApplication {
 
     [[nodiscard]] static std::string_view textOf(Remark remark);
     [[nodiscard]] std::optional<Remark> hindrance(const Employee& employee,
-                                                  const EmployeeCode& code) const;
+                                                  const EmployeeCode& code,
+                                                  const EmployeeLeaves& leaves) const;
     [[nodiscard]] StandardSchedule scheduleOf(const EmployeeCode& code) const;
     void copySchedule(Batch& batch, const EmployeeCode& code) const;
+    /// Asks once what is asked of everyone.
+    void look(const std::map<EmployeeCode, Employee>& people);
     void take(Batch& batch, const Employee& employee, const EmployeeCode& code);
 
     Store store_;
-    CardQueries queries_;
+    PunchDesk desk_;
     ApplicationOrder order_;
     PunchFiles punchFiles_;
     MinuteVariation variation_;
-    std::map<EmployeeCode, Date> inactive_;
+    std::set<EmployeeCode> closed_;
+    std::set<EmployeeCode> inGroups_;
+    std::set<EmployeeCode> withLeaves_;
     std::map<Remark, std::vector<std::string>> remarks_;
     std::set<EmployeeCode> filled_;
 };

@@ -26,6 +26,13 @@ TEST(RecordedAnswers, AnswerFromTheFilesOfTheCompany) {
     EXPECT_FALSE(locks.isClosed({kCompany, kAna}, *parseMonthKey("03-2024")));
     EXPECT_FALSE(locks.isMember({kCompany, kAna}));
     EXPECT_TRUE(locks.isMember({kCompany, kBia}));
+    files.content["/data/01configAf002"] = files.content["/data/01configAfx"] = "";
+    const FolderNames names = namesIn({files, kFolder});
+    const std::set<EmployeeCode> bia{kBia};
+    EXPECT_EQ(locks.members(kCompany, names), bia);
+    EXPECT_EQ(locks.closedIn(kCompany, *parseMonthKey("03-2024"), names), bia);
+    EXPECT_TRUE(locks.closedIn(kCompany, *parseMonthKey("04-2024"), names).empty());
+    EXPECT_EQ(locks.recorded(kCompany, names), bia);
 }
 
 }  // namespace

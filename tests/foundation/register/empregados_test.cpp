@@ -218,7 +218,7 @@ TEST_F(EmpregadosTest, AListChangedElsewhereIsNotOverwritten) {
 
 TEST_F(EmpregadosTest, AMemberOfARotationGroupKeepsShiftAndScale) {
     addEmployees();
-    desk_.locks.members = {"001"};
+    desk_.locks.inGroups = {"001"};
     Employee typed = empregados_.lines()[0].employee;
     constexpr auto kRefusal =
         "Não Permitido Alteração de TURNO ou ESCALA deste Funcionário pois consta na lista de um "
@@ -255,7 +255,7 @@ TEST_F(EmpregadosTest, AClosedPayrollIsWarnedOf) {
 
 TEST_F(EmpregadosTest, AMemberIsDeletedOnlyAfterASecondYes) {
     addEmployees();
-    desk_.locks.members = {"001"};
+    desk_.locks.inGroups = {"001"};
     desk_.person.answers = {Answer::Yes, Answer::No};
     EXPECT_FALSE(empregados_.remove(0));
     EXPECT_THAT(desk_.person.takeTexts(),

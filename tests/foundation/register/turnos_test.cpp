@@ -60,7 +60,7 @@ TEST_F(TurnosTest, TheListFollowsTheFilter) {
 
 TEST_F(TurnosTest, Refuses) {
     const auto before = desk_.files.content;
-    desk_.locks.members = {"001"};
+    desk_.locks.inGroups = {"001"};
     desk_.person.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
     EXPECT_FALSE(turnos_.change(turnos_.list().employees()[0], Shift::Dois));
     EXPECT_EQ(desk_.person.shown.back().text,

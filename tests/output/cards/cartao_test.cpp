@@ -8,6 +8,7 @@
 namespace winvrx {
 namespace {
 
+using testing::cardHolder;
 using testing::CartaoOpened;
 using testing::CartaoTest;
 using Outcome = testing::RecordingEngine::Outcome;
@@ -48,6 +49,39 @@ TEST_F(CartaoOpened, ListFollowsShiftAndSearch) {
     EXPECT_EQ(names(), Texts{"RUI BARBOSA"});
     EXPECT_TRUE(screen.printAll({}));
     EXPECT_EQ(printed(), Texts{"RUI BARBOSA"});
+}
+
+TEST_F(CartaoTest, PrintAllAsksOnceWhetherThoseOutsideTheMonthAreMeant) {
+    struct Case {
+        const char* anaInactiveSince;
+        const char* ruiAdmitted;
+        Answer answer;
+        Texts asked;
+        Texts printed;
+    };
+    const std::string ask =
+        "Há Funcionários Inativos antes do Mês de Trabalho ou Admitidos depois dele. Deseja "
+        "Imprimir também os Cartões deles?";
+    const Texts everyone{"JOSÉ DA SILVA", "ANA PAULA", "RUI BARBOSA"};
+    for (const Case& one :
+         {Case{"01/03/2024", "31/03/2024", Answer::No, {}, everyone},
+          Case{"29/02/2024", "01/04/2024", Answer::Yes, {ask}, everyone},
+          Case{"29/02/2024", "01/04/2024", Answer::No, {ask}, {"JOSÉ DA SILVA"}},
+          Case{"29/02/2024", "", Answer::No, {ask}, {"JOSÉ DA SILVA", "RUI BARBOSA"}}}) {
+        leaves.leaves["002"].inactiveSince = parseDate(one.anaInactiveSince);
+        Employee rui = cardHolder("003", "RUI BARBOSA", "Tres");
+        rui.admission = one.ruiAdmitted;
+        desk.file("01CartaPonto") = encode(cardHolder("001", "JOSÉ DA SILVA", "Unico")) + "\r\n" +
+                                    encode(cardHolder("002", "ANA PAULA", "Dois")) + "\r\n" +
+                                    encode(rui) + "\r\n";
+        screen.load();
+        engine.jobs.clear();
+        desk.person.answers = {one.answer};
+        EXPECT_TRUE(screen.printAll({}));
+        EXPECT_TRUE(one.asked.empty() || desk.person.shown.back().detail.starts_with("ANA PAULA"));
+        EXPECT_EQ(desk.person.takeTexts(), one.asked);
+        EXPECT_EQ(printed(), one.printed) << one.anaInactiveSince << " " << one.ruiAdmitted;
+    }
 }
 
 TEST_F(CartaoOpened, PrintOneAsksFirst) {
@@ -276,7 +310,7 @@ TEST_F(CartaoOpened, WhatTheScreenRemembersIsWrittenWhenItChanged) {
     screen.load();
     EXPECT_EQ(screen.choices().printer.tray, TrayPosition::Lateral) << "typed and not yet written";
     EXPECT_TRUE(screen.remember());
-    Cartao reopened(desk.at, {browser, engine, printers, alignment});
+    Cartao reopened(desk.at, {browser, engine, printers, alignment, leaves});
     reopened.load();
     EXPECT_EQ(reopened.choices().printer.tray, TrayPosition::Lateral);
 }

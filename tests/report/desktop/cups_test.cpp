@@ -130,7 +130,8 @@ class PrintingScreen : public Cups {
     TestBrowser browser_;
     SystemPrinters printers_;
     AlignmentMemory alignment_;
-    Cartao screen_{office_.at, {browser_, desk_.engine, printers_, alignment_}};
+    TestLeaves leaves_;
+    Cartao screen_{office_.at, {browser_, desk_.engine, printers_, alignment_, leaves_}};
 };
 
 TEST_F(PrintingScreen, PrintsTheSecondSideBackwards) {

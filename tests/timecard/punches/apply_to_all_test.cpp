@@ -179,7 +179,7 @@ TEST_F(ApplyToAll, EachHasHisOwnHoursAndWhoCannotBeFilledIsNamed) {
     people[3].admission = "31/02/2024";
     hire(people);
     asked.locks.closed = {"005"};
-    desk.file("01configAf006") = "**** 29/02/2024\r\n";
+    asked.leaves.leaves["006"].inactiveSince = parseDate("29/02/2024");
     asked.leaves.add("007", "20/02/2024", "01/03/2024");
     desk.file("01PadrHor007.pdx") = "14:0018:0019:0022:00\r\n";
     openOn(0);

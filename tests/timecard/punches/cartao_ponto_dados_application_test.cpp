@@ -47,6 +47,9 @@ const std::string kLeave =
 const std::string kDates =
     "x Analise de Datas: A data de Admissão deste Funcionário não está dentro Período do Mês de de "
     "Aplicação de Ponto!";
+const std::string kInactive =
+    "? Aplicação Ponto: Este Funcionário está Inativo desde antes do Mês de Trabalho! Se Deseja "
+    "desistir Clique em 'CANCELAR', Senão, Clique em 'OK' para Prosseguir";
 const std::string kConfirmed = std::string("? Aplicação de Pontos: ") + kConfirm;
 const std::string kClosed =
     "! DIGITAÇÃO DO PONTO: ATENÇÃO! Não é Possível Alterar o Ponto! Já Foi Gerada a Folha de "
@@ -62,6 +65,7 @@ struct Situated {
     bool onLeave = false;
     const char* admission = "01/02/2020";
     bool closed = false;
+    const char* inactiveSince = "";
 };
 
 TEST_F(CardScreen, ApplicationChecksInOrder) {
@@ -98,6 +102,17 @@ TEST_F(CardScreen, ApplicationChecksInOrder) {
               {kOk},
               {kLeave, kDates},
               false},
+             {"inactive before, cancelled",
+              {.inactiveSince = "29/02/2024"},
+              {kCancel},
+              {kInactive},
+              false},
+             {"inactive before",
+              {.inactiveSince = "29/02/2024"},
+              {kOk, kYes},
+              {kInactive, kConfirmed},
+              true},
+             {"inactive in the month", {.inactiveSince = "01/03/2024"}, {kYes}, {kConfirmed}, true},
              {"first of next month", {.admission = "01/04/2024"}, {}, {kDates}, false},
              {"last of this month", {.admission = "31/03/2024"}, {kYes}, {kConfirmed}, true},
              {"impossible date", {.admission = "31/02/2024"}, {}, {kFailed}, false},
@@ -111,8 +126,10 @@ TEST_F(CardScreen, ApplicationChecksInOrder) {
         hire({ana});
         asked.forget();
         if (c.ana.closed) asked.locks.closed = {"001"};
-        if (c.ana.inGroup) asked.locks.members = {"001"};
+        if (c.ana.inGroup) asked.locks.inGroups = {"001"};
         if (c.ana.onLeave) asked.leaves.add("001", "20/02/2024", "05/03/2024");
+        if (const auto since = parseDate(c.ana.inactiveSince))
+            asked.leaves.leaves["001"].inactiveSince = since;
         desk.files.content.erase("/data/" + kPunches);
         if (c.ana.applied) desk.file(kPunches) = "  \r\n01/sex/mar07:00\r\n";
         desk.file(kSchedule) = c.ana.scheduled ? "08:0012:0013:0017:00\r\n" : "";
@@ -207,7 +224,7 @@ TEST_F(CardScreen, PunchesThatCameWhileTheQuestionStoodAreNotReplaced) {
         }
     } slow;
     const Workplace at{desk.files, slow, desk.clock, desk.log, desk.session, desk.lock};
-    CartaoPontoDados applying(at, asked.queries);
+    CartaoPontoDados applying(at, asked.desk);
     ASSERT_TRUE(applying.open());
     ASSERT_TRUE(applying.select(0));
     slow.record = &desk.file(kPunches);

@@ -22,7 +22,7 @@ TEST_F(CardScreen, AsksForCompanyAndMonthFirst) {
 
 TEST_F(CardScreen, TheMainWindowsShiftHoldsUntilAnotherIsChosen) {
     desk.session.shiftFilter = ShiftFilter::Dois;
-    CartaoPontoDados opened(desk.at, asked.queries);
+    CartaoPontoDados opened(desk.at, asked.desk);
     ASSERT_TRUE(opened.open());
     EXPECT_EQ(opened.list().employees().size(), 1U) << "whatever the month was chosen with";
     ASSERT_TRUE(opened.filterBy(ShiftFilter::Unico));
@@ -234,7 +234,7 @@ TEST_F(CardScreen, LeavingAnEditedCardAsksFirst) {
     for (const Case& c : {Case{Answer::Cancel, false, false}, Case{Answer::No, true, false},
                           Case{Answer::Yes, true, true}}) {
         desk.files.content.erase("/data/" + kPunches);
-        CartaoPontoDados other(desk.at, asked.queries);
+        CartaoPontoDados other(desk.at, asked.desk);
         ASSERT_TRUE(other.open() && other.select(0));
         other.sheet().type(4, PunchCell::MorningEntry, "8");
         desk.person.answers = {c.answer};

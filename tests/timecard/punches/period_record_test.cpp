@@ -1,6 +1,6 @@
 #include "timecard/punches/period_record.h"
 
-#include "tests/support/test_card_queries.h"
+#include "tests/support/test_punch_desk.h"
 
 #include <gmock/gmock.h>
 
@@ -8,7 +8,7 @@ namespace winvrx {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::TestCardQueries;
+using testing::TestPunchDesk;
 using testing::TestWorkplace;
 
 const CompanyCode kCompany = *CompanyCode::parse("01");
@@ -33,7 +33,7 @@ std::map<std::string, std::vector<std::string>> linesOf(
 
 struct PeriodRecords : ::testing::Test {
     TestWorkplace desk;
-    TestCardQueries asked;
+    TestPunchDesk asked;
 
     auto filesOf(const MonthSettings& settings, const char* record) {
         std::vector<FileSystem::NewContent> batch;

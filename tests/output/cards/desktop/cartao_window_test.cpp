@@ -7,6 +7,7 @@
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
+#include "tests/support/test_punch_desk.h"
 #include "tests/support/test_workplace.h"
 #include "timecard/month/selected_month.h"
 
@@ -27,6 +28,7 @@ namespace {
 using testing::DrivenWindow;
 using testing::RecordingEngine;
 using testing::TestBrowser;
+using testing::TestLeaves;
 using testing::TestPrinters;
 using testing::TestWorkplace;
 
@@ -76,7 +78,8 @@ class CartaoWindowTest : public ::testing::Test {
     RecordingEngine engine;
     TestPrinters printers;
     AlignmentMemory alignment;
-    Cartao cartao{desk.at, {browser, engine, printers, alignment}};
+    TestLeaves leaves;
+    Cartao cartao{desk.at, {browser, engine, printers, alignment, leaves}};
 };
 
 TEST_F(CartaoWindowTest, ChoicesReachThePrintedJob) {

@@ -1,7 +1,7 @@
 #include "timecard/punches/desktop/cartao_ponto_dados_window.h"
 
 #include "tests/support/driven_window.h"
-#include "tests/support/test_card_queries.h"
+#include "tests/support/test_punch_desk.h"
 #include "tests/support/test_workplace.h"
 #include "timecard/month/selected_month.h"
 #include "timecard/punches/desktop/punch_grid.h"
@@ -20,7 +20,7 @@ namespace winvrx {
 namespace {
 
 using testing::DrivenWindow;
-using testing::TestCardQueries;
+using testing::TestPunchDesk;
 using testing::TestWorkplace;
 
 const std::string kPunches = "01001-03-2024.bdx";
@@ -28,8 +28,8 @@ const std::string kPunches = "01001-03-2024.bdx";
 /// The window over March 2024 with two employees.
 struct CardWindow : ::testing::Test {
     TestWorkplace desk;
-    TestCardQueries asked;
-    CartaoPontoDados command{desk.at, asked.queries};
+    TestPunchDesk asked;
+    CartaoPontoDados command{desk.at, asked.desk};
     int monthOpened = 0;
     std::unique_ptr<DrivenWindow<CartaoPontoDadosWindow>> driven;
 

@@ -15,16 +15,22 @@ struct TestLeaves final : LeaveCalendar {
         const auto found = leaves.find(key.employee.text());
         return found == leaves.end() ? EmployeeLeaves() : found->second;
     }
+    std::set<EmployeeCode> recorded(const CompanyCode&, const FolderNames&) const override {
+        std::set<std::string> texts;
+        for (const auto& [employee, its] : leaves)
+            texts.insert(employee);
+        return codesOf(texts);
+    }
     void add(const std::string& employee, const char* first, const char* last) {
         leaves[employee].periods.push_back({*parseDate(first), *parseDate(last)});
     }
 };
 
 /// What the punches ask of other subjects, as the test has it.
-struct TestCardQueries {
+struct TestPunchDesk {
     TestLocks locks;
     TestLeaves leaves;
-    CardQueries queries{locks, locks, leaves};
+    PunchDesk desk{locks, locks, leaves};
 
     void forget() {
         locks = {};
