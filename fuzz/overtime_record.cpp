@@ -18,11 +18,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const auto own =
         loadOvertime({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, kMonth);
-    OvertimeRules rules = own.value_or(OvertimeRules());
-    rules.thresholdHours = (rules.thresholdHours + 1) % (kHighestThreshold + 1);
-    saveOvertime({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, {kMonth, rules});
+    OvertimePercents percents = own.value_or(OvertimePercents());
+    percents.minimumPercent = (percents.minimumPercent + 1) % (kHighestPercent + 1);
+    saveOvertime({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, {kMonth, percents});
     require(
-        loadOvertime({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, kMonth) == rules,
+        loadOvertime({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, kMonth) == percents,
         "a month's figures come back");
     const auto after = splitLines(file);
     require(after.size() == before.size() + (own ? 0 : 1), "every line is there");

@@ -59,7 +59,7 @@ class DayWalk {
         : day_(day),
           overtime_(terms.overtime),
           standard_(lengthOf(day.scheduled)),
-          dayLeft_(std::chrono::hours{terms.overtime.thresholdHours}),
+          dayLeft_(terms.overtime.threshold),
           nightLeft_(dayLeft_),
           visit_(visit) {
         give(HourCategory::Standard, HourRule::Schedule, standard_);

@@ -29,7 +29,7 @@ const Caption& entryOf(HourCategory category) {
 }
 
 std::string wordsOf(HourRule rule, const OvertimeRules& rules) {
-    const std::string threshold = std::to_string(rules.thresholdHours) + " hs";
+    const std::string threshold = thresholdText(rules.threshold) + " hs";
     switch (rule) {
         case HourRule::Schedule:
             return "jornada do dia";

@@ -38,11 +38,11 @@ void DataMesCorrente::load(WorkMonth month) {
     auto offer = offeredHolidays(at_.store(), month);
     auto onDisk = readRecord(month);
     auto unread = unreadMonthLines(at_.store(), month);
-    auto ownRules = ownRulesOfList(at_, month);
+    auto ownPercents = ownPercentsOfList(at_, month);
     offer_ = std::move(offer);
     onDisk_ = std::move(onDisk);
     unread_ = std::move(unread);
-    ownRules_ = std::move(ownRules);
+    ownPercents_ = std::move(ownPercents);
     opened_ = settings_ = onDisk_.value_or(proposedSettings(month, offer_));
     numbers_ = numbersOf(settings_);
     switched_ = false;
@@ -149,11 +149,10 @@ void DataMesCorrente::setFixedMonth(bool fixed) {
 bool DataMesCorrente::changed() const {
     MonthSettings shown = settings_;
     if (!shown.recordTicks) shown.holidayCells = opened_.holidayCells;
-    const bool typed = std::any_of(kMonthNumberFields.begin(), kMonthNumberFields.end(),
-                                   [&](const MonthNumberField& field) {
-                                       return field.valueOf(numbers_) != field.valueIn(opened_);
-                                   });
-    return typed || shown != opened_;
+    const bool readable = std::ranges::all_of(
+        kMonthNumberFields,
+        [&](const MonthNumberField& field) { return field.put(shown, numbers_); });
+    return !readable || shown != opened_;
 }
 
 void DataMesCorrente::write() {
@@ -180,13 +179,14 @@ bool DataMesCorrente::confirm() {
 }
 
 std::optional<OvertimeUpdate> DataMesCorrente::updateAll(const OvertimeProgress& progress) {
-    OvertimeRules rules;
-    const bool readable =
-        attempt(at_, incorrectData(), [&] { rules = withNumbers(settings_, numbers_).overtime; });
+    OvertimePercents percents;
+    const bool readable = attempt(at_, incorrectData(), [&] {
+        percents = withNumbers(settings_, numbers_).overtime;
+    });
     if (!readable) return std::nullopt;
-    const auto updated = updateOvertimeOfList(at_, settings_.month, rules, progress);
+    const auto updated = updateOvertimeOfList(at_, settings_.month, percents, progress);
     (void)attempt(at_, incorrectData(),
-                  [this] { ownRules_ = ownRulesOfList(at_, settings_.month); });
+                  [this] { ownPercents_ = ownPercentsOfList(at_, settings_.month); });
     return updated;
 }
 

@@ -86,8 +86,8 @@ class DataMesCorrente {
     [[nodiscard]] std::string modeNotice() const;
     /// "21/02/2024 a 20/03/2024"; empty while the closing day is no number of its range.
     [[nodiscard]] std::string closingPeriodText() const;
-    /// Says how many listed employees have figures of their own in the month that are not those of
-    /// the screen; empty for none.
+    /// Says how many listed employees have percentages of their own in the month that are not those
+    /// of the screen; empty for none.
     [[nodiscard]] std::string ownRulesNotice() const;
 
     /// True when the screen holds what is not on record.
@@ -96,7 +96,7 @@ class DataMesCorrente {
     [[nodiscard]] bool record();
     /// "Confirma": records, and makes the month the selected one.
     [[nodiscard]] bool confirm();
-    /// "Atualizar p/Todos os Funcionários", with the overtime rules as the screen shows them; see
+    /// "Atualizar p/Todos os Funcionários", with the percentages as the screen shows them; see
     /// updateOvertimeOfList.
     [[nodiscard]] std::optional<OvertimeUpdate> updateAll(const OvertimeProgress& progress);
     /// Asks before changes are given up. True when the screen may go on to something else.
@@ -114,7 +114,7 @@ class DataMesCorrente {
     std::optional<MonthSettings> onDisk_;  ///< the record as it was read or written
     std::vector<UnreadLine> unread_;
     std::vector<Holiday> offer_;
-    std::vector<OvertimeRules> ownRules_;  ///< of listed employees, in this month
+    std::vector<OvertimePercents> ownPercents_;  ///< of listed employees, in this month
     bool switched_ = false;  ///< the differentiated percentage was turned on or off on this screen
 };
 

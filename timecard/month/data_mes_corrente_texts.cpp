@@ -24,7 +24,9 @@ constexpr std::string_view kSingleLevel =
 }  // namespace
 
 std::string DataMesCorrente::findingOf(const MonthNumberField& field) const {
-    return field.valueOf(numbers_) ? std::string() : "Informe " + field.wanted() + ".";
+    MonthSettings shown;
+    return field.put(shown, numbers_) ? std::string()
+                                      : "Informe " + std::string(field.wanted) + ".";
 }
 
 std::string DataMesCorrente::monthCaption() const {
@@ -68,21 +70,15 @@ std::string DataMesCorrente::modeNotice() const {
 
 std::string DataMesCorrente::closingPeriodText() const {
     MonthSettings shown = settings_;
-    for (const MonthNumberField& field : kMonthNumberFields) {
-        const auto value = field.valueOf(numbers_);
-        if (!field.rule && !value && !shown.fixedMonth) return {};
-        if (!field.rule) shown.closingDay = value.value_or(shown.closingDay);
-    }
+    if (!take(shown, MonthLine::ClosingDay, numbers_.closingDay) && !shown.fixedMonth) return {};
     const DayPeriod period = closingPeriod(shown);
     return dateText(period.first) + " a " + dateText(period.last);
 }
 
 std::string DataMesCorrente::ownRulesNotice() const {
-    OvertimeRules shown = settings_.overtime;
-    for (const MonthNumberField& field : kMonthNumberFields)
-        if (field.rule) shown.*field.rule = field.valueOf(numbers_).value_or(shown.*field.rule);
+    const OvertimePercents shown = withReadable(settings_, numbers_).overtime;
     const auto others = std::ranges::count_if(
-        ownRules_, [&shown](const OvertimeRules& own) { return own != shown; });
+        ownPercents_, [&shown](const OvertimePercents& own) { return own != shown; });
     if (others == 0) return {};
     const std::string people = others == 1 ? "1 funcionário da lista tem"
                                            : std::to_string(others) + " funcionários da lista têm";

@@ -3,7 +3,6 @@
 #include "timecard/month/month_settings.h"
 
 #include <array>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,50 +14,49 @@ struct MonthNumbers {
     std::string maximumPercent;
     std::string nightMinimumPercent;
     std::string nightMaximumPercent;
-    std::string thresholdHours;
+    std::string threshold;
     std::string closingDay;
 
     [[nodiscard]] bool operator==(const MonthNumbers&) const = default;
 };
 
-/// One typed number: where it goes, which values it takes and what the screen calls it.
+/// One typed number: the line of the record that it goes to, what the screen calls it, and what may
+/// be typed.
 struct MonthNumberField {
     std::string MonthNumbers::*typed;
-    int OvertimeRules::*rule;  ///< nullptr for the closing day
-    int lowest;
-    int highest;
+    MonthLine line;
     std::string_view caption;
+    std::string_view wanted;
 
-    [[nodiscard]] int valueIn(const MonthSettings& settings) const {
-        return rule ? settings.overtime.*rule : settings.closingDay;
+    /// False, and nothing put, when what was typed is none of the wanted.
+    [[nodiscard]] bool put(MonthSettings& settings, const MonthNumbers& numbers) const {
+        return take(settings, line, numbers.*typed);
     }
-    void put(MonthSettings& settings, int value) const {
-        (rule ? settings.overtime.*rule : settings.closingDay) = value;
-    }
-    /// nullopt when what was typed is no number of the range.
-    [[nodiscard]] std::optional<int> valueOf(const MonthNumbers& numbers) const;
-    /// "um número de 0 a 999"
-    [[nodiscard]] std::string wanted() const;
 };
 
+inline constexpr std::string_view kWantedPercent = "um número de 0 a 999";
+static_assert(kHighestPercent == 999 && kHighestClosingDay == 31);
+
 inline constexpr std::array kMonthNumberFields = {
-    MonthNumberField{&MonthNumbers::minimumPercent, &OvertimeRules::minimumPercent, 0,
-                     kHighestPercent, "Hora Extra Índice Mínimo:"},
-    MonthNumberField{&MonthNumbers::maximumPercent, &OvertimeRules::maximumPercent, 0,
-                     kHighestPercent, "Hora Extra Índice Máximo:"},
-    MonthNumberField{&MonthNumbers::nightMinimumPercent, &OvertimeRules::nightMinimumPercent, 0,
-                     kHighestPercent, "Hora Extra Noturna Mínima:"},
-    MonthNumberField{&MonthNumbers::nightMaximumPercent, &OvertimeRules::nightMaximumPercent, 0,
-                     kHighestPercent, "Hora Extra Noturna Máxima:"},
-    MonthNumberField{&MonthNumbers::thresholdHours, &OvertimeRules::thresholdHours, 0,
-                     kHighestThreshold, "Horas"},
-    MonthNumberField{&MonthNumbers::closingDay, nullptr, 1, kHighestClosingDay,
-                     "Iníciar todo dia:"},
+    MonthNumberField{&MonthNumbers::minimumPercent, MonthLine::MinimumPercent,
+                     "Hora Extra Índice Mínimo:", kWantedPercent},
+    MonthNumberField{&MonthNumbers::maximumPercent, MonthLine::MaximumPercent,
+                     "Hora Extra Índice Máximo:", kWantedPercent},
+    MonthNumberField{&MonthNumbers::nightMinimumPercent, MonthLine::NightMinimumPercent,
+                     "Hora Extra Noturna Mínima:", kWantedPercent},
+    MonthNumberField{&MonthNumbers::nightMaximumPercent, MonthLine::NightMaximumPercent,
+                     "Hora Extra Noturna Máxima:", kWantedPercent},
+    MonthNumberField{&MonthNumbers::threshold, MonthLine::Threshold, "Horas",
+                     "um número de 0 a 24, como 2, 1,5 ou 01:30"},
+    MonthNumberField{&MonthNumbers::closingDay, MonthLine::ClosingDay,
+                     "Iníciar todo dia:", "um número de 1 a 31"},
 };
 
 [[nodiscard]] MonthNumbers numbersOf(const MonthSettings& settings);
 
-/// `settings` with what was typed. Throws Fault, naming the first number that is none of its range.
+/// `settings` with what was typed, as far as it can be read.
+[[nodiscard]] MonthSettings withReadable(MonthSettings settings, const MonthNumbers& numbers);
+/// `settings` with what was typed. Throws Fault, naming the first number that cannot be read.
 [[nodiscard]] MonthSettings withNumbers(MonthSettings settings, const MonthNumbers& numbers);
 
 }  // namespace winvrx

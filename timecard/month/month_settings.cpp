@@ -2,76 +2,118 @@
 
 #include "foundation/values/text.h"
 
-#include <algorithm>
+#include <array>
+#include <type_traits>
 
 namespace winvrx {
 
 namespace {
 
-/// Lines of the record behind the holiday cells, counted from 1 as docs/record-layouts.md does: the
-/// figures of kOvertimeFigures and what stands between and behind them.
-constexpr std::array<std::size_t, kOvertimeFigures.size()> kFigureLines = {43, 44, 45, 46,
-                                                                           48, 49, 50, 51};
-constexpr std::size_t kRecordTicksLine = 47;
-constexpr std::size_t kClosingDayLine = 52;
-constexpr std::size_t kFixedMonthLine = 53;
-constexpr std::size_t kKnownLines = 53;
-static_assert(kFigureLines.front() == kHolidayCells + 1);
-static_assert(kHolidayCells + kFigureLines.size() + 3 == kKnownLines);
+/// What a line of the record behind the holiday cells holds, as text.
+struct LineValue {
+    std::string (*text)(const MonthSettings&);
+    bool (*take)(MonthSettings&, std::string_view);
+};
 
-/// The numbers of the known lines, in their order.
-using Values = std::array<int, kKnownLines>;
-
-Values valuesOf(const MonthSettings& settings) {
-    Values values{};
-    std::ranges::copy(settings.holidayCells, values.begin());
-    for (std::size_t i = 0; i < kFigureLines.size(); ++i)
-        values[kFigureLines[i] - 1] = kOvertimeFigures[i].read(settings.overtime);
-    values[kRecordTicksLine - 1] = settings.recordTicks ? 1 : 0;
-    values[kClosingDayLine - 1] = settings.closingDay;
-    values[kFixedMonthLine - 1] = settings.fixedMonth ? 1 : 0;
-    return values;
+/// A whole number, also that of a switch or a choice.
+template <auto Of, int Lowest, int Highest>
+constexpr LineValue wholeNumber() {
+    return {[](const MonthSettings& settings) {
+                return std::to_string(static_cast<int>(Of(settings)));
+            },
+            [](MonthSettings& settings, std::string_view text) {
+                const auto number = parseWholeNumber(text, Lowest, Highest);
+                auto& value = Of(settings);
+                if (number) value = static_cast<std::remove_reference_t<decltype(value)>>(*number);
+                return number.has_value();
+            }};
 }
 
-MonthSettings settingsOf(WorkMonth month, const Values& values) {
-    MonthSettings settings;
-    settings.month = month;
-    for (std::size_t cell = 0; cell < kHolidayCells; ++cell)
-        settings.holidayCells[cell] = values[cell] == 1;
-    for (std::size_t i = 0; i < kFigureLines.size(); ++i)
-        kOvertimeFigures[i].write(settings.overtime, values[kFigureLines[i] - 1]);
-    settings.recordTicks = values[kRecordTicksLine - 1] == 1;
-    settings.closingDay = values[kClosingDayLine - 1];
-    settings.fixedMonth = values[kFixedMonthLine - 1] == 1;
-    return settings;
+template <auto Of>
+constexpr LineValue percent() {
+    return wholeNumber<Of, 0, kHighestPercent>();
 }
 
-/// The number of a known line; nullopt when it is none of the line's range.
-std::optional<int> numberOf(const std::string& bytes, std::size_t line) {
-    if (line == kClosingDayLine) return parseWholeNumber(bytes, 1, kHighestClosingDay);
-    const auto* figure = std::find(kFigureLines.begin(), kFigureLines.end(), line);
-    if (figure == kFigureLines.end()) return parseWholeNumber(bytes, 0, 1);
-    const auto place = static_cast<std::size_t>(figure - kFigureLines.begin());
-    return parseWholeNumber(bytes, 0, kOvertimeFigures[place].highest);
+bool takeThreshold(MonthSettings& settings, std::string_view text) {
+    const auto threshold = parseThreshold(text);
+    if (threshold) settings.overtime.threshold = *threshold;
+    return threshold.has_value();
+}
+
+/// In the order of MonthLine.
+constexpr std::array kLineValues = {percent <
+                                        [](auto& of) -> auto& {return of.overtime.minimumPercent;
+}  // namespace
+> (), percent < [](auto& of) -> auto& {
+    return of.overtime.nightMinimumPercent;
+}
+> (), percent < [](auto& of) -> auto& {
+    return of.overtime.maximumPercent;
+}
+> (), percent < [](auto& of) -> auto& {
+    return of.overtime.nightMaximumPercent;
+}
+> (), wholeNumber < [](auto& of) -> auto& {
+    return of.recordTicks;
+}
+, 0, 1 > (), wholeNumber < [](auto& of) -> auto& {
+    return of.overtime.differentiatedPercent;
+}
+, 0, 1 > (), wholeNumber < [](auto& of) -> auto& {
+    return of.overtime.mode;
+}
+, 0, 1 > (), wholeNumber < [](auto& of) -> auto& {
+    return of.overtime.totalsFormat;
+}
+, 0, 1 > (),
+    LineValue{[](const MonthSettings& of) { return thresholdText(of.overtime.threshold); },
+              takeThreshold},
+    wholeNumber < [](auto& of) -> auto& {
+    return of.closingDay;
+}
+, 1, kHighestClosingDay > (), wholeNumber < [](auto& of) -> auto& {
+    return of.fixedMonth;
+}
+, 0, 1 > (),
+};  // namespace winvrx
+constexpr std::size_t kKnownLines = kHolidayCells + kLineValues.size();
+static_assert(static_cast<std::size_t>(MonthLine::FixedMonth) == kKnownLines);
+
+const LineValue& valueOf(std::size_t line) {
+    return kLineValues.at(line - kHolidayCells - 1);
+}
+
+std::string lineText(const MonthSettings& settings, std::size_t line) {
+    if (line <= kHolidayCells) return settings.holidayCells[line - 1] ? "1" : "0";
+    return valueOf(line).text(settings);
+}
+
+/// False, and nothing taken, when the text is no value of a known line.
+bool takeText(MonthSettings& settings, std::size_t line, std::string_view text) {
+    if (line > kKnownLines) return false;
+    if (line > kHolidayCells) return valueOf(line).take(settings, text);
+    const auto ticked = parseWholeNumber(text, 0, 1);
+    if (ticked) settings.holidayCells[line - 1] = *ticked == 1;
+    return ticked.has_value();
 }
 
 MonthSettings decode(WorkMonth month, const std::vector<std::string>& lines) {
-    Values values = valuesOf({});
-    for (std::size_t place = 0; place < std::min(lines.size(), kKnownLines); ++place)
-        values[place] = numberOf(lines[place], place + 1).value_or(values[place]);
-    return settingsOf(month, values);
+    MonthSettings settings;
+    settings.month = month;
+    for (std::size_t line = 1; line <= lines.size(); ++line)
+        (void)takeText(settings, line, lines[line - 1]);
+    return settings;
 }
 
 /// `settings` put into a record that stands.
 std::vector<std::string> encodeInto(std::vector<std::string> record,
                                     const MonthSettings& settings) {
-    const Values before = valuesOf(decode(settings.month, record));
-    const Values after = valuesOf(settings);
-    for (std::size_t place = 0; place < kKnownLines; ++place) {
-        const bool missing = place >= record.size();
-        if (missing) record.emplace_back();
-        if (missing || before[place] != after[place] || trimmed(record[place]).empty())
-            record[place] = std::to_string(after[place]);
+    const MonthSettings before = decode(settings.month, record);
+    if (record.size() < kKnownLines) record.resize(kKnownLines);
+    for (std::size_t line = 1; line <= kKnownLines; ++line) {
+        std::string& bytes = record[line - 1];
+        std::string text = lineText(settings, line);
+        if (trimmed(bytes).empty() || lineText(before, line) != text) bytes = std::move(text);
     }
     return record;
 }
@@ -99,6 +141,14 @@ std::vector<Date> MonthSettings::holidays() const {
     return dates;
 }
 
+std::string textOf(const MonthSettings& settings, MonthLine line) {
+    return lineText(settings, static_cast<std::size_t>(line));
+}
+
+bool take(MonthSettings& settings, MonthLine line, std::string_view text) {
+    return takeText(settings, static_cast<std::size_t>(line), text);
+}
+
 std::size_t holidayCellOf(Date date) {
     const unsigned blanksBefore = weekdayOf(firstDay(monthOf(date))).c_encoding();
     return blanksBefore + unsigned{date.day()} - 1;
@@ -118,11 +168,12 @@ MonthSettings loadMonthSettings(const Store& store, WorkMonth month) {
 
 std::vector<UnreadLine> unreadMonthLines(const Store& store, WorkMonth month) {
     std::vector<UnreadLine> unread;
+    MonthSettings settings;
     const auto lines = recordOf(store, month).lines();
     for (std::size_t line = 1; line <= lines.size(); ++line) {
         const std::string& bytes = lines[line - 1];
-        const bool understood = line <= kKnownLines && numberOf(bytes, line);
-        if (!understood && !trimmed(bytes).empty()) unread.push_back({line, readableText(bytes)});
+        if (!takeText(settings, line, bytes) && !trimmed(bytes).empty())
+            unread.push_back({line, readableText(bytes)});
     }
     return unread;
 }

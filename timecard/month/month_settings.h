@@ -8,6 +8,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace winvrx {
@@ -33,6 +34,27 @@ struct MonthSettings {
 
     [[nodiscard]] bool operator==(const MonthSettings&) const = default;
 };
+
+/// The lines of the record behind the holiday cells, counted from 1.
+enum class MonthLine : std::size_t {
+    MinimumPercent = kHolidayCells + 1,
+    NightMinimumPercent,
+    MaximumPercent,
+    NightMaximumPercent,
+    RecordTicks,
+    DifferentiatedPercent,
+    Mode,
+    TotalsFormat,
+    Threshold,
+    ClosingDay,
+    FixedMonth
+};
+
+/// The value of a line as the record has it.
+[[nodiscard]] std::string textOf(const MonthSettings& settings, MonthLine line);
+/// Takes a value as the record or the operator has it; false, and nothing taken, when it is none of
+/// the line's.
+[[nodiscard]] bool take(MonthSettings& settings, MonthLine line, std::string_view text);
 
 /// The cell of a date in the grid of its own month, 0 to 41.
 [[nodiscard]] std::size_t holidayCellOf(Date date);

@@ -9,8 +9,7 @@ namespace winvrx {
 namespace {
 
 std::optional<int> numberAt(std::size_t place, std::string_view lineBytes) {
-    return parseWholeNumber(fieldOf(lineBytes, kOvertimeColumns[place]), 0,
-                            kOvertimeFigures[place].highest);
+    return parseWholeNumber(fieldOf(lineBytes, kOvertimeColumns[place]), 0, kHighestPercent);
 }
 
 RecordFile recordOf(const Store& store, const EmployeeKey& key) {
@@ -30,10 +29,10 @@ std::optional<OvertimeLine> decodeOvertime(std::string_view lineBytes) {
     const auto month = parseMonthKey(fieldOf(lineBytes, kOvertimeMonth));
     if (!month) return std::nullopt;
     OvertimeLine line{*month, {}};
-    for (std::size_t place = 0; place < kOvertimeFigures.size(); ++place) {
+    for (std::size_t place = 0; place < kPercents.size(); ++place) {
         const auto number = numberAt(place, lineBytes);
         if (!number) return std::nullopt;
-        kOvertimeFigures[place].write(line.rules, *number);
+        line.percents.*kPercents[place] = *number;
     }
     return line;
 }
@@ -41,8 +40,8 @@ std::optional<OvertimeLine> decodeOvertime(std::string_view lineBytes) {
 std::string encode(const OvertimeLine& line, std::string existing) {
     RecordLine record(std::move(existing), kOvertimeWidth);
     record.put(kOvertimeMonth, monthKey(line.month));
-    for (std::size_t place = 0; place < kOvertimeFigures.size(); ++place) {
-        const int number = kOvertimeFigures[place].read(line.rules);
+    for (std::size_t place = 0; place < kPercents.size(); ++place) {
+        const int number = line.percents.*kPercents[place];
         if (numberAt(place, record.bytes()) != number)
             record.put(kOvertimeColumns[place], std::to_string(number));
     }
@@ -53,16 +52,19 @@ std::string overtimeFileName(const EmployeeCode& employee) {
     return std::string(kOvertimeStem) + employee.text();
 }
 
-std::optional<OvertimeRules> loadOvertime(const Store& store, const EmployeeKey& key,
-                                          WorkMonth month) {
+std::optional<OvertimePercents> loadOvertime(const Store& store, const EmployeeKey& key,
+                                             WorkMonth month) {
     auto lines = recordOf(store, key).lines();
     const auto found = lineOf(lines, month);
     if (found == lines.end()) return std::nullopt;
-    return decodeOvertime(*found)->rules;
+    return decodeOvertime(*found)->percents;
 }
 
 OvertimeRules overtimeOf(const Store& store, const EmployeeKey& key, const MonthSettings& month) {
-    return loadOvertime(store, key, month.month).value_or(month.overtime);
+    OvertimeRules rules = month.overtime;
+    OvertimePercents& percents = rules;
+    percents = loadOvertime(store, key, month.month).value_or(percents);
+    return rules;
 }
 
 FileSystem::NewContent withOvertime(const Store& store, const EmployeeKey& key,

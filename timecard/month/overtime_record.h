@@ -11,17 +11,17 @@
 #include <string>
 #include <string_view>
 
-// The overtime figures of one employee: the record company code + "MedHorExtr" + employee code, one
-// line a work month. A month without a line of its own goes by the month's settings.
+// The overtime percentages of one employee: the record company code + "MedHorExtr" + employee code,
+// one line a work month. A month without a line of its own goes by the month's settings.
 
 namespace winvrx {
 
-/// The layout of a line: the month, then the figures of kOvertimeFigures, single blanks between
-/// them. The one place that knows it.
+/// The layout of a line: the month, then the percentages in the order of kPercents, single blanks
+/// between them. The one place that knows it.
 inline constexpr Column kOvertimeMonth{1, 7};
-inline constexpr std::array<Column, kOvertimeFigures.size()> kOvertimeColumns = {
-    {{9, 3}, {13, 3}, {17, 3}, {21, 3}, {25, 1}, {27, 1}, {29, 1}, {31, 2}}};
-inline constexpr std::size_t kOvertimeWidth = 32;
+inline constexpr std::array<Column, kPercents.size()> kOvertimeColumns = {
+    {{9, 3}, {13, 3}, {17, 3}, {21, 3}}};
+inline constexpr std::size_t kOvertimeWidth = 23;
 static_assert([] {
     std::size_t next = kOvertimeMonth.end();
     for (const Column column : kOvertimeColumns) {
@@ -33,7 +33,7 @@ static_assert([] {
 
 struct OvertimeLine {
     WorkMonth month;
-    OvertimeRules rules;
+    OvertimePercents percents;
 
     [[nodiscard]] bool operator==(const OvertimeLine&) const = default;
 };
@@ -46,16 +46,17 @@ struct OvertimeLine {
 /// "MedHorExtr001", to be put behind the company code.
 [[nodiscard]] std::string overtimeFileName(const EmployeeCode& employee);
 
-/// The employee's own figures of the month: the first line that is understood and has the month;
-/// nullopt where there is none. Throws FileFault.
-[[nodiscard]] std::optional<OvertimeRules> loadOvertime(const Store& store, const EmployeeKey& key,
-                                                        WorkMonth month);
+/// The employee's own percentages of the month: the first line that is understood and has the
+/// month; nullopt where there is none. Throws FileFault.
+[[nodiscard]] std::optional<OvertimePercents> loadOvertime(const Store& store,
+                                                           const EmployeeKey& key, WorkMonth month);
 
-/// The rules that hold for the employee in the month: his own line, else the month's.
+/// The rules that hold for the employee in the month: the month's, with his own percentages where
+/// he has them.
 [[nodiscard]] OvertimeRules overtimeOf(const Store& store, const EmployeeKey& key,
                                        const MonthSettings& month);
 
-/// The employee's file with the month's figures put into it; every other line stays as it is.
+/// The employee's file with the line put into it; every other line stays as it is.
 [[nodiscard]] FileSystem::NewContent withOvertime(const Store& store, const EmployeeKey& key,
                                                   const OvertimeLine& line);
 void saveOvertime(const Store& store, const EmployeeKey& key, const OvertimeLine& line);

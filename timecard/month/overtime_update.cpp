@@ -1,12 +1,15 @@
 #include "timecard/month/overtime_update.h"
 
+#include "foundation/files/payroll_file.h"
 #include "foundation/register/company_register.h"
 #include "foundation/register/employee_register.h"
 #include "foundation/values/text.h"
 #include "timecard/month/overtime_record.h"
 
 #include <algorithm>
+#include <map>
 #include <set>
+#include <string>
 
 namespace winvrx {
 
@@ -14,46 +17,74 @@ namespace {
 
 const Message kNobodyListed =
     refusal("Aviso", "Não há Dados de Funcionários! Cadastre pelo menos um Funcionário.");
+const Message kAllClosed =
+    refusal("ALTERAÇÃO",
+            "A folha de pagamento deste mês já foi gerada para todos os funcionários da lista: não "
+            "há o que atualizar.");
 
 /// So many that a batch's flush is shared, so few that the operator sees it move on.
 constexpr std::ptrdiff_t kWrittenTogether = 64;
 
-Message confirmation(const Workplace& at, WorkMonth month, std::size_t employees) {
+/// The listed employees, told apart by whether the payroll of the month is generated for them.
+struct Listed {
+    std::map<EmployeeCode, std::string> open;  ///< names by code
+    std::map<EmployeeCode, std::string> closed;
+};
+
+std::set<std::string> fileNames(const Workplace& at) {
+    const auto names = at.files.names(at.session.folder.path());
+    return {names.begin(), names.end()};
+}
+
+Listed listedIn(const Workplace& at, WorkMonth month, const std::set<std::string>& names) {
+    Listed listed;
+    for (const Employee& one : listedEmployees(at)) {
+        const EmployeeCode code = one.employeeCode().value();
+        const bool closed = names.contains(payrollFileName({*at.session.company, code}, month));
+        (closed ? listed.closed : listed.open).emplace(code, one.name);
+    }
+    return listed;
+}
+
+std::string detailOf(const Workplace& at, const Listed& listed) {
     const std::string company = titleOf(loadCompanies(at.store()), at.session.company);
-    const std::string count = employees == 1 ? "1 funcionário recebe"
-                                             : std::to_string(employees) + " funcionários recebem";
-    return riskyQuestion(
-        "ALTERAÇÃO",
-        "Confirma Atualizar as Horas Extras de " + upperCase(monthTitle(month)) +
-            " p/Todos os Funcionários da Lista?",
+    const std::string count = listed.open.size() == 1
+                                  ? "1 funcionário recebe"
+                                  : std::to_string(listed.open.size()) + " funcionários recebem";
+    std::string detail =
         company + ", turno " + std::string(codeOf(at.session.shiftFilter)) + ": " + count +
-            " as configurações de horas extras desta tela no lugar das que tinham no mês.");
+        " os percentuais desta tela no lugar dos que tinham no mês. As outras configurações valem "
+        "para todos assim que o mês é gravado.";
+    if (!listed.closed.empty()) detail += "\nFicam como estão, folha fechada:";
+    for (const auto& [code, name] : listed.closed)
+        detail += (code == listed.closed.begin()->first ? " " : ", ") + code.text() + " " + name;
+    return detail;
 }
 
-std::set<EmployeeCode> listedCodes(const Workplace& at) {
-    std::set<EmployeeCode> codes;
-    for (const Employee& one : listedEmployees(at))
-        codes.insert(one.employeeCode().value());
-    return codes;
+Message confirmation(const Workplace& at, WorkMonth month, const Listed& listed) {
+    return riskyQuestion("ALTERAÇÃO",
+                         "Confirma Atualizar as Horas Extras de " + upperCase(monthTitle(month)) +
+                             " p/Todos os Funcionários da Lista?",
+                         detailOf(at, listed));
 }
 
-/// The files of those who have not the line's rules yet, with the line in them.
-std::vector<FileSystem::NewContent> filesToWrite(const Workplace& at,
-                                                 const std::set<EmployeeCode>& codes,
+/// The files of those who have not the line's percentages yet, with the line in them.
+std::vector<FileSystem::NewContent> filesToWrite(const Workplace& at, const Listed& listed,
                                                  const OvertimeLine& line) {
     const CompanyCode& company = at.session.company.value();
     std::vector<FileSystem::NewContent> batch;
-    for (const EmployeeCode& code : codes)
-        if (loadOvertime(at.store(), {company, code}, line.month) != line.rules)
+    for (const auto& [code, name] : listed.open)
+        if (loadOvertime(at.store(), {company, code}, line.month) != line.percents)
             batch.push_back(withOvertime(at.store(), {company, code}, line));
     return batch;
 }
 
 OvertimeUpdate writeFor(const Workplace& at, const OvertimeLine& line,
                         const OvertimeProgress& progress) {
-    const auto codes = listedCodes(at);
-    const auto batch = filesToWrite(at, codes, line);
-    OvertimeUpdate update{codes.size() - batch.size(), codes.size()};
+    const Listed listed = listedIn(at, line.month, fileNames(at));
+    const auto batch = filesToWrite(at, listed, line);
+    OvertimeUpdate update{listed.open.size() - batch.size(), listed.open.size(),
+                          listed.closed.size()};
     for (auto first = batch.begin(); first != batch.end() && progress(update.done, update.total);) {
         const auto last = first + std::min(kWrittenTogether, batch.end() - first);
         at.files.replaceAll({first, last});
@@ -61,6 +92,16 @@ OvertimeUpdate writeFor(const Workplace& at, const OvertimeLine& line,
         first = last;
     }
     return update;
+}
+
+bool confirmUpdate(const Workplace& at, WorkMonth month) {
+    const Listed listed = listedIn(at, month, fileNames(at));
+    if (!listed.open.empty()) return at.person.agrees(confirmation(at, month, listed));
+    if (!at.session.company)
+        at.person.tell(noCompany());
+    else
+        at.person.tell(listed.closed.empty() ? kNobodyListed : kAllClosed);
+    return false;
 }
 
 }  // namespace
@@ -71,33 +112,26 @@ std::vector<Employee> listedEmployees(const Workplace& at) {
                        at.session.shiftFilter);
 }
 
-std::vector<OvertimeRules> ownRulesOfList(const Workplace& at, WorkMonth month) {
-    std::vector<OvertimeRules> own;
+std::vector<OvertimePercents> ownPercentsOfList(const Workplace& at, WorkMonth month) {
+    std::vector<OvertimePercents> own;
     if (!at.session.company) return own;
-    const auto listed = at.files.names(at.session.folder.path());
-    const std::set<std::string> names(listed.begin(), listed.end());
-    for (const Employee& one : listedEmployees(at)) {
-        const EmployeeCode code = one.employeeCode().value();
+    const auto names = fileNames(at);
+    for (const auto& [code, name] : listedIn(at, month, names).open) {
         if (!names.contains(at.session.company->text() + overtimeFileName(code))) continue;
-        if (const auto rules = loadOvertime(at.store(), {*at.session.company, code}, month))
-            own.push_back(*rules);
+        if (const auto percents = loadOvertime(at.store(), {*at.session.company, code}, month))
+            own.push_back(*percents);
     }
     return own;
 }
 
 std::optional<OvertimeUpdate> updateOvertimeOfList(const Workplace& at, WorkMonth month,
-                                                   const OvertimeRules& rules,
+                                                   const OvertimePercents& percents,
                                                    const OvertimeProgress& progress) {
     std::optional<OvertimeUpdate> update;
     (void)attempt(at, incorrectData(), [&] {
-        const std::size_t listed = listedCodes(at).size();
-        if (listed == 0) {
-            at.person.tell(at.session.company ? kNobodyListed : noCompany());
-            return false;
-        }
-        if (!at.person.agrees(confirmation(at, month, listed))) return false;
+        if (!confirmUpdate(at, month)) return false;
         const FolderLock::Hold hold = holdFolder(at);
-        update = writeFor(at, {month, rules}, progress);
+        update = writeFor(at, {month, percents}, progress);
         return true;
     });
     return update;

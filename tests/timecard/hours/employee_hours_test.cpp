@@ -85,13 +85,15 @@ TEST_F(EmployeeHoursTest, EachDayGoesByTheHolidaysOfItsOwnMonth) {
     EXPECT_EQ(hours->totals()[HourCategory::WeeklyRest], kSundaysAndHoliday * 8h);
 }
 
-TEST_F(EmployeeHoursTest, TheEmployeesOwnFiguresComeBeforeTheMonths) {
+TEST_F(EmployeeHoursTest, TheEmployeesOwnPercentagesComeBeforeTheMonths) {
     file("01001-03-2024.bdx") = "  \r\n05/ter/mar08:0017:00\r\n";
-    OvertimeRules own;
-    own.mode = OvertimeMode::SingleLevel;
+    OvertimePercents own;
+    own.maximumPercent = 110;
     saveOvertime({files, folder}, {kCompany, kAna}, {settings.month, own});
+    settings.overtime.mode = OvertimeMode::SingleLevel;
     const auto hours = load(HoursPeriod::CalendarMonth);
     ASSERT_TRUE(hours);
+    EXPECT_EQ(hours->terms.overtime.maximumPercent, 110);
     EXPECT_EQ(hours->totals()[HourCategory::ExtraMaximum], 1h);
 }
 

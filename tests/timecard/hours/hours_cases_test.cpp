@@ -104,7 +104,7 @@ void putSettings(WorkTerms& terms, const std::string& text) {
         } else {
             const auto [name, value] = assignment(word);
             if (name == "limite")
-                terms.overtime.thresholdHours = std::stoi(value);
+                terms.overtime.threshold = required(parseThreshold(value), value);
             else if (name == "adm")
                 terms.admission = dateOf(value);
             else if (name == "desc")

@@ -43,7 +43,7 @@ class Dice {
         terms.restDay = std::chrono::weekday(static_cast<unsigned>(upTo(6)));
         terms.holidays = {plusDays(firstDay(month), upTo(27))};
         terms.overtime.differentiatedPercent = once(2);
-        terms.overtime.thresholdHours = upTo(4);
+        terms.overtime.threshold = std::chrono::minutes{30 * upTo(8)};
         if (once(4)) terms.overtime.mode = OvertimeMode::SingleLevel;
         if (once(4)) terms.admission = plusDays(firstDay(month), upTo(27));
         return terms;

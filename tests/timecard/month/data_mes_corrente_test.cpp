@@ -86,7 +86,7 @@ TEST_F(MonthScreen, CaptionOfThePercentageFollowsSwitchAndNumbers) {
               "de 100%.");
     screen.setDifferentiatedPercent(true);
     screen.type(fieldOf(&MonthNumbers::minimumPercent), "60");
-    screen.type(fieldOf(&MonthNumbers::thresholdHours), "3");
+    screen.type(fieldOf(&MonthNumbers::threshold), "3");
     EXPECT_EQ(screen.differentiatedCaption(),
               "Ativado o uso de Percentual de Horas Extras Diárias Normais Diferenciado. Será de "
               "60% até 3 hs Extras diárias. Acima de 3 hs Extras será de 100%.");
@@ -124,7 +124,7 @@ TEST_F(MonthScreen, ANumberOutOfRangeIsRefusedAndNothingIsWritten) {
     const auto before = desk.files.content;
     for (const MonthNumberField& field : kMonthNumberFields) {
         const std::string good = screen.numbers().*field.typed;
-        for (const char* typed : {"", "abc", "5,5", "-1", "1000", "50%", "99999999999999"}) {
+        for (const char* typed : {"", "abc", "5,5,5", "-1", "1000", "50%", "99999999999999"}) {
             screen.type(field, typed);
             EXPECT_FALSE(screen.findingOf(field).empty()) << typed;
             EXPECT_FALSE(screen.confirm()) << field.caption << typed;

@@ -23,7 +23,7 @@ MonthSettings unusualSettings() {
     settings.overtime.differentiatedPercent = true;
     settings.overtime.mode = OvertimeMode::SingleLevel;
     settings.overtime.totalsFormat = TotalsFormat::DecimalHours;
-    settings.overtime.thresholdHours = 3;
+    settings.overtime.threshold = 90min;
     settings.closingDay = 21;
     settings.fixedMonth = false;
     return settings;
@@ -40,8 +40,8 @@ TEST(MonthSettings, RecordHasItsValuesOnTheirLines) {
     for (std::size_t cell = 0; cell < kHolidayCells; ++cell)
         EXPECT_EQ(lines[cell], cell == 33 ? "1" : "0") << "cell " << cell;
     EXPECT_THAT(std::vector(lines.begin() + 42, lines.end()),
-                ::testing::ElementsAre("60", "70", "120", "130", "0", "1", "1", "1", "3", "21", "0",
-                                       "de outra vers\xE3o", ""));
+                ::testing::ElementsAre("60", "70", "120", "130", "0", "1", "1", "1", "01:30", "21",
+                                       "0", "de outra vers\xE3o", ""));
     EXPECT_EQ(loadMonthSettings(desk.store(), 2024y / 3), settings);
 }
 
@@ -70,6 +70,7 @@ TEST(MonthSettings, ALineWhoseMeaningStaysKeepsItsBytes) {
     lines[2] = "sim";
     lines[42] = "50%";
     lines[43] = " 070";
+    lines[50] = "1,5";
     lines[53] = "alheia \x81";
     desk.file("03-2024ds.rdx") = joinedLines(lines);
     MonthSettings settings = loadMonthSettings(desk.store(), 2024y / 3);

@@ -36,10 +36,10 @@ struct OvertimeOfAll : ::testing::Test {
     }
 };
 
-const std::string kMarchLine = "03-2024 60  50  100 100 0 0 0 2 \r\n";
+const std::string kMarchLine = "03-2024 60  50  100 100\r\n";
 
 TEST_F(OvertimeOfAll, EveryListedEmployeeGetsTheRulesOfTheScreen) {
-    desk.file("01MedHorExtr002") = "02-2024 55  50  100 100 0 0 0 2 \r\n";
+    desk.file("01MedHorExtr002") = "02-2024 55  50  100 100\r\n";
     desk.person.answers = {Answer::Yes};
     EXPECT_EQ(screen.updateAll(kPatient), (OvertimeUpdate{3, 3}));
     ASSERT_EQ(desk.person.shown.size(), 1U);
@@ -48,7 +48,7 @@ TEST_F(OvertimeOfAll, EveryListedEmployeeGetsTheRulesOfTheScreen) {
               "Confirma Atualizar as Horas Extras de MARÇO/2024 p/Todos os Funcionários da Lista?");
     EXPECT_THAT(desk.person.shown[0].detail, HasSubstr("3 funcionários recebem"));
     EXPECT_EQ(recordOf("001"), kMarchLine);
-    EXPECT_EQ(recordOf("002"), "02-2024 55  50  100 100 0 0 0 2 \r\n" + kMarchLine);
+    EXPECT_EQ(recordOf("002"), "02-2024 55  50  100 100\r\n" + kMarchLine);
     EXPECT_FALSE(desk.files.content.contains("/data/03-2024ds.rdx"));
     EXPECT_TRUE(screen.changed());
 }
@@ -87,6 +87,28 @@ TEST_F(OvertimeOfAll, RefusedCancelledOrFailingItChangesNothing) {
     EXPECT_EQ(desk.files.content, before);
 }
 
+TEST_F(OvertimeOfAll, AClosedMonthStaysAsItIsAndIsNamed) {
+    desk.file("01fp0000203-2024.bdx") = "";
+    desk.file("01fp0000102-2024.bdx") = "";
+    desk.file("01MedHorExtr002") = "03-2024 70  50  100 100\r\n";
+    screen.open();
+    EXPECT_EQ(screen.ownRulesNotice(), "") << "nothing that could be made equal";
+    screen.type(kMonthNumberFields[0], "60");
+    desk.person.answers = {Answer::Yes};
+    EXPECT_EQ(screen.updateAll(kPatient), (OvertimeUpdate{2, 2, 1}));
+    EXPECT_THAT(desk.person.shown[0].detail, HasSubstr("2 funcionários recebem"));
+    EXPECT_THAT(desk.person.shown[0].detail, HasSubstr("Ficam como estão, folha fechada: 002 BIA"));
+    EXPECT_EQ(recordOf("002"), "03-2024 70  50  100 100\r\n");
+    EXPECT_EQ(recordOf("003"), kMarchLine);
+    for (const char* name : {"01fp0000103-2024.bdx", "01fp0000303-2024.bdx"})
+        desk.file(name) = "";
+    desk.person.shown.clear();
+    EXPECT_FALSE(screen.updateAll(kPatient));
+    EXPECT_THAT(desk.person.takeTexts(),
+                ElementsAre("A folha de pagamento deste mês já foi gerada para todos os "
+                            "funcionários da lista: não há o que atualizar."));
+}
+
 TEST_F(OvertimeOfAll, CancelledOnTheWayItLeavesWholeEmployeesAndCanBeGivenAgain) {
     std::vector<Employee> many;
     for (int code = 1; code <= 200; ++code)
@@ -116,8 +138,8 @@ TEST_F(OvertimeOfAll, CancelledOnTheWayItLeavesWholeEmployeesAndCanBeGivenAgain)
 TEST_F(OvertimeOfAll, TheScreenSaysWhoGoesByOtherFigures) {
     EXPECT_EQ(screen.ownRulesNotice(), "");
     desk.file("01MedHorExtr001") = kMarchLine;
-    desk.file("01MedHorExtr002") = "02-2024 55  50  100 100 0 0 0 2 \r\n";
-    desk.file("01MedHorExtr003") = "03-2024 70  50  100 100 0 0 0 2 \r\n";
+    desk.file("01MedHorExtr002") = "02-2024 55  50  100 100\r\n";
+    desk.file("01MedHorExtr003") = "03-2024 70  50  100 100\r\n";
     screen.open();
     EXPECT_THAT(screen.ownRulesNotice(), HasSubstr("2 funcionários da lista têm"));
     screen.type(kMonthNumberFields[0], "60");
@@ -125,8 +147,8 @@ TEST_F(OvertimeOfAll, TheScreenSaysWhoGoesByOtherFigures) {
     desk.person.answers = {Answer::Yes};
     ASSERT_TRUE(screen.updateAll(kPatient));
     EXPECT_EQ(screen.ownRulesNotice(), "");
-    EXPECT_THAT(ownRulesOfList(desk.at, 2024y / 2), ::testing::SizeIs(1));
-    EXPECT_THAT(ownRulesOfList(desk.at, 2024y / 5), IsEmpty());
+    EXPECT_THAT(ownPercentsOfList(desk.at, 2024y / 2), ::testing::SizeIs(1));
+    EXPECT_THAT(ownPercentsOfList(desk.at, 2024y / 5), IsEmpty());
 }
 
 }  // namespace

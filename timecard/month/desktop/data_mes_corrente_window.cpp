@@ -160,14 +160,15 @@ void DataMesCorrenteWindow::updateAll() {
     });
     rules_->refresh();
     if (!updated) return;
-    if (updated->done < updated->total)
-        setState(QStringLiteral("Cancelado: %1 de %2 funcionários atualizados")
-                     .arg(updated->done)
-                     .arg(updated->total));
-    else
-        setState(updated->total == 1
-                     ? QStringLiteral("1 funcionário atualizado")
-                     : QStringLiteral("%1 funcionários atualizados").arg(updated->total));
+    QString state = updated->done < updated->total
+                        ? QStringLiteral("Cancelado: %1 de %2 funcionários atualizados")
+                              .arg(updated->done)
+                              .arg(updated->total)
+                    : updated->total == 1
+                        ? QStringLiteral("1 funcionário atualizado")
+                        : QStringLiteral("%1 funcionários atualizados").arg(updated->total);
+    if (updated->closed > 0) state += QStringLiteral("; %1 com folha fechada").arg(updated->closed);
+    setState(state);
 }
 
 void DataMesCorrenteWindow::confirmMonth() {

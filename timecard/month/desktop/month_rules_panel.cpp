@@ -39,6 +39,7 @@ constexpr std::array<NumberText, kMonthNumberFields.size()> kNumberTexts = {{
 constexpr std::size_t kThreshold = 4;
 constexpr std::size_t kClosingDay = 5;
 constexpr int kLongestNumber = 3;
+constexpr int kLongestThreshold = 5;
 constexpr int kColumnsOfNumber = 3;
 
 void addGroup(QVBoxLayout& column, const QString& caption, QWidget* parent) {
@@ -93,7 +94,7 @@ void MonthRulesPanel::addNumber(QGridLayout& grid, int row, int column, std::siz
     const NumberText& text = kNumberTexts[field];
     auto* edit = new QLineEdit(this);
     look::name(*edit, QString::fromUtf8(text.objectName), toQt(kMonthNumberFields[field].caption));
-    edit->setMaxLength(kLongestNumber);
+    edit->setMaxLength(field == kThreshold ? kLongestThreshold : kLongestNumber);
     edit->setProperty("lastField", field == kThreshold);
     edit->setAlignment(Qt::AlignRight);
     edit->setFont(look::fixedFont());
