@@ -136,6 +136,7 @@ void chooseMonth(Player& player) {
     player.answer("Confirma Atualizar as Horas Extras de MARÇO/2024 p/Todos os Funcionários"_t,
                   Answer::Yes);
     player.click("month.confirm"_t);
+    player.answer("Há feriados sugeridos que não estão marcados. Deseja marcá-los?"_t, Answer::Yes);
     player.picture("janela-com-mes"_t);
 }
 

@@ -11,6 +11,10 @@ namespace {
 const Message kGiveUpChanges = riskyQuestion(
     "ALTERAÇÃO", "As alterações deste mês ainda não foram gravadas. Deseja abandoná-las?");
 
+const Message kOfferedHolidays =
+    question("Feriados", "Há feriados sugeridos que não estão marcados. Deseja marcá-los?", {},
+             Buttons::YesNoCancel);
+
 constexpr std::string_view kChangedElsewhere =
     "Este mês foi alterado por outro computador. Abra a tela novamente.";
 constexpr int kMonthsBack = 24;
@@ -43,7 +47,10 @@ void DataMesCorrente::load(WorkMonth month) {
     onDisk_ = std::move(onDisk);
     unread_ = std::move(unread);
     ownPercents_ = std::move(ownPercents);
-    opened_ = settings_ = onDisk_.value_or(proposedSettings(month, offer_));
+    settings_ = {};
+    settings_.month = month;
+    opened_ = settings_ = onDisk_.value_or(settings_);
+    offerSettled_ = false;
     numbers_ = numbersOf(settings_);
     switched_ = false;
 }
@@ -88,8 +95,7 @@ void DataMesCorrente::clearTicks() {
 void DataMesCorrente::restoreTicks() {
     (void)attempt(at_, incorrectData(), [this] {
         const auto record = readRecord(settings_.month);
-        settings_.holidayCells =
-            record.value_or(proposedSettings(settings_.month, offer_)).holidayCells;
+        settings_.holidayCells = record.value_or(MonthSettings()).holidayCells;
         opened_.holidayCells = settings_.holidayCells;
         if (onDisk_ && record) onDisk_->holidayCells = record->holidayCells;
     });
@@ -100,10 +106,9 @@ void DataMesCorrente::setRecordTicks(bool on) {
 }
 
 std::vector<ListedHoliday> DataMesCorrente::holidays() const {
-    const MonthSettings proposed = proposedSettings(settings_.month, offer_);
     std::vector<ListedHoliday> listed;
     for (const Date date : settings_.holidays())
-        listed.push_back({date, nameOf(date), !isRecorded() && proposed.isHoliday(date)});
+        listed.push_back({date, nameOf(date)});
     return listed;
 }
 
@@ -113,15 +118,20 @@ std::vector<Holiday> DataMesCorrente::untickedHolidays() const {
     return unticked;
 }
 
+std::vector<Holiday> DataMesCorrente::openOffer() const {
+    std::vector<Holiday> open = untickedHolidays();
+    std::erase_if(open, [](const Holiday& one) { return !isOfferedTicked(one); });
+    return open;
+}
+
+void DataMesCorrente::tickOffer() {
+    for (const Holiday& one : openOffer())
+        settings_.setHoliday(one.date, true);
+}
+
 void DataMesCorrente::reloadOffer() {
     (void)attempt(at_, incorrectData(), [this] {
-        auto offer = offeredHolidays(at_.store(), settings_.month);
-        const auto before = proposedSettings(settings_.month, offer_).holidayCells;
-        const auto after = proposedSettings(settings_.month, offer).holidayCells;
-        for (std::size_t cell = 0; cell < kHolidayCells && !isRecorded(); ++cell)
-            if (before[cell] != after[cell])
-                settings_.holidayCells[cell] = opened_.holidayCells[cell] = after[cell];
-        offer_ = std::move(offer);
+        offer_ = offeredHolidays(at_.store(), settings_.month);
     });
 }
 
@@ -171,7 +181,20 @@ bool DataMesCorrente::record() {
     return attemptWriting(at_, incorrectData(), [this] { write(); });
 }
 
+bool DataMesCorrente::settleOpenOffer() {
+    const auto open = openOffer();
+    if (open.empty() || hasRecordedTicks() || !settings_.recordTicks || offerSettled_) return true;
+    Message asked = kOfferedHolidays;
+    for (const Holiday& one : open)
+        asked.detail += (asked.detail.empty() ? "" : "\n") + dateText(one.date) + " " + one.name;
+    const Answer answer = at_.person.ask(asked);
+    if (answer == Answer::Yes) tickOffer();
+    offerSettled_ = true;
+    return answer != Answer::Cancel;
+}
+
 bool DataMesCorrente::confirm() {
+    if (!settleOpenOffer()) return false;
     return attemptWriting(at_, incorrectData(), [this] {
         write();
         saveSelectedMonth(at_.store(), {settings_.month, at_.session.shiftFilter});

@@ -16,8 +16,7 @@ namespace winvrx {
 /// A ticked day as the list "Feriados:" shows it.
 struct ListedHoliday {
     Date date{};
-    std::string name;      ///< empty for a day that no calendar knows
-    bool offered = false;  ///< ticked by the offer, not yet by anybody's record
+    std::string name;  ///< empty for a day that no calendar knows
 };
 
 /// The work month's screen: which month is worked on, its holidays, its closing period and its
@@ -34,8 +33,8 @@ class DataMesCorrente {
 
     /// The months that the list offers: two years back to one year ahead, and the month shown.
     [[nodiscard]] std::vector<WorkMonth> months() const;
-    /// Loads the month's record; where there is none, the defaults with the offered holidays
-    /// ticked. False when the operator keeps unrecorded changes.
+    /// Loads the month's record; where there is none, the defaults and an empty grid. False when
+    /// the operator keeps unrecorded changes.
     [[nodiscard]] bool chooseMonth(WorkMonth month);
     /// Goes round the months before, of and after today.
     [[nodiscard]] bool chooseNextReference();
@@ -54,7 +53,7 @@ class DataMesCorrente {
     void tick(Date date, bool holiday);
     /// "Reset."
     void clearTicks();
-    /// "Restaurar": the ticks as they are recorded, or as they are offered.
+    /// "Restaurar": the ticks as they are recorded.
     void restoreTicks();
     /// "Gravação": whether recording takes the ticks along. Off, those on record stay.
     void setRecordTicks(bool on);
@@ -64,8 +63,9 @@ class DataMesCorrente {
     /// What the calendar and the user's list hold of the month and nobody has ticked.
     [[nodiscard]] std::vector<Holiday> untickedHolidays() const;
     [[nodiscard]] std::string nameOf(Date date) const { return holidayNames(offer_, date); }
-    /// The user's list was changed: what it newly offers to a month without a record is ticked,
-    /// what it offers no more is not.
+    /// Ticks what is offered ticked: the holidays by law and those of the user's list.
+    void tickOffer();
+    /// The user's list was changed: the month is offered what it holds now.
     void reloadOffer();
 
     void type(const MonthNumberField& field, std::string text);
@@ -78,7 +78,8 @@ class DataMesCorrente {
 
     [[nodiscard]] std::string monthCaption() const;    ///< "MARÇO/2024"
     [[nodiscard]] std::string holidayHeading() const;  ///< over the grid
-    /// Says that the ticks are an offer as long as the month has no record; empty when it has one.
+    /// Says, as long as the month's ticks are not on record, that offered holidays are not ticked
+    /// or that the ticks were not recorded; empty when there is nothing to say.
     [[nodiscard]] std::string_view offerNotice() const;
     [[nodiscard]] std::string_view referenceCaption() const;  ///< "Referente ao Mês: …"
     [[nodiscard]] bool refersToPresentMonth() const;
@@ -94,7 +95,8 @@ class DataMesCorrente {
     [[nodiscard]] bool changed() const;
     /// "Gravar". True when the month was written.
     [[nodiscard]] bool record();
-    /// "Confirma": records, and makes the month the selected one.
+    /// "Confirma": records, and makes the month the selected one. Asks once about holidays that are
+    /// offered to a month without recorded ticks and are not ticked.
     [[nodiscard]] bool confirm();
     /// "Atualizar p/Todos os Funcionários", with the percentages as the screen shows them; see
     /// updateOvertimeOfList.
@@ -106,6 +108,11 @@ class DataMesCorrente {
     void load(WorkMonth month);
     [[nodiscard]] std::optional<MonthSettings> readRecord(WorkMonth month) const;
     void write();
+    /// What tickOffer would tick.
+    [[nodiscard]] std::vector<Holiday> openOffer() const;
+    [[nodiscard]] bool hasRecordedTicks() const { return onDisk_ && onDisk_->recordTicks; }
+    /// False when the operator wants to look at them first.
+    [[nodiscard]] bool settleOpenOffer();
 
     Workplace at_;
     MonthSettings settings_;
@@ -115,6 +122,7 @@ class DataMesCorrente {
     std::vector<UnreadLine> unread_;
     std::vector<Holiday> offer_;
     std::vector<OvertimePercents> ownPercents_;  ///< of listed employees, in this month
+    bool offerSettled_ = false;                  ///< the operator was asked about offered holidays
     bool switched_ = false;  ///< the differentiated percentage was turned on or off on this screen
 };
 

@@ -13,8 +13,10 @@ constexpr std::string_view kBeforePresent = "Referente ao Mês: Anterior ao Atua
 constexpr std::string_view kPresent = "Referente ao Mês: Atual";
 constexpr std::string_view kAfterPresent = "Referente ao Mês: Atual ao Posterior";
 constexpr std::string_view kHolidayHeading = "Selecione os feriados no mês de: ";
-constexpr std::string_view kNotRecorded =
-    "Feriados sugeridos, mês ainda não gravado: confira e confirme.";
+constexpr std::string_view kOpenOffer =
+    "Há feriados sugeridos, ainda não marcados. Clique aqui ou use F8 para marcá-los.";
+constexpr std::string_view kTicksNotRecorded =
+    "As marcas dos feriados não estão gravadas. Ligue Gravação e grave o mês.";
 constexpr std::string_view kDifferentiatedOff =
     "Desativado o uso de Percentual de Horas Extras Diárias Normais Diferenciado";
 constexpr std::string_view kBothLevels = "Usar as 2 (duas) Opções de Horas Extras Minima e Máxima.";
@@ -38,7 +40,10 @@ std::string DataMesCorrente::holidayHeading() const {
 }
 
 std::string_view DataMesCorrente::offerNotice() const {
-    return isRecorded() ? std::string_view() : kNotRecorded;
+    if (hasRecordedTicks()) return {};
+    if (!openOffer().empty()) return kOpenOffer;
+    const bool kept = !isRecorded() || onDisk_->holidayCells == settings_.holidayCells;
+    return kept ? std::string_view() : kTicksNotRecorded;
 }
 
 std::string_view DataMesCorrente::referenceCaption() const {

@@ -24,7 +24,7 @@ struct MonthScreen : ::testing::Test {
     [[nodiscard]] std::vector<std::string> ticked() const {
         std::vector<std::string> texts;
         for (const ListedHoliday& one : screen.holidays())
-            texts.push_back(dateText(one.date) + (one.offered ? "? " : " ") + one.name);
+            texts.push_back(dateText(one.date) + " " + one.name);
         return texts;
     }
 };
@@ -101,6 +101,7 @@ TEST_F(MonthScreen, CaptionOfThePercentageFollowsSwitchAndNumbers) {
 
 TEST_F(MonthScreen, RecordsAndConfirms) {
     tick("19/03/2024");
+    screen.tickOffer();
     screen.type(fieldOf(&MonthNumbers::nightMaximumPercent), " 130 ");
     screen.setTotalsFormat(TotalsFormat::DecimalHours);
     EXPECT_TRUE(screen.changed());
@@ -120,6 +121,7 @@ TEST_F(MonthScreen, RecordsAndConfirms) {
 }
 
 TEST_F(MonthScreen, ANumberOutOfRangeIsRefusedAndNothingIsWritten) {
+    screen.tickOffer();
     ASSERT_TRUE(screen.confirm());
     const auto before = desk.files.content;
     for (const MonthNumberField& field : kMonthNumberFields) {
@@ -142,12 +144,22 @@ TEST_F(MonthScreen, ANumberOutOfRangeIsRefusedAndNothingIsWritten) {
 }
 
 TEST_F(MonthScreen, WithoutGravacaoTheTicksOnRecordStay) {
+    screen.tickOffer();
     ASSERT_TRUE(screen.record());
     screen.clearTicks();
-    EXPECT_EQ(screen.counts().restDays, 5);
+    tick("29/03/2024");
+    tick("19/03/2024");
+    EXPECT_EQ(screen.offerNotice(), "");
     screen.setRecordTicks(false);
     ASSERT_TRUE(screen.record());
     EXPECT_FALSE(screen.changed());
+    EXPECT_THAT(std::string(screen.offerNotice()), ::testing::StartsWith("As marcas dos feriados"));
+    screen.clearTicks();
+    EXPECT_EQ(screen.counts().restDays, 5);
+    EXPECT_THAT(std::string(screen.offerNotice()), ::testing::StartsWith("Há feriados sugeridos"));
+    screen.restoreTicks();
+    EXPECT_THAT(screen.settings().holidays(), ElementsAre(*parseDate("29/03/2024")));
+    EXPECT_EQ(screen.offerNotice(), "");
     screen.restoreTicks();
     EXPECT_THAT(screen.settings().holidays(), ElementsAre(*parseDate("29/03/2024")));
     screen.setRecordTicks(true);
@@ -169,25 +181,45 @@ TEST_F(MonthScreen, AMonthChangedElsewhereMeanwhileIsNotOverwritten) {
               "Este mês foi alterado por outro computador. Abra a tela novamente.");
 }
 
-TEST_F(MonthScreen, AMonthWithoutARecordIsOfferedItsHolidaysAndSaysSo) {
+TEST_F(MonthScreen, AMonthWithoutARecordIsEmptyAndIsOfferedItsHolidays) {
     desk.file("Feriados") = "19/03      S\xC3O JOS\xC9\r\n";
     screen.open();
     EXPECT_FALSE(screen.isRecorded());
-    EXPECT_THAT(ticked(), ElementsAre("19/03/2024? SÃO JOSÉ", "29/03/2024? Sexta-feira Santa"));
-    EXPECT_EQ(screen.counts().restDays, 7);
+    EXPECT_THAT(ticked(), ::testing::IsEmpty());
+    EXPECT_EQ(screen.untickedHolidays().size(), 2U);
+    EXPECT_EQ(screen.counts().restDays, 5);
+    EXPECT_THAT(std::string(screen.offerNotice()), ::testing::StartsWith("Há feriados sugeridos"));
     EXPECT_FALSE(screen.changed());
     EXPECT_TRUE(screen.mayLeave());
     tick("20/03/2024");
-    screen.tick(*parseDate("19/03/2024"), false);
-    EXPECT_THAT(ticked(), ElementsAre("20/03/2024 ", "29/03/2024? Sexta-feira Santa"));
-    ASSERT_EQ(screen.untickedHolidays().size(), 1U);
-    EXPECT_EQ(screen.untickedHolidays()[0].name, "SÃO JOSÉ");
+    screen.tickOffer();
+    EXPECT_THAT(ticked(),
+                ElementsAre("19/03/2024 SÃO JOSÉ", "20/03/2024 ", "29/03/2024 Sexta-feira Santa"));
+    EXPECT_EQ(screen.offerNotice(), "");
     EXPECT_TRUE(screen.changed());
     screen.restoreTicks();
+    EXPECT_THAT(ticked(), ::testing::IsEmpty());
     EXPECT_FALSE(screen.changed());
-    ASSERT_TRUE(screen.record());
-    EXPECT_TRUE(screen.isRecorded());
-    EXPECT_THAT(ticked(), ElementsAre("19/03/2024 SÃO JOSÉ", "29/03/2024 Sexta-feira Santa"));
+}
+
+TEST_F(MonthScreen, ConfirmaAsksOnceAboutAnOfferLeftUnticked) {
+    struct Case {
+        std::deque<Answer> answers;  ///< Cancel, then a second "Confirma" that is not asked
+        std::size_t holidays;
+    };
+    for (const Case& c : {Case{{Answer::Yes}, 1}, Case{{Answer::No}, 0}, Case{{}, 0}}) {
+        desk.files.content.clear();
+        screen.open();
+        desk.person.answers = c.answers;
+        const bool cancelled = c.answers.empty();
+        EXPECT_EQ(screen.confirm(), !cancelled);
+        EXPECT_EQ(desk.files.content.empty(), cancelled);
+        ASSERT_TRUE(screen.confirm());
+        ASSERT_EQ(desk.person.shown.size(), 1U);
+        EXPECT_EQ(desk.person.shown[0].detail, "29/03/2024 Sexta-feira Santa");
+        EXPECT_EQ(loadMonthSettings(desk.store(), 2024y / 3).holidays().size(), c.holidays);
+        desk.person.shown.clear();
+    }
 }
 
 TEST_F(MonthScreen, DaysKeptByCustomAreNamedButNotTicked) {
@@ -212,19 +244,20 @@ TEST_F(MonthScreen, AnOfferNeverChangesARecordedMonth) {
     EXPECT_EQ(desk.files.content, before);
 }
 
-TEST_F(MonthScreen, AChangedListChangesOnlyWhatItOffers) {
+TEST_F(MonthScreen, AChangedListChangesWhatIsOfferedAndNoTick) {
     tick("20/03/2024");
-    screen.tick(*parseDate("29/03/2024"), false);
     desk.file("Feriados") = "19/03      PADROEIRO\r\n";
     screen.reloadOffer();
-    EXPECT_THAT(ticked(), ElementsAre("19/03/2024? PADROEIRO", "20/03/2024 "));
+    EXPECT_THAT(ticked(), ElementsAre("20/03/2024 "));
+    EXPECT_EQ(screen.untickedHolidays().size(), 2U);
     desk.file("Feriados") = "";
     screen.reloadOffer();
-    EXPECT_THAT(ticked(), ElementsAre("20/03/2024 "));
+    EXPECT_EQ(screen.untickedHolidays().size(), 1U);
 }
 
-TEST_F(MonthScreen, AMonthRecordedElsewhereMeanwhileIsNotOverwrittenByTheOffer) {
+TEST_F(MonthScreen, AMonthRecordedElsewhereMeanwhileIsNotOverwritten) {
     desk.file(kMarch) = "";
+    desk.person.answers = {Answer::Yes};
     EXPECT_FALSE(screen.confirm());
     EXPECT_EQ(desk.file(kMarch), "");
     EXPECT_FALSE(desk.files.content.contains("/data/DataIde.ivc"));

@@ -5,9 +5,11 @@
 #include "timecard/month/desktop/holiday_grid.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -17,7 +19,6 @@ namespace winvrx {
 namespace {
 
 constexpr int kNameCell = 2;
-constexpr int kOfferCell = 3;
 
 QString withSign(const QString& text) {
     return kOfferSign + QLatin1Char(' ') + text;
@@ -72,6 +73,11 @@ HolidayPanel::HolidayPanel(DataMesCorrente& command, QWidget* parent)
     look::setTint(*unread_, look::Tint::Warning);
     column->addWidget(unread_);
     connect(grid_, &HolidayGrid::ticked, this, &HolidayPanel::takeNote);
+    notice_->setCursor(Qt::PointingHandCursor);
+    notice_->installEventFilter(this);
+    auto* offer = new QShortcut(Qt::Key_F8, this);
+    offer->setContext(Qt::WindowShortcut);
+    connect(offer, &QShortcut::activated, this, &HolidayPanel::tickOffer);
 }
 
 QWidget* HolidayPanel::buildList() {
@@ -79,7 +85,7 @@ QWidget* HolidayPanel::buildList() {
     auto* column = new QVBoxLayout(part);
     look::layOutPart(*column);
     holidays_ = look::table(QStringLiteral("month.holidays"), QStringLiteral("Feriados"),
-                            QStringList(kOfferCell + 1), part);
+                            QStringList(kNameCell + 1), part);
     holidays_->setHeaderHidden(true);
     holidays_->setAlternatingRowColors(false);
     holidays_->setTabKeyNavigation(false);
@@ -131,14 +137,14 @@ void HolidayPanel::refresh() {
 }
 
 void HolidayPanel::showHolidays() {
-    showText(*notice_, command_.isRecorded() ? QString() : withSign(toQt(command_.offerNotice())));
+    const QString notice = toQt(command_.offerNotice());
+    showText(*notice_, notice.isEmpty() ? notice : withSign(notice));
     grid_->refresh();
     holidays_->clear();
     for (const ListedHoliday& one : command_.holidays()) {
         auto* item = new QTreeWidgetItem(
             holidays_,
-            {toQt(dateText(one.date)), toQt(weekdayShort(weekdayOf(one.date))), toQt(one.name),
-             one.offered ? withSign(QStringLiteral("sugestão")) : QString()});
+            {toQt(dateText(one.date)), toQt(weekdayShort(weekdayOf(one.date))), toQt(one.name)});
         item->setToolTip(kNameCell, toQt(one.name));
     }
     const MonthDayCounts counts = command_.counts();
@@ -172,6 +178,16 @@ void HolidayPanel::showUnread() {
                  lines.isEmpty()
                      ? QString()
                      : QStringLiteral("⚠ Não entendida, mantida no registro: ") + lines[0]);
+}
+
+void HolidayPanel::tickOffer() {
+    command_.tickOffer();
+    takeNote();
+}
+
+bool HolidayPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == notice_ && event->type() == QEvent::MouseButtonRelease) tickOffer();
+    return QWidget::eventFilter(watched, event);
 }
 
 void HolidayPanel::takeNote() {

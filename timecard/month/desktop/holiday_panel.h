@@ -14,7 +14,7 @@ namespace winvrx {
 class HolidayGrid;
 
 /// The holidays of the month shown: the calendar to tick them in, the counts, the list "Feriados:"
-/// with its commands, and what is offered and not ticked.
+/// with its commands, and what is offered and not ticked. F8 or a click on the notice ticks it.
 class HolidayPanel : public QWidget {
     Q_OBJECT
 
@@ -28,12 +28,16 @@ class HolidayPanel : public QWidget {
     /// The operator changed something; the command holds it already.
     void edited();
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   private:
     [[nodiscard]] QWidget* buildList();
     [[nodiscard]] QWidget* buildCommands();
     void showHolidays();
     void showUnticked();
     void showUnread();
+    void tickOffer();
     void takeNote();
 
     DataMesCorrente& command_;

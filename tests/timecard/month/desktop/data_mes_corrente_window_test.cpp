@@ -43,17 +43,24 @@ struct MonthWindow : ::testing::Test {
 };
 
 TEST_F(MonthWindow, TicksAreListedCountedAndRecorded) {
-    EXPECT_EQ(listed(), "29/03/2024|sex|Sexta-feira Santa|◇ sugestão");
+    EXPECT_EQ(listed(), "");
     EXPECT_EQ(driven->text("month.offer"),
-              "◇ Feriados sugeridos, mês ainda não gravado: confira e confirme.");
+              "◇ Há feriados sugeridos, ainda não marcados. Clique aqui ou use F8 para marcá-los.");
+    EXPECT_EQ(driven->text("month.unticked"), "◇ Não marcados: 29/03 Sexta-feira Santa");
     EXPECT_EQ(driven->text("state"), "Mês ainda não gravado");
+    driven->press(Qt::Key_F8);
+    EXPECT_EQ(listed(), "29/03/2024|sex|Sexta-feira Santa");
+    driven->click("month.day34");
+    EXPECT_EQ(listed(), "");
+    QTest::mouseClick(&driven->get<QLabel>("month.offer"), Qt::LeftButton);
+    EXPECT_EQ(listed(), "29/03/2024|sex|Sexta-feira Santa");
     driven->click("month.day25");
     EXPECT_THAT(driven->text("month.counts"), ::testing::HasSubstr("Úteis: <b>24</b>"));
     EXPECT_EQ(driven->text("state"), "Alterações não gravadas");
     driven->press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_THAT(recorded().holidays(),
                 ::testing::ElementsAre(*parseDate("20/03/2024"), *parseDate("29/03/2024")));
-    EXPECT_EQ(listed(), "20/03/2024|qua||\n29/03/2024|sex|Sexta-feira Santa|");
+    EXPECT_EQ(listed(), "20/03/2024|qua|\n29/03/2024|sex|Sexta-feira Santa");
     EXPECT_FALSE(driven->get<QLabel>("month.offer").isVisible());
     EXPECT_EQ(driven->text("state"), "Mês gravado");
     driven->click("month.reset");
@@ -67,6 +74,7 @@ TEST_F(MonthWindow, TicksAreListedCountedAndRecorded) {
     driven->press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(driven->text("state"), "Mês gravado, sem as marcas dos feriados");
     EXPECT_EQ(recorded().holidays().size(), 2U);
+    EXPECT_TRUE(driven->get<QLabel>("month.offer").isVisible());
 }
 
 TEST_F(MonthWindow, DaysKeptByCustomBearASignAndTheirName) {
@@ -79,13 +87,13 @@ TEST_F(MonthWindow, DaysKeptByCustomBearASignAndTheirName) {
               "13/02/2024, terça-feira, Carnaval, sugestão");
     driven->click("month.day17");
     EXPECT_EQ(tuesday.text().toStdString(), "13");
-    EXPECT_EQ(listed(), "13/02/2024|ter|Carnaval|");
+    EXPECT_EQ(listed(), "13/02/2024|ter|Carnaval");
     desk.person.answers = {Answer::Yes};
     driven->press(Qt::Key_PageDown);
     EXPECT_EQ(driven->get<QComboBox>("month.month").currentText().toStdString(), "março/2024");
 }
 
-TEST_F(MonthWindow, TheListOfTheTownIsAskedForAndItsDaysAreTicked) {
+TEST_F(MonthWindow, TheListOfTheTownIsAskedForAndItsDaysAreOffered) {
     int requests = 0;
     QObject::connect(&driven->window, &DataMesCorrenteWindow::localHolidaysRequested,
                      &driven->window, [&] {
@@ -95,9 +103,9 @@ TEST_F(MonthWindow, TheListOfTheTownIsAskedForAndItsDaysAreTicked) {
                      });
     driven->press(Qt::Key_F6);
     EXPECT_EQ(requests, 1);
-    EXPECT_EQ(listed(),
-              "19/03/2024|ter|PADROEIRO|◇ sugestão\n29/03/2024|sex|Sexta-feira Santa|◇ sugestão");
-    EXPECT_TRUE(driven->get<QCheckBox>("month.day24").isChecked());
+    EXPECT_EQ(driven->text("month.unticked"),
+              "◇ Não marcados: 19/03 PADROEIRO, 29/03 Sexta-feira Santa");
+    EXPECT_EQ(driven->get<QCheckBox>("month.day24").text().toStdString(), "19 ◇");
 }
 
 TEST_F(MonthWindow, LinesNotUnderstoodAreShownUnderTheList) {
