@@ -34,6 +34,11 @@ Answer agreement(const Message& message) {
     return asked ? Answer::Yes : Answer::Ok;
 }
 
+Answer enterAnswer(const Message& message) {
+    if (message.present) return *message.present;
+    return message.carriesOn ? agreement(message) : harmlessAnswer(message);
+}
+
 Answer harmlessAnswer(const Message& message) {
     switch (message.buttons) {
         case Buttons::Ok:

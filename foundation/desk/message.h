@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,7 +18,8 @@ struct Message {
     Icon icon = Icon::None;
     Buttons buttons = Buttons::Ok;
     std::string detail = {};
-    bool carriesOn = false;  ///< ENTER agrees; else it gives the harmless answer
+    bool carriesOn = false;              ///< ENTER agrees; else it gives the harmless answer
+    std::optional<Answer> present = {};  ///< ENTER gives the answer that holds now, where one does
 };
 
 /// Something to know; nothing is wrong.
@@ -39,6 +41,8 @@ struct Message {
 
 /// The answer that agrees with the message: Yes where it is offered, else Ok.
 [[nodiscard]] Answer agreement(const Message& message);
+/// The answer that ENTER gives.
+[[nodiscard]] Answer enterAnswer(const Message& message);
 /// The answer that changes nothing: Cancel where it is offered, else No, else Ok.
 [[nodiscard]] Answer harmlessAnswer(const Message& message);
 

@@ -130,9 +130,8 @@ void DataMesCorrente::tickOffer() {
 }
 
 void DataMesCorrente::reloadOffer() {
-    (void)attempt(at_, incorrectData(), [this] {
-        offer_ = offeredHolidays(at_.store(), settings_.month);
-    });
+    (void)attempt(at_, incorrectData(),
+                  [this] { offer_ = offeredHolidays(at_.store(), settings_.month); });
 }
 
 void DataMesCorrente::type(const MonthNumberField& field, std::string text) {
@@ -203,9 +202,8 @@ bool DataMesCorrente::confirm() {
 
 std::optional<OvertimeUpdate> DataMesCorrente::updateAll(const OvertimeProgress& progress) {
     OvertimePercents percents;
-    const bool readable = attempt(at_, incorrectData(), [&] {
-        percents = withNumbers(settings_, numbers_).overtime;
-    });
+    const bool readable = attempt(at_, incorrectData(),
+                                  [&] { percents = withNumbers(settings_, numbers_).overtime; });
     if (!readable) return std::nullopt;
     const auto updated = updateOvertimeOfList(at_, settings_.month, percents, progress);
     (void)attempt(at_, incorrectData(),

@@ -13,7 +13,8 @@ namespace winvrx {
 namespace {
 
 const Message kNoMonth = refusal("Aviso", "Informe um Mês de Trabalho!!");
-const Message kSaturdayIsNormal = question("HORÁRIO DE TRABALHO", "No SÁBADO Será HORA NORMAL?");
+const Message kSaturdayIsNormal =
+    question("HORÁRIO DE TRABALHO", "No SÁBADO Será HORA NORMAL?", {}, Buttons::YesNoCancel);
 const Message kNeedsSituation =
     warning("DIGITAÇÃO DO PONTO", "Informe o Tipo de Situação!", {}, Buttons::OkCancel);
 const Message kRecordChanges = question(
@@ -29,6 +30,14 @@ std::string nameOf(const Workplace& at, const CompanyCode& code) {
     for (const CompanyLine& line : loadCompanies(at.store()))
         if (line.code() == code) return line.company.name;
     return {};
+}
+
+/// ENTER keeps what is recorded of Saturdays, where something is.
+Message saturdayQuestion(const StandardSchedule& recorded) {
+    Message asked = kSaturdayIsNormal;
+    if (recorded.saturday != DaySchedule())
+        asked.present = recorded.saturdayIsNormal ? Answer::Yes : Answer::No;
+    return asked;
 }
 
 Message inPunchEntry(Message message) {
@@ -173,12 +182,16 @@ bool CartaoPontoDados::saveSchedule() {
         requireReadableSchedule();
         requireScheduleAsShown();
         StandardSchedule schedule = schedule_.schedule();
-        if (schedule_.hasSaturdayTimes())
-            schedule.saturdayIsNormal = at_.person.agrees(kSaturdayIsNormal);
+        if (schedule_.hasSaturdayTimes()) {
+            const Answer answer = at_.person.ask(saturdayQuestion(schedule_.recorded()));
+            if (answer == Answer::Cancel) return false;
+            schedule.saturdayIsNormal = answer == Answer::Yes;
+        }
         const auto hold = holdFolder(at_);
         requireScheduleAsShown();
         winvrx::saveSchedule(at_.store(), {company_.value(), selectedCode()}, schedule);
         schedule_ = TypedSchedule(decodeSchedule(encode(schedule)));
+        return true;
     });
 }
 

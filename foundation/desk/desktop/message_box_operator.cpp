@@ -86,8 +86,7 @@ Answer MessageBoxOperator::ask(const Message& message) {
     box.setInformativeText(toQt(message.detail));
     box.setIcon(iconOf(message.icon));
     box.setStandardButtons(buttonsOf(message.buttons));
-    box.setDefaultButton(
-        buttonOf(message.carriesOn ? agreement(message) : harmlessAnswer(message)));
+    box.setDefaultButton(buttonOf(enterAnswer(message)));
     box.setEscapeButton(buttonOf(harmlessAnswer(message)));
     return answerOf(box.exec());
 }

@@ -56,7 +56,12 @@ TEST_F(CardScreen, ScheduleIsSavedWithTheAnswerOnSaturday) {
               "08:0012:0013:0017:001008:0012:00" + std::string(160, ' ') + "\r\n");
     EXPECT_FALSE(screen.changed());
 
-    EXPECT_TRUE(screen.saveSchedule());  // answered No
+    desk.person.shown.clear();
+    EXPECT_FALSE(screen.saveSchedule());  // closed with ESC
+    EXPECT_EQ(enterAnswer(desk.person.shown.at(0)), Answer::Yes);
+    EXPECT_EQ(desk.file(kSchedule)[20], '1');
+    desk.person.answers = {Answer::No};
+    EXPECT_TRUE(screen.saveSchedule());
     EXPECT_EQ(screen.saturdayCaption(), "Sábado(Extra)");
     EXPECT_EQ(desk.file(kSchedule)[20], '0');
 }

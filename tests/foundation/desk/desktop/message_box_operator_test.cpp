@@ -42,7 +42,10 @@ TEST(MessageBoxOperatorTest, EnterCarriesOnOnlyWhereTheActCanBeUndone) {
     };
     const std::string title = "EXCLUIR";
     const std::string text = "Deseja?";
+    Message kept = question(title, text, {}, Buttons::YesNoCancel);
+    kept.present = Answer::No;
     const Case cases[] = {
+        {kept, Answer::No, Answer::Cancel},
         {question(title, text), Answer::Yes, Answer::No},
         {question(title, text, {}, Buttons::OkCancel), Answer::Ok, Answer::Cancel},
         {question(title, text, {}, Buttons::YesNoCancel), Answer::Yes, Answer::Cancel},
