@@ -10,13 +10,14 @@
 
 namespace winvrx {
 
-/// Which days a sum goes over: the work month's own, or those that it closes.
+/// Which days are counted: from the first to the last of the month, or from the day of "Iníciar
+/// todo dia:" in the month before to the day before it in the work month.
 enum class HoursPeriod { CalendarMonth, ClosingPeriod };
 
-/// All that the hours of some days in succession are counted from.
+/// The days of a period with their punches, and what their hours depend on besides.
 struct EmployeeHours {
     DayPeriod period;
-    std::vector<PunchLine> lines;  ///< one a day of the period, in date order
+    std::vector<PunchLine> lines;  ///< one line for each day of the period, in date order
     WorkTerms terms;
 
     [[nodiscard]] HourTotals totals(std::optional<HalfMonth> half = std::nullopt) const {
@@ -24,10 +25,13 @@ struct EmployeeHours {
     }
 };
 
-/// The days of a closing period are taken from its own record, ".prd", and those that it lacks from
-/// the punches of its months. The overtime figures are the employee's own of the
-/// work month, or that month's; each day goes by the holidays of its own month. A missing schedule
-/// asks for nothing. nullopt when none of the records of punches exists. Throws FileFault.
+/// Reads what an employee's hours are counted from.
+///
+/// A calendar month is read from its punch record. A closing period is read from its own record
+/// (".prd"); a day that has no line there is read from the punch record of its month. The overtime
+/// percentages are the employee's own for the work month where he has them, else the month's. A day
+/// is a holiday when it is ticked in its own month. An employee without a schedule has no standard
+/// hours. nullopt when no record of punches exists. Throws FileFault.
 [[nodiscard]] std::optional<EmployeeHours> loadEmployeeHours(const Store& store,
                                                              const CompanyCode& company,
                                                              const Employee& employee,
