@@ -193,7 +193,9 @@ bool DataMesCorrente::settleOpenOffer() {
 }
 
 bool DataMesCorrente::confirm() {
-    if (!settleOpenOffer()) return false;
+    const bool readable =
+        attempt(at_, incorrectData(), [this] { (void)withNumbers(settings_, numbers_); });
+    if (!readable || !settleOpenOffer()) return false;
     return attemptWriting(at_, incorrectData(), [this] {
         write();
         saveSelectedMonth(at_.store(), {settings_.month, at_.session.shiftFilter});

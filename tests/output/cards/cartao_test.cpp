@@ -328,9 +328,10 @@ TEST_F(CartaoOpened, CardIsMadeOfTheEmployeesRecords) {
     punches[0].morningExit = "11:00";
     punches[1].situation = "DESCANSO SEMANAL";
     desk.file(punchFileName({company, ana}, kMarch)) = punchRecordBytes(punches);
-    OvertimeRules own;
-    own.totalsFormat = TotalsFormat::DecimalHours;
-    saveOvertime(desk.store(), {company, ana}, {kMarch, own});
+    MonthSettings march = loadMonthSettings(desk.store(), kMarch);
+    march.overtime.totalsFormat = TotalsFormat::DecimalHours;
+    saveMonthSettings(desk.store(), march);
+    screen.load();
     EXPECT_TRUE(screen.printAll({}));
     const auto& rows = engine.jobs.at(0).cards.at(1);
     EXPECT_EQ(rows[0][cardColumn("razao")], "EMPRESA MODELO LTDA");

@@ -151,6 +151,7 @@ TEST_F(MonthWindow, OnlyTheMonthsCellsShowAndArrowsWalkThem) {
 }
 
 TEST_F(MonthWindow, AWrongNumberIsSaidBesideItAndKeepsTheWindowOpen) {
+    driven->press(Qt::Key_F8);
     driven->type("month.minimumPercent", "5x");
     EXPECT_EQ(driven->text("month.minimumPercent.hint"), "⚠ Informe um número de 0 a 999.");
     driven->click("month.confirm");
