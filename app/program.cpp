@@ -4,8 +4,11 @@
 #include "foundation/desk/desktop/desktop_browser.h"
 #include "foundation/desk/desktop/desktop_text_editor.h"
 #include "foundation/menu/desktop/menu_window.h"
+#include "foundation/widgets/desktop/progress.h"
 #include "report/desktop/qt_report_engine.h"
 #include "report/desktop/system_printers.h"
+
+#include <QApplication>
 
 namespace winvrx {
 
@@ -13,6 +16,18 @@ namespace {
 
 std::string nativePath(const std::filesystem::path& path) {
     return path.string();
+}
+
+/// A dialog for one copy, over whatever window is in front.
+SafetyCopies::Progress copyProgress() {
+    const auto shown = std::make_shared<Progress>(
+        Progress::Words{.objectName = QStringLiteral("copies.progress"),
+                        .title = QStringLiteral("Cópia de Segurança"),
+                        .step = QStringLiteral("Copiando o arquivo %1 de %2")},
+        QApplication::activeWindow());
+    return [shown](std::size_t done, std::size_t all) {
+        return shown->show(static_cast<int>(done), static_cast<int>(all));
+    };
 }
 
 }  // namespace
@@ -23,7 +38,7 @@ Program::Program(const Surroundings& surroundings)
       browser_(std::make_unique<DesktopBrowser>(
           QString::fromStdString((surroundings.programFolder / "help").string()))),
       editor_(makeEditor()),
-      copies_(*files_, archiver_, surroundings.log),
+      copies_(*files_, archiver_, surroundings.log, copyProgress),
       copiedFiles_(*files_, copies_, session_, surroundings.clock, surroundings.log),
       disk_(systemDisk()),
       host_(systemHost()),

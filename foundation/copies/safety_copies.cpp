@@ -132,6 +132,7 @@ std::string SafetyCopies::pack(const DataFolder& folder, const std::vector<Liste
             return std::nullopt;
         }
     };
+    const Progress goesOn = progress_();
     const std::size_t all = here.size() - contents.files.size();
     std::size_t done = 0;
     bool ended = false;
@@ -139,7 +140,8 @@ std::string SafetyCopies::pack(const DataFolder& folder, const std::vector<Liste
     return archiver_.pack([&]() -> std::optional<ArchiveEntry> {
         for (; file != here.end(); ++file) {
             if (contents.files.contains(file->name)) continue;
-            if (progress_) progress_(++done, all);
+            if (!goesOn(++done, all))
+                throw Fault("copy given up", "A cópia de segurança foi cancelada.");
             auto bytes = read(file->name);
             if (!bytes) continue;
             contents.files[file->name] = {bytes->size(), file->written, {}};

@@ -41,11 +41,15 @@ struct FileChange {
 /// All functions throw Fault and then leave the folder's records as they were, but where stated.
 class SafetyCopies {
   public:
-    /// Told how many of how many files are packed.
-    using Progress = std::function<void(std::size_t done, std::size_t all)>;
+    /// Told how many of how many files are packed; false gives the copy up.
+    using Progress = std::function<bool(std::size_t done, std::size_t all)>;
+    /// Asked for each copy; what it gives is let go when the files are packed.
+    using ProgressMaker = std::function<Progress()>;
 
     /// `files` must not make copies itself.
-    SafetyCopies(FileSystem& files, const Archiver& archiver, Log& log, Progress progress = nullptr)
+    SafetyCopies(
+        FileSystem& files, const Archiver& archiver, Log& log,
+        ProgressMaker progress = [] { return [](std::size_t, std::size_t) { return true; }; })
         : files_(files), archiver_(archiver), log_(log), progress_(std::move(progress)) {}
 
     /// Copies the folder, unless the day has its copy, and removes the copies that are outdated by
@@ -102,7 +106,7 @@ class SafetyCopies {
     FileSystem& files_;
     const Archiver& archiver_;
     Log& log_;
-    Progress progress_;
+    ProgressMaker progress_;
 };
 
 }  // namespace winvrx

@@ -267,6 +267,19 @@ TEST_F(SafetyCopiesTest, ACopyPacksWhatChangedSinceTheOneBefore) {
     }
 }
 
+TEST_F(SafetyCopiesTest, ACopyThatIsGivenUpLeavesNoneAndDeletesNothing) {
+    std::vector<std::pair<std::size_t, std::size_t>> shown;
+    SafetyCopies watched(desk.files, archiver, desk.log, [&]() -> SafetyCopies::Progress {
+        return [&](std::size_t done, std::size_t all) {
+            shown.emplace_back(done, all);
+            return done < 2;
+        };
+    });
+    EXPECT_THROW(watched.makeCopyBefore(desk.session.folder, now, "excluir"), Fault);
+    EXPECT_THAT(shown, ElementsAre(std::pair(1U, 3U), std::pair(2U, 3U)));
+    EXPECT_THAT(copyNames(), IsEmpty());
+}
+
 TEST_F(SafetyCopiesTest, WhatACopyNeedsAndIsNotThereIsTold) {
     const std::string base = "2024-03-14-0812.zip";
     copies.makeDailyCopy(desk.session.folder, moment("14/03/2024", "08:12"));
