@@ -57,7 +57,7 @@ void Screens::openEmployees(QWidget* parent) {
 }
 
 void Screens::openShifts(QWidget* parent) {
-    Turnos shifts(at_, browser_, records_);
+    Turnos shifts(at_, browser_, records_, records_);
     TurnosWindow(shifts, parent).exec();
 }
 
@@ -160,7 +160,7 @@ QString Screens::companiesState() const {
     try {
         const auto lines = loadCompanies(at_.store());
         const auto known = std::count_if(lines.begin(), lines.end(),
-                                         [](const CompanyLine& line) { return line.code(); });
+                                         [](const CompanyLine& line) { return line.key(); });
         return counted(static_cast<int>(known), QStringLiteral("empresa"),
                        QStringLiteral("empresas"));
     } catch (const std::exception& fault) {

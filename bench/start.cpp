@@ -43,7 +43,7 @@ void recordCompanies(const std::filesystem::path& driveRoot) {
         company.name = "PADARIA E CONFEITARIA NÚMERO " + company.code + " LTDA";
         lines.push_back({winvrx::encode(company), company});
     }
-    winvrx::saveCompanies({*files, folder}, lines);
+    winvrx::companyFile({*files, folder}).save(lines);
 }
 
 }  // namespace

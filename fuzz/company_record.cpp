@@ -8,11 +8,11 @@ using fuzz::require;
 namespace {
 
 void checkLine(const CompanyLine& line) {
-    require(encode(line.company, line.bytes) == fuzz::widened(line.bytes, kCompanyWidth),
+    require(encode(line.record, line.bytes) == fuzz::widened(line.bytes, kCompanyWidth),
             "an unchanged company keeps its bytes");
-    if (const auto code = line.code()) fuzz::requireInside(*code);
+    if (const auto code = line.key()) fuzz::requireInside(*code);
     try {
-        require(decodeCompany(encode(line.company)) == line.company, "a company comes back");
+        require(decode<Company>(encode(line.record)) == line.record, "a company comes back");
     } catch (const TextFault&) {
         // A control character in the file cannot be typed into a new line.
     }
@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto lines = loadCompanies({files, fuzz::kFolder});
     for (const CompanyLine& line : lines)
         checkLine(line);
-    saveCompanies({files, fuzz::kFolder}, lines);
+    companyFile({files, fuzz::kFolder}).save(lines);
     require(splitLines(files.content[file]) == before, "every line is kept");
     return 0;
 }

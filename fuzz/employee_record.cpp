@@ -8,11 +8,11 @@ using fuzz::require;
 namespace {
 
 void checkLine(const EmployeeLine& line) {
-    require(line.bytes.empty() || encode(line.employee, line.bytes) == line.bytes,
+    require(line.bytes.empty() || encode(line.record, line.bytes) == line.bytes,
             "an unchanged employee keeps its bytes");
-    if (const auto code = line.code()) fuzz::requireInside(*code);
+    if (const auto code = line.key()) fuzz::requireInside(*code);
     try {
-        require(decodeEmployee(encode(line.employee)) == line.employee, "an employee comes back");
+        require(decode<Employee>(encode(line.record)) == line.record, "an employee comes back");
     } catch (const TextFault&) {
         // A control character in the file cannot be typed into a new line.
     }

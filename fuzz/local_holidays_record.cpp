@@ -11,15 +11,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string& file = files.content[fuzz::kFolder.file(kLocalHolidaysName)];
     file = fuzz::textOf(data, size);
     const auto before = splitLines(file);
-    const auto lines = loadLocalHolidays({files, fuzz::kFolder});
+    const auto lines = localHolidays({files, fuzz::kFolder}).load();
     for (const LocalHolidayLine& line : lines) {
-        if (!line.holiday) continue;
-        require(encode(*line.holiday, line.bytes) == fuzz::widened(line.bytes, kLocalHolidayWidth),
+        if (!line.key()) continue;
+        require(encode(line.record, line.bytes) == fuzz::widened(line.bytes, kLocalHolidayWidth),
                 "an unchanged holiday keeps its bytes");
-        require(parseHolidayDay(dayText(line.holiday->day)) == line.holiday->day,
-                "a day comes back");
+        require(completedHolidayDay(line.record.day) == line.record.day,
+                "a day is in its full form");
     }
-    saveLocalHolidays({files, fuzz::kFolder}, lines);
+    localHolidays({files, fuzz::kFolder}).save(lines);
     require(splitLines(file) == before, "an unchanged list keeps its lines");
     for (const WorkMonth month : {2024y / 2, 2024y / 11, 2026y / 1})
         for (const Holiday& one : offeredHolidays({files, fuzz::kFolder}, month))

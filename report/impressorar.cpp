@@ -14,9 +14,6 @@ const Message kNoAddDialogue =
             "Este computador não tem uma tela para adicionar impressoras. Peça a "
             "quem cuida dele.");
 
-constexpr auto kChangedElsewhere =
-    "A impressora foi trocada por outro computador. Abra a tela novamente.";
-
 }  // namespace
 
 Impressorar::Impressorar(const Workplace& at, Browser& browser, Printers& printers)
@@ -70,7 +67,7 @@ bool Impressorar::use(std::size_t position) {
 bool Impressorar::store(const std::string& name) {
     return attemptWriting(at_, incorrectData(), [&] {
         if (loadPrinterName(at_.store()) != chosen_)
-            throw Fault("printer changed on disk", kChangedElsewhere);
+            throw changedElsewhere("printer", "A impressora foi trocada");
         savePrinterName(at_.store(), name);
         chosen_ = name;
     });

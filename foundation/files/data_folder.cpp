@@ -49,7 +49,7 @@ bool isSetting(std::string_view name) {
 }
 
 std::optional<std::string_view> stemOf(std::string_view name) {
-    for (const std::string_view stem : {kScheduleStem, kOvertimeStem, kLeaveStem})
+    for (const std::string_view stem : {kScheduleStem, kOvertimeStem, kLeaveStem, kTransferStem})
         if (standsAt(name, 3, stem)) return stem;
     for (const std::string_view stem : kTerminationStems)
         if (standsAt(name, 3, stem)) return stem;
@@ -97,11 +97,18 @@ bool isRecordOfCompany(std::string_view name, const CompanyCode& company) {
            isSetting(name.substr(2));
 }
 
-bool isRecordOfEmployee(std::string_view name, const EmployeeKey& key) {
-    if (!isRecordOfCompany(name, key.company) || name.substr(2) == kEmployeeListStem) return false;
+std::optional<EmployeeCode> employeeOfRecord(std::string_view name, const CompanyCode& company) {
+    if (!isRecordOfCompany(name, company) || name.substr(2) == kEmployeeListStem)
+        return std::nullopt;
     const bool hasEmployee =
         stemOf(name) || isPunchOrPayrollFile(name) || name.size() >= kEmployeeMonthFileLength;
-    return hasEmployee && standsAt(name, employeeCodeStart(name), key.employee.text());
+    const std::size_t start = employeeCodeStart(name) - 1;
+    if (!hasEmployee || start >= name.size()) return std::nullopt;
+    return EmployeeCode::parse(name.substr(start, EmployeeCode::kDigits));
+}
+
+bool isRecordOfEmployee(std::string_view name, const EmployeeKey& key) {
+    return employeeOfRecord(name, key.company) == key.employee;
 }
 
 bool isPayrollOfEmployee(std::string_view name, const EmployeeKey& key) {

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -86,6 +87,8 @@ inline constexpr std::string_view kOvertimeStem = "MedHorExtr";
 inline constexpr std::string_view kLeaveStem = "configAf";
 /// Stems of an employee's termination documents, which are named like his leave file.
 inline constexpr std::array<std::string_view, 3> kTerminationStems = {"TRTC", "THRTC", "AviTRTC"};
+/// Stem of the mark of a transfer to another company that is under way.
+inline constexpr std::string_view kTransferStem = "Transf";
 inline constexpr std::string_view kEmployeeListStem = "CartaPonto";
 
 /// Settings of one company, behind its code: card stock, how cards come out, trays and header.
@@ -107,7 +110,11 @@ inline constexpr std::string_view kReportDatabaseName = "qdb.mdb";
 /// by position: company code in characters 1-2, then the stem.
 [[nodiscard]] bool isRecordOfCompany(std::string_view name, const CompanyCode& company);
 
-/// The same for one employee: the employee code stands behind the stem, or in characters 3-5.
+/// The employee of the company to whom the record belongs; nullopt for a name that is no record of
+/// an employee. The employee code stands behind the stem, or in characters 3-5.
+[[nodiscard]] std::optional<EmployeeCode> employeeOfRecord(std::string_view name,
+                                                           const CompanyCode& company);
+
 [[nodiscard]] bool isRecordOfEmployee(std::string_view name, const EmployeeKey& key);
 
 [[nodiscard]] bool isPayrollOfEmployee(std::string_view name, const EmployeeKey& key);

@@ -18,6 +18,7 @@ struct RecordField {
     std::string Record::*member;
     Column column;
     std::string_view caption;
+    bool isRequired = false;  ///< nothing is recorded without it
 };
 
 /// Each field begins where the one before it ends, and the last one ends with the line.
@@ -50,21 +51,48 @@ template <typename Fields, typename Member>
     throw std::logic_error("member without a column");
 }
 
-template <typename Record, typename Fields>
-[[nodiscard]] Record decodeFields(const Fields& fields, std::string_view lineBytes) {
+/// A table of fields, the width of a new line, and the least width of a rewritten one.
+template <const auto& Fields, std::size_t Width, std::size_t Least = Width>
+struct LineLayout {
+    static_assert(isOrdered(Fields, Width));
+    static constexpr const auto& kFields = Fields;
+    static constexpr std::size_t kWidth = Width;
+    static constexpr std::size_t kLeast = Least;
+};
+
+/// Each such record says what its layout is:
+///
+///     template <>
+///     struct RecordLayout<Company> : LineLayout<kCompanyFields, kCompanyWidth> {};
+template <typename Record>
+struct RecordLayout;
+
+template <typename Record>
+concept LaidOut = requires {
+    RecordLayout<Record>::kFields;
+};
+
+template <LaidOut Record>
+[[nodiscard]] Record decode(std::string_view lineBytes) {
     Record record;
-    for (const auto& field : fields)
+    for (const auto& field : RecordLayout<Record>::kFields)
         record.*field.member = fieldOf(lineBytes, field.column);
     return record;
 }
 
-/// Writes the fields whose text is not that of `before`. Throws TextFault when a text cannot be
-/// stored.
-template <typename Record, typename Fields>
-void putFields(const Fields& fields, const Record& record, const Record& before, RecordLine& line) {
-    for (const auto& field : fields)
+/// The line's bytes, built upon `existing`: only fields whose text changed are written, so that
+/// encode(decode(line), line) keeps every byte of the line, whatever stands in it. Throws TextFault
+/// when a text cannot be stored.
+template <LaidOut Record>
+[[nodiscard]] std::string encode(const Record& record, std::string existing = {}) {
+    using Layout = RecordLayout<Record>;
+    const Record before = decode<Record>(existing);
+    const std::size_t least = existing.empty() ? Layout::kWidth : Layout::kLeast;
+    RecordLine line(std::move(existing), least);
+    for (const auto& field : Layout::kFields)
         if (record.*field.member != before.*field.member)
             line.put(field.column, record.*field.member);
+    return line.bytes();
 }
 
 }  // namespace winvrx

@@ -148,14 +148,14 @@ void Menu::reloadCompanies() {
 const CompanyLine* Menu::selected() const {
     const auto found =
         std::find_if(companies_.begin(), companies_.end(), [this](const CompanyLine& line) {
-            return line.code() && line.code() == at_.session.company;
+            return line.key() && line.key() == at_.session.company;
         });
     return found == companies_.end() ? nullptr : &*found;
 }
 
 void Menu::select(std::size_t position) {
     (void)attempt(at_, kFailure, [&] {
-        at_.session.company = companies_.at(position).code();
+        at_.session.company = companies_.at(position).key();
         removeHeld(at_.session.folder.file(kSelectedMonthName));
     });
 }
@@ -206,25 +206,19 @@ void Menu::offerEarlierData() {
 
 void Menu::importEarlier(const std::filesystem::path& earlier) {
     if (!at_.person.agrees(kConfirmUse)) return;
-    const auto first = companies_.empty() ? std::nullopt : companies_.front().code();
+    const CompanyLine* first = firstCompany(companies_);
     if (!first) throw Fault("no company to import into", "Não há empresa para receber os dados.");
     const auto hold = holdFolder(at_);
-    importList(earlier, *first);
+    importList(earlier, first->key().value());
     at_.files.remove(earlier);
 }
 
 void Menu::importList(const std::filesystem::path& earlier, const CompanyCode& company) {
-    std::vector<EmployeeLine> lines;
-    for (std::string& bytes : RecordFile(at_.files, earlier).lines()) {
-        Employee employee = decodeEmployee(bytes);
-        lines.push_back({std::move(bytes), std::move(employee)});
-    }
+    const auto lines = LineFile<Employee>(RecordFile(at_.files, earlier)).load();
     EmployeeRegister list(at_.store(), company);
     // An import that was cut short has written the list already, and the copy of the list that it
     // replaced must stay.
-    const bool imported =
-        std::ranges::equal(lines, list.load(), {}, &EmployeeLine::bytes, &EmployeeLine::bytes);
-    if (!imported) list.save(lines, at_.clock.now());
+    if (lines != list.load()) list.save(lines, at_.clock.now());
 }
 
 void Menu::discardEarlier(const std::filesystem::path& earlier) {

@@ -2,17 +2,6 @@
 
 namespace winvrx {
 
-std::string encode(const Company& company, std::string existing) {
-    const Company before = decodeCompany(existing);
-    RecordLine line(std::move(existing), kCompanyWidth);
-    putFields(kCompanyFields, company, before, line);
-    return line.bytes();
-}
-
-Company decodeCompany(std::string_view lineBytes) {
-    return decodeFields<Company>(kCompanyFields, lineBytes);
-}
-
 Company sampleCompany(Date today) {
     return {.code = "01",
             .name = "EMPRESA MODELO LTDA",

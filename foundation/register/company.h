@@ -75,10 +75,12 @@ inline constexpr std::size_t kCompanyWidth = 549;
 
 static_assert(isContiguous(kCompanyFields, kCompanyWidth));
 
-/// The line's bytes, built upon `existing` so that whatever stands behind the table is kept. Throws
-/// TextFault when a text cannot be stored.
-[[nodiscard]] std::string encode(const Company& company, std::string existing = {});
-[[nodiscard]] Company decodeCompany(std::string_view lineBytes);
+template <>
+struct RecordLayout<Company> : LineLayout<kCompanyFields, kCompanyWidth> {};
+
+[[nodiscard]] inline std::optional<CompanyCode> keyOf(const Company& company) {
+    return CompanyCode::parse(company.code);
+}
 
 /// The company that a fresh register begins with; `today` becomes its record date.
 [[nodiscard]] Company sampleCompany(Date today);

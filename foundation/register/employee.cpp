@@ -13,16 +13,9 @@ constexpr std::size_t kShortWeekday = 3;
 
 }  // namespace
 
-std::string encode(const Employee& employee, std::string existing) {
-    const bool isNew = existing.empty();
-    const Employee before = isNew ? Employee() : decodeEmployee(existing);
-    RecordLine line(std::move(existing), isNew ? kEmployeeWidth : 0);
-    putFields(kEmployeeFields, employee, before, line);
-    return line.bytes();
-}
-
-Employee decodeEmployee(std::string_view lineBytes) {
-    return decodeFields<Employee>(kEmployeeFields, lineBytes);
+std::string_view activityOf(const Employee& employee, bool inactive) {
+    if (inactive) return "Inativo";
+    return employee.status == kDeletedStatus ? kDeletedStatus : "Ativo";
 }
 
 std::string searchedText(const Employee& employee) {

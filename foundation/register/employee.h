@@ -66,8 +66,8 @@ using EmployeeField = RecordField<Employee>;
 /// The layout of an employee line. The one place that knows it. Columns between the fields are
 /// blank in a new line and kept as they stand in an existing one.
 inline constexpr std::array kEmployeeFields = {
-    EmployeeField{&Employee::code, {1, 3}, "Código"},
-    EmployeeField{&Employee::name, {5, 30}, "Nome"},
+    EmployeeField{&Employee::code, {1, 3}, "Código", true},
+    EmployeeField{&Employee::name, {5, 30}, "Nome", true},
     EmployeeField{&Employee::function, {36, 20}, "Função"},
     EmployeeField{&Employee::occupation, {57, 6}, "CBO"},
     EmployeeField{&Employee::state, {64, 2}, "UF"},
@@ -83,27 +83,29 @@ inline constexpr std::array kEmployeeFields = {
     EmployeeField{&Employee::city, {215, 30}, "Cidade"},
     EmployeeField{&Employee::birthDate, {246, 10}, "Nascimento"},
     EmployeeField{&Employee::telephone, {263, 24}, "Telefone"},
-    EmployeeField{&Employee::admission, {288, 10}, "Admissão"},
+    EmployeeField{&Employee::admission, {288, 10}, "Admissão", true},
     EmployeeField{&Employee::dismissal, {299, 10}, "Demissão"},
     EmployeeField{&Employee::postalCode, {310, 9}, "CEP"},
     EmployeeField{&Employee::notes, {321, 240}, "Observações"},
     EmployeeField{&Employee::salary, {562, 14}, "Salário"},
     EmployeeField{&Employee::bank, {624, 47}, "Banco"},
-    EmployeeField{&Employee::shift, {672, 5}, "Turno"},
-    EmployeeField{&Employee::scale, {677, 5}, "Escala"},
+    EmployeeField{&Employee::shift, {672, 5}, "Turno", true},
+    EmployeeField{&Employee::scale, {677, 5}, "Escala", true},
     EmployeeField{&Employee::restDay, {682, 3}, "Descanso Semanal"},
     EmployeeField{&Employee::status, {690, 8}, "Situação"},
 };
 
 inline constexpr std::size_t kEmployeeWidth = 697;
 
-static_assert(isOrdered(kEmployeeFields, kEmployeeWidth));
+template <>
+struct RecordLayout<Employee> : LineLayout<kEmployeeFields, kEmployeeWidth, 0> {};
 
-/// The line's bytes, built upon `existing`: only fields whose text changed are written, so that
-/// encode(decodeEmployee(line), line) is `line`, whatever stands in it. Throws TextFault when a
-/// text cannot be stored.
-[[nodiscard]] std::string encode(const Employee& employee, std::string existing = {});
-[[nodiscard]] Employee decodeEmployee(std::string_view lineBytes);
+[[nodiscard]] inline std::optional<EmployeeCode> keyOf(const Employee& employee) {
+    return employee.employeeCode();
+}
+
+/// "Inativo", "Excluido" or "Ativo", as lists show an employee.
+[[nodiscard]] std::string_view activityOf(const Employee& employee, bool inactive);
 
 /// What lists of employees are searched in: code, name, function, and CPF with its mask and
 /// without.

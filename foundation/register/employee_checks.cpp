@@ -2,19 +2,12 @@
 
 #include "foundation/values/text.h"
 
-#include <algorithm>
-
 namespace winvrx {
-
-bool isRequired(std::string Employee::*field) {
-    return std::find(kRequiredEmployeeFields.begin(), kRequiredEmployeeFields.end(), field) !=
-           kRequiredEmployeeFields.end();
-}
 
 std::string missingFields(const Employee& typed) {
     std::string missing;
     for (const EmployeeField& field : kEmployeeFields) {
-        if (!isRequired(field.member) || !trimmed(typed.*field.member).empty()) continue;
+        if (!field.isRequired || !trimmed(typed.*field.member).empty()) continue;
         missing.append(missing.empty() ? "" : ", ").append(field.caption);
     }
     return missing;

@@ -2,18 +2,11 @@
 
 #include "foundation/register/employee.h"
 
-#include <array>
 #include <string>
 
 // What the register asks of an employee's data before it records them.
 
 namespace winvrx {
-
-/// What an employee cannot be recorded without.
-inline constexpr std::array kRequiredEmployeeFields = {
-    &Employee::code, &Employee::name, &Employee::admission, &Employee::shift, &Employee::scale};
-
-[[nodiscard]] bool isRequired(std::string Employee::*field);
 
 /// "Nome, Turno": the captions of required fields that are empty.
 [[nodiscard]] std::string missingFields(const Employee& typed);

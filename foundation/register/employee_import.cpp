@@ -1,7 +1,6 @@
 #include "foundation/register/employee_import.h"
 
 #include "foundation/register/employee_table.h"
-#include "foundation/register/empregados.h"
 #include "foundation/register/imported_employee.h"
 
 #include <algorithm>
@@ -14,13 +13,6 @@ Message confirmation(std::size_t count) {
     return question("INCLUSÃO", "Confirma a Inclusão na LISTA DE FUNCIONARIOS?",
                     count == 1 ? "Será incluído 1 funcionário."
                                : "Serão incluídos " + std::to_string(count) + " funcionários.");
-}
-
-bool isSame(const std::vector<EmployeeLine>& lines, const std::vector<EmployeeLine>& others) {
-    return std::equal(lines.begin(), lines.end(), others.begin(), others.end(),
-                      [](const EmployeeLine& one, const EmployeeLine& other) {
-                          return one.bytes == other.bytes;
-                      });
 }
 
 bool hasText(const std::vector<std::string>& row) {
@@ -39,7 +31,9 @@ bool EmployeeImport::open(const std::filesystem::path& csv) {
         const auto bytes = at_.files.read(csv);
         if (!bytes) throw Fault("no file " + csv.string(), "O arquivo não foi encontrado.");
         const CsvRows table = parseCsv(*bytes);
-        before_ = EmployeeRegister(at_.store(), *at_.session.company).load();
+        const EmployeeRegister list(at_.store(), *at_.session.company);
+        before_ = list.load();
+        codesOfFiles_ = list.codesOfFiles();
         judge(table);
     });
 }
@@ -66,7 +60,7 @@ void EmployeeImport::judge(const CsvRows& table) {
         for (std::size_t i = 0; i < std::min(columns.size(), table[row].size()); ++i)
             if (columns[i] && columns[i]->member != &Employee::status)
                 employee.*columns[i]->member = recordText(columns[i]->member, table[row][i]);
-        completeImported(employee, list);
+        completeImported(employee, list, codesOfFiles_);
         std::string problem = importProblem(employee, list);
         if (problem.empty()) list.push_back(lineOf(employee));
         rows_.push_back({row + 1, employee, problem, importNotice(employee)});
@@ -83,7 +77,7 @@ bool EmployeeImport::include() {
     return attemptWriting(at_, incorrectData(), [&] {
         EmployeeRegister list(at_.store(), at_.session.company.value());
         auto lines = list.load();
-        if (!isSame(lines, before_)) throw changedElsewhere();
+        if (lines != before_) throw changedElsewhere("employee list");
         for (const ImportedRow& row : rows_)
             if (row.isGood()) lines.push_back(lineOf(row.employee));
         list.save(lines, at_.clock.now());

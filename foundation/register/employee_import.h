@@ -5,6 +5,7 @@
 #include "foundation/values/csv.h"
 
 #include <filesystem>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -43,6 +44,7 @@ class EmployeeImport {
 
     Workplace at_;
     std::vector<EmployeeLine> before_;
+    std::set<EmployeeCode> codesOfFiles_;
     std::vector<ImportedRow> rows_;
     std::vector<std::string> unknownTitles_;
 };

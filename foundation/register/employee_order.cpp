@@ -27,18 +27,18 @@ void sortByKey(std::vector<EmployeeLine>& lines, Key key) {
 
 void sortByName(std::vector<EmployeeLine>& lines) {
     sortByKey(lines, [](const EmployeeLine& line) {
-        return std::pair(foldedForSearch(line.employee.name), upperCase(line.employee.name));
+        return std::pair(foldedForSearch(line.record.name), upperCase(line.record.name));
     });
 }
 
 void sortByAdmission(std::vector<EmployeeLine>& lines) {
     sortByKey(lines, [](const EmployeeLine& line) {
-        const auto admission = line.employee.admissionDate();
+        const auto admission = line.record.admissionDate();
         if (!admission)
-            throw Fault("admission date \"" + line.employee.admission + "\" of employee " +
-                            line.employee.code,
-                        "A data de admissão de " + line.employee.code + " " + line.employee.name +
-                            " não pode ser lida.");
+            throw Fault(
+                "admission date \"" + line.record.admission + "\" of employee " + line.record.code,
+                "A data de admissão de " + line.record.code + " " + line.record.name +
+                    " não pode ser lida.");
         return *admission;
     });
 }

@@ -17,30 +17,9 @@ std::string backupName(const CompanyCode& company, Clock::Moment now) {
 
 }  // namespace
 
-EmployeeLine lineOf(const Employee& employee, std::string existing) {
-    std::string bytes = encode(employee, std::move(existing));
-    Employee stored = decodeEmployee(bytes);
-    return {std::move(bytes), std::move(stored)};
-}
-
-EmployeeRegister::EmployeeRegister(const Store& store, CompanyCode company)
-    : store_(store), company_(std::move(company)) {}
-
-std::vector<EmployeeLine> EmployeeRegister::load() const {
-    std::vector<EmployeeLine> lines;
-    const RecordFile file(store_, company_, kEmployeeListStem);
-    std::vector<std::string> stored = file.lines();
-    lines.reserve(stored.size());
-    for (std::string& bytes : stored) {
-        Employee employee = decodeEmployee(bytes);
-        lines.push_back({std::move(bytes), std::move(employee)});
-    }
-    return lines;
-}
-
 void EmployeeRegister::save(const std::vector<EmployeeLine>& lines, Clock::Moment now) {
     keepCopy(now);
-    store_.files.replaceAll({contentOf(lines)});
+    list_.save(lines);
 }
 
 void EmployeeRegister::keepCopy(Clock::Moment now) {
@@ -49,33 +28,17 @@ void EmployeeRegister::keepCopy(Clock::Moment now) {
         store_.files.replace(store_.folder.file(backupName(company_, now)), *before);
 }
 
-FileSystem::NewContent EmployeeRegister::contentOf(const std::vector<EmployeeLine>& lines) const {
-    std::vector<std::string> bytes;
-    bytes.reserve(lines.size());
-    for (const EmployeeLine& line : lines)
-        bytes.push_back(line.bytes);
-    return {store_.folder.companyFile(company_, kEmployeeListStem), joinedLines(bytes)};
-}
-
-std::optional<EmployeeCode> EmployeeRegister::lowestFreeCode(
-    const std::vector<EmployeeLine>& lines) {
-    std::vector<bool> taken(EmployeeCode::kHighest + 1, false);
-    for (const EmployeeLine& line : lines)
-        if (const auto code = line.code()) taken[static_cast<std::size_t>(code->number())] = true;
-    for (int number = 1; number <= EmployeeCode::kHighest; ++number)
-        if (!taken[static_cast<std::size_t>(number)]) return EmployeeCode::fromNumber(number);
-    return std::nullopt;
-}
-
-bool bears(const std::vector<EmployeeLine>& lines, const std::optional<EmployeeCode>& code) {
-    return std::any_of(lines.begin(), lines.end(),
-                       [&](const EmployeeLine& line) { return line.code() == code; });
+std::set<EmployeeCode> EmployeeRegister::codesOfFiles() const {
+    std::set<EmployeeCode> codes;
+    for (const std::string& name : store_.files.names(store_.folder.path()))
+        if (const auto code = employeeOfRecord(name, company_)) codes.insert(*code);
+    return codes;
 }
 
 std::vector<Employee> employeesOf(const std::vector<EmployeeLine>& lines, ShiftFilter filter) {
     std::vector<Employee> chosen;
     for (const EmployeeLine& line : lines)
-        if (line.code() && passes(filter, line.employee.shiftOr())) chosen.push_back(line.employee);
+        if (line.key() && passes(filter, line.record.shiftOr())) chosen.push_back(line.record);
     return chosen;
 }
 

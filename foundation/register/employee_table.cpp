@@ -66,9 +66,9 @@ Table tableOf(const std::vector<EmployeeLine>& lines,
         std::vector<std::string> row;
         row.reserve(kEmployeeFields.size());
         for (const EmployeeField& field : kEmployeeFields)
-            row.push_back(line.employee.*field.member);
-        const auto code = line.code();
-        row.back() = code && inactive.contains(*code) ? "Inativo" : "Ativo";
+            row.push_back(line.record.*field.member);
+        const auto code = line.key();
+        row.back() = activityOf(line.record, code && inactive.contains(*code));
         table.rows.push_back(std::move(row));
     }
     return table;

@@ -3,7 +3,6 @@
 #include "foundation/register/employee_checks.h"
 #include "foundation/register/employee_transfer.h"
 #include "foundation/register/leave_record.h"
-#include "foundation/values/text.h"
 
 namespace winvrx {
 
@@ -44,231 +43,205 @@ const Message kConfirmDeleteAll = warning("EXCLUSÃO", "Deseja Excluir Toda LIST
 const Message kCertainDeleteAll =
     warning("EXCLUSÃO", "Tem Certeza de que Deseja Excluir Toda LISTA DE FUNCIONARIOS?");
 
-Message withDetail(Message message, std::string detail) {
-    message.detail = std::move(detail);
-    return message;
-}
-
-Fault noCode(const EmployeeLine& line) {
-    return Fault("employee line without code: " + line.employee.code,
-                 "Esta linha da lista não tem um código válido.");
-}
-
 /// Whether shift or scale would mean something else.
 bool changesRotation(const Employee& before, const Employee& after) {
     return before.shiftOr() != after.shiftOr() || before.scaleOr() != after.scaleOr();
 }
 
+/// "12 ativos", "1 ativo".
+std::string counted(std::ptrdiff_t count, const std::string& what) {
+    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
 }  // namespace
 
-Fault changedElsewhere() {
-    return {"employee list changed on disk",
-            "A lista foi alterada por outro computador. Abra a tela novamente."};
+bool confirmDespitePayroll(Operator& person, const PayrollLock& payroll, const EmployeeKey& key) {
+    if (!payroll.hasClosedMonth(key)) return true;
+    person.tell(kPayrollClosed);
+    return person.agrees(kConfirmDespitePayroll);
 }
 
-Empregados::Empregados(const Workplace& at, const EmployeeSurroundings& around)
-    : at_(at), around_(around) {}
+Empregados::Empregados(const Workplace& at, const EmpregadosDesk& desk)
+    : ListCommands(at, desk.browser, {kConfirmInclude, kConfirmChange, kConfirmDelete}),
+      desk_(desk) {}
 
-void Empregados::load() {
-    (void)attempt(at_, incorrectData(), [this] { read(); });
-}
-
-void Empregados::read() {
+void Empregados::reread() {
     auto companies = loadCompanies(at_.store());
     companyTitle_ = titleOf(companies, at_.session.company);
     std::erase_if(companies, [this](const CompanyLine& line) {
-        return !line.code() || line.code() == at_.session.company;
+        return !line.key() || line.key() == at_.session.company;
     });
     others_ = std::move(companies);
-    lines_ = at_.session.company ? employeeRegister().load() : std::vector<EmployeeLine>();
-    // A leave file that cannot be read is told; the list can be worked with all the same.
+    if (!at_.session.company) return;
+    lines_ = read();
+    codesOfFiles_ = employeeRegister().codesOfFiles();
     inactive_.clear();
-    if (at_.session.company) inactive_ = inactiveEmployees(at_.store(), *at_.session.company);
-}
-
-std::optional<Date> Empregados::inactiveSince(const EmployeeLine& line) const {
-    const auto code = line.code();
-    const auto found = code ? inactive_.find(*code) : inactive_.end();
-    return found == inactive_.end() ? std::nullopt : std::optional(found->second);
-}
-
-bool Empregados::hasCompany() const {
-    if (!at_.session.company) at_.person.tell(noCompany());
-    return at_.session.company.has_value();
-}
-
-bool Empregados::include(const Employee& typed) {
-    if (!hasCompany() || !accepts(typed)) return false;
-    return attempt(at_, incorrectData(), [&] {
-        if (refusesTakenCode(typed, employeeRegister().load())) return false;
-        if (!at_.person.agrees(kConfirmInclude)) return false;
-        const auto hold = holdFolder(at_);
-        auto lines = employeeRegister().load();
-        // A list that is gone: the folder of another drive stands in the place of the one shown.
-        if (bears(lines, typed.employeeCode()) || (lines.empty() && !lines_.empty()))
-            throw changedElsewhere();
-        lines.push_back(lineOf(typed));
-        save(std::move(lines));
-        return true;
-    });
-}
-
-bool Empregados::change(std::size_t position, Employee typed) {
-    if (!at_.person.agrees(kConfirmChange)) return false;
-    return attempt(at_, incorrectData(), [&] {
-        const EmployeeLine line = loadUnchanged(position)[position];
-        if (!line.code()) throw noCode(line);
-        typed.code = line.employee.code;
-        typed.status = line.employee.status;
-        if (changesRotation(line.employee, typed) && isRotationMember(line)) {
-            at_.person.tell(kRotationMember);
-            return false;
-        }
-        if (!accepts(typed) || !agreesDespitePayroll(line)) return false;
-        const auto hold = holdFolder(at_);
-        auto lines = loadUnchanged(position);
-        lines[position] = lineOf(typed, line.bytes);
-        save(std::move(lines));
-        return true;
-    });
-}
-
-bool Empregados::isRotationMember(const EmployeeLine& line) const {
-    return line.code() && around_.rotation.isMember({at_.session.company.value(), *line.code()});
-}
-
-bool Empregados::agreesDespitePayroll(const EmployeeLine& line) const {
-    if (!around_.payroll.hasClosedMonth({at_.session.company.value(), line.code().value()}))
-        return true;
-    at_.person.tell(kPayrollClosed);
-    return at_.person.agrees(kConfirmDespitePayroll);
-}
-
-bool Empregados::mayTransfer(const EmployeeLine& leaving, const CompanyCode& target) const {
-    const CompanyCode company = at_.session.company.value();
-    const auto refuses = [this](const Message& message) {
-        at_.person.tell(message);
-        return false;
-    };
-    if (isRotationMember(leaving)) return refuses(kRotationMember);
-    const auto there = EmployeeRegister(at_.store(), target).load();
-    if (!arrivedLine(there, leaving) && isRegistered(there, leaving.employee))
-        return refuses(kRegisteredThere);
-    if (hasPunchRecords(at_.store(), {company, leaving.code().value()}))
-        return refuses(kHasPunches);
-    return true;
-}
-
-bool Empregados::transfer(std::size_t position, const CompanyCode& target) {
-    if (!at_.person.agrees(kConfirmChange)) return false;
-    return attempt(at_, incorrectData(), [&] {
-        const EmployeeLine leaving = loadUnchanged(position)[position];
-        if (!leaving.code()) throw noCode(leaving);
-        if (!mayTransfer(leaving, target) || !agreesDespitePayroll(leaving)) return false;
-        const auto hold = holdFolder(at_);
-        auto lines = loadUnchanged(position);
-        EmployeeTransfer(at_.store(), *at_.session.company, target)
-            .move(lines, position, at_.clock.now());
-        lines_ = std::move(lines);
-        return true;
-    });
-}
-
-bool Empregados::remove(std::size_t position) {
-    if (!at_.person.agrees(kConfirmDelete)) return false;
-    return attempt(at_, incorrectData(), [&] {
-        const EmployeeLine chosen = loadUnchanged(position)[position];
-        if (isRotationMember(chosen)) {
-            at_.person.tell(kDeletesMember);
-            if (!at_.person.agrees(kDeleteDespiteGroup)) return false;
-        }
-        const auto hold = holdFolder(at_);
-        auto lines = loadUnchanged(position);
-        // A disk that refuses the list must do so before anything is gone. Then the files go
-        // first: cut short, the command can be given again.
-        save(lines);
-        lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(position));
-        removeFilesOf(chosen, lines);
-        save(std::move(lines));
-        return true;
-    });
-}
-
-bool Empregados::removeAll() {
-    if (!hasCompany() || !at_.person.agrees(kConfirmDeleteAll) ||
-        !at_.person.agrees(kCertainDeleteAll))
-        return false;
-    return attemptWriting(at_, incorrectData(), [&] {
-        auto lines = employeeRegister().load();
-        save(lines);
-        for (const EmployeeLine& line : lines)
-            removeFilesOf(line, {});
-        save({});
-    });
-}
-
-bool Empregados::offersTransfer() {
-    if (others_.empty()) at_.person.tell(kNoOtherCompany);
-    return !others_.empty();
-}
-
-void Empregados::askForEmployee() {
-    at_.person.tell(noEmployeeSelected());
-}
-
-bool Empregados::mayDiscardTyped() {
-    return at_.person.agrees(discardTyped());
-}
-
-void Empregados::help() {
-    openHelp(at_, around_.browser);
+    // A leave file that cannot be read is told; the list can be worked with all the same.
+    inactive_ = inactiveEmployees(at_.store(), *at_.session.company);
 }
 
 EmployeeRegister Empregados::employeeRegister() const {
     return {at_.store(), at_.session.company.value()};
 }
 
-std::vector<EmployeeLine> Empregados::loadUnchanged(std::size_t position) const {
-    auto lines = employeeRegister().load();
-    if (position >= lines.size() || position >= lines_.size() ||
-        lines[position].bytes != lines_[position].bytes)
-        throw changedElsewhere();
-    return lines;
+std::vector<EmployeeLine> Empregados::read() const {
+    return employeeRegister().load();
 }
 
-bool Empregados::accepts(const Employee& typed) const {
-    if (const std::string missing = missingFields(typed); !missing.empty()) {
-        at_.person.tell(withDetail(kIncomplete, "Falta preencher: " + missing + "."));
+void Empregados::write(const Lines& lines) {
+    EmployeeRegister list = employeeRegister();
+    list.save(lines, at_.clock.now());
+    removeEndedMarks(at_.store(), at_.session.company.value(), lines);
+    codesOfFiles_ = list.codesOfFiles();
+}
+
+std::optional<Date> Empregados::inactiveSince(const Employee& employee) const {
+    const auto code = employee.employeeCode();
+    const auto found = code ? inactive_.find(*code) : inactive_.end();
+    return found == inactive_.end() ? std::nullopt : std::optional(found->second);
+}
+
+std::optional<EmployeeCode> Empregados::proposedCode() const {
+    std::set<EmployeeCode> taken = keysOf(lines_);
+    taken.insert(codesOfFiles_.begin(), codesOfFiles_.end());
+    return lowestFreeCode(taken);
+}
+
+Employee Empregados::freshRecord() const {
+    Employee employee;
+    if (const auto code = proposedCode()) employee.code = code->text();
+    return employee;
+}
+
+ListRow Empregados::rowOf(const Employee& employee) const {
+    const std::string_view activity = activityOf(employee, inactiveSince(employee).has_value());
+    return {{employee.code, employee.name, employee.function, std::string(activity)},
+            searchedText(employee)};
+}
+
+std::string Empregados::counts() const {
+    if (lines_.empty()) return "nenhum funcionário";
+    std::map<std::string_view, std::ptrdiff_t> shown;
+    for (const Line& line : lines_)
+        if (line.key()) ++shown[activityOf(line.record, inactiveSince(line.record).has_value())];
+    const std::ptrdiff_t active = shown["Ativo"];
+    const std::ptrdiff_t inactive = shown["Inativo"];
+    const std::ptrdiff_t deleted = shown[kDeletedStatus];
+    return counted(active, "ativo") + ", " + counted(inactive, "inativo") +
+           (deleted > 0 ? ", " + counted(deleted, "excluído") : "") +
+           unreadCount(lines_.size() - static_cast<std::size_t>(active + inactive + deleted));
+}
+
+std::string Empregados::newRecordTitle() const {
+    return "Novo funcionário · * preenchimento obrigatório";
+}
+
+bool Empregados::requireCompany() const {
+    return at_.session.company || refuse(noCompany());
+}
+
+bool Empregados::requireOtherCompany() {
+    return !others_.empty() || refuse(kNoOtherCompany);
+}
+
+void Empregados::askForEmployee() {
+    at_.person.tell(noEmployeeSelected());
+}
+
+bool Empregados::requireComplete(const Employee& typed) const {
+    if (const std::string missing = missingFields(typed); !missing.empty())
+        return refuse(kIncomplete, "Falta preencher: " + missing + ".");
+    if (!typed.admissionDate()) return refuse(kWrongAdmission, noSuchDate(typed.admission));
+    const std::string wrong = incorrectField(typed);
+    return wrong.empty() || refuse(kNotAccepted, wrong);
+}
+
+bool Empregados::requireAcceptable(const Employee& typed, const Line*) {
+    if (!requireCompany() || !requireComplete(typed)) return false;
+    return !findLine(read(), typed.employeeCode()) || refuse(kNotAccepted, takenCode(typed));
+}
+
+EmployeeKey Empregados::keyOfLine(const Line& line) const {
+    return {at_.session.company.value(), line.key().value()};
+}
+
+bool Empregados::isRotationMember(const Line& line) const {
+    return line.key() && desk_.rotation.isMember(keyOfLine(line));
+}
+
+bool Empregados::change(std::size_t position, const Employee& typed) {
+    if (!at_.person.agrees(questions_.change)) return false;
+    return run(incorrectData(), [&] {
+        auto lines = read();
+        const Line line = knownLineAsShown(lines, position);
+        Employee changed = typed;
+        changed.code = line.record.code;
+        changed.status = line.record.status;
+        if (changesRotation(line.record, changed) && isRotationMember(line))
+            return refuse(kRotationMember);
+        return requireComplete(changed) &&
+               confirmDespitePayroll(at_.person, desk_.payroll, keyOfLine(line)) &&
+               rewrite(
+                   [&](Lines& now) { lineAsShown(now, position) = lineOf(changed, line.bytes); });
+    });
+}
+
+const Message* Empregados::transferRefusal(const Line& leaving, const CompanyCode& target) const {
+    if (isRotationMember(leaving)) return &kRotationMember;
+    const EmployeeTransfer transfer(at_.store(), *at_.session.company, target);
+    const auto there = EmployeeRegister(at_.store(), target).load();
+    if (!transfer.findArrived(there, leaving) && isRegistered(there, leaving.record))
+        return &kRegisteredThere;
+    return hasPunchRecords(at_.store(), keyOfLine(leaving)) ? &kHasPunches : nullptr;
+}
+
+bool Empregados::transfer(std::size_t position, const CompanyCode& target) {
+    if (!at_.person.agrees(questions_.change)) return false;
+    return run(incorrectData(), [&] {
+        auto lines = read();
+        const Line leaving = knownLineAsShown(lines, position);
+        if (const Message* refusal = transferRefusal(leaving, target)) return refuse(*refusal);
+        if (!confirmDespitePayroll(at_.person, desk_.payroll, keyOfLine(leaving))) return false;
+        return rewrite([&](Lines& now) {
+            (void)lineAsShown(now, position);
+            if (!findLine(loadCompanies(at_.store()), target) || transferRefusal(leaving, target))
+                throw changedElsewhere("company " + target.text());
+            EmployeeTransfer(at_.store(), *at_.session.company, target)
+                .move(now, position, at_.clock.now());
+        });
+    });
+}
+
+bool Empregados::remove(std::size_t position) {
+    if (!at_.person.agrees(questions_.remove)) return false;
+    return run(incorrectData(), [&] {
+        auto lines = read();
+        const Line chosen = lineAsShown(lines, position);
+        if (isRotationMember(chosen)) {
+            at_.person.tell(kDeletesMember);
+            if (!at_.person.agrees(kDeleteDespiteGroup)) return false;
+        }
+        return erase(position, [&](const Lines& remaining) { removeFilesOf(chosen, remaining); });
+    });
+}
+
+bool Empregados::removeAll() {
+    if (!requireCompany() || !at_.person.agrees(kConfirmDeleteAll) ||
+        !at_.person.agrees(kCertainDeleteAll))
         return false;
-    }
-    if (!typed.admissionDate()) {
-        at_.person.tell(withDetail(kWrongAdmission, noSuchDate(typed.admission)));
-        return false;
-    }
-    if (std::string wrong = incorrectField(typed); !wrong.empty()) {
-        at_.person.tell(withDetail(kNotAccepted, std::move(wrong)));
-        return false;
-    }
-    return true;
+    return run(incorrectData(), [&] {
+        return rewrite([&](Lines& lines) {
+            write(lines);
+            for (const Line& line : lines)
+                removeFilesOf(line, {});
+            lines.clear();
+        });
+    });
 }
 
-bool Empregados::refusesTakenCode(const Employee& typed,
-                                  const std::vector<EmployeeLine>& lines) const {
-    if (!bears(lines, typed.employeeCode())) return false;
-    at_.person.tell(withDetail(kNotAccepted, takenCode(typed)));
-    return true;
-}
-
-void Empregados::removeFilesOf(const EmployeeLine& gone,
-                               const std::vector<EmployeeLine>& remaining) const {
-    const auto code = gone.code();
-    if (code && !bears(remaining, code))
-        removeRecordsOfEmployee(at_.store(), {at_.session.company.value(), *code});
-}
-
-void Empregados::save(std::vector<EmployeeLine> lines) {
-    employeeRegister().save(lines, at_.clock.now());
-    lines_ = std::move(lines);
+void Empregados::removeFilesOf(const Line& gone, const Lines& remaining) const {
+    const auto code = gone.key();
+    if (code && !findLine(remaining, *code)) removeRecordsOfEmployee(at_.store(), keyOfLine(gone));
 }
 
 }  // namespace winvrx

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/desk/browser.h"
-#include "foundation/desk/command.h"
+#include "foundation/desk/list_commands.h"
 #include "foundation/desk/spreadsheet.h"
 #include "foundation/desk/text_editor.h"
 #include "foundation/register/company_register.h"
@@ -12,11 +12,14 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace winvrx {
+
+struct ReportedEmployee;
 
 /// Headings and captions of the screen's lists.
 inline constexpr std::string_view kEmployeeListTitle = "LISTA DE FUNCIONARIOS";
@@ -24,11 +27,8 @@ inline constexpr std::string_view kShiftListTitle = "TURNOS";
 inline constexpr std::string_view kScaleListTitle = "ESCALS";
 inline constexpr std::string_view kScaleBoxTitle = "Escala - Turno - Horario";
 
-/// The list on disk is not the one that the screen shows.
-[[nodiscard]] Fault changedElsewhere();
-
-/// The subjects and programs beside the register that its commands ask. All outlive the screen.
-struct EmployeeSurroundings {
+/// What the register asks of the subjects and programs beside it. All outlive the screen.
+struct EmpregadosDesk {
     Browser& browser;
     TextEditor& editor;
     Spreadsheet& spreadsheet;
@@ -36,44 +36,44 @@ struct EmployeeSurroundings {
     const PayrollLock& payroll;
 };
 
-/// The employee register's screen: the commands on the employee list of the selected company.
-///
-/// Holds the list as the screen shows it. A command that is refused or fails leaves list and file
-/// as they were. Each command reads the file again first, so the list is never older than the
-/// file that it replaces. Each returns whether it was carried out.
-class Empregados {
+/// Warns of a payroll that has been generated for the employee and asks whether to change his
+/// record all the same; true when there is none.
+[[nodiscard]] bool confirmDespitePayroll(Operator& person, const PayrollLock& payroll,
+                                         const EmployeeKey& key);
+
+/// The employee register's screen: the commands on the employee list of the selected company. None
+/// selected gives an empty list.
+class Empregados : public ListCommands<Employee> {
   public:
-    Empregados(const Workplace& at, const EmployeeSurroundings& around);
+    Empregados(const Workplace& at, const EmpregadosDesk& desk);
 
     /// Shown while a command takes its time: "Aguarde ....".
     using WaitNotice = std::function<void(std::string_view)>;
     void tellWaiting(WaitNotice notice) { waitNotice_ = std::move(notice); }
 
-    /// Reads the list of the company selected in the session; none selected gives an empty list.
-    void load();
-    [[nodiscard]] const std::vector<EmployeeLine>& lines() const { return lines_; }
     /// "01 EMPRESA MODELO LTDA"; empty when no company is selected.
     [[nodiscard]] const std::string& companyTitle() const { return companyTitle_; }
     /// The companies that an employee can be transferred to.
     [[nodiscard]] const std::vector<CompanyLine>& otherCompanies() const { return others_; }
-    /// The day since which the line's employee is inactive, by the leave file.
-    [[nodiscard]] std::optional<Date> inactiveSince(const EmployeeLine& line) const;
-    /// The code that the next employee gets unless another is typed; nullopt when all are taken.
-    [[nodiscard]] std::optional<EmployeeCode> proposedCode() const {
-        return EmployeeRegister::lowestFreeCode(lines_);
-    }
+    /// The day since which the employee is inactive, by the leave file.
+    [[nodiscard]] std::optional<Date> inactiveSince(const Employee& employee) const;
+    /// The lowest code that neither a line nor a file bears: what the next employee gets unless
+    /// another is typed. nullopt when all are taken.
+    [[nodiscard]] std::optional<EmployeeCode> proposedCode() const;
 
-    /// Appends `typed`. Code, name, admission date, shift and scale are required; the code must be
-    /// free and the scale must allow the shift.
-    [[nodiscard]] bool include(const Employee& typed);
-    /// Replaces the line at `position`; code and status stay, and so does what the record holds
-    /// beyond the fields. A member of a rotation group keeps shift and scale.
-    [[nodiscard]] bool change(std::size_t position, Employee typed);
+    [[nodiscard]] Employee freshRecord() const override;
+    /// "12 ativos, 1 inativo", as the list shows them.
+    [[nodiscard]] std::string counts() const override;
+    [[nodiscard]] std::string newRecordTitle() const override;
+
+    /// Code and status stay, and so does what the record holds beyond the fields. A member of a
+    /// rotation group keeps shift and scale.
+    [[nodiscard]] bool change(std::size_t position, const Employee& typed) override;
     /// Moves the employee with every file to another company, unless he is registered there or has
     /// punch records here.
     [[nodiscard]] bool transfer(std::size_t position, const CompanyCode& target);
-    /// Deletes the line at `position` and the employee's files.
-    [[nodiscard]] bool remove(std::size_t position);
+    /// Deletes the employee's files too.
+    [[nodiscard]] bool remove(std::size_t position) override;
     /// Deletes the list and every file of its employees, after two questions.
     [[nodiscard]] bool removeAll();
 
@@ -87,35 +87,36 @@ class Empregados {
     [[nodiscard]] bool exportTo(const std::filesystem::path& file);
 
     /// Tells that there is no company to transfer to, if there is none; else true.
-    [[nodiscard]] bool offersTransfer();
+    [[nodiscard]] bool requireOtherCompany();
     /// Tells that an employee has to be selected first.
     void askForEmployee();
-    /// Asks before typed but unrecorded text is left behind. True when it may go.
-    [[nodiscard]] bool mayDiscardTyped();
-    void help();
+
+  protected:
+    void reread() override;
+    [[nodiscard]] Lines read() const override;
+    void write(const Lines& lines) override;
+    [[nodiscard]] ListRow rowOf(const Employee& employee) const override;
+    [[nodiscard]] bool requireAcceptable(const Employee& typed, const Line* before) override;
 
   private:
-    void read();
-    [[nodiscard]] bool hasCompany() const;
+    [[nodiscard]] bool requireCompany() const;
+    [[nodiscard]] bool requireComplete(const Employee& typed) const;
     [[nodiscard]] EmployeeRegister employeeRegister() const;
-    /// The list as it is on disk, if the line at `position` is still what the screen shows.
-    [[nodiscard]] std::vector<EmployeeLine> loadUnchanged(std::size_t position) const;
-    [[nodiscard]] bool accepts(const Employee& typed) const;
-    [[nodiscard]] bool refusesTakenCode(const Employee& typed,
-                                        const std::vector<EmployeeLine>& lines) const;
-    [[nodiscard]] bool isRotationMember(const EmployeeLine& line) const;
-    [[nodiscard]] bool agreesDespitePayroll(const EmployeeLine& line) const;
-    [[nodiscard]] bool mayTransfer(const EmployeeLine& leaving, const CompanyCode& target) const;
-    void removeFilesOf(const EmployeeLine& gone, const std::vector<EmployeeLine>& remaining) const;
-    void save(std::vector<EmployeeLine> lines);
+    [[nodiscard]] EmployeeKey keyOfLine(const Line& line) const;
+    [[nodiscard]] bool isRotationMember(const Line& line) const;
+    /// Why the employee cannot go to that company; nullptr when he can.
+    [[nodiscard]] const Message* transferRefusal(const Line& leaving,
+                                                 const CompanyCode& target) const;
+    void removeFilesOf(const Line& gone, const Lines& remaining) const;
+    /// As they stand on disk.
+    [[nodiscard]] std::vector<ReportedEmployee> reportedEmployees() const;
     template <typename Sort>
     [[nodiscard]] bool sort(const Message& question, const Message& onFailure, Sort&& order);
 
-    Workplace at_;
-    EmployeeSurroundings around_;
+    EmpregadosDesk desk_;
     WaitNotice waitNotice_;
-    std::vector<EmployeeLine> lines_;
     std::map<EmployeeCode, Date> inactive_;
+    std::set<EmployeeCode> codesOfFiles_;
     std::vector<CompanyLine> others_;
     std::string companyTitle_;
 };

@@ -4,6 +4,7 @@
 #include "foundation/register/employee_order.h"
 #include "foundation/register/employee_table.h"
 #include "foundation/register/empregados.h"
+#include "foundation/register/leave_record.h"
 #include "foundation/values/csv.h"
 #include "foundation/values/text.h"
 
@@ -62,13 +63,9 @@ bool isWorkbookName(const std::filesystem::path& file) {
 
 template <typename Sort>
 bool Empregados::sort(const Message& question, const Message& onFailure, Sort&& order) {
-    if (!hasCompany() || !at_.person.agrees(question)) return false;
+    if (!requireCompany() || !at_.person.agrees(question)) return false;
     if (waitNotice_) waitNotice_(kWait);
-    return attemptWriting(at_, onFailure, [&] {
-        auto lines = employeeRegister().load();
-        order(lines);
-        save(std::move(lines));
-    });
+    return run(onFailure, [&] { return rewrite(order); });
 }
 
 bool Empregados::sortByName() {
@@ -81,44 +78,49 @@ bool Empregados::sortByAdmission() {
 
 bool Empregados::moveTo(std::size_t position, std::string_view typedPlace) {
     const auto place = numberOf(typedPlace);
-    if (const Message* refusal = refusalOf(place, lines_.size())) {
-        at_.person.tell(*refusal);
-        return false;
-    }
-    return attemptWriting(at_, incorrectData(), [&] {
-        auto lines = loadUnchanged(position);
-        if (lines.size() != lines_.size()) throw changedElsewhere();
-        moveLine(lines, position, static_cast<std::size_t>(*place) - 1);
-        save(std::move(lines));
+    if (const Message* refusal = refusalOf(place, lines_.size())) return refuse(*refusal);
+    return run(incorrectData(), [&] {
+        return rewrite([&](Lines& lines) {
+            (void)lineAsShown(lines, position);
+            if (lines.size() != lines_.size()) throw changedElsewhere("employee list");
+            moveLine(lines, position, static_cast<std::size_t>(*place) - 1);
+        });
     });
 }
 
+std::vector<ReportedEmployee> Empregados::reportedEmployees() const {
+    const auto hold = holdFolder(at_);
+    const auto inactive = inactiveEmployees(at_.store(), at_.session.company.value());
+    std::vector<ReportedEmployee> people;
+    for (const Line& line : read()) {
+        if (!line.key()) continue;
+        const auto found = inactive.find(*line.key());
+        people.push_back({readable(line, &Employee::name), readable(line, &Employee::function),
+                          readable(line, &Employee::admission),
+                          found == inactive.end() ? std::nullopt : std::optional(found->second)});
+    }
+    return people;
+}
+
 bool Empregados::report() {
-    if (!hasCompany() || !at_.person.agrees(kConfirmReport)) return false;
-    return attempt(at_, incorrectData(), [&] {
-        read();
-        std::vector<ReportedEmployee> people;
-        for (const EmployeeLine& line : lines_)
-            if (line.code())
-                people.push_back({readable(line, &Employee::name),
-                                  readable(line, &Employee::function),
-                                  readable(line, &Employee::admission), inactiveSince(line)});
+    if (!requireCompany() || !at_.person.agrees(kConfirmReport)) return false;
+    return run(incorrectData(), [&] {
+        const std::vector<ReportedEmployee> people = reportedEmployees();
         const Date today = at_.clock.today();
-        const bool shown = showReports(
-            at_, around_.editor,
-            {{at_.session.companyFile("RelAtivos.txt"), activeReport(people, today)},
-             {at_.session.companyFile("RelInativos.txt"), inactiveReport(people, today)}});
-        if (!shown) at_.person.tell(kNotOpened);
-        return shown;
+        return showReports(
+                   at_, desk_.editor,
+                   {{at_.session.companyFile("RelAtivos.txt"), activeReport(people, today)},
+                    {at_.session.companyFile("RelInativos.txt"), inactiveReport(people, today)}}) ||
+               refuse(kNotOpened);
     });
 }
 
 bool Empregados::exportTo(const std::filesystem::path& file) {
-    if (!hasCompany()) return false;
-    return attempt(at_, incorrectData(), [&] {
+    if (!requireCompany()) return false;
+    return run(incorrectData(), [&] {
         const Table table = tableOf(lines_, inactive_);
         at_.files.replace(file, isWorkbookName(file)
-                                    ? around_.spreadsheet.workbookOf(table, "Funcionários")
+                                    ? desk_.spreadsheet.workbookOf(table, "Funcionários")
                                     : csvText(rowsOf(table)));
     });
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/desk/browser.h"
-#include "foundation/desk/command.h"
+#include "foundation/desk/list_commands.h"
 #include "foundation/register/company_register.h"
 
 #include <optional>
@@ -16,42 +16,43 @@ inline constexpr std::string_view kDeleteCompanyOnly = "Excluir somente a Empres
 inline constexpr std::string_view kDeleteWithEmployees =
     "Exluir a Empresa e a Lista de Funcionarios";
 
-/// The company register's screen: include, change and delete companies.
-///
-/// Holds the list as the screen shows it. A command that is refused or fails leaves list and file
-/// as they were. Each command reads the file again first, so the list is never older than the
-/// file that it replaces.
-class Empresa {
+/// The company register's screen. Code and record date of a company are set here.
+class Empresa : public ListCommands<Company> {
   public:
-    Empresa(const Workplace& at, Browser& browser);
+    Empresa(const Workplace& at, Browser& browser) : ListCommands(at, browser) {}
 
-    /// Reads the register again.
-    void load();
-    [[nodiscard]] const std::vector<CompanyLine>& lines() const { return lines_; }
     /// The code that the next company will get; nullopt when all are taken.
-    [[nodiscard]] std::optional<CompanyCode> proposedCode() const { return lowestFreeCode(lines_); }
+    [[nodiscard]] std::optional<CompanyCode> proposedCode() const {
+        return lowestFreeCode(keysOf(lines_));
+    }
+    [[nodiscard]] Company freshRecord() const override;
+    [[nodiscard]] std::string counts() const override;
+    [[nodiscard]] std::string newRecordTitle() const override;
 
-    /// Appends `typed`; its code and record date are set here. True when it was recorded.
-    [[nodiscard]] bool include(Company typed);
-    /// Replaces the line at `position`; the code stays. True when it was recorded.
-    [[nodiscard]] bool change(std::size_t position, Company typed);
-    /// Deletes the line at `position` and the company's files; a session that had it selected has
-    /// none afterwards. True when it is gone.
+    /// What `remove` takes along.
+    void choose(DeleteOption option) { option_ = option; }
+    /// Deletes the company's files too, never the first company; a session that had it selected
+    /// has none afterwards.
+    [[nodiscard]] bool remove(std::size_t position) override;
     [[nodiscard]] bool remove(std::size_t position, DeleteOption option);
-    /// Asks before typed but unrecorded text is left behind. True when it may go.
-    [[nodiscard]] bool mayDiscardTyped();
-    void help();
+
+  protected:
+    void reread() override { lines_ = loadOrCreateCompanies(at_); }
+    [[nodiscard]] Lines read() const override { return loadCompanies(at_.store()); }
+    void write(const Lines& lines) override { companyFile(at_.store()).save(lines); }
+    [[nodiscard]] ListRow rowOf(const Company& company) const override;
+    [[nodiscard]] Line newLine(const Company& typed, const Lines& lines) const override;
+    [[nodiscard]] Line changedLine(const Company& typed, const Line& before) const override;
 
   private:
-    [[nodiscard]] bool confirmsDeletion(bool hasEmployees, DeleteOption option);
-    [[nodiscard]] bool hasEmployees(const CompanyLine& line) const;
+    [[nodiscard]] Line lineUnder(const CompanyCode& code, Company typed,
+                                 std::string existing = {}) const;
+    [[nodiscard]] bool confirmDeletion(bool hasEmployees);
+    [[nodiscard]] bool hasEmployees(const Line& line) const;
     /// Deletes the company's files, unless a damaged list gives its code to another line too.
-    void removeFilesOf(const CompanyLine& gone, const std::vector<CompanyLine>& remaining);
-    void save(std::vector<CompanyLine> lines);
+    void removeFilesOf(const Line& gone, const Lines& remaining);
 
-    Workplace at_;
-    Browser& browser_;
-    std::vector<CompanyLine> lines_;
+    DeleteOption option_ = DeleteOption::CompanyOnly;
 };
 
 }  // namespace winvrx

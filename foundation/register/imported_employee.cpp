@@ -13,8 +13,6 @@ namespace winvrx {
 
 namespace {
 
-constexpr std::size_t kCodeDigits = 3;
-
 struct ShiftWord {
     std::string_view text;
     Shift shift;
@@ -56,13 +54,6 @@ std::string restDayText(std::string_view cell) {
     return std::string(cell);
 }
 
-std::string codeText(std::string_view cell) {
-    const bool isNumber =
-        std::all_of(cell.begin(), cell.end(), [](char c) { return c >= '0' && c <= '9'; });
-    if (cell.empty() || !isNumber || cell.size() > kCodeDigits) return std::string(cell);
-    return std::string(kCodeDigits - cell.size(), '0') + std::string(cell);
-}
-
 /// "5211-10", as the CBO is often printed, without its dash.
 std::string withoutDash(std::string_view cell) {
     std::string text(cell);
@@ -88,7 +79,7 @@ std::string unstorableField(const Employee& employee) {
 
 std::string recordText(std::string Employee::*field, std::string_view cell) {
     cell = trimmed(cell);
-    if (field == &Employee::code) return codeText(cell);
+    if (field == &Employee::code) return completedEmployeeCode(cell);
     if (field == &Employee::shift) return shiftText(cell);
     if (field == &Employee::scale) return scaleText(cell);
     if (field == &Employee::restDay) return restDayText(cell);
@@ -99,14 +90,16 @@ std::string recordText(std::string Employee::*field, std::string_view cell) {
     if (field == &Employee::admission || field == &Employee::dismissal ||
         field == &Employee::birthDate)
         return completedDate(cell);
-    if (field == &Employee::salary)
-        if (const auto money = parseMoney(cell)) return moneyText(*money);
+    if (field == &Employee::salary) return storedMoney(cell);
     return std::string(cell);
 }
 
-void completeImported(Employee& employee, const std::vector<EmployeeLine>& list) {
-    if (employee.code.empty())
-        if (const auto code = EmployeeRegister::lowestFreeCode(list)) employee.code = code->text();
+void completeImported(Employee& employee, const std::vector<EmployeeLine>& list,
+                      std::set<EmployeeCode> codesOfFiles) {
+    if (employee.code.empty()) {
+        codesOfFiles.merge(keysOf(list));
+        if (const auto code = lowestFreeCode(codesOfFiles)) employee.code = code->text();
+    }
     if (employee.shift.empty()) employee.shift = codeOf(Shift::Unico);
     if (employee.scale.empty()) employee.scale = codeOf(Scale::Normal);
 }
@@ -121,16 +114,15 @@ std::string importProblem(const Employee& employee, const std::vector<EmployeeLi
         return "Escala \"" + employee.scale + "\" não é Normal, 5x1 nem 12x36.";
     if (std::string wrong = incorrectField(employee); !wrong.empty()) return wrong;
     if (std::string wrong = unstorableField(employee); !wrong.empty()) return wrong;
-    if (bears(list, employee.employeeCode())) return takenCode(employee);
+    if (findLine(list, employee.employeeCode())) return takenCode(employee);
     if (isRegistered(list, employee)) return "Este funcionário já está na lista.";
     return {};
 }
 
 std::string importNotice(const Employee& employee) {
-    const std::array hints = {idHint(checkCpf(employee.taxId), "CPF", Entry::Left),
-                              idHint(checkPis(employee.socialId), "PIS", Entry::Left),
-                              occupationHint(employee.occupation, Entry::Left),
-                              moneyHint(employee.salary, Entry::Left)};
+    const std::array hints = {
+        cpfHint(employee.taxId, Entry::Left), pisHint(employee.socialId, Entry::Left),
+        occupationHint(employee.occupation, Entry::Left), moneyHint(employee.salary, Entry::Left)};
     std::string notice;
     for (const Hint& hint : hints)
         if (hint.tone == Hint::Tone::Warning)

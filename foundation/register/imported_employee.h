@@ -2,6 +2,7 @@
 
 #include "foundation/register/employee_register.h"
 
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,8 +16,10 @@ namespace winvrx {
 /// full date, "Noite" the code of its shift. What is not understood comes back as it is.
 [[nodiscard]] std::string recordText(std::string Employee::*field, std::string_view cell);
 
-/// Fills what a row may leave out: the lowest free code, commercial hours, the normal scale.
-void completeImported(Employee& employee, const std::vector<EmployeeLine>& list);
+/// Fills what a row may leave out: the lowest code that neither a line nor a file bears, commercial
+/// hours, the normal scale.
+void completeImported(Employee& employee, const std::vector<EmployeeLine>& list,
+                      std::set<EmployeeCode> codesOfFiles);
 
 /// Why the employee cannot be appended to the list; empty when he can.
 [[nodiscard]] std::string importProblem(const Employee& employee,

@@ -26,16 +26,9 @@ std::optional<LeavePeriod> Leave::period() const {
     return LeavePeriod{*first, *last};
 }
 
-std::string encode(const Leave& leave, std::string existing) {
-    const Leave before = decodeFields<Leave>(kLeaveFields, existing);
-    RecordLine line(std::move(existing), kLeaveWidth);
-    putFields(kLeaveFields, leave, before, line);
-    return line.bytes();
-}
-
 std::optional<Leave> decodeLeave(std::string_view lineBytes) {
     if (!isLeave(lineBytes)) return std::nullopt;
-    return decodeFields<Leave>(kLeaveFields, lineBytes);
+    return decode<Leave>(lineBytes);
 }
 
 std::string leaveStatusLine(std::optional<Date> inactiveSince) {

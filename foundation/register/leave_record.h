@@ -74,11 +74,10 @@ inline constexpr std::array kLeaveFields = {
 };
 
 inline constexpr std::size_t kLeaveWidth = 211;
-static_assert(isOrdered(kLeaveFields, kLeaveWidth));
 
-/// Built upon `existing`: a column that says the same keeps its bytes. Throws TextFault when a text
-/// cannot be stored.
-[[nodiscard]] std::string encode(const Leave& leave, std::string existing = {});
+template <>
+struct RecordLayout<Leave> : LineLayout<kLeaveFields, kLeaveWidth> {};
+
 /// nullopt for a line that is no leave.
 [[nodiscard]] std::optional<Leave> decodeLeave(std::string_view lineBytes);
 

@@ -46,7 +46,8 @@ bool Turnos::change(const Employee& employee, std::optional<Shift> shift) {
         EmployeeRegister stored(at_.store(), company);
         auto lines = stored.load();
         (void)lineOfEmployee(lines, employee);
-        if (rotation_.isMember({company, employee.employeeCode().value()})) {
+        const EmployeeKey key{company, employee.employeeCode().value()};
+        if (rotation_.isMember(key)) {
             at_.person.tell(kRotationMember);
             return false;
         }
@@ -54,6 +55,7 @@ bool Turnos::change(const Employee& employee, std::optional<Shift> shift) {
             at_.person.tell(kBarredByScale);
             return false;
         }
+        if (!confirmDespitePayroll(at_.person, payroll_, key)) return false;
         const auto hold = holdFolder(at_);
         lines = stored.load();
         EmployeeLine& line = lineOfEmployee(lines, employee);
@@ -67,10 +69,9 @@ bool Turnos::change(const Employee& employee, std::optional<Shift> shift) {
 }
 
 EmployeeLine& Turnos::lineOfEmployee(std::vector<EmployeeLine>& lines, const Employee& employee) {
-    const auto line = std::find_if(lines.begin(), lines.end(), [&](const EmployeeLine& one) {
-        return one.employee == employee;
-    });
-    if (line == lines.end()) throw changedElsewhere();
+    const auto line = std::find_if(lines.begin(), lines.end(),
+                                   [&](const EmployeeLine& one) { return one.record == employee; });
+    if (line == lines.end()) throw changedElsewhere("employee list");
     return *line;
 }
 

@@ -15,8 +15,13 @@ namespace winvrx {
 /// screen shows it; a command that is refused or fails leaves list and file as they were.
 class Turnos {
   public:
-    Turnos(const Workplace& at, Browser& browser, const RotationMembership& rotation)
-        : at_(at), browser_(browser), rotation_(rotation), list_(at.session.shiftFilter) {}
+    Turnos(const Workplace& at, Browser& browser, const RotationMembership& rotation,
+           const PayrollLock& payroll)
+        : at_(at),
+          browser_(browser),
+          rotation_(rotation),
+          payroll_(payroll),
+          list_(at.session.shiftFilter) {}
 
     /// Reads the list of the selected company; none selected gives an empty list.
     void load();
@@ -26,8 +31,8 @@ class Turnos {
     [[nodiscard]] const std::string& companyTitle() const { return companyTitle_; }
 
     /// Gives the employee, one of the list, another shift, unless none is chosen, he is in a
-    /// rotation group, his scale bars it, or his record has changed since it was shown. True when
-    /// it was recorded.
+    /// rotation group, his scale bars it, or his record has changed since it was shown. A payroll
+    /// that has been generated is warned of, as in the register. True when it was recorded.
     [[nodiscard]] bool change(const Employee& employee, std::optional<Shift> shift);
     /// Tells that an employee has to be selected first.
     void askForEmployee();
@@ -41,6 +46,7 @@ class Turnos {
     Workplace at_;
     Browser& browser_;
     const RotationMembership& rotation_;
+    const PayrollLock& payroll_;
     EmployeeList list_;
     std::string companyTitle_;
 };

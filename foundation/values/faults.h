@@ -24,6 +24,14 @@ class TextFault : public Fault {
     using Fault::Fault;
 };
 
+/// What a command would change is no longer what the screen shows. `what` is for the log, `subject`
+/// begins the sentence: "A lista foi alterada".
+[[nodiscard]] Fault changedElsewhere(const std::string& what,
+                                     const std::string& subject = "A lista foi alterada",
+                                     const std::string& advice = "Abra a tela novamente.");
+/// The same of an employee's record.
+[[nodiscard]] Fault employeeChangedElsewhere(const std::string& what);
+
 /// The sentence for the operator: a Fault's own explanation, a general one for anything else.
 [[nodiscard]] std::string explanationOf(const std::exception& fault);
 

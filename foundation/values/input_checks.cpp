@@ -1,8 +1,10 @@
 #include "foundation/values/input_checks.h"
 
+#include "foundation/values/codes.h"
 #include "foundation/values/date.h"
 #include "foundation/values/faults.h"
 #include "foundation/values/money.h"
+#include "foundation/values/tax_id.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>
@@ -57,6 +59,23 @@ std::string twoDigits(const std::string& digits) {
     return digits.size() == 1 ? "0" + digits : digits;
 }
 
+/// Puts a check of a number in words; `name` is what the number is called: "CPF".
+Hint idHint(IdCheck check, std::string_view name, Entry entry) {
+    const std::string number(name);
+    switch (check) {
+        case IdCheck::Empty:
+            return {};
+        case IdCheck::Valid:
+            return {Hint::Tone::Good, number + " válido"};
+        case IdCheck::Wrong:
+            return {Hint::Tone::Warning, number + " não confere."};
+        case IdCheck::TooShort:
+            break;
+    }
+    if (entry == Entry::Typing) return {};
+    return {Hint::Tone::Warning, number + " incompleto."};
+}
+
 }  // namespace
 
 Hint textHint(std::string_view utf8) {
@@ -78,20 +97,20 @@ Hint dateHint(std::string_view text, Entry entry) {
     return {};
 }
 
-Hint idHint(IdCheck check, std::string_view name, Entry entry) {
-    const std::string number(name);
-    switch (check) {
-        case IdCheck::Empty:
-            return {};
-        case IdCheck::Valid:
-            return {Hint::Tone::Good, number + " válido"};
-        case IdCheck::Wrong:
-            return {Hint::Tone::Warning, number + " não confere."};
-        case IdCheck::TooShort:
-            break;
-    }
-    if (entry == Entry::Typing) return {};
-    return {Hint::Tone::Warning, number + " incompleto."};
+Hint cnpjHint(std::string_view text, Entry entry) {
+    return idHint(checkCnpj(text), "CNPJ", entry);
+}
+
+Hint cpfHint(std::string_view text, Entry entry) {
+    return idHint(checkCpf(text), "CPF", entry);
+}
+
+Hint cnpjOrCpfHint(std::string_view text, Entry entry) {
+    return idHint(checkCnpjOrCpf(text), "CNPJ/CPF", entry);
+}
+
+Hint pisHint(std::string_view text, Entry entry) {
+    return idHint(checkPis(text), "PIS", entry);
 }
 
 Hint moneyHint(std::string_view text, Entry entry) {
@@ -121,6 +140,17 @@ std::string completedPostalCode(std::string_view text) {
 std::string completedMoney(std::string_view text) {
     const auto money = parseMoney(text);
     return money ? "R$ " + moneyText(*money) : std::string(text);
+}
+
+std::string storedMoney(std::string_view text) {
+    const auto money = parseMoney(text);
+    return money ? moneyText(*money) : std::string(text);
+}
+
+std::string completedEmployeeCode(std::string_view text) {
+    const bool isNumber = !text.empty() && std::all_of(text.begin(), text.end(), isDigit);
+    if (!isNumber || text.size() > EmployeeCode::kDigits) return std::string(text);
+    return std::string(EmployeeCode::kDigits - text.size(), '0') + std::string(text);
 }
 
 std::string completedDate(std::string_view text) {

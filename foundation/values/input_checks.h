@@ -1,9 +1,8 @@
 #pragma once
 
-#include "foundation/values/tax_id.h"
-
 #include <string>
 #include <string_view>
+#include <vector>
 
 // What a form says under a field. A hint never blocks a command; it says early what the command
 // would refuse, or what is likely a slip of the finger.
@@ -28,8 +27,11 @@ enum class Entry { Typing, Left };
 /// Warns of a day that does not exist or has not the form "dd/mm/aaaa".
 [[nodiscard]] Hint dateHint(std::string_view text, Entry entry);
 
-/// Puts a check of a number in words; `name` is what the number is called: "CPF".
-[[nodiscard]] Hint idHint(IdCheck check, std::string_view name, Entry entry);
+/// Say whether a number is complete and its check digits agree.
+[[nodiscard]] Hint cnpjHint(std::string_view text, Entry entry);
+[[nodiscard]] Hint cpfHint(std::string_view text, Entry entry);
+[[nodiscard]] Hint cnpjOrCpfHint(std::string_view text, Entry entry);
+[[nodiscard]] Hint pisHint(std::string_view text, Entry entry);
 
 /// Warns of an amount that cannot be read.
 [[nodiscard]] Hint moneyHint(std::string_view text, Entry entry);
@@ -46,8 +48,47 @@ enum class Entry { Typing, Left };
 /// "1850" and "R$1.850,0" as "R$ 1.850,00"; what is no amount comes back as it is.
 [[nodiscard]] std::string completedMoney(std::string_view text);
 
+/// The same as the record holds it: "1.850,00".
+[[nodiscard]] std::string storedMoney(std::string_view text);
+
+/// "7" as "007"; what is no number of at most three digits comes back as it is.
+[[nodiscard]] std::string completedEmployeeCode(std::string_view text);
+
 /// A date typed on the keypad in its full form: "12032024", "1/3/2024" and "12-03-2024" become
 /// "12/03/2024" and the like. What is no such date comes back as it is.
 [[nodiscard]] std::string completedDate(std::string_view text);
+
+/// One of a few codes that a field takes, and the text that it is shown by.
+struct Choice {
+    std::string code;
+    std::string text;
+};
+
+/// What a field of a form takes: how it is picked or typed, checked, and brought into its full
+/// form. A plain text has none of these.
+struct FieldKind {
+    Hint (*hint)(std::string_view text, Entry entry) = nullptr;
+    /// The full form that a field shows when it is left; of a choice, the code that a stored text
+    /// means.
+    std::string (*completed)(std::string_view text) = nullptr;
+    /// What the record holds, where a field shows more than that.
+    std::string (*stored)(std::string_view shown) = nullptr;
+    std::vector<Choice> (*choices)() = nullptr;
+    bool isNotes = false;  ///< wrapped over several lines
+    enum class Shape { Text, Number, Time } shape = Shape::Text;
+};
+
+inline constexpr FieldKind kTextField{};
+inline constexpr FieldKind kNotesField{.isNotes = true};
+inline constexpr FieldKind kNumberField{.shape = FieldKind::Shape::Number};
+inline constexpr FieldKind kDateField{dateHint, completedDate};
+inline constexpr FieldKind kCnpjField{cnpjHint};
+inline constexpr FieldKind kCpfField{cpfHint, completedCpf};
+inline constexpr FieldKind kCnpjOrCpfField{cnpjOrCpfHint};
+inline constexpr FieldKind kPisField{pisHint};
+inline constexpr FieldKind kOccupationField{occupationHint};
+inline constexpr FieldKind kPostalCodeField{nullptr, completedPostalCode};
+inline constexpr FieldKind kMoneyField{moneyHint, completedMoney, storedMoney};
+inline constexpr FieldKind kEmployeeCodeField{nullptr, completedEmployeeCode};
 
 }  // namespace winvrx

@@ -29,8 +29,8 @@ const Message kImpossibleDistances = refusal(
     "As distâncias medidas não combinam com a folha de calibração. Meça de novo, a partir da borda "
     "do papel.");
 
-constexpr auto kChangedElsewhere =
-    "O alinhamento foi alterado por outro computador. Abra a tela novamente.";
+/// What is said to have changed.
+constexpr auto kAlignmentChanged = "O alinhamento foi alterado";
 
 Message confirmTest(const CardStock& stock) {
     return question(
@@ -102,7 +102,7 @@ Alignment CartaoPontos::alignment() const {
 bool CartaoPontos::move(Direction direction) {
     return attemptWriting(at_, incorrectData(), [&] {
         if (loadOffsets(at_.store())[entry_] != offsets())
-            throw Fault("alignment changed on disk", kChangedElsewhere);
+            throw changedElsewhere("alignment", kAlignmentChanged);
         const Offsets now = moved(offsets(), direction);
         saveOffsets(at_.store(), entry_, now);
         alignments_[entry_] = now;
@@ -156,7 +156,7 @@ bool CartaoPontos::saveScale(const PrintScale& scale) {
         if (key.printer.empty())
             throw Fault("no printer to keep a scale for", "Não há uma impressora escolhida.");
         if (loadPrintScale(at_.store(), key) != scale_)
-            throw Fault("print scale changed on disk", kChangedElsewhere);
+            throw changedElsewhere("print scale", kAlignmentChanged);
         savePrintScale(at_.store(), {key, scale});
         scale_ = scale;
     });

@@ -4,12 +4,7 @@
 
 namespace winvrx {
 
-namespace {
-
-constexpr std::string_view kChangedElsewhere =
-    "O tipo de cartão foi alterado por outro computador. Abra a tela novamente.";
-
-}  // namespace
+namespace {}  // namespace
 
 TipoPonto::TipoPonto(const Workplace& at, Browser& browser) : at_(at), browser_(browser) {}
 
@@ -37,7 +32,7 @@ std::string TipoPonto::label() const {
 bool TipoPonto::choose(const CardStock& stock) {
     return attemptWriting(at_, incorrectData(), [&] {
         if (loadStock(at_.store(), *at_.session.company) != current_)
-            throw Fault("stock changed on disk", std::string(kChangedElsewhere));
+            throw changedElsewhere("stock", "O tipo de cartão foi alterado");
         saveStock(at_.store(), *at_.session.company, stock);
         current_ = &stock;
         strangeCode_.clear();

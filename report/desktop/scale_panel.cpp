@@ -1,7 +1,7 @@
 #include "report/desktop/scale_panel.h"
 
 #include "foundation/values/desktop/qt_text.h"
-#include "foundation/widgets/desktop/field_box.h"
+#include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
 #include "report/calibration.h"
 
@@ -17,7 +17,7 @@ namespace winvrx {
 
 namespace {
 
-constexpr int kFigureWidth = 8;
+constexpr std::size_t kFigureWidth = 8;
 constexpr int kFieldsInARow = 2;
 
 constexpr std::array kFigures = {"Escala &horizontal (%)", "Escala &vertical (%)",
@@ -25,9 +25,9 @@ constexpr std::array kFigures = {"Escala &horizontal (%)", "Escala &vertical (%)
 constexpr std::array kDistances = {"&Borda esquerda até A (mm)", "Borda esq&uerda até B (mm)",
                                    "Borda de &cima até A (mm)", "B&orda de cima até C (mm)"};
 
-QString numberFinding(const QString& text) {
-    if (text.trimmed().isEmpty() || parseHundredths(toUtf8(text))) return {};
-    return QStringLiteral("Número com até duas casas.");
+Hint numberHint(std::string_view text, Entry) {
+    if (parseHundredths(text)) return {};
+    return {Hint::Tone::Warning, "Número com até duas casas."};
 }
 
 }  // namespace
@@ -46,7 +46,7 @@ ScalePanel::ScalePanel(QWidget* parent) : QWidget(parent) {
     addButton(*column, QStringLiteral("Imprimir &Folha de Calibração"), "escala.sheet",
               &ScalePanel::giveSheet);
     addFields(*column, distances_, kDistances, "escala.distance");
-    distances_.back()->edit()->setProperty("lastField", true);
+    distances_.back()->input()->setProperty("lastField", true);
     addButton(*column, QStringLiteral("Ca&lcular e Gravar"), "escala.calibrate",
               &ScalePanel::giveDistances);
     column->addStretch();
@@ -60,9 +60,11 @@ void ScalePanel::addFields(QVBoxLayout& column, Fields& fields,
     grid->setVerticalSpacing(0);
     for (int i = 0; i < static_cast<int>(fields.size()); ++i) {
         const auto at = static_cast<std::size_t>(i);
-        fields[at] = new TextField(QString::fromUtf8(captions[at]),
-                                   QLatin1String(name) + QString::number(i + 1), kFigureWidth,
-                                   numberFinding, this);
+        fields[at] = new Field({.caption = QString::fromUtf8(captions[at]),
+                                .objectName = QLatin1String(name) + QString::number(i + 1),
+                                .width = kFigureWidth,
+                                .kind = {numberHint}},
+                               this);
         grid->addWidget(fields[at], i / kFieldsInARow, i % kFieldsInARow);
     }
     column.addLayout(grid);
@@ -83,16 +85,15 @@ void ScalePanel::showScale(const QString& printer, const PrintScale& scale) {
                           : QStringLiteral("Impressora %1, neste tipo de cartão").arg(printer));
     for (std::size_t i = 0; i < figures_.size(); ++i) {
         shown_[i] = hundredthsText(scale.*kPrintScaleFields[i].member);
-        figures_[i]->setText(toQt(shown_[i]));
+        figures_[i]->setStored(shown_[i]);
     }
 }
 
 void ScalePanel::clearDistances() {
     const MeasuredSheet sheet;
     for (std::size_t i = 0; i < distances_.size(); ++i) {
-        distances_[i]->setText({});
-        distances_[i]->edit()->setPlaceholderText(
-            toQt(hundredthsText(sheet.*kMeasuredDistances[i])));
+        distances_[i]->setStored({});
+        distances_[i]->setPlaceholder(toQt(hundredthsText(sheet.*kMeasuredDistances[i])));
     }
 }
 
@@ -105,7 +106,7 @@ bool ScalePanel::hasTyped() const {
 ScalePanel::Texts ScalePanel::textsOf(const Fields& fields) {
     Texts texts;
     std::ranges::transform(fields, texts.begin(),
-                           [](const TextField* field) { return toUtf8(field->text()); });
+                           [](const Field* field) { return toUtf8(field->text()); });
     return texts;
 }
 

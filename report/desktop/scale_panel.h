@@ -13,7 +13,7 @@ class QVBoxLayout;
 
 namespace winvrx {
 
-class TextField;
+class Field;
 
 /// The scale of one printer and stock, and the distances that are measured on the calibration
 /// sheet.
@@ -37,7 +37,7 @@ class ScalePanel : public QWidget {
     void sheetRequested();
 
   private:
-    using Fields = std::array<TextField*, 4>;
+    using Fields = std::array<Field*, 4>;
 
     void addFields(QVBoxLayout& column, Fields& fields, const std::array<const char*, 4>& captions,
                    const char* name);

@@ -208,7 +208,7 @@ bool countsUp(const Workplace& at, std::size_t position) {
         TestLocks locks;
         Empregados people(at, {browser, editor, spreadsheet, locks, locks});
         people.load();
-        Employee mine = people.lines().at(position).employee;
+        Employee mine = people.lines().at(position).record;
         if (mine.notes != std::to_string(turn)) return false;
         mine.notes = std::to_string(turn + 1);
         if (!people.change(position, mine)) return false;
@@ -217,7 +217,7 @@ bool countsUp(const Workplace& at, std::size_t position) {
         bool counted = false;
         while (!counted) {  // refused when the other process was there since it was shown
             companies.load();
-            Company shared = companies.lines().at(0).company;
+            Company shared = companies.lines().at(0).record;
             shared.telephone = std::to_string(std::stoi(shared.telephone) + 1);
             counted = companies.change(0, shared);
         }
@@ -234,7 +234,7 @@ TEST(TwoProcesses, WriteToOneListFiveHundredTimesEachAndLoseNothing) {
         TestBrowser browser;
         Empresa companies(at, browser);
         companies.load();
-        Company zero = companies.lines().at(0).company;
+        Company zero = companies.lines().at(0).record;
         zero.telephone = "0";
         TestEditor editor;
         TestSpreadsheet spreadsheet;
@@ -243,7 +243,7 @@ TEST(TwoProcesses, WriteToOneListFiveHundredTimesEachAndLoseNothing) {
         people.load();
         bool done = companies.change(0, zero);
         for (const std::size_t position : {0U, 1U}) {
-            Employee one = people.lines().at(position).employee;
+            Employee one = people.lines().at(position).record;
             one.notes = "0";
             done = done && people.change(position, one);
         }
@@ -265,10 +265,10 @@ TEST(TwoProcesses, WriteToOneListFiveHundredTimesEachAndLoseNothing) {
         EXPECT_EQ(waitFor(process), 0);
     const FileTable now = recordsBelow(scratch.path());
     const auto companies = splitLines(now.at(inDataFolder("01Empresa")));
-    EXPECT_EQ(decodeCompany(companies.at(0)).telephone, std::to_string(2 * kTurns));
+    EXPECT_EQ(decode<Company>(companies.at(0)).telephone, std::to_string(2 * kTurns));
     const auto people = splitLines(now.at(inDataFolder("01CartaPonto")));
-    EXPECT_EQ(decodeEmployee(people.at(0)).notes, std::to_string(kTurns));
-    EXPECT_EQ(decodeEmployee(people.at(1)).notes, std::to_string(kTurns));
+    EXPECT_EQ(decode<Employee>(people.at(0)).notes, std::to_string(kTurns));
+    EXPECT_EQ(decode<Employee>(people.at(1)).notes, std::to_string(kTurns));
     EXPECT_EQ(people.size(), 3U);
 }
 

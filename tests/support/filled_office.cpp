@@ -26,8 +26,8 @@ std::string inDataFolder(const std::string& name) {
 Employee officeEmployee(const std::string& code, const std::string& name,
                         const std::string& admission) {
     Employee one;
-    for (const auto member : kRequiredEmployeeFields)
-        one.*member = "1";
+    for (const EmployeeField& field : kEmployeeFields)
+        if (field.isRequired) one.*field.member = "1";
     one.code = code;
     one.name = name;
     one.admission = admission;

@@ -49,7 +49,7 @@ FileTable officeBeforeTransfer() {
 bool changeShift(const Workplace& at, const Drives&) {
     TestBrowser browser;
     TestLocks locks;
-    Turnos screen(at, browser, locks);
+    Turnos screen(at, browser, locks, locks);
     screen.load();
     return screen.list().employees().size() > 1 &&
            screen.change(screen.list().employees()[1], Shift::Dois);
@@ -91,7 +91,7 @@ std::vector<WritingCommand> listCommands() {
     withCsv[inDataFolder("lista.csv")] = "Nome;Admissão\nFLAVIA;12/03/2024\n";
     return {
         {"transfer employee", officeBeforeTransfer(), inEmpregados([](Empregados& screen) {
-             return screen.lines()[0].employee.name == "ANA" &&
+             return screen.lines()[0].record.name == "ANA" &&
                     screen.transfer(0, *CompanyCode::parse("02"));
          })},
         {"sort employees", filledOffice(),

@@ -103,11 +103,16 @@ MemoryDisk::Files placed(const FileTable& files, const path& root) {
     return all;
 }
 
+/// The mark of a move that is under way is no record: the next one that writes the list removes it.
+bool isTransferMark(const path& file) {
+    return file.filename().string().find(kTransferStem) == CompanyCode::kDigits;
+}
+
 FileTable recordsOf(const MemoryDisk::Files& files, const path& root) {
     FileTable table;
     for (const auto& [file, bytes] : files)
         if (!file.string().ends_with(kLockSuffix) &&
-            file.parent_path().filename() != kCopiesSubfolder)
+            file.parent_path().filename() != kCopiesSubfolder && !isTransferMark(file))
             table[file.lexically_relative(root).generic_string()] = bytes;
     return table;
 }

@@ -2,7 +2,6 @@
 
 #include "foundation/values/text.h"
 #include "timecard/hours/hours_summary.h"
-#include "timecard/month/changed_elsewhere.h"
 #include "timecard/month/overtime_record.h"
 
 namespace winvrx {
@@ -38,8 +37,7 @@ bool changePercent(const Workplace& at, const PercentChange& change) {
             return false;
         const auto hold = holdFolder(at);
         OvertimeRules rules = onDisk(at, change);
-        if (rules != change.shown)
-            throw Fault("overtime figures changed on disk", std::string(kChangedElsewhere));
+        if (rules != change.shown) throw employeeChangedElsewhere("overtime figures");
         rules.*percentOf(change.category) = percent;
         saveOvertime(at.store(), {change.company, change.employee}, {change.month, rules});
         return true;

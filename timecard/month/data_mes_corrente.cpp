@@ -15,8 +15,6 @@ const Message kOfferedHolidays =
     question("Feriados", "Há feriados sugeridos que não estão marcados. Deseja marcá-los?", {},
              Buttons::YesNoCancel);
 
-constexpr std::string_view kChangedElsewhere =
-    "Este mês foi alterado por outro computador. Abra a tela novamente.";
 constexpr int kMonthsBack = 24;
 constexpr int kMonthsAhead = 12;
 
@@ -167,7 +165,7 @@ bool DataMesCorrente::changed() const {
 void DataMesCorrente::write() {
     MonthSettings toWrite = withNumbers(settings_, numbers_);
     if (readRecord(settings_.month) != onDisk_)
-        throw Fault("month changed on disk", std::string(kChangedElsewhere));
+        throw changedElsewhere("month", "Este mês foi alterado");
     if (!toWrite.recordTicks) toWrite.holidayCells = onDisk_.value_or(MonthSettings()).holidayCells;
     saveMonthSettings(at_.store(), toWrite);
     const auto shownTicks = settings_.holidayCells;

@@ -8,9 +8,10 @@ namespace winvrx {
 
 std::vector<Holiday> offeredHolidays(const Store& store, WorkMonth month) {
     std::vector<Holiday> offer = calendarHolidays(month);
-    for (const LocalHolidayLine& line : loadLocalHolidays(store)) {
-        const auto date = line.holiday ? dateIn(month, line.holiday->day) : std::nullopt;
-        if (date) offer.push_back({*date, line.holiday->name, HolidayKind::Local});
+    for (const LocalHolidayLine& line : localHolidays(store).load()) {
+        const auto day = line.key();
+        const auto date = day ? dateIn(month, *day) : std::nullopt;
+        if (date) offer.push_back({*date, line.record.name, HolidayKind::Local});
     }
     std::ranges::stable_sort(offer, {}, &Holiday::date);
     return offer;

@@ -38,8 +38,8 @@ std::string storageFinding(const std::string& text) {
 }  // namespace
 
 std::string findingOf(PunchCell cell, const std::string& text) {
-    if (isTime(cell) && !text.empty() && !parseTypedTime(text))
-        return "\"" + text + "\" não é uma hora de 00:00 a 23:59.";
+    if (const Hint hint = timeHint(text, Entry::Left); isTime(cell) && !hint.text.empty())
+        return hint.text;
     const std::size_t width = fieldOf(cell).column.width;
     if (characterCount(text) > width && !isCutByDesign(text))
         return "\"" + text + "\" passa de " + std::to_string(width) + " caracteres.";

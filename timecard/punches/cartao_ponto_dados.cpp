@@ -1,7 +1,6 @@
 #include "timecard/punches/cartao_ponto_dados.h"
 
 #include "foundation/register/company_register.h"
-#include "timecard/month/changed_elsewhere.h"
 #include "timecard/month/overtime_record.h"
 #include "timecard/month/selected_month.h"
 #include "timecard/punches/cell_block.h"
@@ -27,9 +26,7 @@ constexpr std::string_view kSaturdayNormal = "Sábado(Normal)";
 constexpr std::string_view kSaturdayExtra = "Sábado(Extra)";
 
 std::string nameOf(const Workplace& at, const CompanyCode& code) {
-    for (const CompanyLine& line : loadCompanies(at.store()))
-        if (line.code() == code) return line.company.name;
-    return {};
+    return findCompany(at.store(), code).value_or(Company()).name;
 }
 
 /// ENTER keeps what is recorded of Saturdays, where something is.
@@ -198,7 +195,7 @@ bool CartaoPontoDados::saveSchedule() {
 void CartaoPontoDados::requireScheduleAsShown() const {
     const auto onDisk = loadSchedule(at_.store(), {company_.value(), selectedCode()});
     if (onDisk.value_or(StandardSchedule()) != schedule_.recorded())
-        throw Fault("schedule changed on disk", std::string(kChangedElsewhere));
+        throw employeeChangedElsewhere("schedule");
 }
 
 void CartaoPontoDados::requireReadableSchedule() const {
@@ -273,7 +270,7 @@ bool CartaoPontoDados::savePunches() {
         const CompanyCode& company = company_.value();
         const auto onDisk = loadPunches(at_.store(), {company, selectedCode()}, settings_.month);
         if (onDisk.value_or(blankMonth(settings_.month)) != sheet_.recorded())
-            throw Fault("punches changed on disk", std::string(kChangedElsewhere));
+            throw employeeChangedElsewhere("punches");
         std::vector<FileSystem::NewContent> batch;
         PunchFiles(at_.store(), desk_.payroll, settings_)
             .add(batch, {company, selectedCode()},

@@ -1,5 +1,4 @@
 #include "foundation/values/text.h"
-#include "timecard/month/changed_elsewhere.h"
 #include "timecard/punches/application_checks.h"
 #include "timecard/punches/cartao_ponto_dados.h"
 #include "timecard/punches/punch_application.h"
@@ -106,8 +105,7 @@ bool CartaoPontoDados::applyPunches() {
         if (!saveTypedSchedule()) return false;
         const auto hold = holdFolder(at_);
         requireScheduleAsShown();
-        if (at_.files.read(punchFile()) != before)
-            throw Fault("punches changed on disk", std::string(kChangedElsewhere));
+        if (at_.files.read(punchFile()) != before) throw employeeChangedElsewhere("punches");
         if (!requireOpenMonth()) return false;
         ListApplication application(at_.store(), desk_, applicationOrder());
         ListApplication::Batch batch;

@@ -141,7 +141,7 @@ std::optional<ListApplication::Batch> ListApplication::fill(const std::vector<Em
     remarks_.clear();
     std::map<EmployeeCode, Employee> people;
     for (EmployeeLine& line : EmployeeRegister(store_, order_.company).load())
-        if (const auto code = line.code()) people.emplace(*code, std::move(line.employee));
+        if (const auto code = line.key()) people.emplace(*code, std::move(line.record));
     look(people);
     Batch batch;
     std::set<EmployeeCode> seen;

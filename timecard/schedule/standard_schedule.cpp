@@ -77,6 +77,16 @@ const std::optional<TimeOfDay>& timeAt(const StandardSchedule& schedule, std::si
     return schedule.*field.day.*field.pair.*field.time;
 }
 
+std::string completedTime(std::string_view typed) {
+    const auto time = parseTypedTime(typed);
+    return time ? timeText(*time) : std::string(typed);
+}
+
+Hint timeHint(std::string_view typed, Entry entry) {
+    if (typed.empty() || entry == Entry::Typing || parseTypedTime(typed)) return {};
+    return {Hint::Tone::Warning, "\"" + std::string(typed) + "\" não é uma hora de 00:00 a 23:59."};
+}
+
 std::optional<TimeOfDay> parseTypedTime(std::string_view text) {
     if (text.empty()) return std::nullopt;
     if (const auto time = parseTime(text)) return time;

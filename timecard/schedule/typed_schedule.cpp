@@ -22,9 +22,7 @@ TypedSchedule::TypedSchedule(const StandardSchedule& recorded)
 }
 
 void TypedSchedule::type(std::size_t position, std::string_view text) {
-    const std::string_view typed = trimmed(text);
-    const auto time = parseTypedTime(typed);
-    texts_.at(position) = time ? timeText(*time) : std::string(typed);
+    texts_.at(position) = completedTime(trimmed(text));
 }
 
 std::optional<std::string> TypedSchedule::firstFinding() const {
@@ -34,9 +32,7 @@ std::optional<std::string> TypedSchedule::firstFinding() const {
 }
 
 std::string TypedSchedule::findingAt(std::size_t position) const {
-    const std::string& typed = texts_.at(position);
-    if (typed.empty() || parseTypedTime(typed)) return {};
-    return "\"" + typed + "\" não é uma hora de 00:00 a 23:59.";
+    return timeHint(texts_.at(position), Entry::Left).text;
 }
 
 bool TypedSchedule::hasSaturdayTimes() const {

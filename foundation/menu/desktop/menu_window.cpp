@@ -245,7 +245,7 @@ bool MenuWindow::start() {
 
 void MenuWindow::refresh() {
     const CompanyLine* company = menu_.selected();
-    companyName_->setText(company ? toQt(company->company.code + "  " + company->company.name)
+    companyName_->setText(company ? toQt(company->record.code + "  " + company->record.name)
                                   : QStringLiteral("Selecione uma empresa"));
     today_->setText(dayLine(at_.clock.today()));
     showOverview();
@@ -257,9 +257,9 @@ void MenuWindow::fillCompanies() {
     const QSignalBlocker quiet(companies_);
     companies_->clear();
     for (const CompanyLine& line : menu_.companies()) {
-        auto* item = new QListWidgetItem(toQt(line.company.code + "  " + line.company.name));
-        if (!line.code()) {
-            item->setText(RegisterList::unreadRow(line.bytes).cells.join(QLatin1Char(' ')));
+        auto* item = new QListWidgetItem(toQt(line.record.code + "  " + line.record.name));
+        if (!line.key()) {
+            item->setText(QStringLiteral("⚠ ") + toQt(unreadRow(line.bytes).searched));
             item->setFlags(Qt::NoItemFlags);
         }
         item->setToolTip(item->text());

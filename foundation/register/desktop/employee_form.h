@@ -3,54 +3,28 @@
 #include "foundation/register/employee.h"
 #include "foundation/widgets/desktop/record_form.h"
 
-#include <QTabWidget>
-
-#include <vector>
+class QTabWidget;
 
 namespace winvrx {
 
-class ChoiceField;
-class NotesField;
+class Empregados;
 
-/// Every field of an employee record, in tabs by subject.
-class EmployeeForm : public QTabWidget {
-    Q_OBJECT
-
+/// Every field of an employee record, in tabs by subject. `employees` outlives it.
+class EmployeeForm : public RecordForm<Employee> {
   public:
-    explicit EmployeeForm(QWidget* parent);
+    EmployeeForm(Empregados& employees, QWidget* window);
 
-    /// `isNew`: the code may be typed. The code of a recorded employee stands in file names.
-    /// `status` is shown as the employee's situation.
-    void showEmployee(const Employee& employee, bool isNew, const QString& status);
-    /// The employee shown, with what was typed since.
-    [[nodiscard]] Employee typed() const;
-    [[nodiscard]] bool isDirty() const { return typed() != shown_; }
-    void focusFirst();
-    /// Leads to the first required field that is empty or holds no date; false when there is none.
-    bool focusMissing();
-    /// From the last field of a tab to the first of the next one; false from any other place.
-    bool moveToNextTab();
+    void show(std::optional<std::size_t> position) override;
+    void focusFirst() override;
 
-  signals:
-    void edited();
+  protected:
+    [[nodiscard]] bool isMissing(const Employee& employee, Member member) const override;
 
   private:
-    void addPage(const QString& title, int tab);
-    void addChoices(QWidget* page);
-    void addNotes(QWidget* page);
-    void addChoice(std::string Employee::*member, ChoiceField* field);
+    [[nodiscard]] static QVBoxLayout& addPage(QTabWidget& pages, const QString& title);
     void checkScale();
-    void focus(QWidget* field);
 
-    struct BoundChoice {
-        std::string Employee::*member;
-        ChoiceField* field;
-    };
-
-    RecordForm<Employee> fields_;
-    std::vector<BoundChoice> choices_;
-    NotesField* notes_ = nullptr;
-    Employee shown_;
+    Empregados& employees_;
 };
 
 }  // namespace winvrx

@@ -25,12 +25,6 @@ std::filesystem::path pathOf(const QString& file) {
     return std::filesystem::path(file.toStdU16String());
 }
 
-std::optional<std::size_t> positionOf(const Empregados& list, const std::string& bytes) {
-    for (std::size_t i = 0; i < list.lines().size(); ++i)
-        if (list.lines()[i].bytes == bytes) return i;
-    return std::nullopt;
-}
-
 }  // namespace
 
 void EmpregadosWindow::addListCommands() {
@@ -72,30 +66,21 @@ void EmpregadosWindow::addToMenu(QMenu* menu, const char* name, const QString& t
     connect(action, &QAction::triggered, this, command);
 }
 
-void EmpregadosWindow::runOnList(const std::function<bool()>& command) {
-    if (isDirty() && !mayDiscardTyped()) return;
-    const std::string selected =
-        current() ? empregados_.lines().at(*current()).bytes : std::string();
-    if (!command()) return showState();
-    const auto position = positionOf(empregados_, selected);
-    refresh(position ? position : current());
-}
-
 void EmpregadosWindow::transfer() {
     if (!current()) return empregados_.askForEmployee();
-    if (!empregados_.offersTransfer()) return;
+    if (!empregados_.requireOtherCompany()) return;
     QStringList names;
     for (const CompanyLine& line : empregados_.otherCompanies())
-        names << toQt(line.company.code + " " + line.company.name);
+        names << toQt(line.record.code + " " + line.record.name);
     QInputDialog dialog(this);
     dialog.setObjectName(QStringLiteral("empregados.target"));
     dialog.setWindowTitle(QStringLiteral("Transferência"));
     dialog.setLabelText(QStringLiteral("Transferir %1 para a empresa:")
-                            .arg(toQt(empregados_.lines().at(*current()).employee.name)));
+                            .arg(toQt(empregados_.lines().at(*current()).record.name)));
     dialog.setComboBoxItems(names);
     if (dialog.exec() != QDialog::Accepted) return;
     const auto chosen = static_cast<std::size_t>(names.indexOf(dialog.textValue()));
-    const CompanyCode target = empregados_.otherCompanies().at(chosen).code().value();
+    const CompanyCode target = empregados_.otherCompanies().at(chosen).key().value();
     runOnList([&] { return empregados_.transfer(*current(), target); });
 }
 

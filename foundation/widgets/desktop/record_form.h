@@ -1,18 +1,21 @@
 #pragma once
 
-#include "foundation/values/desktop/qt_text.h"
-#include "foundation/values/text.h"
-#include "foundation/widgets/desktop/checked_field.h"
+#include "foundation/desk/list_commands.h"
+#include "foundation/files/record_fields.h"
+#include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/record_editor.h"
 
 #include <QGridLayout>
+#include <QVBoxLayout>
 
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace winvrx {
 
-/// Where a text field stands and what it is called; caption and width come from the record's
-/// layout.
+/// Where a field stands and what it is called; caption, width and whether it is required come from
+/// the record's layout.
 template <typename Record>
 struct FieldPlacement {
     std::string Record::*member;
@@ -21,70 +24,112 @@ struct FieldPlacement {
     int group;
     int row;
     int span;  ///< of the kGridColumns of the grid
-    FieldCheck check = FieldCheck::None;
+    FieldKind kind = {};
+    std::string_view caption = {};  ///< in the place of the layout's
 };
 
 inline constexpr int kGridColumns = 12;
 
-/// The text fields of a form, each bound to a member of the record that it shows.
+/// The form of a record that is a table of texts, built from a table of placements.
 template <typename Record>
-class RecordForm {
+class RecordForm : public RecordEditor {
   public:
     using Member = std::string Record::*;
+    using Placement = FieldPlacement<Record>;
 
-    void bind(Member member, TextField* field) { fields_.push_back({member, field}); }
+    /// `screen` is the prefix of the object names: "empresa".
+    RecordForm(ListCommands<Record>& commands, const QString& screen, QObject* parent)
+        : RecordEditor(parent), commands_(commands), screen_(screen) {}
 
-    /// Builds the fields of one group, row by row, and binds them; `make` gives the field of a
-    /// placement.
-    template <typename Placements, typename Make>
-    void layOut(const Placements& placements, int group, QGridLayout& grid, Make&& make) {
-        for (int column = 0; column < kGridColumns; ++column)
-            grid.setColumnStretch(column, 1);
+    void show(std::optional<std::size_t> position) override {
+        shown_ = position ? Record{} : commands_.freshRecord();
+        if (position && commands_.lines().at(*position).key())
+            shown_ = commands_.lines()[*position].record;
+        for (std::size_t place = 0; place < members_.size(); ++place)
+            fieldAt(place)->setStored(shown_.*members_[place]);
+    }
+
+    [[nodiscard]] bool save(std::optional<std::size_t> position) override {
+        const Record record = typed();
+        if (position ? commands_.change(*position, record) : commands_.include(record)) return true;
+        for (std::size_t place = 0; place < members_.size(); ++place)
+            if (isMissing(record, members_[place])) {
+                focus(fieldAt(place));
+                break;
+            }
+        return false;
+    }
+
+    /// The record shown, with what was typed since.
+    [[nodiscard]] Record typed() const {
+        Record record = shown_;
+        for (std::size_t place = 0; place < members_.size(); ++place)
+            record.*members_[place] = fieldAt(place)->stored();
+        return record;
+    }
+
+  protected:
+    /// Builds the fields of one group, row by row, at the end of `column`.
+    template <typename Placements>
+    void addGroup(const Placements& placements, int group, QVBoxLayout& column) {
+        auto* grid = new QGridLayout;
+        grid->setHorizontalSpacing(look::kGap);
+        grid->setVerticalSpacing(look::kSmallGap / 2);
+        for (int place = 0; place < kGridColumns; ++place)
+            grid->setColumnStretch(place, 1);
         int row = -1;
         int next = 0;
-        for (const auto& place : placements) {
+        for (const Placement& place : placements) {
             if (place.group != group) continue;
             if (place.row != row) next = 0;
             row = place.row;
-            TextField* field = make(place);
-            grid.addWidget(field, row, next, 1, place.span, Qt::AlignTop);
+            grid->addWidget(make(place, column.parentWidget()), row, next, 1, place.span,
+                            Qt::AlignTop);
             next += place.span;
-            bind(place.member, field);
         }
+        column.addLayout(grid);
     }
 
-    void show(const Record& record) {
-        for (const Binding& bound : fields_)
-            bound.field->setText(toQt(record.*bound.member));
-    }
-
-    /// Puts what was typed into the record's bound members, trimmed.
-    void readInto(Record& record) const {
-        for (const Binding& bound : fields_)
-            record.*bound.member = trimmed(toUtf8(bound.field->text()));
-    }
-
-    /// nullptr when the member has no text field.
-    [[nodiscard]] TextField* fieldOf(Member member) const {
-        for (const Binding& bound : fields_)
-            if (bound.member == member) return bound.field;
+    [[nodiscard]] Field* field(Member member) const {
+        for (std::size_t place = 0; place < members_.size(); ++place)
+            if (members_[place] == member) return fieldAt(place);
         return nullptr;
     }
 
-    /// Calls `visit` with each field.
-    template <typename Visit>
-    void forEach(Visit&& visit) const {
-        for (const Binding& bound : fields_)
-            visit(bound.field);
+    /// Whether a refusal is because of this member.
+    [[nodiscard]] virtual bool isMissing(const Record& record, Member member) const {
+        return layoutOf(member).isRequired && (record.*member).empty();
     }
 
   private:
-    struct Binding {
-        Member member;
-        TextField* field;
-    };
+    [[nodiscard]] static const RecordField<Record>& layoutOf(Member member) {
+        return fieldHolding(RecordLayout<Record>::kFields, member);
+    }
 
-    std::vector<Binding> fields_;
+    [[nodiscard]] Field* make(const Placement& place, QWidget* parent) {
+        const RecordField<Record>& layout = layoutOf(place.member);
+        QString caption =
+            withMnemonic(place.caption.empty() ? layout.caption : place.caption, place.mnemonic);
+        if (layout.isRequired) caption += QStringLiteral(" *");
+        // What the field shows beyond the record's text needs its room.
+        const std::size_t more =
+            place.kind.stored ? place.kind.completed("0").size() - place.kind.stored("0").size()
+                              : 0;
+        auto* field =
+            new Field({.caption = caption,
+                       .objectName = screen_ + QLatin1Char('.') + QLatin1String(place.name),
+                       .width = layout.column.width + more,
+                       .kind = place.kind},
+                      parent);
+        members_.push_back(place.member);
+        add(field);
+        return field;
+    }
+
+    ListCommands<Record>& commands_;
+    QString screen_;
+    std::vector<Member> members_;
+    Record shown_;
 };
 
 }  // namespace winvrx

@@ -83,48 +83,38 @@ void RegisterList::setEmptyTexts(const QString& text, const QString& action) {
     filter();
 }
 
-RegisterList::Row RegisterList::unreadRow(std::string_view lineBytes) {
-    const QString shown = toQt(readableText(lineBytes));
-    const QString text = shown.isEmpty() ? QStringLiteral("Linha em branco")
-                                         : QStringLiteral("Linha não entendida: ") + shown;
-    return {{QStringLiteral("⚠"), text}, text, false};
-}
-
-QString RegisterList::unreadCount(std::ptrdiff_t lines) {
-    if (lines == 0) return {};
-    return lines == 1 ? QStringLiteral(", 1 linha não entendida")
-                      : QStringLiteral(", %1 linhas não entendidas").arg(lines);
-}
-
-void RegisterList::setRows(const std::vector<Row>& rows) {
+void RegisterList::setRows(const std::vector<ListRow>& rows) {
     const QSignalBlocker quiet(tree_);
     tree_->clear();
     QFont apart = tree_->font();
     apart.setItalic(true);
     QList<QTreeWidgetItem*> items;
     items.reserve(static_cast<qsizetype>(rows.size()));
-    for (const Row& row : rows) {
-        auto* item = new QTreeWidgetItem(row.cells);
-        item->setData(0, kSearchedRole, row.searched);
+    for (const ListRow& row : rows) {
+        auto* item = new QTreeWidgetItem;
+        item->setData(0, kSearchedRole, toQt(row.searched));
         item->setData(0, kUnderstoodRole, row.understood);
-        for (int cell = 0; cell < row.cells.size(); ++cell)
-            item->setToolTip(cell, row.cells[cell]);
-        for (int cell = 0; !row.understood && cell < row.cells.size(); ++cell)
-            item->setFont(cell, apart);
+        for (int cell = 0; cell < static_cast<int>(row.cells.size()); ++cell) {
+            item->setText(cell, toQt(row.cells[static_cast<std::size_t>(cell)]));
+            item->setToolTip(cell, item->text(cell));
+            if (!row.understood) item->setFont(cell, apart);
+        }
         items << item;
     }
     tree_->addTopLevelItems(items);
-    fitColumns(rows);
+    fitColumns();
     filter();
 }
 
-void RegisterList::fitColumns(const std::vector<Row>& rows) {
+void RegisterList::fitColumns() {
     const QFontMetrics metrics = tree_->fontMetrics();
     for (int column = 0; column < tree_->columnCount(); ++column) {
         if (column == kStretched) continue;
         QString longest = tree_->headerItem()->text(column);
-        for (const Row& row : rows)
-            if (row.cells.value(column).size() > longest.size()) longest = row.cells[column];
+        for (int row = 0; row < tree_->topLevelItemCount(); ++row)
+            if (const QString text = tree_->topLevelItem(row)->text(column);
+                text.size() > longest.size())
+                longest = text;
         const int wanted = std::min(metrics.horizontalAdvance(longest),
                                     kWidestInLetters * metrics.averageCharWidth());
         tree_->setColumnWidth(

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "foundation/desk/list_screen.h"
+
 #include <QStringList>
 #include <QWidget>
 
 #include <optional>
-#include <string_view>
 #include <vector>
 
 class QLabel;
@@ -23,17 +24,6 @@ class RegisterList : public QWidget {
     Q_OBJECT
 
   public:
-    struct Row {
-        QStringList cells;
-        QString searched;        ///< the text that the search looks into
-        bool understood = true;  ///< false: shown apart, it cannot be changed
-    };
-
-    /// The row of a line that nobody understands, with what can be shown of it.
-    [[nodiscard]] static Row unreadRow(std::string_view lineBytes);
-    /// ", 2 linhas não entendidas", to stand behind a count of records; empty for none.
-    [[nodiscard]] static QString unreadCount(std::ptrdiff_t lines);
-
     /// `screen` is the prefix of the object names: "empresa.list", "empresa.search".
     RegisterList(const QString& screen, const QString& title, const QString& searchHint,
                  const QStringList& headings, QWidget* parent);
@@ -41,7 +31,7 @@ class RegisterList : public QWidget {
     /// What an empty list says, and the button that it offers; an empty `action` offers none.
     void setEmptyTexts(const QString& text, const QString& action);
 
-    void setRows(const std::vector<Row>& rows);
+    void setRows(const std::vector<ListRow>& rows);
     [[nodiscard]] std::size_t count() const;
     [[nodiscard]] bool isUnderstood(std::size_t position) const;
     /// Marks the row without emitting chosen(); nullopt marks none.
@@ -65,7 +55,7 @@ class RegisterList : public QWidget {
     void buildTree(const QString& screen, const QString& title, const QStringList& headings);
     void buildEmptyPage(const QString& screen);
     /// Measures the longest text of each column only: measuring every cell of a long list shows.
-    void fitColumns(const std::vector<Row>& rows);
+    void fitColumns();
     void filter();
     void showPage(bool anyVisible);
 

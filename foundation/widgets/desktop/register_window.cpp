@@ -1,7 +1,9 @@
 #include "foundation/widgets/desktop/register_window.h"
 
+#include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/look.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
@@ -19,12 +21,13 @@ constexpr int kWideShare = 40;
 
 }  // namespace
 
-RegisterWindow::RegisterWindow(const Texts& texts, QWidget* parent)
-    : ScreenWindow(texts.screen, texts.title, parent) {
+RegisterWindow::RegisterWindow(ListScreen& list, const Texts& texts, QWidget* parent)
+    : ScreenWindow(texts.screen, texts.title, parent), commands_(list) {
+    connect(this, &ScreenWindow::helpRequested, this, [this] { commands_.help(); });
     list_ = new RegisterList(texts.screen, texts.listTitle, texts.searchHint, texts.headings, this);
     list_->setEmptyTexts(texts.emptyList, texts.emptyAction);
     connect(list_, &RegisterList::chosen, this, &RegisterWindow::choose);
-    connect(list_, &RegisterList::entered, this, [this] { focusForm(); });
+    connect(list_, &RegisterList::entered, this, [this] { form_->focusFirst(); });
     connect(list_, &RegisterList::firstRequested, this, &RegisterWindow::startNew);
     addCommands();
 }
@@ -58,8 +61,9 @@ void RegisterWindow::addCommands() {
     }
 }
 
-void RegisterWindow::assemble(QWidget* form, QWidget* underList, ListRoom room) {
+void RegisterWindow::assemble(RecordEditor* form, QWidget* underList, ListRoom room) {
     form_ = form;
+    connect(form_, &RecordEditor::edited, this, &RegisterWindow::showState);
     const int listShare = room == ListRoom::Wide ? kWideShare : kThirdShare;
     auto* body = new QWidget(this);
     auto* row = new QHBoxLayout(body);
@@ -72,7 +76,7 @@ void RegisterWindow::assemble(QWidget* form, QWidget* underList, ListRoom room) 
     column->addWidget(list_, 1);
     if (underList) column->addWidget(underList);
     split->addWidget(left);
-    split->addWidget(form);
+    split->addWidget(form->widget());
     split->setStretchFactor(0, listShare);
     split->setStretchFactor(1, kFormShare);
     split->setHandleWidth(look::kMargin);
@@ -81,37 +85,69 @@ void RegisterWindow::assemble(QWidget* form, QWidget* underList, ListRoom room) 
     setBody(body);
 }
 
+void RegisterWindow::openAt(std::optional<std::size_t> position) {
+    commands_.load();
+    refresh(position);
+    form_->focusFirst();
+}
+
 void RegisterWindow::refresh(std::optional<std::size_t> position) {
-    const auto rows = this->rows();
+    std::vector<ListRow> rows;
+    for (std::size_t row = 0; row < commands_.count(); ++row)
+        rows.push_back(commands_.rowAt(row));
     list_->setRows(rows);
     if (rows.empty()) position.reset();
     if (position) position = std::min(*position, rows.size() - 1);
     turnTo(position);
 }
 
+void RegisterWindow::refreshAt(const std::string& shown) {
+    const auto position = commands_.positionOf(shown);
+    refresh(current_ && position ? position : current_);
+}
+
+std::string RegisterWindow::currentBytes() const {
+    return current_ ? commands_.bytesAt(*current_) : std::string();
+}
+
+void RegisterWindow::recover() {
+    if (!commands_.failed() || form_->isDirty()) return showState();
+    const std::string shown = currentBytes();
+    commands_.reloadQuietly();
+    refreshAt(shown);
+}
+
+void RegisterWindow::runOnList(const std::function<bool()>& command) {
+    if (!mayClose()) return;
+    const std::string shown = currentBytes();
+    if (!command()) return recover();
+    refreshAt(shown);
+}
+
 void RegisterWindow::turnTo(std::optional<std::size_t> position) {
     current_ = position;
     list_->mark(position);
-    showRecord(position);
+    form_->show(position);
+    setSubtitle(toQt(commands_.counts()));
     const bool understood = position && list_->isUnderstood(*position);
-    form_->setEnabled(!position || understood);
+    form_->widget()->setEnabled(!position || understood);
     change_->setEnabled(understood);
     remove_->setEnabled(position.has_value());
     showState();
 }
 
 void RegisterWindow::showState() {
-    QString text = newRecordTitle();
+    QString text = toQt(commands_.newRecordTitle());
     if (current_) text = QStringLiteral("%1 de %2").arg(*current_ + 1).arg(list_->count());
     if (current_ && !list_->isUnderstood(*current_))
         text += QStringLiteral(" · Linha não entendida: fica no arquivo como está");
-    if (isDirty()) text += QStringLiteral(" · Alterações não gravadas");
+    if (form_->isDirty()) text += QStringLiteral(" · Alterações não gravadas");
     setState(text);
 }
 
 void RegisterWindow::choose(std::size_t position) {
     if (current_ == position) return;
-    if (isDirty() && !mayDiscardTyped()) {
+    if (!mayClose()) {
         // The list is still handling the key or click that moved it.
         QMetaObject::invokeMethod(
             this, [this] { list_->mark(current_); }, Qt::QueuedConnection);
@@ -121,9 +157,9 @@ void RegisterWindow::choose(std::size_t position) {
 }
 
 void RegisterWindow::startNew() {
-    if (isDirty() && !mayDiscardTyped()) return;
+    if (!mayClose()) return;
     turnTo(std::nullopt);
-    focusForm();
+    form_->focusFirst();
 }
 
 void RegisterWindow::finishField() {
@@ -132,25 +168,24 @@ void RegisterWindow::finishField() {
 
 void RegisterWindow::include() {
     finishField();
-    if (current_) {
-        startNew();
-    } else if (includeTyped()) {
-        refresh(rows().size() - 1);
-        list_->takeFocus();
-    }
+    if (current_) return startNew();
+    if (!form_->save(std::nullopt)) return recover();
+    refresh(commands_.count() - 1);
+    list_->takeFocus();
 }
 
 void RegisterWindow::change() {
     if (!current_) return;
     finishField();
-    if (!isDirty())
-        focusForm();
-    else if (changeTyped(*current_))
-        refresh(current_);
+    if (!form_->isDirty()) return form_->focusFirst();
+    if (!form_->save(current_)) return recover();
+    refresh(current_);
 }
 
 void RegisterWindow::remove() {
-    if (current_ && removeRecord(*current_)) refresh(current_);
+    if (!current_) return;
+    if (!commands_.remove(*current_)) return recover();
+    refresh(current_);
 }
 
 void RegisterWindow::save() {
@@ -161,7 +196,13 @@ void RegisterWindow::save() {
 }
 
 bool RegisterWindow::mayClose() {
-    return !isDirty() || mayDiscardTyped();
+    return !form_->isDirty() || commands_.confirmDiscardTyped();
+}
+
+void RegisterWindow::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && form_->moveToNextPage(focusWidget())) return;
+    ScreenWindow::keyPressEvent(event);
 }
 
 }  // namespace winvrx

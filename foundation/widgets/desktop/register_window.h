@@ -1,10 +1,12 @@
 #pragma once
 
+#include "foundation/desk/list_screen.h"
+#include "foundation/widgets/desktop/record_editor.h"
 #include "foundation/widgets/desktop/register_list.h"
 #include "foundation/widgets/desktop/screen_window.h"
 
+#include <functional>
 #include <optional>
-#include <vector>
 
 class QToolButton;
 
@@ -30,36 +32,35 @@ class RegisterWindow : public ScreenWindow {
         QStringList headings;
     };
 
-    RegisterWindow(const Texts& texts, QWidget* parent);
+    /// `list` outlives the window.
+    RegisterWindow(ListScreen& list, const Texts& texts, QWidget* parent);
 
     /// The list's part of the window: a third, or more beside a form that can spare it.
     enum class ListRoom { Third, Wide };
 
-    /// To be called once, at the end of the derived constructor.
-    void assemble(QWidget* form, QWidget* underList, ListRoom room = ListRoom::Third);
-    /// Fills the list and shows the record at `position`; nullopt turns to a new record.
-    void refresh(std::optional<std::size_t> position);
-    /// To be called when something was typed.
-    void showState();
+    /// To be called once, then `openAt`.
+    void assemble(RecordEditor* form, QWidget* underList, ListRoom room = ListRoom::Third);
+    /// Reads the list and shows the record at `position`; nullopt turns to a new record.
+    void openAt(std::optional<std::size_t> position);
     [[nodiscard]] std::optional<std::size_t> current() const { return current_; }
-
-    [[nodiscard]] virtual std::vector<RegisterList::Row> rows() const = 0;
-    /// Fills the form with the record, or with a fresh one.
-    virtual void showRecord(std::optional<std::size_t> position) = 0;
-    [[nodiscard]] virtual bool isDirty() const = 0;
-    virtual void focusForm() = 0;
-    [[nodiscard]] virtual QString newRecordTitle() const = 0;
-
-    /// The screen's commands. True when carried out.
-    [[nodiscard]] virtual bool includeTyped() = 0;
-    [[nodiscard]] virtual bool changeTyped(std::size_t position) = 0;
-    [[nodiscard]] virtual bool removeRecord(std::size_t position) = 0;
-    [[nodiscard]] virtual bool mayDiscardTyped() = 0;
+    /// Runs a command on the list unless typed text stays; the record stays selected.
+    void runOnList(const std::function<bool()>& command);
 
     [[nodiscard]] bool mayClose() override;
 
+    void keyPressEvent(QKeyEvent* event) override;
+
   private:
     void addCommands();
+    /// Fills the list and shows the record at `position`.
+    void refresh(std::optional<std::size_t> position);
+    /// After a command: the record is still `shown`, or the one in its place.
+    void refreshAt(const std::string& shown);
+    /// After a command that was not carried out. Where it failed the rows show what is on disk, but
+    /// for text that is typed: that stays over the line for which it was meant.
+    void recover();
+    void showState();
+    [[nodiscard]] std::string currentBytes() const;
     void turnTo(std::optional<std::size_t> position);
     void choose(std::size_t position);
     void startNew();
@@ -70,8 +71,9 @@ class RegisterWindow : public ScreenWindow {
     void remove();
     void save();
 
+    ListScreen& commands_;
     RegisterList* list_;
-    QWidget* form_ = nullptr;
+    RecordEditor* form_ = nullptr;
     QToolButton* change_ = nullptr;
     QToolButton* remove_ = nullptr;
     std::optional<std::size_t> current_;

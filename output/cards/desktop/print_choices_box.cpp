@@ -1,7 +1,7 @@
 #include "output/cards/desktop/print_choices_box.h"
 
 #include "foundation/values/desktop/qt_text.h"
-#include "foundation/widgets/desktop/field_box.h"
+#include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/option_group.h"
 
@@ -145,12 +145,13 @@ QWidget* PrintChoicesBox::buildPrinterTrays() {
     row->setSpacing(look::kGap);
     for (std::size_t at = 0; at < trays_.size(); ++at) {
         const QString number = QString::number(at + 1);
-        trays_[at] = new TextField(QStringLiteral("Bandeja &") + number,
-                                   QStringLiteral("cartao.printerTray") + number,
-                                   static_cast<int>(kTrayWidth), nullptr, part);
+        trays_[at] = new Field({.caption = QStringLiteral("Bandeja &") + number,
+                                .objectName = QStringLiteral("cartao.printerTray") + number,
+                                .width = kTrayWidth},
+                               part);
         row->addWidget(trays_[at]);
     }
-    trays_.back()->edit()->setProperty("lastField", true);
+    trays_.back()->input()->setProperty("lastField", true);
     column->addLayout(row);
     return part;
 }
@@ -166,7 +167,7 @@ void PrintChoicesBox::showChoices(const PrintChoices& choices) {
     showSheetExit();
     printHeader_->setChecked(choices.printer.printHeader);
     for (std::size_t at = 0; at < trays_.size(); ++at)
-        trays_[at]->setText(toQt(choices.printer.trays[at]));
+        trays_[at]->setStored(choices.printer.trays[at]);
 }
 
 void PrintChoicesBox::connectAll() {
@@ -174,8 +175,8 @@ void PrintChoicesBox::connectAll() {
     for (OptionGroup* group : {mode_, output_, tray_, sheetExit_})
         connect(group, &OptionGroup::picked, this, &PrintChoicesBox::changed);
     connect(printHeader_, &QCheckBox::toggled, this, &PrintChoicesBox::changed);
-    for (TextField* field : trays_)
-        connect(field, &TextField::edited, this, &PrintChoicesBox::changed);
+    for (Field* field : trays_)
+        connect(field, &Field::edited, this, &PrintChoicesBox::changed);
 }
 
 PrintChoices PrintChoicesBox::choices() const {

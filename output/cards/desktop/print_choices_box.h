@@ -12,7 +12,7 @@ class QLabel;
 namespace winvrx {
 
 class OptionGroup;
-class TextField;
+class Field;
 
 /// The choices of the printing screen: where to, how many at a time, how the card is fed and comes
 /// out, and whether its header is printed.
@@ -48,7 +48,7 @@ class PrintChoicesBox : public QWidget {
     QLabel* picture_ = nullptr;
     QLabel* pictureText_ = nullptr;
     QCheckBox* printHeader_ = nullptr;
-    std::array<TextField*, 3> trays_{};
+    std::array<Field*, 3> trays_{};
 };
 
 }  // namespace winvrx

@@ -1,7 +1,7 @@
 #include "output/stocks/desktop/alignment_pad.h"
 
 #include "foundation/values/desktop/qt_text.h"
-#include "foundation/widgets/desktop/field_box.h"
+#include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
 
 #include <QComboBox>
@@ -89,7 +89,7 @@ QWidget* AlignmentPad::buildLineOffset() {
     lines_->setCompleter(nullptr);
     connect(lines_, &QComboBox::textActivated, this, &AlignmentPad::lineOffsetTyped);
     connect(lines_->lineEdit(), &QLineEdit::editingFinished, this, &AlignmentPad::finishTyping);
-    return new FieldBox(QStringLiteral("Descer a impressão em &linhas:"), lines_, this);
+    return new Field(QStringLiteral("Descer a impressão em &linhas:"), lines_, this);
 }
 
 void AlignmentPad::finishTyping() {

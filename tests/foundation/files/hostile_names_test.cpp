@@ -45,7 +45,7 @@ TEST_F(HostileNames, ACompanyLineNamesNoFileOutside) {
     screen.load();
     ASSERT_EQ(screen.lines().size(), kHostileCodes.size() + 1);
     for (std::size_t row = kHostileCodes.size(); row > 0; --row) {
-        EXPECT_FALSE(screen.lines()[row].code()) << screen.lines()[row].company.code;
+        EXPECT_FALSE(screen.lines()[row].key()) << screen.lines()[row].record.code;
         answerYes(1);
         EXPECT_FALSE(screen.change(row, sampleCompany(*parseDate("15/03/2024"))));
         EXPECT_EQ(desk.file("01Empresa"), bytes);

@@ -64,7 +64,7 @@ TEST_F(MenuTest, EmptyFolderYieldsTheSampleCompanyAndTheDriveLetter) {
     ASSERT_TRUE(started.start());
     EXPECT_EQ(contentOf(kOnC + "LocMen.lvc"), "C\r\n");
     ASSERT_EQ(started.companies().size(), 1U);
-    EXPECT_EQ(started.companies()[0].company.name, "EMPRESA MODELO LTDA");
+    EXPECT_EQ(started.companies()[0].record.name, "EMPRESA MODELO LTDA");
     EXPECT_EQ(contentOf(kOnC + "01Empresa").size(), 549U + 2U);
     EXPECT_THAT(desk.person.takeTexts(), IsEmpty());
 }

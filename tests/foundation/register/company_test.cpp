@@ -42,15 +42,15 @@ TEST(Company, TheSampleLineHasEachFieldAtItsPlace) {
                           {478, "SCSINDICATO S/A "},
                           {530, "222.333.444/0001-33 "}})
         EXPECT_EQ(line.substr(c.start - 1, std::string_view(c.bytes).size()), c.bytes) << c.start;
-    EXPECT_EQ(decodeCompany(line), sampleCompany(kToday));
-    EXPECT_EQ(encode(decodeCompany(line)), line);
+    EXPECT_EQ(decode<Company>(line), sampleCompany(kToday));
+    EXPECT_EQ(encode(decode<Company>(line)), line);
 }
 
 TEST(Company, LongTextsAreCutToTheirField) {
     Company company = sampleCompany(kToday);
     company.name = std::string(70, 'N');
     company.state = "São Paulo";
-    const Company stored = decodeCompany(encode(company));
+    const Company stored = decode<Company>(encode(company));
     EXPECT_EQ(stored.name, std::string(68, 'N'));
     EXPECT_EQ(stored.state, "Sã");
     EXPECT_EQ(stored.taxId, company.taxId);
@@ -59,7 +59,7 @@ TEST(Company, LongTextsAreCutToTheirField) {
 TEST(Company, BytesThatNobodyUnderstandsAreKept) {
     std::string line = encode(sampleCompany(kToday)) + " tail \x81";
     line.replace(120, 3, "\x01\x8D\t");
-    Company company = decodeCompany(line);
+    Company company = decode<Company>(line);
     EXPECT_EQ(encode(company, line), line);
     company.name = "OUTRA";
     line.replace(3, 68, "OUTRA" + std::string(63, ' '));
@@ -71,7 +71,7 @@ TEST(CompanyRegister, AMissingRegisterBeginsWithTheSampleCompany) {
     EXPECT_TRUE(loadCompanies({desk.files, kFolder}).empty());
     const auto lines = loadOrCreateCompanies(desk.at);
     ASSERT_EQ(lines.size(), 1U);
-    EXPECT_EQ(lines[0].company, sampleCompany(kToday));
+    EXPECT_EQ(lines[0].record, sampleCompany(kToday));
     EXPECT_EQ(desk.file("01Empresa").size(), 551U);
 }
 
@@ -89,24 +89,24 @@ TEST(CompanyRegister, LinesThatNobodyUnderstandsComeBackAsTheyWere) {
     files.content["/data/01Empresa"] = bytes;
     const auto lines = loadCompanies({files, kFolder});
     ASSERT_EQ(lines.size(), 4U);
-    EXPECT_TRUE(lines[0].code());
+    EXPECT_TRUE(lines[0].key());
     for (const std::size_t damaged : {1U, 2U, 3U})
-        EXPECT_FALSE(lines[damaged].code()) << damaged;
-    saveCompanies({files, kFolder}, lines);
+        EXPECT_FALSE(lines[damaged].key()) << damaged;
+    companyFile({files, kFolder}).save(lines);
     EXPECT_EQ(files.content["/data/01Empresa"], bytes);
 }
 
 TEST(CompanyRegister, TheLowestFreeCodeIsProposed) {
     std::vector<CompanyLine> lines;
-    EXPECT_EQ(lowestFreeCode(lines)->text(), "01");
+    EXPECT_EQ(lowestFreeCode(keysOf(lines))->text(), "01");
     for (int number = 1; number <= 99; ++number) {
         Company company;
         company.code = CompanyCode::fromNumber(number)->text();
         lines.push_back({{}, company});
     }
-    EXPECT_EQ(lowestFreeCode(lines), std::nullopt);
+    EXPECT_EQ(lowestFreeCode(keysOf(lines)), std::nullopt);
     lines.erase(lines.begin() + 41);
-    EXPECT_EQ(lowestFreeCode(lines)->text(), "42");
+    EXPECT_EQ(lowestFreeCode(keysOf(lines))->text(), "42");
 }
 
 }  // namespace

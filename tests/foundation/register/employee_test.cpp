@@ -44,14 +44,15 @@ TEST(Employee, EveryFieldStandsAtItsColumn) {
         EXPECT_EQ(static_cast<std::size_t>(std::count(line.begin(), line.end(), 'x')),
                   field.column.width)
             << field.caption;
-        EXPECT_EQ((decodeEmployee(line).*field.member).size(), field.column.width) << field.caption;
+        EXPECT_EQ((decode<Employee>(line).*field.member).size(), field.column.width)
+            << field.caption;
     }
 }
 
 TEST(Employee, ARewrittenLineKeepsWhatTheTableDoesNotKnow) {
     std::string line(720, '#');
     line.replace(0, 3, "001");
-    Employee employee = decodeEmployee(line);
+    Employee employee = decode<Employee>(line);
     EXPECT_EQ(encode(employee, line), line);
     employee.name = "ANA";
     const std::string changed = encode(employee, line);
@@ -60,11 +61,11 @@ TEST(Employee, ARewrittenLineKeepsWhatTheTableDoesNotKnow) {
 }
 
 TEST(Employee, ALineComesBackAsItWas) {
-    std::string leadingBlank = encode(decodeEmployee("001 ANA"));
+    std::string leadingBlank = encode(decode<Employee>("001 ANA"));
     leadingBlank.replace(4, 5, "  ANA");
     for (const std::string& line : {std::string("001 ANA"), std::string("X"), leadingBlank,
                                     std::string("001 \x81\x8D\x90 ?"), std::string(900, '\x9D')})
-        EXPECT_EQ(encode(decodeEmployee(line), line), line);
+        EXPECT_EQ(encode(decode<Employee>(line), line), line);
 }
 
 TEST(Employee, RecordTextsHaveAMeaning) {
@@ -72,7 +73,7 @@ TEST(Employee, RecordTextsHaveAMeaning) {
     employee.scale = "Normal";
     employee.shift = "TRES";
     employee.admission = "31/02/2024";
-    employee = decodeEmployee(encode(employee));
+    employee = decode<Employee>(encode(employee));
     EXPECT_EQ(employee.scale, "Norma");
     EXPECT_EQ(employee.scaleOr(Scale::FiveByOne), Scale::Normal);
     EXPECT_EQ(employee.shiftOr(), Shift::Tres);
@@ -109,8 +110,8 @@ TEST(EmployeeRegister, NothingIsWrittenWhenTheCopyFails) {
 }
 
 TEST(EmployeeRegister, CodesAreProposedFromTheLowestFree) {
-    EXPECT_EQ(EmployeeRegister::lowestFreeCode({})->text(), "001");
-    EXPECT_EQ(EmployeeRegister::lowestFreeCode({lineOf("003"), lineOf("001"), lineOf("?")})->text(),
+    EXPECT_EQ(lowestFreeCode(std::set<EmployeeCode>{})->text(), "001");
+    EXPECT_EQ(lowestFreeCode(keysOf<Employee>({lineOf("003"), lineOf("001"), lineOf("?")}))->text(),
               "002");
 }
 

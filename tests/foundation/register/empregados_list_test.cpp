@@ -15,6 +15,17 @@ const CompanyCode kOther = *CompanyCode::parse("02");
 
 class EmpregadosListTest : public ::testing::Test {
   protected:
+    EmpregadosListTest() { registerCompanies({"01", "02"}); }
+
+    void registerCompanies(const std::vector<std::string>& codes) {
+        desk_.file("01Empresa").clear();
+        Company company;
+        for (const std::string& code : codes) {
+            company.code = code;
+            desk_.file("01Empresa") += encode(company) + "\r\n";
+        }
+    }
+
     static Employee employee(const char* code, const char* name,
                              const char* admission = "12/03/2024") {
         return EmployeeDesk::employee(code, name, admission);
@@ -136,9 +147,10 @@ TEST_F(EmpregadosListTest, TransferLeavesWhatLiesThereUnderTheCode) {
     EXPECT_EQ(desk_.codes("02"), "0?1 003 ");
     EXPECT_EQ(desk_.file("02PadrHor001.pdx"), "of the torn line");
     EXPECT_EQ(desk_.file("02PadrHor003.pdx"), "of ANA");
-    desk_.file("02PadrHor001.pdx") = "of ANA";
+    desk_.file("01Transf001") = "02\r\n001\r\n";
     transfer();
-    EXPECT_EQ(desk_.codes("02"), "0?1 001 ") << "files that a transfer cut short has left";
+    EXPECT_EQ(desk_.codes("02"), "0?1 001 ") << "under the files that a move cut short has left";
+    EXPECT_FALSE(desk_.files.exists("/data/01Transf001"));
 }
 
 TEST_F(EmpregadosListTest, TransferIsRefused) {
@@ -155,10 +167,30 @@ TEST_F(EmpregadosListTest, TransferIsRefused) {
     constexpr auto kThere = "Este Funcionário Já Está Cadastrado na Outra Empresa!! ";
     expectRefusal("Transferência", kThere, transfer(0));
     expectRefusal("Transferência", kThere, transfer(1));
+    desk_.file("02CartaPonto") += encode(ana) + "\r\n";
+    expectRefusal("Transferência", kThere, transfer(0));
     expectRefusal("Transferência",
                   "Este Funcionário Possui Dados de Ponto e não poderá ser Transferido para Outra "
                   "Empresa!! ",
                   transfer(2));
+    desk_.files.remove("/data/01003-03-2024.bdx");
+    registerCompanies({"01", "03"});
+    expectRefusal("Erro", "Dados incorretos!", transfer(2));
+}
+
+TEST_F(EmpregadosListTest, AMarkedTransferIsFinished) {
+    const Employee ana = employee("001", "ANA");
+    registerCompanies({"01", "02", "03"});
+    desk_.record("02", {employee("007", "ANA")});
+    desk_.record("01", {ana, employee("002", "BIA")});
+    desk_.file("01Transf001") = "02\r\n007\r\n";
+    expectRefusal("Erro", "Dados incorretos!",
+                  [&] { return list_.transfer(0, *CompanyCode::parse("03")); });
+    desk_.person.answers = {Answer::Yes};
+    EXPECT_TRUE(list_.transfer(0, kOther)) << desk_.person.shown.back().text;
+    EXPECT_EQ(desk_.codes("01"), "002 ");
+    EXPECT_EQ(desk_.codes("02"), "007 ");
+    EXPECT_FALSE(desk_.files.exists("/data/01Transf001"));
 }
 
 TEST_F(EmpregadosListTest, AFullDiskLeavesBothCompaniesAsTheyWere) {

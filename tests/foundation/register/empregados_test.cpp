@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace winvrx {
 namespace {
 
@@ -64,7 +66,7 @@ TEST_F(EmpregadosTest, IncludeAppendsToTheCompanysList) {
     const std::string& file = desk_.file("01CartaPonto");
     EXPECT_EQ(file.substr(0, 20), "001 ANA CONCEI\xC7\xC3O   ");
     EXPECT_EQ(file.substr(287, 10), "12/03/2024");
-    EXPECT_EQ(empregados_.lines().at(0).employee.name, "ANA CONCEIÇÃO");
+    EXPECT_EQ(empregados_.lines().at(0).record.name, "ANA CONCEIÇÃO");
     EXPECT_EQ(empregados_.proposedCode()->text(), "002");
 }
 
@@ -137,11 +139,11 @@ TEST_F(EmpregadosTest, ChangeKeepsCodeStatusAndTail) {
     EXPECT_EQ(desk_.person.shown[0].title, "ALTERAÇÃO");
     EXPECT_THAT(desk_.person.takeTexts(), ElementsAre("Confirma Alteração deste ITEM?"));
     const EmployeeLine line = empregados_.lines().at(0);
-    EXPECT_EQ(line.employee.code, "001");
-    EXPECT_EQ(line.employee.status, "");
-    EXPECT_EQ(line.employee.name, "ANA MARIA");
+    EXPECT_EQ(line.record.code, "001");
+    EXPECT_EQ(line.record.status, "");
+    EXPECT_EQ(line.record.name, "ANA MARIA");
     EXPECT_TRUE(line.bytes.ends_with("TAIL"));
-    EXPECT_EQ(empregados_.lines().at(1).employee.name, "BIA");
+    EXPECT_EQ(empregados_.lines().at(1).record.name, "BIA");
 }
 
 TEST_F(EmpregadosTest, ChangeRefusesWhatIncludeRefuses) {
@@ -200,7 +202,7 @@ TEST_F(EmpregadosTest, AnUnreadableLeaveFileIsToldAndTheListShown) {
     EXPECT_EQ(empregados_.lines().size(), 2U);
     desk_.files.failOn.clear();
     empregados_.load();
-    EXPECT_TRUE(empregados_.inactiveSince(empregados_.lines()[1]));
+    EXPECT_TRUE(empregados_.inactiveSince(empregados_.lines()[1].record));
 }
 
 TEST_F(EmpregadosTest, AListChangedElsewhereIsNotOverwritten) {
@@ -216,10 +218,43 @@ TEST_F(EmpregadosTest, AListChangedElsewhereIsNotOverwritten) {
     expectRefusal("Dados incorretos!", [&] { return empregados_.include(second); });
 }
 
+TEST_F(EmpregadosTest, ACommandThatFailsLeavesTheListAsTheScreenShowsIt) {
+    addEmployees();
+    Employee carla = ana();
+    carla.code = "003";
+    desk_.file("01CartaPonto") += encode(carla) + "\r\n";  // by another computer
+    desk_.files.failOn = {"01PadrHor001.pdx"};
+    const std::vector<std::function<bool()>> commands = {
+        [&] { return empregados_.remove(0); },
+        [&] { return empregados_.removeAll(); },
+    };
+    for (const auto& command : commands) {
+        desk_.person.answers.assign(2, Answer::Yes);
+        EXPECT_FALSE(command());
+        EXPECT_TRUE(empregados_.failed());
+        EXPECT_EQ(empregados_.lines().size(), 2U);
+        EXPECT_EQ(desk_.codes(), "001 002 003 ");
+    }
+    desk_.files.failOn.clear();
+    desk_.person.answers = {Answer::Yes};
+    EXPECT_TRUE(empregados_.report());
+    EXPECT_EQ(empregados_.lines().size(), 2U) << "what is reported is not what is shown";
+    empregados_.reloadQuietly();
+    EXPECT_EQ(empregados_.lines().size(), 3U);
+}
+
+TEST_F(EmpregadosTest, ANewCodeIsBorneByNeitherALineNorAFile) {
+    addEmployees();
+    desk_.file("01configAf003") = desk_.file("01004-03-2024.bdx") = "of somebody";
+    desk_.file("02PadrHor005.pdx") = "of another company";
+    empregados_.load();
+    EXPECT_EQ(empregados_.proposedCode()->text(), "005");
+}
+
 TEST_F(EmpregadosTest, AMemberOfARotationGroupKeepsShiftAndScale) {
     addEmployees();
     desk_.locks.inGroups = {"001"};
-    Employee typed = empregados_.lines()[0].employee;
+    Employee typed = empregados_.lines()[0].record;
     constexpr auto kRefusal =
         "Não Permitido Alteração de TURNO ou ESCALA deste Funcionário pois consta na lista de um "
         "dos Grupos de Escala de Revezamento. Para Alterar, Primeiro Remova-o da Lista de "

@@ -48,7 +48,7 @@ class EmpresaTest : public ::testing::Test {
     [[nodiscard]] std::string codes() const {
         std::string text;
         for (const CompanyLine& line : empresa_.lines())
-            text += line.company.code + " ";
+            text += line.record.code + " ";
         return text;
     }
 
@@ -66,11 +66,11 @@ TEST_F(EmpresaTest, IncludeAppendsUnderTheNextCode) {
     EXPECT_TRUE(empresa_.include(typed));
     EXPECT_EQ(desk_.person.shown[0].title, "INCLUSÃO");
     EXPECT_THAT(desk_.person.takeTexts(), ElementsAre("Confirma a Inclusão?"));
-    const Company stored = loadCompanies(desk_.store()).at(1).company;
+    const Company stored = loadCompanies(desk_.store()).at(1).record;
     EXPECT_EQ(stored.code, "02");
     EXPECT_EQ(stored.name, "PADARIA DO ZÉ");
     EXPECT_EQ(stored.recordDate, "15/03/2024");
-    EXPECT_EQ(empresa_.lines().at(1).company, stored);
+    EXPECT_EQ(empresa_.lines().at(1).record, stored);
 }
 
 TEST_F(EmpresaTest, AnsweringNoLeavesEverything) {
@@ -96,7 +96,7 @@ TEST_F(EmpresaTest, ChangeKeepsCodeAndOrder) {
     EXPECT_EQ(desk_.person.shown[0].title, "ALTERAÇÃO");
     EXPECT_THAT(desk_.person.takeTexts(), ElementsAre("Confirma a Alteração do Item Selecionado?"));
     EXPECT_EQ(codes(), "01 02 03 ");
-    EXPECT_EQ(loadCompanies(desk_.store())[0].company.name, "EMPRESA NOVA");
+    EXPECT_EQ(loadCompanies(desk_.store())[0].record.name, "EMPRESA NOVA");
 }
 
 TEST_F(EmpresaTest, TheFirstCompanyStays) {
@@ -149,7 +149,7 @@ TEST_F(EmpresaTest, ADeletedCompanyIsNoLongerSelected) {
 
 TEST_F(EmpresaTest, FilesStayWhileAnotherLineBearsTheCode) {
     addCompanies();
-    desk_.file("01Empresa") += encode(empresa_.lines()[1].company) + "\r\n";
+    desk_.file("01Empresa") += encode(empresa_.lines()[1].record) + "\r\n";
     empresa_.load();
     desk_.person.answers.assign(4, Answer::Yes);
     EXPECT_TRUE(empresa_.remove(3, DeleteOption::CompanyOnly));
@@ -181,7 +181,7 @@ TEST_F(EmpresaTest, FaultsLeaveListAndFilesAsTheyWere) {
 
 TEST_F(EmpresaTest, AListChangedElsewhereIsNotOverwritten) {
     addCompanies();
-    Company other = empresa_.lines()[1].company;
+    Company other = empresa_.lines()[1].record;
     other.telephone = "11 5555-0000";
     desk_.file("01Empresa") =
         joinedLines({empresa_.lines()[0].bytes, encode(other), empresa_.lines()[2].bytes});
@@ -192,12 +192,28 @@ TEST_F(EmpresaTest, AListChangedElsewhereIsNotOverwritten) {
     EXPECT_EQ(desk_.files.content, before);
     desk_.person.answers = {Answer::Yes};
     EXPECT_TRUE(empresa_.include(named("NOVA")));
-    EXPECT_EQ(empresa_.lines()[1].company.telephone, "11 5555-0000");
+    EXPECT_EQ(empresa_.lines()[1].record.telephone, "11 5555-0000");
     desk_.files.content.clear();
     desk_.person.answers = {Answer::Yes};
     EXPECT_FALSE(empresa_.include(named("OUTRA")))
         << "another folder stands in the old one's place";
     EXPECT_TRUE(desk_.files.content.empty());
+}
+
+TEST_F(EmpresaTest, TheFirstCompanyIsTheFirstThatIsUnderstood) {
+    addCompanies();
+    desk_.file("01Empresa").insert(0, "torn\r\n");
+    empresa_.load();
+    desk_.person.answers.assign(6, Answer::Yes);
+    EXPECT_FALSE(empresa_.remove(1, DeleteOption::CompanyAndEmployees));
+    EXPECT_EQ(desk_.person.shown.back().title, "Excluindo Empresa");
+    EXPECT_TRUE(empresa_.remove(0, DeleteOption::CompanyOnly)) << "what is no company can go";
+    EXPECT_EQ(codes(), "01 02 03 ");
+    desk_.file("01Empresa") += empresa_.lines()[2].bytes + "\r\n";  // by another computer
+    desk_.files.failOn = {"02PadrHor001.pdx"};
+    desk_.person.answers.assign(6, Answer::Yes);
+    EXPECT_FALSE(empresa_.remove(1, DeleteOption::CompanyAndEmployees));
+    EXPECT_EQ(codes(), "01 02 03 ") << "the list changes only with a success";
 }
 
 TEST_F(EmpresaTest, HelpThatCannotBeShownIsTold) {

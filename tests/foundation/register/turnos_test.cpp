@@ -29,11 +29,11 @@ class TurnosTest : public ::testing::Test {
     }
 
     EmployeeDesk desk_;
-    Turnos turnos_{desk_.at, desk_.browser, desk_.locks};
+    Turnos turnos_{desk_.at, desk_.browser, desk_.locks, desk_.locks};
 };
 
 TEST_F(TurnosTest, ChangesTheShiftOnly) {
-    const Employee before = decodeEmployee(splitLines(desk_.file("01CartaPonto"))[0]);
+    const Employee before = decode<Employee>(splitLines(desk_.file("01CartaPonto"))[0]);
     EXPECT_FALSE(turnos_.change(turnos_.list().employees()[0], Shift::Dois))
         << "No leaves the shift";
     desk_.person.takeTexts();
@@ -41,7 +41,7 @@ TEST_F(TurnosTest, ChangesTheShiftOnly) {
     EXPECT_TRUE(turnos_.change(turnos_.list().employees()[0], Shift::Dois));
     EXPECT_EQ(desk_.person.shown[0].title, "ALTERAÇÃO");
     EXPECT_THAT(desk_.person.takeTexts(), ElementsAre("Confirma Alteração deste ITEM?"));
-    Employee after = decodeEmployee(splitLines(desk_.file("01CartaPonto"))[0]);
+    Employee after = decode<Employee>(splitLines(desk_.file("01CartaPonto"))[0]);
     EXPECT_EQ(after.shift, "Dois");
     after.shift = before.shift;
     EXPECT_EQ(after, before);
@@ -55,7 +55,8 @@ TEST_F(TurnosTest, TheListFollowsTheFilter) {
     turnos_.list().filterBy(ShiftFilter::Dois);
     EXPECT_EQ(shown(), "");
     desk_.session.shiftFilter = ShiftFilter::Unico;
-    EXPECT_EQ(Turnos(desk_.at, desk_.browser, desk_.locks).list().shift(), ShiftFilter::Unico);
+    EXPECT_EQ(Turnos(desk_.at, desk_.browser, desk_.locks, desk_.locks).list().shift(),
+              ShiftFilter::Unico);
 }
 
 TEST_F(TurnosTest, Refuses) {
@@ -94,9 +95,21 @@ TEST_F(TurnosTest, ARecordChangedMeanwhileIsNotWritten) {
         desk_.person.answers = {Answer::Yes};
         EXPECT_FALSE(turnos_.change(shown, Shift::Dois)) << c.what;
         EXPECT_EQ(desk_.person.shown.back().text, "Dados incorretos!") << c.what;
-        EXPECT_EQ(desk_.person.shown.back().detail, changedElsewhere().explanation()) << c.what;
+        EXPECT_EQ(desk_.person.shown.back().detail, changedElsewhere("").explanation()) << c.what;
         EXPECT_EQ(desk_.files.content, before) << c.what;
     }
+}
+
+TEST_F(TurnosTest, AClosedPayrollIsWarnedOfAsInTheRegister) {
+    desk_.locks.closed = {"001"};
+    const auto before = desk_.files.content;
+    desk_.person.answers = {Answer::Yes, Answer::No};
+    EXPECT_FALSE(turnos_.change(turnos_.list().employees()[0], Shift::Dois));
+    EXPECT_EQ(desk_.files.content, before);
+    EXPECT_EQ(desk_.person.shown.back().text,
+              "Confirma Gravar Alteração dos Dados do Funcionário Selecionado?");
+    desk_.person.answers = {Answer::Yes, Answer::Yes};
+    EXPECT_TRUE(turnos_.change(turnos_.list().employees()[0], Shift::Dois));
 }
 
 TEST_F(TurnosTest, OfTwoLinesWithOneCodeTheOneShownIsChanged) {

@@ -1,5 +1,7 @@
 #include "foundation/values/input_checks.h"
 
+#include "foundation/values/tax_id.h"
+
 #include <gtest/gtest.h>
 
 namespace winvrx {
@@ -99,9 +101,9 @@ TEST(InputChecks, HintsSayNothingTooEarly) {
         EXPECT_EQ(dateHint(c.typed, Entry::Typing).text, c.typing) << c.typed;
         EXPECT_EQ(dateHint(c.typed, Entry::Left).text, c.left) << c.typed;
     }
-    EXPECT_EQ(idHint(IdCheck::TooShort, "CPF", Entry::Typing), Hint{});
-    EXPECT_EQ(idHint(IdCheck::TooShort, "CPF", Entry::Left).text, "CPF incompleto.");
-    EXPECT_EQ(idHint(IdCheck::Valid, "CPF", Entry::Typing).tone, Hint::Tone::Good);
+    EXPECT_EQ(cpfHint("529982247", Entry::Typing), Hint{});
+    EXPECT_EQ(cpfHint("529982247", Entry::Left).text, "CPF incompleto.");
+    EXPECT_EQ(cpfHint("52998224725", Entry::Typing).tone, Hint::Tone::Good);
 }
 
 TEST(InputChecks, TextsThatNoRecordHoldsAreNamed) {

@@ -30,9 +30,8 @@ struct HolidayList : ::testing::Test {
 TEST_F(HolidayList, DaysAreIncludedChangedAndDeleted) {
     agree();
     ASSERT_TRUE(screen.include({" 9/7 ", " 9 DE JULHO "}));
-    EXPECT_THAT(onDisk(),
-                ElementsAre(anniversary, "31/02 NUNCA",
-                            encode(LocalHoliday{*parseHolidayDay("09/07"), "9 DE JULHO"})));
+    EXPECT_THAT(onDisk(), ElementsAre(anniversary, "31/02 NUNCA",
+                                      encode(LocalHoliday{"09/07", "9 DE JULHO"})));
     agree();
     ASSERT_TRUE(screen.change(0, {"05/12/2026", "ANIVERSÁRIO DE TAUBATÉ"}));
     EXPECT_EQ(onDisk()[0], "05/12/2026" + anniversary.substr(10));
@@ -45,7 +44,7 @@ TEST_F(HolidayList, DaysAreIncludedChangedAndDeleted) {
 TEST_F(HolidayList, WhatCannotBeRecordedIsRefusedAndNothingChanges) {
     const auto before = desk.files.content;
     struct Case {
-        TypedHoliday typed;
+        LocalHoliday typed;
         const char* detail;
     };
     for (const Case& c :

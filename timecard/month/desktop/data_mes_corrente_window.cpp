@@ -1,7 +1,7 @@
 #include "timecard/month/desktop/data_mes_corrente_window.h"
 
 #include "foundation/values/desktop/qt_text.h"
-#include "foundation/widgets/desktop/checked_field.h"
+#include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/progress.h"
 #include "timecard/month/desktop/holiday_panel.h"

@@ -1,7 +1,7 @@
 #include "timecard/month/desktop/month_rules_panel.h"
 
 #include "foundation/values/desktop/qt_text.h"
-#include "foundation/widgets/desktop/checked_field.h"
+#include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/wrapped_check_box.h"
 
@@ -9,7 +9,6 @@
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 #include <QSignalBlocker>
 
@@ -38,8 +37,8 @@ constexpr std::array<NumberText, kMonthNumberFields.size()> kNumberTexts = {{
 }};
 constexpr std::size_t kThreshold = 4;
 constexpr std::size_t kClosingDay = 5;
-constexpr int kLongestNumber = 3;
-constexpr int kLongestThreshold = 5;
+constexpr std::size_t kLongestNumber = 3;
+constexpr std::size_t kLongestThreshold = 5;
 constexpr int kColumnsOfNumber = 3;
 
 void addGroup(QVBoxLayout& column, const QString& caption, QWidget* parent) {
@@ -90,26 +89,18 @@ void MonthRulesPanel::addClosing(QVBoxLayout& column) {
     column.addLayout(grid);
 }
 
-void MonthRulesPanel::addNumber(QGridLayout& grid, int row, int column, std::size_t field) {
-    const NumberText& text = kNumberTexts[field];
-    auto* edit = new QLineEdit(this);
-    look::name(*edit, QString::fromUtf8(text.objectName), toQt(kMonthNumberFields[field].caption));
-    edit->setMaxLength(field == kThreshold ? kLongestThreshold : kLongestNumber);
-    edit->setProperty("lastField", field == kThreshold);
-    edit->setAlignment(Qt::AlignRight);
-    edit->setFont(look::fixedFont());
-    edit->setFixedWidth(edit->fontMetrics().horizontalAdvance(QLatin1Char('0')) * 8);
-    QLabel* label = look::label(QString::fromUtf8(text.label), look::TextSize::Body, this);
-    label->setBuddy(edit);
-    QLabel* hint = look::label(QString(), look::TextSize::Hint, this);
-    hint->setObjectName(edit->objectName() + QStringLiteral(".hint"));
-    look::setTint(*hint, look::Tint::Warning);
-    grid.addWidget(label, row, column);
-    grid.addWidget(edit, row, column + 1);
-    grid.addWidget(look::label(QString::fromUtf8(text.suffix), look::TextSize::Body, this), row,
-                   column + 2);
-    grid.addWidget(hint, row + 1, column, 1, kColumnsOfNumber);
-    numbers_[field] = {edit, hint};
+void MonthRulesPanel::addNumber(QGridLayout& grid, int row, int column, std::size_t place) {
+    const NumberText& text = kNumberTexts[place];
+    auto* field = new Field({.caption = QString::fromUtf8(text.label),
+                             .objectName = QString::fromUtf8(text.objectName),
+                             .width = place == kThreshold ? kLongestThreshold : kLongestNumber,
+                             .kind = kNumberField},
+                            this);
+    look::name(*field->input(), QString::fromUtf8(text.objectName),
+               toQt(kMonthNumberFields[place].caption));
+    field->input()->setProperty("lastField", place == kThreshold);
+    field->placeIn(grid, row, column, QString::fromUtf8(text.suffix));
+    numbers_[place] = field;
 }
 
 void MonthRulesPanel::addOvertime(QVBoxLayout& column) {
@@ -169,12 +160,11 @@ void MonthRulesPanel::addTotals(QVBoxLayout& column) {
 
 void MonthRulesPanel::connectNumbers() {
     for (std::size_t field = 0; field < numbers_.size(); ++field)
-        connect(numbers_[field].edit, &QLineEdit::textEdited, this,
-                [this, field](const QString& text) {
-                    command_.type(kMonthNumberFields[field], toUtf8(text));
-                    if (field == kClosingDay) startDay_->setChecked(true);
-                    takeNote();
-                });
+        connect(numbers_[field], &Field::edited, this, [this, field] {
+            command_.type(kMonthNumberFields[field], toUtf8(numbers_[field]->text()));
+            if (field == kClosingDay) startDay_->setChecked(true);
+            takeNote();
+        });
 }
 
 void MonthRulesPanel::connectChoices() {
@@ -208,7 +198,7 @@ void MonthRulesPanel::refresh() {
     (clock ? clockTotals_ : decimalTotals_)->setChecked(true);
     differentiated_->box()->setChecked(settings.overtime.differentiatedPercent);
     for (std::size_t field = 0; field < numbers_.size(); ++field)
-        numbers_[field].edit->setText(toQt(command_.numbers().*kMonthNumberFields[field].typed));
+        numbers_[field]->setStored(command_.numbers().*kMonthNumberFields[field].typed);
     showTexts();
 }
 
@@ -224,11 +214,8 @@ void MonthRulesPanel::showTexts() {
     const QString own = toQt(command_.ownRulesNotice());
     ownRules_->setText(own.isEmpty() ? own : QStringLiteral("⚠ ") + own);
     ownRules_->setVisible(!own.isEmpty());
-    for (std::size_t field = 0; field < numbers_.size(); ++field) {
-        const std::string finding = command_.findingOf(kMonthNumberFields[field]);
-        numbers_[field].hint->setText(finding.empty() ? QString()
-                                                      : QStringLiteral("⚠ ") + toQt(finding));
-    }
+    for (std::size_t field = 0; field < numbers_.size(); ++field)
+        numbers_[field]->setWarning(toQt(command_.findingOf(kMonthNumberFields[field])));
 }
 
 }  // namespace winvrx

@@ -8,12 +8,12 @@
 
 class QGridLayout;
 class QLabel;
-class QLineEdit;
 class QRadioButton;
 class QVBoxLayout;
 
 namespace winvrx {
 
+class Field;
 class WrappedCheckBox;
 
 /// The month's closing period, overtime rules and format of totals.
@@ -31,15 +31,10 @@ class MonthRulesPanel : public QWidget {
     void edited();
 
   private:
-    struct NumberWidgets {
-        QLineEdit* edit = nullptr;
-        QLabel* hint = nullptr;
-    };
-
     void addClosing(QVBoxLayout& column);
     void addOvertime(QVBoxLayout& column);
     void addTotals(QVBoxLayout& column);
-    void addNumber(QGridLayout& grid, int row, int column, std::size_t field);
+    void addNumber(QGridLayout& grid, int row, int column, std::size_t place);
     [[nodiscard]] QRadioButton* addChoice(const QString& caption, const QString& objectName);
     void connectNumbers();
     void connectChoices();
@@ -57,7 +52,7 @@ class MonthRulesPanel : public QWidget {
     QLabel* ownRules_ = nullptr;
     QRadioButton* clockTotals_ = nullptr;
     QRadioButton* decimalTotals_ = nullptr;
-    std::array<NumberWidgets, kMonthNumberFields.size()> numbers_{};
+    std::array<Field*, kMonthNumberFields.size()> numbers_{};
 };
 
 }  // namespace winvrx

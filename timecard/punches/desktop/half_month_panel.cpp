@@ -18,7 +18,8 @@ HalfMonthPanel::HalfMonthPanel(CartaoPontoDados& command, HalfMonth half, QWidge
     marks_->setObjectName(QStringLiteral("card.marks") + number);
     look::setTint(*marks_, look::Tint::Warning);
     model_ = new PunchModel(command_, half, this);
-    grid_ = new PunchGrid(model_, QStringLiteral("card.half") + number, this);
+    grid_ = new PunchGrid(model_, this);
+    look::name(*grid_, QStringLiteral("card.half") + number, number + QStringLiteral("º Quinzena"));
     auto* headings = new QHBoxLayout;
     look::layOutPart(*headings);
     headings->addWidget(heading_);

@@ -93,11 +93,7 @@ class PunchDelegate : public QStyledItemDelegate {
 
 }  // namespace
 
-PunchGrid::PunchGrid(PunchModel* model, const QString& objectName, QWidget* parent)
-    : QTableView(parent), punches_(model) {
-    look::name(*this, objectName,
-               objectName.endsWith(QLatin1Char('1')) ? QStringLiteral("1º Quinzena")
-                                                     : QStringLiteral("2º Quinzena"));
+PunchGrid::PunchGrid(PunchModel* model, QWidget* parent) : QTableView(parent), punches_(model) {
     setModel(model);
     setItemDelegate(new PunchDelegate(this));
     setSelectionMode(QAbstractItemView::ContiguousSelection);

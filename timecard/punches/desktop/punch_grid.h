@@ -14,7 +14,7 @@ class PunchGrid : public QTableView {
     Q_OBJECT
 
   public:
-    PunchGrid(PunchModel* model, const QString& objectName, QWidget* parent = nullptr);
+    explicit PunchGrid(PunchModel* model, QWidget* parent = nullptr);
 
     /// Qt::Key_Return or Qt::Key_Tab.
     void setNextCellKey(Qt::Key key);

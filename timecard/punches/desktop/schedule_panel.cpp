@@ -1,12 +1,12 @@
 #include "timecard/punches/desktop/schedule_panel.h"
 
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 namespace winvrx {
@@ -14,7 +14,7 @@ namespace winvrx {
 namespace {
 
 constexpr int kTimesOfRow = 4;
-constexpr int kLongestTime = 5;
+constexpr std::size_t kLongestTime = 5;
 constexpr std::array<const char*, kTimesOfRow> kTimeNames = {"Manhã Entrada", "Manhã Saída",
                                                              "Tarde Entrada", "Tarde Saída"};
 
@@ -83,14 +83,15 @@ QGridLayout* SchedulePanel::buildTimes() {
     for (std::size_t position = 0; position < kScheduleTimes; ++position) {
         times_[position] = buildTime(position);
         const int place = static_cast<int>(position);
-        grid->addWidget(times_[position], 1 + place / kTimesOfRow, 1 + place % kTimesOfRow);
+        grid->addWidget(times_[position]->bareInput(), 1 + place / kTimesOfRow,
+                        1 + place % kTimesOfRow);
     }
     QLabel* weekday = look::label(QStringLiteral("Segunda a se&xta"), look::TextSize::Body, this);
-    weekday->setBuddy(times_[0]);
+    weekday->setBuddy(times_[0]->input());
     grid->addWidget(weekday, 1, 0);
     saturday_ = look::label(QString(), look::TextSize::Body, this);
     saturday_->setObjectName(QStringLiteral("schedule.saturday"));
-    saturday_->setBuddy(times_[kFirstSaturdayTime]);
+    saturday_->setBuddy(times_[kFirstSaturdayTime]->input());
     grid->addWidget(saturday_, 2, 0);
     buildSave();
     grid->addWidget(save_, 1, kTimesOfRow + 1);
@@ -98,22 +99,16 @@ QGridLayout* SchedulePanel::buildTimes() {
     return grid;
 }
 
-QLineEdit* SchedulePanel::buildTime(std::size_t position) {
-    auto* edit = new QLineEdit(this);
-    edit->setObjectName(QStringLiteral("schedule.time%1").arg(position + 1));
+Field* SchedulePanel::buildTime(std::size_t position) {
     const QString day = position < kFirstSaturdayTime ? QStringLiteral("Segunda a sexta, ")
                                                       : QStringLiteral("Sábado, ");
-    edit->setAccessibleName(day + QString::fromUtf8(kTimeNames[position % kTimesOfRow]));
-    edit->setMaxLength(kLongestTime);
-    edit->setFont(look::fixedFont());
-    edit->setAlignment(Qt::AlignCenter);
-    edit->setPlaceholderText(QStringLiteral("--:--"));
-    edit->setMaximumWidth(edit->fontMetrics().horizontalAdvance(QLatin1Char('0')) * 11);
-    connect(edit, &QLineEdit::textEdited, this, [this, position] { take(position); });
-    connect(edit, &QLineEdit::editingFinished, this, [this, position] {
-        times_[position]->setText(toQt(command_.schedule().text(position)));
-    });
-    return edit;
+    auto* field = new Field({.caption = day + QString::fromUtf8(kTimeNames[position % kTimesOfRow]),
+                             .objectName = QStringLiteral("schedule.time%1").arg(position + 1),
+                             .width = kLongestTime,
+                             .kind = kTimeField},
+                            this);
+    connect(field, &Field::edited, this, [this, position] { take(position); });
+    return field;
 }
 
 void SchedulePanel::take(std::size_t position) {
@@ -140,7 +135,7 @@ void SchedulePanel::refresh() {
     facts_->setText(one ? employeeFacts() : QString());
     second_->setChecked(command_.schedule().secondFlag());
     for (std::size_t position = 0; position < kScheduleTimes; ++position)
-        times_[position]->setText(toQt(command_.schedule().text(position)));
+        times_[position]->setStored(command_.schedule().text(position));
     saturday_->setText(toQt(command_.saturdayCaption())
                            .replace(QStringLiteral("Sábado"), QStringLiteral("Sá&bado")));
     showTotals();

@@ -9,10 +9,11 @@
 class QCheckBox;
 class QGridLayout;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 
 namespace winvrx {
+
+class Field;
 
 /// The standard schedule of the employee chosen: eight times, the weekly and monthly hours.
 class SchedulePanel : public QFrame {
@@ -33,7 +34,7 @@ class SchedulePanel : public QFrame {
     void buildTexts();
     void buildSave();
     [[nodiscard]] QGridLayout* buildTimes();
-    [[nodiscard]] QLineEdit* buildTime(std::size_t position);
+    [[nodiscard]] Field* buildTime(std::size_t position);
     void take(std::size_t position);
     void showTotals();
     [[nodiscard]] QString employeeFacts() const;
@@ -41,7 +42,7 @@ class SchedulePanel : public QFrame {
     CartaoPontoDados& command_;
     QLabel* name_ = nullptr;
     QLabel* facts_ = nullptr;
-    std::array<QLineEdit*, kScheduleTimes> times_{};
+    std::array<Field*, kScheduleTimes> times_{};
     QLabel* saturday_ = nullptr;
     QLabel* weekly_ = nullptr;
     QLabel* monthly_ = nullptr;

@@ -77,7 +77,7 @@ TEST_F(EmpregadosWindowTest, IncludesWithTheKeyboardAlone) {
     screen_->press(Qt::Key_S, Qt::ControlModifier);
     ASSERT_EQ(desk_.person.shown.size(), 1U) << desk_.person.shown.back().detail;
     EXPECT_EQ(desk_.person.shown[0].text, "Confirma a Inclusão na LISTA DE FUNCIONARIOS?");
-    const Employee stored = decodeEmployee(desk_.file("01CartaPonto"));
+    const Employee stored = decode<Employee>(desk_.file("01CartaPonto"));
     EXPECT_EQ(stored.name, "ANA CONCEIÇÃO");
     EXPECT_EQ(stored.admission, "12/03/2024");
     EXPECT_EQ(stored.shift, "Dois");
@@ -91,7 +91,7 @@ TEST_F(EmpregadosWindowTest, EnterInTheLastFieldRecords) {
     screen_->find("empregados.notes").setFocus();
     desk_.person.answers = {Answer::Yes};
     screen_->press(Qt::Key_Return);
-    EXPECT_EQ(decodeEmployee(desk_.file("01CartaPonto")).telephone, "5555");
+    EXPECT_EQ(decode<Employee>(desk_.file("01CartaPonto")).telephone, "5555");
 }
 
 TEST_F(EmpregadosWindowTest, AnImpossibleDateIsSaidAndRefused) {
@@ -134,6 +134,7 @@ TEST_F(EmpregadosWindowTest, ShowingARecordChangesNothing) {
     Employee odd = employee("002", "BIA");
     odd.shift = "Noite";
     odd.restDay = "xyz";
+    odd.notes = "Sala\u00a012";
     open({employee("001", "ANA"), odd});
     EXPECT_EQ(screen_->find<QComboBox>("empregados.shift").currentText().toStdString(),
               "Unico  -> Comercial  ");
@@ -141,6 +142,10 @@ TEST_F(EmpregadosWindowTest, ShowingARecordChangesNothing) {
     screen_->press(Qt::Key_PageDown);
     EXPECT_EQ(screen_->state(), "2 de 2");
     EXPECT_EQ(screen_->find<QComboBox>("empregados.shift").currentIndex(), -1);
+    screen_->type("empregados.telephone", "5555");
+    desk_.person.answers = {Answer::Yes};
+    screen_->press(Qt::Key_F2);
+    EXPECT_EQ(decode<Employee>(splitLines(desk_.file("01CartaPonto"))[1]).notes, odd.notes);
 }
 
 TEST_F(EmpregadosWindowTest, SearchLooksIntoNameCodeFunctionAndCpf) {
@@ -190,7 +195,7 @@ TEST_F(EmpregadosWindowTest, AFieldIsCompletedWhenItsKeyRecords) {
         screen_->find<QTabWidget>("empregados.tabs").setCurrentIndex(c.tab);
         screen_->type(c.field, c.typed);
         screen_->press(Qt::Key_S, Qt::ControlModifier);
-        EXPECT_EQ(decodeEmployee(desk_.file("01CartaPonto")).*c.member, c.recorded) << c.field;
+        EXPECT_EQ(decode<Employee>(desk_.file("01CartaPonto")).*c.member, c.recorded) << c.field;
     }
 }
 
@@ -262,7 +267,7 @@ TEST_F(EmpregadosWindowTest, AmountsAndNumbersGetTheirForm) {
     EXPECT_EQ(screen_->text("empregados.salary"), "R$ 2.000,50");
     desk_.person.answers = {Answer::Yes};
     screen_->press(Qt::Key_F2);
-    const Employee stored = decodeEmployee(desk_.file("01CartaPonto"));
+    const Employee stored = decode<Employee>(desk_.file("01CartaPonto"));
     EXPECT_EQ(stored.salary, "2.000,50");
     EXPECT_EQ(stored.taxId, "529.982.247-25");
     EXPECT_EQ(stored.postalCode, "12080-700");
@@ -300,6 +305,33 @@ TEST_F(EmpregadosWindowTest, TheCodeOfARecordedEmployeeIsFixed) {
     screen_->press(Qt::Key_Insert);
     screen_->type("empregados.code", "1234");
     EXPECT_EQ(screen_->text("empregados.code"), "123");
+    screen_->type("empregados.code", "7");
+    screen_->find("empregados.name").setFocus();
+    EXPECT_EQ(screen_->text("empregados.code"), "007");
+}
+
+TEST_F(EmpregadosWindowTest, AfterAFailureTheRowsShowWhatIsOnDisk) {
+    open({employee("001", "ANA"), employee("002", "BIA")});
+    desk_.file("01CartaPonto") = encode(employee("002", "BIA")) + "\r\n";
+    desk_.person.answers = {Answer::Yes};
+    screen_->find("empregados.list").setFocus();
+    screen_->press(Qt::Key_Delete);
+    EXPECT_EQ(screen_->state(), "1 de 1");
+    EXPECT_EQ(screen_->text("empregados.name"), "BIA");
+    screen_->type("empregados.telephone", "5555");
+    desk_.file("01CartaPonto") = encode(employee("003", "CARLA")) + "\r\n";
+    desk_.person.answers = {Answer::Yes};
+    screen_->press(Qt::Key_F2);
+    EXPECT_EQ(screen_->text("empregados.telephone"), "5555") << "what is typed is not lost";
+    EXPECT_EQ(screen_->text("empregados.name"), "BIA") << "nor shown over another employee";
+}
+
+TEST_F(EmpregadosWindowTest, CountsAgreeWithTheList) {
+    Employee gone = employee("003", "CARLA");
+    gone.status = "Excluido";
+    open({employee("001", "ANA"), gone});
+    EXPECT_EQ(screen_->find<QLabel>("subtitle").text().toStdString(),
+              "1 ativo, 0 inativos, 1 excluído");
 }
 
 TEST_F(EmpregadosWindowTest, ALineThatIsNotUnderstoodIsShownAndKept) {

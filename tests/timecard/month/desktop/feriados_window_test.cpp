@@ -43,7 +43,7 @@ TEST_F(HolidayListWindow, ADayIsTypedOnTheKeypadAndRecorded) {
     screen.press(Qt::Key_Return);
     EXPECT_THAT(splitLines(desk.file("Feriados")),
                 ElementsAre("05/12      PADROEIRO", "31/02 NUNCA",
-                            encode(LocalHoliday{*parseHolidayDay("09/07"), "9 DE JULHO"})));
+                            encode(LocalHoliday{"09/07", "9 DE JULHO"})));
     EXPECT_EQ(screen.state(), "3 de 3");
     EXPECT_EQ(testing::namelessWidgets(window), "");
 }

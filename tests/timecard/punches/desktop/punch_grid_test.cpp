@@ -14,7 +14,7 @@ TEST_F(PunchGridTest, LeaveNoTimeCutWhateverTheFont) {
     desk.file(kPunches) = "  \r\n04/seg/mar08:0012:0013:0025:00\r\n05/ter/mar08:00\r\n";
     openOn(0);
     PunchModel model(screen, HalfMonth::First, nullptr);
-    const PunchGrid grid(&model, QStringLiteral("grid1"));
+    const PunchGrid grid(&model);
     QStyleOptionViewItem option;
     option.initFrom(&grid);
     for (int row = 0; row < model.rowCount(); ++row)

@@ -1,0 +1,137 @@
+#pragma once
+
+#include "foundation/desk/list_screen.h"
+#include "foundation/files/line_file.h"
+
+#include <cstddef>
+#include <string>
+#include <utility>
+
+namespace winvrx {
+
+/// What is asked before each command.
+struct ListQuestions {
+    Message include = question("INCLUSÃO", "Confirma a Inclusão?");
+    Message change = question("ALTERAÇÃO", "Confirma a Alteração do Item Selecionado?");
+    Message remove = riskyQuestion("EXCLUSÃO", "Confirma a Exclusão do Item Selecionado?");
+};
+
+/// The commands of a list: include, change and delete.
+///
+/// Holds the list as the screen shows it, and changes it only with a success. Each command asks
+/// first, then holds the folder, reads the list again, compares the line with the one shown and
+/// writes: no other computer's change is lost, and a command that is refused or fails leaves list
+/// and file as they were. Each returns whether it was carried out.
+template <typename Record>
+class ListCommands : public ListScreen {
+  public:
+    using Line = StoredLine<Record>;
+    using Lines = std::vector<Line>;
+
+    [[nodiscard]] const Lines& lines() const { return lines_; }
+    [[nodiscard]] std::size_t count() const override { return lines_.size(); }
+    [[nodiscard]] const std::string& bytesAt(std::size_t position) const override {
+        return lines_.at(position).bytes;
+    }
+    [[nodiscard]] ListRow rowAt(std::size_t position) const override {
+        const Line& line = lines_.at(position);
+        return line.key() ? rowOf(line.record) : unreadRow(line.bytes);
+    }
+    /// What the form of a new record begins with.
+    [[nodiscard]] virtual Record freshRecord() const { return {}; }
+
+    /// Appends a record.
+    [[nodiscard]] virtual bool include(const Record& typed) {
+        return run(incorrectData(), [&] {
+            const Record record = completed(typed);
+            return requireAcceptable(record, nullptr) && at_.person.agrees(questions_.include) &&
+                   rewrite([&](Lines& lines) { lines.push_back(newLine(record, lines)); });
+        });
+    }
+    /// Replaces the line at `position`; what no field covers stays.
+    [[nodiscard]] virtual bool change(std::size_t position, const Record& typed) {
+        return run(incorrectData(), [&] {
+            const Record record = completed(typed);
+            return requireAcceptable(record, &lines_.at(position)) &&
+                   at_.person.agrees(questions_.change) && rewrite([&](Lines& lines) {
+                       Line& line = knownLineAsShown(lines, position);
+                       line = changedLine(record, line);
+                   });
+        });
+    }
+    [[nodiscard]] bool remove(std::size_t position) override {
+        if (!at_.person.agrees(questions_.remove)) return false;
+        return run(incorrectData(), [&] { return erase(position, [](const Lines&) {}); });
+    }
+
+  protected:
+    ListCommands(const Workplace& at, Browser& browser, ListQuestions questions = {})
+        : ListScreen(at, browser), questions_(std::move(questions)) {}
+
+    [[nodiscard]] virtual Lines read() const = 0;
+    virtual void write(const Lines& lines) = 0;
+    [[nodiscard]] virtual ListRow rowOf(const Record& record) const = 0;
+    /// What was typed in the form in which it is recorded.
+    [[nodiscard]] virtual Record completed(const Record& typed) const { return typed; }
+    /// Whether the record can be included, or replace the line shown. Says why not, or throws.
+    [[nodiscard]] virtual bool requireAcceptable(const Record&, const Line*) { return true; }
+    /// The line to append to the list on disk; throws Fault when that has its key already.
+    [[nodiscard]] virtual Line newLine(const Record& typed, const Lines& lines) const {
+        if (findLine(lines, keyOf(typed))) throw changedElsewhere("list");
+        return lineOf(typed);
+    }
+    [[nodiscard]] virtual Line changedLine(const Record& typed, const Line& before) const {
+        return lineOf(typed, before.bytes);
+    }
+
+    void reread() override { lines_ = read(); }
+
+    /// Lets `edit` change the list on disk while the folder is held, and records it.
+    template <typename Edit>
+    [[nodiscard]] bool rewrite(Edit&& edit) {
+        const auto hold = holdFolder(at_);
+        Lines lines = read();
+        // An empty folder in the place of the one shown, as an unmounted drive leaves it.
+        if (lines.empty() && !lines_.empty()) throw changedElsewhere("list");
+        edit(lines);
+        write(lines);
+        lines_ = std::move(lines);
+        return true;
+    }
+
+    /// The line at `position`; throws Fault when it is not the one that the screen shows.
+    [[nodiscard]] Line& lineAsShown(Lines& lines, std::size_t position) const {
+        if (position >= lines.size() || position >= lines_.size() ||
+            lines[position] != lines_[position])
+            throw changedElsewhere("line " + std::to_string(position + 1) + " of the list");
+        return lines[position];
+    }
+
+    /// The same for a line that is to be changed, and so must have a key.
+    [[nodiscard]] Line& knownLineAsShown(Lines& lines, std::size_t position) const {
+        Line& line = lineAsShown(lines, position);
+        if (!line.key())
+            throw Fault("list line without a key: " + line.bytes,
+                        "Esta linha da lista não tem um código válido.");
+        return line;
+    }
+
+    /// Deletes the line at `position` and, with `removeFiles`, what belongs to it; that is called
+    /// with the lines that stay. A disk that refuses the list must do so before anything is gone,
+    /// so it is first written as it stands. Then the files go first: cut short, the command can be
+    /// given again.
+    template <typename RemoveFiles>
+    [[nodiscard]] bool erase(std::size_t position, RemoveFiles&& removeFiles) {
+        return rewrite([&](Lines& lines) {
+            (void)lineAsShown(lines, position);
+            write(lines);
+            lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(position));
+            removeFiles(lines);
+        });
+    }
+
+    Lines lines_;
+    const ListQuestions questions_;
+};
+
+}  // namespace winvrx

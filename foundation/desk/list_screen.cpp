@@ -1,0 +1,52 @@
+#include "foundation/desk/list_screen.h"
+
+#include "foundation/values/text.h"
+
+namespace winvrx {
+
+ListRow unreadRow(std::string_view lineBytes) {
+    const std::string shown = readableText(lineBytes);
+    const std::string text = shown.empty() ? "Linha em branco" : "Linha não entendida: " + shown;
+    return {{"⚠", text}, text, false};
+}
+
+std::string unreadCount(std::size_t lines) {
+    if (lines == 0) return {};
+    return lines == 1 ? ", 1 linha não entendida"
+                      : ", " + std::to_string(lines) + " linhas não entendidas";
+}
+
+void ListScreen::load() {
+    (void)run(incorrectData(), [this] { reread(); });
+}
+
+void ListScreen::reloadQuietly() {
+    try {
+        reread();
+    } catch (const std::exception& fault) {
+        at_.log.write(std::string("list not read again: ") + fault.what());
+    }
+}
+
+std::optional<std::size_t> ListScreen::positionOf(const std::string& bytes) const {
+    for (std::size_t position = 0; position < count(); ++position)
+        if (bytesAt(position) == bytes) return position;
+    return std::nullopt;
+}
+
+bool ListScreen::confirmDiscardTyped() {
+    return at_.person.agrees(discardTyped());
+}
+
+void ListScreen::help() {
+    openHelp(at_, browser_);
+}
+
+bool ListScreen::refuse(const Message& message, std::string detail) const {
+    Message told = message;
+    if (!detail.empty()) told.detail = std::move(detail);
+    at_.person.tell(told);
+    return false;
+}
+
+}  // namespace winvrx

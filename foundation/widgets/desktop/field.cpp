@@ -1,0 +1,257 @@
+#include "foundation/widgets/desktop/field.h"
+
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
+#include "foundation/widgets/desktop/look.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+#include <QTextDocument>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+// With the frame.
+constexpr int kTimeInDigits = 11;
+constexpr int kNumberInDigits = 8;
+
+}  // namespace
+
+Field::Field(const Texts& texts, QWidget* parent)
+    : QWidget(parent),
+      kind_(texts.kind),
+      width_(static_cast<int>(texts.width)),
+      input_(makeInput(texts)) {
+    look::name(*input_, texts.objectName, texts.caption);
+    frame(texts.caption);
+}
+
+Field::Field(const QString& caption, QWidget* input, QWidget* parent)
+    : QWidget(parent), input_(input) {
+    frame(caption);
+}
+
+QWidget* Field::makeInput(const Texts& texts) {
+    if (kind_.choices) {
+        list_ = new QComboBox;
+        list_->setFont(look::fixedFont());
+        list_->setPlaceholderText(QStringLiteral("Escolha…"));
+        for (const Choice& choice : kind_.choices())
+            list_->addItem(toQt(choice.text), toQt(choice.code));
+        list_->setCurrentIndex(-1);
+        connect(list_, &QComboBox::currentIndexChanged, this, &Field::edited);
+        return list_;
+    }
+    if (kind_.isNotes) {
+        notes_ = new QPlainTextEdit;
+        notes_->setTabChangesFocus(true);
+        notes_->installEventFilter(this);
+        connect(notes_, &QPlainTextEdit::textChanged, this, [this] {
+            limitNotes();
+            emit edited();
+        });
+        return notes_;
+    }
+    line_ = new QLineEdit;
+    line_->setMaxLength(static_cast<int>(texts.width));
+    connectLine();
+    shapeLine();
+    return line_;
+}
+
+void Field::shapeLine() {
+    if (kind_.shape == FieldKind::Shape::Text) return;
+    const bool isTime = kind_.shape == FieldKind::Shape::Time;
+    line_->setFont(look::fixedFont());
+    line_->setAlignment(isTime ? Qt::AlignCenter : Qt::AlignRight);
+    if (isTime) line_->setPlaceholderText(QStringLiteral("--:--"));
+    const int digit = line_->fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    if (isTime)
+        line_->setMaximumWidth(digit * kTimeInDigits);
+    else
+        line_->setFixedWidth(digit * kNumberInDigits);
+}
+
+void Field::connectLine() {
+    connect(line_, &QLineEdit::textChanged, this, [this] {
+        showHint(Entry::Typing);
+        if (line_->isModified()) emit edited();
+    });
+    connect(line_, &QLineEdit::editingFinished, this, [this] {
+        if (!line_->isModified()) return;
+        complete();
+        showHint(Entry::Left);
+    });
+}
+
+void Field::frame(const QString& caption) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(look::kSmallGap / 2);
+    label_ = look::label(caption, look::TextSize::Body, this);
+    label_->setBuddy(input_);
+    column->addWidget(label_);
+    column->addWidget(input_);
+    hint_ = look::label(QString(), look::TextSize::Hint, this);
+    hint_->setObjectName(input_->objectName() + QStringLiteral(".hint"));
+    hint_->setWordWrap(true);
+    hint_->setMinimumHeight(hint_->fontMetrics().height());
+    column->addWidget(hint_);
+    if (input_->accessibleName().isEmpty()) look::name(*input_, input_->objectName(), caption);
+}
+
+void Field::setStored(const std::string& text) {
+    stored_ = text;
+    put(kind_.stored ? kind_.completed(text) : text);
+    shown_ = shownNow();
+}
+
+std::string Field::stored() const {
+    if (!isChanged()) return stored_;
+    const std::string typed(trimmed(toUtf8(text())));
+    return kind_.stored ? kind_.stored(typed) : typed;
+}
+
+void Field::showInstead(const QString& text) {
+    line_->setMaxLength(std::max(width_, static_cast<int>(text.size())));
+    put(toUtf8(text));
+    shown_ = shownNow();
+}
+
+void Field::put(const std::string& text) {
+    if (line_) {
+        line_->setText(toQt(text));
+        line_->setCursorPosition(0);
+    } else if (list_) {
+        const QSignalBlocker quiet(list_);
+        list_->setCurrentIndex(
+            list_->findData(toQt(kind_.completed ? kind_.completed(text) : text)));
+        list_->update();
+    } else {
+        const QSignalBlocker quiet(notes_);
+        notes_->setPlainText(toQt(text));
+        limitNotes();
+    }
+}
+
+QString Field::text() const {
+    if (line_) return line_->text();
+    if (list_) return list_->currentData().toString();
+    // The document keeps no-break spaces, which its plain text turns into blanks.
+    return notes_->document()->toRawText().replace(QChar::ParagraphSeparator, QLatin1Char('\n'));
+}
+
+QString Field::shownNow() const {
+    return list_ ? QString::number(list_->currentIndex()) : text();
+}
+
+void Field::setPlaceholder(const QString& text) {
+    line_->setPlaceholderText(text);
+}
+
+void Field::placeIn(QGridLayout& grid, int row, int column, const QString& suffix) {
+    grid.addWidget(label_, row, column);
+    grid.addWidget(input_, row, column + 1);
+    grid.addWidget(look::label(suffix, look::TextSize::Body, parentWidget()), row, column + 2);
+    grid.addWidget(hint_, row + 1, column, 1, 3);
+    hint_->setWordWrap(false);
+    hide();
+}
+
+QWidget* Field::bareInput() {
+    hide();
+    return input_;
+}
+
+void Field::takeFocus() {
+    input_->setFocus(Qt::TabFocusReason);
+    if (line_) line_->selectAll();
+}
+
+void Field::setReadOnly(bool readOnly) {
+    line_->setFrame(true);
+    line_->setMinimumHeight(line_->sizeHint().height());
+    line_->setFrame(!readOnly);
+    line_->setReadOnly(readOnly);
+    line_->setFocusPolicy(readOnly ? Qt::NoFocus : Qt::StrongFocus);
+}
+
+bool Field::isReadOnly() const {
+    return line_ && line_->isReadOnly();
+}
+
+void Field::setWarning(const QString& text) {
+    hint_->setText(text.isEmpty() ? text : QStringLiteral("⚠ ") + text);
+    look::setTint(*hint_, look::Tint::Warning);
+}
+
+void Field::showHint(Entry entry) {
+    Hint hint;
+    if (line_->isModified()) {
+        const std::string typed = toUtf8(line_->text());
+        hint = textHint(typed);
+        if (hint.tone == Hint::Tone::None && kind_.hint && !trimmed(typed).empty())
+            hint = kind_.hint(typed, entry);
+    }
+    setWarning(toQt(hint.text));
+    if (hint.tone != Hint::Tone::Good) return;
+    hint_->setText(QStringLiteral("✓ ") + toQt(hint.text));
+    look::setTint(*hint_, look::Tint::Quiet);
+}
+
+/// As if typed, so that the field counts as edited.
+void Field::complete() {
+    if (!kind_.completed) return;
+    const QString completed = toQt(kind_.completed(trimmed(toUtf8(line_->text()))));
+    if (completed == line_->text() || completed.size() > line_->maxLength()) return;
+    line_->selectAll();
+    line_->insert(completed);
+}
+
+/// Takes back what goes beyond the column, then says how much room is left.
+void Field::limitNotes() {
+    if (text().size() > width_) {
+        const QSignalBlocker quiet(notes_);
+        QTextCursor cursor = notes_->textCursor();
+        const int excess = static_cast<int>(text().size()) - width_;
+        cursor.setPosition(std::max(excess, cursor.position()) - excess);
+        cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor, excess);
+        cursor.removeSelectedText();
+    }
+    const Hint hint = textHint(toUtf8(text()));
+    setWarning(toQt(hint.text));
+    if (hint.tone == Hint::Tone::Warning) return;
+    hint_->setText(QStringLiteral("%1 de %2 caracteres").arg(text().size()).arg(width_));
+    look::setTint(*hint_, look::Tint::Quiet);
+}
+
+/// Enter leaves the notes, as every other field.
+bool Field::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == notes_ && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            QCoreApplication::sendEvent(this, event);
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+QString withMnemonic(std::string_view caption, char letter) {
+    QString text = toQt(caption);
+    const auto place = text.indexOf(QLatin1Char(letter), 0, Qt::CaseInsensitive);
+    if (place >= 0) text.insert(place, QLatin1Char('&'));
+    return text;
+}
+
+}  // namespace winvrx

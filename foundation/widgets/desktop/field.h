@@ -1,0 +1,99 @@
+#pragma once
+
+#include "foundation/values/input_checks.h"
+
+#include <QWidget>
+
+#include <string>
+#include <string_view>
+
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+
+namespace winvrx {
+
+/// One value on a form: its label above, the line, list or notes that take it, and a line for hints
+/// below. The label's mnemonic leads to the field.
+///
+/// Says what it finds in what the operator types, and brings it into its full form when the field
+/// is left; what was only shown is not judged. Takes no more characters than the column holds.
+class Field : public QWidget {
+    Q_OBJECT
+
+  public:
+    struct Texts {
+        QString caption;  ///< may hold an "&"
+        QString objectName;
+        std::size_t width;  ///< of the column
+        FieldKind kind = {};
+    };
+
+    Field(const Texts& texts, QWidget* parent);
+    /// Frames an input widget of another making, whose accessible name becomes the caption.
+    Field(const QString& caption, QWidget* input, QWidget* parent);
+
+    /// Shows a record's text.
+    void setStored(const std::string& text);
+    /// The text for the record, trimmed. While the operator has changed nothing, or has come back
+    /// to what was shown, it is the one given to setStored, whatever the field can show of it.
+    [[nodiscard]] std::string stored() const;
+    [[nodiscard]] bool isChanged() const { return shownNow() != shown_; }
+    /// Shows other words in the place of the record's text.
+    void showInstead(const QString& text);
+
+    [[nodiscard]] QString text() const;
+    /// What the operator types into: a QLineEdit, QComboBox or QPlainTextEdit.
+    [[nodiscard]] QWidget* input() const { return input_; }
+    void setPlaceholder(const QString& text);
+    /// Gives the label and the input to cells of `grid` side by side, with `suffix` behind them,
+    /// and the hint to the row below. The field itself shows nothing then.
+    void placeIn(QGridLayout& grid, int row, int column, const QString& suffix);
+    /// Gives only the input away: what is around it names it and shows its hints.
+    [[nodiscard]] QWidget* bareInput();
+    void takeFocus();
+    /// Shows what the system fills in, when `readOnly`: no frame, never in the keyboard's way.
+    void setReadOnly(bool readOnly);
+    [[nodiscard]] bool isReadOnly() const;
+
+    /// A short sentence under the field, with a sign before it; an empty text clears it.
+    void setWarning(const QString& text);
+
+  signals:
+    /// By the operator, not by setStored.
+    void edited();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    [[nodiscard]] QWidget* makeInput(const Texts& texts);
+    void frame(const QString& caption);
+    void connectLine();
+    void shapeLine();
+    /// The text, or the place in the list.
+    [[nodiscard]] QString shownNow() const;
+    void put(const std::string& text);
+    void showHint(Entry entry);
+    void complete();
+    void limitNotes();
+
+    FieldKind kind_;
+    int width_ = 0;
+    QLineEdit* line_ = nullptr;
+    QComboBox* list_ = nullptr;
+    QPlainTextEdit* notes_ = nullptr;
+    QWidget* input_;
+    QLabel* label_ = nullptr;
+    QLabel* hint_ = nullptr;
+    std::string stored_;
+    QString shown_;
+};
+
+/// The caption with its Alt letter marked: the first `letter` in it, whatever its case. A caption
+/// without the letter comes back as it is.
+[[nodiscard]] QString withMnemonic(std::string_view caption, char letter);
+
+}  // namespace winvrx
