@@ -141,6 +141,12 @@ std::string readableText(std::string_view windows1252) {
     return decodeWindows1252(bytes).append(trimmed(windows1252).size() > kMost ? "…" : "");
 }
 
+std::string shortened(std::string_view utf8) {
+    constexpr std::size_t kMost = 40;
+    const std::string_view shown = firstCharacters(utf8, kMost);
+    return std::string(shown) + (shown.size() < utf8.size() ? "…" : "");
+}
+
 bool isUtf8(std::string_view bytes) {
     for (std::size_t position = 0; position < bytes.size();)
         if (nextCodePoint(bytes, position) == kInvalid) return false;

@@ -28,6 +28,9 @@ namespace winvrx {
 /// The first `count` characters of `utf8`.
 [[nodiscard]] std::string_view firstCharacters(std::string_view utf8, std::size_t count);
 
+/// A text for a message: the first forty characters and "…" of a longer one.
+[[nodiscard]] std::string shortened(std::string_view utf8);
+
 /// What can be shown of bytes that nobody understands: their text, a dot for each control
 /// character, "…" where it is cut.
 [[nodiscard]] std::string readableText(std::string_view windows1252);

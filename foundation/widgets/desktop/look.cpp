@@ -1,5 +1,6 @@
 #include "foundation/widgets/desktop/look.h"
 
+#include "foundation/widgets/desktop/elided_label.h"
 #include "foundation/widgets/desktop/style.h"
 #include "foundation/widgets/desktop/svg_icon.h"
 
@@ -185,7 +186,7 @@ QFont reportFont() {
 }
 
 QLabel* label(const QString& text, TextSize size, QWidget* parent) {
-    auto* label = new QLabel(text, parent);
+    auto* label = new ElidedLabel(text, parent);
     label->setFont(font(size));
     if (size == TextSize::Hint) setTint(*label, Tint::Quiet);
     return label;

@@ -92,6 +92,7 @@ void ScreenWindow::buildStateBar() {
     QHBoxLayout* row = rowIn(frame, look::kGap);
     state_ = look::label(QString(), look::TextSize::Hint, frame);
     state_->setObjectName(QStringLiteral("state"));
+    state_->setTextFormat(Qt::PlainText);  // it quotes what was typed
     row->addWidget(state_, 1);
     closing_ = new QHBoxLayout;
     closing_->setSpacing(look::kGap);
