@@ -2,6 +2,7 @@
 
 #include "foundation/values/faults.h"
 #include "foundation/values/text.h"
+#include "timecard/schedule/typed_time.h"
 
 #include <algorithm>
 
@@ -38,12 +39,26 @@ std::string storageFinding(const std::string& text) {
 }  // namespace
 
 std::string findingOf(PunchCell cell, const std::string& text) {
-    if (const Hint hint = timeHint(text, Entry::Left); isTime(cell) && !hint.text.empty())
-        return hint.text;
+    if (isTime(cell))
+        if (std::string finding = typedTimeFinding(text); !finding.empty()) return finding;
     const std::size_t width = fieldOf(cell).column.width;
     if (characterCount(text) > width && !isCutByDesign(text))
-        return "\"" + text + "\" passa de " + std::to_string(width) + " caracteres.";
+        return "\"" + shortened(text) + "\" passa de " + std::to_string(width) + " caracteres.";
     return storageFinding(text);
+}
+
+std::size_t roomFor(PunchCell cell, std::string_view text) {
+    const std::size_t width = fieldOf(cell).column.width;
+    const bool wholeWord = cell == PunchCell::Situation && beginsSituation(text);
+    return wholeWord ? std::max(width, characterCount(text)) : width;
+}
+
+std::string noticeWhileTyping(PunchCell cell, std::string_view text) {
+    if (isTime(cell)) return mayBecomeTime(text) ? std::string() : typedTimeFinding(text);
+    const std::size_t count = characterCount(text);
+    const std::size_t width = fieldOf(cell).column.width;
+    return count > width ? std::string()
+                         : std::to_string(count) + " de " + std::to_string(width) + " caracteres";
 }
 
 CardSheet::CardSheet(std::vector<PunchLine> recorded)
@@ -121,6 +136,10 @@ std::optional<int> CardSheet::move(std::vector<Edit>& from, std::vector<Edit>& t
     return to.back().front().day;
 }
 
+std::optional<int> CardSheet::lastEditedDay() const {
+    return done_.empty() ? std::nullopt : std::optional(done_.back().front().day);
+}
+
 std::optional<int> CardSheet::undo() {
     return move(done_, undone_);
 }
@@ -159,7 +178,7 @@ std::string CardSheet::noticeAt(int day, PunchCell cell) const {
         return "Num dia com horas o cartão imprime as horas e não \"" + recorded + "\".";
     if (!isTime(cell)) return {};
     if (!parseTypedTime(recorded))
-        return "\"" + recorded + "\" não é uma hora: fica como está e não conta.";
+        return "\"" + shortened(recorded) + "\" não é uma hora: fica como está e não conta.";
     const bool absent = meaningOf(line(day).situation) == DayMeaning::Missing;
     return absent ? "O dia está marcado como falta: esta hora não conta." : "";
 }

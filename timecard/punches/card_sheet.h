@@ -35,6 +35,13 @@ inline constexpr std::array kPunchCells = {PunchCell::MorningEntry,   PunchCell:
 /// Why a text cannot be recorded in a cell of this kind, in one sentence; empty when it can.
 [[nodiscard]] std::string findingOf(PunchCell cell, const std::string& text);
 
+/// Characters that a cell takes of a text: its column's, or all of a situation's longer word.
+[[nodiscard]] std::size_t roomFor(PunchCell cell, std::string_view text);
+
+/// What is to be said of a text that is still being typed: that no more typing makes a time of it,
+/// or how much of the column it fills.
+[[nodiscard]] std::string noticeWhileTyping(PunchCell cell, std::string_view text);
+
 /// A text for one cell of a day, which counts from 1.
 struct TypedCell {
     int day;
@@ -64,6 +71,8 @@ class CardSheet {
     void type(const std::vector<TypedCell>& cells);
     /// What the last edit did beyond what was typed, in one sentence; empty when nothing.
     [[nodiscard]] const std::string& note() const { return note_; }
+    /// A day that the last edit touched; nullopt when there is none to take back.
+    [[nodiscard]] std::optional<int> lastEditedDay() const;
     /// Takes back the last edit, or makes the last one taken back again. A day that it touched;
     /// nullopt when there is none.
     std::optional<int> undo();

@@ -1,6 +1,7 @@
 #include "timecard/punches/cell_block.h"
 
 #include "foundation/values/text.h"
+#include "timecard/schedule/typed_time.h"
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 #include "timecard/punches/punch_record.h"
 
 #include "foundation/values/text.h"
+#include "timecard/schedule/typed_time.h"
 
 namespace winvrx {
 

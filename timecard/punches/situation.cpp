@@ -55,6 +55,13 @@ std::string meantSituation(std::string_view typed) {
     return meant.empty() ? as : std::string(meant);
 }
 
+bool beginsSituation(std::string_view text) {
+    const std::string wanted = foldedForSearch(text);
+    return std::any_of(kSituations.begin(), kSituations.end(), [&](const Situation& one) {
+        return foldedForSearch(one.word).starts_with(wanted);
+    });
+}
+
 DayMeaning meaningOf(std::string_view situation) {
     const Situation* found = findSituation(situation);
     return found ? found->meaning : DayMeaning::Work;

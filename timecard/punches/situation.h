@@ -62,6 +62,9 @@ inline constexpr std::array kSituations = {
 /// it is. "falta" and "fal" are "Falta"; "fer" may be two words and stays.
 [[nodiscard]] std::string meantSituation(std::string_view typed);
 
+/// Whether the word of a situation begins with the text, letter case and accents aside.
+[[nodiscard]] bool beginsSituation(std::string_view text);
+
 /// DayMeaning::Work for a text that is none of kSituations, the blank included.
 [[nodiscard]] DayMeaning meaningOf(std::string_view situation);
 

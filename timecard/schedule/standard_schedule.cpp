@@ -1,5 +1,7 @@
 #include "timecard/schedule/standard_schedule.h"
 
+#include "timecard/schedule/typed_time.h"
+
 #include <algorithm>
 
 namespace winvrx {
@@ -38,20 +40,6 @@ static_assert(kSecondFlag.end() == kTimeFields[4].column.start);
 static_assert(kTimeFields[7].column.end() == kOpaque.start);
 static_assert(kOpaque.end() == kScheduleWidth + 1);
 
-constexpr std::string_view kSeparators = ":.,";
-constexpr std::size_t kMinuteDigits = 2;
-
-/// One or two digits as a number up to `highest`.
-std::optional<int> shortNumber(std::string_view digits, int highest) {
-    int value = 0;
-    if (digits.empty() || digits.size() > 2) return std::nullopt;
-    for (const char digit : digits) {
-        if (digit < '0' || digit > '9') return std::nullopt;
-        value = value * 10 + (digit - '0');
-    }
-    return value <= highest ? std::optional(value) : std::nullopt;
-}
-
 bool flagIn(std::string_view lineBytes, Column column) {
     return fieldOf(lineBytes, column) == "1";
 }
@@ -75,34 +63,6 @@ std::optional<TimeOfDay>& timeAt(StandardSchedule& schedule, std::size_t positio
 const std::optional<TimeOfDay>& timeAt(const StandardSchedule& schedule, std::size_t position) {
     const TimeField& field = kTimeFields.at(position);
     return schedule.*field.day.*field.pair.*field.time;
-}
-
-std::string completedTime(std::string_view typed) {
-    const auto time = parseTypedTime(typed);
-    return time ? timeText(*time) : std::string(typed);
-}
-
-Hint timeHint(std::string_view typed, Entry entry) {
-    if (typed.empty() || entry == Entry::Typing || parseTypedTime(typed)) return {};
-    return {Hint::Tone::Warning, "\"" + std::string(typed) + "\" não é uma hora de 00:00 a 23:59."};
-}
-
-std::optional<TimeOfDay> parseTypedTime(std::string_view text) {
-    if (text.empty()) return std::nullopt;
-    if (const auto time = parseTime(text)) return time;
-    const std::size_t separator = text.find_first_of(kSeparators);
-    std::string_view hours = text.substr(0, separator);
-    std::string_view minutes = "0";
-    if (separator != std::string_view::npos) {
-        minutes = text.substr(separator + 1);
-    } else if (text.size() > kMinuteDigits) {
-        hours = text.substr(0, text.size() - kMinuteDigits);
-        minutes = text.substr(text.size() - kMinuteDigits);
-    }
-    const auto hour = shortNumber(hours, 23);
-    const auto minute = shortNumber(minutes, 59);
-    if (!hour || !minute) return std::nullopt;
-    return TimeOfDay{std::chrono::hours{*hour} + std::chrono::minutes{*minute}};
 }
 
 std::string encode(const StandardSchedule& schedule, std::string existing) {

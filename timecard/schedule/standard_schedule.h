@@ -3,7 +3,6 @@
 #include "foundation/files/data_folder.h"
 #include "foundation/files/record_file.h"
 #include "foundation/values/date.h"
-#include "foundation/values/input_checks.h"
 
 #include <array>
 #include <optional>
@@ -53,19 +52,6 @@ inline constexpr std::size_t kFirstSaturdayTime = 4;
 [[nodiscard]] std::optional<TimeOfDay>& timeAt(StandardSchedule& schedule, std::size_t position);
 [[nodiscard]] const std::optional<TimeOfDay>& timeAt(const StandardSchedule& schedule,
                                                      std::size_t position);
-
-/// A time as hands write it, "8", "800", "8:0", "8,30" or "08:00"; nullopt for anything else, the
-/// blank included.
-[[nodiscard]] std::optional<TimeOfDay> parseTypedTime(std::string_view text);
-
-/// The same as "hh:mm"; what is no time comes back as it is.
-[[nodiscard]] std::string completedTime(std::string_view typed);
-
-/// Warns of a text that is neither empty nor a time.
-[[nodiscard]] Hint timeHint(std::string_view typed, Entry entry);
-
-/// Brought into its form when it is left; the panel around it says what is no time.
-inline constexpr FieldKind kTimeField{.completed = completedTime, .shape = FieldKind::Shape::Time};
 
 /// Built upon `existing`: what means the same there keeps its bytes.
 [[nodiscard]] std::string encode(const StandardSchedule& schedule, std::string existing = {});

@@ -1,6 +1,7 @@
 #include "timecard/schedule/typed_schedule.h"
 
 #include "foundation/values/text.h"
+#include "timecard/schedule/typed_time.h"
 
 #include <algorithm>
 
@@ -32,7 +33,7 @@ std::optional<std::string> TypedSchedule::firstFinding() const {
 }
 
 std::string TypedSchedule::findingAt(std::size_t position) const {
-    return timeHint(texts_.at(position), Entry::Left).text;
+    return typedTimeFinding(texts_.at(position));
 }
 
 bool TypedSchedule::hasSaturdayTimes() const {

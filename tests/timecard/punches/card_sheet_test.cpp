@@ -26,7 +26,7 @@ TEST_F(EditedSheet, TimesAreTakenAsHandsTypeThem) {
     };
     for (const Case& c :
          {Case{"8", "08:00", true}, Case{"800", "08:00", true}, Case{"8:0", "08:00", true},
-          Case{"08:00", "08:00", true}, Case{" 1730 ", "17:30", true}, Case{"8,5", "08:05", true},
+          Case{"08:00", "08:00", true}, Case{" 1730 ", "17:30", true}, Case{"8,5", "8,5", false},
           Case{"", "", true}, Case{"24", "24", false}, Case{"860", "860", false},
           Case{"8h", "8h", false}, Case{"-1", "-1", false}}) {
         sheet.type(5, PunchCell::MorningEntry, c.typed);

@@ -69,20 +69,5 @@ TEST(StandardSchedule, SavingReplacesTheFirstLineOnly) {
     EXPECT_EQ(desk.file("01PadrHor007.pdx"), expected + "\r\nlinha alheia\r\n");
 }
 
-TEST(TypedTime, TakesWhatHandsWriteAndNothingElse) {
-    struct Case {
-        const char* typed;
-        const char* meant;
-    };
-    for (const Case& c :
-         {Case{"8", "08:00"}, Case{"18", "18:00"}, Case{"800", "08:00"}, Case{"1630", "16:30"},
-          Case{"8:0", "08:00"}, Case{"8:5", "08:05"}, Case{"08:00", "08:00"}, Case{"8,30", "08:30"},
-          Case{"8.30", "08:30"}, Case{"0", "00:00"}, Case{"23:59", "23:59"}})
-        EXPECT_EQ(parseTypedTime(c.typed), parseTime(c.meant)) << c.typed;
-    for (const char* typed : {"", " ", "24", "24:00", "8:60", "860", "2400", "8:", ":30", "8:0:0",
-                              "-8", "8h", "12345", "008:00", "8:000", "oito", " 8"})
-        EXPECT_FALSE(parseTypedTime(typed)) << typed;
-}
-
 }  // namespace
 }  // namespace winvrx

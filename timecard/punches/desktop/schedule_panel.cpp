@@ -3,6 +3,7 @@
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
+#include "timecard/schedule/typed_time.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
