@@ -42,12 +42,11 @@ class CartaoPontoDados {
     /// unrecorded changes, or it cannot be read.
     [[nodiscard]] bool select(std::size_t position);
     [[nodiscard]] std::optional<std::size_t> selectedPosition() const { return position_; }
-    /// nullptr when none is selected.
-    [[nodiscard]] const Employee* selected() const;
-    /// No marks when none is selected.
-    [[nodiscard]] EmployeeMarks marks() const;
+    [[nodiscard]] const Employee* selected() const;  ///< nullptr when there is none
+    [[nodiscard]] EmployeeMarks marks() const;       ///< none when there is none selected
 
     [[nodiscard]] TypedSchedule& schedule() { return schedule_; }
+    [[nodiscard]] const TypedSchedule& schedule() const { return schedule_; }
     [[nodiscard]] std::string weeklyCaption() const;   ///< "44,0 HORAS SEMANAIS"
     [[nodiscard]] std::string monthlyCaption() const;  ///< "220,0 HORAS MENSAIS"
     [[nodiscard]] std::string_view saturdayCaption() const;

@@ -2,10 +2,12 @@
 
 #include "foundation/register/desktop/employee_picker.h"
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/elided_label.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/progress.h"
 #include "timecard/hours/desktop/hours_summary_panel.h"
 #include "timecard/punches/desktop/application_bar.h"
+#include "timecard/punches/desktop/card_status.h"
 #include "timecard/punches/desktop/half_month_panel.h"
 #include "timecard/punches/desktop/punch_grid.h"
 #include "timecard/punches/desktop/schedule_panel.h"
@@ -46,6 +48,9 @@ CartaoPontoDadosWindow::CartaoPontoDadosWindow(CartaoPontoDados& command, QWidge
     buildCommands();
     connectEmployees();
     addEmployeeKeys();
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (isAncestorOf(now)) showStatus();
+    });
     refresh();
     employees_->focusList();
 }
@@ -137,6 +142,12 @@ void CartaoPontoDadosWindow::connectGrid(HalfMonth which) {
     const PunchGrid* grid = &half(which).grid();
     connect(&half(which).model(), &PunchModel::edited, this, &CartaoPontoDadosWindow::showState);
     connect(grid, &PunchGrid::cellChanged, this, [this, which] { followCursor(which); });
+    connect(grid, &PunchGrid::said, this, [this](const QString& text) {
+        if (text.isEmpty())
+            showStatus();
+        else
+            setState(text);
+    });
     connect(grid, &PunchGrid::changeRefused, this, [this] { (void)command_.requireEditable(); });
     connect(grid, &PunchGrid::leftAtEnd, this, [this, which] {
         showHalf(otherThan(which));
@@ -218,7 +229,7 @@ void CartaoPontoDadosWindow::followCursor(HalfMonth which) {
         shown_ = which;
         layOutHalves();
     }
-    showState();
+    showStatus();
 }
 
 void CartaoPontoDadosWindow::layOutHalves() {
@@ -287,7 +298,7 @@ void CartaoPontoDadosWindow::showUnread() {
     QStringList texts;
     for (const std::string& line : lines)
         texts << toQt(line);
-    unread_->setToolTip(texts.join(QLatin1Char('\n')));
+    unread_->setToolTip(tipOf(texts.join(QLatin1Char('\n'))));
     unread_->setVisible(!lines.empty());
     if (lines.empty())
         unread_->clear();
@@ -310,22 +321,12 @@ void CartaoPontoDadosWindow::showState() {
     showHours();
     for (HalfMonthPanel* panel : halves_)
         panel->showHeading();
-    const PunchModel& model = half(shown_).model();
-    const QModelIndex at = half(shown_).grid().currentIndex();
-    QString notice = model.noticeAt(at);
-    if (notice.isEmpty()) notice = model.doubtAt(at);
-    if (!notice.isEmpty())
-        setState(QStringLiteral("⚠ ") + notice);
-    else if (!command_.sheet().note().empty())
-        setState(toQt(command_.sheet().note()));
-    else if (command_.closed())
-        setState(QStringLiteral("Folha Fechada: o ponto deste mês não pode ser alterado"));
-    else if (command_.changed())
-        setState(QStringLiteral("Alterações não gravadas"));
-    else if (command_.selected() && !command_.applied())
-        setState(QStringLiteral("Ponto ainda não aplicado neste mês"));
-    else
-        setState(command_.selected() ? QStringLiteral("Ponto gravado") : QString());
+    showStatus();
+}
+
+void CartaoPontoDadosWindow::showStatus() {
+    setState(cardStatus(command_, half(shown_).grid(),
+                        employees_->isAncestorOf(QApplication::focusWidget())));
 }
 
 void CartaoPontoDadosWindow::commitEditors() {

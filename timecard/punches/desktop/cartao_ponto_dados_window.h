@@ -66,6 +66,7 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     void showEdit(std::optional<int> day);
     void showHours();
     void showState();
+    void showStatus();
     void showUnread();
     void commitEditors();
     void apply();

@@ -1,23 +1,18 @@
 #include "timecard/punches/desktop/punch_grid.h"
 
-#include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/elided_label.h"
 #include "foundation/widgets/desktop/look.h"
+#include "timecard/punches/desktop/punch_delegate.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QComboBox>
-#include <QCompleter>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QLineEdit>
-#include <QStyledItemDelegate>
+#include <QToolTip>
 
 namespace winvrx {
 
 namespace {
-
-constexpr int kLongestTime = 5;
-constexpr int kLongestSituation = 19;
 
 constexpr int kMostRows = 16;
 constexpr QKeyCombination kRedoKey(Qt::ControlModifier, Qt::Key_Y);
@@ -41,61 +36,18 @@ int widthOf(int column, const QStyle& style) {
         letters.horizontalAdvance(QString::fromUtf8(kLongestTexts[place])) + 2 * margin + kSlack);
 }
 
-/// Editors of the cells: a field of five characters, and the list of situations.
-class PunchDelegate : public QStyledItemDelegate {
-  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
-                          const QModelIndex& index) const override {
-        if (index.column() == PunchModel::Situation) return situationEditor(parent);
-        auto* edit = new QLineEdit(parent);
-        edit->setObjectName(QStringLiteral("punch.editor"));
-        edit->setMaxLength(kLongestTime);
-        edit->setAlignment(Qt::AlignCenter);
-        edit->setFont(look::fixedFont());
-        edit->setFrame(false);
-        edit->setAccessibleName(index.data(Qt::AccessibleTextRole).toString());
-        return edit;
-    }
-
-    void setEditorData(QWidget* editor, const QModelIndex& index) const override {
-        if (auto* box = qobject_cast<QComboBox*>(editor)) {
-            box->setEditText(index.data(Qt::EditRole).toString());
-            box->lineEdit()->selectAll();  // so that typing replaces what stands there
-        } else {
-            QStyledItemDelegate::setEditorData(editor, index);
-        }
-    }
-
-    void setModelData(QWidget* editor, QAbstractItemModel* model,
-                      const QModelIndex& index) const override {
-        if (auto* box = qobject_cast<QComboBox*>(editor))
-            model->setData(index, box->currentText(), Qt::EditRole);
-        else
-            QStyledItemDelegate::setModelData(editor, model, index);
-    }
-
-  private:
-    static QWidget* situationEditor(QWidget* parent) {
-        auto* box = new QComboBox(parent);
-        look::name(*box, QStringLiteral("punch.situation"), QStringLiteral("Situação"));
-        box->setEditable(true);
-        box->addItem(QString());
-        for (const Situation& situation : kSituations)
-            box->addItem(toQt(situation.word));
-        box->lineEdit()->setMaxLength(kLongestSituation);
-        box->completer()->setCompletionMode(QCompleter::PopupCompletion);
-        box->completer()->setFilterMode(Qt::MatchContains);
-        return box;
-    }
-};
+bool isPlain(const QKeyEvent* event) {
+    return !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+}
 
 }  // namespace
 
 PunchGrid::PunchGrid(PunchModel* model, QWidget* parent) : QTableView(parent), punches_(model) {
     setModel(model);
-    setItemDelegate(new PunchDelegate(this));
+    auto* delegate = new PunchDelegate(this);
+    setItemDelegate(delegate);
+    connect(delegate, &PunchDelegate::said, this, &PunchGrid::said);
+    connect(delegate, &PunchDelegate::finished, this, &PunchGrid::goOnFromEditor);
     setSelectionMode(QAbstractItemView::ContiguousSelection);
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::AnyKeyPressed |
                     QAbstractItemView::EditKeyPressed);
@@ -146,7 +98,8 @@ void PunchGrid::setNextCellKey(Qt::Key key) {
 }
 
 void PunchGrid::goToStart() {
-    setCurrentIndex(punches_->index(0, PunchModel::FirstCell));
+    const QModelIndex first = punches_->nextTime(0, PunchModel::FirstCell);
+    setCurrentIndex(first.isValid() ? first : punches_->index(0, PunchModel::FirstCell));
     setFocus(Qt::OtherFocusReason);
 }
 
@@ -160,13 +113,21 @@ void PunchGrid::commitEditor() {
 void PunchGrid::goToNextCell() {
     const QModelIndex at = currentIndex();
     if (!at.isValid()) return;
-    const bool lastOfRow = at.column() >= PunchModel::Situation;
-    if (lastOfRow && at.row() + 1 == punches_->rowCount())
-        emit leftAtEnd();
-    else if (lastOfRow)
-        setCurrentIndex(punches_->index(at.row() + 1, PunchModel::FirstCell));
+    const QModelIndex next = punches_->nextTime(at.row(), at.column() + 1);
+    if (next.isValid())
+        setCurrentIndex(next);
     else
-        setCurrentIndex(punches_->index(at.row(), at.column() + 1));
+        emit leftAtEnd();
+}
+
+void PunchGrid::goOnFromEditor(Qt::Key key) {
+    const QModelIndex at = currentIndex();
+    const QString finding = punches_->findingAt(at);
+    if (!finding.isEmpty())
+        QToolTip::showText(viewport()->mapToGlobal(visualRect(at).bottomLeft()), tipOf(finding),
+                           viewport());
+    else if (key == nextCellKey_)
+        goToNextCell();
 }
 
 bool PunchGrid::mayChange() const {
@@ -219,23 +180,38 @@ bool PunchGrid::takesCommand(const QKeyEvent* event) {
     return true;
 }
 
-void PunchGrid::keyPressEvent(QKeyEvent* event) {
-    // An open editor's ENTER comes through here too; closing the editor moves on by itself.
-    if (state() == EditingState)
-        event->accept();
-    else if (isNextCellKey(event->key()))
-        goToNextCell();
-    else if (!takesCommand(event))
-        QTableView::keyPressEvent(event);
+bool PunchGrid::movesInRow(const QKeyEvent* event) {
+    const bool home = event->key() == Qt::Key_Home;
+    if (!isPlain(event) || !(home || event->key() == Qt::Key_End)) return false;
+    const int column = home ? PunchModel::FirstCell : PunchModel::Situation;
+    setCurrentIndex(currentIndex().siblingAtColumn(column));
+    return true;
 }
 
-void PunchGrid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
-    // The delegate reports ENTER as SubmitModelCache and TAB as EditNextItem.
-    const bool byTab = hint == QAbstractItemDelegate::EditNextItem;
-    const bool byEnter = hint == QAbstractItemDelegate::SubmitModelCache;
-    const bool onwards = nextCellKey_ == Qt::Key_Tab ? byTab : byEnter;
+void PunchGrid::leadToCell(const QKeyEvent* event) {
+    const QModelIndex at = currentIndex();
+    if (!at.isValid() || !isPlain(event) || event->text().isEmpty()) return;
+    const auto cell = PunchModel::cellOf(at.column());
+    const QChar letter = event->text().front();
+    if (letter.isDigit() && (!cell || *cell == PunchCell::Situation))
+        setCurrentIndex(punches_->openTime(at.row()));
+    else if (letter.isLetter() && !cell)
+        setCurrentIndex(at.siblingAtColumn(PunchModel::Situation));
+}
+
+void PunchGrid::keyPressEvent(QKeyEvent* event) {
+    if (state() == EditingState) {
+        event->accept();  // of an open editor, which takes what it wants by itself
+    } else if (isNextCellKey(event->key())) {
+        goToNextCell();
+    } else if (!movesInRow(event) && !takesCommand(event)) {
+        leadToCell(event);
+        QTableView::keyPressEvent(event);
+    }
+}
+
+void PunchGrid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint) {
     QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-    if (onwards) goToNextCell();
     emit cellChanged();
 }
 

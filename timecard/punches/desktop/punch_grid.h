@@ -7,9 +7,10 @@
 namespace winvrx {
 
 /// The table of a half-month. Typing replaces a cell, F2 changes it, Del empties those selected;
-/// ENTER or TAB, as chosen, goes to the next cell and from the last cell of a row to the next row.
-/// Blocks of cells are exchanged with other programs through the clipboard. Rows share the height
-/// that there is.
+/// ENTER or TAB, as chosen, goes to the next time that the schedule expects, in this row or below,
+/// and stays on a text that is none. Home goes to the first time of the row, End to its situation.
+/// A digit typed beside the times goes into one, a letter into the situation. Blocks of cells are
+/// exchanged with other programs through the clipboard. Rows share the height that there is.
 class PunchGrid : public QTableView {
     Q_OBJECT
 
@@ -18,7 +19,8 @@ class PunchGrid : public QTableView {
 
     /// Qt::Key_Return or Qt::Key_Tab.
     void setNextCellKey(Qt::Key key);
-    /// The cursor on the first time of the first day.
+    [[nodiscard]] Qt::Key nextCellKey() const { return nextCellKey_; }
+    /// The cursor on the first time that is expected.
     void goToStart();
     /// Takes over what stands in an open editor and closes it.
     void commitEditor();
@@ -30,6 +32,8 @@ class PunchGrid : public QTableView {
     /// The cursor would go past the last cell.
     void leftAtEnd();
     void cellChanged();
+    /// What is to be said of the text that is being typed; empty when nothing.
+    void said(const QString& text);
     /// Somebody tried to change a cell that takes no text now.
     void changeRefused();
     void undoRequested();
@@ -42,6 +46,8 @@ class PunchGrid : public QTableView {
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    /// Typing never searches.
+    void keyboardSearch(const QString&) override {}
 
   private:
     void layOutColumns();
@@ -53,6 +59,10 @@ class PunchGrid : public QTableView {
     void clearBlock();
     void pasteHere();
     void goToNextCell();
+    void goOnFromEditor(Qt::Key key);
+    [[nodiscard]] bool movesInRow(const QKeyEvent* event);
+    /// Puts the cursor where the text of the key belongs.
+    void leadToCell(const QKeyEvent* event);
     [[nodiscard]] bool isNextCellKey(int key) const;
 
     PunchModel* punches_;

@@ -1,8 +1,11 @@
 #include "timecard/punches/desktop/punch_model.h"
 
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
+#include "foundation/widgets/desktop/elided_label.h"
 #include "foundation/widgets/desktop/look.h"
 #include "timecard/punches/cell_block.h"
+#include "timecard/punches/typing_order.h"
 
 #include <QApplication>
 
@@ -33,6 +36,10 @@ std::optional<look::Tint> tintOf(DayKind kind) {
             return look::Tint::Absence;
     }
     return std::nullopt;
+}
+
+QString shortText(const QString& text) {
+    return toQt(shortened(toUtf8(text)));
 }
 
 /// The word that stands for a day's colour where its situation is not written.
@@ -76,12 +83,36 @@ int PunchModel::dayOf(const QModelIndex& index) const {
     return days_.first + index.row();
 }
 
+bool PunchModel::expects(const QModelIndex& index) const {
+    const auto cell = cellOf(index.column());
+    return cell && expectsTimes(command_, dayOf(index), *cell);
+}
+
+QModelIndex PunchModel::nextTime(int row, int column) const {
+    for (; row < rowCount(); ++row, column = FirstCell)
+        for (; column < ShortField; ++column)
+            if (expects(index(row, column))) return index(row, column);
+    return {};
+}
+
+QModelIndex PunchModel::openTime(int row) const {
+    for (int column = FirstCell; column < ShortField; ++column)
+        if (const QModelIndex at = index(row, column); expects(at) && textOf(at).isEmpty())
+            return at;
+    return index(row, FirstCell);
+}
+
 QString PunchModel::textOf(const QModelIndex& index) const {
     const int day = dayOf(index);
     if (index.column() == Day) return toQt(command_.sheet().line(day).label);
     if (index.column() == Total) return toQt(command_.totalOf(day));
     if (index.column() == Difference) return toQt(command_.differenceOf(day));
     return toQt(command_.sheet().text(day, *cellOf(index.column())));
+}
+
+QString PunchModel::findingAt(const QModelIndex& index) const {
+    const auto cell = index.isValid() ? cellOf(index.column()) : std::nullopt;
+    return cell ? toQt(command_.sheet().findingAt(dayOf(index), *cell)) : QString();
 }
 
 QString PunchModel::noticeAt(const QModelIndex& index) const {
@@ -97,11 +128,28 @@ QString PunchModel::spokenNameOf(const QModelIndex& index) const {
     QString heading = QString::fromUtf8(kHeadings[static_cast<std::size_t>(index.column())]);
     return toQt(command_.sheet().line(dayOf(index)).label) + QLatin1Char(' ') +
            heading.replace(QLatin1Char('\n'), QLatin1Char(' ')) + QStringLiteral(": ") +
-           textOf(index);
+           shortText(textOf(index));
+}
+
+QString PunchModel::editorNameOf(const QModelIndex& index) const {
+    const QStringList heading =
+        QString::fromUtf8(kHeadings[static_cast<std::size_t>(index.column())])
+            .split(QLatin1Char('\n'));
+    const QString cell = heading.size() == 1
+                             ? heading.front()
+                             : heading.back() + QLatin1Char(' ') + heading.front().toLower();
+    return cell + QStringLiteral(", dia ") + toQt(command_.sheet().line(dayOf(index)).label);
+}
+
+QString PunchModel::toolTipOf(const QModelIndex& index) const {
+    const QString said = noticeAt(index).isEmpty() ? doubtAt(index) : noticeAt(index);
+    const QString text = textOf(index);
+    const bool cut = shortText(text) != text;
+    return tipOf(cut ? said + QLatin1Char('\n') + text : said);
 }
 
 QString PunchModel::shownText(const QModelIndex& index) const {
-    const QString text = textOf(index);
+    const QString text = shortText(textOf(index));
     if (index.column() == Day)
         return doubtAt(index).isEmpty() ? text : QString(QStringLiteral("⚠") + text);
     if (!noticeAt(index).isEmpty()) return QString(QStringLiteral("⚠ ") + text);
@@ -135,7 +183,7 @@ QVariant PunchModel::data(const QModelIndex& index, int role) const {
         case Qt::EditRole:
             return textOf(index);
         case Qt::ToolTipRole:
-            return noticeAt(index).isEmpty() ? doubtAt(index) : noticeAt(index);
+            return toolTipOf(index);
         case Qt::AccessibleTextRole:
             return spokenNameOf(index);
         case Qt::AccessibleDescriptionRole:

@@ -73,7 +73,7 @@ struct CardWindow : ::testing::Test {
 TEST_F(CardWindow, TypingFillsCellAfterCellAndRowAfterRow) {
     open();
     grid(1).goToStart();
-    for (const char* typed : {"8", "1200", "13:0", "17,30", "", "", "", ""})
+    for (const char* typed : {"8", "1200", "13:0", "17,30"})
         enter(typed);
     EXPECT_EQ(cell(1, 0, 1), "08:00");
     EXPECT_EQ(cell(1, 0, 2), "12:00");
@@ -81,10 +81,12 @@ TEST_F(CardWindow, TypingFillsCellAfterCellAndRowAfterRow) {
     EXPECT_EQ(cell(1, 0, 4), "17:30");
     EXPECT_EQ(cell(1, 0, PunchModel::Total), "08:30");
     EXPECT_EQ(driven->text("card.heading1"), "1º Quinzena  ·  08:30");
-    EXPECT_EQ(grid(1).currentIndex(), grid(1).model()->index(1, 1));
+    EXPECT_EQ(grid(1).currentIndex(), grid(1).model()->index(3, 1)) << "on Monday";
     driven->press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_THAT(desk.file(kPunches), ::testing::HasSubstr("\r\n01/sex/mar08:0012:0013:0017:30"));
-    EXPECT_EQ(driven->text("state"), "Ponto gravado");
+    EXPECT_EQ(driven->text("state"),
+              "Ponto gravado  ·  ENTER: próxima hora · Home: primeira · End: situação · "
+              "Ctrl+F: funcionários");
 }
 
 TEST_F(CardWindow, TheTabKeyMovesOnWhenItIsChosen) {
@@ -102,7 +104,6 @@ TEST_F(CardWindow, AWrongTimeStaysInItsCellAndIsNotRecorded) {
     grid(1).goToStart();
     enter("2500");
     EXPECT_EQ(cell(1, 0, 1), "⚠ 2500");
-    grid(1).setCurrentIndex(grid(1).model()->index(0, 1));
     EXPECT_EQ(driven->text("state"), "⚠ \"2500\" não é uma hora de 00:00 a 23:59.");
     driven->press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(desk.person.shown.back().title, "DIGITAÇÃO DO PONTO");
@@ -172,7 +173,7 @@ TEST_F(CardWindow, AnAbsenceTakesTheTimesOutAndSaysSo) {
               "Falta: as horas de 04/seg/mar saíram; Ctrl+Z as traz de volta.");
     driven->press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(cell(1, 3, 1) + cell(1, 3, PunchModel::Situation), "08:00");
-    EXPECT_EQ(driven->text("state"), "Ponto gravado");
+    EXPECT_THAT(driven->text("state"), ::testing::StartsWith("Ponto gravado"));
 }
 
 TEST_F(CardWindow, WhatStandsInAnOpenEditorIsNotLost) {
@@ -212,7 +213,7 @@ TEST_F(CardWindow, F6ChangesTheHalfAndAWideWindowShowsBoth) {
 
 TEST_F(CardWindow, ApplicationShowsTheFilledMonth) {
     open();
-    EXPECT_EQ(driven->text("state"), "Ponto ainda não aplicado neste mês");
+    EXPECT_EQ(driven->text("state"), "Ponto ainda não aplicado neste mês  ·  ENTER: horas do dia");
     EXPECT_EQ(cell(1, 2, PunchModel::Situation), "(descanso)");
     desk.person.answers = {Answer::Yes};
     driven->press(Qt::Key_F9);
@@ -325,7 +326,7 @@ TEST_F(CardWindow, ADoubtfulDayIsMarkedAndItsReasonSaid) {
     for (const char* typed : {"8", "12", "1130", "17"})
         enter(typed);
     EXPECT_EQ(cell(1, 0, PunchModel::Day), "⚠01/sex/mar");
-    EXPECT_EQ(driven->text("state"), "⚠ Manhã e Tarde: os horários se sobrepõem.");
+    EXPECT_EQ(driven->text("state"), "⚠ 01/sex/mar: Manhã e Tarde: os horários se sobrepõem.");
     driven->press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_THAT(desk.file(kPunches), ::testing::HasSubstr("01/sex/mar08:0012:0011:3017:00"));
 }
