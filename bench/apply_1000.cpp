@@ -8,6 +8,7 @@
 #include "foundation/files/disk.h"
 #include "foundation/files/durable_files.h"
 #include "foundation/register/employee_register.h"
+#include "tests/support/employees.h"
 #include "timecard/punches/list_application.h"
 
 #include <algorithm>
@@ -58,13 +59,8 @@ void hire(const Store& store) {
     schedule.weekday.morning = {parseTime("08:00"), parseTime("12:00")};
     schedule.weekday.afternoon = {parseTime("13:00"), parseTime("17:00")};
     for (const EmployeeCode& code : everyone()) {
-        Employee one;
-        one.code = code.text();
-        one.name = "MARIA " + code.text();
-        one.admission = "12/03/2020";
-        one.shift = "Unico";
-        one.scale = "Normal";
-        lines.push_back(lineOf(one));
+        lines.push_back(lineOf(
+            testing::employee(code.text(), "MARIA " + code.text(), {.admission = "12/03/2020"})));
         schedules.push_back({store.folder.companyFile(kCompany, scheduleFileName(code)),
                              joinedLines({encode(schedule)})});
     }

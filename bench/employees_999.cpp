@@ -8,6 +8,7 @@
 #include "foundation/register/desktop/empregados_window.h"
 #include "foundation/register/employee_import.h"
 #include "foundation/register/empregados.h"
+#include "tests/support/employees.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -60,17 +61,15 @@ std::vector<EmployeeLine> employees() {
     const std::vector<std::string> names = {"CONCEIÇÃO", "D'ÁVILA", "LIMA", "ÁLVARES", "NUNES"};
     std::vector<EmployeeLine> lines;
     for (int number = 1; number <= EmployeeCode::kHighest; ++number) {
-        Employee one;
-        one.code = EmployeeCode::fromNumber(number)->text();
-        one.name = "MARIA " + names[static_cast<std::size_t>(number * 7) % names.size()] + " " +
-                   std::to_string(number * 37 % 1000);
+        Employee one = testing::employee(
+            EmployeeCode::fromNumber(number)->text(),
+            "MARIA " + names[static_cast<std::size_t>(number * 7) % names.size()] + " " +
+                std::to_string(number * 37 % 1000),
+            {.admission = "12/03/20" + std::to_string(10 + number % 14)});
         one.function = "AUXILIAR DE ESCRITÓR";
-        one.admission = "12/03/20" + std::to_string(10 + number % 14);
         one.taxId = "529.982.247-25";
         one.address = "RUA DAS ACÁCIAS, 120";
         one.city = "TAUBATÉ";
-        one.shift = "Unico";
-        one.scale = "Normal";
         lines.push_back(lineOf(one));
     }
     return lines;

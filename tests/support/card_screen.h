@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/employees.h"
 #include "tests/support/test_punch_desk.h"
 #include "tests/support/test_workplace.h"
 #include "timecard/month/selected_month.h"
@@ -15,13 +16,7 @@ inline const char* const kConfirm =
     "Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão para o Item Selecionado?";
 
 inline Employee employee(const char* code, const char* name, const char* shift, const char* scale) {
-    Employee one;
-    one.code = code;
-    one.name = name;
-    one.shift = shift;
-    one.scale = scale;
-    one.admission = "01/02/2020";
-    return one;
+    return employee(code, name, {shift, scale, "01/02/2020"});
 }
 
 /// A company of three, with March 2024 chosen and Good Friday ticked.
@@ -42,10 +37,7 @@ struct CardScreen : ::testing::Test {
     }
 
     void hire(const std::vector<Employee>& people) {
-        std::vector<std::string> lines;
-        for (const Employee& one : people)
-            lines.push_back(encode(one));
-        desk.file("01CartaPonto") = joinedLines(lines);
+        desk.file("01CartaPonto") = employeeList(people);
     }
 
     void openOn(std::size_t position) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/register/empregados.h"
+#include "tests/support/employees.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 
@@ -70,23 +71,12 @@ struct EmployeeDesk : TestWorkplace {
     TestLocks locks;
     Empregados empregados{at, {browser, editor, spreadsheet, locks, locks}};
 
-    /// An employee who can be recorded.
-    [[nodiscard]] static Employee employee(const char* code, const char* name,
-                                           const char* admission = "12/03/2024") {
-        Employee made;
-        made.code = code;
-        made.name = name;
-        made.admission = admission;
-        made.shift = "Unico";
-        made.scale = "Normal";
-        return made;
+    [[nodiscard]] static Employee employee(const char* code, const char* name) {
+        return testing::employee(code, name);
     }
 
     void record(const char* company, const std::vector<Employee>& employees) {
-        std::vector<std::string> lines;
-        for (const Employee& one : employees)
-            lines.push_back(encode(one));
-        file(std::string(company) + "CartaPonto") = joinedLines(lines);
+        file(std::string(company) + "CartaPonto") = employeeList(employees);
         empregados.load();
     }
 

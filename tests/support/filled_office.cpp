@@ -3,6 +3,7 @@
 #include "foundation/files/record_file.h"
 #include "foundation/register/company.h"
 #include "foundation/register/employee_checks.h"
+#include "tests/support/employees.h"
 
 #include <vector>
 
@@ -25,33 +26,23 @@ std::string inDataFolder(const std::string& name) {
 
 Employee officeEmployee(const std::string& code, const std::string& name,
                         const std::string& admission) {
-    Employee one;
+    Employee one = employee(code, name, {.scale = "Norma", .admission = admission});
     for (const EmployeeField& field : kEmployeeFields)
-        if (field.isRequired) one.*field.member = "1";
-    one.code = code;
-    one.name = name;
-    one.admission = admission;
-    one.shift = "Unico";
-    one.scale = "Norma";
+        if (field.isRequired && (one.*field.member).empty()) one.*field.member = "1";
     return one;
 }
 
 FileTable filledOffice() {
-    const auto list = [](const std::vector<Employee>& people) {
-        std::vector<std::string> lines;
-        for (const Employee& one : people)
-            lines.push_back(encode(one));
-        return joinedLines(lines);
-    };
     FileTable files;
     const auto file = [&files](const char* name) -> std::string& {
         return files[inDataFolder(name)];
     };
     file("01Empresa") = joinedLines({companyLine("01", "PRIMEIRA"), companyLine("02", "SEGUNDA")});
     file("01CartaPonto") =
-        list({officeEmployee("001", "ANA"), officeEmployee("002", "BIA", "05/03/2018"),
-              officeEmployee("003", "CAIO")});
-    file("02CartaPonto") = list({officeEmployee("001", "DORA"), officeEmployee("002", "EVA")});
+        employeeList({officeEmployee("001", "ANA"), officeEmployee("002", "BIA", "05/03/2018"),
+                      officeEmployee("003", "CAIO")});
+    file("02CartaPonto") =
+        employeeList({officeEmployee("001", "DORA"), officeEmployee("002", "EVA")});
     for (const char* company : {"01", "02"}) {
         file((company + std::string("PadrHor002.pdx")).c_str()) = "08:0012:0013:0017:00\r\n";
         file((company + std::string("002-03-2024.bdx")).c_str()) =

@@ -4,6 +4,7 @@
 #include "foundation/register/employee_register.h"
 #include "output/cards/cartao.h"
 #include "output/stocks/card_alignment.h"
+#include "tests/support/employees.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
@@ -17,23 +18,17 @@ namespace winvrx::testing {
 
 using Texts = std::vector<std::string>;
 
-inline Employee cardHolder(const char* code, const char* name, const char* shift) {
-    Employee employee;
-    employee.code = code;
-    employee.name = name;
-    employee.shift = shift;
-    return employee;
-}
-
 /// Three employees, the second one of the afternoon; March 2024; the stock of this setting line.
 inline void fillPrintingDesk(TestWorkplace& desk, const char* stock) {
     Company company;
     company.code = "01";
     company.name = "EMPRESA MODELO LTDA";
     desk.file("01Empresa") = encode(company) + "\r\n";
-    desk.file("01CartaPonto") = encode(cardHolder("001", "JOSÉ DA SILVA", "Unico")) + "\r\n" +
-                                encode(cardHolder("002", "ANA PAULA", "Dois")) + "\r\n" +
-                                encode(cardHolder("003", "RUI BARBOSA", "Tres")) + "\r\n";
+    const std::string longAgo = "01/02/2020";
+    desk.file("01CartaPonto") =
+        employeeList({employee("001", "JOSÉ DA SILVA", {.admission = longAgo}),
+                      employee("002", "ANA PAULA", {.shift = "Dois", .admission = longAgo}),
+                      employee("003", "RUI BARBOSA", {.shift = "Tres", .admission = longAgo})});
     desk.file("01CartaoDePontoTipo") = std::string(stock) + "\r\n";
     saveSelectedMonth(desk.store(), {std::chrono::year(2024) / 3, ShiftFilter::Todos});
 }

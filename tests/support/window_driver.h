@@ -2,11 +2,13 @@
 
 #include "foundation/values/desktop/qt_text.h"
 
+#include <QAbstractButton>
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTabBar>
 #include <QTest>
 #include <QToolButton>
 #include <QWidget>
@@ -18,18 +20,20 @@ namespace winvrx::testing {
 /// Drives a shown window by the object names of its widgets and by key presses.
 class WindowDriver {
   public:
-    explicit WindowDriver(QWidget& window) : window_(window) {
-        window_.show();
-        window_.activateWindow();
-        if (!QTest::qWaitForWindowActive(&window_)) ADD_FAILURE() << "the window is not active";
+    explicit WindowDriver(QWidget& shown) : shown_(shown) {
+        shown_.show();
+        shown_.activateWindow();
+        if (!QTest::qWaitForWindowActive(&shown_)) ADD_FAILURE() << "the window is not active";
     }
 
     template <typename Widget = QWidget>
     [[nodiscard]] Widget& find(const char* name) const {
-        auto* found = window_.findChild<Widget*>(QString::fromLatin1(name));
+        auto* found = shown_.findChild<Widget*>(QString::fromUtf8(name));
         if (!found) throw std::invalid_argument(std::string("no widget ") + name);
         return *found;
     }
+
+    void click(const char* button) const { find<QAbstractButton>(button).click(); }
 
     /// Replaces the field's text, key by key.
     void type(const char* name, std::string_view text) const {
@@ -39,14 +43,18 @@ class WindowDriver {
         QTest::keyClicks(&edit, toQt(text));
     }
 
-    [[nodiscard]] std::string text(const char* name) const {
-        return find<QLineEdit>(name).text().toStdString();
+    /// What stands in the field.
+    [[nodiscard]] std::string text(const char* field) const {
+        return find<QLineEdit>(field).text().toStdString();
+    }
+    [[nodiscard]] std::string label(const char* name) const {
+        return find<QLabel>(name).text().toStdString();
     }
     /// What is said under the field.
     [[nodiscard]] std::string hint(const char* name) const {
-        return find<QLabel>((std::string(name) + ".hint").c_str()).text().toStdString();
+        return label((std::string(name) + ".hint").c_str());
     }
-    [[nodiscard]] std::string state() const { return find<QLabel>("state").text().toStdString(); }
+    [[nodiscard]] std::string state() const { return label("state"); }
 
     /// A key press where the focus is.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
@@ -56,31 +64,79 @@ class WindowDriver {
     void typeHere(std::string_view text) const { QTest::keyClicks(focus(), toQt(text)); }
     [[nodiscard]] std::string focusName() const { return focus()->objectName().toStdString(); }
 
+    /// The widgets that an operator uses and that tests or a screen reader could not find.
+    [[nodiscard]] std::string namelessWidgets() const {
+        std::string nameless;
+        for (const QWidget* widget : shown_.findChildren<QWidget*>()) {
+            if (!isUsed(*widget)) continue;
+            const auto* button = qobject_cast<const QAbstractButton*>(widget);
+            const bool named =
+                !widget->accessibleName().isEmpty() || (button && !button->text().isEmpty());
+            if (widget->objectName().isEmpty() || !named)
+                nameless += std::string(widget->metaObject()->className()) + " \"" +
+                            widget->objectName().toStdString() + "\" ";
+        }
+        return nameless;
+    }
+
+    /// Alt letters that more than one of the visible captions claims, and that so lead nowhere.
+    [[nodiscard]] std::string sharedAltLetters() const {
+        QStringList captions;
+        for (const auto* button : shown_.findChildren<QAbstractButton*>())
+            if (button->isVisible()) captions << button->text();
+        for (const auto* label : shown_.findChildren<QLabel*>())
+            if (label->isVisible() && label->buddy()) captions << label->text();
+        for (const auto* tabs : shown_.findChildren<QTabBar*>())
+            for (int i = 0; i < tabs->count(); ++i)
+                captions << tabs->tabText(i);
+        QString once;
+        QString shared;
+        for (const QString& caption : captions) {
+            const QString key = QKeySequence::mnemonic(caption).toString();
+            if (key.isEmpty()) continue;
+            (once.contains(key.back()) ? shared : once) += key.back();
+        }
+        return shared.toStdString();
+    }
+
   private:
     [[nodiscard]] QWidget* focus() const {
-        return window_.focusWidget() ? window_.focusWidget() : &window_;
+        return shown_.focusWidget() ? shown_.focusWidget() : &shown_;
     }
 
-    QWidget& window_;
+    /// One of the window's own that takes the focus, and no part of another one.
+    [[nodiscard]] bool isUsed(const QWidget& widget) const {
+        const QWidget* parent = widget.parentWidget();
+        return widget.window() == &shown_ &&
+               !widget.objectName().startsWith(QLatin1String("qt_")) &&
+               widget.focusPolicy() != Qt::NoFocus && widget.isEnabled() && !widget.isHidden() &&
+               !widget.inherits("QScrollArea") && !widget.inherits("QTabBar") &&
+               !qobject_cast<const QAbstractScrollArea*>(parent) &&
+               !qobject_cast<const QLineEdit*>(parent) && !qobject_cast<const QComboBox*>(parent);
+    }
+
+    QWidget& shown_;
 };
 
-/// Names the widgets that an operator uses and that tests or a screen reader could not find.
-inline std::string namelessWidgets(const QWidget& window) {
-    std::string nameless;
-    for (const QWidget* widget : window.findChildren<QWidget*>()) {
-        const bool isOwn =
-            widget->window() == &window && !widget->objectName().startsWith(QLatin1String("qt_"));
-        const bool isUsed = widget->focusPolicy() != Qt::NoFocus && widget->isEnabled() &&
-                            !qobject_cast<const QAbstractScrollArea*>(widget->parentWidget()) &&
-                            !widget->inherits("QScrollArea") && !widget->inherits("QTabBar");
-        const bool partOfField = qobject_cast<const QLineEdit*>(widget->parentWidget()) ||
-                                 qobject_cast<const QComboBox*>(widget->parentWidget());
-        if (!isOwn || !isUsed || partOfField) continue;
-        if (widget->objectName().isEmpty() || widget->accessibleName().isEmpty())
-            nameless += std::string(widget->metaObject()->className()) + " \"" +
-                        widget->objectName().toStdString() + "\" ";
+template <typename Window>
+struct WindowHolder {
+    Window window;
+};
+
+/// The driver and its window, as large as a small screen.
+template <typename Window>
+class DrivenWindow : public WindowHolder<Window>, public WindowDriver {
+  public:
+    template <typename... Arguments>
+    explicit DrivenWindow(Arguments&&... arguments)
+        : WindowHolder<Window>{Window(std::forward<Arguments>(arguments)...)},
+          WindowDriver(resized(this->window)) {}
+
+  private:
+    static QWidget& resized(QWidget& window) {
+        window.resize(1280, 720);
+        return window;
     }
-    return nameless;
-}
+};
 
 }  // namespace winvrx::testing

@@ -28,7 +28,7 @@ class EmpregadosListTest : public ::testing::Test {
 
     static Employee employee(const char* code, const char* name,
                              const char* admission = "12/03/2024") {
-        return EmployeeDesk::employee(code, name, admission);
+        return testing::employee(code, name, {.admission = admission});
     }
 
     template <typename Command>

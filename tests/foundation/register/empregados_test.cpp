@@ -16,13 +16,7 @@ using testing::EmployeeDesk;
 constexpr auto kInclusion = "Confirma a Inclusão na LISTA DE FUNCIONARIOS?";
 
 Employee ana() {
-    Employee employee;
-    employee.code = "001";
-    employee.name = "ANA CONCEIÇÃO";
-    employee.admission = "12/03/2024";
-    employee.shift = "Unico";
-    employee.scale = "Normal";
-    return employee;
+    return testing::employee("001", "ANA CONCEIÇÃO");
 }
 
 class EmpregadosTest : public ::testing::Test {

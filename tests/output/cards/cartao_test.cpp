@@ -8,9 +8,10 @@
 namespace winvrx {
 namespace {
 
-using testing::cardHolder;
 using testing::CartaoOpened;
 using testing::CartaoTest;
+using testing::employee;
+using testing::employeeList;
 using Outcome = testing::RecordingEngine::Outcome;
 using testing::Texts;
 
@@ -69,11 +70,10 @@ TEST_F(CartaoTest, PrintAllAsksOnceWhetherThoseOutsideTheMonthAreMeant) {
           Case{"29/02/2024", "01/04/2024", Answer::No, {ask}, {"JOSÉ DA SILVA"}},
           Case{"29/02/2024", "", Answer::No, {ask}, {"JOSÉ DA SILVA", "RUI BARBOSA"}}}) {
         leaves.leaves["002"].inactiveSince = parseDate(one.anaInactiveSince);
-        Employee rui = cardHolder("003", "RUI BARBOSA", "Tres");
-        rui.admission = one.ruiAdmitted;
-        desk.file("01CartaPonto") = encode(cardHolder("001", "JOSÉ DA SILVA", "Unico")) + "\r\n" +
-                                    encode(cardHolder("002", "ANA PAULA", "Dois")) + "\r\n" +
-                                    encode(rui) + "\r\n";
+        desk.file("01CartaPonto") = employeeList(
+            {employee("001", "JOSÉ DA SILVA", {.admission = ""}),
+             employee("002", "ANA PAULA", {.shift = "Dois", .admission = ""}),
+             employee("003", "RUI BARBOSA", {.shift = "Tres", .admission = one.ruiAdmitted})});
         screen.load();
         engine.jobs.clear();
         desk.person.answers = {one.answer};

@@ -54,7 +54,7 @@ TEST_F(RestaurarCopiaWindowTest, ShowsTheCopiesAndWhatTheNewestBringsBack) {
     EXPECT_EQ(driver_->state(), "2 cópias");
     EXPECT_EQ(driver_->focusName(), "restaurar.list");
     EXPECT_THAT(summary(), HasSubstr("não há o que restaurar"));
-    EXPECT_EQ(testing::namelessWidgets(*window_), "");
+    EXPECT_EQ(driver_->namelessWidgets(), "");
     driver_->press(Qt::Key_F1);
     EXPECT_EQ(browser_.opened, 1);
 }

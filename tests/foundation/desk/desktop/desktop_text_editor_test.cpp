@@ -106,7 +106,7 @@ TEST(DesktopTextEditor, ShowsTheReportItselfWithoutAHandler) {
     ASSERT_NE(shown, nullptr);
     const auto* text = shown->findChild<QPlainTextEdit*>(QStringLiteral("relatorio.text"));
     EXPECT_EQ(toUtf8(text->toPlainText()), "Função\n");
-    EXPECT_EQ(testing::namelessWidgets(*shown), "");
+    EXPECT_EQ(testing::WindowDriver(*shown).namelessWidgets(), "");
     shown->close();
 }
 

@@ -26,21 +26,12 @@ using testing::WindowDriver;
 class EmpregadosWindowTest : public ::testing::Test {
   protected:
     void open(const std::vector<Employee>& employees = {}) {
-        std::vector<std::string> lines;
-        for (const Employee& employee : employees)
-            lines.push_back(encode(employee));
-        if (!lines.empty()) desk_.file("01CartaPonto") = joinedLines(lines);
+        if (!employees.empty()) desk_.file("01CartaPonto") = testing::employeeList(employees);
         screen_.emplace(window_.emplace(desk_.empregados, import_));
     }
 
     static Employee employee(const char* code, const char* name) {
-        Employee made;
-        made.code = code;
-        made.name = name;
-        made.admission = "12/03/2024";
-        made.shift = "UNICO";
-        made.scale = "Normal";
-        return made;
+        return testing::employee(code, name, {.shift = "UNICO"});
     }
 
     [[nodiscard]] int visibleRows() const {
@@ -228,7 +219,7 @@ TEST_F(EmpregadosWindowTest, AnEmptyListSaysWhatToDoNext) {
                 HasSubstr("Nenhum funcionário ainda"));
     EXPECT_TRUE(screen_->find("empregados.first").isVisible());
     EXPECT_FALSE(screen_->find("empregados.delete").isEnabled());
-    EXPECT_EQ(testing::namelessWidgets(*window_), "");
+    EXPECT_EQ(screen_->namelessWidgets(), "");
 }
 
 TEST_F(EmpregadosWindowTest, DeletesTheSelectedEmployee) {

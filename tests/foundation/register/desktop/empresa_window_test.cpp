@@ -45,7 +45,7 @@ TEST_F(EmpresaWindowTest, OpensOnTheFirstCompany) {
     EXPECT_EQ(screen_.text("empresa.ownerCity"), "CAÇADOR");
     EXPECT_EQ(screen_.focusName(), "empresa.name");
     EXPECT_EQ(screen_.state(), "1 de 1");
-    EXPECT_EQ(testing::namelessWidgets(window_), "");
+    EXPECT_EQ(screen_.namelessWidgets(), "");
 }
 
 TEST_F(EmpresaWindowTest, IncludesACompanyByKeyboard) {

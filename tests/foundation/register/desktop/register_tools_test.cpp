@@ -42,7 +42,7 @@ TEST(TurnosWindow, ChangesShiftsWithTheKeyboardAlone) {
     screen.press(Qt::Key_Return);
     EXPECT_EQ(turnos.list().employees()[1].shift, "Dois");
     EXPECT_EQ(turnos.list().employees()[0].shift, "Unico");
-    EXPECT_EQ(namelessWidgets(window), "");
+    EXPECT_EQ(screen.namelessWidgets(), "");
 }
 
 TEST(TurnosWindow, AnEmptyListSaysWhatToDoNext) {
@@ -77,7 +77,7 @@ TEST(EmployeeImportWindow, ShowsEachRowsFinding) {
     include.click();
     EXPECT_EQ(window.result(), QDialog::Accepted);
     EXPECT_EQ(desk.codes(), "001 ");
-    EXPECT_EQ(namelessWidgets(window), "");
+    EXPECT_EQ(screen.namelessWidgets(), "");
 }
 
 }  // namespace

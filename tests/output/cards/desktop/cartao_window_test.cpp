@@ -3,12 +3,13 @@
 #include "foundation/register/company_register.h"
 #include "foundation/register/employee_register.h"
 #include "foundation/values/desktop/qt_text.h"
-#include "tests/support/driven_window.h"
+#include "tests/support/employees.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
 #include "tests/support/test_punch_desk.h"
 #include "tests/support/test_workplace.h"
+#include "tests/support/window_driver.h"
 #include "timecard/month/selected_month.h"
 
 #include <gtest/gtest.h>
@@ -26,31 +27,13 @@ namespace winvrx {
 namespace {
 
 using testing::DrivenWindow;
+using testing::employee;
+using testing::employeeList;
 using testing::RecordingEngine;
 using testing::TestBrowser;
 using testing::TestLeaves;
 using testing::TestPrinters;
 using testing::TestWorkplace;
-
-template <typename Widget>
-Widget* find(QWidget& window, const char* name) {
-    auto* widget = window.findChild<Widget*>(QString::fromUtf8(name));
-    EXPECT_NE(widget, nullptr) << name;
-    return widget;
-}
-
-/// Presses where an option's mark is.
-void press(QWidget& window, const char* name) {
-    auto* button = find<QAbstractButton>(window, name);
-    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
-}
-
-/// Keys reach the active window only.
-void open(QWidget& window) {
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-}
 
 class CartaoWindowTest : public ::testing::Test {
   protected:
@@ -59,18 +42,10 @@ class CartaoWindowTest : public ::testing::Test {
         company.code = "01";
         company.name = "EMPRESA MODELO LTDA";
         desk.file("01Empresa") = encode(company) + "\r\n";
-        desk.file("01CartaPonto") = encode(employee("001", "JOSÉ DA SILVA", "Unico")) + "\r\n" +
-                                    encode(employee("002", "ANA PAULA", "Dois")) + "\r\n";
+        desk.file("01CartaPonto") = employeeList(
+            {employee("001", "JOSÉ DA SILVA"), employee("002", "ANA PAULA", {.shift = "Dois"})});
         desk.file("01CartaoDePontoTipo") = "01Tilibra\r\n";
         saveSelectedMonth(desk.store(), {std::chrono::year(2024) / 3, ShiftFilter::Todos});
-    }
-
-    static Employee employee(const char* code, const char* name, const char* shift) {
-        Employee employee;
-        employee.code = code;
-        employee.name = name;
-        employee.shift = shift;
-        return employee;
     }
 
     TestWorkplace desk;
@@ -83,13 +58,12 @@ class CartaoWindowTest : public ::testing::Test {
 };
 
 TEST_F(CartaoWindowTest, ChoicesReachThePrintedJob) {
-    CartaoWindow window(cartao, {});
-    open(window);
-    press(window, "cartao.output.printer");
-    press(window, "cartao.tray.lateral");
-    press(window, "cartao.printHeader");
-    QTest::keyClicks(find<QLineEdit>(window, "cartao.printerTray3"), QStringLiteral("Manual"));
-    QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    DrivenWindow<CartaoWindow> driven(cartao, CartaoWindowDesk());
+    driven.click("cartao.output.printer");
+    driven.click("cartao.tray.lateral");
+    driven.click("cartao.printHeader");
+    driven.type("cartao.printerTray3", "Manual");
+    QTest::keyClick(&driven.window, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     ASSERT_EQ(engine.jobs.size(), 1U);
     const ReportRequest& request = engine.jobs[0].request;
     EXPECT_EQ(request.layoutName, "tilibleft.rpt");
@@ -98,18 +72,17 @@ TEST_F(CartaoWindowTest, ChoicesReachThePrintedJob) {
     EXPECT_EQ(request.trays[2], "Manual");
     EXPECT_EQ(engine.jobs[0].cards.size(), 2U);
 
-    press(window, "cartao.mode.oneAtATime");
+    driven.click("cartao.mode.oneAtATime");
     desk.person.answers = {Answer::Yes};
-    press(window, "cartao.printAll");
+    driven.click("cartao.printAll");
     EXPECT_EQ(desk.person.shown.at(0).text, "Confirma a Impressão do Cartão do JOSÉ DA SILVA ? ");
     EXPECT_EQ(engine.jobs.size(), 2U);
 }
 
 TEST_F(CartaoWindowTest, SelectedEmployeeIsPreviewedAndPrinted) {
-    CartaoWindow window(cartao, {});
-    open(window);
-    auto* list = find<QListWidget>(window, "cartao.employees");
-    auto* header = find<QLabel>(window, "cartao.header");
+    DrivenWindow<CartaoWindow> driven(cartao, CartaoWindowDesk());
+    auto* list = &driven.find<QListWidget>("cartao.employees");
+    auto* header = &driven.find<QLabel>("cartao.header");
     list->setCurrentRow(1);
     EXPECT_EQ(header->text(), toQt(cartao.headerPreview(1)));
     EXPECT_TRUE(header->text().startsWith(QStringLiteral("Razão: EMPRESA MODELO LTDA")));
@@ -120,13 +93,12 @@ TEST_F(CartaoWindowTest, SelectedEmployeeIsPreviewedAndPrinted) {
 }
 
 TEST_F(CartaoWindowTest, ListFollowsShiftAndSearch) {
-    CartaoWindow window(cartao, {});
-    open(window);
-    auto* list = find<QListWidget>(window, "cartao.employees");
-    auto* shift = find<QComboBox>(window, "cartao.shift");
-    auto* search = find<QLineEdit>(window, "cartao.search");
-    auto* state = find<QLabel>(window, "state");
-    auto* empty = find<QLabel>(window, "cartao.empty");
+    DrivenWindow<CartaoWindow> driven(cartao, CartaoWindowDesk());
+    auto* list = &driven.find<QListWidget>("cartao.employees");
+    auto* shift = &driven.find<QComboBox>("cartao.shift");
+    auto* search = &driven.find<QLineEdit>("cartao.search");
+    auto* state = &driven.find<QLabel>("state");
+    auto* empty = &driven.find<QLabel>("cartao.empty");
     EXPECT_EQ(state->text(), QStringLiteral("2 cartões · Tilibra · Central · impressora padrão"));
     emit shift->activated(1);
     ASSERT_EQ(list->count(), 1);
@@ -140,7 +112,7 @@ TEST_F(CartaoWindowTest, ListFollowsShiftAndSearch) {
     QTest::keyClick(search, Qt::Key_Escape);
     EXPECT_EQ(list->currentRow(), 0);
     EXPECT_FALSE(empty->isVisible());
-    EXPECT_TRUE(window.isVisible());
+    EXPECT_TRUE(driven.window.isVisible());
 }
 
 TEST_F(CartaoWindowTest, ReturnsFromTheOtherScreensUpToDate) {
@@ -155,57 +127,54 @@ TEST_F(CartaoWindowTest, ReturnsFromTheOtherScreensUpToDate) {
             [this](QWidget*) {
                 saveSelectedMonth(desk.store(), {std::chrono::year(2024) / 2, ShiftFilter::Todos});
             }};
-    CartaoWindow window(cartao, links);
-    open(window);
-    auto* header = find<QLabel>(window, "cartao.header");
-    find<QListWidget>(window, "cartao.employees")->setCurrentRow(1);
+    DrivenWindow<CartaoWindow> driven(cartao, links);
+    auto* header = &driven.find<QLabel>("cartao.header");
+    driven.find<QListWidget>("cartao.employees").setCurrentRow(1);
     EXPECT_FALSE(header->text().contains(QStringLiteral("Período")));
-    press(window, "cartao.month");
+    driven.click("cartao.month");
     EXPECT_TRUE(header->text().contains(QStringLiteral("01/02/2024 a 29/02/2024")));
-    press(window, "cartao.stock");
-    EXPECT_TRUE(find<QLabel>(window, "state")->text().contains(QStringLiteral("MADIS")));
-    EXPECT_TRUE(find<QRadioButton>(window, "cartao.tray.lateral")->isChecked());
-    EXPECT_FALSE(find<QCheckBox>(window, "cartao.printHeader")->isChecked());
-    EXPECT_EQ(find<QLineEdit>(window, "cartao.printerTray2")->text(), QStringLiteral("Manual"));
+    driven.click("cartao.stock");
+    EXPECT_NE(driven.state().find("MADIS"), std::string::npos);
+    EXPECT_TRUE(driven.find<QRadioButton>("cartao.tray.lateral").isChecked());
+    EXPECT_FALSE(driven.find<QCheckBox>("cartao.printHeader").isChecked());
+    EXPECT_EQ(driven.text("cartao.printerTray2"), "Manual");
     EXPECT_EQ(cartao.choices().printer.trays[1], "Manual");
-    EXPECT_EQ(find<QListWidget>(window, "cartao.employees")->currentRow(), 1);
-    QTest::keyClick(&window, Qt::Key_F1);
+    EXPECT_EQ(driven.find<QListWidget>("cartao.employees").currentRow(), 1);
+    QTest::keyClick(&driven.window, Qt::Key_F1);
     EXPECT_EQ(browser.opened, 1);
 }
 
 /// A progress dialog shows by itself after a while, over the question that waits by then, and the
 /// question could no longer be answered. So there is none before it is needed.
 TEST_F(CartaoWindowTest, NoProgressWaitsBehindAQuestion) {
-    CartaoWindow window(cartao, {});
-    open(window);
+    DrivenWindow<CartaoWindow> driven(cartao, CartaoWindowDesk());
     int asked = 0;
     desk.person.onAsk = [&] {
         ++asked;
-        EXPECT_EQ(window.findChild<QWidget*>(QStringLiteral("cartao.progress")), nullptr);
+        EXPECT_EQ(driven.window.findChild<QWidget*>(QStringLiteral("cartao.progress")), nullptr);
     };
-    press(window, "cartao.output.printer");
+    driven.click("cartao.output.printer");
     engine.sides = 2;
     desk.person.answers = {Answer::Yes};
-    press(window, "cartao.printAll");
+    driven.click("cartao.printAll");
     EXPECT_EQ(asked, 1);
     EXPECT_EQ(engine.jobs.size(), 2U);
 }
 
 TEST_F(CartaoWindowTest, APdfGetsItsEnding) {
-    CartaoWindow window(cartao, {});
-    open(window);
-    press(window, "cartao.output.pdf");
+    DrivenWindow<CartaoWindow> driven(cartao, CartaoWindowDesk());
+    driven.click("cartao.output.pdf");
     QString proposed;
-    QTimer::singleShot(0, &window, [&] {
-        auto* dialog = window.findChild<QFileDialog*>();
+    QTimer::singleShot(0, &driven.window, [&] {
+        auto* dialog = driven.window.findChild<QFileDialog*>();
         ASSERT_NE(dialog, nullptr);
         proposed = dialog->selectedFiles().value(0);
-        auto* name = find<QLineEdit>(*dialog, "fileNameEdit");
+        auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
         name->selectAll();
         QTest::keyClicks(name, QStringLiteral("cartoes"));
         QTest::keyClick(name, Qt::Key_Return);
     });
-    press(window, "cartao.printAll");
+    driven.click("cartao.printAll");
     EXPECT_TRUE(proposed.endsWith(QStringLiteral("/CARTÃO PONTO EMPRESA MODELO LTDA 03-2024.pdf")));
     ASSERT_EQ(engine.jobs.size(), 1U);
     EXPECT_TRUE(toQt(engine.jobs[0].request.pdfPath).endsWith(QStringLiteral("/cartoes.pdf")));
@@ -230,12 +199,11 @@ void expectReachable(QWidget& window) {
 }
 
 TEST_F(CartaoWindowTest, FitsASmallScreenAndIsReachable) {
-    CartaoWindow window(cartao, {});
-    open(window);
-    EXPECT_LE(window.minimumSizeHint().width(), 1280);
-    EXPECT_LE(window.minimumSizeHint().height(), 680);
-    expectReachable(window);
-    EXPECT_EQ(DrivenWindow<CartaoWindow>(cartao, CartaoWindowDesk()).sharedAltLetters(), "");
+    DrivenWindow<CartaoWindow> driven(cartao, CartaoWindowDesk());
+    EXPECT_LE(driven.window.minimumSizeHint().width(), 1280);
+    EXPECT_LE(driven.window.minimumSizeHint().height(), 680);
+    expectReachable(driven.window);
+    EXPECT_EQ(driven.sharedAltLetters(), "");
 }
 
 }  // namespace

@@ -4,11 +4,11 @@
 #include "report/desktop/layout_reader.h"
 #include "report/desktop/qt_report_engine.h"
 #include "report/impressorar.h"
-#include "tests/support/driven_window.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
 #include "tests/support/test_workplace.h"
+#include "tests/support/window_driver.h"
 
 #include <QListWidget>
 #include <QScrollBar>
@@ -44,7 +44,7 @@ struct AlignmentWindow : ::testing::Test {
 
     /// Where the leftmost and the topmost black dot of the sample lies, in dots of the paper.
     static QPoint firstInk(DrivenWindow<CartaoPontosWindow>& driven) {
-        const QImage page = driven.get<QWidget>("sample.page").grab().toImage();
+        const QImage page = driven.find<QWidget>("sample.page").grab().toImage();
         QPoint first(page.width(), page.height());
         for (int y = 0; y < page.height(); ++y)
             for (int x = 0; x < page.width(); ++x)
@@ -61,10 +61,10 @@ TEST_F(AlignmentWindow, TheSampleMovesWithTheOffsets) {
         driven.click("alinhamento.right");
     for (int press = 0; press < 20; ++press)
         driven.press(Qt::Key_Down, Qt::ControlModifier);
-    EXPECT_EQ(driven.get<QLineEdit>("alinhamento.horizontal").text(), QStringLiteral("810"));
-    EXPECT_EQ(driven.get<QLineEdit>("alinhamento.vertical").text(), QStringLiteral("410"));
+    EXPECT_EQ(driven.find<QLineEdit>("alinhamento.horizontal").text(), QStringLiteral("810"));
+    EXPECT_EQ(driven.find<QLineEdit>("alinhamento.vertical").text(), QStringLiteral("410"));
     EXPECT_EQ(loadOffsets(desk.store())[0], (Offsets{410, 810}));
-    const double dotsPerTwip = driven.get<QWidget>("sample.page").width() / (210 / 25.4 * 1440);
+    const double dotsPerTwip = driven.find<QWidget>("sample.page").width() / (210 / 25.4 * 1440);
     const QPoint moved = firstInk(driven) - before;
     constexpr double kDot = 1.5;
     EXPECT_NEAR(moved.x(), 800 * dotsPerTwip, kDot);
@@ -73,7 +73,7 @@ TEST_F(AlignmentWindow, TheSampleMovesWithTheOffsets) {
     desk.person.answers = {Answer::Yes};
     driven.click("cartaoPontos.reset");
     EXPECT_EQ(firstInk(driven), before);
-    EXPECT_EQ(driven.get<QLineEdit>("alinhamento.horizontal").text(), QStringLiteral("10"));
+    EXPECT_EQ(driven.find<QLineEdit>("alinhamento.horizontal").text(), QStringLiteral("10"));
 }
 
 TEST_F(AlignmentWindow, TheSampleLeavesTheHeaderToTheStockAsThePrintDoes) {
@@ -89,7 +89,7 @@ TEST_F(AlignmentWindow, TheSampleLeavesTheHeaderToTheStockAsThePrintDoes) {
 TEST_F(AlignmentWindow, TypedLineOffsetIsAnsweredAndMovesTheSample) {
     DrivenWindow<CartaoPontosWindow> driven(screen, shippedLayout);
     const QPoint before = firstInk(driven);
-    auto& lines = driven.get<QComboBox>("alinhamento.lines");
+    auto& lines = driven.find<QComboBox>("alinhamento.lines");
     EXPECT_EQ(lines.count(), 11);
     const auto type = [&](const char* text) {
         lines.lineEdit()->setFocus();
@@ -116,7 +116,7 @@ TEST_F(AlignmentWindow, TypedLineOffsetIsAnsweredAndMovesTheSample) {
 
 TEST_F(AlignmentWindow, TypedLineOffsetCountsBeforeItsFieldIsLeft) {
     DrivenWindow<CartaoPontosWindow> driven(screen, shippedLayout);
-    auto& lines = *driven.get<QComboBox>("alinhamento.lines").lineEdit();
+    auto& lines = *driven.find<QComboBox>("alinhamento.lines").lineEdit();
     const auto typeAndPress = [&](const char* text, Qt::Key key, Qt::KeyboardModifiers modifiers) {
         lines.setFocus();
         lines.selectAll();
@@ -137,8 +137,10 @@ TEST_F(AlignmentWindow, TypedLineOffsetCountsBeforeItsFieldIsLeft) {
 
 TEST_F(AlignmentWindow, TypedScaleStaysUntilItIsRecorded) {
     DrivenWindow<CartaoPontosWindow> driven(screen, shippedLayout);
-    auto& tabs = driven.get<QTabWidget>("cartaoPontos.tabs");
-    const auto typed = [&] { return driven.get<QLineEdit>("escala.figure1").text().toStdString(); };
+    auto& tabs = driven.find<QTabWidget>("cartaoPontos.tabs");
+    const auto typed = [&] {
+        return driven.find<QLineEdit>("escala.figure1").text().toStdString();
+    };
     tabs.setCurrentIndex(1);
     driven.type("escala.figure1", "150");
     driven.click("escala.save");
@@ -160,23 +162,23 @@ TEST_F(AlignmentWindow, AnEntryIsShownWithItsOffsetsAndAMissingLayoutSaidSo) {
         if (name != "tilibcenter.rpt") throw LayoutFault(name, "not found");
         return shippedLayout(name);
     });
-    auto& entries = driven.get<QTreeWidget>("cartaoPontos.entries");
+    auto& entries = driven.find<QTreeWidget>("cartaoPontos.entries");
     EXPECT_EQ(entries.topLevelItemCount(), 16);
     EXPECT_EQ(entries.topLevelItem(15)->text(1), QStringLiteral("70"));
     QTest::keyClick(&entries, Qt::Key_End);
-    EXPECT_EQ(driven.get<QLineEdit>("alinhamento.horizontal").text(), QStringLiteral("90"));
-    EXPECT_EQ(driven.text("sample.problem"),
+    EXPECT_EQ(driven.find<QLineEdit>("alinhamento.horizontal").text(), QStringLiteral("90"));
+    EXPECT_EQ(driven.label("sample.problem"),
               "⚠ O layout RHJcenter.rpt não pôde ser aberto: not found.");
     driven.click("alinhamento.right");
     EXPECT_EQ(entries.topLevelItem(15)->text(2), QStringLiteral("110"));
     QTest::keyClick(&entries, Qt::Key_Home);
-    EXPECT_GT(driven.get<QWidget>("sample.page").width(), 0);
+    EXPECT_GT(driven.find<QWidget>("sample.page").width(), 0);
 }
 
 TEST_F(AlignmentWindow, ScaleIsTypedMeasuredAndNotLostByLeaving) {
     DrivenWindow<CartaoPontosWindow> driven(screen, shippedLayout);
-    driven.get<QTabWidget>("cartaoPontos.tabs").setCurrentIndex(1);
-    EXPECT_EQ(driven.text("escala.printer"), "Impressora Epson, neste tipo de cartão");
+    driven.find<QTabWidget>("cartaoPontos.tabs").setCurrentIndex(1);
+    EXPECT_EQ(driven.label("escala.printer"), "Impressora Epson, neste tipo de cartão");
     driven.type("escala.figure1", "99,5");
     driven.press(Qt::Key_Escape);
     EXPECT_TRUE(driven.window.isVisible()) << "asked before the figure is left behind";
@@ -188,8 +190,8 @@ TEST_F(AlignmentWindow, ScaleIsTypedMeasuredAndNotLostByLeaving) {
         driven.type(field, text);
     driven.click("escala.calibrate");
     EXPECT_EQ(screen.scale(), (PrintScale{.horizontalOffset = -50}));
-    EXPECT_EQ(driven.get<QLineEdit>("escala.figure3").text(), QStringLiteral("-0,50"));
-    EXPECT_EQ(driven.get<QLineEdit>("escala.distance1").text(), QString());
+    EXPECT_EQ(driven.find<QLineEdit>("escala.figure3").text(), QStringLiteral("-0,50"));
+    EXPECT_EQ(driven.find<QLineEdit>("escala.distance1").text(), QString());
     desk.person.answers = {Answer::Yes};
     driven.click("escala.sheet");
     EXPECT_EQ(engine.jobs.at(0).request.layoutName, kCalibrationLayout);
@@ -203,7 +205,7 @@ TEST_F(AlignmentWindow, ScaleIsTypedMeasuredAndNotLostByLeaving) {
 TEST_F(AlignmentWindow, EachAltLetterLeadsToOnePlace) {
     DrivenWindow<CartaoPontosWindow> driven(screen, shippedLayout);
     EXPECT_EQ(driven.sharedAltLetters(), "");
-    driven.get<QTabWidget>("cartaoPontos.tabs").setCurrentIndex(1);
+    driven.find<QTabWidget>("cartaoPontos.tabs").setCurrentIndex(1);
     EXPECT_EQ(driven.sharedAltLetters(), "");
     Impressorar choice(desk.at, browser, printers);
     EXPECT_EQ(DrivenWindow<ImpressorarWindow>(choice).sharedAltLetters(), "");
@@ -212,8 +214,8 @@ TEST_F(AlignmentWindow, EachAltLetterLeadsToOnePlace) {
 TEST_F(AlignmentWindow, PrinterIsChosenByOptionAndList) {
     Impressorar choice(desk.at, browser, printers);
     DrivenWindow<ImpressorarWindow> driven(choice);
-    auto& list = driven.get<QListWidget>("impressorar.printers");
-    EXPECT_EQ(driven.text("subtitle"), "Em uso: impressora padrão");
+    auto& list = driven.find<QListWidget>("impressorar.printers");
+    EXPECT_EQ(driven.label("subtitle"), "Em uso: impressora padrão");
     driven.click("impressorar.kind.installed");
     EXPECT_FALSE(desk.files.exists("/data/ConfigX")) << "no printer is picked yet";
     QTest::keyClick(&list, Qt::Key_Space);
@@ -232,8 +234,8 @@ TEST_F(AlignmentWindow, PrinterIsChosenByOptionAndList) {
     EXPECT_EQ(printers.opened, 1);
     printers.installed = {};
     driven.press(Qt::Key_F5);
-    EXPECT_TRUE(driven.get<QLabel>("impressorar.empty").isVisible());
-    EXPECT_EQ(driven.text("state"), "⚠ O sistema não tem impressora padrão.");
+    EXPECT_TRUE(driven.find<QLabel>("impressorar.empty").isVisible());
+    EXPECT_EQ(driven.label("state"), "⚠ O sistema não tem impressora padrão.");
     EXPECT_THAT(driven.namelessWidgets(), IsEmpty());
 }
 
@@ -248,7 +250,7 @@ TEST_F(AlignmentWindow, AChoiceThatCannotBeReadIsToldOnce) {
     QEvent activated(QEvent::ActivationChange);
     QCoreApplication::sendEvent(&driven.window, &activated);
     EXPECT_THAT(desk.person.takeTexts(), IsEmpty());
-    EXPECT_EQ(driven.get<QListWidget>("impressorar.printers").count(), 1);
+    EXPECT_EQ(driven.find<QListWidget>("impressorar.printers").count(), 1);
 }
 
 }  // namespace

@@ -130,7 +130,7 @@ TEST_F(TipoPontoWindowTest, AllCardsAreInSightAndTheChosenOneOnASmallScreen) {
         TipoPontoWindow window(stocks_, pictures_);
         window.resize(one.size);
         const WindowDriver driver(window);
-        EXPECT_EQ(testing::namelessWidgets(window), "");
+        EXPECT_EQ(driver.namelessWidgets(), "");
         EXPECT_LE(window.minimumSizeHint().width(), 640);
         EXPECT_LE(window.minimumSizeHint().height(), 330);
         const auto* sight = driver.find<QScrollArea>("tipoPonto.stocks").viewport();

@@ -1,6 +1,6 @@
 #include "timecard/hours/desktop/hours_summary_panel.h"
 
-#include "tests/support/driven_window.h"
+#include "tests/support/window_driver.h"
 
 #include <gmock/gmock.h>
 #include <QHeaderView>
@@ -51,7 +51,7 @@ struct Panel : ::testing::Test {
                          });
     }
 
-    [[nodiscard]] QTableWidget& table() { return driven->get<QTableWidget>("hours.table"); }
+    [[nodiscard]] QTableWidget& table() { return driven->find<QTableWidget>("hours.table"); }
     [[nodiscard]] std::string figure(int row, int column) {
         return table().item(row, column)->text().toStdString();
     }

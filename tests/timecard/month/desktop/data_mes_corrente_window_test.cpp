@@ -1,7 +1,7 @@
 #include "timecard/month/desktop/data_mes_corrente_window.h"
 
-#include "tests/support/driven_window.h"
 #include "tests/support/test_workplace.h"
+#include "tests/support/window_driver.h"
 #include "timecard/month/selected_month.h"
 
 #include <gmock/gmock.h>
@@ -27,7 +27,7 @@ struct MonthWindow : ::testing::Test {
     }
     /// The list "Feriados:", cells parted by bars.
     [[nodiscard]] std::string listed() {
-        const auto& list = driven->get<QTreeWidget>("month.holidays");
+        const auto& list = driven->find<QTreeWidget>("month.holidays");
         QStringList rows;
         for (int row = 0; row < list.topLevelItemCount(); ++row) {
             QStringList cells;
@@ -44,44 +44,44 @@ struct MonthWindow : ::testing::Test {
 
 TEST_F(MonthWindow, TicksAreListedCountedAndRecorded) {
     EXPECT_EQ(listed(), "");
-    EXPECT_EQ(driven->text("month.offer"),
+    EXPECT_EQ(driven->label("month.offer"),
               "◇ Há feriados sugeridos, ainda não marcados. Clique aqui ou use F8 para marcá-los.");
-    EXPECT_EQ(driven->text("month.unticked"), "◇ Não marcados: 29/03 Sexta-feira Santa");
-    EXPECT_EQ(driven->text("state"), "Mês ainda não gravado");
+    EXPECT_EQ(driven->label("month.unticked"), "◇ Não marcados: 29/03 Sexta-feira Santa");
+    EXPECT_EQ(driven->label("state"), "Mês ainda não gravado");
     driven->press(Qt::Key_F8);
     EXPECT_EQ(listed(), "29/03/2024|sex|Sexta-feira Santa");
     driven->click("month.day34");
     EXPECT_EQ(listed(), "");
-    QTest::mouseClick(&driven->get<QLabel>("month.offer"), Qt::LeftButton);
+    QTest::mouseClick(&driven->find<QLabel>("month.offer"), Qt::LeftButton);
     EXPECT_EQ(listed(), "29/03/2024|sex|Sexta-feira Santa");
     driven->click("month.day25");
-    EXPECT_THAT(driven->text("month.counts"), ::testing::HasSubstr("Úteis: <b>24</b>"));
-    EXPECT_EQ(driven->text("state"), "Alterações não gravadas");
+    EXPECT_THAT(driven->label("month.counts"), ::testing::HasSubstr("Úteis: <b>24</b>"));
+    EXPECT_EQ(driven->label("state"), "Alterações não gravadas");
     driven->press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_THAT(recorded().holidays(),
                 ::testing::ElementsAre(*parseDate("20/03/2024"), *parseDate("29/03/2024")));
     EXPECT_EQ(listed(), "20/03/2024|qua|\n29/03/2024|sex|Sexta-feira Santa");
-    EXPECT_FALSE(driven->get<QLabel>("month.offer").isVisible());
-    EXPECT_EQ(driven->text("state"), "Mês gravado");
+    EXPECT_FALSE(driven->find<QLabel>("month.offer").isVisible());
+    EXPECT_EQ(driven->label("state"), "Mês gravado");
     driven->click("month.reset");
     EXPECT_EQ(listed(), "");
-    EXPECT_EQ(driven->text("month.unticked"), "◇ Não marcados: 29/03 Sexta-feira Santa");
+    EXPECT_EQ(driven->label("month.unticked"), "◇ Não marcados: 29/03 Sexta-feira Santa");
     driven->click("month.restore");
-    EXPECT_TRUE(driven->get<QCheckBox>("month.day34").isChecked());
-    EXPECT_FALSE(driven->get<QLabel>("month.unticked").isVisible());
+    EXPECT_TRUE(driven->find<QCheckBox>("month.day34").isChecked());
+    EXPECT_FALSE(driven->find<QLabel>("month.unticked").isVisible());
     driven->click("month.day25");
     driven->click("month.recordTicks");
     driven->press(Qt::Key_S, Qt::ControlModifier);
-    EXPECT_EQ(driven->text("state"), "Mês gravado, sem as marcas dos feriados");
+    EXPECT_EQ(driven->label("state"), "Mês gravado, sem as marcas dos feriados");
     EXPECT_EQ(recorded().holidays().size(), 2U);
-    EXPECT_TRUE(driven->get<QLabel>("month.offer").isVisible());
+    EXPECT_TRUE(driven->find<QLabel>("month.offer").isVisible());
 }
 
 TEST_F(MonthWindow, DaysKeptByCustomBearASignAndTheirName) {
     driven->press(Qt::Key_PageUp);
-    EXPECT_EQ(driven->get<QComboBox>("month.month").currentText().toStdString(), "fevereiro/2024");
-    EXPECT_EQ(driven->text("month.unticked"), "◇ Não marcados: 12/02 Carnaval, 13/02 Carnaval");
-    auto& tuesday = driven->get<QCheckBox>("month.day17");
+    EXPECT_EQ(driven->find<QComboBox>("month.month").currentText().toStdString(), "fevereiro/2024");
+    EXPECT_EQ(driven->label("month.unticked"), "◇ Não marcados: 12/02 Carnaval, 13/02 Carnaval");
+    auto& tuesday = driven->find<QCheckBox>("month.day17");
     EXPECT_EQ(tuesday.text().toStdString(), "13 ◇");
     EXPECT_EQ(tuesday.accessibleName().toStdString(),
               "13/02/2024, terça-feira, Carnaval, sugestão");
@@ -90,7 +90,7 @@ TEST_F(MonthWindow, DaysKeptByCustomBearASignAndTheirName) {
     EXPECT_EQ(listed(), "13/02/2024|ter|Carnaval");
     desk.person.answers = {Answer::Yes};
     driven->press(Qt::Key_PageDown);
-    EXPECT_EQ(driven->get<QComboBox>("month.month").currentText().toStdString(), "março/2024");
+    EXPECT_EQ(driven->find<QComboBox>("month.month").currentText().toStdString(), "março/2024");
 }
 
 TEST_F(MonthWindow, TheListOfTheTownIsAskedForAndItsDaysAreOffered) {
@@ -103,19 +103,19 @@ TEST_F(MonthWindow, TheListOfTheTownIsAskedForAndItsDaysAreOffered) {
                      });
     driven->press(Qt::Key_F6);
     EXPECT_EQ(requests, 1);
-    EXPECT_EQ(driven->text("month.unticked"),
+    EXPECT_EQ(driven->label("month.unticked"),
               "◇ Não marcados: 19/03 PADROEIRO, 29/03 Sexta-feira Santa");
-    EXPECT_EQ(driven->get<QCheckBox>("month.day24").text().toStdString(), "19 ◇");
+    EXPECT_EQ(driven->find<QCheckBox>("month.day24").text().toStdString(), "19 ◇");
 }
 
 TEST_F(MonthWindow, LinesNotUnderstoodAreShownUnderTheList) {
-    EXPECT_FALSE(driven->get<QLabel>("month.unread").isVisible());
+    EXPECT_FALSE(driven->find<QLabel>("month.unread").isVisible());
     desk.file("02-2024ds.rdx") = "sim\r\n0\r\n";
     driven->press(Qt::Key_PageUp);
-    EXPECT_EQ(driven->text("month.unread"), "⚠ Não entendida, mantida no registro: linha 1 “sim”");
+    EXPECT_EQ(driven->label("month.unread"), "⚠ Não entendida, mantida no registro: linha 1 “sim”");
     desk.file("01-2024ds.rdx") = "sim\r\nnão\r\n";
     driven->press(Qt::Key_PageUp);
-    EXPECT_THAT(driven->text("month.unread"), ::testing::HasSubstr("2 linhas não entendidas"));
+    EXPECT_THAT(driven->label("month.unread"), ::testing::HasSubstr("2 linhas não entendidas"));
 }
 
 TEST_F(MonthWindow, AllEmployeesGetTheRulesByKey) {
@@ -123,43 +123,43 @@ TEST_F(MonthWindow, AllEmployeesGetTheRulesByKey) {
     desk.file("01MedHorExtr001") = "03-2024 70  50  100 100 0 0 0 2\r\n";
     command.open();
     driven->type("month.minimumPercent", "60");
-    EXPECT_THAT(driven->text("month.ownRules"), ::testing::HasSubstr("1 funcionário da lista"));
+    EXPECT_THAT(driven->label("month.ownRules"), ::testing::HasSubstr("1 funcionário da lista"));
     driven->press(Qt::Key_F7);
     EXPECT_EQ(desk.file("01MedHorExtr001"), "03-2024 70  50  100 100 0 0 0 2\r\n");
     desk.person.answers = {Answer::Yes};
     driven->press(Qt::Key_F7);
-    EXPECT_EQ(driven->text("state"), "2 funcionários atualizados");
-    EXPECT_FALSE(driven->get<QLabel>("month.ownRules").isVisible());
+    EXPECT_EQ(driven->label("state"), "2 funcionários atualizados");
+    EXPECT_FALSE(driven->find<QLabel>("month.ownRules").isVisible());
     EXPECT_THAT(desk.file("01MedHorExtr002"), ::testing::StartsWith("03-2024 60 "));
 }
 
 TEST_F(MonthWindow, OnlyTheMonthsCellsShowAndArrowsWalkThem) {
-    EXPECT_FALSE(driven->get<QCheckBox>("month.day5").isVisible());
-    EXPECT_FALSE(driven->get<QCheckBox>("month.day37").isVisible());
-    driven->get<QCheckBox>("month.day6").setFocus();
+    EXPECT_FALSE(driven->find<QCheckBox>("month.day5").isVisible());
+    EXPECT_FALSE(driven->find<QCheckBox>("month.day37").isVisible());
+    driven->find<QCheckBox>("month.day6").setFocus();
     driven->press(Qt::Key_Right);
     driven->press(Qt::Key_Down);
     driven->press(Qt::Key_Space);
     EXPECT_TRUE(command.settings().isHoliday(*parseDate("09/03/2024")));
     driven->press(Qt::Key_Up);
     driven->press(Qt::Key_Up);
-    EXPECT_TRUE(driven->get<QCheckBox>("month.day7").hasFocus());
+    EXPECT_TRUE(driven->find<QCheckBox>("month.day7").hasFocus());
     driven->press(Qt::Key_Tab);
-    EXPECT_TRUE(driven->get<QTreeWidget>("month.holidays").hasFocus());
+    EXPECT_TRUE(driven->find<QTreeWidget>("month.holidays").hasFocus());
     driven->press(Qt::Key_Backtab);
-    EXPECT_TRUE(driven->get<QCheckBox>("month.day7").hasFocus());
+    EXPECT_TRUE(driven->find<QCheckBox>("month.day7").hasFocus());
 }
 
 TEST_F(MonthWindow, AWrongNumberIsSaidBesideItAndKeepsTheWindowOpen) {
     driven->press(Qt::Key_F8);
     driven->type("month.minimumPercent", "5x");
-    EXPECT_EQ(driven->text("month.minimumPercent.hint"), "⚠ Informe um número de 0 a 999.");
+    EXPECT_EQ(driven->label("month.minimumPercent.hint"), "⚠ Informe um número de 0 a 999.");
     driven->click("month.confirm");
     EXPECT_THAT(desk.person.takeTexts(), ::testing::ElementsAre("Dados incorretos!"));
     EXPECT_TRUE(driven->window.isVisible());
     EXPECT_TRUE(desk.files.content.empty());
     driven->type("month.minimumPercent", "60");
-    EXPECT_EQ(driven->text("month.minimumPercent.hint"), "");
+    EXPECT_EQ(driven->label("month.minimumPercent.hint"), "");
     driven->click("month.confirm");
     EXPECT_EQ(driven->window.result(), QDialog::Accepted);
     EXPECT_EQ(recorded().overtime.minimumPercent, 60);
@@ -172,7 +172,7 @@ TEST_F(MonthWindow, ChoicesAreRecordedAndShownAgain) {
     driven->click("month.differentiated");
     driven->type("month.closingDay", "21");
     driven->type("month.maximumPercent", "110");
-    EXPECT_EQ(driven->text("month.modeNotice"),
+    EXPECT_EQ(driven->label("month.modeNotice"),
               "Usar Somente 1 (um) Único Percentual de Horas Extras para 110%");
     driven->press(Qt::Key_S, Qt::ControlModifier);
     const MonthSettings settings = recorded();
@@ -183,14 +183,14 @@ TEST_F(MonthWindow, ChoicesAreRecordedAndShownAgain) {
     EXPECT_EQ(settings.closingDay, 21);
 
     driven->click("month.reference");  // the month after: defaults
-    EXPECT_TRUE(driven->get<QRadioButton>("month.bothLevels").isChecked());
-    EXPECT_TRUE(driven->get<QRadioButton>("month.fixedMonth").isChecked());
+    EXPECT_TRUE(driven->find<QRadioButton>("month.bothLevels").isChecked());
+    EXPECT_TRUE(driven->find<QRadioButton>("month.fixedMonth").isChecked());
     EXPECT_FALSE(command.changed());
     driven->click("month.reference");
     driven->click("month.reference");
-    EXPECT_TRUE(driven->get<QRadioButton>("month.singleLevel").isChecked());
-    EXPECT_TRUE(driven->get<QRadioButton>("month.startDay").isChecked());
-    EXPECT_TRUE(driven->get<QCheckBox>("month.differentiated").isChecked());
+    EXPECT_TRUE(driven->find<QRadioButton>("month.singleLevel").isChecked());
+    EXPECT_TRUE(driven->find<QRadioButton>("month.startDay").isChecked());
+    EXPECT_TRUE(driven->find<QCheckBox>("month.differentiated").isChecked());
     EXPECT_FALSE(command.changed());
 }
 

@@ -45,7 +45,7 @@ TEST_F(HolidayListWindow, ADayIsTypedOnTheKeypadAndRecorded) {
                 ElementsAre("05/12      PADROEIRO", "31/02 NUNCA",
                             encode(LocalHoliday{"09/07", "9 DE JULHO"})));
     EXPECT_EQ(screen.state(), "3 de 3");
-    EXPECT_EQ(testing::namelessWidgets(window), "");
+    EXPECT_EQ(screen.namelessWidgets(), "");
 }
 
 TEST_F(HolidayListWindow, ALineIsChangedAndALineNotUnderstoodCanOnlyGo) {

@@ -1,6 +1,6 @@
 // "Resumo das Horas" within the time-card window.
 #include "tests/support/card_screen.h"
-#include "tests/support/driven_window.h"
+#include "tests/support/window_driver.h"
 #include "timecard/punches/desktop/cartao_ponto_dados_window.h"
 #include "timecard/punches/desktop/punch_grid.h"
 
@@ -32,12 +32,12 @@ struct CardHoursWindow : testing::CardScreen {
         driven = std::make_unique<DrivenWindow<CartaoPontoDadosWindow>>(screen);
     }
 
-    [[nodiscard]] QTableWidget& table() { return driven->get<QTableWidget>("hours.table"); }
+    [[nodiscard]] QTableWidget& table() { return driven->find<QTableWidget>("hours.table"); }
     [[nodiscard]] std::string figure(int row, int column) {
         return table().item(row, column)->text().toStdString();
     }
     [[nodiscard]] std::string difference(int day) {
-        return driven->get<PunchGrid>("card.half1")
+        return driven->find<PunchGrid>("card.half1")
             .model()
             ->index(day - 1, PunchModel::Difference)
             .data()
@@ -48,7 +48,7 @@ struct CardHoursWindow : testing::CardScreen {
 
 TEST_F(CardHoursWindow, FollowsAnEditOfTheGridAndOfTheScheduleAtOnce) {
     EXPECT_EQ(figure(kNormalRow, kFirst), "08:00");
-    auto& grid = driven->get<PunchGrid>("card.half1");
+    auto& grid = driven->find<PunchGrid>("card.half1");
     EXPECT_TRUE(grid.model()->setData(grid.model()->index(3, 4), QStringLiteral("18:30")));
     EXPECT_EQ(figure(kExtraRow, kFirst), "01:30");
     EXPECT_EQ(figure(kExtraRow, kMonthColumn), "01:30");

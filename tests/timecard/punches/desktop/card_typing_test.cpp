@@ -1,6 +1,6 @@
 // Typing a card from paper, key by key as a keyboard sends them.
 #include "tests/support/card_screen.h"
-#include "tests/support/driven_window.h"
+#include "tests/support/window_driver.h"
 #include "timecard/punches/desktop/cartao_ponto_dados_window.h"
 #include "timecard/punches/desktop/punch_grid.h"
 
@@ -47,10 +47,10 @@ struct CardTyping : testing::CardScreen {
         }
     }
     [[nodiscard]] PunchGrid& grid(int half = 1) {
-        return driven->get<PunchGrid>(half == 1 ? "card.half1" : "card.half2");
+        return driven->find<PunchGrid>(half == 1 ? "card.half1" : "card.half2");
     }
     void chooseEmployee(int row) {
-        auto& list = driven->get<QAbstractItemView>("card.employees");
+        auto& list = driven->find<QAbstractItemView>("card.employees");
         list.setCurrentIndex(list.model()->index(row, 0));
     }
     void goTo(int day, int column) {
@@ -60,7 +60,7 @@ struct CardTyping : testing::CardScreen {
     [[nodiscard]] std::string cell(int day, int column) {
         return grid().model()->index(day - 1, column).data().toString().toStdString();
     }
-    [[nodiscard]] std::string state() { return driven->text("state"); }
+    [[nodiscard]] std::string state() { return driven->label("state"); }
     /// "5:1" for the entry of the fifth.
     [[nodiscard]] std::string cursor() {
         const QModelIndex at = grid().currentIndex();
@@ -72,7 +72,7 @@ TEST_F(CardTyping, AHalfMonthFromPaperTakesNoIdleKey) {
     open();
     // Eleven working days: five keys a time are twenty a day, a month of 22 days 440.
     constexpr int kMostKeys = 11 * 440 / 22;
-    driven->get<QAbstractItemView>("card.employees").setFocus();
+    driven->find<QAbstractItemView>("card.employees").setFocus();
     press(Qt::Key_Return);
     for (const int day : {1, 4, 5, 6, 7, 8, 11, 12, 13, 14, 15}) {
         EXPECT_EQ(cursor(), std::to_string(day) + ":1");

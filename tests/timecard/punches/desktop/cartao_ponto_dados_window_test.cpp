@@ -1,8 +1,9 @@
 #include "timecard/punches/desktop/cartao_ponto_dados_window.h"
 
-#include "tests/support/driven_window.h"
+#include "tests/support/employees.h"
 #include "tests/support/test_punch_desk.h"
 #include "tests/support/test_workplace.h"
+#include "tests/support/window_driver.h"
 #include "timecard/month/selected_month.h"
 #include "timecard/punches/desktop/punch_grid.h"
 
@@ -20,6 +21,8 @@ namespace winvrx {
 namespace {
 
 using testing::DrivenWindow;
+using testing::employee;
+using testing::employeeList;
 using testing::TestPunchDesk;
 using testing::TestWorkplace;
 
@@ -34,14 +37,9 @@ struct CardWindow : ::testing::Test {
     std::unique_ptr<DrivenWindow<CartaoPontoDadosWindow>> driven;
 
     void SetUp() override {
-        Employee ana;
-        ana.code = "001";
-        ana.name = "ANA";
-        Employee jose;
-        jose.code = "002";
-        jose.name = "JOSÉ";
-        jose.shift = "Dois";
-        desk.file("01CartaPonto") = joinedLines({encode(ana), encode(jose)});
+        desk.file("01CartaPonto") =
+            employeeList({employee("001", "ANA", {.admission = ""}),
+                          employee("002", "JOSÉ", {.shift = "Dois", .admission = ""})});
         desk.file("01PadrHor001.pdx") = "08:0012:0013:0017:00";
         saveSelectedMonth(desk.store(), {*parseMonthKey("03-2024"), ShiftFilter::Todos});
     }
@@ -54,7 +52,7 @@ struct CardWindow : ::testing::Test {
     }
 
     [[nodiscard]] PunchGrid& grid(int half) {
-        return driven->get<PunchGrid>(half == 1 ? "card.half1" : "card.half2");
+        return driven->find<PunchGrid>(half == 1 ? "card.half1" : "card.half2");
     }
     [[nodiscard]] std::string cell(int half, int row, int column) {
         return grid(half).model()->index(row, column).data().toString().toStdString();
@@ -80,11 +78,11 @@ TEST_F(CardWindow, TypingFillsCellAfterCellAndRowAfterRow) {
     EXPECT_EQ(cell(1, 0, 3), "13:00");
     EXPECT_EQ(cell(1, 0, 4), "17:30");
     EXPECT_EQ(cell(1, 0, PunchModel::Total), "08:30");
-    EXPECT_EQ(driven->text("card.heading1"), "1º Quinzena  ·  08:30");
+    EXPECT_EQ(driven->label("card.heading1"), "1º Quinzena  ·  08:30");
     EXPECT_EQ(grid(1).currentIndex(), grid(1).model()->index(3, 1)) << "on Monday";
     driven->press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_THAT(desk.file(kPunches), ::testing::HasSubstr("\r\n01/sex/mar08:0012:0013:0017:30"));
-    EXPECT_EQ(driven->text("state"),
+    EXPECT_EQ(driven->label("state"),
               "Ponto gravado  ·  ENTER: próxima hora · Home: primeira · End: situação · "
               "Ctrl+F: funcionários");
 }
@@ -104,7 +102,7 @@ TEST_F(CardWindow, AWrongTimeStaysInItsCellAndIsNotRecorded) {
     grid(1).goToStart();
     enter("2500");
     EXPECT_EQ(cell(1, 0, 1), "⚠ 2500");
-    EXPECT_EQ(driven->text("state"), "⚠ \"2500\" não é uma hora de 00:00 a 23:59.");
+    EXPECT_EQ(driven->label("state"), "⚠ \"2500\" não é uma hora de 00:00 a 23:59.");
     driven->press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(desk.person.shown.back().title, "DIGITAÇÃO DO PONTO");
     EXPECT_FALSE(desk.files.content.contains("/data/" + kPunches));
@@ -147,7 +145,7 @@ TEST_F(CardWindow, BesideTheOtherHalfTheOneWithTheCursorSpeaks) {
     grid(2).setCurrentIndex(grid(2).model()->index(2, 1));
     enter("2500");
     grid(2).setCurrentIndex(grid(2).model()->index(2, 1));
-    EXPECT_EQ(driven->text("state"), "⚠ \"2500\" não é uma hora de 00:00 a 23:59.");
+    EXPECT_EQ(driven->label("state"), "⚠ \"2500\" não é uma hora de 00:00 a 23:59.");
     driven->press(Qt::Key_F6);
     EXPECT_TRUE(grid(1).hasFocus());
 }
@@ -169,11 +167,11 @@ TEST_F(CardWindow, AnAbsenceTakesTheTimesOutAndSaysSo) {
     grid(1).setCurrentIndex(grid(1).model()->index(3, PunchModel::Situation));
     enter("fal");
     EXPECT_EQ(cell(1, 3, 1) + cell(1, 3, PunchModel::Situation), "Falta");
-    EXPECT_EQ(driven->text("state"),
+    EXPECT_EQ(driven->label("state"),
               "Falta: as horas de 04/seg/mar saíram; Ctrl+Z as traz de volta.");
     driven->press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(cell(1, 3, 1) + cell(1, 3, PunchModel::Situation), "08:00");
-    EXPECT_THAT(driven->text("state"), ::testing::StartsWith("Ponto gravado"));
+    EXPECT_THAT(driven->label("state"), ::testing::StartsWith("Ponto gravado"));
 }
 
 TEST_F(CardWindow, WhatStandsInAnOpenEditorIsNotLost) {
@@ -213,37 +211,37 @@ TEST_F(CardWindow, F6ChangesTheHalfAndAWideWindowShowsBoth) {
 
 TEST_F(CardWindow, ApplicationShowsTheFilledMonth) {
     open();
-    EXPECT_EQ(driven->text("state"), "Ponto ainda não aplicado neste mês  ·  ENTER: horas do dia");
+    EXPECT_EQ(driven->label("state"), "Ponto ainda não aplicado neste mês  ·  ENTER: horas do dia");
     EXPECT_EQ(cell(1, 2, PunchModel::Situation), "(descanso)");
     desk.person.answers = {Answer::Yes};
     driven->press(Qt::Key_F9);
     EXPECT_EQ(cell(1, 0, 1), "08:00");
     EXPECT_EQ(cell(1, 2, PunchModel::Situation), "DESCANSO SEMANAL");
-    EXPECT_EQ(driven->text("schedule.weekly"), "40,0 HORAS SEMANAIS");
+    EXPECT_EQ(driven->label("schedule.weekly"), "40,0 HORAS SEMANAIS");
 }
 
 TEST_F(CardWindow, AnotherEmployeeComesOnlyAfterTheChangesAreSettled) {
     open();
     driven->type("schedule.time1", "7");
     driven->press(Qt::Key_PageDown);  // answered Cancel
-    auto& list = driven->get<QListWidget>("card.employees");
+    auto& list = driven->find<QListWidget>("card.employees");
     EXPECT_EQ(list.currentRow(), 0);
-    EXPECT_EQ(driven->get<QLineEdit>("schedule.time1").text(), QStringLiteral("07:00"));
+    EXPECT_EQ(driven->find<QLineEdit>("schedule.time1").text(), QStringLiteral("07:00"));
     desk.person.answers = {Answer::Yes};
     driven->press(Qt::Key_PageDown);
     EXPECT_EQ(list.currentRow(), 1);
     EXPECT_EQ(desk.file("01PadrHor001.pdx").substr(0, 5), "07:00");
-    EXPECT_EQ(driven->get<QLineEdit>("schedule.time1").text(), QString());
+    EXPECT_EQ(driven->find<QLineEdit>("schedule.time1").text(), QString());
 }
 
 TEST_F(CardWindow, SearchAndShiftNarrowTheList) {
     open();
-    auto& list = driven->get<QListWidget>("card.employees");
+    auto& list = driven->find<QListWidget>("card.employees");
     driven->type("card.search", "jose");
     EXPECT_TRUE(list.item(0)->isHidden());
     EXPECT_FALSE(list.item(1)->isHidden());
     driven->type("card.search", "x");
-    auto& shift = driven->get<QComboBox>("card.shift");
+    auto& shift = driven->find<QComboBox>("card.shift");
     shift.setCurrentIndex(3);
     emit shift.activated(3);
     ASSERT_EQ(list.count(), 1);
@@ -270,14 +268,14 @@ TEST_F(CardWindow, WhatIsNotUnderstoodIsShownAndKept) {
         "  \r\n01/sex/marfolga12:00\r\nanota\xE7\xE3o\r\n01/sex/mar07:00\r\n";
     desk.file(kPunches) = damaged;
     open();
-    const auto& unread = driven->get<QLabel>("card.unread");
+    const auto& unread = driven->find<QLabel>("card.unread");
     EXPECT_EQ(unread.text().toStdString(),
               "⚠ 2 linhas não entendidas, mantidas no registro: anotação …");
     EXPECT_EQ(unread.toolTip().toStdString(), "anotação\n01/sex/mar07:00");
     EXPECT_EQ(cell(1, 0, 1), "⚠ folga");
     EXPECT_EQ(cell(1, 0, 2), "12:00");
     EXPECT_EQ(desk.file(kPunches), damaged);
-    driven->get<QListWidget>("card.employees").setCurrentRow(1);
+    driven->find<QListWidget>("card.employees").setCurrentRow(1);
     EXPECT_EQ(unread.text(), QString());
 }
 
@@ -326,7 +324,7 @@ TEST_F(CardWindow, ADoubtfulDayIsMarkedAndItsReasonSaid) {
     for (const char* typed : {"8", "12", "1130", "17"})
         enter(typed);
     EXPECT_EQ(cell(1, 0, PunchModel::Day), "⚠01/sex/mar");
-    EXPECT_EQ(driven->text("state"), "⚠ 01/sex/mar: Manhã e Tarde: os horários se sobrepõem.");
+    EXPECT_EQ(driven->label("state"), "⚠ 01/sex/mar: Manhã e Tarde: os horários se sobrepõem.");
     driven->press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_THAT(desk.file(kPunches), ::testing::HasSubstr("01/sex/mar08:0012:0011:3017:00"));
 }
@@ -335,8 +333,8 @@ TEST_F(CardWindow, AClosedMonthCanBeLookedAtOnly) {
     desk.file(kPunches) = "  \r\n01/sex/mar07:00\r\n";
     asked.locks.closed = {"001"};
     open();
-    EXPECT_EQ(driven->text("card.marks1"), "⚠ Folha Fechada");
-    EXPECT_EQ(driven->get<QListWidget>("card.employees").item(0)->text().toStdString(),
+    EXPECT_EQ(driven->label("card.marks1"), "⚠ Folha Fechada");
+    EXPECT_EQ(driven->find<QListWidget>("card.employees").item(0)->text().toStdString(),
               "001 ANA\nFolha Fechada");
     grid(1).goToStart();
     QApplication::clipboard()->setText(QStringLiteral("9"));
@@ -358,15 +356,15 @@ TEST_F(CardWindow, AClosedMonthCanBeLookedAtOnly) {
 TEST_F(CardWindow, ALeaveIsSaidInTheListAndBesideTheName) {
     asked.leaves.add("002", "28/02/2024", "04/03/2024");
     open();
-    auto& list = driven->get<QListWidget>("card.employees");
+    auto& list = driven->find<QListWidget>("card.employees");
     EXPECT_EQ(list.item(1)->text().toStdString(), "002 JOSÉ\nCOLABORADOR COM AFASTAMENTO!!!");
     driven->press(Qt::Key_PageDown);
-    EXPECT_EQ(driven->text("card.marks1"), "⚠ COLABORADOR COM AFASTAMENTO!!!");
+    EXPECT_EQ(driven->label("card.marks1"), "⚠ COLABORADOR COM AFASTAMENTO!!!");
 }
 
 TEST_F(CardWindow, TheCardsOfTheListAreFilledTogether) {
     open();
-    auto& box = driven->get<QCheckBox>("card.sameHours");
+    auto& box = driven->find<QCheckBox>("card.sameHours");
     EXPECT_EQ(box.accessibleName().toStdString(),
               "Aplicar<Horário de Trabalho> Igual p/todos do Turno");
     driven->click("card.minutesVaried");
@@ -376,10 +374,10 @@ TEST_F(CardWindow, TheCardsOfTheListAreFilledTogether) {
     driven->press(Qt::Key_F9, Qt::ShiftModifier);
     EXPECT_FALSE(desk.files.content.contains("/data/" + kPunches));  // not shown
     EXPECT_TRUE(desk.files.content.contains("/data/01002-03-2024.bdx"));
-    EXPECT_EQ(driven->text("state"), "Ponto aplicado: 1 de 1 da lista");
-    driven->get<QLineEdit>("card.search").clear();
+    EXPECT_EQ(driven->label("state"), "Ponto aplicado: 1 de 1 da lista");
+    driven->find<QLineEdit>("card.search").clear();
 
-    auto& shift = driven->get<QComboBox>("card.shift");
+    auto& shift = driven->find<QComboBox>("card.shift");
     EXPECT_EQ(shift.itemText(1).toStdString(), "Turno: Unico");
     emit shift.activated(1);
     box.click();
