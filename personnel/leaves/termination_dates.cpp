@@ -1,0 +1,110 @@
+#include "personnel/leaves/termination_dates.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+constexpr int kBaseDays = 30;
+constexpr int kDaysPerYear = 3;
+constexpr int kMostDays = 90;
+constexpr int kMostWorkedDays = 30;
+constexpr int kPaymentDays = 10;
+
+std::string days(int count) {
+    return std::to_string(count) + (count == 1 ? " dia" : " dias");
+}
+
+Explained<int> fullNotice(Date admission, Date given) {
+    const int years = fullYearsOfService(admission, given);
+    const int owed = kBaseDays + kDaysPerYear * years;
+    std::string rule =
+        "30 + 3 × " + std::to_string(years) + (years == 1 ? " ano" : " anos") + " = " + days(owed);
+    if (owed > kMostDays) rule += ", no máximo " + std::to_string(kMostDays);
+    return {std::min(owed, kMostDays), rule + ", Lei 12.506/2011"};
+}
+
+std::string after(std::string_view what, Date date, int count) {
+    return std::string(what) + " " + dateText(date) + " + " + days(count);
+}
+
+/// Paid or worked, the contract of a resigning employee is not projected past his last day.
+bool endsAtOnce(TerminationType type, NoticeType notice) {
+    return type == TerminationType::JustCause ||
+           (type == TerminationType::Resignation && notice == NoticeType::Paid);
+}
+
+void endAtOnce(TerminationDates& dates, TerminationType type) {
+    const Date given = dates.noticeGiven.value;
+    const std::string rule = type == TerminationType::JustCause
+                                 ? "Justa causa: sem aviso prévio, CLT art. 482"
+                                 : "Aviso não cumprido pelo empregado, CLT art. 487 § 2º";
+    dates.noticeBegins = {std::nullopt, rule};
+    dates.noticeEnds = {given, rule};
+    dates.lastDayWorked = {given, rule};
+}
+
+void runNotice(TerminationDates& dates, NoticeType notice) {
+    const Date given = dates.noticeGiven.value;
+    const int owed = dates.noticeDays.value;
+    const int worked = notice == NoticeType::Worked ? std::min(owed, kMostWorkedDays) : 0;
+    dates.noticeBegins = {plusDays(given, 1), "Dia seguinte ao da comunicação, que não se conta"};
+    dates.noticeEnds = {plusDays(given, owed), after("Comunicação", given, owed)};
+    dates.lastDayWorked = {plusDays(given, worked), after("Comunicação", given, worked)};
+    if (notice == NoticeType::Paid) {
+        dates.noticeEnds.rule += ", data projetada, CLT art. 487 § 1º";
+        dates.lastDayWorked.rule = "Aviso indenizado: o dia da comunicação";
+        return;
+    }
+    dates.lastDayWorked.rule += ", 2 horas a menos por dia ou 7 dias corridos, CLT art. 488";
+    if (owed > worked) dates.noticeEnds.rule += "; " + days(owed - worked) + " indenizados";
+}
+
+}  // namespace
+
+int fullYearsOfService(Date admission, Date date) {
+    const Date next = plusDays(date, 1);
+    const int years = static_cast<int>(next.year()) - static_cast<int>(admission.year());
+    const bool beforeAnniversary =
+        std::pair(next.month(), next.day()) < std::pair(admission.month(), admission.day());
+    return std::max(0, years - (beforeAnniversary ? 1 : 0));
+}
+
+Explained<int> noticeDays(TerminationType type, Date admission, Date given) {
+    switch (type) {
+        case TerminationType::JustCause:
+            return {0, "Justa causa: sem aviso prévio, CLT art. 482"};
+        case TerminationType::Resignation:
+            return {kBaseDays, "Pedido de demissão: 30 dias, CLT art. 487"};
+        case TerminationType::MutualFault: {
+            const Explained<int> full = fullNotice(admission, given);
+            const int half = (full.value + 1) / 2;
+            return {half, full.rule + "; metade por culpa recíproca = " + days(half) +
+                              ", CLT art. 484, Súmula 14 do TST"};
+        }
+        case TerminationType::WithoutCause:
+        case TerminationType::EmployersFault:
+            break;
+    }
+    return fullNotice(admission, given);
+}
+
+TerminationDates terminationDates(TerminationType type, NoticeType notice, Date admission,
+                                  Date given) {
+    TerminationDates dates;
+    dates.noticeDays = noticeDays(type, admission, given);
+    dates.noticeGiven = {given, "Dia da comunicação"};
+    if (endsAtOnce(type, notice))
+        endAtOnce(dates, type);
+    else
+        runNotice(dates, notice);
+    // The ten days run from the end of the contract; where part of the notice is paid, from the
+    // last day worked, which is how the final account is due in practice.
+    const Date last = dates.lastDayWorked.value;
+    dates.paymentDue = {plusDays(last, kPaymentDays),
+                        after("Último dia trabalhado", last, kPaymentDays) + ", CLT art. 477 § 6º"};
+    return dates;
+}
+
+}  // namespace winvrx
