@@ -2,11 +2,13 @@
 #include "app/program.h"
 #include "foundation/desk/desktop/file_log.h"
 #include "foundation/desk/desktop/system_clock.h"
+#include "foundation/files/data_folder.h"
 #include "foundation/files/desktop/system_drives.h"
 #include "foundation/menu/desktop/lock_file_instance.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace {
@@ -17,6 +19,15 @@ QString writableFolder(QStandardPaths::StandardLocation location) {
     return folder;
 }
 
+/// Where the claim on the run lies: beside the data folder, which the users of the machine may
+/// share, or in the user's own folder where that one cannot be written.
+QString claimPath(const winvrx::Drives& drives, const QString& own) {
+    const auto data = pathOnDrive(drives, winvrx::kDefaultDrive, winvrx::kDataFolder);
+    const QString beside = QString::fromStdString(data.parent_path().parent_path().string());
+    const bool writable = QDir().mkpath(beside) && QFileInfo(beside).isWritable();
+    return (writable ? beside : own) + QStringLiteral("/winvrx.lock");
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -25,8 +36,8 @@ int main(int argc, char** argv) {
 
     const QString own = writableFolder(QStandardPaths::AppLocalDataLocation);
     winvrx::FileLog log(own + QStringLiteral("/winvrx.log"));
-    winvrx::LockFileInstance instance(own + QStringLiteral("/winvrx.lock"));
     const winvrx::SystemDrives drives;
+    winvrx::LockFileInstance instance(claimPath(drives, own));
     const winvrx::SystemClock clock;
     winvrx::Program program(
         {drives, clock, log, instance,

@@ -1,14 +1,16 @@
 #pragma once
 
-#include "app/screens.h"
-#include "foundation/menu/desktop/menu_entry.h"
-
-#include <vector>
+#include "foundation/desk/desktop/menu_entry.h"
+#include "output/cards/desktop/card_entries.h"
 
 namespace winvrx {
 
-/// The table of the main window's commands: what each is called, where it stands and what it
-/// opens. Both arguments outlive the entries.
-[[nodiscard]] std::vector<MenuEntry> menuEntries(Menu& menu, Screens& screens);
+class SafetyCopies;
+class TextEditor;
+
+/// The main window's commands, in the order of their tiles: each written in the room that owns its
+/// screen. The arguments outlive the entries.
+[[nodiscard]] MenuEntries menuEntries(const Workplace& at, const CardPrintingDesk& desk,
+                                      TextEditor& editor, SafetyCopies& copies);
 
 }  // namespace winvrx

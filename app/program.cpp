@@ -7,6 +7,7 @@
 #include "foundation/widgets/desktop/progress.h"
 #include "report/desktop/qt_report_engine.h"
 #include "report/desktop/system_printers.h"
+#include "timecard/punches/month_progress.h"
 
 #include <QApplication>
 
@@ -32,36 +33,35 @@ SafetyCopies::Progress copyProgress() {
 
 }  // namespace
 
-Program::Program(const Surroundings& surroundings)
-    : surroundings_(surroundings),
-      files_(surroundings.files ? surroundings.files(systemFiles()) : systemFiles()),
+Program::Program(const ProgramDesk& desk)
+    : desk_(desk),
+      files_(desk.files ? desk.files(systemFiles()) : systemFiles()),
       browser_(std::make_unique<DesktopBrowser>(
-          QString::fromStdString((surroundings.programFolder / "help").string()))),
+          QString::fromStdString((desk.programFolder / "help").string()))),
       editor_(makeEditor()),
-      copies_(*files_, archiver_, surroundings.log, copyProgress),
-      copiedFiles_(*files_, copies_, session_, surroundings.clock, surroundings.log),
+      copies_(*files_, archiver_, desk.log, copyProgress),
+      copiedFiles_(*files_, copies_, session_, desk.clock, desk.log),
       disk_(systemDisk()),
       host_(systemHost()),
       lock_(*disk_, *host_),
       at_{copiedFiles_,
           person_,
-          surroundings.clock,
-          surroundings.log,
+          desk.clock,
+          desk.log,
           session_,
           lock_,
           [this](const std::string& act) {
-              copies_.makeCopyBefore(session_.folder, surroundings_.clock.now(), act);
+              copies_.makeCopyBefore(session_.folder, desk_.clock.now(), act);
           }},
       calendar_(at_),
       engine_(makeEngine()),
-      printers_(surroundings.printers ? surroundings.printers()
-                                      : std::make_unique<SystemPrinters>()),
-      screens_(at_, *browser_, *editor_, {*engine_, *printers_, [this] { return layoutPlaces(); }},
-               copies_),
-      menu_(at_, surroundings.drives, surroundings.instance, *browser_,
-            nativePath(surroundings.programFolder)),
-      window_(std::make_unique<MenuWindow>(menu_, at_, calendar_, menuEntries(menu_, screens_),
-                                           [this] { return screens_.nextStep(); })) {}
+      printers_(desk.printers ? desk.printers() : std::make_unique<SystemPrinters>()),
+      menu_(at_, desk.drives, desk.instance, nativePath(desk.programFolder)),
+      window_(std::make_unique<MenuWindow>(
+          menu_, at_, calendar_,
+          menuEntries(at_, {*browser_, *engine_, *printers_, [this] { return layoutPlaces(); }},
+                      *editor_, copies_),
+          [this] { return progress(); })) {}
 
 Program::~Program() = default;
 
@@ -69,21 +69,26 @@ bool Program::start() {
     return window_->start();
 }
 
+std::optional<MonthProgress> Program::progress() const {
+    if (!session_.company) return std::nullopt;
+    return monthProgress(at_.store(), *session_.company, session_.shiftFilter);
+}
+
 std::unique_ptr<TextEditor> Program::makeEditor() {
-    if (surroundings_.editor) return surroundings_.editor(*files_, *browser_);
+    if (desk_.editor) return desk_.editor(*files_, *browser_);
     return std::make_unique<DesktopTextEditor>(*files_, *browser_);
 }
 
 std::vector<std::filesystem::path> Program::layoutPlaces() const {
-    return layoutFolders(session_.folder.path(), surroundings_.programFolder);
+    return layoutFolders(session_.folder.path(), desk_.programFolder);
 }
 
 std::unique_ptr<ReportEngine> Program::makeEngine() {
     auto engine = std::make_unique<QtReportEngine>(
         [this] { return layoutPlaces(); },
-        [this] { return session_.folder.file(kReportDatabaseName); }, *browser_, surroundings_.log);
-    if (!surroundings_.engine) return engine;
-    return surroundings_.engine(std::move(engine));
+        [this] { return session_.folder.file(kReportDatabaseName); }, *browser_, desk_.log);
+    if (!desk_.engine) return engine;
+    return desk_.engine(std::move(engine));
 }
 
 }  // namespace winvrx

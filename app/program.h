@@ -1,10 +1,11 @@
 #pragma once
 
-#include "app/screens.h"
 #include "foundation/copies/daily_copy_files.h"
 #include "foundation/copies/desktop/zip_archiver.h"
 #include "foundation/desk/command.h"
 #include "foundation/desk/desktop/message_box_operator.h"
+#include "foundation/desk/month_progress.h"
+#include "foundation/desk/text_editor.h"
 #include "foundation/menu/menu.h"
 #include "report/printers.h"
 #include "report/report_engine.h"
@@ -13,14 +14,15 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace winvrx {
 
 class MenuWindow;
 
-/// What the program takes from its surroundings. main() gives the real ones; the example gives a
+/// What the program takes from outside. main() gives the real ones; the example gives a
 /// folder for a drive and a clock that stands still.
-struct Surroundings {
+struct ProgramDesk {
     const Drives& drives;
     const Clock& clock;
     Log& log;
@@ -39,7 +41,7 @@ struct Surroundings {
 /// Joins rules, adapters and windows into the running program.
 class Program {
   public:
-    explicit Program(const Surroundings& surroundings);
+    explicit Program(const ProgramDesk& desk);
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
@@ -52,8 +54,9 @@ class Program {
     [[nodiscard]] std::unique_ptr<TextEditor> makeEditor();
     [[nodiscard]] std::unique_ptr<ReportEngine> makeEngine();
     [[nodiscard]] std::vector<std::filesystem::path> layoutPlaces() const;
+    [[nodiscard]] std::optional<MonthProgress> progress() const;
 
-    Surroundings surroundings_;
+    ProgramDesk desk_;
     std::unique_ptr<FileSystem> files_;
     std::unique_ptr<Browser> browser_;
     std::unique_ptr<TextEditor> editor_;
@@ -69,7 +72,6 @@ class Program {
     TimecardCalendar calendar_;
     std::unique_ptr<ReportEngine> engine_;
     std::unique_ptr<Printers> printers_;
-    Screens screens_;
     Menu menu_;
     std::unique_ptr<MenuWindow> window_;
 };

@@ -224,7 +224,8 @@ int Player::play() {
 }
 
 void Player::next() {
-    if (steps_.empty()) return QCoreApplication::exit(0);
+    // The program's own way out; with its last window closed it ends.
+    if (steps_.empty()) return QApplication::closeAllWindows();
     const std::function<void()> step = std::move(steps_.front());
     steps_.pop_front();
     // Queued first: the step may open a modal window and return only when that is closed.

@@ -4,6 +4,7 @@
 #include "foundation/values/text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace winvrx {
 
@@ -35,22 +36,9 @@ Message driveMissing(char letter) {
                    std::string("Os dados do drive ") + kDefaultDrive + " serão usados.");
 }
 
-bool needsCompany(MenuCommand command) {
-    switch (command) {
-        case MenuCommand::Companies:
-        case MenuCommand::Backup:
-        case MenuCommand::Restore:
-        case MenuCommand::Internet:
-        case MenuCommand::Help:
-            return false;
-        default:
-            return true;
-    }
-}
-
-bool needsEmployees(MenuCommand command) {
-    return needsCompany(command) && command != MenuCommand::Employees &&
-           command != MenuCommand::WorkMonth;
+bool isDealtWith(const Store& store, std::string_view earlierFolder) {
+    const auto noted = RecordFile(store, kEarlierNoteName).values();
+    return std::ranges::find(noted, earlierFolder) != noted.end();
 }
 
 /// The upper-case letter that a start memory holds; nullopt for anything else.
@@ -63,35 +51,43 @@ std::optional<char> letterIn(const std::vector<std::string>& values) {
 
 }  // namespace
 
-Menu::Menu(const Workplace& at, const Drives& drives, SingleInstance& instance, Browser& browser,
+Menu::Menu(const Workplace& at, const Drives& drives, SingleInstance& instance,
            std::string programFolder)
-    : at_(at),
-      drives_(drives),
-      instance_(instance),
-      browser_(browser),
-      programFolder_(std::move(programFolder)) {}
+    : at_(at), drives_(drives), instance_(instance), programFolder_(std::move(programFolder)) {}
 
-bool Menu::start() {
-    if (!instance_.claim()) {
-        at_.person.tell(kAlreadyOpen);
-        return false;
-    }
+bool Menu::claimRun() {
+    if (instance_.claim()) return true;
+    at_.person.tell(kAlreadyOpen);
+    return false;
+}
+
+void Menu::load() {
     (void)attempt(at_, kFailure, [this] {
         openFolder(kDefaultDrive);
         readDriveLetter();
     });
     reloadCompanies();
-    return true;
+}
+
+/// The letter of the start memory, which is written where it is missing.
+char Menu::rememberedLetter() {
+    RecordFile memory(at_.files, localFolder(kDefaultDrive) / kStartMemoryName);
+    if (memory.exists()) return letterIn(memory.values()).value_or(kDefaultDrive);
+    at_.files.makeFolder(memory.path().parent_path());
+    const auto hold = holdFolder(at_, memory.path().parent_path());
+    memory.append(std::string(1, kDefaultDrive));
+    return kDefaultDrive;
 }
 
 void Menu::readDriveLetter() {
-    RecordFile memory(at_.files, localFolder(kDefaultDrive) / kStartMemoryName);
-    if (!memory.exists()) {
-        const auto hold = holdFolder(at_, memory.path().parent_path());
-        memory.append(std::string(1, at_.session.folder.driveLetter()));
-        return;
+    char letter = kDefaultDrive;
+    try {
+        letter = rememberedLetter();
+    } catch (const Fault& fault) {
+        // Who works on a share may have no rights to the local folder.
+        if (!isShare(programFolder_) || shareIsMissing_) throw;
+        at_.log.write(std::string("start memory: ") + fault.what());
     }
-    const char letter = letterIn(memory.values()).value_or(kDefaultDrive);
     if (localFolder(letter).empty())
         at_.person.tell(driveMissing(letter));
     else if (letter != at_.session.folder.driveLetter())
@@ -103,21 +99,29 @@ std::filesystem::path Menu::localFolder(char letter) const {
 }
 
 void Menu::openFolder(char letter) {
-    at_.session.folder = DataFolder(letter, localFolder(letter));
-    at_.files.makeFolder(at_.session.folder.path());
-    removeLeftovers(at_.session.folder.path());
-    if (!isShare(programFolder_)) return;
+    if (isShare(programFolder_) && openShare(letter)) return;
+    useFolder(DataFolder(letter, localFolder(letter)));
+}
+
+bool Menu::openShare(char letter) {
     try {
         const auto share = shareDataFolder(programFolder_);
         if (!at_.files.exists(share.parent_path().parent_path()))
             throw FileFault(FileFault::Operation::List, share,
                             std::make_error_code(std::errc::no_such_file_or_directory));
-        at_.files.makeFolder(share);
-        removeLeftovers(share);
-        at_.session.folder = DataFolder(letter, share);
+        useFolder(DataFolder(letter, share));
+        return true;
     } catch (const FileFault& fault) {
-        reportFailure(at_, kShareNotFound, fault);
+        if (!std::exchange(shareIsMissing_, true)) reportFailure(at_, kShareNotFound, fault);
+        return false;
     }
+}
+
+void Menu::useFolder(const DataFolder& folder) {
+    at_.session.folder = folder;
+    at_.files.makeFolder(folder.path());
+    removeLeftovers(folder.path());
+    usedFolders_.insert(folder.path());
 }
 
 void Menu::removeLeftovers(const std::filesystem::path& folder) {
@@ -155,8 +159,9 @@ const CompanyLine* Menu::selected() const {
 
 void Menu::select(std::size_t position) {
     (void)attempt(at_, kFailure, [&] {
-        at_.session.company = companies_.at(position).key();
+        const auto company = companies_.at(position).key();
         removeHeld(at_.session.folder.file(kSelectedMonthName));
+        at_.session.company = company;
     });
 }
 
@@ -170,17 +175,20 @@ void Menu::useDrive(char letter) {
         const auto hold = holdFolder(at_, memory.parent_path());
         RecordFile(at_.files, memory).rewrite({std::string(1, letter)});
     });
-    if (!moved) at_.session.folder = before;
-    at_.session.company.reset();
+    if (moved)
+        at_.session.company.reset();
+    else
+        at_.session.folder = before;
     reloadCompanies();
 }
 
-bool Menu::mayOpen(MenuCommand command) {
-    if (needsCompany(command) && !at_.session.company) {
+bool Menu::require(MenuNeeds needs) {
+    if (needs == MenuNeeds::Nothing) return true;
+    if (!at_.session.company) {
         at_.person.tell(noCompany());
         return false;
     }
-    if (!needsEmployees(command)) return true;
+    if (needs == MenuNeeds::Company) return true;
     return attempt(at_, kFailure, [this] {
         const EmployeeRegister employees(at_.store(), *at_.session.company);
         if (employees.hasEmployees()) return true;
@@ -190,27 +198,36 @@ bool Menu::mayOpen(MenuCommand command) {
 }
 
 void Menu::offerEarlierData() {
-    for (const std::string_view literal : kEarlierFolders) {
-        const auto folder = pathOnDrive(drives_, at_.session.folder.driveLetter(), literal);
-        const auto earlier = folder / kEmployeeListStem;
-        (void)attempt(at_, kFailure, [&] {
-            if (folder.empty() || !at_.files.exists(earlier)) return false;
-            if (at_.person.agrees(kUseEarlier))
-                importEarlier(earlier);
-            else
-                discardEarlier(earlier);
-            return true;
-        });
-    }
+    for (const std::string_view literal : kEarlierFolders)
+        if (offerEarlier(literal)) return;
+}
+
+/// True when the data was imported, and there is no need of an older one.
+bool Menu::offerEarlier(std::string_view literal) {
+    const auto folder = pathOnDrive(drives_, at_.session.folder.driveLetter(), literal);
+    if (folder.empty()) return false;
+    const auto earlier = folder / kEmployeeListStem;
+    bool imported = false;
+    (void)attempt(at_, kFailure, [&] {
+        if (!at_.files.exists(earlier)) return;
+        if (isDealtWith(at_.store(), literal)) return removeEarlierQuietly(earlier, literal);
+        if (at_.person.agrees(kUseEarlier)) {
+            if (!at_.person.agrees(kConfirmUse)) return;
+            importEarlier(earlier);
+            imported = true;
+            removeEarlier(earlier, literal);
+        } else if (at_.person.agrees(kDiscardEarlier) && at_.person.agrees(kConfirmDiscard)) {
+            removeEarlier(earlier, literal);
+        }
+    });
+    return imported;
 }
 
 void Menu::importEarlier(const std::filesystem::path& earlier) {
-    if (!at_.person.agrees(kConfirmUse)) return;
     const CompanyLine* first = firstCompany(companies_);
     if (!first) throw Fault("no company to import into", "Não há empresa para receber os dados.");
     const auto hold = holdFolder(at_);
     importList(earlier, first->key().value());
-    at_.files.remove(earlier);
 }
 
 void Menu::importList(const std::filesystem::path& earlier, const CompanyCode& company) {
@@ -221,21 +238,37 @@ void Menu::importList(const std::filesystem::path& earlier, const CompanyCode& c
     if (lines != list.load()) list.save(lines, at_.clock.now());
 }
 
-void Menu::discardEarlier(const std::filesystem::path& earlier) {
-    if (at_.person.agrees(kDiscardEarlier) && at_.person.agrees(kConfirmDiscard))
-        at_.files.remove(earlier);
+/// Notes first that the list is dealt with, so that it is not asked about again should it be
+/// impossible to delete it.
+void Menu::removeEarlier(const std::filesystem::path& earlier, std::string_view literal) {
+    const auto hold = holdFolder(at_);
+    RecordFile note(at_.store(), kEarlierNoteName);
+    auto noted = note.values();
+    if (std::ranges::find(noted, literal) == noted.end()) note.append(literal);
+    at_.files.remove(earlier);
+    std::erase(noted, literal);
+    if (noted.empty())
+        at_.files.remove(note.path());
+    else
+        note.rewriteValues(noted);
 }
 
-void Menu::openHelp() {
-    winvrx::openHelp(at_, browser_);
+/// What could not be deleted when the operator decided on it goes as soon as it can.
+void Menu::removeEarlierQuietly(const std::filesystem::path& earlier, std::string_view literal) {
+    try {
+        removeEarlier(earlier, literal);
+    } catch (const std::exception& fault) {
+        at_.log.write(std::string("earlier data stays: ") + fault.what());
+    }
 }
 
 void Menu::exit() {
-    (void)attempt(at_, kFailure, [this] {
-        removeHeld(at_.session.folder.file(kSelectedMonthName));
-        removeHeld(at_.session.folder.file(kStartMemoryName));
-        removeHeld(localFolder(kDefaultDrive) / kStartMemoryName);
-    });
+    usedFolders_.insert(localFolder(kDefaultDrive));
+    for (const std::filesystem::path& folder : usedFolders_)
+        (void)attempt(at_, kFailure, [&] {
+            removeHeld(folder / kSelectedMonthName);
+            removeHeld(folder / kStartMemoryName);
+        });
 }
 
 }  // namespace winvrx

@@ -10,13 +10,15 @@
 namespace winvrx::testing {
 
 /// A disk in memory. Every operation on a file named in `failOn` fails; a file named in
-/// `failWritesOn` can be read but not written, as on a full disk.
+/// `failWritesOn` can be read but not written, as on a full disk, and one named in `failRemovesOn`
+/// cannot be deleted.
 class MemoryFiles final : public FileSystem {
   public:
     std::map<std::filesystem::path, std::string> content;
     std::set<std::string> failOn;
     std::set<std::filesystem::path> folders;
     std::set<std::string> failWritesOn;
+    std::set<std::string> failRemovesOn;
     std::map<std::filesystem::path, std::chrono::nanoseconds> times;
     mutable int listings = 0;  ///< how often a folder was listed
     mutable int reads = 0;
@@ -91,7 +93,9 @@ class MemoryFiles final : public FileSystem {
     void check(FileFault::Operation operation, const std::filesystem::path& file) const {
         const std::string name = file.filename().string();
         const bool write = operation == FileFault::Operation::Write;
-        if (failOn.contains(name) || (write && failWritesOn.contains(name)))
+        const bool remove = operation == FileFault::Operation::Remove;
+        if (failOn.contains(name) || (write && failWritesOn.contains(name)) ||
+            (remove && failRemovesOn.contains(name)))
             throw FileFault(operation, file, std::make_error_code(std::errc::no_space_on_device));
     }
 

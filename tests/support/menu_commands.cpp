@@ -28,9 +28,8 @@ template <typename Next>
 auto inMenu(Next next) {
     return [next](const Workplace& at, const Drives& drives) {
         OnlyCopy instance;
-        TestBrowser browser;
-        Menu menu(at, drives, instance, browser, "/opt/winvrx");
-        if (!menu.start()) return false;
+        Menu menu(at, drives, instance, "/opt/winvrx");
+        menu.load();
         next(menu);
         return true;
     };

@@ -2,6 +2,7 @@
 
 #include "foundation/copies/safety_copies.h"
 #include "foundation/files/durable_files.h"
+#include "foundation/menu/menu.h"
 
 #include <ostream>
 #include <stdexcept>
@@ -103,16 +104,18 @@ MemoryDisk::Files placed(const FileTable& files, const path& root) {
     return all;
 }
 
-/// The mark of a move that is under way is no record: the next one that writes the list removes it.
-bool isTransferMark(const path& file) {
-    return file.filename().string().find(kTransferStem) == CompanyCode::kDigits;
+/// The mark of what is under way is no record: that of a move goes with the next one that writes
+/// the list, that of earlier data with these.
+bool isMark(const path& file) {
+    return file.filename().string().find(kTransferStem) == CompanyCode::kDigits ||
+           file.filename() == kEarlierNoteName;
 }
 
 FileTable recordsOf(const MemoryDisk::Files& files, const path& root) {
     FileTable table;
     for (const auto& [file, bytes] : files)
         if (!file.string().ends_with(kLockSuffix) &&
-            file.parent_path().filename() != kCopiesSubfolder && !isTransferMark(file))
+            file.parent_path().filename() != kCopiesSubfolder && !isMark(file))
             table[file.lexically_relative(root).generic_string()] = bytes;
     return table;
 }

@@ -5,6 +5,7 @@
 #include <QStorageInfo>
 
 #include <algorithm>
+#include <utility>
 
 namespace winvrx {
 
@@ -29,7 +30,22 @@ std::filesystem::path userDrive() {
 
 }  // namespace
 
-std::map<char, std::filesystem::path> SystemDrives::all() {
+std::map<char, std::filesystem::path> VolumeLetters::of(
+    std::vector<std::filesystem::path> mountPoints) {
+    std::ranges::sort(mountPoints);
+    for (const auto& mountPoint : mountPoints)
+        if (std::ranges::find(known_, mountPoint) == known_.end()) known_.push_back(mountPoint);
+    std::map<char, std::filesystem::path> drives;
+    char letter = kDefaultDrive;
+    for (const auto& mountPoint : known_) {
+        if (letter == 'Z') break;
+        ++letter;
+        if (std::ranges::binary_search(mountPoints, mountPoint)) drives[letter] = mountPoint;
+    }
+    return drives;
+}
+
+std::map<char, std::filesystem::path> SystemDrives::all() const {
     std::map<char, std::filesystem::path> drives;
 #ifdef Q_OS_WIN
     for (const QFileInfo& drive : QDir::drives()) {
@@ -37,15 +53,12 @@ std::map<char, std::filesystem::path> SystemDrives::all() {
         drives[path.front()] = path;
     }
 #else
-    drives[kDefaultDrive] = userDrive();
-    QStringList mountPoints;
+    std::vector<std::filesystem::path> mountPoints;
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes())
         if (volume.isValid() && volume.isReady() && isRemovable(volume.rootPath()))
-            mountPoints.append(volume.rootPath());
-    std::sort(mountPoints.begin(), mountPoints.end());
-    char letter = kDefaultDrive;
-    for (const QString& mountPoint : mountPoints)
-        if (letter < 'Z') drives[++letter] = mountPoint.toStdString();
+            mountPoints.emplace_back(volume.rootPath().toStdString());
+    drives = letters_.of(std::move(mountPoints));
+    drives[kDefaultDrive] = userDrive();
 #endif
     return drives;
 }

@@ -1,6 +1,7 @@
 #include "foundation/menu/desktop/menu_window.h"
 
 #include "foundation/menu/desktop/command_tile.h"
+#include "foundation/menu/desktop/company_list.h"
 #include "foundation/menu/desktop/month_view.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"
@@ -10,6 +11,7 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -37,6 +39,15 @@ QFrame* sidePanel(QWidget* parent) {
     return frame;
 }
 
+/// For what only informs: a failure is logged, and leaves it out.
+void attemptQuietly(Log& log, const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const std::exception& fault) {
+        log.write(std::string("state of the commands: ") + fault.what());
+    }
+}
+
 QString dayLine(Date date) {
     return toQt(weekdayShort(weekdayOf(date))) + QStringLiteral(", ") +
            QString::number(dayNumber(date)) + QStringLiteral(" de ") +
@@ -46,12 +57,12 @@ QString dayLine(Date date) {
 }  // namespace
 
 MenuWindow::MenuWindow(Menu& menu, const Workplace& at, const MonthCalendar& calendar,
-                       std::vector<MenuEntry> entries, NextStep nextStep)
+                       MenuEntries entries, ProgressOfMonth progress)
     : menu_(menu),
       at_(at),
       calendar_(calendar),
       entries_(std::move(entries)),
-      nextStep_(std::move(nextStep)) {
+      progress_(std::move(progress)) {
     setObjectName(QStringLiteral("menu"));
     setWindowTitle(QStringLiteral("Winvrx"));
     auto* frame = new QVBoxLayout(this);
@@ -97,7 +108,7 @@ QWidget* MenuWindow::buildCompanies() {
     search_ =
         new SearchBox(QStringLiteral("menu.search"), QStringLiteral("Pesquisar empresa…"), side);
     column->addWidget(search_);
-    companies_ = new QListWidget(side);
+    companies_ = new CompanyList(side);
     look::name(*companies_, QStringLiteral("menu.companies"), QStringLiteral("Lista de empresas"));
     companies_->setFrameShape(QFrame::NoFrame);
     companies_->setTextElideMode(Qt::ElideRight);
@@ -129,6 +140,7 @@ QWidget* MenuWindow::buildCommands() {
     auto* column = new QVBoxLayout(content);
     column->setContentsMargins(0, 0, look::kGap, 0);
     column->setSpacing(look::kGap);
+    tiles_.resize(entries_.size());
     QStringList groups;
     for (const MenuEntry& entry : entries_)
         if (!groups.contains(entry.group)) groups.append(entry.group);
@@ -147,23 +159,24 @@ void MenuWindow::addGroup(QVBoxLayout& column, const QString& group) {
     grid->setSpacing(look::kGap);
     for (int i = 0; i < kTilesInRow; ++i)
         grid->setColumnStretch(i, 1);
-    for (const MenuEntry& entry : entries_)
-        if (entry.group == group) addTile(*grid, entry);
+    for (std::size_t i = 0; i < entries_.size(); ++i)
+        if (entries_[i].group == group) tiles_[i] = addTile(*grid, entries_[i]);
     column.addLayout(grid);
 }
 
-void MenuWindow::addTile(QGridLayout& grid, const MenuEntry& entry) {
+CommandTile* MenuWindow::addTile(QGridLayout& grid, const MenuEntry& entry) {
     auto* tile = new CommandTile(entry.objectName, entry.icon, entry.title,
                                  entry.key.toString(QKeySequence::NativeText), this);
     tile->setEnabled(static_cast<bool>(entry.open));
-    tiles_[entry.command] = tile;
     const int count = grid.count();
     grid.addWidget(tile, count / kTilesInRow, count % kTilesInRow);
-    if (!entry.open) return;
+    if (!entry.open) return tile;
     connect(tile, &CommandTile::clicked, this, [this, entry] { open(entry); });
-    if (entry.key.isEmpty()) return;
-    auto* shortcut = new QShortcut(entry.key, this);
-    connect(shortcut, &QShortcut::activated, tile, &CommandTile::click);
+    if (!entry.key.isEmpty()) {
+        auto* shortcut = new QShortcut(entry.key, this);
+        connect(shortcut, &QShortcut::activated, tile, &CommandTile::click);
+    }
+    return tile;
 }
 
 QWidget* MenuWindow::buildOverview() {
@@ -229,15 +242,17 @@ QWidget* MenuWindow::buildBackup() {
 }
 
 bool MenuWindow::start() {
-    today_->setText(QStringLiteral("Aguarde..."));
-    if (!menu_.start()) return false;
+    if (!menu_.claimRun()) return false;
     started_ = true;
+    today_->setText(toQt(dateText(at_.clock.today())) + QStringLiteral(" · Aguarde..."));
+    show();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    menu_.load();
     for (const ShiftFilter filter : kMenuShiftFilters)
         shift_->addItem(toQt(codeOf(filter)));
     shift_->setCurrentText(toQt(codeOf(ShiftFilter::Todos)));
     fillCompanies();
     refresh();
-    show();
     menu_.offerEarlierData();
     refresh();
     return true;
@@ -248,6 +263,7 @@ void MenuWindow::refresh() {
     companyName_->setText(company ? toQt(company->record.code + "  " + company->record.name)
                                   : QStringLiteral("Selecione uma empresa"));
     today_->setText(dayLine(at_.clock.today()));
+    showCompany();
     showOverview();
     showTiles();
     showDrive();
@@ -264,9 +280,18 @@ void MenuWindow::fillCompanies() {
         }
         item->setToolTip(item->text());
         companies_->addItem(item);
-        if (menu_.selected() == &line) companies_->setCurrentItem(item);
+        if (menu_.selected() == &line)
+            companies_->setCurrentItem(item, QItemSelectionModel::NoUpdate);
     }
     filterCompanies(search_->text());
+}
+
+/// Highlights the company in use, and no other.
+void MenuWindow::showCompany() {
+    companies_->clearSelection();
+    for (std::size_t i = 0; i < menu_.companies().size(); ++i)
+        if (menu_.selected() == &menu_.companies()[i])
+            companies_->item(static_cast<int>(i))->setSelected(true);
 }
 
 void MenuWindow::filterCompanies(const QString& wanted) {
@@ -279,7 +304,7 @@ void MenuWindow::filterCompanies(const QString& wanted) {
     }
     const QListWidgetItem* current = companies_->currentItem();
     if (!wanted.isEmpty() && (!current || current->isHidden()))
-        companies_->setCurrentItem(firstShown);
+        companies_->setCurrentItem(firstShown, QItemSelectionModel::NoUpdate);
 }
 
 void MenuWindow::selectCompany() {
@@ -306,11 +331,16 @@ void MenuWindow::showOverview() {
 }
 
 void MenuWindow::showTiles() {
-    const auto next = nextStep_();
-    for (const MenuEntry& entry : entries_) {
-        CommandTile* tile = tiles_.at(entry.command);
-        tile->setStateLine(entry.state ? entry.state() : QString());
-        tile->setNext(next == entry.command);
+    std::optional<MonthProgress> progress;
+    attemptQuietly(at_.log, [&] { progress = progress_(); });
+    for (std::size_t i = 0; i < entries_.size(); ++i) {
+        const MenuEntry& entry = entries_[i];
+        QString line;
+        attemptQuietly(at_.log, [&] {
+            if (entry.state) line = entry.state(progress ? &*progress : nullptr);
+        });
+        tiles_[i]->setStateLine(line);
+        tiles_[i]->setNext(progress && entry.step == progress->next);
     }
 }
 
@@ -326,12 +356,10 @@ void MenuWindow::showDrive() {
 }
 
 void MenuWindow::open(const MenuEntry& entry) {
-    if (!menu_.mayOpen(entry.command)) return;
+    if (!menu_.require(entry.needs)) return;
     entry.open(this);
-    if (entry.command == MenuCommand::Companies || entry.command == MenuCommand::Restore) {
-        menu_.reloadCompanies();
-        fillCompanies();
-    }
+    menu_.reloadCompanies();
+    fillCompanies();
     refresh();
 }
 

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "foundation/menu/desktop/menu_entry.h"
+#include "foundation/desk/desktop/menu_entry.h"
 #include "foundation/menu/menu.h"
 #include "foundation/menu/month_calendar.h"
 
 #include <QWidget>
 
-#include <map>
+#include <functional>
+#include <optional>
 #include <vector>
 
 class QComboBox;
@@ -16,6 +17,9 @@ class QListWidget;
 class QVBoxLayout;
 
 namespace winvrx {
+
+/// How far the month is; nullopt when no company is selected or its files cannot be read.
+using ProgressOfMonth = std::function<std::optional<MonthProgress>()>;
 
 class CommandTile;
 class MonthView;
@@ -27,8 +31,8 @@ class MenuWindow : public QWidget {
     Q_OBJECT
 
   public:
-    MenuWindow(Menu& menu, const Workplace& at, const MonthCalendar& calendar,
-               std::vector<MenuEntry> entries, NextStep nextStep);
+    MenuWindow(Menu& menu, const Workplace& at, const MonthCalendar& calendar, MenuEntries entries,
+               ProgressOfMonth progress);
 
     /// Start-up with its messages. False when the program is to end at once.
     [[nodiscard]] bool start();
@@ -47,9 +51,10 @@ class MenuWindow : public QWidget {
     [[nodiscard]] QWidget* buildDataFolder();
     [[nodiscard]] QWidget* buildBackup();
     void addGroup(QVBoxLayout& column, const QString& group);
-    void addTile(QGridLayout& grid, const MenuEntry& entry);
+    [[nodiscard]] CommandTile* addTile(QGridLayout& grid, const MenuEntry& entry);
 
     void fillCompanies();
+    void showCompany();
     void filterCompanies(const QString& wanted);
     void selectCompany();
     void showOverview();
@@ -60,8 +65,8 @@ class MenuWindow : public QWidget {
     Menu& menu_;
     Workplace at_;
     const MonthCalendar& calendar_;
-    std::vector<MenuEntry> entries_;
-    NextStep nextStep_;
+    MenuEntries entries_;
+    ProgressOfMonth progress_;
     bool started_ = false;
 
     QLabel* companyName_ = nullptr;
@@ -75,7 +80,7 @@ class MenuWindow : public QWidget {
     QLabel* notices_ = nullptr;
     QComboBox* drive_ = nullptr;
     QLabel* folder_ = nullptr;
-    std::map<MenuCommand, CommandTile*> tiles_;
+    std::vector<CommandTile*> tiles_;  ///< of the entries, in their order
 };
 
 }  // namespace winvrx

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QColor>
+#include "foundation/widgets/desktop/colors.h"
+
 #include <QFont>
 #include <QIcon>
-#include <QPalette>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -31,19 +31,6 @@ inline constexpr int kTileIcon = 32;
 inline constexpr QSize kWindowSize(1240, 690);
 /// What a window with a short list and a few fields opens with.
 inline constexpr QSize kSmallWindowSize(860, 480);
-
-/// Named colours; each has a light and a dark value of at least 4.5 : 1 on its ground. A colour
-/// never speaks alone: a word or a sign stands beside it.
-enum class Tint { Accent, Holiday, RestDay, Leave, Absence, Warning, Good, Quiet };
-
-/// Foreground of the tint under this palette.
-[[nodiscard]] QColor color(Tint tint, const QPalette& palette);
-/// A light wash of the tint, to lie behind text of the palette's own colour.
-[[nodiscard]] QColor wash(Tint tint, const QPalette& palette);
-[[nodiscard]] bool isDark(const QPalette& palette);
-
-[[nodiscard]] QPalette lightPalette();
-[[nodiscard]] QPalette darkPalette();
 
 /// Style, palette and style sheet of the whole program. Follows the desktop's choice of light or
 /// dark unless `palette` says otherwise.

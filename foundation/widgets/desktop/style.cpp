@@ -1,6 +1,6 @@
 #include "foundation/widgets/desktop/style.h"
 
-#include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/colors.h"
 
 #include <QPainter>
 #include <QStyleFactory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/colors.h"
 
 #include <QByteArray>
 #include <QIconEngine>

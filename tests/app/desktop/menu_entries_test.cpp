@@ -1,5 +1,6 @@
 #include "app/menu_entries.h"
 
+#include "foundation/copies/safety_copies.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "tests/support/employee_desk.h"
 #include "tests/support/plain_archiver.h"
@@ -14,10 +15,6 @@
 namespace winvrx {
 namespace {
 
-struct OnlyCopy final : SingleInstance {
-    bool claim() override { return true; }
-};
-
 TEST(MenuEntries, NoTwoTilesShareAKeyALetterOrAName) {
     testing::TestWorkplace desk;
     testing::TestBrowser browser;
@@ -25,13 +22,10 @@ TEST(MenuEntries, NoTwoTilesShareAKeyALetterOrAName) {
     testing::RecordingEngine engine;
     const testing::PlainArchiver archiver;
     SafetyCopies copies(desk.files, archiver, desk.log);
-    OnlyCopy instance;
-    const testing::FolderDrives drives("/data");
-    Menu menu(desk.at, drives, instance, browser, "/opt/winvrx");
     testing::TestPrinters printers;
-    Screens screens(desk.at, browser, editor, {engine, printers, {}}, copies);
     std::map<std::string, std::vector<std::string>> owners;
-    for (const MenuEntry& entry : menuEntries(menu, screens)) {
+    for (const MenuEntry& entry :
+         menuEntries(desk.at, {browser, engine, printers, {}}, editor, copies)) {
         const std::string name = toUtf8(entry.objectName);
         owners["name " + name].push_back(name);
         if (!entry.key.isEmpty()) owners["key " + toUtf8(entry.key.toString())].push_back(name);

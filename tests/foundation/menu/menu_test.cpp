@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
+
 namespace winvrx {
 namespace {
 
@@ -27,10 +29,6 @@ struct OnlyCopy final : SingleInstance {
     bool claim() override { return free; }
 };
 
-struct NoBrowser final : Browser {
-    bool openHelp() override { return false; }
-};
-
 const std::string kOnC = "/c/Users/Public/Documents/Winvrx/";
 const std::string kOnD = "/d/Users/Public/Documents/Winvrx/";
 const std::string kEarlier = "/c/Arquivos de programas/Winvrx/CartaPonto";
@@ -40,11 +38,10 @@ class MenuTest : public ::testing::Test {
     TestWorkplace desk;
     TwoDrives drives;
     OnlyCopy instance;
-    NoBrowser browser;
 
     Menu menu(std::string programFolder = "/opt/winvrx") {
         desk.session = Session{};
-        return {desk.at, drives, instance, browser, std::move(programFolder)};
+        return {desk.at, drives, instance, std::move(programFolder)};
     }
     std::string contentOf(const std::string& path) {
         const auto found = desk.files.content.find(path);
@@ -54,14 +51,14 @@ class MenuTest : public ::testing::Test {
 
 TEST_F(MenuTest, SecondCopyEndsAndTouchesNothing) {
     instance.free = false;
-    EXPECT_FALSE(menu().start());
+    EXPECT_FALSE(menu().claimRun());
     EXPECT_THAT(desk.person.takeTexts(), ElementsAre("O Aplicativo Já está Aberto!"));
     EXPECT_THAT(desk.files.content, IsEmpty());
 }
 
 TEST_F(MenuTest, EmptyFolderYieldsTheSampleCompanyAndTheDriveLetter) {
     Menu started = menu();
-    ASSERT_TRUE(started.start());
+    started.load();
     EXPECT_EQ(contentOf(kOnC + "LocMen.lvc"), "C\r\n");
     ASSERT_EQ(started.companies().size(), 1U);
     EXPECT_EQ(started.companies()[0].record.name, "EMPRESA MODELO LTDA");
@@ -81,7 +78,7 @@ TEST_F(MenuTest, DriveLetterIsReadBack) {
           Case{"Q\r\n", 'C', true}}) {
         desk.files.content = {{kOnC + "LocMen.lvc", one.memory}};
         Menu started = menu();
-        ASSERT_TRUE(started.start());
+        started.load();
         EXPECT_EQ(desk.session.folder.driveLetter(), one.expected) << one.memory;
         EXPECT_EQ(desk.person.takeTexts().size(), one.told ? 1U : 0U) << one.memory;
         EXPECT_EQ(contentOf(kOnD + "01Empresa") != "(missing)", one.expected == 'D');
@@ -91,15 +88,17 @@ TEST_F(MenuTest, DriveLetterIsReadBack) {
 TEST_F(MenuTest, ShareInUseOrNotFound) {
     desk.files.folders = {"//server/office"};
     Menu onShare = menu("\\\\server\\office");
-    ASSERT_TRUE(onShare.start());
+    onShare.load();
     EXPECT_EQ(desk.session.folder.path(), "//server/office/Winvrx/");
     EXPECT_TRUE(desk.files.content.contains("//server/office/Winvrx/01Empresa"));
 
     desk.files.content.clear();
     desk.files.folders.clear();
+    // Also told once only when the letter on record leads on to another drive.
+    desk.files.content[kOnC + "LocMen.lvc"] = "D\r\n";
     Menu cutOff = menu("\\\\server\\office");
-    ASSERT_TRUE(cutOff.start());
-    EXPECT_EQ(desk.session.folder.path(), kOnC);
+    cutOff.load();
+    EXPECT_EQ(desk.session.folder.path(), kOnD);
     ASSERT_EQ(desk.person.shown.size(), 1U);
     EXPECT_EQ(desk.person.shown[0].title, "Aviso Diretório de Rede");
     EXPECT_EQ(desk.person.shown[0].text, "Diretório de Rede Não Encontrado, ou Rede Desconectada!");
@@ -108,7 +107,7 @@ TEST_F(MenuTest, ShareInUseOrNotFound) {
 
 TEST_F(MenuTest, SelectingClearsTheWorkMonthEvenTwice) {
     Menu started = menu();
-    ASSERT_TRUE(started.start());
+    started.load();
     for (int click = 0; click < 2; ++click) {
         desk.files.content[kOnC + "DataIde.ivc"] = "03-2024\r\nTodos\r\n";
         started.select(0);
@@ -119,24 +118,43 @@ TEST_F(MenuTest, SelectingClearsTheWorkMonthEvenTwice) {
 
 TEST_F(MenuTest, GuardsRunInOrder) {
     Menu started = menu();
-    ASSERT_TRUE(started.start());
-    for (const auto command : {MenuCommand::Companies, MenuCommand::Backup, MenuCommand::Help})
-        EXPECT_TRUE(started.mayOpen(command));
-    EXPECT_FALSE(started.mayOpen(MenuCommand::TimeCard));
-    EXPECT_FALSE(started.mayOpen(MenuCommand::Employees));
+    started.load();
+    EXPECT_TRUE(started.require(MenuNeeds::Nothing));
+    EXPECT_FALSE(started.require(MenuNeeds::Employees));
+    EXPECT_FALSE(started.require(MenuNeeds::Company));
     EXPECT_THAT(desk.person.takeTexts(),
                 ElementsAre("Cadastre Primeiro Uma Empresa!!", "Cadastre Primeiro Uma Empresa!!"));
     started.select(0);
-    EXPECT_TRUE(started.mayOpen(MenuCommand::Employees));
-    EXPECT_TRUE(started.mayOpen(MenuCommand::WorkMonth));
-    for (const auto command : {MenuCommand::TimeCard, MenuCommand::PrintCards,
-                               MenuCommand::CardSheet, MenuCommand::Labels, MenuCommand::Payroll})
-        EXPECT_FALSE(started.mayOpen(command));
-    EXPECT_EQ(desk.person.shown.size(), 5U);
-    EXPECT_EQ(desk.person.takeTexts()[0],
-              "Não há Dados de Funcionários! Cadastre pelo menos um Funcionário.");
+    EXPECT_TRUE(started.require(MenuNeeds::Company));
+    EXPECT_FALSE(started.require(MenuNeeds::Employees));
+    EXPECT_THAT(desk.person.takeTexts(),
+                ElementsAre("Não há Dados de Funcionários! Cadastre pelo menos um Funcionário."));
     desk.files.content[kOnC + "01CartaPonto"] = "001 ANA\r\n";
-    EXPECT_TRUE(started.mayOpen(MenuCommand::TimeCard));
+    EXPECT_TRUE(started.require(MenuNeeds::Employees));
+}
+
+/// What fails on the way leaves drive and company as they were.
+TEST_F(MenuTest, AFailedSelectionOrMoveChangesNothing) {
+    struct Case {
+        const char* failing;
+        std::function<void(Menu&)> command;
+    };
+    for (const Case& one : {Case{"DataIde.ivc", [](Menu& menu) { menu.select(1); }},
+                            Case{"LocMen.lvc", [](Menu& menu) { menu.useDrive('D'); }},
+                            Case{"", [](Menu& menu) { menu.useDrive('Q'); }}}) {
+        desk.files.content = {{kOnC + "01Empresa", "01 UM\r\n02 DOIS\r\n"}};
+        Menu started = menu();
+        started.load();
+        started.select(0);
+        desk.files.content[kOnC + "DataIde.ivc"] = "03-2024\r\n";
+        desk.files.failOn = {one.failing};
+        one.command(started);
+        desk.files.failOn.clear();
+        EXPECT_EQ(desk.session.company->text(), "01") << one.failing;
+        EXPECT_EQ(desk.session.folder.path(), kOnC) << one.failing;
+        EXPECT_EQ(contentOf(kOnC + "DataIde.ivc"), "03-2024\r\n") << one.failing;
+        EXPECT_EQ(desk.person.takeTexts().size(), 1U) << one.failing;
+    }
 }
 
 TEST_F(MenuTest, EarlierDataEveryBranch) {
@@ -152,7 +170,7 @@ TEST_F(MenuTest, EarlierDataEveryBranch) {
         desk.files.content = {{kEarlier, "001 JOSÉ\r\n\r\nqualquer\r\n"},
                               {kOnC + "01CartaPonto", "009 ANTES\r\n"}};
         Menu started = menu();
-        ASSERT_TRUE(started.start());
+        started.load();
         desk.person.answers = one.answers;
         started.offerEarlierData();
         EXPECT_THAT(desk.person.answers, IsEmpty());
@@ -168,21 +186,74 @@ TEST_F(MenuTest, EarlierDataEveryBranch) {
     }
 }
 
-TEST_F(MenuTest, ExitLeavesNeitherLetterNorMonth) {
+/// A list that was taken over and could not be deleted is not asked about again, nor does it ever
+/// replace what was typed since. An older one is asked about only when the newer was not taken.
+TEST_F(MenuTest, EarlierDataIsDealtWithOnce) {
+    const std::string second = "/c/Program Files/Winvrx/CartaPonto";
+    const std::size_t asksToImport = 2;
+    const std::size_t asksToDiscard = 3;
+    struct Case {
+        std::deque<Answer> answers;
+        bool stuck;  ///< the lists cannot be deleted
+        std::size_t told;
+        std::size_t toldNextTime;  ///< of the older list, which is there yet: nothing is taken
+    };
+    const Answer yes = Answer::Yes, no = Answer::No, ok = Answer::Ok;
+    for (const Case& one :
+         {Case{{yes, ok}, false, asksToImport, 2}, Case{{yes, ok}, true, asksToImport + 1, 2},
+          Case{{no, ok, ok, yes, ok}, false, asksToDiscard + asksToImport, 0},
+          Case{{no, ok, ok, no, ok, ok}, true, 2 * (asksToDiscard + 1), 0}}) {
+        SCOPED_TRACE(::testing::PrintToString(one.answers));
+        desk.files.content = {{kEarlier, "001 JOSÉ\r\n"}, {second, "002 ANA\r\n"}};
+        Menu started = menu();
+        started.load();
+        desk.person.answers = one.answers;
+        if (one.stuck) desk.files.failRemovesOn = {"CartaPonto"};
+        started.offerEarlierData();
+        EXPECT_EQ(desk.person.takeTexts().size(), one.told);
+        desk.files.content[kOnC + "01CartaPonto"] = "009 DEPOIS\r\n";
+        Menu next = menu();
+        next.load();
+        next.offerEarlierData();
+        EXPECT_EQ(desk.person.takeTexts().size(), one.toldNextTime);
+        EXPECT_EQ(contentOf(kOnC + "01CartaPonto"), "009 DEPOIS\r\n");
+        EXPECT_EQ(contentOf(kOnC + "BaseAnterior") != "(missing)", one.stuck);
+        desk.files.failRemovesOn.clear();
+    }
+}
+
+/// Whoever may not write on the local disk still works on the share.
+TEST_F(MenuTest, AShareNeedsNoRightsToTheLocalFolder) {
+    desk.files.folders = {"//server/office"};
+    desk.files.failOn = {"LocMen.lvc"};
+    Menu onShare = menu("\\\\server\\office");
+    onShare.load();
+    EXPECT_EQ(desk.session.folder.path(), "//server/office/Winvrx/");
+    EXPECT_EQ(onShare.companies().size(), 1U);
+    EXPECT_THAT(desk.person.takeTexts(), IsEmpty());
+}
+
+TEST_F(MenuTest, ExitLeavesTheFilesOfTheRunInNoFolderItUsed) {
     desk.files.content[kOnC + "LocMen.lvc"] = "D\r\n";
     Menu started = menu();
-    ASSERT_TRUE(started.start());
-    desk.files.content[kOnD + "DataIde.ivc"] = "03-2024\r\n";
+    started.load();
+    for (const std::string& folder : {kOnC, kOnD}) {
+        desk.files.content[folder + "DataIde.ivc"] = "03-2024\r\n";
+        desk.files.content[folder + "LocMen.lvc"] = "D\r\n";
+    }
+    started.useDrive('C');
     started.exit();
-    EXPECT_EQ(contentOf(kOnC + "LocMen.lvc"), "(missing)");
-    EXPECT_EQ(contentOf(kOnD + "DataIde.ivc"), "(missing)");
-    EXPECT_NE(contentOf(kOnD + "01Empresa"), "(missing)");
+    for (const std::string& folder : {kOnC, kOnD}) {
+        EXPECT_EQ(contentOf(folder + "LocMen.lvc"), "(missing)");
+        EXPECT_EQ(contentOf(folder + "DataIde.ivc"), "(missing)");
+        EXPECT_NE(contentOf(folder + "01Empresa"), "(missing)");
+    }
 }
 
 TEST_F(MenuTest, ADamagedDiskIsToldAndTheRunGoesOn) {
     desk.files.failOn = {"LocMen.lvc", "01Empresa"};
     Menu started = menu();
-    EXPECT_TRUE(started.start());
+    started.load();
     EXPECT_THAT(started.companies(), IsEmpty());
     EXPECT_EQ(desk.person.takeTexts().size(), 2U);
     EXPECT_EQ(desk.log.entries.size(), 2U);

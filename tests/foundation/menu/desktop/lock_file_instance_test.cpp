@@ -1,5 +1,6 @@
 #include "foundation/menu/desktop/lock_file_instance.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -43,6 +44,21 @@ TEST(LockFileInstance, RefusesASecondCopyUntilTheFirstIsGoneHoweverItEnds) {
     ASSERT_EQ(::kill(first, SIGKILL), 0);
     ASSERT_EQ(::waitpid(first, nullptr, 0), first);
     EXPECT_TRUE(LockFileInstance(path).claim());
+}
+
+/// A power cut between making and filling the file leaves it empty.
+TEST(LockFileInstance, AFileThatNamesNobodyLocksNobodyOut) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("winvrx.lock"));
+    for (const char* left : {"", "\n", "12"}) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(left);
+        file.close();
+        LockFileInstance first(path);
+        EXPECT_TRUE(first.claim()) << left;
+        EXPECT_FALSE(LockFileInstance(path).claim()) << left;
+    }
 }
 
 TEST(LockFileInstance, AFolderThatTakesNoLockDoesNotKeepTheProgramOut) {

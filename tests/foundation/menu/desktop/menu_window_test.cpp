@@ -2,13 +2,14 @@
 
 #include "foundation/files/desktop/system_drives.h"
 #include "foundation/menu/desktop/command_tile.h"
-#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 #include "tests/support/window_driver.h"
 
 #include <QListWidget>
 
 #include <gmock/gmock.h>
+
+#include <stdexcept>
 
 namespace winvrx {
 namespace {
@@ -46,35 +47,51 @@ class MenuWindowTest : public ::testing::Test {
         desk_.files.content[kFolder + "01Empresa"] = lines;
     }
 
-    std::vector<MenuEntry> entries() {
+    MenuEntries entries() {
         const auto opens = [this](const char* name) {
             return [this, name](QWidget*) { opened_.emplace_back(name); };
         };
         const QString group = QStringLiteral("Cadastros");
-        return {
-            {MenuCommand::Employees, group, QStringLiteral("menu.employees.open"),
-             QStringLiteral("employees"), QStringLiteral("&Funcionários"), Qt::Key_F3,
-             opens("employees"), nullptr},
-            {MenuCommand::TimeCard, group, QStringLiteral("menu.timecard.open"),
-             QStringLiteral("card"), QStringLiteral("&Dados"), Qt::Key_F5, opens("card"), nullptr},
-            {MenuCommand::Leaves,
-             group,
-             QStringLiteral("menu.leaves.open"),
-             QStringLiteral("leave"),
-             QStringLiteral("Afastamentos"),
-             {},
-             nullptr,
-             nullptr}};
+        return {{.group = group,
+                 .objectName = QStringLiteral("menu.employees.open"),
+                 .icon = QStringLiteral("employees"),
+                 .title = QStringLiteral("&Funcionários"),
+                 .key = Qt::Key_F3,
+                 .needs = MenuNeeds::Company,
+                 .open = opens("employees"),
+                 .state = [](const MonthProgress* progress) -> QString {
+                     if (!progress) throw std::runtime_error("no progress");
+                     return QString::number(progress->employees);
+                 }},
+                {.group = group,
+                 .objectName = QStringLiteral("menu.timecard.open"),
+                 .icon = QStringLiteral("card"),
+                 .title = QStringLiteral("&Dados"),
+                 .key = Qt::Key_F5,
+                 .needs = MenuNeeds::Employees,
+                 .open = opens("card")},
+                {.group = group,
+                 .objectName = QStringLiteral("menu.leaves.open"),
+                 .icon = QStringLiteral("leave"),
+                 .title = QStringLiteral("Afastamentos")}};
+    }
+
+    std::optional<MonthProgress> progress() {
+        ++progressAsked_;
+        if (!desk_.session.company) return std::nullopt;
+        MonthProgress progress;
+        progress.employees = 12;
+        return progress;
     }
 
     testing::TestWorkplace desk_;
     FolderDrives drives_{"/c"};
     OnlyCopy instance_;
-    testing::TestBrowser browser_;
     NoticesOf calendar_;
-    Menu menu_{desk_.at, drives_, instance_, browser_, "/opt/winvrx"};
+    Menu menu_{desk_.at, drives_, instance_, "/opt/winvrx"};
     std::vector<std::string> opened_;
-    MenuWindow window_{menu_, desk_.at, calendar_, entries(), [] { return std::nullopt; }};
+    int progressAsked_ = 0;
+    MenuWindow window_{menu_, desk_.at, calendar_, entries(), [this] { return progress(); }};
 };
 
 TEST_F(MenuWindowTest, SearchAndEnterSelectACompany) {
@@ -87,6 +104,62 @@ TEST_F(MenuWindowTest, SearchAndEnterSelectACompany) {
     EXPECT_EQ(desk_.session.company->text(), "02");
     EXPECT_FALSE(desk_.files.content.contains(kFolder + "DataIde.ivc"));
     EXPECT_EQ(driver.find<QLabel>("menu.company").text().toStdString(), "02  PADARIA PÃO DE MEL");
+}
+
+/// The highlight says which company the next command works on, whatever the arrows look at.
+TEST_F(MenuWindowTest, TheHighlightIsAlwaysTheCompanyInUse) {
+    ASSERT_TRUE(window_.start());
+    const WindowDriver driver(window_);
+    auto& list = driver.find<QListWidget>("menu.companies");
+    const auto highlighted = [&list] {
+        std::string texts;
+        for (const QListWidgetItem* item : list.selectedItems())
+            texts += item->text().left(2).toStdString();
+        return texts;
+    };
+    EXPECT_EQ(highlighted(), "");
+    menu_.select(0);
+    window_.refresh();
+    EXPECT_EQ(highlighted(), "01");
+    list.setFocus();
+    driver.press(Qt::Key_Down);
+    EXPECT_EQ(list.currentRow(), 1);
+    driver.type("menu.search", "pao mel");
+    EXPECT_EQ(highlighted(), "01");
+    EXPECT_EQ(desk_.session.company->text(), "01");
+    desk_.files.content[kFolder + "DataIde.ivc"] = "03-2024\r\n";
+    desk_.files.failOn = {"DataIde.ivc"};
+    driver.press(Qt::Key_Return);
+    EXPECT_EQ(highlighted(), "01");
+    desk_.files.failOn.clear();
+    driver.press(Qt::Key_Return);
+    EXPECT_EQ(highlighted(), "02");
+    EXPECT_EQ(desk_.session.company->text(), "02");
+}
+
+TEST_F(MenuWindowTest, SaysThatItLoadsBeforeItReads) {
+    std::string seen;
+    desk_.files.content[kFolder + "LocMen.lvc"] = "Q";  // a drive that is missing is told
+    desk_.person.onAsk = [&] {
+        EXPECT_TRUE(window_.isVisible());
+        seen = WindowDriver(window_).find<QLabel>("menu.today").text().toStdString();
+    };
+    ASSERT_TRUE(window_.start());
+    EXPECT_EQ(seen, "15/03/2024 · Aguarde...");
+}
+
+TEST_F(MenuWindowTest, AsksForTheProgressOnceARefreshAndLeavesOutWhatFails) {
+    ASSERT_TRUE(window_.start());
+    const WindowDriver driver(window_);
+    const auto state = [&driver] {
+        return driver.find<CommandTile>("menu.employees.open").accessibleDescription();
+    };
+    EXPECT_EQ(state(), QString());
+    menu_.select(1);
+    progressAsked_ = 0;
+    window_.refresh();
+    EXPECT_EQ(progressAsked_, 1);
+    EXPECT_EQ(state(), QStringLiteral("12"));
 }
 
 TEST_F(MenuWindowTest, ALineWithoutACodeIsShownButCannotBeSelected) {

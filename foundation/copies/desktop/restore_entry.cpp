@@ -1,0 +1,23 @@
+#include "foundation/copies/desktop/restore_entry.h"
+
+#include "foundation/copies/desktop/restaurar_copia_window.h"
+#include "foundation/copies/restaurar_copia.h"
+
+namespace winvrx {
+
+MenuEntry restoreEntry(const Workplace& at, SafetyCopies& copies, Browser& browser) {
+    return {
+        .group = QStringLiteral("Ferramentas"),
+        .objectName = QStringLiteral("menu.restore.open"),
+        .icon = QStringLiteral("restore"),
+        .title = QStringLiteral("&Restaurar Cópia"),
+        .key = Qt::Key_F8,
+        .open =
+            [at, &copies, &browser](QWidget* parent) {
+                RestaurarCopia screen(at, copies, browser);
+                RestaurarCopiaWindow(screen, parent).exec();
+            },
+        .state = [](const MonthProgress*) { return QStringLiteral("Voltar a um dia anterior"); }};
+}
+
+}  // namespace winvrx

@@ -1,0 +1,93 @@
+#include "foundation/register/desktop/register_entries.h"
+
+#include "foundation/desk/desktop/xlsx_spreadsheet.h"
+#include "foundation/register/company_register.h"
+#include "foundation/register/desktop/empregados_window.h"
+#include "foundation/register/desktop/empresa_window.h"
+#include "foundation/register/desktop/turnos_window.h"
+#include "foundation/register/employee_import.h"
+#include "foundation/register/employee_queries.h"
+#include "foundation/register/empregados.h"
+#include "foundation/register/empresa.h"
+#include "foundation/register/turnos.h"
+#include "foundation/values/desktop/qt_text.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+const QString kGroup = QStringLiteral("Cadastros");
+
+QString companiesState(const Workplace& at) {
+    const auto known = std::ranges::count_if(
+        loadCompanies(at.store()), [](const CompanyLine& line) { return line.key().has_value(); });
+    return counted(static_cast<int>(known), "empresa", "empresas");
+}
+
+QString employeesState(const MonthProgress* progress) {
+    if (!progress) return QStringLiteral("Selecione uma empresa");
+    if (progress->employees == 0) return QStringLiteral("Incluir o primeiro");
+    return counted(progress->employees, "funcionário", "funcionários");
+}
+
+MenuEntry companies(const Workplace& at, Browser& browser) {
+    return {.group = kGroup,
+            .objectName = QStringLiteral("menu.companies.open"),
+            .icon = QStringLiteral("company"),
+            .title = QStringLiteral("&Empresas"),
+            .key = Qt::Key_F2,
+            .open =
+                [at, &browser](QWidget* parent) {
+                    Empresa companies(at, browser);
+                    EmpresaWindow(companies, parent).exec();
+                },
+            .state = [at](const MonthProgress*) { return companiesState(at); }};
+}
+
+MenuEntry employees(const Workplace& at, Browser& browser, TextEditor& editor) {
+    return {.group = kGroup,
+            .objectName = QStringLiteral("menu.employees.open"),
+            .icon = QStringLiteral("employees"),
+            .title = QStringLiteral("&Funcionários"),
+            .key = Qt::Key_F3,
+            .needs = MenuNeeds::Company,
+            .open =
+                [at, &browser, &editor](QWidget* parent) {
+                    XlsxSpreadsheet spreadsheet;
+                    const RecordedAnswers records(at.store());
+                    Empregados employees(at, {browser, editor, spreadsheet, records, records});
+                    EmployeeImport import(at);
+                    EmpregadosWindow(employees, import, parent).exec();
+                },
+            .state = employeesState,
+            .step = MonthStep::RegisterEmployees};
+}
+
+MenuEntry shifts(const Workplace& at, Browser& browser) {
+    return {.group = kGroup,
+            .objectName = QStringLiteral("menu.shifts.open"),
+            .icon = QStringLiteral("shifts"),
+            .title = QStringLiteral("&Turnos"),
+            .key = Qt::Key_F9,
+            .needs = MenuNeeds::Employees,
+            .open =
+                [at, &browser](QWidget* parent) {
+                    const RecordedAnswers records(at.store());
+                    Turnos shifts(at, browser, records, records);
+                    TurnosWindow(shifts, parent).exec();
+                },
+            .state =
+                [at](const MonthProgress*) {
+                    return QStringLiteral("Mostrar: ") + toQt(codeOf(at.session.shiftFilter));
+                }};
+}
+
+}  // namespace
+
+MenuEntries registerEntries(const Workplace& at, Browser& browser, TextEditor& editor) {
+    return {companies(at, browser), employees(at, browser, editor), shifts(at, browser)};
+}
+
+}  // namespace winvrx

@@ -1,0 +1,47 @@
+#include "timecard/punches/desktop/time_card_entry.h"
+
+#include "foundation/register/employee_queries.h"
+#include "timecard/month/desktop/month_entry.h"
+#include "timecard/punches/cartao_ponto_dados.h"
+#include "timecard/punches/desktop/cartao_ponto_dados_window.h"
+
+namespace winvrx {
+
+namespace {
+
+void openTimeCard(const Workplace& at, Browser& browser, QWidget* parent) {
+    const RecordedAnswers records(at.store());
+    CartaoPontoDados card(at, {records, records, records});
+    (void)card.open();
+    CartaoPontoDadosWindow window(card, parent);
+    QObject::connect(&window, &CartaoPontoDadosWindow::monthSettingsRequested, &window, [&] {
+        openWorkMonth(at, browser, &window);
+        (void)card.open();
+        window.refresh();
+    });
+    QObject::connect(&window, &ScreenWindow::helpRequested, &window,
+                     [&] { openHelp(at, browser); });
+    window.exec();
+}
+
+}  // namespace
+
+MenuEntry timeCardEntry(const Workplace& at, Browser& browser) {
+    return {.group = QStringLiteral("Cartão de Ponto"),
+            .objectName = QStringLiteral("menu.timecard.open"),
+            .icon = QStringLiteral("card"),
+            .title = QStringLiteral("&Dados"),
+            .key = Qt::Key_F5,
+            .needs = MenuNeeds::Employees,
+            .open = [at, &browser](QWidget* parent) { openTimeCard(at, browser, parent); },
+            .state =
+                [](const MonthProgress* progress) {
+                    return progress && progress->month ? QStringLiteral("%1 de %2 preenchidos")
+                                                             .arg(progress->filledCards)
+                                                             .arg(progress->employees)
+                                                       : QStringLiteral("Falta o mês de trabalho");
+                },
+            .step = MonthStep::FillCards};
+}
+
+}  // namespace winvrx
