@@ -60,7 +60,8 @@ bool SafetyCopies::makeDailyCopy(const DataFolder& folder, Clock::Moment now) {
 void SafetyCopies::makeCopyBefore(const DataFolder& folder, Clock::Moment now,
                                   const std::string& act) {
     const CopyShelf shelf(files_, archiver_, folder);
-    make(shelf, folder, now, {.kind = CopyName::Kind::Before, .before = act});
+    make(shelf, folder, now,
+         {.kind = CopyName::Kind::Before, .before = act, .unreadable = Unreadable::Refuse});
 }
 
 std::optional<CopyContents> SafetyCopies::make(const CopyShelf& shelf, const DataFolder& folder,

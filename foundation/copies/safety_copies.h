@@ -57,7 +57,8 @@ class SafetyCopies {
     /// out: the others are worth keeping.
     bool makeDailyCopy(const DataFolder& folder, Clock::Moment now);
 
-    /// The same, whatever copies there are, before `act`: "excluir a empresa 02 PADARIA".
+    /// Copies the folder, whatever copies there are, before `act`: "excluir a empresa 02 PADARIA".
+    /// The copy has every file, or it fails.
     void makeCopyBefore(const DataFolder& folder, Clock::Moment now, const std::string& act);
 
     /// Those that are not outdated, newest first.

@@ -45,7 +45,10 @@ class ListCommands : public ListScreen {
         return run(incorrectData(), [&] {
             const Record record = completed(typed);
             return requireAcceptable(record, nullptr) && at_.person.agrees(questions_.include) &&
-                   rewrite([&](Lines& lines) { lines.push_back(newLine(record, lines)); });
+                   rewrite([&](Lines& lines) {
+                       lines.push_back(newLine(record, lines));
+                       clearFor(lines.back());
+                   });
         });
     }
     /// Replaces the line at `position`; what no field covers stays.
@@ -61,7 +64,10 @@ class ListCommands : public ListScreen {
     }
     [[nodiscard]] bool remove(std::size_t position) override {
         if (!at_.person.agrees(questions_.remove)) return false;
-        return run(incorrectData(), [&] { return erase(position, [](const Lines&) {}); });
+        return run(incorrectData(), [&] {
+            return erase(
+                position, [] {}, [](const Lines&) {});
+        });
     }
 
   protected:
@@ -83,6 +89,9 @@ class ListCommands : public ListScreen {
     [[nodiscard]] virtual Line changedLine(const Record& typed, const Line& before) const {
         return lineOf(typed, before.bytes);
     }
+
+    /// Removes what must not be there when the new line is recorded.
+    virtual void clearFor(const Line&) {}
 
     void reread() override { lines_ = read(); }
 
@@ -117,13 +126,14 @@ class ListCommands : public ListScreen {
     }
 
     /// Deletes the line at `position` and, with `removeFiles`, what belongs to it; that is called
-    /// with the lines that stay. A disk that refuses the list must do so before anything is gone,
-    /// so it is first written as it stands. Then the files go first: cut short, the command can be
-    /// given again.
-    template <typename RemoveFiles>
-    [[nodiscard]] bool erase(std::size_t position, RemoveFiles&& removeFiles) {
+    /// with the lines that stay. `prepare` is called before any change. A disk that refuses the
+    /// list must do so before anything is gone, so it is first written as it stands. Then the files
+    /// go first: cut short, the command can be given again.
+    template <typename Prepare, typename RemoveFiles>
+    [[nodiscard]] bool erase(std::size_t position, Prepare&& prepare, RemoveFiles&& removeFiles) {
         return rewrite([&](Lines& lines) {
             (void)lineAsShown(lines, position);
+            prepare();
             write(lines);
             lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(position));
             removeFiles(lines);

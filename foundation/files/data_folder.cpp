@@ -43,6 +43,10 @@ bool isMonthFile(std::string_view name) {
     return std::all_of(month.begin(), month.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
+bool isGroup(std::string_view name) {
+    return standsAt(name, 3, kGroupStem);
+}
+
 bool isSetting(std::string_view name) {
     return std::find(kCompanySettings.begin(), kCompanySettings.end(), name) !=
            kCompanySettings.end();
@@ -94,11 +98,11 @@ bool isRecordOfCompany(std::string_view name, const CompanyCode& company) {
     if (!name.starts_with(company.text())) return false;
     return stemOf(name) || name.find(kLeaveStem) != std::string_view::npos ||
            isPunchOrPayrollFile(name) || isMonthFile(name) || name.substr(2) == kEmployeeListStem ||
-           isSetting(name.substr(2));
+           isGroup(name) || isSetting(name.substr(2));
 }
 
 std::optional<EmployeeCode> employeeOfRecord(std::string_view name, const CompanyCode& company) {
-    if (!isRecordOfCompany(name, company) || name.substr(2) == kEmployeeListStem)
+    if (!isRecordOfCompany(name, company) || name.substr(2) == kEmployeeListStem || isGroup(name))
         return std::nullopt;
     const bool hasEmployee =
         stemOf(name) || isPunchOrPayrollFile(name) || name.size() >= kEmployeeMonthFileLength;
@@ -139,6 +143,15 @@ void removeSettingsOfCompany(const Store& store, const CompanyCode& company) {
 
 void removeRecordsOfEmployee(const Store& store, const EmployeeKey& key) {
     removeWhere(store, [&](std::string_view name) { return isRecordOfEmployee(name, key); });
+}
+
+void removeRecordsOfList(const Store& store, const CompanyCode& company,
+                         const std::set<EmployeeCode>& employees) {
+    removeWhere(store, [&](std::string_view name) {
+        const auto employee = employeeOfRecord(name, company);
+        return employee ? employees.contains(*employee)
+                        : isGroup(name) && isRecordOfCompany(name, company);
+    });
 }
 
 }  // namespace winvrx

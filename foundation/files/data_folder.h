@@ -6,6 +6,7 @@
 #include <array>
 #include <filesystem>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -87,6 +88,8 @@ inline constexpr std::string_view kOvertimeStem = "MedHorExtr";
 inline constexpr std::string_view kLeaveStem = "configAf";
 /// Stems of an employee's termination documents, which are named like his leave file.
 inline constexpr std::array<std::string_view, 3> kTerminationStems = {"TRTC", "THRTC", "AviTRTC"};
+/// Stem of a company's rotation groups.
+inline constexpr std::string_view kGroupStem = "GRUPO-";
 /// Stem of the mark of a transfer to another company that is under way.
 inline constexpr std::string_view kTransferStem = "Transf";
 inline constexpr std::string_view kEmployeeListStem = "CartaPonto";
@@ -106,8 +109,8 @@ inline constexpr std::string_view kSelectedMonthName = "DataIde.ivc";
 inline constexpr std::string_view kReportDatabaseName = "qdb.mdb";
 
 /// True for the names of the files that go when the company goes: its schedules, overtime figures,
-/// leaves, termination documents, punches, month files, employee list and settings. Names are read
-/// by position: company code in characters 1-2, then the stem.
+/// leaves, termination documents, punches, month files, rotation groups, employee list and
+/// settings. Names are read by position: company code in characters 1-2, then the stem.
 [[nodiscard]] bool isRecordOfCompany(std::string_view name, const CompanyCode& company);
 
 /// The employee of the company to whom the record belongs; nullopt for a name that is no record of
@@ -132,5 +135,8 @@ void removeRecordsOfCompany(const Store& store, const CompanyCode& company);
 /// those that an older version of the program left behind.
 void removeSettingsOfCompany(const Store& store, const CompanyCode& company);
 void removeRecordsOfEmployee(const Store& store, const EmployeeKey& key);
+/// Those of all employees of a list, and the rotation groups that were made of them.
+void removeRecordsOfList(const Store& store, const CompanyCode& company,
+                         const std::set<EmployeeCode>& employees);
 
 }  // namespace winvrx

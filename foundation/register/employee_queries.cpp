@@ -9,7 +9,6 @@ namespace winvrx {
 
 namespace {
 
-constexpr std::string_view kGroupStem = "GRUPO-";
 constexpr std::size_t kCodeDigits = 3;
 
 }  // namespace

@@ -221,7 +221,8 @@ bool Empregados::remove(std::size_t position) {
             at_.person.tell(kDeletesMember);
             if (!at_.person.agrees(kDeleteDespiteGroup)) return false;
         }
-        return erase(position, [&](const Lines& remaining) { removeFilesOf(chosen, remaining); });
+        return erase(
+            position, [] {}, [&](const Lines& remaining) { removeFilesOf(chosen, remaining); });
     });
 }
 
@@ -231,9 +232,9 @@ bool Empregados::removeAll() {
         return false;
     return run(incorrectData(), [&] {
         return rewrite([&](Lines& lines) {
+            at_.keepStateBefore("excluir toda a lista de funcionários da empresa " + companyTitle_);
             write(lines);
-            for (const Line& line : lines)
-                removeFilesOf(line, {});
+            removeRecordsOfList(at_.store(), *at_.session.company, keysOf(lines));
             lines.clear();
         });
     });

@@ -87,12 +87,20 @@ bool Empresa::remove(std::size_t position) {
     return run(incorrectData(), [&] {
         const Line chosen = lines_.at(position);
         const bool hadEmployees = hasEmployees(chosen);
-        return confirmDeletion(hadEmployees) && erase(position, [&](const Lines& remaining) {
-                   if (isFirst(read(), position) || hasEmployees(chosen) != hadEmployees)
-                       throw changedElsewhere("company list");
-                   removeFilesOf(chosen, remaining);
-               });
+        const auto prepare = [&] {
+            if (isFirst(read(), position) || hasEmployees(chosen) != hadEmployees)
+                throw changedElsewhere("company list");
+            if (chosen.key())
+                at_.keepStateBefore("excluir a empresa " + titleOf(lines_, chosen.key()));
+        };
+        return confirmDeletion(hadEmployees) &&
+               erase(position, prepare,
+                     [&](const Lines& remaining) { removeFilesOf(chosen, remaining); });
     });
+}
+
+void Empresa::clearFor(const Line& added) {
+    removeSettingsOfCompany(at_.store(), added.key().value());
 }
 
 void Empresa::removeFilesOf(const Line& gone, const Lines& remaining) {

@@ -43,6 +43,8 @@ class Empresa : public ListCommands<Company> {
     [[nodiscard]] ListRow rowOf(const Company& company) const override;
     [[nodiscard]] Line newLine(const Company& typed, const Lines& lines) const override;
     [[nodiscard]] Line changedLine(const Company& typed, const Line& before) const override;
+    /// An older version left the settings of a deleted company; who gets its code has none of them.
+    void clearFor(const Line& added) override;
 
   private:
     [[nodiscard]] Line lineUnder(const CompanyCode& code, Company typed,

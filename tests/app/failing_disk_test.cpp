@@ -1,8 +1,12 @@
+#include "foundation/copies/safety_copies.h"
 #include "foundation/files/durable_files.h"
 #include "tests/support/faulty_disk.h"
+#include "tests/support/plain_archiver.h"
 #include "tests/support/writing_commands.h"
 
 #include <gmock/gmock.h>
+
+#include <algorithm>
 
 // Every writing command on a disk that fails at operation 1, 2, 3 … until it fails no more.
 
@@ -112,6 +116,49 @@ TEST_P(EveryCommand, LeavesEachFileWholeWhereverThePowerGoes) {
             cut = faulty.failed();
             if (HasFailure()) return;
         }
+    }
+}
+
+constexpr std::pair<const char*, const char*> kKeptBefore[] = {
+    {"delete company", "excluir a empresa 02 SEGUNDA"},
+    {"delete all employees", "excluir toda a lista de funcionários da empresa 01 PRIMEIRA"}};
+
+TEST(CopyBeforeADeletion, IsThereBeforeAnythingGoes) {
+    for (const auto& [name, act] : kKeptBefore) {
+        const WritingCommand& command = writingCommand(name);
+        bool failed = true;
+        for (int operation = 1; failed; ++operation) {
+            MemoryDisk disk(placed(command.before, kRoot));
+            FaultyDisk faulty(disk, operation, Failure::ForGood, std::errc::no_space_on_device);
+            TestHost host;
+            (void)runCommand(command, faulty, host, kRoot);
+            failed = faulty.failed();
+            const bool kept = std::ranges::any_of(
+                disk.files(), [](const auto& file) { return file.first.extension() == ".zip"; });
+            EXPECT_TRUE(kept || recordsOf(disk.files(), kRoot) == command.before)
+                << name << ", operation " << operation;
+        }
+    }
+}
+
+TEST(CopyBeforeADeletion, BringsEverythingBack) {
+    for (const auto& [name, act] : kKeptBefore) {
+        const WritingCommand& command = writingCommand(name);
+        MemoryDisk disk(placed(command.before, kRoot));
+        TestHost host;
+        ASSERT_TRUE(runCommand(command, disk, host, kRoot).done) << name;
+        ASSERT_NE(recordsOf(disk.files(), kRoot), command.before);
+        DurableFiles files(std::shared_ptr<Disk>(&disk, [](Disk*) {}));
+        const PlainArchiver archiver;
+        RecordedLog log;
+        SafetyCopies copies(files, archiver, log);
+        const DataFolder folder('C', kRoot / kDataPath);
+        const Clock::Moment later{*parseDate("16/03/2024"), *parseTime("09:00")};
+        const auto list = copies.list(folder, later.date);
+        ASSERT_EQ(list.size(), 1U) << name;
+        EXPECT_EQ(list[0].before, act);
+        copies.restore(folder, list[0].name, later);
+        EXPECT_EQ(recordsOf(disk.files(), kRoot), command.before) << name;
     }
 }
 

@@ -3,6 +3,7 @@
 #include "foundation/copies/safety_copies.h"
 #include "foundation/files/durable_files.h"
 #include "foundation/menu/menu.h"
+#include "tests/support/plain_archiver.h"
 
 #include <ostream>
 #include <stdexcept>
@@ -64,8 +65,13 @@ Outcome runCommand(const WritingCommand& command, Disk& disk, Host& host, const 
     Session session{.folder = DataFolder('C', root / kDataPath),
                     .company = CompanyCode::parse("01")};
     FolderLock lock(disk, host);
-    const bool done =
-        command.run(Workplace{files, person, clock, log, session, lock}, FolderDrives(root));
+    const PlainArchiver archiver;
+    SafetyCopies copies(files, archiver, log);
+    const auto keepState = [&](const std::string& act) {
+        copies.makeCopyBefore(session.folder, clock.now(), act);
+    };
+    const bool done = command.run(Workplace{files, person, clock, log, session, lock, keepState},
+                                  FolderDrives(root));
     return {done && person.failures.empty() && log.entries.empty(), person.failures, log.entries};
 }
 

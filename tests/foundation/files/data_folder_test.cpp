@@ -75,6 +75,7 @@ TEST(DataFolder, NamesAreReadByPosition) {
                           {"01ImpressoraTipo", true, false},
                           {"01Impresstec", true, false},
                           {"01Impresstecla", false, false},
+                          {"01GRUPO-001032024.er", true, false},
                           {"01Empresa", false, false},
                           {"02PadrHor001.pdx", false, false},
                           {"x01PadrHor001.pdx", false, false},

@@ -301,12 +301,14 @@ TEST_F(EmpregadosTest, AMemberIsDeletedOnlyAfterASecondYes) {
 
 TEST_F(EmpregadosTest, DeleteAllAsksTwiceAndLeavesOtherCompaniesAlone) {
     addEmployees();
-    for (const char* name : {"01configAf001", "01MedHorExtr002", "01001-03-2024.bdx",
-                             "01001022024.pdx", "01002122023.pdx", "01fp0000203-2024.bdx"})
+    for (const char* name :
+         {"01configAf001", "01MedHorExtr002", "01001-03-2024.bdx", "01001022024.pdx",
+          "01002122023.pdx", "01fp0000203-2024.bdx", "01GRUPO-001032024.er"})
         desk_.file(name) = "x";
     const std::vector<std::string> staying = {
-        "02CartaPonto",      "02PadrHor001.pdx",    "02001022024.pdx",  "03configAf001",
-        "03001-03-2024.bdx", "01CartaoDePontoTipo", "01PadrHor003.pdx", "01032024ds.rdx"};
+        "02CartaPonto",        "02PadrHor001.pdx",  "02001022024.pdx",
+        "03configAf001",       "03001-03-2024.bdx", "02GRUPO-001032024.er",
+        "01CartaoDePontoTipo", "01PadrHor003.pdx",  "01032024ds.rdx"};
     for (const std::string& name : staying)
         desk_.file(name) = "stays";
     const auto before = desk_.files.content;

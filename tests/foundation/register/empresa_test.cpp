@@ -59,6 +59,7 @@ class EmpresaTest : public ::testing::Test {
 
 TEST_F(EmpresaTest, IncludeAppendsUnderTheNextCode) {
     EXPECT_EQ(empresa_.proposedCode()->text(), "02");
+    desk_.file("02Impresstec") = "left behind by an earlier company";
     desk_.person.answers = {Answer::Yes};
     Company typed = named("  PADARIA DO ZÉ ");
     typed.code = "77";
@@ -71,6 +72,7 @@ TEST_F(EmpresaTest, IncludeAppendsUnderTheNextCode) {
     EXPECT_EQ(stored.name, "PADARIA DO ZÉ");
     EXPECT_EQ(stored.recordDate, "15/03/2024");
     EXPECT_EQ(empresa_.lines().at(1).record, stored);
+    EXPECT_FALSE(desk_.files.exists("/data/02Impresstec"));
 }
 
 TEST_F(EmpresaTest, AnsweringNoLeavesEverything) {
