@@ -51,6 +51,7 @@ struct Agreeing final : Operator {
 
 struct NoBrowser final : Browser {
     bool openHelp() override { return false; }
+    bool open(const std::string&) override { return false; }
 };
 
 struct NoEditor final : TextEditor {

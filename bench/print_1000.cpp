@@ -40,6 +40,7 @@ constexpr int kDays = 31;
 class NoBrowser final : public Browser {
   public:
     bool openHelp() override { return false; }
+    bool open(const std::string&) override { return false; }
 };
 
 class ErrorLog final : public Log {

@@ -1,14 +1,19 @@
 #pragma once
 
+#include <string>
+
 namespace winvrx {
 
-/// The desktop's web browser, as far as the program needs it.
+/// What the desktop opens pages and files with, as far as the program needs it.
 class Browser {
   public:
     virtual ~Browser() = default;
 
     /// Opens the help page "instalacao.htm". False when it could not be opened.
     [[nodiscard]] virtual bool openHelp() = 0;
+    /// Opens the file or folder of this path with what the desktop has for it. False when it could
+    /// not be opened.
+    [[nodiscard]] virtual bool open(const std::string& path) = 0;
 };
 
 }  // namespace winvrx

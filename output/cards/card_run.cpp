@@ -102,7 +102,9 @@ ReportRequest CardRun::requestFor(LayoutSet set) const {
 bool CardRun::send(const ReportRequest& request, const People& people,
                    const PageProgress& progress) {
     ReportPages cards(people.size(), [&](std::size_t at) { return batch_.rowsOf(people[at]); });
-    return printPages({at_, engine_, progress}, request, cards) == PrintEnd::Done;
+    if (printPages({at_, engine_, progress}, request, cards) != PrintEnd::Done) return false;
+    if (request.output == ReportOutput::PdfFile) savedFiles_.push_back(request.pdfPath);
+    return true;
 }
 
 }  // namespace winvrx

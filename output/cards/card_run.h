@@ -37,6 +37,8 @@ struct PrintRun {
     std::function<std::string(const std::string& proposedName)> choosePdf = {};
     /// The folder for one PDF file an employee; empty cancels the run. Asked once a run.
     std::function<std::string()> choosePdfFolder = {};
+    /// Lets the operator choose a card stock, after he was told that none is chosen.
+    std::function<void()> chooseStock = {};
 };
 
 /// The cards of a run, and how they are printed.
@@ -59,6 +61,8 @@ class CardRun {
 
     /// True when every card was printed; who was not told why knows, having cancelled.
     [[nodiscard]] bool print();
+    /// The PDF files that `print` has written, in order.
+    [[nodiscard]] const std::vector<std::string>& savedFiles() const { return savedFiles_; }
 
   private:
     using People = std::vector<Employee>;
@@ -80,6 +84,7 @@ class CardRun {
     CardBatch batch_;
     PrintRun run_;
     std::string pdfFolder_;
+    std::vector<std::string> savedFiles_;
 };
 
 }  // namespace winvrx

@@ -15,8 +15,6 @@ namespace {
 
 constexpr std::string_view kPrintingDrive = "C";
 
-const Message kConfirmOne = question(
-    "IMPRIMIR CARTÃO PONTO", "Este Comando Irá Imprimir o Item Selecionado. Deseja Prosseguir?");
 const Message kNoStock = refusal("IMPRIMIR CARTÃO PONTO", "Selecione um Tipo de Cartão na Lista! ");
 const Message kNoEmployee = refusal("IMPRIMIR CARTÃO PONTO", "Selecione um Funcionário na Lista! ");
 const Message kNoMonth = refusal("IMPRIMIR CARTÃO PONTO", "Informe um Mês de Trabalho!!");
@@ -24,6 +22,16 @@ const Message kWrongDrive =
     failure("Imprimir",
             "Diretório Inválido p/ Impressão! Transfira os dados do diretório atual "
             "para o Diretório 'C'.");
+
+Message confirmOne(ReportOutput output) {
+    Message message = question("IMPRIMIR CARTÃO PONTO",
+                               "Este Comando Irá Imprimir o Item Selecionado. Deseja Prosseguir?");
+    if (output == ReportOutput::Preview)
+        message.detail = "Com \"Visualizar\" o cartão só aparece na tela; nada é impresso.";
+    else if (output == ReportOutput::PdfFile)
+        message.detail = "O cartão vai para um arquivo PDF; nada é impresso.";
+    return message;
+}
 
 Message confirmOutsiders(const std::vector<std::string>& names) {
     return question("IMPRIMIR CARTÃO PONTO",
@@ -81,13 +89,13 @@ std::string Cartao::headerPreview(std::optional<std::size_t> position) const {
 }
 
 bool Cartao::printOne(std::optional<std::size_t> position, const PrintRun& run) {
-    if (!at_.person.agrees(kConfirmOne)) return false;
-    return requireChoices(isShown(position)) && requirePrintingDrive() &&
+    if (!at_.person.agrees(confirmOne(choices_.output))) return false;
+    return requireChoices(isShown(position), run) && requirePrintingDrive() &&
            print({list_.employees()[*position]}, run);
 }
 
 bool Cartao::printAll(const PrintRun& run) {
-    if (!requireChoices(!list_.shown().empty()) || !requirePrintingDrive()) return false;
+    if (!requireChoices(!list_.shown().empty(), run) || !requirePrintingDrive()) return false;
     const auto people = confirmPeople();
     return !people.empty() && print(people, run);
 }
@@ -111,7 +119,7 @@ void Cartao::help() {
     openHelp(at_, desk_.browser);
 }
 
-bool Cartao::requireChoices(bool anyEmployee) {
+bool Cartao::requireChoices(bool anyEmployee, const PrintRun& run) {
     const Message* refusal = nullptr;
     if (!stock_ || !layoutFor(stock_->code, choices_.printer.tray, LayoutSet::A))
         refusal = &kNoStock;
@@ -120,6 +128,7 @@ bool Cartao::requireChoices(bool anyEmployee) {
     else if (!month_)
         refusal = &kNoMonth;
     if (refusal) at_.person.tell(*refusal);
+    if (refusal == &kNoStock && run.chooseStock) run.chooseStock();
     return !refusal;
 }
 
@@ -132,8 +141,31 @@ bool Cartao::requirePrintingDrive() {
 
 bool Cartao::print(const std::vector<Employee>& people, const PrintRun& run) {
     (void)remember();
-    return attempt(at_, printFailed(),
-                   [&] { return CardRun(at_, desk_.engine, batchOf(people), run).print(); });
+    std::vector<std::string> saved;
+    const bool printed = attempt(at_, printFailed(), [&] {
+        CardRun cards(at_, desk_.engine, batchOf(people), run);
+        const bool done = cards.print();
+        saved = cards.savedFiles();
+        return done;
+    });
+    offerToOpen(saved);
+    return printed;
+}
+
+void Cartao::offerToOpen(const std::vector<std::string>& files) {
+    if (files.empty()) return;
+    const bool one = files.size() == 1;
+    const std::string place =
+        one ? files.front() : files.back().substr(0, files.back().find_last_of('/'));
+    const Message asked =
+        one ? question("IMPRIMIR CARTÃO PONTO", "O PDF foi gravado. Deseja abri-lo?", place)
+            : question("IMPRIMIR CARTÃO PONTO",
+                       std::to_string(files.size()) +
+                           " arquivos PDF foram gravados. Deseja abrir a pasta?",
+                       place);
+    if (at_.person.agrees(asked) && !desk_.browser.open(place))
+        at_.person.tell(
+            failure("IMPRIMIR CARTÃO PONTO", "Não há programa que abra este arquivo.", place));
 }
 
 CardBatch Cartao::batchOf(const std::vector<Employee>& people) const {

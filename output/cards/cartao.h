@@ -69,9 +69,10 @@ class Cartao {
         return position && list_.isShown(*position);
     }
     [[nodiscard]] std::vector<Employee> confirmPeople();
-    [[nodiscard]] bool requireChoices(bool anyEmployee);
+    [[nodiscard]] bool requireChoices(bool anyEmployee, const PrintRun& run);
     [[nodiscard]] bool requirePrintingDrive();
     [[nodiscard]] bool print(const std::vector<Employee>& people, const PrintRun& run);
+    void offerToOpen(const std::vector<std::string>& files);
     [[nodiscard]] CardBatch batchOf(const std::vector<Employee>& people) const;
     [[nodiscard]] CardData cardOf(const Employee& employee) const;
 

@@ -6,7 +6,10 @@ class QWidget;
 
 namespace winvrx {
 
-/// Asks where to save a PDF file, in the documents folder at first. A name typed without its ending
+/// The folder that is proposed for PDF files: the user's documents, else his own. It exists.
+[[nodiscard]] QString folderForPdfFiles();
+
+/// Asks where to save a PDF file, in `folderForPdfFiles` at first. A name typed without its ending
 /// gets it, before a file of that name is asked about. Empty when the operator cancels.
 [[nodiscard]] QString choosePdfFile(QWidget* parent, const QString& title,
                                     const QString& proposedName);

@@ -2,6 +2,9 @@
 
 #include "foundation/desk/browser.h"
 
+#include <string>
+#include <vector>
+
 namespace winvrx::testing {
 
 /// Counts what it was asked to show; `works` is its answer.
@@ -12,6 +15,11 @@ class TestBrowser final : public Browser {
 
     bool openHelp() override {
         ++opened;
+        return works;
+    }
+    std::vector<std::string> files;
+    bool open(const std::string& path) override {
+        files.push_back(path);
         return works;
     }
 };

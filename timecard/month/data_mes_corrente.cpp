@@ -15,6 +15,13 @@ const Message kOfferedHolidays =
     question("Feriados", "Há feriados sugeridos que não estão marcados. Deseja marcá-los?", {},
              Buttons::YesNoCancel);
 
+MonthSettings withRulesOf(MonthSettings settings, const MonthSettings& model) {
+    settings.overtime = model.overtime;
+    settings.closingDay = model.closingDay;
+    settings.fixedMonth = model.fixedMonth;
+    return settings;
+}
+
 constexpr int kMonthsBack = 24;
 constexpr int kMonthsAhead = 12;
 
@@ -27,7 +34,8 @@ DataMesCorrente::DataMesCorrente(const Workplace& at) : at_(at) {
 void DataMesCorrente::open() {
     (void)attempt(at_, incorrectData(), [this] {
         const auto selected = loadSelectedMonth(at_.store());
-        load(selected ? selected->month : monthOf(at_.clock.today()));
+        const WorkMonth present = monthOf(at_.clock.today());
+        load(selected ? selected->month : at_.session.lastMonth.value_or(present));
     });
 }
 
@@ -41,6 +49,8 @@ void DataMesCorrente::load(WorkMonth month) {
     auto onDisk = readRecord(month);
     auto unread = unreadMonthLines(at_.store(), month);
     auto ownPercents = ownPercentsOfList(at_, month);
+    const auto before = onDisk ? std::nullopt : lastRecordedBefore(at_.store(), month);
+    model_ = before ? readRecord(*before) : std::nullopt;
     offer_ = std::move(offer);
     onDisk_ = std::move(onDisk);
     unread_ = std::move(unread);
@@ -132,6 +142,19 @@ void DataMesCorrente::reloadOffer() {
                   [this] { offer_ = offeredHolidays(at_.store(), settings_.month); });
 }
 
+std::optional<WorkMonth> DataMesCorrente::offeredRules() const {
+    if (!model_ || isRecorded()) return std::nullopt;
+    const bool same = numbers_ == numbersOf(*model_) &&
+                      withRulesOf(settings_, *model_) == withReadable(settings_, numbers_);
+    return same ? std::nullopt : std::optional(model_->month);
+}
+
+void DataMesCorrente::takeOfferedRules() {
+    if (!offeredRules()) return;
+    settings_ = withRulesOf(settings_, *model_);
+    numbers_ = numbersOf(settings_);
+}
+
 void DataMesCorrente::type(const MonthNumberField& field, std::string text) {
     numbers_.*field.typed = std::move(text);
 }
@@ -197,6 +220,7 @@ bool DataMesCorrente::confirm() {
     return attemptWriting(at_, incorrectData(), [this] {
         write();
         saveSelectedMonth(at_.store(), {settings_.month, at_.session.shiftFilter});
+        at_.session.lastMonth = settings_.month;
     });
 }
 

@@ -28,7 +28,7 @@ class DataMesCorrente {
   public:
     explicit DataMesCorrente(const Workplace& at);
 
-    /// Shows the selected month; the desk's present month where none is selected.
+    /// Shows the selected month; where none is, the one confirmed last, else the present one.
     void open();
 
     /// The months that the list offers: two years back to one year ahead, and the month shown.
@@ -67,6 +67,12 @@ class DataMesCorrente {
     void tickOffer();
     /// The user's list was changed: the month is offered what it holds now.
     void reloadOffer();
+
+    /// The month whose rules a month without a record may take over: the last recorded before it,
+    /// as long as they differ from those shown.
+    [[nodiscard]] std::optional<WorkMonth> offeredRules() const;
+    /// Takes over the overtime rules and the closing period of `offeredRules`.
+    void takeOfferedRules();
 
     void type(const MonthNumberField& field, std::string text);
     /// What is wrong with a number as typed, in one sentence; empty when nothing is.
@@ -121,6 +127,7 @@ class DataMesCorrente {
     std::optional<MonthSettings> onDisk_;  ///< the record as it was read or written
     std::vector<UnreadLine> unread_;
     std::vector<Holiday> offer_;
+    std::optional<MonthSettings> model_;         ///< whose rules are offered
     std::vector<OvertimePercents> ownPercents_;  ///< of listed employees, in this month
     bool offerSettled_ = false;                  ///< the operator was asked about offered holidays
     bool switched_ = false;  ///< the differentiated percentage was turned on or off on this screen

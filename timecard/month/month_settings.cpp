@@ -9,6 +9,8 @@ namespace winvrx {
 
 namespace {
 
+constexpr std::string_view kRecordEnding = "ds.rdx";
+
 /// What a line of the record behind the holiday cells holds, as text.
 struct LineValue {
     std::string (*text)(const MonthSettings&);
@@ -155,11 +157,21 @@ std::size_t holidayCellOf(Date date) {
 }
 
 std::string monthRecordName(WorkMonth month) {
-    return monthKey(month) + "ds.rdx";
+    return monthKey(month).append(kRecordEnding);
 }
 
 bool hasMonthSettings(const Store& store, WorkMonth month) {
     return recordOf(store, month).exists();
+}
+
+std::optional<WorkMonth> lastRecordedBefore(const Store& store, WorkMonth month) {
+    std::optional<WorkMonth> last;
+    for (const std::string& name : store.files.names(store.folder.path())) {
+        if (!name.ends_with(kRecordEnding)) continue;
+        const auto one = parseMonthKey(name.substr(0, name.size() - kRecordEnding.size()));
+        if (one && *one < month && (!last || *last < *one)) last = one;
+    }
+    return last;
 }
 
 MonthSettings loadMonthSettings(const Store& store, WorkMonth month) {

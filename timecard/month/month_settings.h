@@ -65,6 +65,8 @@ enum class MonthLine : std::size_t {
 inline constexpr int kHighestClosingDay = 31;
 
 [[nodiscard]] bool hasMonthSettings(const Store& store, WorkMonth month);
+/// The latest month with a record before `month`; nullopt where there is none.
+[[nodiscard]] std::optional<WorkMonth> lastRecordedBefore(const Store& store, WorkMonth month);
 
 /// The month's record; the defaults where there is none. A line that is not a number of its range
 /// counts as the default.

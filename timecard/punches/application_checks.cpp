@@ -96,6 +96,19 @@ Message confirmation(const ListApplicationCase& asked) {
     return message;
 }
 
+/// Says how much there is to lose. Where it is nothing, ENTER carries on.
+Message withLoss(Message message, const ListApplicationCase& asked) {
+    const std::string month = monthTitle(asked.month);
+    message.carriesOn = asked.applied == 0 && !asked.edited;
+    if (message.carriesOn)
+        message.detail = "Nenhum cartão da lista tem ponto em " + month + ": nada se perde.";
+    else if (asked.applied > 0)
+        message.detail = std::to_string(asked.applied) + " de " + std::to_string(asked.employees) +
+                         " cartões da lista já " + (asked.applied == 1 ? "tem" : "têm") +
+                         " ponto em " + month + ".";
+    return message;
+}
+
 bool confirmReplacement(Operator& person, const ApplicationCase& asked) {
     if (!asked.applied && !asked.edited) return true;
     if (asked.applied) person.tell(kAlreadyApplied);
@@ -150,8 +163,8 @@ bool confirmListApplication(Operator& person, const ListApplicationCase& asked) 
     if (asked.sameHours && asked.mixed) return refuse(kMixedList);
     if (asked.sameHours && asked.everyShift) return refuse(kEveryShift);
     if (asked.sameHours && asked.lacksSchedule) return refuse(modelLacksSchedule(*asked.selected));
-    return person.agrees(kErasesAll) && person.agrees(kCertainToReplace) &&
-           person.agrees(confirmation(asked));
+    return person.agrees(withLoss(kErasesAll, asked)) &&
+           person.agrees(withLoss(kCertainToReplace, asked)) && person.agrees(confirmation(asked));
 }
 
 }  // namespace winvrx

@@ -36,6 +36,8 @@ struct ListApplicationCase {
     bool everyShift = false;     ///< the list is not filtered by shift
     std::string description;     ///< of the list: "Turno: Unico"
     std::size_t employees = 0;
+    std::size_t applied = 0;  ///< of them have a punch record of the month
+    bool edited = false;      ///< cells were changed and not recorded
 };
 [[nodiscard]] bool confirmListApplication(Operator& person, const ListApplicationCase& asked);
 

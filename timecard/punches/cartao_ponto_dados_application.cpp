@@ -1,3 +1,4 @@
+#include "foundation/files/folder_names.h"
 #include "foundation/values/text.h"
 #include "timecard/punches/application_checks.h"
 #include "timecard/punches/cartao_ponto_dados.h"
@@ -125,18 +126,26 @@ bool CartaoPontoDados::confirmListApplication(const std::vector<std::size_t>& po
         const Employee& first = list_.employees().at(positions.front());
         return one.shiftOr() != first.shiftOr() || one.scaleOr() != first.scaleOr();
     };
+    const FolderNames names = namesIn(at_.store());
+    const auto isApplied = [&](std::size_t position) {
+        const EmployeeCode code = list_.employees().at(position).employeeCode().value();
+        return names.contains(punchFileName({company_.value(), code}, settings_.month));
+    };
     const bool chosen = selected() && !positions.empty();
     return winvrx::confirmListApplication(
-        at_.person, {.selected = chosen ? selected() : nullptr,
-                     .month = settings_.month,
-                     .onLeave = chosen && marks().onLeave,
-                     .sameHours = sameHours,
-                     .listed = chosen && std::ranges::count(positions, *position_) > 0,
-                     .lacksSchedule = leavesWorkBlank(schedule_.schedule()),
-                     .mixed = std::ranges::any_of(positions, differs),
-                     .everyShift = list_.shift() == ShiftFilter::Todos,
-                     .description = descriptionOf(list_),
-                     .employees = positions.size()});
+        at_.person,
+        {.selected = chosen ? selected() : nullptr,
+         .month = settings_.month,
+         .onLeave = chosen && marks().onLeave,
+         .sameHours = sameHours,
+         .listed = chosen && std::ranges::count(positions, *position_) > 0,
+         .lacksSchedule = leavesWorkBlank(schedule_.schedule()),
+         .mixed = std::ranges::any_of(positions, differs),
+         .everyShift = list_.shift() == ShiftFilter::Todos,
+         .description = descriptionOf(list_),
+         .employees = positions.size(),
+         .applied = static_cast<std::size_t>(std::ranges::count_if(positions, isApplied)),
+         .edited = sheet_.changed()});
 }
 
 bool CartaoPontoDados::applyToAll(bool sameHours, const ListApplication::Progress& progress) {

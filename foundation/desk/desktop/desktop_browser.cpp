@@ -12,4 +12,8 @@ bool DesktopBrowser::openHelp() {
     return QFileInfo::exists(page) && QDesktopServices::openUrl(QUrl::fromLocalFile(page));
 }
 
+bool DesktopBrowser::open(const std::string& path) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path)));
+}
+
 }  // namespace winvrx

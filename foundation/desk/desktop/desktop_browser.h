@@ -12,6 +12,7 @@ class DesktopBrowser final : public Browser {
     /// `helpFolder` holds "instalacao.htm".
     explicit DesktopBrowser(QString helpFolder) : helpFolder_(std::move(helpFolder)) {}
     [[nodiscard]] bool openHelp() override;
+    [[nodiscard]] bool open(const std::string& path) override;
 
   private:
     QString helpFolder_;

@@ -5,6 +5,9 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QProgressDialog>
+#include <QPushButton>
+
+#include <utility>
 
 namespace winvrx {
 
@@ -67,6 +70,16 @@ Answer answerOf(int button) {
     }
 }
 
+/// Gives "OK" and "Cancelar" a letter each, as "Sim" and "Não" have theirs: a box is answered by
+/// one key whichever answer is wanted.
+void addLetters(const QMessageBox& box) {
+    for (const auto& [button, text] : {std::pair(QMessageBox::Ok, QStringLiteral("&OK")),
+                                       std::pair(QMessageBox::Cancel, QStringLiteral("&Cancelar")),
+                                       std::pair(QMessageBox::Yes, QStringLiteral("&Sim")),
+                                       std::pair(QMessageBox::No, QStringLiteral("&Não"))})
+        if (box.button(button)) box.button(button)->setText(text);
+}
+
 /// The window that the box belongs to. A progress dialog steps back until the next step.
 QWidget* windowBelow() {
     auto* progress = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
@@ -86,6 +99,7 @@ Answer MessageBoxOperator::ask(const Message& message) {
     box.setInformativeText(toQt(message.detail));
     box.setIcon(iconOf(message.icon));
     box.setStandardButtons(buttonsOf(message.buttons));
+    addLetters(box);
     box.setDefaultButton(buttonOf(enterAnswer(message)));
     box.setEscapeButton(buttonOf(harmlessAnswer(message)));
     return answerOf(box.exec());

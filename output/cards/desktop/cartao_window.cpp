@@ -14,7 +14,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
-#include <QStandardPaths>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -182,7 +181,8 @@ void CartaoWindow::printAll() {
 PrintRun CartaoWindow::runWith(Progress* progress) {
     PrintRun run{
         .choosePdf = [this](const std::string& proposedName) { return choosePdf(proposedName); },
-        .choosePdfFolder = [this] { return choosePdfFolder(); }};
+        .choosePdfFolder = [this] { return choosePdfFolder(); },
+        .chooseStock = [this] { visit(desk_.openStocks); }};
     if (progress)
         run.progress = [progress](int done, int total) { return progress->show(done, total); };
     return run;
@@ -193,9 +193,8 @@ std::string CartaoWindow::choosePdf(const std::string& proposedName) {
 }
 
 std::string CartaoWindow::choosePdfFolder() {
-    return toUtf8(QFileDialog::getExistingDirectory(
-        this, QStringLiteral("Pasta dos arquivos PDF"),
-        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)));
+    return toUtf8(QFileDialog::getExistingDirectory(this, QStringLiteral("Pasta dos arquivos PDF"),
+                                                    folderForPdfFiles()));
 }
 
 void CartaoWindow::showList() {

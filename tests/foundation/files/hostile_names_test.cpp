@@ -1,6 +1,7 @@
 #include "foundation/register/empresa.h"
 #include "tests/support/employee_desk.h"
 #include "tests/support/fenced_files.h"
+#include "tests/support/test_browser.h"
 
 #include <gmock/gmock.h>
 
@@ -17,15 +18,11 @@ const std::vector<std::string> kHostileCodes = {
     ".",   "C:",   "0:1", "1\\1",     "*",
     "01/", "+01",  "-01", "\xB2\xB3", std::string("0\0", 2)};
 
-struct NoBrowser final : Browser {
-    bool openHelp() override { return false; }
-};
-
 /// A desk whose commands are watched at the fence of the data folder.
 struct HostileNames : ::testing::Test {
     TestWorkplace desk;
     FencedFiles fenced{desk.files, "/data"};
-    NoBrowser browser;
+    testing::TestBrowser browser;
     testing::TestEditor editor;
     testing::TestSpreadsheet spreadsheet;
     testing::TestLocks locks;

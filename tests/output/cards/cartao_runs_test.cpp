@@ -25,9 +25,15 @@ TEST_F(CartaoOpened, PdfIsAskedForOnceAJob) {
         proposed.push_back(name);
         return proposed.size() == 3 ? std::string() : "/home/" + name;
     }};
+    const std::string path = "/home/CARTÃO PONTO EMPRESA MODELO LTDA 03-2024.pdf";
+    desk.person.answers = {Answer::Yes};
+    browser.works = false;
     EXPECT_TRUE(screen.printAll(run));
-    EXPECT_EQ(engine.jobs.at(0).request.pdfPath,
-              "/home/CARTÃO PONTO EMPRESA MODELO LTDA 03-2024.pdf");
+    EXPECT_EQ(engine.jobs.at(0).request.pdfPath, path);
+    EXPECT_EQ(desk.person.shown.at(0).detail, path);
+    EXPECT_EQ(desk.person.takeTexts(), (Texts{"O PDF foi gravado. Deseja abri-lo?",
+                                              "Não há programa que abra este arquivo."}));
+    EXPECT_EQ(browser.files, Texts{path});
     screen.choices().mode = PrintMode::OneAtATime;
     desk.person.answers = {Answer::Yes, Answer::No, Answer::Yes};
     EXPECT_FALSE(screen.printAll(run));
@@ -54,7 +60,10 @@ TEST_F(CartaoOpened, OnePdfForEachEmployeeGoesIntoOneFolder) {
                             "/home/cards/CARTÃO PONTO 002 ANA PAULA 03-2024.pdf",
                             "/home/cards/CARTÃO PONTO 003 RUI BARBOSA 03-2024.pdf"}));
     EXPECT_EQ(printed(), (Texts{"JOSÉ DA SILVA", "ANA PAULA", "RUI BARBOSA"}));
-    EXPECT_TRUE(desk.person.shown.empty());
+    EXPECT_EQ(desk.person.shown.at(0).detail, "/home/cards");
+    EXPECT_EQ(desk.person.takeTexts(),
+              Texts{"3 arquivos PDF foram gravados. Deseja abrir a pasta?"});
+    EXPECT_TRUE(browser.files.empty());
 
     desk.files.content[paths[1]] = "of yesterday";
     EXPECT_FALSE(screen.printAll(run));

@@ -94,8 +94,13 @@ TEST_F(CartaoOpened, PrintOneAsksFirst) {
 
     desk.person.answers = {Answer::Yes};
     EXPECT_TRUE(screen.printOne(1, {}));
+    EXPECT_EQ(desk.person.shown.at(0).detail, "");
     EXPECT_EQ(desk.person.takeTexts(), Texts{kConfirmOne});
     EXPECT_EQ(printed(), Texts{"ANA PAULA"});
+    screen.choices().output = ReportOutput::Preview;
+    EXPECT_FALSE(screen.printOne(1, {}));
+    EXPECT_EQ(desk.person.shown.at(0).detail,
+              "Com \"Visualizar\" o cartão só aparece na tela; nada é impresso.");
 }
 
 TEST_F(CartaoTest, PrintOneRefusesInOrder) {
@@ -115,8 +120,11 @@ TEST_F(CartaoTest, PrintOneRefusesInOrder) {
         if (!one.withMonth) desk.files.content.erase("/data/DataIde.ivc");
         screen.load();
         desk.person.answers = {Answer::Yes};
-        EXPECT_FALSE(screen.printOne(one.selected, {}));
-        EXPECT_EQ(desk.person.takeTexts(), (Texts{kConfirmOne, one.refusal}));
+        bool stockChosen = false;
+        EXPECT_FALSE(screen.printOne(one.selected, {.chooseStock = [&] { stockChosen = true; }}));
+        const Texts shown = desk.person.takeTexts();
+        EXPECT_EQ(shown, (Texts{kConfirmOne, one.refusal}));
+        EXPECT_EQ(stockChosen, shown.back() == "Selecione um Tipo de Cartão na Lista! ");
         saveSelectedMonth(desk.store(), {kMarch, ShiftFilter::Todos});
     }
     EXPECT_TRUE(engine.jobs.empty());

@@ -37,6 +37,9 @@ const MonthNumberField& fieldOf(std::string MonthNumbers::*typed) {
 
 TEST_F(MonthScreen, OpensOnTheSelectedMonthElseOnThePresentOne) {
     EXPECT_EQ(screen.settings().month, 2024y / 3);
+    desk.session.lastMonth = 2024y / 1;
+    screen.open();
+    EXPECT_EQ(screen.monthCaption(), "JANEIRO/2024");
     saveSelectedMonth(desk.store(), {2023y / 12, ShiftFilter::Todos});
     screen.open();
     EXPECT_EQ(screen.monthCaption(), "DEZEMBRO/2023");
@@ -99,6 +102,36 @@ TEST_F(MonthScreen, CaptionOfThePercentageFollowsSwitchAndNumbers) {
               "Usar Somente 1 (um) Único Percentual de Horas Extras para 120%");
 }
 
+TEST_F(MonthScreen, AMonthWithoutARecordIsOfferedTheRulesOfTheLastRecordedOne) {
+    EXPECT_EQ(screen.offeredRules(), std::nullopt);
+    MonthSettings rules;
+    rules.closingDay = 21;
+    rules.fixedMonth = false;
+    rules.overtime.minimumPercent = 60;
+    rules.setHoliday(*parseDate("01/01/2024"), true);
+    for (const auto month : {2023y / 11, 2024y / 1, 2024y / 5}) {
+        rules.month = month;
+        rules.overtime.maximumPercent = month == 2024y / 1 ? 120 : 110;
+        saveMonthSettings(desk.store(), rules);
+    }
+    desk.file("xx-2024ds.rdx") = "1\r\n";
+    screen.open();
+    EXPECT_EQ(screen.offeredRules(), 2024y / 1);
+    EXPECT_FALSE(screen.changed());
+    screen.takeOfferedRules();
+    EXPECT_EQ(screen.offeredRules(), std::nullopt);
+    EXPECT_EQ(screen.numbers().maximumPercent, "120");
+    EXPECT_EQ(screen.closingPeriodText(), "21/02/2024 a 20/03/2024");
+    EXPECT_TRUE(screen.holidays().empty());
+    screen.type(fieldOf(&MonthNumbers::minimumPercent), "x");
+    EXPECT_EQ(screen.offeredRules(), 2024y / 1);
+    screen.takeOfferedRules();
+    EXPECT_TRUE(screen.record());
+    EXPECT_EQ(loadMonthSettings(desk.store(), 2024y / 3).overtime.minimumPercent, 60);
+    ASSERT_TRUE(screen.chooseMonth(2024y / 1));
+    EXPECT_EQ(screen.offeredRules(), std::nullopt);
+}
+
 TEST_F(MonthScreen, RecordsAndConfirms) {
     tick("19/03/2024");
     screen.tickOffer();
@@ -117,6 +150,7 @@ TEST_F(MonthScreen, RecordsAndConfirms) {
     desk.session.shiftFilter = ShiftFilter::Tres;
     EXPECT_TRUE(screen.confirm());
     EXPECT_EQ(desk.file("DataIde.ivc"), "03-2024\r\nTres\r\n");
+    EXPECT_EQ(desk.session.lastMonth, 2024y / 3);
     EXPECT_TRUE(desk.person.shown.empty());
 }
 

@@ -170,6 +170,36 @@ TEST_F(ApplyToAll, TheScheduleOfTheOneSelectedBecomesEveryones) {
     EXPECT_EQ(screen.sheet().line(1).morningEntry, "08:00");
 }
 
+TEST_F(ApplyToAll, EnterCarriesOnOnlyWhereNothingIsLost) {
+    struct Case {
+        const char* applied;
+        const char* typed;
+        Answer onEnter;
+        const char* detail;
+    };
+    for (const Case& c : {Case{"", "", Answer::Ok,
+                               "Nenhum cartão da lista tem ponto em março/2024: nada se perde."},
+                          Case{"01002-03-2024.bdx", "", Answer::Ok,
+                               "Nenhum cartão da lista tem ponto em março/2024: nada se perde."},
+                          Case{"01003-03-2024.bdx", "", Answer::Cancel,
+                               "1 de 3 cartões da lista já tem ponto em março/2024."},
+                          Case{"", "9", Answer::Cancel, ""}}) {
+        desk.person.shown.clear();
+        ASSERT_TRUE(screen.open() && screen.filterBy(ShiftFilter::Unico) && screen.select(0));
+        const auto files = desk.files.content;
+        if (*c.applied) desk.file(c.applied) = "  \r\n";
+        if (*c.typed) screen.sheet().type(4, PunchCell::MorningEntry, c.typed);
+        desk.person.answers = {Answer::Ok, Answer::Cancel};
+        EXPECT_FALSE(screen.applyToAll(false));
+        ASSERT_EQ(desk.person.shown.size(), 2U);
+        for (const Message& asked : desk.person.shown) {
+            EXPECT_EQ(enterAnswer(asked), c.onEnter) << c.applied << c.typed;
+            EXPECT_EQ(asked.detail, c.detail);
+        }
+        desk.files.content = files;
+    }
+}
+
 TEST_F(ApplyToAll, EachHasHisOwnHoursAndWhoCannotBeFilledIsNamed) {
     std::vector<Employee> people = {employee("001", "ANA", "Unico", "Norma")};
     for (const char* code : {"002", "003", "004", "005", "006", "007", "008"})

@@ -49,6 +49,13 @@ void DataMesCorrenteWindow::addCommands() {
         addCommand(QStringLiteral("employees"), QStringLiteral("Atualizar p/Todos os Funcionários"),
                    Qt::Key_F7, QStringLiteral("month.updateAll"));
     connect(all, &QToolButton::clicked, this, &DataMesCorrenteWindow::updateAll);
+    offeredRules_ = addCommand(QStringLiteral("restore"), QString(), Qt::Key_F9,
+                               QStringLiteral("month.offeredRules"));
+    connect(offeredRules_, &QToolButton::clicked, this, [this] {
+        command_.takeOfferedRules();
+        rules_->refresh();
+        showState();
+    });
     QPushButton* confirm =
         addClosingButton(QStringLiteral("&Confirma"), QStringLiteral("month.confirm"));
     confirm->setDefault(true);
@@ -85,6 +92,12 @@ QWidget* DataMesCorrenteWindow::buildMonthColumn() {
     reference_ = new QCheckBox(widget);
     reference_->setObjectName(QStringLiteral("month.reference"));
     column->addWidget(reference_);
+    QLabel* shared =
+        look::label(QStringLiteral("O mês, os feriados e as regras valem para todas as empresas."),
+                    look::TextSize::Hint, widget);
+    shared->setObjectName(QStringLiteral("month.shared"));
+    shared->setWordWrap(true);
+    column->addWidget(shared);
     column->addSpacing(look::kGap);
     holidays_ = new HolidayPanel(command_, widget);
     connect(holidays_, &HolidayPanel::edited, this, &DataMesCorrenteWindow::showState);
@@ -138,6 +151,13 @@ void DataMesCorrenteWindow::refreshHolidays() {
 }
 
 void DataMesCorrenteWindow::showState() {
+    const auto model = command_.offeredRules();
+    offeredRules_->setVisible(model.has_value());
+    if (model) {
+        const QString offered = QStringLiteral("Regras de ") + toQt(monthTitle(*model));
+        offeredRules_->setText(offered + QStringLiteral("  F9"));
+        offeredRules_->setAccessibleName(offered);
+    }
     setState(command_.changed()      ? QStringLiteral("Alterações não gravadas")
              : command_.isRecorded() ? QString()
                                      : QStringLiteral("Mês ainda não gravado"));
@@ -146,6 +166,7 @@ void DataMesCorrenteWindow::showState() {
 void DataMesCorrenteWindow::recordMonth() {
     if (!command_.record()) return;
     holidays_->refresh();
+    showState();
     setState(command_.settings().recordTicks
                  ? QStringLiteral("Mês gravado")
                  : QStringLiteral("Mês gravado, sem as marcas dos feriados"));

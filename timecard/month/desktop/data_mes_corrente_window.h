@@ -6,6 +6,7 @@
 class QCheckBox;
 class QComboBox;
 class QHBoxLayout;
+class QToolButton;
 
 namespace winvrx {
 
@@ -47,6 +48,7 @@ class DataMesCorrenteWindow : public ScreenWindow {
     DataMesCorrente& command_;
     QHBoxLayout* columns_ = nullptr;
     QComboBox* month_ = nullptr;
+    QToolButton* offeredRules_ = nullptr;
     QCheckBox* reference_ = nullptr;
     HolidayPanel* holidays_ = nullptr;
     MonthRulesPanel* rules_ = nullptr;

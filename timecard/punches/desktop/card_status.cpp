@@ -11,6 +11,7 @@ namespace winvrx {
 namespace {
 
 const QString kWayIn = QStringLiteral("ENTER: horas do dia");
+const QString kWayToApply = QStringLiteral(" · Ctrl+F9: aplicar e ir ao próximo");
 const QString kWayOn =
     QStringLiteral("%1: próxima hora · Home: primeira · End: situação · Ctrl+F: funcionários");
 
@@ -34,7 +35,7 @@ QString wayFrom(const CartaoPontoDados& card, const PunchGrid& grid, bool inEmpl
     if (card.closed()) return {};
     if (card.sheet().changed() && countsOnlyExtra(card))
         return QStringLiteral("Sem horário padrão, as horas digitadas contam como extras");
-    if (inEmployees) return kWayIn;
+    if (inEmployees) return card.applied() ? kWayIn : kWayIn + kWayToApply;
     if (grid.isAncestorOf(QApplication::focusWidget()) || grid.hasFocus())
         return kWayOn.arg(grid.nextCellKey() == Qt::Key_Tab ? QStringLiteral("TAB")
                                                             : QStringLiteral("ENTER"));

@@ -164,6 +164,7 @@ void CartaoPontoDadosWindow::connectGrid(HalfMonth which) {
 void CartaoPontoDadosWindow::buildCommands() {
     QToolButton* one = addCommand(QStringLiteral("apply"), QStringLiteral("Aplicar Ponto"),
                                   Qt::Key_F9, QStringLiteral("card.apply"));
+    one->setToolTip(QStringLiteral("Ctrl+F9 aplica e passa ao próximo funcionário."));
     connect(one, &QToolButton::clicked, this, &CartaoPontoDadosWindow::apply);
     QToolButton* all =
         addCommand(QStringLiteral("employees"), QStringLiteral("Aplicar Ponto p/Todos"),
@@ -207,6 +208,10 @@ void CartaoPontoDadosWindow::addEmployeeKeys() {
     };
     add(Qt::Key_PageUp, -1);
     add(Qt::Key_PageDown, 1);
+    auto* applyAndGoOn = new QShortcut(Qt::CTRL | Qt::Key_F9, this);
+    connect(applyAndGoOn, &QShortcut::activated, this, [this] {
+        if (apply()) employees_->step(1);
+    });
 }
 
 HalfMonthPanel& CartaoPontoDadosWindow::half(HalfMonth half) const {
@@ -334,10 +339,11 @@ void CartaoPontoDadosWindow::commitEditors() {
         panel->grid().commitEditor();
 }
 
-void CartaoPontoDadosWindow::apply() {
+bool CartaoPontoDadosWindow::apply() {
     commitEditors();
-    (void)command_.applyPunches();
+    const bool applied = command_.applyPunches();
     showCard();
+    return applied;
 }
 
 void CartaoPontoDadosWindow::applyToAll() {

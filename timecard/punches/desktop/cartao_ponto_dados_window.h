@@ -69,7 +69,7 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     void showStatus();
     void showUnread();
     void commitEditors();
-    void apply();
+    bool apply();
     void applyToAll();
     void save();
     void changeMonth();

@@ -59,6 +59,10 @@ TEST(MessageBoxOperatorTest, EnterCarriesOnOnlyWhereTheActCanBeUndone) {
         EXPECT_EQ(answerTo(one.message, Qt::Key_Return), one.onEnter);
         EXPECT_EQ(answerTo(one.message, Qt::Key_Escape), one.onEscape);
     }
+    EXPECT_EQ(answerTo(warning(title, text), Qt::Key_S), Answer::Yes);
+    EXPECT_EQ(answerTo(question(title, text), Qt::Key_N), Answer::No);
+    EXPECT_EQ(answerTo(warning(title, text, {}, Buttons::OkCancel), Qt::Key_O), Answer::Ok);
+    EXPECT_EQ(answerTo(question(title, text, {}, Buttons::OkCancel), Qt::Key_C), Answer::Cancel);
 }
 
 TEST(MessageBoxOperatorTest, ProgressStepsBackWhileAQuestionStands) {

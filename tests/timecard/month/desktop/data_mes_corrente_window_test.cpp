@@ -108,6 +108,21 @@ TEST_F(MonthWindow, TheListOfTheTownIsAskedForAndItsDaysAreOffered) {
     EXPECT_EQ(driven->find<QCheckBox>("month.day24").text().toStdString(), "19 ◇");
 }
 
+TEST_F(MonthWindow, TheRulesOfTheLastRecordedMonthComeByKey) {
+    EXPECT_FALSE(driven->find<QToolButton>("month.offeredRules").isVisible());
+    MonthSettings february;
+    february.month = *parseMonthKey("02-2024");
+    february.overtime.minimumPercent = 65;
+    saveMonthSettings(desk.store(), february);
+    driven->press(Qt::Key_PageDown);
+    EXPECT_EQ(driven->find<QToolButton>("month.offeredRules").text().toStdString(),
+              "Regras de fevereiro/2024  F9");
+    driven->press(Qt::Key_F9);
+    EXPECT_EQ(driven->find<QLineEdit>("month.minimumPercent").text().toStdString(), "65");
+    EXPECT_FALSE(driven->find<QToolButton>("month.offeredRules").isVisible());
+    EXPECT_EQ(driven->label("state"), "Alterações não gravadas");
+}
+
 TEST_F(MonthWindow, LinesNotUnderstoodAreShownUnderTheList) {
     EXPECT_FALSE(driven->find<QLabel>("month.unread").isVisible());
     desk.file("02-2024ds.rdx") = "sim\r\n0\r\n";

@@ -211,13 +211,23 @@ TEST_F(CardWindow, F6ChangesTheHalfAndAWideWindowShowsBoth) {
 
 TEST_F(CardWindow, ApplicationShowsTheFilledMonth) {
     open();
-    EXPECT_EQ(driven->label("state"), "Ponto ainda não aplicado neste mês  ·  ENTER: horas do dia");
+    const std::string open =
+        "Ponto ainda não aplicado neste mês  ·  ENTER: horas do dia · Ctrl+F9: aplicar e ir ao "
+        "próximo";
+    EXPECT_EQ(driven->label("state"), open);
     EXPECT_EQ(cell(1, 2, PunchModel::Situation), "(descanso)");
     desk.person.answers = {Answer::Yes};
     driven->press(Qt::Key_F9);
     EXPECT_EQ(cell(1, 0, 1), "08:00");
     EXPECT_EQ(cell(1, 2, PunchModel::Situation), "DESCANSO SEMANAL");
     EXPECT_EQ(driven->label("schedule.weekly"), "40,0 HORAS SEMANAIS");
+    auto& list = driven->find<QListWidget>("card.employees");
+    for (const auto& [answer, row] : {std::pair(Answer::Cancel, 0), std::pair(Answer::Ok, 1)}) {
+        desk.person.answers = {answer, Answer::Yes};
+        driven->press(Qt::Key_F9, Qt::ControlModifier);
+        EXPECT_EQ(list.currentRow(), row);
+    }
+    EXPECT_EQ(driven->label("state"), open);
 }
 
 TEST_F(CardWindow, AnotherEmployeeComesOnlyAfterTheChangesAreSettled) {
