@@ -36,9 +36,9 @@ MenuEntries menuEntries(const Workplace& at, const CardPrintingDesk& desk, TextE
     const auto add = [&all](const MenuEntries& some) {
         all.insert(all.end(), some.begin(), some.end());
     };
-    add(registerEntries(at, desk.browser, editor));
-    add({monthEntry(at, desk.browser)});
-    add({timeCardEntry(at, desk.browser)});
+    add(registerEntries(at, editor));
+    add({monthEntry(at)});
+    add({timeCardEntry(at)});
     add(cardEntries(at, desk));
     add({planned("Cartão de Ponto", "rotation", "rotation", "Escalas")});
     add({planned("Cartão de Ponto", "mirror", "mirror", "Espelho")});
@@ -47,7 +47,7 @@ MenuEntries menuEntries(const Workplace& at, const CardPrintingDesk& desk, TextE
     add({planned("Pessoal", "documents", "documents", "Documentos")});
     add({planned("Ferramentas", "labels", "labels", "Etiquetas")});
     add({planned("Ferramentas", "backup", "backup", "Cópia de Segurança")});
-    add({restoreEntry(at, copies, desk.browser)});
+    add({restoreEntry(at, copies)});
     add({help(at, desk.browser)});
     return all;
 }

@@ -5,6 +5,7 @@
 #include "foundation/desk/desktop/desktop_text_editor.h"
 #include "foundation/menu/desktop/menu_window.h"
 #include "foundation/widgets/desktop/progress.h"
+#include "foundation/widgets/desktop/screen_window.h"
 #include "report/desktop/qt_report_engine.h"
 #include "report/desktop/system_printers.h"
 #include "timecard/punches/month_progress.h"
@@ -61,9 +62,13 @@ Program::Program(const ProgramDesk& desk)
           menu_, at_, calendar_,
           menuEntries(at_, {*browser_, *engine_, *printers_, [this] { return layoutPlaces(); }},
                       *editor_, copies_),
-          [this] { return progress(); })) {}
+          [this] { return progress(); })) {
+    ScreenWindow::setHelp([this] { openHelp(at_, *browser_); });
+}
 
-Program::~Program() = default;
+Program::~Program() {
+    ScreenWindow::setHelp({});
+}
 
 bool Program::start() {
     return window_->start();
@@ -75,8 +80,8 @@ std::optional<MonthProgress> Program::progress() const {
 }
 
 std::unique_ptr<TextEditor> Program::makeEditor() {
-    if (desk_.editor) return desk_.editor(*files_, *browser_);
-    return std::make_unique<DesktopTextEditor>(*files_, *browser_);
+    if (desk_.editor) return desk_.editor(*files_);
+    return std::make_unique<DesktopTextEditor>(*files_);
 }
 
 std::vector<std::filesystem::path> Program::layoutPlaces() const {
@@ -86,7 +91,7 @@ std::vector<std::filesystem::path> Program::layoutPlaces() const {
 std::unique_ptr<ReportEngine> Program::makeEngine() {
     auto engine = std::make_unique<QtReportEngine>(
         [this] { return layoutPlaces(); },
-        [this] { return session_.folder.file(kReportDatabaseName); }, *browser_, desk_.log);
+        [this] { return session_.folder.file(kReportDatabaseName); }, desk_.log);
     if (!desk_.engine) return engine;
     return desk_.engine(std::move(engine));
 }

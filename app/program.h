@@ -31,7 +31,7 @@ struct ProgramDesk {
     /// Where pages go: takes the program's own engine and may put another before it.
     std::function<std::unique_ptr<ReportEngine>(std::unique_ptr<ReportEngine>)> engine = nullptr;
     /// Where text reports are shown; the desktop's editor when nullptr.
-    std::function<std::unique_ptr<TextEditor>(const FileSystem&, Browser&)> editor = nullptr;
+    std::function<std::unique_ptr<TextEditor>(const FileSystem&)> editor = nullptr;
     /// The printers to choose from; the system's when nullptr.
     std::function<std::unique_ptr<Printers>()> printers = nullptr;
     /// The disk: takes the program's own files and may put others before them.

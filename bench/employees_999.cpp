@@ -49,11 +49,6 @@ struct Agreeing final : Operator {
     }
 };
 
-struct NoBrowser final : Browser {
-    bool openHelp() override { return false; }
-    bool open(const std::string&) override { return false; }
-};
-
 struct NoEditor final : TextEditor {
     bool open(const std::filesystem::path&) override { return false; }
 };
@@ -106,11 +101,10 @@ bool measureReading(const Workplace& at) {
 }
 
 bool measureScreen(const Workplace& at) {
-    NoBrowser browser;
     NoEditor editor;
     XlsxSpreadsheet spreadsheet;
     const RecordedAnswers records(at.store());
-    Empregados screen(at, {browser, editor, spreadsheet, records, records});
+    Empregados screen(at, {editor, spreadsheet, records, records});
     EmployeeImport import(at);
     const bool opened = report("open", milliseconds([&] {
                                    EmpregadosWindow window(screen, import);

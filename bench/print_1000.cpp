@@ -3,7 +3,6 @@
 // peak after ten cards, in KiB: what a run holds must not grow with the cards.
 
 #include "bench/timing.h"
-#include "foundation/desk/browser.h"
 #include "foundation/desk/log.h"
 #include "output/stocks/card_rows.h"
 #include "report/desktop/qt_report_engine.h"
@@ -36,12 +35,6 @@ constexpr double kMostRatio = 1.3;
 constexpr double kMostMemoryRatio = 1.2;
 constexpr int kRounds = 5;
 constexpr int kDays = 31;
-
-class NoBrowser final : public Browser {
-  public:
-    bool openHelp() override { return false; }
-    bool open(const std::string&) override { return false; }
-};
 
 class ErrorLog final : public Log {
   public:
@@ -112,10 +105,9 @@ std::vector<std::string> textsOf(const ReportRows& rows) {
 }
 
 void printWithEngine(const std::string& folder, const std::string& layouts, int count) {
-    NoBrowser browser;
     ErrorLog log;
     QtReportEngine engine([&] { return std::vector<std::filesystem::path>{layouts}; },
-                          [&] { return std::filesystem::path(folder) / "qdb.mdb"; }, browser, log);
+                          [&] { return std::filesystem::path(folder) / "qdb.mdb"; }, log);
     ReportRequest request;
     request.layoutName = "tilibcenter.rpt";
     request.title = "CARTÃO PONTO";

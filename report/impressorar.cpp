@@ -16,8 +16,7 @@ const Message kNoAddDialogue =
 
 }  // namespace
 
-Impressorar::Impressorar(const Workplace& at, Browser& browser, Printers& printers)
-    : at_(at), browser_(browser), printers_(printers) {}
+Impressorar::Impressorar(const Workplace& at, Printers& printers) : at_(at), printers_(printers) {}
 
 void Impressorar::load() {
     (void)attempt(at_, incorrectData(), [this] {
@@ -77,10 +76,6 @@ bool Impressorar::add() {
     if (printers_.openAddDialogue()) return true;
     at_.person.tell(kNoAddDialogue);
     return false;
-}
-
-void Impressorar::help() {
-    openHelp(at_, browser_);
 }
 
 }  // namespace winvrx

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/desk/browser.h"
 #include "foundation/desk/command.h"
 #include "report/printers.h"
 
@@ -16,8 +15,8 @@ inline constexpr std::string_view kImpressorarTitle = "Impressoras";
 /// The printer screen: on which printer the program prints. A choice is stored at once.
 class Impressorar {
   public:
-    /// Browser and printers outlive the screen.
-    Impressorar(const Workplace& at, Browser& browser, Printers& printers);
+    /// The printers outlive the screen.
+    Impressorar(const Workplace& at, Printers& printers);
 
     /// Reads the choice and the installed printers again.
     void load();
@@ -45,13 +44,10 @@ class Impressorar {
     /// "Adicionar Uma Impressora =>>".
     bool add();
 
-    void help();
-
   private:
     bool store(const std::string& name);
 
     Workplace at_;
-    Browser& browser_;
     Printers& printers_;
     std::vector<std::string> names_;
     std::string chosen_;

@@ -2,7 +2,6 @@
 // month with a holiday, schedules, punches, a card stock and the printing of all cards.
 #include "app/desktop_setup.h"
 #include "app/program.h"
-#include "foundation/desk/desktop/desktop_browser.h"
 #include "foundation/desk/desktop/desktop_text_editor.h"
 #include "foundation/desk/desktop/file_log.h"
 #include "foundation/files/desktop/system_drives.h"
@@ -95,8 +94,8 @@ int main(int argc, char** argv) {
                              std::move(engine),
                              (folder + QStringLiteral("/cartoes.pdf")).toStdString());
                      },
-                     [](const FileSystem& files, Browser& browser) -> std::unique_ptr<TextEditor> {
-                         return std::make_unique<TextViewer>(files, browser);
+                     [](const FileSystem& files) -> std::unique_ptr<TextEditor> {
+                         return std::make_unique<TextViewer>(files);
                      },
                      [] { return std::make_unique<TwoPrinters>(); }});
     if (!program.start()) return 1;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "foundation/copies/safety_copies.h"
-#include "foundation/desk/browser.h"
 #include "foundation/desk/command.h"
 
 #include <optional>
@@ -36,8 +35,7 @@ struct CopyPreview {
 /// and the command that brings one back.
 class RestaurarCopia {
   public:
-    RestaurarCopia(const Workplace& at, SafetyCopies& copies, Browser& browser)
-        : at_(at), copies_(copies), browser_(browser) {}
+    RestaurarCopia(const Workplace& at, SafetyCopies& copies) : at_(at), copies_(copies) {}
 
     /// Reads the list of copies again.
     void load();
@@ -50,12 +48,10 @@ class RestaurarCopia {
     /// Brings the copy back after a confirmation; the work month has to be chosen again. The state
     /// replaced is a further copy. True when it was carried out.
     [[nodiscard]] bool restore(const std::optional<CopyName>& copy);
-    void help() { openHelp(at_, browser_); }
 
   private:
     Workplace at_;
     SafetyCopies& copies_;
-    Browser& browser_;
     std::vector<SafetyCopy> list_;
 };
 

@@ -71,8 +71,8 @@ class ListCommands : public ListScreen {
     }
 
   protected:
-    ListCommands(const Workplace& at, Browser& browser, ListQuestions questions = {})
-        : ListScreen(at, browser), questions_(std::move(questions)) {}
+    explicit ListCommands(const Workplace& at, ListQuestions questions = {})
+        : ListScreen(at), questions_(std::move(questions)) {}
 
     [[nodiscard]] virtual Lines read() const = 0;
     virtual void write(const Lines& lines) = 0;

@@ -38,10 +38,6 @@ bool ListScreen::confirmDiscardTyped() {
     return at_.person.agrees(discardTyped());
 }
 
-void ListScreen::help() {
-    openHelp(at_, browser_);
-}
-
 bool ListScreen::refuse(const Message& message, std::string detail) const {
     Message told = message;
     if (!detail.empty()) told.detail = std::move(detail);

@@ -27,7 +27,7 @@ struct ListRow {
 /// What the window of a register asks of its command object, whatever the records are.
 class ListScreen {
   public:
-    ListScreen(const Workplace& at, Browser& browser) : at_(at), browser_(browser) {}
+    explicit ListScreen(const Workplace& at) : at_(at) {}
     virtual ~ListScreen() = default;
 
     /// Reads the list; a failure is told.
@@ -51,7 +51,6 @@ class ListScreen {
     [[nodiscard]] virtual bool remove(std::size_t position) = 0;
     /// Asks before typed but unrecorded text is left behind. True when it may go.
     [[nodiscard]] bool confirmDiscardTyped();
-    void help();
 
   protected:
     virtual void reread() = 0;
@@ -74,7 +73,6 @@ class ListScreen {
     [[nodiscard]] bool refuse(const Message& message, std::string detail = {}) const;
 
     Workplace at_;
-    Browser& browser_;
 
   private:
     bool failed_ = false;

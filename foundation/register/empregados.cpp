@@ -62,8 +62,7 @@ bool confirmDespitePayroll(Operator& person, const PayrollLock& payroll, const E
 }
 
 Empregados::Empregados(const Workplace& at, const EmpregadosDesk& desk)
-    : ListCommands(at, desk.browser, {kConfirmInclude, kConfirmChange, kConfirmDelete}),
-      desk_(desk) {}
+    : ListCommands(at, {kConfirmInclude, kConfirmChange, kConfirmDelete}), desk_(desk) {}
 
 void Empregados::reread() {
     auto companies = loadCompanies(at_.store());

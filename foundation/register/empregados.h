@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/desk/browser.h"
 #include "foundation/desk/list_commands.h"
 #include "foundation/desk/spreadsheet.h"
 #include "foundation/desk/text_editor.h"
@@ -29,7 +28,6 @@ inline constexpr std::string_view kScaleBoxTitle = "Escala - Turno - Horario";
 
 /// What the register asks of the subjects and programs beside it. All outlive the screen.
 struct EmpregadosDesk {
-    Browser& browser;
     TextEditor& editor;
     Spreadsheet& spreadsheet;
     const RotationMembership& rotation;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/desk/browser.h"
 #include "foundation/desk/list_commands.h"
 #include "foundation/register/company_register.h"
 
@@ -19,7 +18,7 @@ inline constexpr std::string_view kDeleteWithEmployees =
 /// The company register's screen. Code and record date of a company are set here.
 class Empresa : public ListCommands<Company> {
   public:
-    Empresa(const Workplace& at, Browser& browser) : ListCommands(at, browser) {}
+    explicit Empresa(const Workplace& at) : ListCommands(at) {}
 
     /// The code that the next company will get; nullopt when all are taken.
     [[nodiscard]] std::optional<CompanyCode> proposedCode() const {

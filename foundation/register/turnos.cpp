@@ -79,8 +79,4 @@ void Turnos::askForEmployee() {
     at_.person.tell(noEmployeeSelected());
 }
 
-void Turnos::help() {
-    openHelp(at_, browser_);
-}
-
 }  // namespace winvrx

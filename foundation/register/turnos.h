@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/desk/browser.h"
 #include "foundation/desk/command.h"
 #include "foundation/register/employee_list.h"
 #include "foundation/register/employee_queries.h"
@@ -15,13 +14,8 @@ namespace winvrx {
 /// screen shows it; a command that is refused or fails leaves list and file as they were.
 class Turnos {
   public:
-    Turnos(const Workplace& at, Browser& browser, const RotationMembership& rotation,
-           const PayrollLock& payroll)
-        : at_(at),
-          browser_(browser),
-          rotation_(rotation),
-          payroll_(payroll),
-          list_(at.session.shiftFilter) {}
+    Turnos(const Workplace& at, const RotationMembership& rotation, const PayrollLock& payroll)
+        : at_(at), rotation_(rotation), payroll_(payroll), list_(at.session.shiftFilter) {}
 
     /// Reads the list of the selected company; none selected gives an empty list.
     void load();
@@ -36,7 +30,6 @@ class Turnos {
     [[nodiscard]] bool change(const Employee& employee, std::optional<Shift> shift);
     /// Tells that an employee has to be selected first.
     void askForEmployee();
-    void help();
 
   private:
     /// The employee's place in the list; throws Fault when he is no longer there as he was shown.
@@ -44,7 +37,6 @@ class Turnos {
                                                       const Employee& employee);
 
     Workplace at_;
-    Browser& browser_;
     const RotationMembership& rotation_;
     const PayrollLock& payroll_;
     EmployeeList list_;

@@ -115,10 +115,6 @@ std::vector<Employee> Cartao::confirmPeople() {
     return others.empty() || at_.person.agrees(confirmOutsiders(others)) ? everyone : ofMonth;
 }
 
-void Cartao::help() {
-    openHelp(at_, desk_.browser);
-}
-
 bool Cartao::requireChoices(bool anyEmployee, const PrintRun& run) {
     const Message* refusal = nullptr;
     if (!stock_ || !layoutFor(stock_->code, choices_.printer.tray, LayoutSet::A))

@@ -62,8 +62,6 @@ class Cartao {
     /// before the month or are admitted after it are meant too. True when all were printed.
     [[nodiscard]] bool printAll(const PrintRun& run);
 
-    void help();
-
   private:
     [[nodiscard]] bool isShown(std::optional<std::size_t> position) const {
         return position && list_.isShown(*position);

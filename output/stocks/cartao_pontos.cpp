@@ -216,8 +216,4 @@ ReportRows CartaoPontos::sampleRows() const {
     return sampleCardRows(company_, monthOf(at_.clock.today()));
 }
 
-void CartaoPontos::help() {
-    openHelp(at_, desk_.browser);
-}
-
 }  // namespace winvrx

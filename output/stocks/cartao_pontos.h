@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/desk/browser.h"
 #include "foundation/desk/command.h"
 #include "foundation/register/company.h"
 #include "output/stocks/card_alignment.h"
@@ -28,7 +27,6 @@ enum class Direction { Left, Right, Up, Down };
 
 /// What the alignment screen works with beside the desk. All outlive the screen.
 struct CartaoPontosDesk {
-    Browser& browser;
     ReportEngine& engine;
     const Printers& printers;
     AlignmentMemory& memory;
@@ -87,8 +85,6 @@ class CartaoPontos {
     [[nodiscard]] ReportRows sampleRows() const;
     /// False where the printing screen leaves the header block to the stock.
     [[nodiscard]] bool printsHeader() const { return feed_.printHeader; }
-
-    void help();
 
   private:
     void readSelected();

@@ -6,7 +6,7 @@ namespace winvrx {
 
 namespace {}  // namespace
 
-TipoPonto::TipoPonto(const Workplace& at, Browser& browser) : at_(at), browser_(browser) {}
+TipoPonto::TipoPonto(const Workplace& at) : at_(at) {}
 
 void TipoPonto::load() {
     current_ = nullptr;
@@ -37,10 +37,6 @@ bool TipoPonto::choose(const CardStock& stock) {
         current_ = &stock;
         strangeCode_.clear();
     });
-}
-
-void TipoPonto::help() {
-    openHelp(at_, browser_);
 }
 
 }  // namespace winvrx

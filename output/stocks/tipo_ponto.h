@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/desk/browser.h"
 #include "foundation/desk/command.h"
 #include "output/stocks/card_stock.h"
 
@@ -12,7 +11,7 @@ namespace winvrx {
 /// The stock screen: which make of card the selected company uses.
 class TipoPonto {
   public:
-    TipoPonto(const Workplace& at, Browser& browser);
+    explicit TipoPonto(const Workplace& at);
 
     /// Reads the stored choice again.
     void load();
@@ -30,11 +29,8 @@ class TipoPonto {
     /// Stores `stock`. False when it could not be stored; the former choice then stands.
     [[nodiscard]] bool choose(const CardStock& stock);
 
-    void help();
-
   private:
     Workplace at_;
-    Browser& browser_;
     const CardStock* current_ = nullptr;
     std::string strangeCode_;
 };

@@ -73,7 +73,6 @@ QWidget* ImpressorarWindow::buildBody() {
 }
 
 void ImpressorarWindow::connectAll() {
-    connect(this, &ScreenWindow::helpRequested, this, [this] { screen_.help(); });
     connect(kind_, &OptionGroup::picked, this, &ImpressorarWindow::chooseKind);
     // A list that gets the focus has a current row before anybody picked one.
     connect(list_, &QListWidget::itemSelectionChanged, this, [this] {

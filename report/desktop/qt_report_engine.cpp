@@ -1,6 +1,5 @@
 #include "report/desktop/qt_report_engine.h"
 
-#include "foundation/desk/browser.h"
 #include "foundation/desk/log.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/progress.h"
@@ -75,11 +74,8 @@ std::vector<std::filesystem::path> layoutFolders(const std::filesystem::path& da
             programFolder / ".." / "share" / "winvrx" / "layouts"};
 }
 
-QtReportEngine::QtReportEngine(Folders layoutFolders, Database database, Browser& browser, Log& log)
-    : layoutFolders_(std::move(layoutFolders)),
-      database_(std::move(database)),
-      browser_(browser),
-      log_(log) {}
+QtReportEngine::QtReportEngine(Folders layoutFolders, Database database, Log& log)
+    : layoutFolders_(std::move(layoutFolders)), database_(std::move(database)), log_(log) {}
 
 Layout QtReportEngine::layoutOf(const ReportRequest& request) const {
     const auto folders = layoutFolders_();
@@ -141,9 +137,6 @@ void QtReportEngine::connectCommands(PreviewWindow& window, const ReportRequest&
                      [&] { end = printFrom(window, request, spool, printShown); });
     QObject::connect(&window, &PreviewWindow::pdfRequested, &window,
                      [&](const QString& path) { savePdf(window, request, spool, path); });
-    QObject::connect(&window, &PreviewWindow::helpRequested, &window, [&] {
-        if (!browser_.openHelp()) window.tell(QStringLiteral("⚠ Não foi possível abrir a ajuda"));
-    });
 }
 
 /// A print that the operator cancelled leaves the preview open.

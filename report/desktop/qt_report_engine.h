@@ -10,7 +10,6 @@ class QString;
 
 namespace winvrx {
 
-class Browser;
 class Log;
 class PageSpool;
 class PreviewWindow;
@@ -29,8 +28,8 @@ class QtReportEngine final : public ReportEngine {
     using Database = std::function<std::filesystem::path()>;
 
     /// The folders of layouts and the path of the database are asked for at each run, since the
-    /// operator may change the data folder. `browser` shows the help page from the preview window.
-    QtReportEngine(Folders layoutFolders, Database database, Browser& browser, Log& log);
+    /// operator may change the data folder.
+    QtReportEngine(Folders layoutFolders, Database database, Log& log);
 
     [[nodiscard]] PrintEnd print(const ReportRequest& request, ReportPages& pages,
                                  const PageProgress& progress) override;
@@ -55,7 +54,6 @@ class QtReportEngine final : public ReportEngine {
 
     Folders layoutFolders_;
     Database database_;
-    Browser& browser_;
     Log& log_;
 };
 

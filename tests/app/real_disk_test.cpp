@@ -201,19 +201,18 @@ TEST(ReadOnlyFolder, IsToldAndLeftAsItIs) {
 constexpr int kTurns = 500;
 
 bool countsUp(const Workplace& at, std::size_t position) {
-    TestBrowser browser;
     for (int turn = 0; turn < kTurns; ++turn) {
         TestEditor editor;
         TestSpreadsheet spreadsheet;
         TestLocks locks;
-        Empregados people(at, {browser, editor, spreadsheet, locks, locks});
+        Empregados people(at, {editor, spreadsheet, locks, locks});
         people.load();
         Employee mine = people.lines().at(position).record;
         if (mine.notes != std::to_string(turn)) return false;
         mine.notes = std::to_string(turn + 1);
         if (!people.change(position, mine)) return false;
 
-        Empresa companies(at, browser);
+        Empresa companies(at);
         bool counted = false;
         while (!counted) {  // refused when the other process was there since it was shown
             companies.load();
@@ -231,15 +230,14 @@ TEST(TwoProcesses, WriteToOneListFiveHundredTimesEachAndLoseNothing) {
                                                              : fs::temp_directory_path());
     WritingCommand start = writingCommand("change company");
     start.run = [](const Workplace& at, const Drives&) {
-        TestBrowser browser;
-        Empresa companies(at, browser);
+        Empresa companies(at);
         companies.load();
         Company zero = companies.lines().at(0).record;
         zero.telephone = "0";
         TestEditor editor;
         TestSpreadsheet spreadsheet;
         TestLocks locks;
-        Empregados people(at, {browser, editor, spreadsheet, locks, locks});
+        Empregados people(at, {editor, spreadsheet, locks, locks});
         people.load();
         bool done = companies.change(0, zero);
         for (const std::size_t position : {0U, 1U}) {

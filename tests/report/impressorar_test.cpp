@@ -1,6 +1,5 @@
 #include "report/impressorar.h"
 
-#include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
 #include "tests/support/test_workplace.h"
 
@@ -10,7 +9,6 @@ namespace winvrx {
 namespace {
 
 using ::testing::HasSubstr;
-using testing::TestBrowser;
 using testing::TestPrinters;
 using testing::TestWorkplace;
 using Texts = std::vector<std::string>;
@@ -70,9 +68,8 @@ struct Opened : ::testing::Test {
     Opened() { screen.load(); }
 
     TestWorkplace desk;
-    TestBrowser browser;
     TestPrinters printers;
-    Impressorar screen{desk.at, browser, printers};
+    Impressorar screen{desk.at, printers};
 };
 
 TEST_F(Opened, AChoiceIsOneLineAndIsShownAgain) {
@@ -80,7 +77,7 @@ TEST_F(Opened, AChoiceIsOneLineAndIsShownAgain) {
     EXPECT_EQ(screen.chosen(), "");
     EXPECT_TRUE(screen.use(0));
     EXPECT_EQ(desk.file("ConfigX"), "HP-Balcao\r\n");
-    Impressorar reopened(desk.at, browser, printers);
+    Impressorar reopened(desk.at, printers);
     reopened.load();
     EXPECT_EQ(reopened.chosen(), "HP-Balcao");
     EXPECT_TRUE(reopened.useDefault());

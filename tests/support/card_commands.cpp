@@ -1,6 +1,5 @@
 // What the screens of the time card and of its printing write.
 #include "output/stocks/tipo_ponto.h"
-#include "tests/support/test_browser.h"
 #include "tests/support/test_punch_desk.h"
 #include "tests/support/writing_commands.h"
 #include "timecard/punches/cartao_ponto_dados.h"
@@ -35,8 +34,7 @@ auto onCardOf(std::size_t position, Give give) {
 }
 
 bool chooseStock(const Workplace& at, const Drives&) {
-    TestBrowser browser;
-    TipoPonto screen(at, browser);
+    TipoPonto screen(at);
     screen.load();
     return screen.choose(*findStock("12"));
 }

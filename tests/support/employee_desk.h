@@ -2,7 +2,6 @@
 
 #include "foundation/register/empregados.h"
 #include "tests/support/employees.h"
-#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 
 #include <set>
@@ -65,11 +64,10 @@ struct TestLocks final : RotationMembership, PayrollLock {
 
 /// A desk with the employee register's screen on it.
 struct EmployeeDesk : TestWorkplace {
-    TestBrowser browser;
     TestEditor editor;
     TestSpreadsheet spreadsheet;
     TestLocks locks;
-    Empregados empregados{at, {browser, editor, spreadsheet, locks, locks}};
+    Empregados empregados{at, {editor, spreadsheet, locks, locks}};
 
     [[nodiscard]] static Employee employee(const char* code, const char* name) {
         return testing::employee(code, name);

@@ -2,7 +2,6 @@
 #include "foundation/copies/restaurar_copia.h"
 #include "foundation/menu/menu.h"
 #include "tests/support/plain_archiver.h"
-#include "tests/support/test_browser.h"
 #include "tests/support/writing_commands.h"
 
 namespace winvrx::testing {
@@ -51,8 +50,7 @@ FileTable officeWithACopy() {
 bool restoreCopy(const Workplace& at, const Drives&) {
     const PlainArchiver archiver;
     SafetyCopies copies(at.files, archiver, at.log);
-    TestBrowser browser;
-    return RestaurarCopia(at, copies, browser).restore(kCopyOfYesterday);
+    return RestaurarCopia(at, copies).restore(kCopyOfYesterday);
 }
 
 }  // namespace

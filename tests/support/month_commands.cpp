@@ -1,5 +1,4 @@
 // What the screens of the work month and of the holidays write.
-#include "tests/support/test_browser.h"
 #include "tests/support/writing_commands.h"
 #include "timecard/month/data_mes_corrente.h"
 #include "timecard/month/feriados.h"
@@ -23,8 +22,7 @@ auto inMonth(Give give) {
 template <typename Give>
 auto inHolidays(Give give) {
     return [give](const Workplace& at, const Drives&) {
-        TestBrowser browser;
-        Feriados screen(at, browser);
+        Feriados screen(at);
         screen.load();
         return screen.lines().size() > 1 && give(screen);
     };

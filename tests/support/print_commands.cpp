@@ -15,30 +15,28 @@ namespace {
 template <typename Give>
 auto inAlignment(Give give) {
     return [give](const Workplace& at, const Drives&) {
-        TestBrowser browser;
         RecordingEngine engine;
         const TestPrinters printers;
         AlignmentMemory memory;
-        CartaoPontos screen(at, {browser, engine, printers, memory});
+        CartaoPontos screen(at, {engine, printers, memory});
         screen.load();
         return give(screen);
     };
 }
 
 bool choosePrinter(const Workplace& at, const Drives&) {
-    TestBrowser browser;
     TestPrinters printers;
-    Impressorar screen(at, browser, printers);
+    Impressorar screen(at, printers);
     screen.load();
     return screen.chosen() == "Epson" && screen.use(0);
 }
 
 bool rememberChoices(const Workplace& at, const Drives&) {
-    TestBrowser browser;
     RecordingEngine engine;
     const TestPrinters printers;
     const AlignmentMemory memory;
     const TestLeaves leaves;
+    TestBrowser browser;
     Cartao screen(at, {browser, engine, printers, memory, leaves});
     screen.load();
     screen.choices().printer.exit = SheetExit::FaceUp;

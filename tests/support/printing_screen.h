@@ -51,11 +51,11 @@ class CartaoTest : public ::testing::Test {
     }
 
     TestWorkplace desk;
-    TestBrowser browser;
     RecordingEngine engine;
     TestPrinters printers;
     AlignmentMemory alignment;
     TestLeaves leaves;
+    TestBrowser browser;
     Cartao screen{desk.at, {browser, engine, printers, alignment, leaves}};
 };
 

@@ -3,7 +3,6 @@
 #include "foundation/register/empresa.h"
 #include "foundation/register/turnos.h"
 #include "tests/support/employee_desk.h"
-#include "tests/support/test_browser.h"
 #include "tests/support/writing_commands.h"
 
 namespace winvrx::testing {
@@ -13,8 +12,7 @@ namespace {
 template <typename Give>
 auto inEmpresa(Give give) {
     return [give](const Workplace& at, const Drives&) {
-        TestBrowser browser;
-        Empresa screen(at, browser);
+        Empresa screen(at);
         screen.load();
         return screen.lines().size() > 1 && give(screen);
     };
@@ -23,11 +21,10 @@ auto inEmpresa(Give give) {
 template <typename Give>
 auto inEmpregados(Give give) {
     return [give](const Workplace& at, const Drives&) {
-        TestBrowser browser;
         TestEditor editor;
         TestSpreadsheet spreadsheet;
         TestLocks locks;
-        Empregados screen(at, {browser, editor, spreadsheet, locks, locks});
+        Empregados screen(at, {editor, spreadsheet, locks, locks});
         screen.load();
         return screen.lines().size() > 1 && give(screen);
     };
@@ -47,9 +44,8 @@ FileTable officeBeforeTransfer() {
 }
 
 bool changeShift(const Workplace& at, const Drives&) {
-    TestBrowser browser;
     TestLocks locks;
-    Turnos screen(at, browser, locks, locks);
+    Turnos screen(at, locks, locks);
     screen.load();
     return screen.list().employees().size() > 1 &&
            screen.change(screen.list().employees()[1], Shift::Dois);

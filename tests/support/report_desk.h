@@ -4,7 +4,6 @@
 #include "output/stocks/card_rows.h"
 #include "report/desktop/qt_report_engine.h"
 #include "report/print_pages.h"
-#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 
 #include <QCoreApplication>
@@ -59,12 +58,11 @@ struct ReportDesk {
     std::filesystem::path database = folder / "qdb.mdb";
     TestWorkplace office;
     RecordedLog& log = office.log;
-    TestBrowser browser;
     QtReportEngine engine{[this] {
                               return layoutFolders(
                                   folder, QCoreApplication::applicationDirPath().toStdString());
                           },
-                          [this] { return database; }, browser, log};
+                          [this] { return database; }, log};
     ReportRequest request{.layoutName = "tilibcenter.rpt",
                           .title = "CARTÃO PONTO",
                           .columns = cardColumns(),

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/desk/browser.h"
 #include "foundation/desk/list_commands.h"
 #include "timecard/month/local_holidays.h"
 
@@ -9,7 +8,7 @@ namespace winvrx {
 /// The list of the town's and the state's holidays. Recorded months do not change with it.
 class Feriados : public ListCommands<LocalHoliday> {
   public:
-    Feriados(const Workplace& at, Browser& browser) : ListCommands(at, browser) {}
+    explicit Feriados(const Workplace& at) : ListCommands(at) {}
 
     [[nodiscard]] std::string newRecordTitle() const override { return "Novo feriado"; }
 

@@ -62,7 +62,6 @@ RestaurarCopiaWindow::RestaurarCopiaWindow(RestaurarCopia& copies, QWidget* pare
     setBody(buildBody());
     connect(list_, &QTreeWidget::currentItemChanged, this, &RestaurarCopiaWindow::showPreview);
     connect(list_, &QTreeWidget::itemActivated, this, &RestaurarCopiaWindow::restore);
-    connect(this, &ScreenWindow::helpRequested, this, [this] { copies_.help(); });
     copies_.load();
     fillList();
     list_->setFocus();

@@ -5,7 +5,7 @@
 
 namespace winvrx {
 
-MenuEntry restoreEntry(const Workplace& at, SafetyCopies& copies, Browser& browser) {
+MenuEntry restoreEntry(const Workplace& at, SafetyCopies& copies) {
     return {
         .group = QStringLiteral("Ferramentas"),
         .objectName = QStringLiteral("menu.restore.open"),
@@ -13,8 +13,8 @@ MenuEntry restoreEntry(const Workplace& at, SafetyCopies& copies, Browser& brows
         .title = QStringLiteral("&Restaurar Cópia"),
         .key = Qt::Key_F8,
         .open =
-            [at, &copies, &browser](QWidget* parent) {
-                RestaurarCopia screen(at, copies, browser);
+            [at, &copies](QWidget* parent) {
+                RestaurarCopia screen(at, copies);
                 RestaurarCopiaWindow(screen, parent).exec();
             },
         .state = [](const MonthProgress*) { return QStringLiteral("Voltar a um dia anterior"); }};

@@ -5,10 +5,9 @@
 
 namespace winvrx {
 
-class Browser;
 class SafetyCopies;
 
 /// The command of the main window that goes back to a safety copy. The arguments outlive it.
-[[nodiscard]] MenuEntry restoreEntry(const Workplace& at, SafetyCopies& copies, Browser& browser);
+[[nodiscard]] MenuEntry restoreEntry(const Workplace& at, SafetyCopies& copies);
 
 }  // namespace winvrx

@@ -56,8 +56,6 @@ bool TextViewer::open(const std::filesystem::path& file) {
     // A child of the modal window, so that it can be used while that is open.
     auto* viewer = new TextViewerWindow(title, toQt(decodeWindows1252(*bytes)),
                                         QApplication::activeModalWidget());
-    QObject::connect(viewer, &ScreenWindow::helpRequested, viewer,
-                     [this] { (void)browser_.openHelp(); });
     viewer->setAttribute(Qt::WA_DeleteOnClose);
     viewer->show();
     return true;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/desk/browser.h"
 #include "foundation/desk/text_editor.h"
 #include "foundation/files/file_system.h"
 
@@ -9,20 +8,19 @@ namespace winvrx {
 /// A window of the program, for each text one, that shows and prints it.
 class TextViewer final : public TextEditor {
   public:
-    /// Both outlive this object.
-    TextViewer(const FileSystem& files, Browser& browser) : files_(files), browser_(browser) {}
+    /// The files outlive this object.
+    explicit TextViewer(const FileSystem& files) : files_(files) {}
     [[nodiscard]] bool open(const std::filesystem::path& file) override;
 
   private:
     const FileSystem& files_;
-    Browser& browser_;
 };
 
 /// The editor that the desktop opens text files with: notepad.exe on Windows, elsewhere the handler
 /// of plain text through xdg-open. Where there is none, the program's own viewer.
 class DesktopTextEditor final : public TextEditor {
   public:
-    DesktopTextEditor(const FileSystem& files, Browser& browser) : viewer_(files, browser) {}
+    explicit DesktopTextEditor(const FileSystem& files) : viewer_(files) {}
     [[nodiscard]] bool open(const std::filesystem::path& file) override;
 
   private:

@@ -116,7 +116,6 @@ void EmpregadosWindow::importCsv() {
     runOnList([&] {
         if (!import_.open(pathOf(file))) return false;
         EmployeeImportWindow preview(import_, this);
-        connect(&preview, &ScreenWindow::helpRequested, this, [this] { empregados_.help(); });
         if (preview.exec() != QDialog::Accepted) return false;
         empregados_.load();
         return true;

@@ -32,21 +32,21 @@ QString employeesState(const MonthProgress* progress) {
     return counted(progress->employees, "funcionário", "funcionários");
 }
 
-MenuEntry companies(const Workplace& at, Browser& browser) {
+MenuEntry companies(const Workplace& at) {
     return {.group = kGroup,
             .objectName = QStringLiteral("menu.companies.open"),
             .icon = QStringLiteral("company"),
             .title = QStringLiteral("&Empresas"),
             .key = Qt::Key_F2,
             .open =
-                [at, &browser](QWidget* parent) {
-                    Empresa companies(at, browser);
+                [at](QWidget* parent) {
+                    Empresa companies(at);
                     EmpresaWindow(companies, parent).exec();
                 },
             .state = [at](const MonthProgress*) { return companiesState(at); }};
 }
 
-MenuEntry employees(const Workplace& at, Browser& browser, TextEditor& editor) {
+MenuEntry employees(const Workplace& at, TextEditor& editor) {
     return {.group = kGroup,
             .objectName = QStringLiteral("menu.employees.open"),
             .icon = QStringLiteral("employees"),
@@ -54,10 +54,10 @@ MenuEntry employees(const Workplace& at, Browser& browser, TextEditor& editor) {
             .key = Qt::Key_F3,
             .needs = MenuNeeds::Company,
             .open =
-                [at, &browser, &editor](QWidget* parent) {
+                [at, &editor](QWidget* parent) {
                     XlsxSpreadsheet spreadsheet;
                     const RecordedAnswers records(at.store());
-                    Empregados employees(at, {browser, editor, spreadsheet, records, records});
+                    Empregados employees(at, {editor, spreadsheet, records, records});
                     EmployeeImport import(at);
                     EmpregadosWindow(employees, import, parent).exec();
                 },
@@ -65,7 +65,7 @@ MenuEntry employees(const Workplace& at, Browser& browser, TextEditor& editor) {
             .step = MonthStep::RegisterEmployees};
 }
 
-MenuEntry shifts(const Workplace& at, Browser& browser) {
+MenuEntry shifts(const Workplace& at) {
     return {.group = kGroup,
             .objectName = QStringLiteral("menu.shifts.open"),
             .icon = QStringLiteral("shifts"),
@@ -73,9 +73,9 @@ MenuEntry shifts(const Workplace& at, Browser& browser) {
             .key = Qt::Key_F9,
             .needs = MenuNeeds::Employees,
             .open =
-                [at, &browser](QWidget* parent) {
+                [at](QWidget* parent) {
                     const RecordedAnswers records(at.store());
-                    Turnos shifts(at, browser, records, records);
+                    Turnos shifts(at, records, records);
                     TurnosWindow(shifts, parent).exec();
                 },
             .state =
@@ -86,8 +86,8 @@ MenuEntry shifts(const Workplace& at, Browser& browser) {
 
 }  // namespace
 
-MenuEntries registerEntries(const Workplace& at, Browser& browser, TextEditor& editor) {
-    return {companies(at, browser), employees(at, browser, editor), shifts(at, browser)};
+MenuEntries registerEntries(const Workplace& at, TextEditor& editor) {
+    return {companies(at), employees(at, editor), shifts(at)};
 }
 
 }  // namespace winvrx

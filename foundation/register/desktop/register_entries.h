@@ -5,12 +5,10 @@
 
 namespace winvrx {
 
-class Browser;
 class TextEditor;
 
 /// The registers' commands of the main window: companies, employees, shifts. The arguments outlive
 /// the entries.
-[[nodiscard]] MenuEntries registerEntries(const Workplace& at, Browser& browser,
-                                          TextEditor& editor);
+[[nodiscard]] MenuEntries registerEntries(const Workplace& at, TextEditor& editor);
 
 }  // namespace winvrx

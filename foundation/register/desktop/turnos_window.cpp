@@ -99,7 +99,6 @@ void TurnosWindow::buildCommands() {
     QToolButton* change = addCommand(QStringLiteral("edit"), QStringLiteral("Alterar Turno"),
                                      Qt::Key_F2, QStringLiteral("turnos.change"));
     connect(change, &QToolButton::clicked, this, &TurnosWindow::changeShift);
-    connect(this, &ScreenWindow::helpRequested, this, [this] { turnos_.help(); });
     QPushButton* save = addClosingButton(QStringLiteral("&Gravar"), QStringLiteral("turnos.save"));
     save->setIcon(look::icon(QStringLiteral("save")));
     save->setDefault(true);

@@ -23,7 +23,6 @@ constexpr int kWideShare = 40;
 
 RegisterWindow::RegisterWindow(ListScreen& list, const Texts& texts, QWidget* parent)
     : ScreenWindow(texts.screen, texts.title, parent), commands_(list) {
-    connect(this, &ScreenWindow::helpRequested, this, [this] { commands_.help(); });
     list_ = new RegisterList(texts.screen, texts.listTitle, texts.searchHint, texts.headings, this);
     list_->setEmptyTexts(texts.emptyList, texts.emptyAction);
     connect(list_, &RegisterList::chosen, this, &RegisterWindow::choose);

@@ -14,6 +14,8 @@
 #include <QShortcut>
 #include <QToolButton>
 
+#include <utility>
+
 namespace winvrx {
 
 namespace {
@@ -37,7 +39,16 @@ QString withKey(const QString& text, const QKeySequence& key) {
     return text + QStringLiteral("  ") + key.toString(QKeySequence::NativeText);
 }
 
+std::function<void()>& openHelp() {
+    static std::function<void()> open;
+    return open;
+}
+
 }  // namespace
+
+void ScreenWindow::setHelp(std::function<void()> open) {
+    openHelp() = std::move(open);
+}
 
 ScreenWindow::ScreenWindow(const QString& objectName, const QString& title, QWidget* parent)
     : QDialog(parent) {
@@ -84,7 +95,9 @@ void ScreenWindow::buildCommandBar() {
                                    objectName() + QStringLiteral(".help"));
     commands_->removeWidget(help);
     commands_->addWidget(help);
-    connect(help, &QToolButton::clicked, this, &ScreenWindow::helpRequested);
+    connect(help, &QToolButton::clicked, this, [] {
+        if (openHelp()) openHelp()();
+    });
 }
 
 void ScreenWindow::buildStateBar() {

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
@@ -24,16 +26,16 @@ namespace winvrx {
 ///         addClosingButton("&Sair", "empresa.close");
 ///     }
 ///
-/// Keys: F1 asks for help; Esc closes through `mayClose`; Enter in a field moves to the next one,
-/// and in the last field (property "lastField") presses the default button.
+/// Keys: F1 opens the help page; Esc closes through `mayClose`; Enter in a field moves to the next
+/// one, and in the last field (property "lastField") presses the default button.
 class ScreenWindow : public QDialog {
     Q_OBJECT
 
   public:
     ScreenWindow(const QString& objectName, const QString& title, QWidget* parent);
 
-  signals:
-    void helpRequested();
+    /// What F1 does in every window.
+    static void setHelp(std::function<void()> open);
 
   protected:
     void setSubtitle(const QString& text);

@@ -32,7 +32,7 @@ class CardScreens {
         cards.choices().output = output;
         const CartaoWindowDesk screens{
             .openStocks = [this](QWidget* over) { openStocks(over); },
-            .openWorkMonth = [this](QWidget* over) { openWorkMonth(at_, desk_.browser, over); },
+            .openWorkMonth = [this](QWidget* over) { openWorkMonth(at_, over); },
             .openPrinters = [this](QWidget* over) { openPrinters(over); },
             .openAlignment = [this](QWidget* over) { openAlignment(over); }};
         CartaoWindow(cards, screens, parent).exec();
@@ -40,18 +40,18 @@ class CardScreens {
 
   private:
     void openStocks(QWidget* parent) {
-        TipoPonto stocks(at_, desk_.browser);
+        TipoPonto stocks(at_);
         CardPictures pictures(desk_.layoutFolders, at_.log);
         TipoPontoWindow(stocks, pictures, parent).exec();
     }
 
     void openPrinters(QWidget* parent) {
-        Impressorar printers(at_, desk_.browser, desk_.printers);
+        Impressorar printers(at_, desk_.printers);
         ImpressorarWindow(printers, parent).exec();
     }
 
     void openAlignment(QWidget* parent) {
-        CartaoPontos alignment(at_, {desk_.browser, desk_.engine, desk_.printers, alignment_});
+        CartaoPontos alignment(at_, {desk_.engine, desk_.printers, alignment_});
         const LayoutSource layouts = [this](const std::string& name) {
             return loadLayout(desk_.layoutFolders(), name, cardColumns());
         };

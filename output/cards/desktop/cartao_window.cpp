@@ -131,7 +131,6 @@ QWidget* CartaoWindow::buildPreview(QWidget* parent) {
 }
 
 void CartaoWindow::connectAll() {
-    connect(this, &ScreenWindow::helpRequested, this, [this] { cartao_.help(); });
     connect(choices_, &PrintChoicesBox::changed, this, [this] {
         cartao_.choices() = choices_->choices();
         showPreview();

@@ -104,7 +104,6 @@ QWidget* CartaoPontosWindow::buildAdjustments(QWidget* parent) {
 }
 
 void CartaoPontosWindow::connectAll() {
-    connect(this, &ScreenWindow::helpRequested, this, [this] { screen_.help(); });
     connect(entries_, &QTreeWidget::currentItemChanged, this,
             [this](QTreeWidgetItem* item) { select(entries_->indexOfTopLevelItem(item)); });
     connect(pad_, &AlignmentPad::moveRequested, this, &CartaoPontosWindow::move);

@@ -42,7 +42,6 @@ TipoPontoWindow::TipoPontoWindow(TipoPonto& stocks, CardPictures& pictures, QWid
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &TipoPontoWindow::reject);
     connect(options_, &StockGrid::picked, this, &TipoPontoWindow::choose);
-    connect(this, &ScreenWindow::helpRequested, this, [this] { stocks_.help(); });
     stocks_.load();
     showCurrent();
     options_->setFocus();

@@ -5,6 +5,7 @@
 #include "tests/support/employee_desk.h"
 #include "tests/support/plain_archiver.h"
 #include "tests/support/recording_engine.h"
+#include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
 #include "tests/support/writing_commands.h"
 

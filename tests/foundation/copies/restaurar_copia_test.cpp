@@ -1,7 +1,6 @@
 #include "foundation/copies/restaurar_copia.h"
 
 #include "tests/support/plain_archiver.h"
-#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 
 #include <gmock/gmock.h>
@@ -28,8 +27,7 @@ class RestaurarCopiaTest : public ::testing::Test {
     testing::TestWorkplace desk;
     testing::PlainArchiver archiver;
     SafetyCopies safety{desk.files, archiver, desk.log};
-    testing::TestBrowser browser;
-    RestaurarCopia screen{desk.at, safety, browser};
+    RestaurarCopia screen{desk.at, safety};
 };
 
 TEST_F(RestaurarCopiaTest, TellsInWordsWhatACopyBringsBack) {

@@ -1,7 +1,6 @@
 #include "foundation/register/empresa.h"
 #include "tests/support/employee_desk.h"
 #include "tests/support/fenced_files.h"
-#include "tests/support/test_browser.h"
 
 #include <gmock/gmock.h>
 
@@ -22,7 +21,6 @@ const std::vector<std::string> kHostileCodes = {
 struct HostileNames : ::testing::Test {
     TestWorkplace desk;
     FencedFiles fenced{desk.files, "/data"};
-    testing::TestBrowser browser;
     testing::TestEditor editor;
     testing::TestSpreadsheet spreadsheet;
     testing::TestLocks locks;
@@ -38,7 +36,7 @@ TEST_F(HostileNames, ACompanyLineNamesNoFileOutside) {
     for (const std::string& code : kHostileCodes)
         bytes += code + " EMPRESA\r\n";
     desk.file("01Empresa") = bytes;
-    Empresa screen(at, browser);
+    Empresa screen(at);
     screen.load();
     ASSERT_EQ(screen.lines().size(), kHostileCodes.size() + 1);
     for (std::size_t row = kHostileCodes.size(); row > 0; --row) {
@@ -59,7 +57,7 @@ TEST_F(HostileNames, AnEmployeeLineNamesNoFileOutside) {
     for (const std::string& code : kHostileCodes)
         bytes += code + " NOME\r\n";
     desk.file("01CartaPonto") = bytes;
-    Empregados screen(at, {browser, editor, spreadsheet, locks, locks});
+    Empregados screen(at, {editor, spreadsheet, locks, locks});
     screen.load();
     ASSERT_EQ(screen.lines().size(), kHostileCodes.size());
     EXPECT_THAT(employeesOf(screen.lines(), ShiftFilter::Todos), IsEmpty());
@@ -77,7 +75,7 @@ TEST_F(HostileNames, ATypedCodeNamesNoFileOutside) {
     typed.admission = "01/02/2020";
     typed.shift = "Unico";
     typed.scale = "Normal";
-    Empregados screen(at, {browser, editor, spreadsheet, locks, locks});
+    Empregados screen(at, {editor, spreadsheet, locks, locks});
     screen.load();
     for (const std::string& code : kHostileCodes) {
         typed.code = code;

@@ -1,7 +1,6 @@
 #include "foundation/register/empresa.h"
 
 #include "foundation/register/employee_register.h"
-#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 
 #include <gmock/gmock.h>
@@ -11,7 +10,6 @@ namespace winvrx {
 namespace {
 
 using ::testing::ElementsAre;
-using testing::TestBrowser;
 using testing::TestWorkplace;
 
 constexpr auto kFirstConfirmation = "Confirma a Exclusão do Item Selecionado?";
@@ -53,8 +51,7 @@ class EmpresaTest : public ::testing::Test {
     }
 
     TestWorkplace desk_;
-    TestBrowser browser_;
-    Empresa empresa_{desk_.at, browser_};
+    Empresa empresa_{desk_.at};
 };
 
 TEST_F(EmpresaTest, IncludeAppendsUnderTheNextCode) {
@@ -216,14 +213,6 @@ TEST_F(EmpresaTest, TheFirstCompanyIsTheFirstThatIsUnderstood) {
     desk_.person.answers.assign(6, Answer::Yes);
     EXPECT_FALSE(empresa_.remove(1, DeleteOption::CompanyAndEmployees));
     EXPECT_EQ(codes(), "01 02 03 ") << "the list changes only with a success";
-}
-
-TEST_F(EmpresaTest, HelpThatCannotBeShownIsTold) {
-    empresa_.help();
-    EXPECT_TRUE(desk_.person.shown.empty());
-    browser_.works = false;
-    empresa_.help();
-    EXPECT_THAT(desk_.person.takeTexts(), ElementsAre("Ocorreu Erro"));
 }
 
 }  // namespace

@@ -29,7 +29,7 @@ class TurnosTest : public ::testing::Test {
     }
 
     EmployeeDesk desk_;
-    Turnos turnos_{desk_.at, desk_.browser, desk_.locks, desk_.locks};
+    Turnos turnos_{desk_.at, desk_.locks, desk_.locks};
 };
 
 TEST_F(TurnosTest, ChangesTheShiftOnly) {
@@ -55,8 +55,7 @@ TEST_F(TurnosTest, TheListFollowsTheFilter) {
     turnos_.list().filterBy(ShiftFilter::Dois);
     EXPECT_EQ(shown(), "");
     desk_.session.shiftFilter = ShiftFilter::Unico;
-    EXPECT_EQ(Turnos(desk_.at, desk_.browser, desk_.locks, desk_.locks).list().shift(),
-              ShiftFilter::Unico);
+    EXPECT_EQ(Turnos(desk_.at, desk_.locks, desk_.locks).list().shift(), ShiftFilter::Unico);
 }
 
 TEST_F(TurnosTest, Refuses) {

@@ -278,15 +278,6 @@ TEST_F(CartaoTest, UnreadableRegisterIsToldOnce) {
     }
 }
 
-TEST_F(CartaoOpened, HelpIsOpenedOrItsFailureTold) {
-    screen.help();
-    EXPECT_EQ(browser.opened, 1);
-    EXPECT_TRUE(desk.person.shown.empty());
-    browser.works = false;
-    screen.help();
-    EXPECT_EQ(desk.person.takeTexts(), Texts{"Ocorreu Erro"});
-}
-
 TEST_F(CartaoOpened, ProgressCancelsTheRun) {
     EXPECT_FALSE(screen.printAll({.progress = [](int done, int) { return done < 2; }}));
     EXPECT_EQ(printed(), (Texts{"JOSÉ DA SILVA", "ANA PAULA"}));

@@ -3,7 +3,6 @@
 #include "foundation/register/company_register.h"
 #include "output/stocks/card_rows.h"
 #include "tests/support/recording_engine.h"
-#include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
 #include "tests/support/test_workplace.h"
 
@@ -13,7 +12,6 @@ namespace winvrx {
 namespace {
 
 using testing::RecordingEngine;
-using testing::TestBrowser;
 using testing::TestPrinters;
 using testing::TestWorkplace;
 using Texts = std::vector<std::string>;
@@ -35,11 +33,10 @@ struct CartaoPontosTest : ::testing::Test {
     }
 
     TestWorkplace desk;
-    TestBrowser browser;
     RecordingEngine engine;
     TestPrinters printers;
     AlignmentMemory memory;
-    CartaoPontos screen{desk.at, {browser, engine, printers, memory}};
+    CartaoPontos screen{desk.at, {engine, printers, memory}};
 };
 
 TEST_F(CartaoPontosTest, EachStepIsTwentyTwipsWithinTheBoundsAndRecorded) {
@@ -104,7 +101,7 @@ TEST_F(CartaoPontosTest, LineOffsetTakesTheTextsOfItsListOnly) {
         EXPECT_EQ(screen.alignment().lines, one.lines) << one.typed;
     }
     screen.typeLineOffset("4 Linhas");
-    CartaoPontos reopened(desk.at, {browser, engine, printers, memory});
+    CartaoPontos reopened(desk.at, {engine, printers, memory});
     reopened.load();
     EXPECT_EQ(reopened.lineOffset(), "4 Linhas");
 }

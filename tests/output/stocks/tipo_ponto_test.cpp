@@ -1,6 +1,5 @@
 #include "output/stocks/tipo_ponto.h"
 
-#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 
 #include <gtest/gtest.h>
@@ -10,12 +9,9 @@
 namespace winvrx {
 namespace {
 
-using testing::TestBrowser;
 using testing::TestWorkplace;
 
-struct Desk : TestWorkplace {
-    TestBrowser browser;
-};
+struct Desk : TestWorkplace {};
 
 constexpr const char* kSetting = "/data/01CartaoDePontoTipo";
 
@@ -96,13 +92,13 @@ TEST(TipoPonto, ChoosingWritesOneLineAndShowsTheName) {
     for (const KnownStock& known : kKnownCards) {
         Desk desk;
         desk.file("01CartaoDePontoTipo") = "01Tilibra\r\nfurther line\r\n";
-        TipoPonto screen(desk.at, desk.browser);
+        TipoPonto screen(desk.at);
         screen.load();
         EXPECT_TRUE(screen.choose(*findStock(known.code)));
         EXPECT_EQ(screen.label(), known.shown);
         EXPECT_EQ(desk.files.content.at(kSetting), std::string(known.line) + "\r\n");
 
-        TipoPonto reopened(desk.at, desk.browser);
+        TipoPonto reopened(desk.at);
         reopened.load();
         EXPECT_EQ(reopened.label(), known.shown);
     }
@@ -112,12 +108,12 @@ TEST(TipoPonto, UnknownOrMissingCodeLeavesTheLabelEmpty) {
     for (const char* content : {"", "\r\n", "77Outro\r\n", "Tilibra\r\n", " 1Tilibra\r\n"}) {
         Desk desk;
         desk.file("01CartaoDePontoTipo") = content;
-        TipoPonto screen(desk.at, desk.browser);
+        TipoPonto screen(desk.at);
         screen.load();
         EXPECT_EQ(screen.label(), "") << content;
     }
     Desk desk;
-    TipoPonto screen(desk.at, desk.browser);
+    TipoPonto screen(desk.at);
     screen.load();
     EXPECT_EQ(screen.label(), "");
     EXPECT_TRUE(desk.person.shown.empty());
@@ -126,7 +122,7 @@ TEST(TipoPonto, UnknownOrMissingCodeLeavesTheLabelEmpty) {
 TEST(TipoPonto, AChoiceMadeElsewhereMeanwhileStands) {
     Desk desk;
     desk.file("01CartaoDePontoTipo") = "05\r\n";
-    TipoPonto screen(desk.at, desk.browser);
+    TipoPonto screen(desk.at);
     screen.load();
     desk.file("01CartaoDePontoTipo") = "12SDN\r\n";
     EXPECT_FALSE(screen.choose(*findStock("01")));
@@ -139,7 +135,7 @@ TEST(TipoPonto, AChoiceMadeElsewhereMeanwhileStands) {
 TEST(TipoPonto, FailedChoiceIsToldAndTheFormerOneStands) {
     Desk desk;
     desk.file("01CartaoDePontoTipo") = "05\r\n";
-    TipoPonto screen(desk.at, desk.browser);
+    TipoPonto screen(desk.at);
     screen.load();
     desk.files.failOn.insert("01CartaoDePontoTipo");
     EXPECT_FALSE(screen.choose(*findStock("01")));

@@ -4,6 +4,7 @@
 #include "tests/support/printed_text.h"
 #include "tests/support/printing_screen.h"
 #include "tests/support/report_desk.h"
+#include "tests/support/test_browser.h"
 
 #include <QCoreApplication>
 
@@ -117,7 +118,7 @@ class PrintingScreen : public Cups {
         if (IsSkipped()) return;
         fillPrintingDesk(office_, "05");
         printServer.addPrinter(QStringLiteral("cartao"));
-        Impressorar choice(office_.at, browser_, printers_);
+        Impressorar choice(office_.at, printers_);
         choice.load();
         const auto& names = choice.printers();
         const auto at = std::ranges::find(names, "cartao") - names.begin();
@@ -127,10 +128,10 @@ class PrintingScreen : public Cups {
     }
 
     TestWorkplace office_;
-    TestBrowser browser_;
     SystemPrinters printers_;
     AlignmentMemory alignment_;
     TestLeaves leaves_;
+    TestBrowser browser_;
     Cartao screen_{office_.at, {browser_, desk_.engine, printers_, alignment_, leaves_}};
 };
 

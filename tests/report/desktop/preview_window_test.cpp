@@ -174,14 +174,5 @@ TEST_F(Preview, SaysWhatBecameOfThePrint) {
     EXPECT_EQ(asked, 2);
 }
 
-TEST_F(Preview, AsksForHelp) {
-    desk_.browser.works = false;
-    (void)preview(1, [this](PreviewWindow& window) {
-        QTest::keyClick(&window, Qt::Key_F1);
-        EXPECT_EQ(desk_.browser.opened, 1);
-        EXPECT_TRUE(stateOf(window).contains(QStringLiteral("⚠")));
-    });
-}
-
 }  // namespace
 }  // namespace winvrx::testing

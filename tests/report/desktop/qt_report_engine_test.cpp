@@ -90,7 +90,7 @@ TEST(ReportEngine, PrintsNothingWithoutASoundLayout) {
 TEST(ReportEngine, SaysWhenItIsNotInstalled) {
     ReportDesk desk;
     QtReportEngine engine([&desk] { return std::vector{desk.folder / "missing"}; },
-                          [&desk] { return desk.database; }, desk.browser, desk.log);
+                          [&desk] { return desk.database; }, desk.log);
     ReportPages none(0, sampleCard);
     EXPECT_EQ(printPages({desk.office.at, engine}, desk.request, none), PrintEnd::Failed);
     EXPECT_THAT(desk.office.person.shown.at(0).text, HasSubstr("Confirme a Instalação"));

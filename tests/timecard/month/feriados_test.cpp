@@ -1,6 +1,5 @@
 #include "timecard/month/feriados.h"
 
-#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 
 #include <gmock/gmock.h>
@@ -9,13 +8,11 @@ namespace winvrx {
 namespace {
 
 using ::testing::ElementsAre;
-using testing::TestBrowser;
 using testing::TestWorkplace;
 
 struct HolidayList : ::testing::Test {
     TestWorkplace desk;
-    TestBrowser browser;
-    Feriados screen{desk.at, browser};
+    Feriados screen{desk.at};
     const std::string anniversary =
         "05/12      ANIVERS\xC1RIO DE TAUBAT\xC9                   guardado";
 

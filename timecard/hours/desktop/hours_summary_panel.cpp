@@ -188,7 +188,6 @@ void HoursSummaryPanel::waitForSecondClick(int row, int column) {
 void HoursSummaryPanel::explain(int row, int column) {
     const SummaryColumn& of = columnAt(column);
     HoursExplanationWindow window(hours_, categoryOf(row), of.half, owner_, this);
-    connect(&window, &ScreenWindow::helpRequested, this, &HoursSummaryPanel::helpRequested);
     window.exec();
 }
 

@@ -25,8 +25,6 @@ class HoursSummaryPanel : public QWidget {
   signals:
     /// The operator typed another percentage for a category of extra hours.
     void percentTyped(winvrx::HourCategory category, const QString& typed);
-    /// F1 in the window that explains a figure.
-    void helpRequested();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

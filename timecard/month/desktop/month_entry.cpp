@@ -8,28 +8,26 @@
 
 namespace winvrx {
 
-void openWorkMonth(const Workplace& at, Browser& browser, QWidget* parent) {
+void openWorkMonth(const Workplace& at, QWidget* parent) {
     DataMesCorrente month(at);
     month.open();
     DataMesCorrenteWindow window(month, parent);
     QObject::connect(&window, &DataMesCorrenteWindow::localHolidaysRequested, &window, [&] {
-        Feriados holidays(at, browser);
+        Feriados holidays(at);
         FeriadosWindow(holidays, &window).exec();
         window.refreshHolidays();
     });
-    QObject::connect(&window, &ScreenWindow::helpRequested, &window,
-                     [&] { openHelp(at, browser); });
     window.exec();
 }
 
-MenuEntry monthEntry(const Workplace& at, Browser& browser) {
+MenuEntry monthEntry(const Workplace& at) {
     return {.group = QStringLiteral("Cartão de Ponto"),
             .objectName = QStringLiteral("menu.month.open"),
             .icon = QStringLiteral("month"),
             .title = QStringLiteral("&Mês"),
             .key = Qt::Key_F4,
             .needs = MenuNeeds::Company,
-            .open = [at, &browser](QWidget* parent) { openWorkMonth(at, browser, parent); },
+            .open = [at](QWidget* parent) { openWorkMonth(at, parent); },
             .state =
                 [](const MonthProgress* progress) {
                     return progress && progress->month ? toQt(monthTitle(*progress->month))

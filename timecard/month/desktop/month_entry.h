@@ -5,12 +5,10 @@
 
 namespace winvrx {
 
-class Browser;
-
 /// Opens the work month's screen and returns when it is closed.
-void openWorkMonth(const Workplace& at, Browser& browser, QWidget* parent);
+void openWorkMonth(const Workplace& at, QWidget* parent);
 
 /// The work month's command of the main window.
-[[nodiscard]] MenuEntry monthEntry(const Workplace& at, Browser& browser);
+[[nodiscard]] MenuEntry monthEntry(const Workplace& at);
 
 }  // namespace winvrx

@@ -89,7 +89,6 @@ QWidget* CartaoPontoDadosWindow::buildSide() {
 
 QWidget* CartaoPontoDadosWindow::buildHours() {
     hours_ = new HoursSummaryPanel(this);
-    connect(hours_, &HoursSummaryPanel::helpRequested, this, &ScreenWindow::helpRequested);
     connect(hours_, &HoursSummaryPanel::percentTyped, this,
             [this](HourCategory category, const QString& typed) {
                 (void)command_.changePercent(category, toUtf8(typed));

@@ -9,31 +9,29 @@ namespace winvrx {
 
 namespace {
 
-void openTimeCard(const Workplace& at, Browser& browser, QWidget* parent) {
+void openTimeCard(const Workplace& at, QWidget* parent) {
     const RecordedAnswers records(at.store());
     CartaoPontoDados card(at, {records, records, records});
     (void)card.open();
     CartaoPontoDadosWindow window(card, parent);
     QObject::connect(&window, &CartaoPontoDadosWindow::monthSettingsRequested, &window, [&] {
-        openWorkMonth(at, browser, &window);
+        openWorkMonth(at, &window);
         (void)card.open();
         window.refresh();
     });
-    QObject::connect(&window, &ScreenWindow::helpRequested, &window,
-                     [&] { openHelp(at, browser); });
     window.exec();
 }
 
 }  // namespace
 
-MenuEntry timeCardEntry(const Workplace& at, Browser& browser) {
+MenuEntry timeCardEntry(const Workplace& at) {
     return {.group = QStringLiteral("Cartão de Ponto"),
             .objectName = QStringLiteral("menu.timecard.open"),
             .icon = QStringLiteral("card"),
             .title = QStringLiteral("&Dados"),
             .key = Qt::Key_F5,
             .needs = MenuNeeds::Employees,
-            .open = [at, &browser](QWidget* parent) { openTimeCard(at, browser, parent); },
+            .open = [at](QWidget* parent) { openTimeCard(at, parent); },
             .state =
                 [](const MonthProgress* progress) {
                     return progress && progress->month ? QStringLiteral("%1 de %2 preenchidos")

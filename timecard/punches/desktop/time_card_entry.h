@@ -5,9 +5,7 @@
 
 namespace winvrx {
 
-class Browser;
-
 /// The time card's command of the main window.
-[[nodiscard]] MenuEntry timeCardEntry(const Workplace& at, Browser& browser);
+[[nodiscard]] MenuEntry timeCardEntry(const Workplace& at);
 
 }  // namespace winvrx

@@ -1,7 +1,6 @@
 #include "foundation/copies/desktop/restaurar_copia_window.h"
 
 #include "tests/support/plain_archiver.h"
-#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 #include "tests/support/window_driver.h"
 
@@ -40,8 +39,7 @@ class RestaurarCopiaWindowTest : public ::testing::Test {
     testing::TestWorkplace desk_;
     testing::PlainArchiver archiver_;
     SafetyCopies safety_{desk_.files, archiver_, desk_.log};
-    testing::TestBrowser browser_;
-    RestaurarCopia screen_{desk_.at, safety_, browser_};
+    RestaurarCopia screen_{desk_.at, safety_};
     std::unique_ptr<RestaurarCopiaWindow> window_;
     std::unique_ptr<WindowDriver> driver_;
 };
@@ -55,8 +53,6 @@ TEST_F(RestaurarCopiaWindowTest, ShowsTheCopiesAndWhatTheNewestBringsBack) {
     EXPECT_EQ(driver_->focusName(), "restaurar.list");
     EXPECT_THAT(summary(), HasSubstr("não há o que restaurar"));
     EXPECT_EQ(driver_->namelessWidgets(), "");
-    driver_->press(Qt::Key_F1);
-    EXPECT_EQ(browser_.opened, 1);
 }
 
 TEST_F(RestaurarCopiaWindowTest, RestoresTheSelectedCopyByKeyboard) {

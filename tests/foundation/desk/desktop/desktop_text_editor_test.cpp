@@ -87,7 +87,7 @@ TEST(DesktopTextEditor, HandsTheFileToTheRegisteredEditor) {
     desktop.registerEditor();
     desktop.write("01RelAtivos.txt", " RELAT\xD3RIO DE COLABORADORES ATIVOS - 15/03/2024\r\n");
     EmployeeDesk desk;
-    DesktopTextEditor editor(desk.files, desk.browser);
+    DesktopTextEditor editor(desk.files);
     ASSERT_TRUE(editor.open(desktop.path("01RelAtivos.txt").toStdString()));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !desktop.opened().isEmpty(); }));
     EXPECT_EQ(desktop.opened(), desktop.path("01RelAtivos.txt").toUtf8());
@@ -99,7 +99,7 @@ TEST(DesktopTextEditor, ShowsTheReportItselfWithoutAHandler) {
     desktop.forgetTheSystem();
     EmployeeDesk desk;
     desk.file("01RelAtivos.txt") = "Fun\xE7\xE3o\r\n";
-    DesktopTextEditor viewer(desk.files, desk.browser);
+    DesktopTextEditor viewer(desk.files);
     EXPECT_FALSE(viewer.open("/data/missing.txt"));
     ASSERT_TRUE(viewer.open("/data/01RelAtivos.txt"));
     QWidget* shown = viewerShown();

@@ -17,7 +17,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-using testing::TestBrowser;
 using testing::TestWorkplace;
 using testing::WindowDriver;
 
@@ -34,8 +33,7 @@ class EmpresaWindowTest : public ::testing::Test {
     [[nodiscard]] const std::string& file() { return desk_.file("01Empresa"); }
 
     TestWorkplace desk_;
-    TestBrowser browser_;
-    Empresa empresa_{desk_.at, browser_};
+    Empresa empresa_{desk_.at};
     EmpresaWindow window_{empresa_};
     WindowDriver screen_{window_};
 };
@@ -167,9 +165,17 @@ TEST_F(EmpresaWindowTest, TypedTextIsAskedAboutBeforeItIsLeft) {
     EXPECT_FALSE(window_.isVisible()) << "nothing typed, nothing asked";
 }
 
-TEST_F(EmpresaWindowTest, HelpOpens) {
+/// As in every window.
+TEST_F(EmpresaWindowTest, HelpIsOpenedOrItsFailureTold) {
+    testing::TestBrowser browser;
+    ScreenWindow::setHelp([&] { openHelp(desk_.at, browser); });
     screen_.press(Qt::Key_F1);
-    EXPECT_EQ(browser_.opened, 1);
+    EXPECT_EQ(browser.opened, 1);
+    EXPECT_THAT(desk_.person.shown, IsEmpty());
+    browser.works = false;
+    screen_.press(Qt::Key_F1);
+    EXPECT_THAT(desk_.person.takeTexts(), ElementsAre("Ocorreu Erro"));
+    ScreenWindow::setHelp({});
 }
 
 TEST_F(EmpresaWindowTest, ALineThatIsNotUnderstoodIsShownAndCanOnlyBeDeleted) {

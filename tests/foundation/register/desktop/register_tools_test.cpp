@@ -23,7 +23,7 @@ using namespace testing;
 TEST(TurnosWindow, ChangesShiftsWithTheKeyboardAlone) {
     EmployeeDesk desk;
     desk.record("01", {EmployeeDesk::employee("001", "ANA"), EmployeeDesk::employee("002", "BIA")});
-    Turnos turnos(desk.at, desk.browser, desk.locks, desk.locks);
+    Turnos turnos(desk.at, desk.locks, desk.locks);
     TurnosWindow window(turnos);
     const WindowDriver screen(window);
     EXPECT_EQ(screen.focusName(), "turnos.employees");
@@ -47,7 +47,7 @@ TEST(TurnosWindow, ChangesShiftsWithTheKeyboardAlone) {
 
 TEST(TurnosWindow, AnEmptyListSaysWhatToDoNext) {
     EmployeeDesk desk;
-    Turnos turnos(desk.at, desk.browser, desk.locks, desk.locks);
+    Turnos turnos(desk.at, desk.locks, desk.locks);
     TurnosWindow window(turnos);
     const WindowDriver screen(window);
     const auto& all = screen.find<QPushButton>("turnos.everyShift");

@@ -30,7 +30,6 @@ using testing::DrivenWindow;
 using testing::employee;
 using testing::employeeList;
 using testing::RecordingEngine;
-using testing::TestBrowser;
 using testing::TestLeaves;
 using testing::TestPrinters;
 using testing::TestWorkplace;
@@ -49,11 +48,11 @@ class CartaoWindowTest : public ::testing::Test {
     }
 
     TestWorkplace desk;
-    TestBrowser browser;
     RecordingEngine engine;
     TestPrinters printers;
     AlignmentMemory alignment;
     TestLeaves leaves;
+    testing::TestBrowser browser;
     Cartao cartao{desk.at, {browser, engine, printers, alignment, leaves}};
 };
 
@@ -140,8 +139,6 @@ TEST_F(CartaoWindowTest, ReturnsFromTheOtherScreensUpToDate) {
     EXPECT_EQ(driven.text("cartao.printerTray2"), "Manual");
     EXPECT_EQ(cartao.choices().printer.trays[1], "Manual");
     EXPECT_EQ(driven.find<QListWidget>("cartao.employees").currentRow(), 1);
-    QTest::keyClick(&driven.window, Qt::Key_F1);
-    EXPECT_EQ(browser.opened, 1);
 }
 
 /// A progress dialog shows by itself after a while, over the question that waits by then, and the

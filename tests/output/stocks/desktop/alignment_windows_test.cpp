@@ -5,7 +5,6 @@
 #include "report/desktop/qt_report_engine.h"
 #include "report/impressorar.h"
 #include "tests/support/recording_engine.h"
-#include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
 #include "tests/support/test_workplace.h"
 #include "tests/support/window_driver.h"
@@ -23,7 +22,6 @@ namespace {
 using testing::DrivenWindow;
 using ::testing::IsEmpty;
 using testing::RecordingEngine;
-using testing::TestBrowser;
 using testing::TestPrinters;
 using testing::TestWorkplace;
 
@@ -36,11 +34,10 @@ struct AlignmentWindow : ::testing::Test {
     AlignmentWindow() { desk.file("01CartaoDePontoTipo") = "01Tilibra\r\n"; }
 
     TestWorkplace desk;
-    TestBrowser browser;
     RecordingEngine engine;
     TestPrinters printers;
     AlignmentMemory memory;
-    CartaoPontos screen{desk.at, {browser, engine, printers, memory}};
+    CartaoPontos screen{desk.at, {engine, printers, memory}};
 
     /// Where the leftmost and the topmost black dot of the sample lies, in dots of the paper.
     static QPoint firstInk(DrivenWindow<CartaoPontosWindow>& driven) {
@@ -207,12 +204,12 @@ TEST_F(AlignmentWindow, EachAltLetterLeadsToOnePlace) {
     EXPECT_EQ(driven.sharedAltLetters(), "");
     driven.find<QTabWidget>("cartaoPontos.tabs").setCurrentIndex(1);
     EXPECT_EQ(driven.sharedAltLetters(), "");
-    Impressorar choice(desk.at, browser, printers);
+    Impressorar choice(desk.at, printers);
     EXPECT_EQ(DrivenWindow<ImpressorarWindow>(choice).sharedAltLetters(), "");
 }
 
 TEST_F(AlignmentWindow, PrinterIsChosenByOptionAndList) {
-    Impressorar choice(desk.at, browser, printers);
+    Impressorar choice(desk.at, printers);
     DrivenWindow<ImpressorarWindow> driven(choice);
     auto& list = driven.find<QListWidget>("impressorar.printers");
     EXPECT_EQ(driven.label("subtitle"), "Em uso: impressora padrão");
@@ -243,7 +240,7 @@ TEST_F(AlignmentWindow, PrinterIsChosenByOptionAndList) {
 TEST_F(AlignmentWindow, AChoiceThatCannotBeReadIsToldOnce) {
     desk.file("ConfigX") = "Epson\r\n";
     desk.files.failOn = {"ConfigX"};
-    Impressorar choice(desk.at, browser, printers);
+    Impressorar choice(desk.at, printers);
     DrivenWindow<ImpressorarWindow> driven(choice);
     EXPECT_EQ(desk.person.takeTexts(), std::vector<std::string>{"Dados incorretos!"});
     printers.installed = {"Epson"};

@@ -3,7 +3,6 @@
 #include "output/stocks/desktop/card_pictures.h"
 #include "output/stocks/tipo_ponto.h"
 #include "report/desktop/qt_report_engine.h"
-#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 #include "tests/support/window_driver.h"
 
@@ -21,7 +20,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using testing::RecordedLog;
-using testing::TestBrowser;
 using testing::TestWorkplace;
 using testing::WindowDriver;
 
@@ -52,10 +50,9 @@ class TipoPontoWindowTest : public ::testing::Test {
     }
 
     TestWorkplace desk_;
-    TestBrowser browser_;
     LayoutPlaces places_;
     CardPictures pictures_{[this] { return places_.folders(); }, desk_.log};
-    TipoPonto stocks_{desk_.at, browser_};
+    TipoPonto stocks_{desk_.at};
 };
 
 TEST_F(TipoPontoWindowTest, IsChosenByMouseByArrowAndByCode) {
@@ -87,8 +84,6 @@ TEST_F(TipoPontoWindowTest, IsChosenByMouseByArrowAndByCode) {
     driver.typeHere("14");
     EXPECT_EQ(stored(), "20RHJ\r\n");
     EXPECT_EQ(driver.state(), "⚠ Nenhum cartão tem o código 14.");
-    driver.press(Qt::Key_F1);
-    EXPECT_EQ(browser_.opened, 1);
     driver.press(Qt::Key_Return);
     EXPECT_FALSE(window.isVisible());
 }

@@ -1,6 +1,5 @@
 #include "timecard/month/desktop/feriados_window.h"
 
-#include "tests/support/test_browser.h"
 #include "tests/support/test_workplace.h"
 #include "tests/support/window_driver.h"
 
@@ -12,14 +11,12 @@ namespace winvrx {
 namespace {
 
 using ::testing::ElementsAre;
-using testing::TestBrowser;
 using testing::TestWorkplace;
 using testing::WindowDriver;
 
 struct HolidayListWindow : ::testing::Test {
     TestWorkplace desk;
-    TestBrowser browser;
-    Feriados holidays{desk.at, browser};
+    Feriados holidays{desk.at};
 
     HolidayListWindow() { desk.file("Feriados") = "05/12      PADROEIRO\r\n31/02 NUNCA\r\n"; }
 };
