@@ -13,11 +13,6 @@ constexpr std::size_t kShortWeekday = 3;
 
 }  // namespace
 
-std::string_view activityOf(const Employee& employee, bool inactive) {
-    if (inactive) return "Inativo";
-    return employee.status == kDeletedStatus ? kDeletedStatus : "Ativo";
-}
-
 std::string searchedText(const Employee& employee) {
     std::string digits;
     std::copy_if(employee.taxId.begin(), employee.taxId.end(), std::back_inserter(digits),

@@ -104,9 +104,6 @@ struct RecordLayout<Employee> : LineLayout<kEmployeeFields, kEmployeeWidth, 0> {
     return employee.employeeCode();
 }
 
-/// "Inativo", "Excluido" or "Ativo", as lists show an employee.
-[[nodiscard]] std::string_view activityOf(const Employee& employee, bool inactive);
-
 /// What lists of employees are searched in: code, name, function, and CPF with its mask and
 /// without.
 [[nodiscard]] std::string searchedText(const Employee& employee);

@@ -17,6 +17,12 @@ std::vector<std::string> textsOf(const EmployeeMarks& marks) {
     return texts;
 }
 
+std::string_view activityOf(const Employee& employee, const EmployeeMarks& marks) {
+    if (marks.inactiveSince) return "Inativo";
+    if (employee.status == kDeletedStatus) return kDeletedStatus;
+    return marks.unreadable ? "Ilegível" : "Ativo";
+}
+
 EmployeeMarks leaveMarks(const LeaveCalendar& leaves, const EmployeeKey& key,
                          std::optional<WorkMonth> month) {
     try {
@@ -47,6 +53,11 @@ EmployeeList::Marks EmployeeList::leaveMarks(const LeaveCalendar& leaves,
     for (const EmployeeCode& code : leaves.recorded(company, names))
         marks.emplace(code, winvrx::leaveMarks(leaves, {company, code}, month));
     return marks;
+}
+
+EmployeeMarks EmployeeList::marksOf(const Marks& marks, const EmployeeCode& code) {
+    const auto found = marks.find(code);
+    return found == marks.end() ? EmployeeMarks() : found->second;
 }
 
 void EmployeeList::fill(const std::vector<EmployeeLine>& lines, Marks marks) {
@@ -95,8 +106,7 @@ std::optional<std::size_t> EmployeeList::positionOf(std::string_view code) const
 }
 
 EmployeeMarks EmployeeList::marks(std::size_t position) const {
-    const auto found = marks_.find(employees_.at(position).employeeCode().value());
-    return found == marks_.end() ? EmployeeMarks() : found->second;
+    return marksOf(marks_, employees_.at(position).employeeCode().value());
 }
 
 void EmployeeList::mark(std::size_t position, const EmployeeMarks& marks) {

@@ -26,6 +26,9 @@ struct EmployeeMarks {
 /// "COLABORADOR COM AFASTAMENTO!!!", "Folha Fechada", "Inativo desde 10/02/2024".
 [[nodiscard]] std::vector<std::string> textsOf(const EmployeeMarks& marks);
 
+/// "Inativo", "Excluido", "Ativo", or "Ilegível" where the leaves do not tell.
+[[nodiscard]] std::string_view activityOf(const Employee& employee, const EmployeeMarks& marks);
+
 /// What the leaves say of an employee; `onLeave` goes by `month`, without one it is false.
 [[nodiscard]] EmployeeMarks leaveMarks(const LeaveCalendar& leaves, const EmployeeKey& key,
                                        std::optional<WorkMonth> month);
@@ -44,6 +47,8 @@ inline constexpr std::size_t kMostNames = 30;
 class EmployeeList {
   public:
     using Marks = std::map<EmployeeCode, EmployeeMarks>;
+    /// Those of one employee; of whom nothing is on record, none.
+    [[nodiscard]] static EmployeeMarks marksOf(const Marks& marks, const EmployeeCode& code);
 
     /// What the leaves say of a company's employees; reads only of whom something is on record.
     [[nodiscard]] static Marks leaveMarks(const LeaveCalendar& leaves, const CompanyCode& company,

@@ -57,8 +57,7 @@ std::string keyOf(std::string_view title) {
 
 }  // namespace
 
-Table tableOf(const std::vector<EmployeeLine>& lines,
-              const std::map<EmployeeCode, Date>& inactive) {
+Table tableOf(const std::vector<EmployeeLine>& lines, const EmployeeList::Marks& marks) {
     Table table;
     for (const EmployeeField& field : kEmployeeFields)
         table.titles.emplace_back(field.caption);
@@ -68,7 +67,8 @@ Table tableOf(const std::vector<EmployeeLine>& lines,
         for (const EmployeeField& field : kEmployeeFields)
             row.push_back(line.record.*field.member);
         const auto code = line.key();
-        row.back() = activityOf(line.record, code && inactive.contains(*code));
+        row.back() =
+            activityOf(line.record, code ? EmployeeList::marksOf(marks, *code) : EmployeeMarks());
         table.rows.push_back(std::move(row));
     }
     return table;

@@ -1,22 +1,19 @@
 #pragma once
 
 #include "foundation/desk/spreadsheet.h"
-#include "foundation/register/employee_register.h"
+#include "foundation/register/employee_list.h"
 #include "foundation/values/csv.h"
-#include "foundation/values/date.h"
 
-#include <map>
-#include <optional>
 #include <string_view>
 #include <vector>
 
 // The employee list as a table for spreadsheet programs: one column a field, titled with the
-// field's caption, and "Situação" ("Ativo" or "Inativo") as the last one.
+// field's caption, and "Situação" (activityOf) as the last one.
 
 namespace winvrx {
 
 [[nodiscard]] Table tableOf(const std::vector<EmployeeLine>& lines,
-                            const std::map<EmployeeCode, Date>& inactive);
+                            const EmployeeList::Marks& marks);
 
 /// The titles as the first row.
 [[nodiscard]] CsvRows rowsOf(const Table& table);

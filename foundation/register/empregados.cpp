@@ -2,7 +2,6 @@
 
 #include "foundation/register/employee_checks.h"
 #include "foundation/register/employee_transfer.h"
-#include "foundation/register/leave_record.h"
 
 namespace winvrx {
 
@@ -74,9 +73,7 @@ void Empregados::reread() {
     if (!at_.session.company) return;
     lines_ = read();
     codesOfFiles_ = employeeRegister().codesOfFiles();
-    inactive_.clear();
-    // A leave file that cannot be read is told; the list can be worked with all the same.
-    inactive_ = inactiveEmployees(at_.store(), *at_.session.company);
+    marks_ = readMarks();
 }
 
 EmployeeRegister Empregados::employeeRegister() const {
@@ -94,10 +91,14 @@ void Empregados::write(const Lines& lines) {
     codesOfFiles_ = list.codesOfFiles();
 }
 
-std::optional<Date> Empregados::inactiveSince(const Employee& employee) const {
+EmployeeList::Marks Empregados::readMarks() const {
+    return EmployeeList::leaveMarks(RecordedAnswers(at_.store()), at_.session.company.value(),
+                                    namesIn(at_.store()), std::nullopt);
+}
+
+EmployeeMarks Empregados::marks(const Employee& employee) const {
     const auto code = employee.employeeCode();
-    const auto found = code ? inactive_.find(*code) : inactive_.end();
-    return found == inactive_.end() ? std::nullopt : std::optional(found->second);
+    return code ? EmployeeList::marksOf(marks_, *code) : EmployeeMarks();
 }
 
 std::optional<EmployeeCode> Empregados::proposedCode() const {
@@ -113,7 +114,7 @@ Employee Empregados::freshRecord() const {
 }
 
 ListRow Empregados::rowOf(const Employee& employee) const {
-    const std::string_view activity = activityOf(employee, inactiveSince(employee).has_value());
+    const std::string_view activity = activityOf(employee, marks(employee));
     return {{employee.code, employee.name, employee.function, std::string(activity)},
             searchedText(employee)};
 }
@@ -122,13 +123,14 @@ std::string Empregados::counts() const {
     if (lines_.empty()) return "nenhum funcionário";
     std::map<std::string_view, std::ptrdiff_t> shown;
     for (const Line& line : lines_)
-        if (line.key()) ++shown[activityOf(line.record, inactiveSince(line.record).has_value())];
-    const std::ptrdiff_t active = shown["Ativo"];
-    const std::ptrdiff_t inactive = shown["Inativo"];
+        ++shown[line.key() ? activityOf(line.record, marks(line.record)) : ""];
     const std::ptrdiff_t deleted = shown[kDeletedStatus];
-    return counted(active, "ativo") + ", " + counted(inactive, "inativo") +
+    const std::ptrdiff_t unreadable = shown["Ilegível"];
+    return counted(shown["Ativo"], "ativo") + ", " + counted(shown["Inativo"], "inativo") +
            (deleted > 0 ? ", " + counted(deleted, "excluído") : "") +
-           unreadCount(lines_.size() - static_cast<std::size_t>(active + inactive + deleted));
+           (unreadable > 0 ? ", " + std::to_string(unreadable) + " com afastamentos ilegíveis"
+                           : "") +
+           unreadCount(static_cast<std::size_t>(shown[""]));
 }
 
 std::string Empregados::newRecordTitle() const {

@@ -4,12 +4,11 @@
 #include "foundation/desk/spreadsheet.h"
 #include "foundation/desk/text_editor.h"
 #include "foundation/register/company_register.h"
-#include "foundation/register/employee_queries.h"
+#include "foundation/register/employee_list.h"
 #include "foundation/register/employee_register.h"
 
 #include <filesystem>
 #include <functional>
-#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -53,8 +52,8 @@ class Empregados : public ListCommands<Employee> {
     [[nodiscard]] const std::string& companyTitle() const { return companyTitle_; }
     /// The companies that an employee can be transferred to.
     [[nodiscard]] const std::vector<CompanyLine>& otherCompanies() const { return others_; }
-    /// The day since which the employee is inactive, by the leave file.
-    [[nodiscard]] std::optional<Date> inactiveSince(const Employee& employee) const;
+    /// What the leave file says of the employee.
+    [[nodiscard]] EmployeeMarks marks(const Employee& employee) const;
     /// The lowest code that neither a line nor a file bears: what the next employee gets unless
     /// another is typed. nullopt when all are taken.
     [[nodiscard]] std::optional<EmployeeCode> proposedCode() const;
@@ -106,14 +105,16 @@ class Empregados : public ListCommands<Employee> {
     [[nodiscard]] const Message* transferRefusal(const Line& leaving,
                                                  const CompanyCode& target) const;
     void removeFilesOf(const Line& gone, const Lines& remaining) const;
-    /// As they stand on disk.
+    /// By the leave files of the company's employees.
+    [[nodiscard]] EmployeeList::Marks readMarks() const;
+    /// As they stand on disk. Throws Fault when it cannot be told who is active.
     [[nodiscard]] std::vector<ReportedEmployee> reportedEmployees() const;
     template <typename Sort>
     [[nodiscard]] bool sort(const Message& question, const Message& onFailure, Sort&& order);
 
     EmpregadosDesk desk_;
     WaitNotice waitNotice_;
-    std::map<EmployeeCode, Date> inactive_;
+    EmployeeList::Marks marks_;
     std::set<EmployeeCode> codesOfFiles_;
     std::vector<CompanyLine> others_;
     std::string companyTitle_;

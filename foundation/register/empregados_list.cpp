@@ -4,7 +4,6 @@
 #include "foundation/register/employee_order.h"
 #include "foundation/register/employee_table.h"
 #include "foundation/register/empregados.h"
-#include "foundation/register/leave_record.h"
 #include "foundation/values/csv.h"
 #include "foundation/values/text.h"
 
@@ -55,6 +54,12 @@ std::string readable(const EmployeeLine& line, std::string Employee::*member) {
     return readableText(rawFieldOf(line.bytes, fieldHolding(kEmployeeFields, member).column));
 }
 
+Fault unreadableLeaves(const Employee& employee) {
+    return {"leave file of employee " + employee.code,
+            "Os afastamentos de " + employee.code + " " + employee.name +
+                " não podem ser lidos; não se sabe se está ativo."};
+}
+
 bool isWorkbookName(const std::filesystem::path& file) {
     return foldedForSearch(file.extension().string()) == ".xlsx";
 }
@@ -90,14 +95,14 @@ bool Empregados::moveTo(std::size_t position, std::string_view typedPlace) {
 
 std::vector<ReportedEmployee> Empregados::reportedEmployees() const {
     const auto hold = holdFolder(at_);
-    const auto inactive = inactiveEmployees(at_.store(), at_.session.company.value());
+    const auto marks = readMarks();
     std::vector<ReportedEmployee> people;
     for (const Line& line : read()) {
         if (!line.key()) continue;
-        const auto found = inactive.find(*line.key());
+        const EmployeeMarks its = EmployeeList::marksOf(marks, *line.key());
+        if (its.unreadable) throw unreadableLeaves(line.record);
         people.push_back({readable(line, &Employee::name), readable(line, &Employee::function),
-                          readable(line, &Employee::admission),
-                          found == inactive.end() ? std::nullopt : std::optional(found->second)});
+                          readable(line, &Employee::admission), its.inactiveSince});
     }
     return people;
 }
@@ -118,7 +123,7 @@ bool Empregados::report() {
 bool Empregados::exportTo(const std::filesystem::path& file) {
     if (!requireCompany()) return false;
     return run(incorrectData(), [&] {
-        const Table table = tableOf(lines_, inactive_);
+        const Table table = tableOf(lines_, marks_);
         at_.files.replace(file, isWorkbookName(file)
                                     ? desk_.spreadsheet.workbookOf(table, "Funcionários")
                                     : csvText(rowsOf(table)));

@@ -83,12 +83,4 @@ std::set<EmployeeCode> employeesWithLeaveFile(const CompanyCode& company,
     return employees;
 }
 
-std::map<EmployeeCode, Date> inactiveEmployees(const Store& store, const CompanyCode& company) {
-    std::map<EmployeeCode, Date> inactive;
-    for (const EmployeeCode& code : employeesWithLeaveFile(company, namesIn(store)))
-        if (const auto since = loadLeaves(store, {company, code}).inactiveSince)
-            inactive.emplace(code, *since);
-    return inactive;
-}
-
 }  // namespace winvrx

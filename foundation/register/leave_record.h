@@ -6,7 +6,6 @@
 #include "foundation/values/date.h"
 
 #include <array>
-#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -105,9 +104,5 @@ struct EmployeeLeaves {
 /// The employees of a company who have a leave file, by the names in the data folder.
 [[nodiscard]] std::set<EmployeeCode> employeesWithLeaveFile(const CompanyCode& company,
                                                             const FolderNames& names);
-
-/// The inactive employees of a company and since when. Throws FileFault.
-[[nodiscard]] std::map<EmployeeCode, Date> inactiveEmployees(const Store& store,
-                                                             const CompanyCode& company);
 
 }  // namespace winvrx

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/files/file_faults.h"
 #include "tests/support/employee_desk.h"
 #include "timecard/punches/list_application.h"
 
@@ -10,8 +11,12 @@ namespace winvrx::testing {
 /// Answers with the leaves that the test names, by employee code.
 struct TestLeaves final : LeaveCalendar {
     std::map<std::string, EmployeeLeaves> leaves;
+    std::set<std::string> unreadable;
 
     EmployeeLeaves leavesOf(const EmployeeKey& key) const override {
+        if (unreadable.contains(key.employee.text()))
+            throw FileFault(FileFault::Operation::Read, "01" + leaveFileName(key.employee),
+                            std::make_error_code(std::errc::io_error));
         const auto found = leaves.find(key.employee.text());
         return found == leaves.end() ? EmployeeLeaves() : found->second;
     }

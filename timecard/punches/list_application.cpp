@@ -117,12 +117,19 @@ void ListApplication::look(const std::map<EmployeeCode, Employee>& people) {
         inGroups_ = desk_.rotation.members(order_.company, names);
 }
 
+EmployeeLeaves ListApplication::leavesOf(const EmployeeCode& code) const {
+    if (!withLeaves_.contains(code)) return {};
+    try {
+        return desk_.leaves.leavesOf({order_.company, code});
+    } catch (const FileFault& fault) {
+        throw Fault(fault.what(), fault.explanation());  // concerns him only
+    }
+}
+
 void ListApplication::take(Batch& batch, const Employee& employee, const EmployeeCode& code) {
     const std::size_t before = batch.size();
     try {
-        const auto leaves = withLeaves_.contains(code)
-                                ? desk_.leaves.leavesOf({order_.company, code})
-                                : EmployeeLeaves();
+        const EmployeeLeaves leaves = leavesOf(code);
         if (const auto reason = hindrance(employee, code, leaves))
             remarks_[*reason].push_back(employee.name);
         else

@@ -75,6 +75,8 @@ class ListApplication {
                                                   const EmployeeLeaves& leaves) const;
     [[nodiscard]] StandardSchedule scheduleOf(const EmployeeCode& code) const;
     void copySchedule(Batch& batch, const EmployeeCode& code) const;
+    /// Throws Fault, not FileFault, when his leave file cannot be read.
+    [[nodiscard]] EmployeeLeaves leavesOf(const EmployeeCode& code) const;
     /// Asks once what is asked of everyone.
     void look(const std::map<EmployeeCode, Employee>& people);
     void take(Batch& batch, const Employee& employee, const EmployeeCode& code);

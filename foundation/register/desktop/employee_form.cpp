@@ -118,9 +118,9 @@ void EmployeeForm::show(std::optional<std::size_t> position) {
     const Employee employee = typed();
     QString status;
     if (employee.employeeCode() && position) {
-        const auto since = employees_.inactiveSince(employee);
-        status = toQt(activityOf(employee, since.has_value()));
-        if (since) status += QStringLiteral(" desde ") + toQt(dateText(*since));
+        const EmployeeMarks marks = employees_.marks(employee);
+        const auto said = textsOf(marks);
+        status = toQt(said.empty() ? activityOf(employee, marks) : said.front());
     }
     field(&Employee::status)->showInstead(status);
     // The code of a recorded employee stands in file names.

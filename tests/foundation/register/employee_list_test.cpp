@@ -1,5 +1,7 @@
 #include "foundation/register/employee_list.h"
 
+#include "tests/support/memory_files.h"
+
 #include <gtest/gtest.h>
 
 namespace winvrx {
@@ -47,6 +49,25 @@ TEST(EmployeeList, ShowsThoseOfShiftScaleAndSearch) {
             codes += list.employees()[position].code + " ";
         EXPECT_EQ(codes, c.codes) << codeOf(c.shift) << " " << c.search;
     }
+}
+
+TEST(EmployeeMarks, AreThoseOfTheCompanyAndNoOneFileHidesTheOthers) {
+    testing::MemoryFiles files;
+    files.content["/data/01configAf001"] = "**** 10/02/2024\r\n";
+    files.content["/data/01configAf002"] = "**** \r\n";
+    files.content["/data/01configAf003"] = "**** 10/02/2024\r\n";
+    files.content["/data/02configAf002"] = "**** 10/02/2024\r\n";
+    files.content["/data/01configAfx"] = "**** 10/02/2024\r\n";
+    files.failOn = {"01configAf003"};
+    const Store store{files, DataFolder('C', "/data")};
+    const auto marks = EmployeeList::leaveMarks(
+        RecordedAnswers(store), CompanyCode::parse("01").value(), namesIn(store), std::nullopt);
+    EXPECT_EQ(marks.size(), 3U);
+    std::string activities;
+    for (const char* code : {"001", "002", "003", "004"})
+        activities.append(activityOf({}, EmployeeList::marksOf(marks, *EmployeeCode::parse(code))))
+            .append(" ");
+    EXPECT_EQ(activities, "Inativo Ativo Ilegível Ativo ");
 }
 
 }  // namespace

@@ -187,16 +187,20 @@ TEST_F(EmpregadosTest, AFullDiskRefusesBeforeAnythingIsGone) {
     expectRefusal("Dados incorretos!", [&] { return empregados_.remove(0); });
 }
 
-TEST_F(EmpregadosTest, AnUnreadableLeaveFileIsToldAndTheListShown) {
+TEST_F(EmpregadosTest, AnUnreadableLeaveFileMarksItsEmployeeOnly) {
     addEmployees();
     desk_.file("01configAf002") = "**** 10/02/2024\r\n";
+    empregados_.load();
+    EXPECT_EQ(empregados_.counts(), "1 ativo, 1 inativo");
     desk_.files.failOn = {"01configAf002"};
     empregados_.load();
-    EXPECT_THAT(desk_.person.takeTexts(), ElementsAre("Dados incorretos!"));
-    EXPECT_EQ(empregados_.lines().size(), 2U);
-    desk_.files.failOn.clear();
-    empregados_.load();
-    EXPECT_TRUE(empregados_.inactiveSince(empregados_.lines()[1].record));
+    EXPECT_THAT(desk_.person.takeTexts(), ElementsAre());
+    EXPECT_EQ(empregados_.counts(), "1 ativo, 0 inativos, 1 com afastamentos ilegíveis");
+    EXPECT_EQ(empregados_.rowAt(1).cells.back(), "Ilegível");
+    desk_.person.answers = {Answer::Yes};
+    EXPECT_FALSE(empregados_.report());
+    EXPECT_THAT(desk_.person.shown.back().detail, ::testing::HasSubstr("Os afastamentos de 002 "));
+    EXPECT_FALSE(desk_.files.content.contains("/data/01RelAtivos.txt"));
 }
 
 TEST_F(EmpregadosTest, AListChangedElsewhereIsNotOverwritten) {

@@ -88,16 +88,5 @@ TEST(LeaveStatus, ADateBehindTheMarkMakesInactive) {
     }
 }
 
-TEST(LeaveStatus, InactiveAreThoseOfTheCompany) {
-    testing::MemoryFiles files;
-    files.content["/data/01configAf001"] = "**** 10/02/2024\r\n";
-    files.content["/data/01configAf002"] = "**** \r\n";
-    files.content["/data/02configAf002"] = "**** 10/02/2024\r\n";
-    files.content["/data/01configAfx"] = "**** 10/02/2024\r\n";
-    const auto inactive = inactiveEmployees({files, kFolder}, kCompany);
-    ASSERT_EQ(inactive.size(), 1U);
-    EXPECT_EQ(inactive.begin()->first, kAna);
-}
-
 }  // namespace
 }  // namespace winvrx

@@ -202,7 +202,7 @@ TEST_F(ApplyToAll, EnterCarriesOnOnlyWhereNothingIsLost) {
 
 TEST_F(ApplyToAll, EachHasHisOwnHoursAndWhoCannotBeFilledIsNamed) {
     std::vector<Employee> people = {employee("001", "ANA", "Unico", "Norma")};
-    for (const char* code : {"002", "003", "004", "005", "006", "007", "008"})
+    for (const char* code : {"002", "003", "004", "005", "006", "007", "008", "009"})
         people.push_back(employee(code, (std::string("E") + code).c_str(), "Dois", "Norma"));
     people[1].scale = "12x36";
     people[2].admission = "01/04/2024";
@@ -211,26 +211,30 @@ TEST_F(ApplyToAll, EachHasHisOwnHoursAndWhoCannotBeFilledIsNamed) {
     asked.locks.closed = {"005"};
     asked.leaves.leaves["006"].inactiveSince = parseDate("29/02/2024");
     asked.leaves.add("007", "20/02/2024", "01/03/2024");
+    asked.leaves.leaves["009"];
+    asked.leaves.unreadable = {"009"};
     desk.file("01PadrHor007.pdx") = "14:0018:0019:0022:00\r\n";
     openOn(0);
     agreeToAll();
     ASSERT_TRUE(screen.applyToAll(false));
     const Message& report = desk.person.shown.back();
     EXPECT_EQ(report.title, "Aplicação de Pontos");
-    EXPECT_EQ(report.text, "Ponto aplicado para 3 de 8 funcionários.");
+    EXPECT_EQ(report.text, "Ponto aplicado para 3 de 9 funcionários.");
     EXPECT_EQ(report.detail,
               "Não aplicado, folha fechada: E005\n"
               "Não aplicado, inativo antes do mês: E006\n"
               "Não aplicado, escala de revezamento sem grupo: E002\n"
               "Não aplicado, admissão depois do mês: E003\n"
               "Não aplicado, registro que não pode ser lido: E004 (A data de admissão "
-              "\"31/02/2024\" não existe. Corrija-a no cadastro do funcionário.)\n"
+              "\"31/02/2024\" não existe. Corrija-a no cadastro do funcionário.), E009 (Não foi "
+              "possível ler "
+              "\"01configAf009\": o disco não respondeu.)\n"
               "Aplicado sem horas, não tem horário de trabalho: E008\n"
               "Aplicado com afastamento: E007");
     EXPECT_EQ(firstDayOf("001"), "08:0012:0013:0017:00");
     EXPECT_EQ(firstDayOf("007"), std::string(20, ' '));
     EXPECT_EQ(splitLines(desk.file("01007-03-2024.bdx"))[4].substr(10, 20), "14:0018:0019:0022:00");
-    for (const char* one : {"002", "003", "004", "005", "006"})
+    for (const char* one : {"002", "003", "004", "005", "006", "009"})
         EXPECT_FALSE(isApplied(one)) << one;
 }
 
