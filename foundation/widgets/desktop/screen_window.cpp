@@ -11,7 +11,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
+#include <QStyle>
 #include <QToolButton>
 
 #include <utility>
@@ -19,6 +22,8 @@
 namespace winvrx {
 
 namespace {
+
+constexpr int kLettersOfCommand = 5;  ///< of a command on a narrow screen
 
 QFrame* band(const QString& objectName, QWidget* parent) {
     auto* frame = new QFrame(parent);
@@ -43,6 +48,37 @@ std::function<void()>& openHelp() {
     static std::function<void()> open;
     return open;
 }
+
+/// Scrolls the body only where it is smaller than the body can be: a resizable area would give a
+/// body with wrapped lines all the height that it would like.
+class BodyArea : public QScrollArea {
+  public:
+    BodyArea(QWidget* body, QWidget* parent) : QScrollArea(parent) {
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setWidget(body);
+    }
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override {
+        fit();
+        QScrollArea::resizeEvent(event);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest) fit();
+        return QScrollArea::eventFilter(watched, event);
+    }
+
+  private:
+    void fit() {
+        const QSize least = widget()->minimumSizeHint();
+        const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+        QSize room = maximumViewportSize();
+        if (least.height() > room.height()) room.rwidth() -= bar;
+        if (least.width() > room.width()) room.rheight() -= bar;
+        widget()->resize(room.expandedTo(least));
+    }
+};
 
 }  // namespace
 
@@ -139,7 +175,10 @@ QToolButton* ScreenWindow::addCommand(const QString& icon, const QString& text,
     button->setIcon(look::icon(icon));
     button->setText(withKey(text, key));
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setToolTip(button->text());
     button->setFocusPolicy(Qt::TabFocus);
+    button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    button->setMinimumWidth(look::kTileIcon + kLettersOfCommand * fontMetrics().averageCharWidth());
     if (!key.isEmpty()) {
         auto* shortcut = new QShortcut(key, this);
         connect(shortcut, &QShortcut::activated, button, &QToolButton::click);
@@ -149,7 +188,9 @@ QToolButton* ScreenWindow::addCommand(const QString& icon, const QString& text,
 }
 
 void ScreenWindow::setBody(QWidget* body) {
-    frame_->insertWidget(2, body, 1);
+    body_ = qobject_cast<QScrollArea*>(body);
+    if (!body_) body_ = new BodyArea(body, this);
+    frame_->insertWidget(2, body_, 1);
 }
 
 void ScreenWindow::setState(const QString& text) {
@@ -166,6 +207,17 @@ QPushButton* ScreenWindow::addClosingButton(const QString& text, const QString& 
 
 void ScreenWindow::reject() {
     if (mayClose()) QDialog::reject();
+}
+
+void ScreenWindow::showEvent(QShowEvent* event) {
+    if (!event->spontaneous() && body_) {
+        layout()->activate();
+        const QSize missing = body_->widget()->minimumSizeHint() - body_->size();
+        QSize room = screen()->availableSize();
+        room.rheight() -= style()->pixelMetric(QStyle::PM_TitleBarHeight);
+        resize((size() + missing.expandedTo({0, 0})).boundedTo(room));
+    }
+    QDialog::showEvent(event);
 }
 
 void ScreenWindow::closeEvent(QCloseEvent* event) {

@@ -10,6 +10,7 @@
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
+class QScrollArea;
 class QToolButton;
 class QVBoxLayout;
 
@@ -44,6 +45,7 @@ class ScreenWindow : public QDialog {
     /// A button with icon, text and its key in the command bar. The key works in the whole window.
     QToolButton* addCommand(const QString& icon, const QString& text, const QKeySequence& key,
                             const QString& objectName);
+    /// What does not fit the screen can be scrolled.
     void setBody(QWidget* body);
     void setState(const QString& text);
     /// At the right of the state bar, in order of adding.
@@ -53,6 +55,8 @@ class ScreenWindow : public QDialog {
     [[nodiscard]] virtual bool mayClose() { return true; }
 
     void reject() override;
+    /// Opens as large as the body needs, but no larger than the screen.
+    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -66,6 +70,7 @@ class ScreenWindow : public QDialog {
     QLabel* subtitle_;
     QHBoxLayout* chips_;
     QHBoxLayout* commands_;
+    QScrollArea* body_ = nullptr;
     QLabel* state_;
     QHBoxLayout* closing_;
 };

@@ -243,6 +243,7 @@ void CartaoPontoDadosWindow::layOutHalves() {
     hours_->showOnly(isWide() ? std::nullopt : std::optional(shown_));
     const HalfMonth other = otherThan(shown_);
     otherHalf_->setText(HalfMonthPanel::nameOf(other) + QStringLiteral("  F6"));
+    otherHalf_->setToolTip(otherHalf_->text());
     otherHalf_->setAccessibleName(HalfMonthPanel::nameOf(other));
     otherHalf_->setIcon(
         look::icon(other == HalfMonth::Second ? QStringLiteral("right") : QStringLiteral("left")));
