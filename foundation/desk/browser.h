@@ -9,7 +9,8 @@ class Browser {
   public:
     virtual ~Browser() = default;
 
-    /// Opens the help page "instalacao.htm". False when it could not be opened.
+    /// Opens the help page "instalacao.htm" where it speaks of the screen in front. False when it
+    /// could not be opened.
     [[nodiscard]] virtual bool openHelp() = 0;
     /// Opens the file or folder of this path with what the desktop has for it. False when it could
     /// not be opened.

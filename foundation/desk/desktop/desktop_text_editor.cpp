@@ -1,5 +1,6 @@
 #include "foundation/desk/desktop/desktop_text_editor.h"
 
+#include "foundation/desk/desktop/desktop_browser.h"
 #include "foundation/desk/desktop/text_viewer_window.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"
@@ -23,17 +24,10 @@ bool openedByDesktop(const QString& path) {
 constexpr int kPatience = 5'000;      // milliseconds
 constexpr int kTimeToRefuse = 1'000;  // milliseconds
 
-bool hasHandlerOfText() {
-    QProcess query;
-    query.start(QStringLiteral("xdg-mime"),
-                {QStringLiteral("query"), QStringLiteral("default"), QStringLiteral("text/plain")});
-    return query.waitForFinished(kPatience) && !query.readAllStandardOutput().trimmed().isEmpty();
-}
-
 /// Some desktops keep xdg-open running as long as the editor is open, so what has not refused by
 /// now has opened it.
 bool openedByDesktop(const QString& path) {
-    if (!hasHandlerOfText()) return false;
+    if (!hasHandlerOf(QStringLiteral("text/plain"))) return false;
     auto* opener = new QProcess(qApp);
     QObject::connect(opener, &QProcess::finished, opener, &QObject::deleteLater);
     opener->start(QStringLiteral("xdg-open"), {path});

@@ -2,6 +2,7 @@
 // program's own viewer where there is none.
 #include "foundation/desk/desktop/desktop_text_editor.h"
 
+#include "foundation/desk/desktop/desktop_browser.h"
 #include "foundation/desk/desktop/text_viewer_window.h"
 #include "tests/support/employee_desk.h"
 #include "tests/support/printed_text.h"
@@ -10,7 +11,9 @@
 #include <QFile>
 #include <QPdfWriter>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 
 #include <gtest/gtest.h>
 
@@ -75,10 +78,9 @@ class DesktopOfItsOwn {
     std::vector<std::pair<const char*, QByteArray>> before_;
 };
 
-QWidget* viewerShown() {
+QWidget* viewerShown(const char* name = "relatorio") {
     for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->objectName() == QLatin1String("relatorio") && window->isVisible())
-            return window;
+        if (window->objectName() == QLatin1String(name) && window->isVisible()) return window;
     return nullptr;
 }
 
@@ -92,6 +94,27 @@ TEST(DesktopTextEditor, HandsTheFileToTheRegisteredEditor) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !desktop.opened().isEmpty(); }));
     EXPECT_EQ(desktop.opened(), desktop.path("01RelAtivos.txt").toUtf8());
     EXPECT_EQ(viewerShown(), nullptr);
+}
+
+TEST(DesktopBrowser, ShowsTheHelpOfTheScreenItselfWithoutAHandler) {
+    DesktopOfItsOwn desktop;
+    desktop.forgetTheSystem();
+    std::vector<int> places;
+    for (const char* screen : {"menu", "empregados", "cartaoPontos"}) {
+        QWidget asking;
+        asking.setObjectName(QLatin1String(screen));
+        const testing::WindowDriver shown(asking);
+        DesktopBrowser browser(QApplication::applicationDirPath() + QStringLiteral("/help"));
+        ASSERT_TRUE(browser.openHelp());
+        QWidget* help = viewerShown("ajuda");
+        ASSERT_NE(help, nullptr);
+        QApplication::processEvents();
+        places.push_back(help->findChild<QTextBrowser*>()->verticalScrollBar()->value());
+        help->close();
+    }
+    EXPECT_LT(places[0], places[1]);
+    EXPECT_LT(places[1], places[2]);
+    EXPECT_FALSE(DesktopBrowser(desktop.path("nowhere")).openHelp());
 }
 
 TEST(DesktopTextEditor, ShowsTheReportItselfWithoutAHandler) {
