@@ -10,6 +10,7 @@
 #include "month_script.h"
 #include "player.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDir>
 
@@ -72,6 +73,8 @@ void chooseFont() {
 
 int main(int argc, char** argv) {
     using namespace winvrx;
+    if (qgetenv("QT_QPA_PLATFORM") == "offscreen")
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" WINVRX_SCREEN);
     QApplication application(argc, argv);
     if (argc != 2) {
         qCritical("usage: typical_month FOLDER");
@@ -81,6 +84,7 @@ int main(int argc, char** argv) {
     QDir(folder).removeRecursively();
     QDir().mkpath(folder);
     chooseFont();
+    QAccessible::setActive(true);
     setUpDesktop(application);
     look::apply(application, look::lightPalette());
 

@@ -1,6 +1,8 @@
 #include "player.h"
 
 #include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/screen_window.h"
+#include "spoken.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -59,6 +61,16 @@ int rowContaining(const QAbstractItemModel& model, const QString& text) {
     for (int row = 0; row < model.rowCount(); ++row)
         if (model.index(row, 0).data().toString().contains(text)) return row;
     return -1;
+}
+
+/// The screen that F1 would not lead to in the help page.
+QString withoutHelp(const QWidget& window) {
+    QFile page(QApplication::applicationDirPath() + QStringLiteral("/help/instalacao.htm"));
+    const QString section = QStringLiteral("<a name=\"%1\">").arg(window.objectName());
+    if (!qobject_cast<const ScreenWindow*>(&window) ||
+        (page.open(QIODevice::ReadOnly) && page.readAll().contains(section.toUtf8())))
+        return {};
+    return window.objectName() + QStringLiteral(" não está na ajuda\n");
 }
 
 }  // namespace
@@ -206,6 +218,7 @@ QWidget* Player::beside(const QString& objectName) const {
 }
 
 void Player::savePicture(QWidget* window, const QString& name) {
+    note(QStringLiteral("leitor-de-tela.txt"), untold(*window) + withoutHelp(*window));
     const QString stem = QStringLiteral("%1/telas/%2-%3")
                              .arg(folder_)
                              .arg(++pictures_, 2, 10, QLatin1Char('0'))
@@ -262,12 +275,16 @@ QWidget* Player::find(const QString& name) const {
 
 void Player::record(const QString& title, const QString& text, const QString& icon,
                     const QString& answer) const {
-    QFile file(folder_ + QStringLiteral("/conversa.txt"));
+    note(QStringLiteral("conversa.txt"),
+         QStringLiteral("Título: %1\nTexto: %2\nÍcone: %3\nResposta: %4\n\n")
+             .arg(title, text, icon, answer));
+}
+
+void Player::note(const QString& name, const QString& text) const {
+    QFile file(folder_ + QLatin1Char('/') + name);
     if (!file.open(QIODevice::Append | QIODevice::Text))
         fail(QStringLiteral("cannot write ") + file.fileName());
-    const QString entry = QStringLiteral("Título: %1\nTexto: %2\nÍcone: %3\nResposta: %4\n\n")
-                              .arg(title, text, icon, answer);
-    file.write(entry.toUtf8());
+    file.write(text.toUtf8());
 }
 
 }  // namespace winvrx

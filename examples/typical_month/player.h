@@ -24,7 +24,8 @@ class Player : public QObject {
     Q_OBJECT
 
   public:
-    /// Pictures go to `folder`/telas, the record of message boxes to `folder`/conversa.txt.
+    /// Pictures go to `folder`/telas, the record of message boxes to `folder`/conversa.txt,
+    /// and what a screen reader could not tell of the windows to `folder`/leitor-de-tela.txt.
     explicit Player(QString folder);
 
     void click(const QString& name);
@@ -67,6 +68,8 @@ class Player : public QObject {
     [[nodiscard]] QWidget* beside(const QString& objectName) const;
     void record(const QString& title, const QString& text, const QString& icon,
                 const QString& answer) const;
+    /// Adds to a file of the folder.
+    void note(const QString& name, const QString& text) const;
 
     QString folder_;
     std::deque<std::function<void()>> steps_;

@@ -64,6 +64,12 @@ CompanyForm::CompanyForm(ListCommands<Company>& companies, QWidget* window)
     column->addStretch();
     for (const Member filledIn : {&Company::code, &Company::recordDate})
         field(filledIn)->setReadOnly(true);
+    // Captions that the company bears too: who hears them does not see the heading.
+    for (const Member owners :
+         {&Company::ownerDistrict, &Company::ownerPostalCode, &Company::ownerCity}) {
+        QWidget* input = field(owners)->input();
+        input->setAccessibleName(input->accessibleName() + QStringLiteral(" do proprietário"));
+    }
     setWidget(look::scrolled(panel, window));
 }
 

@@ -28,8 +28,10 @@ SearchBox::SearchBox(const QString& objectName, const QString& placeholder, QWid
     : QLineEdit(parent) {
     look::name(*this, objectName, placeholder);
     setPlaceholderText(placeholder);
-    addAction(look::icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    addAction(look::icon(QStringLiteral("search")), QLineEdit::LeadingPosition)
+        ->setText(QStringLiteral("Pesquisar"));
     QAction* clearAll = addAction(look::icon(QStringLiteral("clear")), QLineEdit::TrailingPosition);
+    clearAll->setText(QStringLiteral("Limpar a pesquisa"));
     clearAll->setVisible(false);
     connect(clearAll, &QAction::triggered, this, &QLineEdit::clear);
     connect(this, &QLineEdit::textChanged, clearAll,

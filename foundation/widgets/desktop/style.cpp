@@ -3,6 +3,7 @@
 #include "foundation/widgets/desktop/colors.h"
 
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyleFactory>
 #include <QStyleOption>
 
@@ -66,6 +67,14 @@ void drawIndicator(const QStyleOption& option, QPainter& painter, bool round) {
 }  // namespace
 
 Style::Style() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+void Style::polish(QWidget* widget) {
+    QProxyStyle::polish(widget);
+    if (auto* bar = qobject_cast<QScrollBar*>(widget))
+        bar->setAccessibleName(bar->orientation() == Qt::Horizontal
+                                   ? QStringLiteral("Rolagem horizontal")
+                                   : QStringLiteral("Rolagem vertical"));
+}
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const {

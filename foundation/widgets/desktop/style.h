@@ -13,6 +13,9 @@ class Style final : public QProxyStyle {
   public:
     Style();
 
+    using QProxyStyle::polish;
+    /// Gives a scroll bar a name for screen readers.
+    void polish(QWidget* widget) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
 };

@@ -89,7 +89,9 @@ QWidget* AlignmentPad::buildLineOffset() {
     lines_->setCompleter(nullptr);
     connect(lines_, &QComboBox::textActivated, this, &AlignmentPad::lineOffsetTyped);
     connect(lines_->lineEdit(), &QLineEdit::editingFinished, this, &AlignmentPad::finishTyping);
-    return new Field(QStringLiteral("Descer a impressão em &linhas:"), lines_, this);
+    const QString caption = QStringLiteral("Descer a impressão em &linhas:");
+    look::name(*lines_->lineEdit(), QStringLiteral("alinhamento.linesText"), caption);
+    return new Field(caption, lines_, this);
 }
 
 void AlignmentPad::finishTyping() {

@@ -123,7 +123,7 @@ TEST_F(TypicalMonth, LeavesRecordsOfTheirLayout) {
     EXPECT_EQ(punches[29].mid(45, 15), QByteArray("FERIADO").leftJustified(15));
 }
 
-TEST_F(TypicalMonth, KeepsPicturesInBothPalettesAndTheConversation) {
+TEST_F(TypicalMonth, KeepsPicturesInBothPalettesTheConversationAndNothingUntold) {
     const QStringList pictures = QDir(file("telas")).entryList({QStringLiteral("*.png")});
     std::vector<std::string> names;
     for (const QString& name : pictures)
@@ -133,6 +133,7 @@ TEST_F(TypicalMonth, KeepsPicturesInBothPalettesAndTheConversation) {
         EXPECT_THAT(names, Contains(std::string(window) + "-claro.png"));
         EXPECT_THAT(names, Contains(std::string(window) + "-escuro.png"));
     }
+    EXPECT_EQ(bytesOf(file("leitor-de-tela.txt")).toStdString(), "");
     const std::string conversation = bytesOf(file("conversa.txt")).toStdString();
     EXPECT_THAT(conversation, HasSubstr("Título: INCLUSÃO\n"
                                         "Texto: Confirma a Inclusão na LISTA DE FUNCIONARIOS?\n"
