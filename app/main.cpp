@@ -1,6 +1,7 @@
 #include "app/desktop_setup.h"
 #include "app/program.h"
 #include "foundation/desk/desktop/file_log.h"
+#include "foundation/desk/desktop/file_user_settings.h"
 #include "foundation/desk/desktop/system_clock.h"
 #include "foundation/files/data_folder.h"
 #include "foundation/files/desktop/system_drives.h"
@@ -39,8 +40,9 @@ int main(int argc, char** argv) {
     const winvrx::SystemDrives drives;
     winvrx::LockFileInstance instance(claimPath(drives, own));
     const winvrx::SystemClock clock;
+    winvrx::FileUserSettings settings(own + QStringLiteral("/winvrx.ini"));
     winvrx::Program program(
-        {drives, clock, log, instance,
+        {drives, clock, log, instance, settings,
          QDir::toNativeSeparators(QApplication::applicationDirPath()).toStdString()});
     if (!program.start()) return 0;
     return QApplication::exec();

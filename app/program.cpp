@@ -57,7 +57,7 @@ Program::Program(const ProgramDesk& desk)
       calendar_(at_),
       engine_(makeEngine()),
       printers_(desk.printers ? desk.printers() : std::make_unique<SystemPrinters>()),
-      menu_(at_, desk.drives, desk.instance, nativePath(desk.programFolder)),
+      menu_(at_, desk.drives, desk.instance, desk.settings, nativePath(desk.programFolder)),
       window_(std::make_unique<MenuWindow>(
           menu_, at_, calendar_,
           menuEntries(at_, {*browser_, *engine_, *printers_, [this] { return layoutPlaces(); }},

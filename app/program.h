@@ -6,6 +6,7 @@
 #include "foundation/desk/desktop/message_box_operator.h"
 #include "foundation/desk/month_progress.h"
 #include "foundation/desk/text_editor.h"
+#include "foundation/desk/user_settings.h"
 #include "foundation/menu/menu.h"
 #include "report/printers.h"
 #include "report/report_engine.h"
@@ -27,6 +28,7 @@ struct ProgramDesk {
     const Clock& clock;
     Log& log;
     SingleInstance& instance;
+    UserSettings& settings;
     std::filesystem::path programFolder;  ///< layouts/ and help/ lie in it
     /// Where pages go: takes the program's own engine and may put another before it.
     std::function<std::unique_ptr<ReportEngine>(std::unique_ptr<ReportEngine>)> engine = nullptr;

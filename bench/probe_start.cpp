@@ -2,6 +2,7 @@
 #include "app/desktop_setup.h"
 #include "app/program.h"
 #include "foundation/desk/desktop/file_log.h"
+#include "foundation/desk/desktop/file_user_settings.h"
 #include "foundation/desk/desktop/system_clock.h"
 #include "foundation/files/desktop/system_drives.h"
 #include "foundation/menu/desktop/menu_window.h"
@@ -26,8 +27,10 @@ int main(int argc, char** argv) {
     const winvrx::FolderDrives drives(argv[1]);
     const winvrx::SystemClock clock;
     AlwaysFree instance;
+    winvrx::FileUserSettings settings(QString::fromLocal8Bit(argv[1]) +
+                                      QStringLiteral("/winvrx.ini"));
     winvrx::Program program(
-        {drives, clock, log, instance, QApplication::applicationDirPath().toStdString()});
+        {drives, clock, log, instance, settings, QApplication::applicationDirPath().toStdString()});
     if (!program.start()) return 1;
     QApplication::processEvents();
     std::puts("shown");

@@ -4,6 +4,7 @@
 #include "app/program.h"
 #include "foundation/desk/desktop/desktop_text_editor.h"
 #include "foundation/desk/desktop/file_log.h"
+#include "foundation/desk/desktop/file_user_settings.h"
 #include "foundation/files/desktop/system_drives.h"
 #include "foundation/menu/desktop/menu_window.h"
 #include "foundation/widgets/desktop/look.h"
@@ -92,16 +93,17 @@ int main(int argc, char** argv) {
     const FixedClock clock({*parseDate("15/03/2024"), *parseTime("10:20")});
     FileLog log(folder + QStringLiteral("/winvrx.log"));
     OnlyCopy instance;
-    Program program({drives, clock, log, instance, QApplication::applicationDirPath().toStdString(),
-                     [&](std::unique_ptr<ReportEngine> engine) -> std::unique_ptr<ReportEngine> {
-                         return std::make_unique<PaperInAFile>(
-                             std::move(engine),
-                             (folder + QStringLiteral("/cartoes.pdf")).toStdString());
-                     },
-                     [](const FileSystem& files) -> std::unique_ptr<TextEditor> {
-                         return std::make_unique<TextViewer>(files);
-                     },
-                     [] { return std::make_unique<TwoPrinters>(); }});
+    FileUserSettings settings(folder + QStringLiteral("/winvrx.ini"));
+    Program program(
+        {drives, clock, log, instance, settings, QApplication::applicationDirPath().toStdString(),
+         [&](std::unique_ptr<ReportEngine> engine) -> std::unique_ptr<ReportEngine> {
+             return std::make_unique<PaperInAFile>(
+                 std::move(engine), (folder + QStringLiteral("/cartoes.pdf")).toStdString());
+         },
+         [](const FileSystem& files) -> std::unique_ptr<TextEditor> {
+             return std::make_unique<TextViewer>(files);
+         },
+         [] { return std::make_unique<TwoPrinters>(); }});
     if (!program.start()) return 1;
     Player player(folder);
     writeMonth(player);

@@ -12,6 +12,9 @@ namespace {
 
 constexpr std::string_view kEarlierTitle = "Dados de Funcionarios da Versão Anterior";
 
+constexpr std::string_view kCompanySetting = "empresa";
+constexpr std::string_view kMonthSetting = "mes";
+
 const Message kAlreadyOpen = refusal("Aviso", "O Aplicativo Já está Aberto!");
 const Message kShareNotFound =
     failure("Aviso Diretório de Rede", "Diretório de Rede Não Encontrado, ou Rede Desconectada!");
@@ -52,8 +55,12 @@ std::optional<char> letterIn(const std::vector<std::string>& values) {
 }  // namespace
 
 Menu::Menu(const Workplace& at, const Drives& drives, SingleInstance& instance,
-           std::string programFolder)
-    : at_(at), drives_(drives), instance_(instance), programFolder_(std::move(programFolder)) {}
+           UserSettings& settings, std::string programFolder)
+    : at_(at),
+      drives_(drives),
+      instance_(instance),
+      settings_(settings),
+      programFolder_(std::move(programFolder)) {}
 
 bool Menu::claimRun() {
     if (instance_.claim()) return true;
@@ -67,6 +74,24 @@ void Menu::load() {
         readDriveLetter();
     });
     reloadCompanies();
+    at_.session.lastMonth = parseMonthKey(settings_.value(kMonthSetting));
+}
+
+void Menu::selectAsBefore() {
+    const std::string used = settings_.value(kCompanySetting);
+    const auto isUsed = [&](const CompanyLine& line) {
+        return line.key() && line.key()->text() == used;
+    };
+    const auto isKnown = [](const CompanyLine& line) { return line.key().has_value(); };
+    auto found = std::ranges::find_if(companies_, isUsed);
+    if (found == companies_.end() && std::ranges::count_if(companies_, isKnown) == 1)
+        found = std::ranges::find_if(companies_, isKnown);
+    if (found != companies_.end()) select(static_cast<std::size_t>(found - companies_.begin()));
+}
+
+void Menu::remember() {
+    if (at_.session.company) settings_.keep(kCompanySetting, at_.session.company->text());
+    if (at_.session.lastMonth) settings_.keep(kMonthSetting, monthKey(*at_.session.lastMonth));
 }
 
 /// The letter of the start memory, which is written where it is missing.
@@ -263,6 +288,7 @@ void Menu::removeEarlierQuietly(const std::filesystem::path& earlier, std::strin
 }
 
 void Menu::exit() {
+    remember();
     usedFolders_.insert(localFolder(kDefaultDrive));
     for (const std::filesystem::path& folder : usedFolders_)
         (void)attempt(at_, kFailure, [&] {

@@ -2,6 +2,7 @@
 
 #include "foundation/desk/command.h"
 #include "foundation/desk/menu_needs.h"
+#include "foundation/desk/user_settings.h"
 #include "foundation/register/company_register.h"
 
 #include <set>
@@ -30,12 +31,14 @@ class Menu {
   public:
     /// `programFolder` is the folder that the program was started from, as the system writes it.
     Menu(const Workplace& at, const Drives& drives, SingleInstance& instance,
-         std::string programFolder);
+         UserSettings& settings, std::string programFolder);
 
     /// The first step of start-up: false, with its message, when another copy is running.
     [[nodiscard]] bool claimRun();
     /// Start-up from the drive letter up to the company list.
     void load();
+    /// Selects the company used last, or the only one.
+    void selectAsBefore();
     /// The last step of start-up: offers the data of an earlier installation.
     void offerEarlierData();
 
@@ -58,6 +61,9 @@ class Menu {
     /// Runs the guards of a screen, with their messages. True when it may open.
     [[nodiscard]] bool require(MenuNeeds needs);
 
+    /// Keeps the company and the month in use for the next start.
+    void remember();
+
     void exit();
 
   private:
@@ -79,6 +85,7 @@ class Menu {
     Workplace at_;
     const Drives& drives_;
     SingleInstance& instance_;
+    UserSettings& settings_;
     std::string programFolder_;
     std::vector<CompanyLine> companies_;
     std::set<std::filesystem::path> usedFolders_;  ///< which files of the run are to leave

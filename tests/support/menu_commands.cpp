@@ -1,6 +1,7 @@
 // What the main window writes, and the safety copies.
 #include "foundation/copies/restaurar_copia.h"
 #include "foundation/menu/menu.h"
+#include "tests/support/memory_settings.h"
 #include "tests/support/plain_archiver.h"
 #include "tests/support/writing_commands.h"
 
@@ -27,7 +28,8 @@ template <typename Next>
 auto inMenu(Next next) {
     return [next](const Workplace& at, const Drives& drives) {
         OnlyCopy instance;
-        Menu menu(at, drives, instance, "/opt/winvrx");
+        MemorySettings settings;
+        Menu menu(at, drives, instance, settings, "/opt/winvrx");
         menu.load();
         next(menu);
         return true;

@@ -17,11 +17,25 @@ MonthSettings TimecardCalendar::settingsOf(WorkMonth month) const {
     return proposedSettings(month, offeredHolidays(at_.store(), month));
 }
 
+std::optional<WorkMonth> TimecardCalendar::lastMonth() const {
+    const auto last = at_.session.lastMonth;
+    return last && hasMonthSettings(at_.store(), *last) ? last : std::nullopt;
+}
+
+bool TimecardCalendar::confirmOffered() const {
+    return attemptWriting(at_, incorrectData(), [this] {
+        const auto month = lastMonth();
+        if (month) saveSelectedMonth(at_.store(), {*month, at_.session.shiftFilter});
+        return month.has_value();
+    });
+}
+
 MonthOverview TimecardCalendar::overview(Date today) const {
     const WorkMonth present = monthOf(today);
     const auto selected = loadSelectedMonth(at_.store());
     MonthOverview overview;
     overview.month = selected ? selected->month : present;
+    if (!selected) overview.offered = lastMonth();
     const MonthSettings settings = settingsOf(overview.month);
     const MonthDayCounts counts = countDays(settings);
     overview.holidays = settings.holidays();

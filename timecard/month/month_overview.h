@@ -12,8 +12,11 @@ class TimecardCalendar final : public MonthCalendar {
   public:
     explicit TimecardCalendar(const Workplace& at) : at_(at) {}
     [[nodiscard]] MonthOverview overview(Date today) const override;
+    [[nodiscard]] bool confirmOffered() const override;
 
   private:
+    /// The month confirmed last, as long as it has its record.
+    [[nodiscard]] std::optional<WorkMonth> lastMonth() const;
     [[nodiscard]] MonthSettings settingsOf(WorkMonth month) const;
 
     Workplace at_;

@@ -15,6 +15,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -125,7 +126,12 @@ QWidget* MenuWindow::buildCompanies() {
     filter->addWidget(shift_, 1);
     column->addLayout(filter);
     connect(search_, &QLineEdit::textChanged, this, &MenuWindow::filterCompanies);
-    connect(search_, &QLineEdit::returnPressed, this, &MenuWindow::selectCompany);
+    connect(search_, &QLineEdit::returnPressed, this, &MenuWindow::enterCompany);
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* enter = new QShortcut(key, companies_);
+        enter->setContext(Qt::WidgetShortcut);
+        connect(enter, &QShortcut::activated, this, &MenuWindow::enterCompany);
+    }
     connect(companies_, &QListWidget::itemClicked, this, &MenuWindow::selectCompany);
     connect(companies_, &QListWidget::itemActivated, this, &MenuWindow::selectCompany);
     connect(shift_, &QComboBox::currentTextChanged, this, [this](const QString& text) {
@@ -185,6 +191,11 @@ QWidget* MenuWindow::buildOverview() {
     column->setSpacing(look::kGap);
     monthName_ = look::heading(QString(), side);
     column->addWidget(monthName_);
+    offered_ = new QPushButton(side);
+    offered_->setObjectName(QStringLiteral("menu.confirmMonth"));
+    offered_->setAutoDefault(true);
+    connect(offered_, &QPushButton::clicked, this, &MenuWindow::confirmMonth);
+    column->addWidget(offered_);
     month_ = new MonthView(side);
     column->addWidget(month_);
     counts_ = look::label(QString(), look::TextSize::Body, side);
@@ -248,6 +259,7 @@ bool MenuWindow::start() {
     show();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     menu_.load();
+    menu_.selectAsBefore();
     for (const ShiftFilter filter : kMenuShiftFilters)
         shift_->addItem(toQt(codeOf(filter)));
     shift_->setCurrentText(toQt(codeOf(ShiftFilter::Todos)));
@@ -255,6 +267,7 @@ bool MenuWindow::start() {
     refresh();
     menu_.offerEarlierData();
     refresh();
+    search_->setFocus();
     return true;
 }
 
@@ -314,12 +327,34 @@ void MenuWindow::selectCompany() {
     refresh();
 }
 
+/// Enter on the company in use confirms the month that is offered, and else selects.
+void MenuWindow::enterCompany() {
+    const int row = companies_->currentRow();
+    const bool inUse = row >= 0 && menu_.selected() &&
+                       menu_.selected() == &menu_.companies()[static_cast<std::size_t>(row)];
+    if (inUse && offered_->isVisible())
+        confirmMonth();
+    else
+        selectCompany();
+}
+
+void MenuWindow::confirmMonth() {
+    (void)calendar_.confirmOffered();
+    refresh();
+}
+
 void MenuWindow::showOverview() {
     const Date today = at_.clock.today();
     MonthOverview overview;
     overview.month = monthOf(today);
     (void)attempt(at_, incorrectData(), [&] { overview = calendar_.overview(today); });
     monthName_->setText(toQt(monthTitle(overview.month)));
+    offered_->setVisible(overview.offered && menu_.selected());
+    if (overview.offered) {
+        const QString caption = QStringLiteral("Confirmar ") + toQt(monthTitle(*overview.offered));
+        offered_->setText(caption + QStringLiteral("  Enter"));
+        offered_->setAccessibleName(caption);
+    }
     month_->show(overview, today);
     const QString counts =
         QStringLiteral("Dias úteis %1 · DSR %2").arg(overview.businessDays).arg(overview.restDays);
@@ -358,6 +393,7 @@ void MenuWindow::showDrive() {
 void MenuWindow::open(const MenuEntry& entry) {
     if (!menu_.require(entry.needs)) return;
     entry.open(this);
+    menu_.remember();
     menu_.reloadCompanies();
     fillCompanies();
     refresh();

@@ -14,6 +14,7 @@ class QComboBox;
 class QGridLayout;
 class QLabel;
 class QListWidget;
+class QPushButton;
 class QVBoxLayout;
 
 namespace winvrx {
@@ -57,6 +58,8 @@ class MenuWindow : public QWidget {
     void showCompany();
     void filterCompanies(const QString& wanted);
     void selectCompany();
+    void enterCompany();
+    void confirmMonth();
     void showOverview();
     void showTiles();
     void showDrive();
@@ -76,6 +79,7 @@ class MenuWindow : public QWidget {
     QComboBox* shift_ = nullptr;
     MonthView* month_ = nullptr;
     QLabel* monthName_ = nullptr;
+    QPushButton* offered_ = nullptr;
     QLabel* counts_ = nullptr;
     QLabel* notices_ = nullptr;
     QComboBox* drive_ = nullptr;

@@ -1,6 +1,7 @@
 #include "foundation/menu/menu.h"
 
 #include "foundation/register/employee_register.h"
+#include "tests/support/memory_settings.h"
 #include "tests/support/test_workplace.h"
 
 #include <gmock/gmock.h>
@@ -38,10 +39,11 @@ class MenuTest : public ::testing::Test {
     TestWorkplace desk;
     TwoDrives drives;
     OnlyCopy instance;
+    testing::MemorySettings settings;
 
     Menu menu(std::string programFolder = "/opt/winvrx") {
         desk.session = Session{};
-        return {desk.at, drives, instance, std::move(programFolder)};
+        return {desk.at, drives, instance, settings, std::move(programFolder)};
     }
     std::string contentOf(const std::string& path) {
         const auto found = desk.files.content.find(path);
@@ -113,6 +115,41 @@ TEST_F(MenuTest, SelectingClearsTheWorkMonthEvenTwice) {
         started.select(0);
         EXPECT_EQ(contentOf(kOnC + "DataIde.ivc"), "(missing)");
         EXPECT_EQ(desk.session.company->text(), "01");
+    }
+}
+
+/// In two companies and a line that is not understood; in one, it is selected whatever was kept.
+TEST_F(MenuTest, TheCompanyAndTheMonthUsedLastComeBack) {
+    const auto lineOf = [](const char* code) {
+        Company company;
+        company.code = code;
+        return encode(company) + "\r\n";
+    };
+    const std::string two = lineOf("??") + lineOf("01") + lineOf("02");
+    struct Case {
+        std::string companies;
+        const char* company;
+        const char* month;
+        const char* selected;
+    };
+    for (const Case& one :
+         {Case{two, "02", "02-2024", "02"}, Case{two, "03", "junk", ""}, Case{two, "", "", ""},
+          Case{lineOf("??") + lineOf("07"), "02", "", "07"}}) {
+        desk.files.content[kOnC + "01Empresa"] = one.companies;
+        desk.files.content[kOnC + "DataIde.ivc"] = "03-2024\r\n";
+        settings.kept = {{"empresa", one.company}, {"mes", one.month}};
+        Menu started = menu();
+        started.load();
+        started.selectAsBefore();
+        const auto& company = desk.session.company;
+        EXPECT_EQ(company ? company->text() : "", one.selected);
+        EXPECT_EQ(contentOf(kOnC + "DataIde.ivc"), company ? "(missing)" : "03-2024\r\n");
+        EXPECT_EQ(desk.session.lastMonth, parseMonthKey(one.month));
+        started.select(1);
+        desk.session.lastMonth = parseMonthKey("12-2023");
+        started.exit();
+        EXPECT_EQ(settings.value("empresa"), one.companies == two ? "01" : "07");
+        EXPECT_EQ(settings.value("mes"), "12-2023");
     }
 }
 

@@ -112,5 +112,20 @@ TEST(BusinessDays, ThePresentMonthIsJudgedByItsRecordElseByTheOffer) {
     EXPECT_EQ(overview.notices[1], "Para Amanhã,  dia 29/03/2024, 24º Dia Útil do Mes de março");
 }
 
+TEST(BusinessDays, TheMonthConfirmedLastIsOfferedWhileNoneIsChosen) {
+    testing::TestWorkplace desk;
+    const TimecardCalendar calendar(desk.at);
+    const Date today = *parseDate("28/03/2024");
+    desk.session.lastMonth = parseMonthKey("02-2024");
+    EXPECT_EQ(calendar.overview(today).offered, std::nullopt) << "it has no record";
+    EXPECT_FALSE(calendar.confirmOffered());
+    saveMonthSettings(desk.store(), monthWith("02-2024", {}));
+    EXPECT_EQ(calendar.overview(today).offered, parseMonthKey("02-2024"));
+    desk.session.shiftFilter = ShiftFilter::Dois;
+    EXPECT_TRUE(calendar.confirmOffered());
+    EXPECT_EQ(desk.file("DataIde.ivc"), "02-2024\r\nDois\r\n");
+    EXPECT_EQ(calendar.overview(today).offered, std::nullopt);
+}
+
 }  // namespace
 }  // namespace winvrx

@@ -2,10 +2,12 @@
 
 #include "foundation/files/desktop/system_drives.h"
 #include "foundation/menu/desktop/command_tile.h"
+#include "tests/support/memory_settings.h"
 #include "tests/support/test_workplace.h"
 #include "tests/support/window_driver.h"
 
 #include <QListWidget>
+#include <QPushButton>
 
 #include <gmock/gmock.h>
 
@@ -26,6 +28,8 @@ class NoticesOf final : public MonthCalendar {
   public:
     MonthOverview answer;
     [[nodiscard]] MonthOverview overview(Date) const override { return answer; }
+    mutable int confirmed = 0;
+    [[nodiscard]] bool confirmOffered() const override { return ++confirmed > 0; }
 };
 
 const std::string kFolder = "/c/Users/Public/Documents/Winvrx/";
@@ -88,7 +92,8 @@ class MenuWindowTest : public ::testing::Test {
     FolderDrives drives_{"/c"};
     OnlyCopy instance_;
     NoticesOf calendar_;
-    Menu menu_{desk_.at, drives_, instance_, "/opt/winvrx"};
+    testing::MemorySettings settings_;
+    Menu menu_{desk_.at, drives_, instance_, settings_, "/opt/winvrx"};
     std::vector<std::string> opened_;
     int progressAsked_ = 0;
     MenuWindow window_{menu_, desk_.at, calendar_, entries(), [this] { return progress(); }};
@@ -104,6 +109,30 @@ TEST_F(MenuWindowTest, SearchAndEnterSelectACompany) {
     EXPECT_EQ(desk_.session.company->text(), "02");
     EXPECT_FALSE(desk_.files.content.contains(kFolder + "DataIde.ivc"));
     EXPECT_EQ(driver.find<QLabel>("menu.company").text().toStdString(), "02  PADARIA PÃO DE MEL");
+}
+
+TEST_F(MenuWindowTest, EnterOnTheCompanyInUseConfirmsTheMonthOffered) {
+    settings_.kept["empresa"] = "01";
+    calendar_.answer.offered = *parseMonthKey("02-2024");
+    ASSERT_TRUE(window_.start());
+    const WindowDriver driver(window_);
+    const auto& offer = driver.find<QPushButton>("menu.confirmMonth");
+    EXPECT_EQ(offer.text().toStdString(), "Confirmar fevereiro/2024  Enter");
+    EXPECT_EQ(driver.focusName(), "menu.search");
+    driver.press(Qt::Key_Return);
+    EXPECT_EQ(calendar_.confirmed, 1);
+    driver.find<QListWidget>("menu.companies").setFocus();
+    driver.press(Qt::Key_Enter);
+    EXPECT_EQ(calendar_.confirmed, 2);
+    driver.type("menu.search", "pao mel");
+    driver.press(Qt::Key_Return);
+    EXPECT_EQ(desk_.session.company->text(), "02");
+    EXPECT_EQ(calendar_.confirmed, 2);
+    calendar_.answer.offered.reset();
+    window_.refresh();
+    EXPECT_FALSE(offer.isVisible());
+    driver.press(Qt::Key_Return);
+    EXPECT_EQ(calendar_.confirmed, 2);
 }
 
 /// The highlight says which company the next command works on, whatever the arrows look at.
