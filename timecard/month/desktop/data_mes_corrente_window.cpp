@@ -92,12 +92,6 @@ QWidget* DataMesCorrenteWindow::buildMonthColumn() {
     reference_ = new QCheckBox(widget);
     reference_->setObjectName(QStringLiteral("month.reference"));
     column->addWidget(reference_);
-    QLabel* shared =
-        look::label(QStringLiteral("O mês, os feriados e as regras valem para todas as empresas."),
-                    look::TextSize::Hint, widget);
-    shared->setObjectName(QStringLiteral("month.shared"));
-    shared->setWordWrap(true);
-    column->addWidget(shared);
     column->addSpacing(look::kGap);
     holidays_ = new HolidayPanel(command_, widget);
     connect(holidays_, &HolidayPanel::edited, this, &DataMesCorrenteWindow::showState);

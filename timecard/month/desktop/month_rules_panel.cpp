@@ -56,6 +56,11 @@ MonthRulesPanel::MonthRulesPanel(DataMesCorrente& command, QWidget* parent)
     addOvertime(*column);
     addTotals(*column);
     column->addStretch();
+    QLabel* shared =
+        look::label(QStringLiteral("O mês, os feriados e as regras valem para todas as empresas."),
+                    look::TextSize::Hint, this);
+    shared->setObjectName(QStringLiteral("month.shared"));
+    column->addWidget(shared);
     QLabel* tolerance = look::label(kTolerance, look::TextSize::Hint, this);
     tolerance->setObjectName(QStringLiteral("month.tolerance"));
     tolerance->setWordWrap(true);
