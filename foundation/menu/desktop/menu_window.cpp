@@ -194,6 +194,7 @@ QWidget* MenuWindow::buildOverview() {
     offered_ = new QPushButton(side);
     offered_->setObjectName(QStringLiteral("menu.confirmMonth"));
     offered_->setAutoDefault(true);
+    offered_->setToolTip(QStringLiteral("Enter na lista de empresas confirma este mês."));
     connect(offered_, &QPushButton::clicked, this, &MenuWindow::confirmMonth);
     column->addWidget(offered_);
     month_ = new MonthView(side);
@@ -350,11 +351,8 @@ void MenuWindow::showOverview() {
     (void)attempt(at_, incorrectData(), [&] { overview = calendar_.overview(today); });
     monthName_->setText(toQt(monthTitle(overview.month)));
     offered_->setVisible(overview.offered && menu_.selected());
-    if (overview.offered) {
-        const QString caption = QStringLiteral("Confirmar ") + toQt(monthTitle(*overview.offered));
-        offered_->setText(caption + QStringLiteral("  Enter"));
-        offered_->setAccessibleName(caption);
-    }
+    if (overview.offered)
+        offered_->setText(QStringLiteral("Confirmar ") + toQt(monthTitle(*overview.offered)));
     month_->show(overview, today);
     const QString counts =
         QStringLiteral("Dias úteis %1 · DSR %2").arg(overview.businessDays).arg(overview.restDays);
