@@ -20,10 +20,6 @@ Message incorrectData() {
     return failure("Erro", "Dados incorretos!");
 }
 
-Message noCompany() {
-    return refusal("Aviso", "Cadastre Primeiro Uma Empresa!!");
-}
-
 Message noEmployeeSelected() {
     return refusal("Aviso", "Selecione um Funcionário na Lista!");
 }

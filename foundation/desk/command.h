@@ -36,9 +36,7 @@ struct Workplace {
 /// "Dados incorretos!" titled "Erro", the answer of most commands to a failure.
 [[nodiscard]] Message incorrectData();
 
-/// "Cadastre Primeiro Uma Empresa!!" and "Selecione um Funcionário na Lista!", titled "Aviso": what
-/// a screen says that needs a company, or one of its employees.
-[[nodiscard]] Message noCompany();
+/// "Selecione um Funcionário na Lista!", titled "Aviso": what a screen says that needs an employee.
 [[nodiscard]] Message noEmployeeSelected();
 
 /// "Há dados digitados que não foram gravados. Deseja descartá-los?", asked before typed text is

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/desk/finding.h"
 #include "foundation/desk/list_screen.h"
 #include "foundation/files/line_file.h"
 
@@ -27,6 +28,7 @@ class ListCommands : public ListScreen {
   public:
     using Line = StoredLine<Record>;
     using Lines = std::vector<Line>;
+    using Member = std::string Record::*;
 
     [[nodiscard]] const Lines& lines() const { return lines_; }
     [[nodiscard]] std::size_t count() const override { return lines_.size(); }
@@ -40,12 +42,25 @@ class ListCommands : public ListScreen {
     /// What the form of a new record begins with.
     [[nodiscard]] virtual Record freshRecord() const { return {}; }
 
+    /// What would be refused of the record as it is typed in the place of `before`.
+    [[nodiscard]] virtual Findings<Record> wrongIn(const Record&, const Record&) const {
+        return {};
+    }
+    /// What is asked about before it is recorded: only texts changed since `before`, so that old
+    /// records stay editable.
+    [[nodiscard]] virtual Findings<Record> doubtsAbout(const Record&, const Record&) const {
+        return {};
+    }
+    /// The text for which the last inclusion or change ended; nullptr when it was for none.
+    [[nodiscard]] Member blamed() const { return blamed_; }
+
     /// Appends a record.
     [[nodiscard]] virtual bool include(const Record& typed) {
+        blamed_ = nullptr;
         return run(incorrectData(), [&] {
             const Record record = completed(typed);
-            return requireAcceptable(record, nullptr) && at_.person.agrees(questions_.include) &&
-                   rewrite([&](Lines& lines) {
+            return requireAcceptable(record, nullptr) && requireNoDoubt(record, {}) &&
+                   at_.person.agrees(questions_.include) && rewrite([&](Lines& lines) {
                        lines.push_back(newLine(record, lines));
                        clearFor(lines.back());
                    });
@@ -53,9 +68,11 @@ class ListCommands : public ListScreen {
     }
     /// Replaces the line at `position`; what no field covers stays.
     [[nodiscard]] virtual bool change(std::size_t position, const Record& typed) {
+        blamed_ = nullptr;
         return run(incorrectData(), [&] {
             const Record record = completed(typed);
             return requireAcceptable(record, &lines_.at(position)) &&
+                   requireNoDoubt(record, lines_.at(position).record) &&
                    at_.person.agrees(questions_.change) && rewrite([&](Lines& lines) {
                        Line& line = knownLineAsShown(lines, position);
                        line = changedLine(record, line);
@@ -63,10 +80,10 @@ class ListCommands : public ListScreen {
         });
     }
     [[nodiscard]] bool remove(std::size_t position) override {
-        if (!at_.person.agrees(questions_.remove)) return false;
         return run(incorrectData(), [&] {
-            return erase(
-                position, [] {}, [](const Lines&) {});
+            return at_.person.agrees(removalOf(position)) &&
+                   erase(
+                       position, [] {}, [](const Lines&) {});
         });
     }
 
@@ -81,6 +98,37 @@ class ListCommands : public ListScreen {
     [[nodiscard]] virtual Record completed(const Record& typed) const { return typed; }
     /// Whether the record can be included, or replace the line shown. Says why not, or throws.
     [[nodiscard]] virtual bool requireAcceptable(const Record&, const Line*) { return true; }
+    /// Tells what is wrong with one text, and gives false.
+    [[nodiscard]] bool refuseFor(const Finding<Record>& wrong, const Message& message) {
+        blamed_ = wrong.member;
+        return refuse(message, captioned(wrong));
+    }
+    /// Tells with `message` which required fields are empty, if one is; else true.
+    [[nodiscard]] bool requireComplete(const Record& typed, const Message& message) {
+        const auto missing = missingIn(typed);
+        if (missing.empty()) return true;
+        blamed_ = missing.front().member;
+        return refuse(message, missingText(missing));
+    }
+    /// Refuses texts that no record holds, and asks once about all that is doubtful.
+    [[nodiscard]] bool requireNoDoubt(const Record& typed, const Record& before) {
+        const auto unstorable = unstorableIn(typed, before);
+        if (!unstorable.empty()) return refuseFor(unstorable.front(), incorrectData());
+        const auto doubts = doubtsAbout(typed, before);
+        std::string named;
+        for (const auto& doubt : doubts)
+            named.append(named.empty() ? "" : "\n").append(captioned(doubt));
+        if (doubts.empty() || at_.person.agrees(recordDespiteDoubts(named))) return true;
+        blamed_ = doubts.front().member;
+        return false;
+    }
+    /// The question before the line goes, which names it; `along` is what goes with it.
+    [[nodiscard]] Message removalOf(std::size_t position, const std::string& along = {}) const {
+        Message asked = questions_.remove;
+        const auto cells = rowAt(position).cells;
+        asked.detail = cells.at(0) + " " + cells.at(1) + along;
+        return asked;
+    }
     /// The line to append to the list on disk; throws Fault when that has its key already.
     [[nodiscard]] virtual Line newLine(const Record& typed, const Lines& lines) const {
         if (findLine(lines, keyOf(typed))) throw changedElsewhere("list");
@@ -142,6 +190,7 @@ class ListCommands : public ListScreen {
 
     Lines lines_;
     const ListQuestions questions_;
+    Member blamed_ = nullptr;
 };
 
 }  // namespace winvrx

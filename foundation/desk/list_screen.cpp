@@ -16,6 +16,18 @@ std::string unreadCount(std::size_t lines) {
                       : ", " + std::to_string(lines) + " linhas não entendidas";
 }
 
+std::string countOf(std::size_t count, std::string_view what) {
+    return std::to_string(count) + " " + std::string(what) + (count == 1 ? "" : "s");
+}
+
+std::string alongWith(std::size_t count, std::string_view what) {
+    return count == 0 ? std::string() : ", " + countOf(count, what);
+}
+
+Message recordDespiteDoubts(std::string doubts) {
+    return warning("Aviso", "Há dados que parecem errados. Gravar assim mesmo?", std::move(doubts));
+}
+
 void ListScreen::load() {
     (void)run(incorrectData(), [this] { reread(); });
 }

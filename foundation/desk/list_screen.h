@@ -24,6 +24,14 @@ struct ListRow {
 /// ", 2 linhas não entendidas", to stand behind a count of records; empty for none.
 [[nodiscard]] std::string unreadCount(std::size_t lines);
 
+/// "12 arquivos", "1 arquivo".
+[[nodiscard]] std::string countOf(std::size_t count, std::string_view what);
+/// The same with a comma before it, to stand behind what is deleted; empty for none.
+[[nodiscard]] std::string alongWith(std::size_t count, std::string_view what);
+
+/// "Há dados que parecem errados. Gravar assim mesmo?"; `doubts` names them.
+[[nodiscard]] Message recordDespiteDoubts(std::string doubts);
+
 /// What the window of a register asks of its command object, whatever the records are.
 class ListScreen {
   public:
@@ -46,6 +54,8 @@ class ListScreen {
     [[nodiscard]] virtual std::string counts() const { return {}; }
     /// What the state line says while a new record is typed.
     [[nodiscard]] virtual std::string newRecordTitle() const = 0;
+
+    [[nodiscard]] Date today() const { return at_.clock.today(); }
 
     /// Deletes the line at `position`, with what belongs to it. True when it is gone.
     [[nodiscard]] virtual bool remove(std::size_t position) = 0;

@@ -210,7 +210,7 @@ void Menu::useDrive(char letter) {
 bool Menu::require(MenuNeeds needs) {
     if (needs == MenuNeeds::Nothing) return true;
     if (!at_.session.company) {
-        at_.person.tell(noCompany());
+        at_.person.tell(noCompany(at_));
         return false;
     }
     if (needs == MenuNeeds::Company) return true;

@@ -46,7 +46,7 @@ using CompanyField = RecordField<Company>;
 /// The layout of a company line, 549 characters. The one place that knows it.
 inline constexpr std::array kCompanyFields = {
     CompanyField{&Company::code, {1, 3}, "Código"},
-    CompanyField{&Company::name, {4, 68}, "Empregador ou Razão Social"},
+    CompanyField{&Company::name, {4, 68}, "Empregador ou Razão Social", true},
     CompanyField{&Company::taxId, {72, 19}, "CNPJ/CPF"},
     CompanyField{&Company::address, {91, 30}, "Endereço/Nº"},
     CompanyField{&Company::district, {121, 17}, "Bairro"},

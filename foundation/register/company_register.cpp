@@ -26,6 +26,17 @@ const CompanyLine* firstCompany(const std::vector<CompanyLine>& lines) {
     return found == lines.end() ? nullptr : &*found;
 }
 
+Message noCompany(const Workplace& at) {
+    Message told = refusal("Aviso", "Cadastre Primeiro Uma Empresa!!");
+    try {
+        if (firstCompany(loadCompanies(at.store())))
+            told.detail = "Selecione uma empresa na lista.";
+    } catch (const std::exception& fault) {
+        at.log.write(std::string("company register not read: ") + fault.what());
+    }
+    return told;
+}
+
 std::string titleOf(const std::vector<CompanyLine>& companies,
                     const std::optional<CompanyCode>& code) {
     const CompanyLine* line = findLine(companies, code);

@@ -34,6 +34,10 @@ using CompanyLine = StoredLine<Company>;
 /// The first line that is understood, of the company that cannot be deleted; nullptr without one.
 [[nodiscard]] const CompanyLine* firstCompany(const std::vector<CompanyLine>& lines);
 
+/// "Cadastre Primeiro Uma Empresa!!", titled "Aviso": what a screen says that needs a company.
+/// Where one is registered, that it is to be selected.
+[[nodiscard]] Message noCompany(const Workplace& at);
+
 /// "01 EMPRESA MODELO LTDA"; empty when no line has the code.
 [[nodiscard]] std::string titleOf(const std::vector<CompanyLine>& companies,
                                   const std::optional<CompanyCode>& code);

@@ -14,12 +14,9 @@ constexpr std::size_t kShortWeekday = 3;
 }  // namespace
 
 std::string searchedText(const Employee& employee) {
-    std::string digits;
-    std::copy_if(employee.taxId.begin(), employee.taxId.end(), std::back_inserter(digits),
-                 [](char c) { return c >= '0' && c <= '9'; });
     std::string text;
-    for (const std::string& part :
-         {employee.code, employee.name, employee.function, employee.taxId, digits})
+    for (const std::string& part : {employee.code, employee.name, employee.function, employee.taxId,
+                                    digitsIn(employee.taxId)})
         text.append(part).append(" ");
     return text;
 }

@@ -1,5 +1,6 @@
 #include "foundation/register/employee_import.h"
 
+#include "foundation/register/company_register.h"
 #include "foundation/register/employee_table.h"
 #include "foundation/register/imported_employee.h"
 
@@ -24,7 +25,7 @@ bool hasText(const std::vector<std::string>& row) {
 
 bool EmployeeImport::open(const std::filesystem::path& csv) {
     if (!at_.session.company) {
-        at_.person.tell(noCompany());
+        at_.person.tell(noCompany(at_));
         return false;
     }
     return attempt(at_, incorrectData(), [&] {
@@ -61,7 +62,7 @@ void EmployeeImport::judge(const CsvRows& table) {
             if (columns[i] && columns[i]->member != &Employee::status)
                 employee.*columns[i]->member = recordText(columns[i]->member, table[row][i]);
         completeImported(employee, list, codesOfFiles_);
-        std::string problem = importProblem(employee, list);
+        std::string problem = importProblem(employee, list, at_.clock.today());
         if (problem.empty()) list.push_back(lineOf(employee));
         rows_.push_back({row + 1, employee, problem, importNotice(employee)});
     }

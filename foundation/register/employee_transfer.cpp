@@ -9,21 +9,14 @@ namespace winvrx {
 
 namespace {
 
-std::string digitsOf(std::string_view text) {
-    std::string digits;
-    std::copy_if(text.begin(), text.end(), std::back_inserter(digits),
-                 [](char c) { return c >= '0' && c <= '9'; });
-    return digits;
-}
-
 /// "01Transf001".
 bool isMark(std::string_view name) {
     return name.substr(std::min(name.size(), CompanyCode::kDigits)).starts_with(kTransferStem);
 }
 
 bool isSamePerson(const Employee& one, const Employee& other) {
-    const std::string taxId = digitsOf(one.taxId);
-    const std::string otherTaxId = digitsOf(other.taxId);
+    const std::string taxId = digitsIn(one.taxId);
+    const std::string otherTaxId = digitsIn(other.taxId);
     if (!taxId.empty() && !otherTaxId.empty()) return taxId == otherTaxId;
     return foldedForSearch(one.name) == foldedForSearch(other.name);
 }

@@ -47,11 +47,6 @@ bool changesRotation(const Employee& before, const Employee& after) {
     return before.shiftOr() != after.shiftOr() || before.scaleOr() != after.scaleOr();
 }
 
-/// "12 ativos", "1 ativo".
-std::string counted(std::ptrdiff_t count, const std::string& what) {
-    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
-}
-
 }  // namespace
 
 bool confirmDespitePayroll(Operator& person, const PayrollLock& payroll, const EmployeeKey& key) {
@@ -121,16 +116,15 @@ ListRow Empregados::rowOf(const Employee& employee) const {
 
 std::string Empregados::counts() const {
     if (lines_.empty()) return "nenhum funcionário";
-    std::map<std::string_view, std::ptrdiff_t> shown;
+    std::map<std::string_view, std::size_t> shown;
     for (const Line& line : lines_)
         ++shown[line.key() ? activityOf(line.record, marks(line.record)) : ""];
-    const std::ptrdiff_t deleted = shown[kDeletedStatus];
-    const std::ptrdiff_t unreadable = shown["Ilegível"];
-    return counted(shown["Ativo"], "ativo") + ", " + counted(shown["Inativo"], "inativo") +
-           (deleted > 0 ? ", " + counted(deleted, "excluído") : "") +
+    const std::size_t unreadable = shown["Ilegível"];
+    return countOf(shown["Ativo"], "ativo") + ", " + countOf(shown["Inativo"], "inativo") +
+           alongWith(shown[kDeletedStatus], "excluído") +
            (unreadable > 0 ? ", " + std::to_string(unreadable) + " com afastamentos ilegíveis"
                            : "") +
-           unreadCount(static_cast<std::size_t>(shown[""]));
+           unreadCount(shown[""]);
 }
 
 std::string Empregados::newRecordTitle() const {
@@ -138,7 +132,7 @@ std::string Empregados::newRecordTitle() const {
 }
 
 bool Empregados::requireCompany() const {
-    return at_.session.company || refuse(noCompany());
+    return at_.session.company || refuse(noCompany(at_));
 }
 
 bool Empregados::requireOtherCompany() {
@@ -149,17 +143,25 @@ void Empregados::askForEmployee() {
     at_.person.tell(noEmployeeSelected());
 }
 
-bool Empregados::requireComplete(const Employee& typed) const {
-    if (const std::string missing = missingFields(typed); !missing.empty())
-        return refuse(kIncomplete, "Falta preencher: " + missing + ".");
-    if (!typed.admissionDate()) return refuse(kWrongAdmission, noSuchDate(typed.admission));
-    const std::string wrong = incorrectField(typed);
-    return wrong.empty() || refuse(kNotAccepted, wrong);
+Findings<Employee> Empregados::wrongIn(const Employee& typed, const Employee& before) const {
+    return winvrx::wrongIn(typed, before, at_.clock.today());
+}
+
+Findings<Employee> Empregados::doubtsAbout(const Employee& typed, const Employee& before) const {
+    return winvrx::doubtsAbout(typed, before, lines_, at_.clock.today());
+}
+
+bool Empregados::requireRight(const Employee& typed, const Employee& before) {
+    if (!requireComplete(typed, kIncomplete)) return false;
+    if (!typed.admissionDate())
+        return refuseFor(noSuchDate(typed, &Employee::admission), kWrongAdmission);
+    const auto wrong = wrongIn(typed, before);
+    return wrong.empty() || refuseFor(wrong.front(), kNotAccepted);
 }
 
 bool Empregados::requireAcceptable(const Employee& typed, const Line*) {
-    if (!requireCompany() || !requireComplete(typed)) return false;
-    return !findLine(read(), typed.employeeCode()) || refuse(kNotAccepted, takenCode(typed));
+    if (!requireCompany() || !requireRight(typed, {})) return false;
+    return !findLine(read(), typed.employeeCode()) || refuseFor(takenCode(typed), kNotAccepted);
 }
 
 EmployeeKey Empregados::keyOfLine(const Line& line) const {
@@ -171,6 +173,7 @@ bool Empregados::isRotationMember(const Line& line) const {
 }
 
 bool Empregados::change(std::size_t position, const Employee& typed) {
+    blamed_ = nullptr;
     if (!at_.person.agrees(questions_.change)) return false;
     return run(incorrectData(), [&] {
         auto lines = read();
@@ -178,9 +181,12 @@ bool Empregados::change(std::size_t position, const Employee& typed) {
         Employee changed = typed;
         changed.code = line.record.code;
         changed.status = line.record.status;
-        if (changesRotation(line.record, changed) && isRotationMember(line))
+        if (changesRotation(line.record, changed) && isRotationMember(line)) {
+            const bool sameShift = line.record.shiftOr() == changed.shiftOr();
+            blamed_ = sameShift ? &Employee::scale : &Employee::shift;
             return refuse(kRotationMember);
-        return requireComplete(changed) &&
+        }
+        return requireRight(changed, line.record) && requireNoDoubt(changed, line.record) &&
                confirmDespitePayroll(at_.person, desk_.payroll, keyOfLine(line)) &&
                rewrite(
                    [&](Lines& now) { lineAsShown(now, position) = lineOf(changed, line.bytes); });
@@ -214,8 +220,10 @@ bool Empregados::transfer(std::size_t position, const CompanyCode& target) {
 }
 
 bool Empregados::remove(std::size_t position) {
-    if (!at_.person.agrees(questions_.remove)) return false;
     return run(incorrectData(), [&] {
+        const Message named =
+            removalOf(position, alongWith(filesOf(keysOf(Lines{lines_.at(position)})), "arquivo"));
+        if (!at_.person.agrees(named)) return false;
         auto lines = read();
         const Line chosen = lineAsShown(lines, position);
         if (isRotationMember(chosen)) {
@@ -228,10 +236,13 @@ bool Empregados::remove(std::size_t position) {
 }
 
 bool Empregados::removeAll() {
-    if (!requireCompany() || !at_.person.agrees(kConfirmDeleteAll) ||
-        !at_.person.agrees(kCertainDeleteAll))
-        return false;
+    if (!requireCompany()) return false;
     return run(incorrectData(), [&] {
+        for (Message asked : {kConfirmDeleteAll, kCertainDeleteAll}) {
+            asked.detail = companyTitle_ + alongWith(lines_.size(), "funcionário") +
+                           alongWith(filesOf(keysOf(lines_)), "arquivo");
+            if (!at_.person.agrees(asked)) return false;
+        }
         return rewrite([&](Lines& lines) {
             at_.keepStateBefore("excluir toda a lista de funcionários da empresa " + companyTitle_);
             write(lines);
@@ -239,6 +250,14 @@ bool Empregados::removeAll() {
             lines.clear();
         });
     });
+}
+
+std::size_t Empregados::filesOf(const std::set<EmployeeCode>& codes) const {
+    const FolderNames names = namesIn(at_.store());
+    return static_cast<std::size_t>(std::ranges::count_if(names, [&](const std::string& name) {
+        const auto code = employeeOfRecord(name, *at_.session.company);
+        return code && codes.contains(*code);
+    }));
 }
 
 void Empregados::removeFilesOf(const Line& gone, const Lines& remaining) const {

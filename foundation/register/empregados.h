@@ -63,6 +63,11 @@ class Empregados : public ListCommands<Employee> {
     [[nodiscard]] std::string counts() const override;
     [[nodiscard]] std::string newRecordTitle() const override;
 
+    [[nodiscard]] Findings<Employee> wrongIn(const Employee& typed,
+                                             const Employee& before) const override;
+    [[nodiscard]] Findings<Employee> doubtsAbout(const Employee& typed,
+                                                 const Employee& before) const override;
+
     /// Code and status stay, and so does what the record holds beyond the fields. A member of a
     /// rotation group keeps shift and scale.
     [[nodiscard]] bool change(std::size_t position, const Employee& typed) override;
@@ -97,7 +102,8 @@ class Empregados : public ListCommands<Employee> {
 
   private:
     [[nodiscard]] bool requireCompany() const;
-    [[nodiscard]] bool requireComplete(const Employee& typed) const;
+    [[nodiscard]] bool requireRight(const Employee& typed, const Employee& before);
+    [[nodiscard]] std::size_t filesOf(const std::set<EmployeeCode>& codes) const;
     [[nodiscard]] EmployeeRegister employeeRegister() const;
     [[nodiscard]] EmployeeKey keyOfLine(const Line& line) const;
     [[nodiscard]] bool isRotationMember(const Line& line) const;

@@ -1,8 +1,10 @@
 #include "foundation/register/empresa.h"
 
+#include "foundation/files/folder_names.h"
 #include "foundation/register/employee_register.h"
 
 #include <algorithm>
+#include <array>
 
 namespace winvrx {
 
@@ -19,6 +21,10 @@ const Message kHasEmployees = warning(
 const Message kDeletesEmployees = warning(
     "EXCLUIR", "Este Comando irá Exluir a Empresa e a Lista de Funcionarios. Deseja Continuar?");
 const Message kCertain = warning("EXCLUIR", "Tem Certeza que Deseja Excluir o Item Selecionado?");
+
+constexpr std::array kNumbers = {CheckedNumber<Company>{&Company::taxId, checkCnpjOrCpf},
+                                 CheckedNumber<Company>{&Company::ownerTaxId, checkCpf},
+                                 CheckedNumber<Company>{&Company::unionTaxId, checkCnpj}};
 
 bool isFirst(const std::vector<CompanyLine>& lines, std::size_t position) {
     return firstCompany(lines) == lines.data() + position;
@@ -39,14 +45,21 @@ ListRow Empresa::rowOf(const Company& company) const {
 std::string Empresa::counts() const {
     const auto known = static_cast<std::size_t>(
         std::ranges::count_if(lines_, [](const Line& line) { return line.key().has_value(); }));
-    return std::to_string(known) + (known == 1 ? " empresa" : " empresas") +
-           unreadCount(lines_.size() - known);
+    return countOf(known, "empresa") + unreadCount(lines_.size() - known);
 }
 
 std::string Empresa::newRecordTitle() const {
     const auto code = proposedCode();
     return code ? "Nova empresa: receberá o código " + code->text()
                 : "Todos os códigos de 01 a 99 já estão em uso";
+}
+
+Findings<Company> Empresa::doubtsAbout(const Company& typed, const Company& before) const {
+    return doubtfulNumbers(kNumbers, typed, before);
+}
+
+bool Empresa::requireAcceptable(const Company& typed, const Line*) {
+    return requireComplete(typed, incorrectData());
 }
 
 CompanyLine Empresa::lineUnder(const CompanyCode& code, Company typed, std::string existing) const {
@@ -65,16 +78,30 @@ CompanyLine Empresa::changedLine(const Company& typed, const Line& before) const
     return lineUnder(before.key().value(), typed, before.bytes);
 }
 
-bool Empresa::hasEmployees(const Line& line) const {
-    return line.key() && EmployeeRegister(at_.store(), *line.key()).hasEmployees();
+std::size_t Empresa::employeesOf(const Line& line) const {
+    return line.key() ? EmployeeRegister(at_.store(), *line.key()).load().size() : 0;
 }
 
-bool Empresa::confirmDeletion(bool hasEmployees) {
-    if (!at_.person.agrees(questions_.remove)) return false;
+std::size_t Empresa::filesOf(const Line& line) const {
+    const auto code = line.key();
+    if (!code) return 0;
+    const FolderNames names = namesIn(at_.store());
+    return static_cast<std::size_t>(std::ranges::count_if(
+        names, [&](const std::string& name) { return isRecordOfCompany(name, *code); }));
+}
+
+bool Empresa::confirmDeletion(std::size_t position, std::size_t employees) {
+    const Message named =
+        removalOf(position, alongWith(employees, "funcionário") +
+                                alongWith(filesOf(lines_.at(position)), "arquivo"));
+    const bool hasEmployees = employees > 0;
+    if (!at_.person.agrees(named)) return false;
     const bool onlyCompany = option_ == DeleteOption::CompanyOnly;
     if (onlyCompany && hasEmployees && !at_.person.agrees(kHasEmployees)) return false;
     if ((!onlyCompany || hasEmployees) && !at_.person.agrees(kDeletesEmployees)) return false;
-    return at_.person.agrees(kCertain);
+    Message certain = kCertain;
+    certain.detail = named.detail;
+    return at_.person.agrees(certain);
 }
 
 bool Empresa::remove(std::size_t position, DeleteOption option) {
@@ -86,14 +113,14 @@ bool Empresa::remove(std::size_t position) {
     if (isFirst(lines_, position)) return refuse(kFirstCompany);
     return run(incorrectData(), [&] {
         const Line chosen = lines_.at(position);
-        const bool hadEmployees = hasEmployees(chosen);
+        const std::size_t employees = employeesOf(chosen);
         const auto prepare = [&] {
-            if (isFirst(read(), position) || hasEmployees(chosen) != hadEmployees)
+            if (isFirst(read(), position) || employeesOf(chosen) != employees)
                 throw changedElsewhere("company list");
             if (chosen.key())
                 at_.keepStateBefore("excluir a empresa " + titleOf(lines_, chosen.key()));
         };
-        return confirmDeletion(hadEmployees) &&
+        return confirmDeletion(position, employees) &&
                erase(position, prepare,
                      [&](const Lines& remaining) { removeFilesOf(chosen, remaining); });
     });

@@ -35,11 +35,15 @@ class Empresa : public ListCommands<Company> {
     [[nodiscard]] bool remove(std::size_t position) override;
     [[nodiscard]] bool remove(std::size_t position, DeleteOption option);
 
+    [[nodiscard]] Findings<Company> doubtsAbout(const Company& typed,
+                                                const Company& before) const override;
+
   protected:
     void reread() override { lines_ = loadOrCreateCompanies(at_); }
     [[nodiscard]] Lines read() const override { return loadCompanies(at_.store()); }
     void write(const Lines& lines) override { companyFile(at_.store()).save(lines); }
     [[nodiscard]] ListRow rowOf(const Company& company) const override;
+    [[nodiscard]] bool requireAcceptable(const Company& typed, const Line* before) override;
     [[nodiscard]] Line newLine(const Company& typed, const Lines& lines) const override;
     [[nodiscard]] Line changedLine(const Company& typed, const Line& before) const override;
     /// An older version left the settings of a deleted company; who gets its code has none of them.
@@ -48,8 +52,9 @@ class Empresa : public ListCommands<Company> {
   private:
     [[nodiscard]] Line lineUnder(const CompanyCode& code, Company typed,
                                  std::string existing = {}) const;
-    [[nodiscard]] bool confirmDeletion(bool hasEmployees);
-    [[nodiscard]] bool hasEmployees(const Line& line) const;
+    [[nodiscard]] bool confirmDeletion(std::size_t position, std::size_t employees);
+    [[nodiscard]] std::size_t employeesOf(const Line& line) const;
+    [[nodiscard]] std::size_t filesOf(const Line& line) const;
     /// Deletes the company's files, unless a damaged list gives its code to another line too.
     void removeFilesOf(const Line& gone, const Lines& remaining);
 

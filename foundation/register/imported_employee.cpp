@@ -104,17 +104,18 @@ void completeImported(Employee& employee, const std::vector<EmployeeLine>& list,
     if (employee.scale.empty()) employee.scale = codeOf(Scale::Normal);
 }
 
-std::string importProblem(const Employee& employee, const std::vector<EmployeeLine>& list) {
-    if (const std::string missing = missingFields(employee); !missing.empty())
-        return "Falta preencher: " + missing + ".";
-    if (!employee.admissionDate()) return "Admissão: " + noSuchDate(employee.admission);
+std::string importProblem(const Employee& employee, const std::vector<EmployeeLine>& list,
+                          Date today) {
+    if (const auto missing = missingIn(employee); !missing.empty()) return missingText(missing);
+    if (!employee.admissionDate()) return captioned(noSuchDate(employee, &Employee::admission));
     if (!parseShift(employee.shift))
         return "Turno \"" + employee.shift + "\" não é Unico, Um, Dois nem Tres.";
     if (!parseScale(employee.scale))
         return "Escala \"" + employee.scale + "\" não é Normal, 5x1 nem 12x36.";
-    if (std::string wrong = incorrectField(employee); !wrong.empty()) return wrong;
+    if (const auto wrong = wrongIn(employee, {}, today); !wrong.empty())
+        return captioned(wrong.front());
     if (std::string wrong = unstorableField(employee); !wrong.empty()) return wrong;
-    if (findLine(list, employee.employeeCode())) return takenCode(employee);
+    if (findLine(list, employee.employeeCode())) return captioned(takenCode(employee));
     if (isRegistered(list, employee)) return "Este funcionário já está na lista.";
     return {};
 }

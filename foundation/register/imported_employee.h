@@ -23,7 +23,7 @@ void completeImported(Employee& employee, const std::vector<EmployeeLine>& list,
 
 /// Why the employee cannot be appended to the list; empty when he can.
 [[nodiscard]] std::string importProblem(const Employee& employee,
-                                        const std::vector<EmployeeLine>& list);
+                                        const std::vector<EmployeeLine>& list, Date today);
 
 /// What is worth a look although the employee can be appended.
 [[nodiscard]] std::string importNotice(const Employee& employee);

@@ -1,10 +1,8 @@
 #include "foundation/values/input_checks.h"
 
 #include "foundation/values/codes.h"
-#include "foundation/values/date.h"
 #include "foundation/values/faults.h"
 #include "foundation/values/money.h"
-#include "foundation/values/tax_id.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>
@@ -26,6 +24,9 @@ bool isDateCharacter(char c) {
     return isDigit(c) || c == '/' || c == '-' || c == '.';
 }
 
+/// Every two-digit year has a day that is not after this one.
+constexpr Date kLastOfCentury{std::chrono::year{2099}, std::chrono::December, std::chrono::day{31}};
+
 /// Day, month and year as typed; nullopt when they cannot be told apart.
 std::optional<std::vector<std::string>> dateParts(std::string_view text) {
     if (!std::all_of(text.begin(), text.end(), isDateCharacter)) return std::nullopt;
@@ -36,9 +37,9 @@ std::optional<std::vector<std::string>> dateParts(std::string_view text) {
         else
             parts.emplace_back();
     }
-    if (parts.size() == 1 && parts[0].size() == 8)
+    if (parts.size() == 1 && (parts[0].size() == 8 || parts[0].size() == 6))
         parts = {parts[0].substr(0, 2), parts[0].substr(2, 2), parts[0].substr(4)};
-    if (parts.size() != 3 || parts[2].size() != 4) return std::nullopt;
+    if (parts.size() != 3 || (parts[2].size() != 4 && parts[2].size() != 2)) return std::nullopt;
     return parts;
 }
 
@@ -57,6 +58,21 @@ std::optional<std::string> digitsOf(std::string_view text, std::size_t count) {
 
 std::string twoDigits(const std::string& digits) {
     return digits.size() == 1 ? "0" + digits : digits;
+}
+
+/// The full form of a date, the year of which has four digits or stands for the last such day that
+/// is not after `latest`. What is no such date comes back as it is.
+std::string completedUntil(std::string_view text, Date latest) {
+    const auto parts = dateParts(text);
+    if (!parts) return std::string(text);
+    const std::string beginning = twoDigits((*parts)[0]) + "/" + twoDigits((*parts)[1]) + "/";
+    const std::string& year = (*parts)[2];
+    if (const std::string full = beginning + year; parseDate(full)) return full;
+    for (const int back : {0, 1}) {
+        const std::string full = beginning + padded(int{latest.year()} / 100 - back, 2) + year;
+        if (const auto date = parseDate(full); date && *date <= latest) return full;
+    }
+    return std::string(text);
 }
 
 /// Puts a check of a number in words; `name` is what the number is called: "CPF".
@@ -88,7 +104,7 @@ Hint textHint(std::string_view utf8) {
 }
 
 Hint dateHint(std::string_view text, Entry entry) {
-    const std::string completed = completedDate(trimmed(text));
+    const std::string completed = completedUntil(trimmed(text), kLastOfCentury);
     if (completed.empty() || parseDate(completed)) return {};
     const bool finished = entry == Entry::Left || completed.size() >= kDateWidth;
     if (!std::all_of(completed.begin(), completed.end(), isDateCharacter) || finished)
@@ -106,7 +122,10 @@ Hint cpfHint(std::string_view text, Entry entry) {
 }
 
 Hint cnpjOrCpfHint(std::string_view text, Entry entry) {
-    return idHint(checkCnpjOrCpf(text), "CNPJ/CPF", entry);
+    const IdCheck check = checkCnpjOrCpf(text);
+    // The first eleven digits of a CNPJ look like a CPF.
+    const bool mayGrow = check == IdCheck::Wrong && entry == Entry::Typing && digitsOf(text, 11);
+    return mayGrow ? Hint{} : idHint(check, "CNPJ/CPF", entry);
 }
 
 Hint pisHint(std::string_view text, Entry entry) {
@@ -126,10 +145,7 @@ Hint occupationHint(std::string_view text, Entry entry) {
 }
 
 std::string completedCpf(std::string_view text) {
-    const auto digits = digitsOf(text, 11);
-    if (!digits) return std::string(text);
-    return digits->substr(0, 3) + "." + digits->substr(3, 3) + "." + digits->substr(6, 3) + "-" +
-           digits->substr(9);
+    return digitsOf(text, 11) ? punctuatedCpf(text) : std::string(text);
 }
 
 std::string completedPostalCode(std::string_view text) {
@@ -154,12 +170,17 @@ std::string completedEmployeeCode(std::string_view text) {
 }
 
 std::string completedDate(std::string_view text) {
-    if (const auto parts = dateParts(text)) {
-        std::string full =
-            twoDigits((*parts)[0]) + "/" + twoDigits((*parts)[1]) + "/" + (*parts)[2];
-        if (parseDate(full)) return full;
-    }
-    return std::string(text);
+    const auto parts = dateParts(text);
+    return parts && parts->back().size() == 4 ? completedUntil(text, kLastOfCentury)
+                                              : std::string(text);
+}
+
+std::string completedPastDate(std::string_view text, Date today) {
+    return completedUntil(text, today);
+}
+
+std::string completedContractDate(std::string_view text, Date today) {
+    return completedUntil(text, today + std::chrono::years{1});
 }
 
 }  // namespace winvrx

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "foundation/values/date.h"
+#include "foundation/values/tax_id.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -58,6 +61,11 @@ enum class Entry { Typing, Left };
 /// "12/03/2024" and the like. What is no such date comes back as it is.
 [[nodiscard]] std::string completedDate(std::string_view text);
 
+/// The same where the year may have two digits, "15/3/80" and "150380": the last such day that is
+/// not after today, for a birth, or after the same day next year, for a day on a contract.
+[[nodiscard]] std::string completedPastDate(std::string_view text, Date today);
+[[nodiscard]] std::string completedContractDate(std::string_view text, Date today);
+
 /// One of a few codes that a field takes, and the text that it is shown by.
 struct Choice {
     std::string code;
@@ -71,24 +79,33 @@ struct FieldKind {
     /// The full form that a field shows when it is left; of a choice, the code that a stored text
     /// means.
     std::string (*completed)(std::string_view text) = nullptr;
+    /// The full form of what is told from the day on which it is typed.
+    std::string (*completedOn)(std::string_view text, Date today) = nullptr;
     /// What the record holds, where a field shows more than that.
     std::string (*stored)(std::string_view shown) = nullptr;
     std::vector<Choice> (*choices)() = nullptr;
-    bool isNotes = false;  ///< wrapped over several lines
+    bool isNotes = false;          ///< wrapped over several lines
+    bool completesTyping = false;  ///< the full form is given with every key, as far as it goes
     enum class Shape { Text, Number, Time } shape = Shape::Text;
 };
 
 inline constexpr FieldKind kTextField{};
 inline constexpr FieldKind kNotesField{.isNotes = true};
 inline constexpr FieldKind kNumberField{.shape = FieldKind::Shape::Number};
-inline constexpr FieldKind kDateField{dateHint, completedDate};
-inline constexpr FieldKind kCnpjField{cnpjHint};
-inline constexpr FieldKind kCpfField{cpfHint, completedCpf};
-inline constexpr FieldKind kCnpjOrCpfField{cnpjOrCpfHint};
+inline constexpr FieldKind kBirthDateField{.hint = dateHint, .completedOn = completedPastDate};
+inline constexpr FieldKind kContractDateField{.hint = dateHint,
+                                              .completedOn = completedContractDate};
+inline constexpr FieldKind kCnpjField{
+    .hint = cnpjHint, .completed = punctuatedCnpj, .completesTyping = true};
+inline constexpr FieldKind kCpfField{
+    .hint = cpfHint, .completed = punctuatedCpf, .completesTyping = true};
+inline constexpr FieldKind kCnpjOrCpfField{
+    .hint = cnpjOrCpfHint, .completed = punctuatedCnpjOrCpf, .completesTyping = true};
 inline constexpr FieldKind kPisField{pisHint};
 inline constexpr FieldKind kOccupationField{occupationHint};
 inline constexpr FieldKind kPostalCodeField{nullptr, completedPostalCode};
-inline constexpr FieldKind kMoneyField{moneyHint, completedMoney, storedMoney};
+inline constexpr FieldKind kMoneyField{
+    .hint = moneyHint, .completed = completedMoney, .stored = storedMoney};
 inline constexpr FieldKind kEmployeeCodeField{nullptr, completedEmployeeCode};
 
 }  // namespace winvrx

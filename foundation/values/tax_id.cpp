@@ -48,10 +48,11 @@ struct Form {
     std::size_t checkDigits;
     int highestWeight;
     bool letters;
+    std::string_view mask = {};  ///< '#' is a character of the number
 };
 
-constexpr Form kCnpj{kCnpjLength, 2, kCnpjHighestWeight, true};
-constexpr Form kCpf{kCpfLength, 2, kCpfHighestWeight, false};
+constexpr Form kCnpj{kCnpjLength, 2, kCnpjHighestWeight, true, "##.###.###/####-##"};
+constexpr Form kCpf{kCpfLength, 2, kCpfHighestWeight, false, "###.###.###-##"};
 constexpr Form kPis{kPisLength, 1, kCnpjHighestWeight, false};
 
 bool hasAllowedCharacters(const std::string& number, const Form& form) {
@@ -78,6 +79,19 @@ IdCheck check(std::string_view typed, const Form& form) {
     return IdCheck::Valid;
 }
 
+/// A word, as "ISENTO", is no number although letters may be part of one.
+std::string punctuated(std::string_view typed, const Form& form) {
+    const std::string number = withoutPunctuation(typed);
+    const bool begins = number.size() <= form.length && hasAllowedCharacters(number, form) &&
+                        std::ranges::any_of(number, isDigit);
+    if (!begins) return std::string(typed);
+    std::string text;
+    auto next = number.begin();
+    for (auto place = form.mask.begin(); next != number.end(); ++place)
+        text += *place == '#' ? *next++ : *place;
+    return text;
+}
+
 /// "529.982.247-2" can only become a CPF: a CNPJ has its bar before the dash.
 bool hasCpfMask(std::string_view typed) {
     return typed.find('-') != std::string_view::npos && typed.find('/') == std::string_view::npos;
@@ -100,6 +114,20 @@ IdCheck checkPis(std::string_view typed) {
 IdCheck checkCnpjOrCpf(std::string_view typed) {
     const IdCheck asCpf = checkCpf(typed);
     return asCpf == IdCheck::Valid || hasCpfMask(typed) ? asCpf : checkCnpj(typed);
+}
+
+std::string punctuatedCnpj(std::string_view typed) {
+    return punctuated(typed, kCnpj);
+}
+
+std::string punctuatedCpf(std::string_view typed) {
+    return punctuated(typed, kCpf);
+}
+
+std::string punctuatedCnpjOrCpf(std::string_view typed) {
+    const std::string number = withoutPunctuation(typed);
+    return punctuated(
+        typed, number.size() <= kCpf.length && hasAllowedCharacters(number, kCpf) ? kCpf : kCnpj);
 }
 
 }  // namespace winvrx

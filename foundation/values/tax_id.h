@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 // The numbers by which the state knows companies and people. Each carries check digits, so a slip
@@ -9,6 +10,7 @@
 //     checkCpf("529.982.247-25")      IdCheck::Valid
 //     checkCnpj("12ABC34501DE35")     IdCheck::Valid, the alphanumeric form given out from 2026 on
 //     checkCpf("529.982")             IdCheck::TooShort
+//     punctuatedCpf("5299822")        "529.982.2"
 
 namespace winvrx {
 
@@ -31,5 +33,12 @@ enum class IdCheck {
 
 /// For a field that takes either: a CPF when it is one, else a CNPJ.
 [[nodiscard]] IdCheck checkCnpjOrCpf(std::string_view typed);
+
+/// The number with its points, bar and dash as far as it goes, letters in upper case; what cannot
+/// be the beginning of such a number comes back as it is.
+[[nodiscard]] std::string punctuatedCnpj(std::string_view typed);
+[[nodiscard]] std::string punctuatedCpf(std::string_view typed);
+/// Up to eleven digits as a CPF, more as a CNPJ.
+[[nodiscard]] std::string punctuatedCnpjOrCpf(std::string_view typed);
 
 }  // namespace winvrx

@@ -192,6 +192,13 @@ std::optional<int> parseWholeNumber(std::string_view text, int lowest, int highe
     return number;
 }
 
+std::string digitsIn(std::string_view text) {
+    std::string digits;
+    std::ranges::copy_if(text, std::back_inserter(digits),
+                         [](char c) { return c >= '0' && c <= '9'; });
+    return digits;
+}
+
 std::string upperCase(std::string_view utf8) {
     return mapped(utf8, upperOf);
 }

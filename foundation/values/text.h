@@ -48,6 +48,9 @@ namespace winvrx {
 /// else.
 [[nodiscard]] std::optional<int> parseWholeNumber(std::string_view text, int lowest, int highest);
 
+/// The digits of `text` alone.
+[[nodiscard]] std::string digitsIn(std::string_view text);
+
 /// Upper-case form, Portuguese accented letters included.
 [[nodiscard]] std::string upperCase(std::string_view utf8);
 

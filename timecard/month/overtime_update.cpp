@@ -98,7 +98,7 @@ bool confirmUpdate(const Workplace& at, WorkMonth month) {
     const Listed listed = listedIn(at, month, fileNames(at));
     if (!listed.open.empty()) return at.person.agrees(confirmation(at, month, listed));
     if (!at.session.company)
-        at.person.tell(noCompany());
+        at.person.tell(noCompany(at));
     else
         at.person.tell(listed.closed.empty() ? kNobodyListed : kAllClosed);
     return false;

@@ -53,7 +53,7 @@ CartaoPontoDados::CartaoPontoDados(const Workplace& at, const PunchDesk& desk)
 bool CartaoPontoDados::open() {
     return attempt(at_, incorrectData(), [this] {
         if (!at_.session.company) {
-            at_.person.tell(noCompany());
+            at_.person.tell(noCompany(at_));
             return false;
         }
         const auto selected = loadSelectedMonth(at_.store());
@@ -155,7 +155,7 @@ std::filesystem::path CartaoPontoDados::punchFile() const {
 bool CartaoPontoDados::requireSelection() {
     if (selected()) return true;
     if (!at_.session.company)
-        at_.person.tell(noCompany());
+        at_.person.tell(noCompany(at_));
     else
         at_.person.tell(company_ ? noEmployeeSelected() : kNoMonth);
     return false;

@@ -55,12 +55,12 @@ constexpr std::array kPlacements = {
     Placement{&Employee::name, "name", 'N', kIdentity, 0, 10},
     Placement{&Employee::function, "function", 'F', kIdentity, 1, 8},
     Placement{&Employee::occupation, "occupation", 'B', kIdentity, 1, 4, kOccupationField},
-    Placement{&Employee::birthDate, "birthDate", 'M', kIdentity, 2, 4, kDateField},
+    Placement{&Employee::birthDate, "birthDate", 'M', kIdentity, 2, 4, kBirthDateField},
     Placement{&Employee::telephone, "telephone", 'T', kIdentity, 2, 5},
     Placement{&Employee::dependants, "dependants", 'P', kIdentity, 2, 3},
     Placement{&Employee::status, "status", 'Y', kIdentity, 3, 4},
-    Placement{&Employee::admission, "admission", 'A', kContract, 0, 4, kDateField},
-    Placement{&Employee::dismissal, "dismissal", 'D', kContract, 0, 4, kDateField},
+    Placement{&Employee::admission, "admission", 'A', kContract, 0, 4, kContractDateField},
+    Placement{&Employee::dismissal, "dismissal", 'D', kContract, 0, 4, kContractDateField},
     Placement{&Employee::salary, "salary", 'L', kContract, 0, 4, kMoneyField},
     Placement{&Employee::bank, "bank", 'B', kContract, 1, 12},
     Placement{&Employee::shift, "shift", 'U', kScale, 0, 4, kShiftField, kShiftListTitle},
@@ -98,7 +98,6 @@ EmployeeForm::EmployeeForm(Empregados& employees, QWidget* window)
     addGroup(kPlacements, kAddress, addPage(*pages, QStringLiteral("&4 Endereço")));
     addGroup(kPlacements, kNotes, addPage(*pages, QStringLiteral("&5 Observações")));
     field(&Employee::status)->setReadOnly(true);
-    connect(this, &RecordEditor::edited, this, &EmployeeForm::checkScale);
     setWidget(pages);
 }
 
@@ -125,25 +124,10 @@ void EmployeeForm::show(std::optional<std::size_t> position) {
     field(&Employee::status)->showInstead(status);
     // The code of a recorded employee stands in file names.
     field(&Employee::code)->setReadOnly(position.has_value());
-    checkScale();
-}
-
-void EmployeeForm::checkScale() {
-    const Employee employee = typed();
-    const auto shift = parseShift(employee.shift);
-    const auto scale = parseScale(employee.scale);
-    const bool barred = shift && scale && !allows(*scale, *shift);
-    field(&Employee::scale)
-        ->setWarning(barred ? QStringLiteral("12x36 somente nos turnos 1 e 3.") : QString());
 }
 
 void EmployeeForm::focusFirst() {
     focus(field(&Employee::name));
-}
-
-bool EmployeeForm::isMissing(const Employee& employee, Member member) const {
-    return RecordForm::isMissing(employee, member) ||
-           (member == &Employee::admission && !employee.admissionDate());
 }
 
 }  // namespace winvrx

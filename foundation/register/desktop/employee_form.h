@@ -17,12 +17,8 @@ class EmployeeForm : public RecordForm<Employee> {
     void show(std::optional<std::size_t> position) override;
     void focusFirst() override;
 
-  protected:
-    [[nodiscard]] bool isMissing(const Employee& employee, Member member) const override;
-
   private:
     [[nodiscard]] static QVBoxLayout& addPage(QTabWidget& pages, const QString& title);
-    void checkScale();
 
     Empregados& employees_;
 };

@@ -22,6 +22,8 @@ EmpresaWindow::EmpresaWindow(Empresa& empresa, QWidget* parent)
                      parent) {
     assemble(new CompanyForm(empresa, this), buildOptions(empresa));
     openAt(0);
+    // One company is the usual case: its data are what is looked for here.
+    focusForm();
 }
 
 QWidget* EmpresaWindow::buildOptions(Empresa& empresa) {

@@ -4,6 +4,7 @@
 #include "foundation/values/text.h"
 #include "foundation/widgets/desktop/look.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QGridLayout>
@@ -24,14 +25,32 @@ namespace {
 // With the frame.
 constexpr int kTimeInDigits = 11;
 constexpr int kNumberInDigits = 8;
+constexpr int kLongestCutShown = 20;
+
+/// What a number is without its punctuation, in whatever case.
+QString lettersOf(const QString& text) {
+    QString letters;
+    for (const QChar c : text)
+        if (c.isLetterOrNumber()) letters += c.toUpper();
+    return letters;
+}
+
+QString fullText(int width) {
+    return QStringLiteral("%1 de %1").arg(width);
+}
+
+QString shortened(const QString& text) {
+    return text.size() <= kLongestCutShown ? text : text.left(kLongestCutShown) + QChar(u'…');
+}
 
 }  // namespace
 
 Field::Field(const Texts& texts, QWidget* parent)
     : QWidget(parent),
       kind_(texts.kind),
+      today_(texts.today),
       width_(static_cast<int>(texts.width)),
-      input_(makeInput(texts)) {
+      input_(makeInput()) {
     look::name(*input_, texts.objectName, texts.caption);
     frame(texts.caption);
 }
@@ -41,17 +60,8 @@ Field::Field(const QString& caption, QWidget* input, QWidget* parent)
     frame(caption);
 }
 
-QWidget* Field::makeInput(const Texts& texts) {
-    if (kind_.choices) {
-        list_ = new QComboBox;
-        list_->setFont(look::fixedFont());
-        list_->setPlaceholderText(QStringLiteral("Escolha…"));
-        for (const Choice& choice : kind_.choices())
-            list_->addItem(toQt(choice.text), toQt(choice.code));
-        list_->setCurrentIndex(-1);
-        connect(list_, &QComboBox::currentIndexChanged, this, &Field::edited);
-        return list_;
-    }
+QWidget* Field::makeInput() {
+    if (kind_.choices) return makeList();
     if (kind_.isNotes) {
         notes_ = new QPlainTextEdit;
         notes_->setTabChangesFocus(true);
@@ -63,10 +73,25 @@ QWidget* Field::makeInput(const Texts& texts) {
         return notes_;
     }
     line_ = new QLineEdit;
-    line_->setMaxLength(static_cast<int>(texts.width));
     connectLine();
     shapeLine();
     return line_;
+}
+
+QWidget* Field::makeList() {
+    list_ = new QComboBox;
+    list_->setFont(look::fixedFont());
+    list_->setPlaceholderText(QStringLiteral("Escolha…"));
+    for (const Choice& choice : kind_.choices())
+        list_->addItem(toQt(choice.text), toQt(choice.code));
+    list_->setCurrentIndex(-1);
+    list_->view()->installEventFilter(this);
+    connect(list_, &QComboBox::currentIndexChanged, this, [this] {
+        finding_.clear();
+        emit edited();
+        emit finished();
+    });
+    return list_;
 }
 
 void Field::shapeLine() {
@@ -84,6 +109,7 @@ void Field::shapeLine() {
 
 void Field::connectLine() {
     connect(line_, &QLineEdit::textChanged, this, [this] {
+        takeTyping();
         showHint(Entry::Typing);
         if (line_->isModified()) emit edited();
     });
@@ -91,7 +117,54 @@ void Field::connectLine() {
         if (!line_->isModified()) return;
         complete();
         showHint(Entry::Left);
+        emit finished();
     });
+}
+
+void Field::takeTyping() {
+    finding_.clear();
+    cut_.clear();
+    if (line_->isModified()) {
+        punctuate();
+        limit([this](int start, int count) {
+            const QSignalBlocker quiet(line_);
+            line_->setSelection(start, count);
+            line_->del();
+        });
+    }
+    typed_ = line_->text();
+}
+
+/// Leaves alone what changed in its punctuation only, so that a point can be deleted and an edit
+/// be undone.
+void Field::punctuate() {
+    const QString typed = line_->text();
+    if (!kind_.completesTyping || lettersOf(typed) == lettersOf(typed_)) return;
+    const QString full = toQt(kind_.completed(trimmed(toUtf8(typed))));
+    if (full == typed || full.size() > width_) return;
+    const auto before = lettersOf(typed.left(line_->cursorPosition())).size();
+    const QSignalBlocker quiet(line_);
+    line_->selectAll();
+    line_->insert(full);
+    int place = 0;
+    while (lettersOf(full.left(place)).size() < before)
+        ++place;
+    line_->setCursorPosition(place);
+}
+
+template <typename Cut>
+void Field::limit(Cut&& cut) {
+    const QString typed = text();
+    const int excess = static_cast<int>(typed.size()) - width_;
+    if (excess <= 0) return;
+    const int cursor = line_ ? line_->cursorPosition() : notes_->textCursor().position();
+    const int start = std::max(excess, cursor) - excess;
+    cut(start, excess);
+    const bool oneKey = excess == 1 && text() == typed_;
+    cut_ = oneKey ? fullText(width_)
+                  : QStringLiteral("“%1” cortado: o que passou de %2 letras.")
+                        .arg(shortened(typed.mid(start, excess)))
+                        .arg(width_);
 }
 
 void Field::frame(const QString& caption) {
@@ -123,13 +196,13 @@ std::string Field::stored() const {
 }
 
 void Field::showInstead(const QString& text) {
-    line_->setMaxLength(std::max(width_, static_cast<int>(text.size())));
     put(toUtf8(text));
     shown_ = shownNow();
 }
 
 void Field::put(const std::string& text) {
     if (line_) {
+        finding_.clear();
         line_->setText(toQt(text));
         line_->setCursorPosition(0);
     } else if (list_) {
@@ -137,6 +210,7 @@ void Field::put(const std::string& text) {
         list_->setCurrentIndex(
             list_->findData(toQt(kind_.completed ? kind_.completed(text) : text)));
         list_->update();
+        setFinding({});
     } else {
         const QSignalBlocker quiet(notes_);
         notes_->setPlainText(toQt(text));
@@ -195,48 +269,65 @@ void Field::setWarning(const QString& text) {
     look::setTint(*hint_, look::Tint::Warning);
 }
 
+void Field::setFinding(const QString& text) {
+    finding_ = text;
+    if (!notes_) showHint(Entry::Left);
+}
+
+Hint Field::ownHint(Entry entry) const {
+    if (!line_ || !line_->isModified()) return {};
+    const std::string typed = toUtf8(line_->text());
+    const Hint hint = textHint(typed);
+    if (hint.tone != Hint::Tone::None || !kind_.hint || trimmed(typed).empty()) return hint;
+    return kind_.hint(typed, entry);
+}
+
 void Field::showHint(Entry entry) {
-    Hint hint;
-    if (line_->isModified()) {
-        const std::string typed = toUtf8(line_->text());
-        hint = textHint(typed);
-        if (hint.tone == Hint::Tone::None && kind_.hint && !trimmed(typed).empty())
-            hint = kind_.hint(typed, entry);
-    }
-    setWarning(toQt(hint.text));
-    if (hint.tone != Hint::Tone::Good) return;
-    hint_->setText(QStringLiteral("✓ ") + toQt(hint.text));
+    const Hint hint = ownHint(entry);
+    const bool isRight = hint.tone == Hint::Tone::Good && finding_.isEmpty();
+    // What has a form of its own is full where it is right.
+    const bool isFull = line_ && line_->isModified() && line_->text().size() == width_ &&
+                        !kind_.hint && !kind_.completed && entry == Entry::Typing;
+    const QString own = hint.tone == Hint::Tone::Warning ? toQt(hint.text) : finding_;
+    setWarning(own.isEmpty() ? cut_ : own);
+    if (!hint_->text().isEmpty() || (!isRight && !isFull)) return;
+    hint_->setText(isRight ? QStringLiteral("✓ ") + toQt(hint.text) : fullText(width_));
     look::setTint(*hint_, look::Tint::Quiet);
 }
 
 /// As if typed, so that the field counts as edited.
 void Field::complete() {
-    if (!kind_.completed) return;
-    const QString completed = toQt(kind_.completed(trimmed(toUtf8(line_->text()))));
-    if (completed == line_->text() || completed.size() > line_->maxLength()) return;
+    const std::string typed(trimmed(toUtf8(line_->text())));
+    const QString completed = toQt(kind_.completedOn ? kind_.completedOn(typed, today_)
+                                   : kind_.completed ? kind_.completed(typed)
+                                                     : toUtf8(line_->text()));
+    if (completed == line_->text() || completed.size() > width_) return;
     line_->selectAll();
     line_->insert(completed);
 }
 
 /// Takes back what goes beyond the column, then says how much room is left.
 void Field::limitNotes() {
-    if (text().size() > width_) {
+    cut_.clear();
+    limit([this](int start, int count) {
         const QSignalBlocker quiet(notes_);
         QTextCursor cursor = notes_->textCursor();
-        const int excess = static_cast<int>(text().size()) - width_;
-        cursor.setPosition(std::max(excess, cursor.position()) - excess);
-        cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor, excess);
+        cursor.setPosition(start);
+        cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor, count);
         cursor.removeSelectedText();
-    }
-    const Hint hint = textHint(toUtf8(text()));
-    setWarning(toQt(hint.text));
-    if (hint.tone == Hint::Tone::Warning) return;
-    hint_->setText(QStringLiteral("%1 de %2 caracteres").arg(text().size()).arg(width_));
+    });
+    typed_ = text();
+    const Hint hint = textHint(toUtf8(typed_));
+    setWarning(hint.tone == Hint::Tone::Warning ? toQt(hint.text) : cut_);
+    if (!hint_->text().isEmpty()) return;
+    hint_->setText(QStringLiteral("%1 de %2 caracteres").arg(typed_.size()).arg(width_));
     look::setTint(*hint_, look::Tint::Quiet);
 }
 
-/// Enter leaves the notes, as every other field.
+/// Enter leaves the notes, as every other field. A list without a choice opens with its first row
+/// marked, from where the keys go on.
 bool Field::eventFilter(QObject* watched, QEvent* event) {
+    if (list_ && watched == list_->view() && event->type() == QEvent::Show) markRow();
     if (watched == notes_ && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
@@ -245,6 +336,11 @@ bool Field::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     return QWidget::eventFilter(watched, event);
+}
+
+void Field::markRow() {
+    if (!list_->view()->currentIndex().isValid())
+        list_->view()->setCurrentIndex(list_->model()->index(0, list_->modelColumn()));
 }
 
 QString withMnemonic(std::string_view caption, char letter) {

@@ -19,7 +19,8 @@ namespace winvrx {
 /// below. The label's mnemonic leads to the field.
 ///
 /// Says what it finds in what the operator types, and brings it into its full form when the field
-/// is left; what was only shown is not judged. Takes no more characters than the column holds.
+/// is left; what was only shown is not judged. Takes no more characters than the column holds, and
+/// says when it is full and what was cut.
 class Field : public QWidget {
     Q_OBJECT
 
@@ -29,6 +30,7 @@ class Field : public QWidget {
         QString objectName;
         std::size_t width;  ///< of the column
         FieldKind kind = {};
+        Date today = {};  ///< for a kind that asks for it
     };
 
     Field(const Texts& texts, QWidget* parent);
@@ -60,27 +62,41 @@ class Field : public QWidget {
 
     /// A short sentence under the field, with a sign before it; an empty text clears it.
     void setWarning(const QString& text);
+    /// What is found in the text beside other fields and records: said until the next edit where
+    /// the field finds nothing itself.
+    void setFinding(const QString& text);
 
   signals:
     /// By the operator, not by setStored.
     void edited();
+    /// What was edited has its full form: the field was left, or a choice was made.
+    void finished();
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    [[nodiscard]] QWidget* makeInput(const Texts& texts);
+    [[nodiscard]] QWidget* makeInput();
     void frame(const QString& caption);
+    [[nodiscard]] QWidget* makeList();
     void connectLine();
     void shapeLine();
+    void takeTyping();
+    void punctuate();
+    /// Takes back what goes beyond the column, and remembers what it says of that.
+    template <typename Cut>
+    void limit(Cut&& cut);
     /// The text, or the place in the list.
     [[nodiscard]] QString shownNow() const;
     void put(const std::string& text);
     void showHint(Entry entry);
+    [[nodiscard]] Hint ownHint(Entry entry) const;
     void complete();
+    void markRow();
     void limitNotes();
 
     FieldKind kind_;
+    Date today_;
     int width_ = 0;
     QLineEdit* line_ = nullptr;
     QComboBox* list_ = nullptr;
@@ -90,6 +106,9 @@ class Field : public QWidget {
     QLabel* hint_ = nullptr;
     std::string stored_;
     QString shown_;
+    QString typed_;    ///< before the key in hand
+    QString finding_;  ///< of others
+    QString cut_;      ///< what is said of what the last key or paste had too much
 };
 
 /// The caption with its Alt letter marked: the first `letter` in it, whatever its case. A caption

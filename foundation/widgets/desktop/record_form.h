@@ -2,12 +2,15 @@
 
 #include "foundation/desk/list_commands.h"
 #include "foundation/files/record_fields.h"
+#include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/record_editor.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <vector>
@@ -52,11 +55,7 @@ class RecordForm : public RecordEditor {
     [[nodiscard]] bool save(std::optional<std::size_t> position) override {
         const Record record = typed();
         if (position ? commands_.change(*position, record) : commands_.include(record)) return true;
-        for (std::size_t place = 0; place < members_.size(); ++place)
-            if (isMissing(record, members_[place])) {
-                focus(fieldAt(place));
-                break;
-            }
+        if (Field* blamed = field(commands_.blamed())) focus(blamed);
         return false;
     }
 
@@ -96,12 +95,19 @@ class RecordForm : public RecordEditor {
         return nullptr;
     }
 
-    /// Whether a refusal is because of this member.
-    [[nodiscard]] virtual bool isMissing(const Record& record, Member member) const {
-        return layoutOf(member).isRequired && (record.*member).empty();
+  private:
+    /// Says beside each field what the commands have against it.
+    void showFindings() {
+        const Record record = typed();
+        auto findings = commands_.wrongIn(record, shown_);
+        std::ranges::move(commands_.doubtsAbout(record, shown_), std::back_inserter(findings));
+        for (std::size_t place = 0; place < members_.size(); ++place) {
+            const auto found =
+                std::ranges::find(findings, members_[place], &Finding<Record>::member);
+            fieldAt(place)->setFinding(found == findings.end() ? QString() : toQt(found->text));
+        }
     }
 
-  private:
     [[nodiscard]] static const RecordField<Record>& layoutOf(Member member) {
         return fieldHolding(RecordLayout<Record>::kFields, member);
     }
@@ -119,10 +125,12 @@ class RecordForm : public RecordEditor {
             new Field({.caption = caption,
                        .objectName = screen_ + QLatin1Char('.') + QLatin1String(place.name),
                        .width = layout.column.width + more,
-                       .kind = place.kind},
+                       .kind = place.kind,
+                       .today = commands_.today()},
                       parent);
         members_.push_back(place.member);
         add(field);
+        this->connect(field, &Field::finished, this, [this] { showFindings(); });
         return field;
     }
 

@@ -42,7 +42,7 @@ void RegisterWindow::addCommands() {
         addCommand(QStringLiteral("edit"), QStringLiteral("Alterar"), Qt::Key_F2, named("change"));
     connect(change_, &QToolButton::clicked, this, &RegisterWindow::change);
     remove_ = addCommand(QStringLiteral("delete"), QStringLiteral("Excluir"), Qt::Key_Delete,
-                         named("delete"));
+                         named("delete"), list_);
     connect(remove_, &QToolButton::clicked, this, &RegisterWindow::remove);
     QPushButton* save = addClosingButton(QStringLiteral("&Gravar"), named("save"));
     save->setIcon(look::icon(QStringLiteral("save")));
@@ -87,7 +87,10 @@ void RegisterWindow::assemble(RecordEditor* form, QWidget* underList, ListRoom r
 void RegisterWindow::openAt(std::optional<std::size_t> position) {
     commands_.load();
     refresh(position);
-    form_->focusFirst();
+    if (current_)
+        list_->takeFocus();
+    else
+        form_->focusFirst();
 }
 
 void RegisterWindow::refresh(std::optional<std::size_t> position) {
@@ -168,6 +171,11 @@ void RegisterWindow::finishField() {
 void RegisterWindow::include() {
     finishField();
     if (current_) return startNew();
+    if (!form_->isDirty()) return form_->focusFirst();
+    includeTyped();
+}
+
+void RegisterWindow::includeTyped() {
     if (!form_->save(std::nullopt)) return recover();
     refresh(commands_.count() - 1);
     list_->takeFocus();
@@ -188,10 +196,9 @@ void RegisterWindow::remove() {
 }
 
 void RegisterWindow::save() {
-    if (current_)
-        change();
-    else
-        include();
+    if (current_) return change();
+    finishField();
+    includeTyped();
 }
 
 bool RegisterWindow::mayClose() {

@@ -16,8 +16,9 @@ namespace winvrx {
 /// the commands include, change and delete.
 ///
 /// The form shows either a record of the list or, with none selected, the next record to be
-/// included. Incluir leads to an empty form and from there records it; Gravar records whichever
-/// the form shows. Before the form turns to another record, typed text is asked about.
+/// included. Incluir leads to an empty form and, once something is typed there, records it; Gravar
+/// records whichever the form shows. The key Del deletes from the list only. Before the form turns
+/// to another record, typed text is asked about.
 class RegisterWindow : public ScreenWindow {
     Q_OBJECT
 
@@ -40,8 +41,10 @@ class RegisterWindow : public ScreenWindow {
 
     /// To be called once, then `openAt`.
     void assemble(RecordEditor* form, QWidget* underList, ListRoom room = ListRoom::Third);
-    /// Reads the list and shows the record at `position`; nullopt turns to a new record.
+    /// Reads the list and shows the record at `position`, with the focus in the list; nullopt turns
+    /// to a new record, with the focus in the form.
     void openAt(std::optional<std::size_t> position);
+    void focusForm() { form_->focusFirst(); }
     [[nodiscard]] std::optional<std::size_t> current() const { return current_; }
     /// Runs a command on the list unless typed text stays; the record stays selected.
     void runOnList(const std::function<bool()>& command);
@@ -67,6 +70,7 @@ class RegisterWindow : public ScreenWindow {
     /// As if the field in hand were left: what was typed takes its full form.
     void finishField();
     void include();
+    void includeTyped();
     void change();
     void remove();
     void save();

@@ -167,7 +167,8 @@ void ScreenWindow::setChips(const QStringList& chips) {
 }
 
 QToolButton* ScreenWindow::addCommand(const QString& icon, const QString& text,
-                                      const QKeySequence& key, const QString& objectName) {
+                                      const QKeySequence& key, const QString& objectName,
+                                      QWidget* within) {
     auto* button = new QToolButton(this);
     button->setObjectName(objectName);
     look::setRole(*button, "command");
@@ -180,7 +181,8 @@ QToolButton* ScreenWindow::addCommand(const QString& icon, const QString& text,
     button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     button->setMinimumWidth(look::kTileIcon + kLettersOfCommand * fontMetrics().averageCharWidth());
     if (!key.isEmpty()) {
-        auto* shortcut = new QShortcut(key, this);
+        auto* shortcut = new QShortcut(key, within ? within : this);
+        if (within) shortcut->setContext(Qt::WidgetWithChildrenShortcut);
         connect(shortcut, &QShortcut::activated, button, &QToolButton::click);
     }
     commands_->insertWidget(std::max(0, commands_->count() - 2), button);

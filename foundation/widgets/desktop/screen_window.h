@@ -42,9 +42,10 @@ class ScreenWindow : public QDialog {
     void setSubtitle(const QString& text);
     /// Quiet context at the right of the title: company, work month, shift.
     void setChips(const QStringList& chips);
-    /// A button with icon, text and its key in the command bar. The key works in the whole window.
+    /// A button with icon, text and its key in the command bar. The key works in the whole window,
+    /// or while the focus is `within` a part of it.
     QToolButton* addCommand(const QString& icon, const QString& text, const QKeySequence& key,
-                            const QString& objectName);
+                            const QString& objectName, QWidget* within = nullptr);
     /// What does not fit the screen can be scrolled.
     void setBody(QWidget* body);
     void setState(const QString& text);

@@ -83,14 +83,14 @@ TEST_F(EmployeeImportTest, EachRowSaysItsProblem) {
     for (const Case& c : {
              Case{";12/03/2024;;;", "Falta preencher: Nome."},
              {"ANA;;;;", "Falta preencher: Admissão."},
-             {"ANA;31/02/2024;;;", "Admissão: \"31/02/2024\" não é uma data do calendário."},
+             {"ANA;31/02/2024;;;", "Admissão: 31/02/2024 não existe."},
              {"ABCDEFGHIJKLMNOPQRSTUVWXYZÁÉÍÓ;12/03/2024;;;", ""},
              {"ABCDEFGHIJKLMNOPQRSTUVWXYZÁÉÍÓÚ;12/03/2024;;;", "Nome com mais de 30 caracteres."},
              {"ANA 😀;12/03/2024;;;", "Nome: Contém um caractere que não pode ser gravado."},
              {"ANA;12/03/2024;madrugada;;", "Turno \"madrugada\" não é Unico, Um, Dois nem Tres."},
              {"ANA;12/03/2024;;6x2;", "Escala \"6x2\" não é Normal, 5x1 nem 12x36."},
              {"ANA;12/03/2024;;12x36;", "A escala 12x36 é permitida somente nos turnos 1 e 3."},
-             {"ANA;12/03/2024;;;1", "O código 001 já pertence a outro funcionário."},
+             {"ANA;12/03/2024;;;1", "Código: 001 já pertence a outro funcionário."},
              {"ANA;12/03/2024;;;12345", "O código tem três algarismos."},
              {"Zulmira;12/03/2024;;;", "Este funcionário já está na lista."},
          }) {

@@ -105,6 +105,9 @@ TEST_F(EmpregadosTest, WithoutACompanyNobodyIsIncluded) {
     desk_.session.company.reset();
     empregados_.load();
     expectRefusal("Cadastre Primeiro Uma Empresa!!", [&] { return empregados_.include(ana()); });
+    EXPECT_EQ(noCompany(desk_.at).detail, "");
+    desk_.file("01Empresa") = encode(sampleCompany(desk_.clock.today()));
+    EXPECT_EQ(noCompany(desk_.at).detail, "Selecione uma empresa na lista.");
 }
 
 TEST_F(EmpregadosTest, ScalesAllowTheirShifts) {
@@ -156,6 +159,7 @@ TEST_F(EmpregadosTest, RemoveTakesTheLineAndTheFiles) {
     desk_.person.answers = {Answer::Yes};
     EXPECT_TRUE(empregados_.remove(0));
     EXPECT_EQ(desk_.person.shown[0].title, "EXCLUSÃO");
+    EXPECT_EQ(desk_.person.shown[0].detail, "001 ANA CONCEIÇÃO, 1 arquivo");
     EXPECT_THAT(desk_.person.takeTexts(),
                 ElementsAre("Deseja Excluir o ìtem Selecionado da LISTA DE FUNCIONARIOS?"));
     ASSERT_EQ(empregados_.lines().size(), 1U);

@@ -82,6 +82,27 @@ TEST(InputChecks, DatesFromTheKeypadAreCompleted) {
         EXPECT_EQ(completedDate(c.typed), c.completed) << c.typed;
 }
 
+TEST(InputChecks, YearsOfTwoDigitsLieInThePast) {
+    const Date today = *parseDate("15/03/2024");
+    struct Case {
+        const char* typed;
+        const char* birth;
+        const char* contract;
+    };
+    for (const Case& c : {Case{"15/3/80", "15/03/1980", "15/03/1980"},
+                          {"15.3.1980", "15/03/1980", "15/03/1980"},
+                          {"150380", "15/03/1980", "15/03/1980"},
+                          {"15/3/24", "15/03/2024", "15/03/2024"},
+                          {"16/3/24", "16/03/1924", "16/03/2024"},
+                          {"15/3/25", "15/03/1925", "15/03/2025"},
+                          {"16/3/25", "16/03/1925", "16/03/1925"},
+                          {"29/2/00", "29/02/2000", "29/02/2000"},
+                          {"310280", "310280", "310280"}}) {
+        EXPECT_EQ(completedPastDate(c.typed, today), c.birth) << c.typed;
+        EXPECT_EQ(completedContractDate(c.typed, today), c.contract) << c.typed;
+    }
+}
+
 TEST(InputChecks, HintsSayNothingTooEarly) {
     struct Case {
         const char* typed;
@@ -96,7 +117,8 @@ TEST(InputChecks, HintsSayNothingTooEarly) {
                           {"12/0", "", form},
                           {"31/02/2024", none, none},
                           {"31022024", "", none},
-                          {"12/03/24", "", form},
+                          {"12/03/24", "", ""},
+                          {"31/02/24", "", none},
                           {"ontem", form, form}}) {
         EXPECT_EQ(dateHint(c.typed, Entry::Typing).text, c.typing) << c.typed;
         EXPECT_EQ(dateHint(c.typed, Entry::Left).text, c.left) << c.typed;
@@ -122,6 +144,13 @@ TEST(InputChecks, NumbersAreBroughtIntoTheirForm) {
                           {completedCpf, "529.982.247-25", "529.982.247-25"},
                           {completedCpf, "5299822472", "5299822472"},
                           {completedCpf, "529982247ab", "529982247ab"},
+                          {punctuatedCpf, "5299", "529.9"},
+                          {punctuatedCpf, "529982247251", "529982247251"},
+                          {punctuatedCnpjOrCpf, "11222333000", "112.223.330-00"},
+                          {punctuatedCnpjOrCpf, "112.223.330-001", "11.222.333/0001"},
+                          {punctuatedCnpjOrCpf, "12abc345", "12.ABC.345"},
+                          {punctuatedCnpjOrCpf, "ISENTO", "ISENTO"},
+                          {punctuatedCnpj, "123.456.789/0001-99", "123.456.789/0001-99"},
                           {completedPostalCode, "12080700", "12080-700"},
                           {completedPostalCode, "1208070", "1208070"},
                           {completedMoney, "1850", "R$ 1.850,00"},

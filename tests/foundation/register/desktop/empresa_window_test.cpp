@@ -81,6 +81,7 @@ TEST_F(EmpresaWindowTest, WhatNoRecordHoldsIsSaidAndRefused) {
         screen_.press(Qt::Key_F2);
         EXPECT_EQ(desk_.person.shown.back().text, "Dados incorretos!");
         EXPECT_EQ(name.text(), pasted);
+        EXPECT_EQ(screen_.focusName(), "empresa.name");
         EXPECT_EQ(file(), before);
     }
 }
@@ -103,9 +104,9 @@ TEST_F(EmpresaWindowTest, NumbersAreCheckedWhileTyped) {
         screen_.press(Qt::Key_Tab);
         EXPECT_EQ(screen_.hint(c.field), c.left ? c.left : c.typing) << c.typed;
     }
-    desk_.person.answers = {Answer::Yes};
+    desk_.person.answers = {Answer::Yes, Answer::Yes};
     screen_.press(Qt::Key_S, Qt::ControlModifier);
-    EXPECT_THAT(file(), HasSubstr("12.ABC.345/01DE-35")) << "a hint blocks nothing";
+    EXPECT_THAT(file(), HasSubstr("12.ABC.345/01DE-35")) << "a doubt blocks nothing";
 }
 
 TEST_F(EmpresaWindowTest, TheFirstCompanyIsNotDeleted) {
