@@ -65,7 +65,7 @@ Findings<Employee> doubtfulAge(const Employee& typed, const Employee& before, Da
 
 Findings<Employee> wrongIn(const Employee& typed, const Employee& before, Date today) {
     Findings<Employee> wrong;
-    if (!typed.employeeCode()) wrong.push_back({&Employee::code, "São três algarismos."});
+    if (!typed.employeeCode()) wrong.push_back({&Employee::code, "são três algarismos."});
     const auto shift = parseShift(typed.shift);
     const auto scale = parseScale(typed.scale);
     if (!shift && !typed.shift.empty()) wrong.push_back({&Employee::shift, "Escolha na lista."});

@@ -89,9 +89,9 @@ TEST_F(EmployeeImportTest, EachRowSaysItsProblem) {
              {"ANA 😀;12/03/2024;;;", "Nome: Contém um caractere que não pode ser gravado."},
              {"ANA;12/03/2024;madrugada;;", "Turno \"madrugada\" não é Unico, Um, Dois nem Tres."},
              {"ANA;12/03/2024;;6x2;", "Escala \"6x2\" não é Normal, 5x1 nem 12x36."},
-             {"ANA;12/03/2024;;12x36;", "A escala 12x36 é permitida somente nos turnos 1 e 3."},
+             {"ANA;12/03/2024;;12x36;", "Escala: 12x36 somente nos turnos 1 e 3."},
              {"ANA;12/03/2024;;;1", "Código: 001 já pertence a outro funcionário."},
-             {"ANA;12/03/2024;;;12345", "O código tem três algarismos."},
+             {"ANA;12/03/2024;;;12345", "Código: são três algarismos."},
              {"Zulmira;12/03/2024;;;", "Este funcionário já está na lista."},
          }) {
         ASSERT_TRUE(open(std::string("Nome;Admissão;Turno;Escala;Código\n") + c.row));
@@ -104,7 +104,7 @@ TEST_F(EmployeeImportTest, RowsOfOneFileDoNotCollide) {
         open("Nome;Admissão;Código;CPF\nANA;12/03/2024;5;\nBIA;12/03/2024;5;\n"
              "ANA;12/03/2024;;\nEVA;12/03/2024;;111.111.111-11\n"));
     EXPECT_EQ(import_.goodRows(), 2U);
-    EXPECT_THAT(import_.rows()[1].problem, HasSubstr("O código 005"));
+    EXPECT_THAT(import_.rows()[1].problem, HasSubstr("Código: 005"));
     EXPECT_THAT(import_.rows()[2].problem, HasSubstr("já está na lista"));
     EXPECT_EQ(import_.rows()[3].notice, "CPF não confere.");
 }
