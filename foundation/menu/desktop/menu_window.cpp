@@ -27,15 +27,10 @@ namespace {
 constexpr int kTilesInRow = 3;
 constexpr int kSideWidth = 19;  ///< of the columns at the sides, in average capital letters
 
-QFrame* panel(QWidget* parent) {
-    auto* frame = new QFrame(parent);
-    look::setRole(*frame, "panel");
-    return frame;
-}
-
 /// A panel as wide as the side columns are.
 QFrame* sidePanel(QWidget* parent) {
-    QFrame* frame = panel(parent);
+    auto* frame = new QFrame(parent);
+    look::setRole(*frame, "panel");
     frame->setFixedWidth(frame->fontMetrics().horizontalAdvance(QLatin1Char('M')) * kSideWidth);
     return frame;
 }

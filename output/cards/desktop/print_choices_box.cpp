@@ -6,6 +6,7 @@
 #include "foundation/widgets/desktop/option_group.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -122,6 +123,11 @@ void PrintChoicesBox::showSheetExit() {
                                : QStringLiteral("Voltam viradas"));
     picture_->setAccessibleName(toQt(sheetsBackInstruction(exit, 2)));
     picture_->setToolTip(picture_->accessibleName());
+}
+
+void PrintChoicesBox::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange && picture_) showSheetExit();
+    QWidget::changeEvent(event);
 }
 
 QWidget* PrintChoicesBox::buildHeaderChoice() {

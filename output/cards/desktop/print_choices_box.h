@@ -29,6 +29,10 @@ class PrintChoicesBox : public QWidget {
   signals:
     void changed();
 
+  protected:
+    /// The picture is painted in the palette's colours.
+    void changeEvent(QEvent* event) override;
+
   private:
     [[nodiscard]] OptionGroup* buildOutput();
     [[nodiscard]] OptionGroup* buildMode();
