@@ -12,9 +12,9 @@ constexpr std::string_view kFromOffer = "Feriados ainda não confirmados.";
 
 }  // namespace
 
-MonthSettings TimecardCalendar::settingsOf(WorkMonth month) const {
-    if (hasMonthSettings(at_.store(), month)) return loadMonthSettings(at_.store(), month);
-    return proposedSettings(month, offeredHolidays(at_.store(), month));
+TimecardCalendar::Seen TimecardCalendar::seen(WorkMonth month) const {
+    if (hasMonthSettings(at_.store(), month)) return {loadMonthSettings(at_.store(), month), true};
+    return {proposedSettings(month, offeredHolidays(at_.store(), month)), false};
 }
 
 std::optional<WorkMonth> TimecardCalendar::lastMonth() const {
@@ -32,19 +32,20 @@ bool TimecardCalendar::confirmOffered() const {
 
 MonthOverview TimecardCalendar::overview(Date today) const {
     const WorkMonth present = monthOf(today);
+    const Seen now = seen(present);
     const auto selected = loadSelectedMonth(at_.store());
     MonthOverview overview;
     overview.month = selected ? selected->month : present;
     if (!selected) overview.offered = lastMonth();
-    const MonthSettings settings = settingsOf(overview.month);
-    const MonthDayCounts counts = countDays(settings);
-    overview.holidays = settings.holidays();
-    overview.recorded = hasMonthSettings(at_.store(), overview.month);
+    const Seen chosen = overview.month == present ? now : seen(overview.month);
+    const MonthDayCounts counts = countDays(chosen.settings);
+    overview.holidays = chosen.settings.holidays();
+    overview.recorded = chosen.isRecorded;
     overview.businessDays = counts.businessDays;
     overview.restDays = counts.restDays;
-    overview.notices = businessDayNotices(settingsOf(present),
-                                          settingsOf(present + std::chrono::months{1}), today);
-    if (!hasMonthSettings(at_.store(), present)) overview.notices.emplace_back(kFromOffer);
+    overview.notices =
+        businessDayNotices(now.settings, seen(present + std::chrono::months{1}).settings, today);
+    if (!now.isRecorded) overview.notices.emplace_back(kFromOffer);
     return overview;
 }
 

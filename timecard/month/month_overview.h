@@ -17,7 +17,12 @@ class TimecardCalendar final : public MonthCalendar {
   private:
     /// The month confirmed last, as long as it has its record.
     [[nodiscard]] std::optional<WorkMonth> lastMonth() const;
-    [[nodiscard]] MonthSettings settingsOf(WorkMonth month) const;
+    /// A month as it is on record, or as it is offered.
+    struct Seen {
+        MonthSettings settings;
+        bool isRecorded = false;
+    };
+    [[nodiscard]] Seen seen(WorkMonth month) const;
 
     Workplace at_;
 };
