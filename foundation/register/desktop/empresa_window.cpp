@@ -4,6 +4,7 @@
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/look.h"
 
+#include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
