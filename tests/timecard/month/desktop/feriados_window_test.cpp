@@ -58,6 +58,7 @@ TEST_F(HolidayListWindow, ALineIsChangedAndALineNotUnderstoodCanOnlyGo) {
     EXPECT_FALSE(screen.find<QLineEdit>("feriados.name").isEnabled());
     EXPECT_THAT(list.topLevelItem(1)->text(1).toStdString(), ::testing::HasSubstr("31/02 NUNCA"));
     desk.person.answers = {Answer::Yes};
+    list.setFocus();
     screen.press(Qt::Key_Delete);
     EXPECT_EQ(splitLines(desk.file("Feriados")).size(), 1U);
 }
