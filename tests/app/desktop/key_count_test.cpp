@@ -9,6 +9,8 @@
 
 #include <QApplication>
 #include <QListWidget>
+#include <QMessageBox>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 
@@ -40,24 +42,27 @@ class Keyboard {
   private:
     static constexpr int kPause = 150;  ///< longer than a button takes to act on its letter
 
-    /// Waits until the window in front has the focus.
+    /// Waits until the box answered last is gone and the window in front has the focus.
     void pressNext() {
         if (waiting_.empty()) return;
         QTimer::singleShot(kPause, qApp, [this] { pressNext(); });
         QWidget* focus = QApplication::focusWidget();
         QWidget* front = QApplication::activeModalWidget();
+        if (front && front == answered_) return;
         if (!focus || (front && focus->window() != front)) {
             if (front) front->activateWindow();
             return;
         }
         const QKeyCombination key = waiting_.front();
         waiting_.pop_front();
+        answered_ = qobject_cast<QMessageBox*>(front);
         ++pressing_;
         QTest::keyClick(focus, key.key(), key.keyboardModifiers());
         --pressing_;
     }
 
     Keys waiting_;
+    QPointer<QWidget> answered_;
     int pressing_ = 0;
 };
 
