@@ -137,7 +137,9 @@ void CopyShelf::unpack(const OpenedCopy& copy, const std::set<std::string>& file
     std::map<std::string, std::set<std::string>> byArchive;
     for (const std::string& name : files)
         byArchive[copy.contents.files.at(name).archive].insert(name);
-    for (auto& [archive, wanted] : byArchive) {
+    for (auto& part : byArchive) {
+        const std::string& archive = part.first;
+        std::set<std::string>& wanted = part.second;
         const auto chosen = [&](const std::string& name) { return wanted.contains(name); };
         const auto take = [&](ArchiveEntry entry) {
             if (entry.bytes.size() != copy.contents.files.at(entry.name).size)

@@ -10,8 +10,7 @@ FolderNames namesIn(const Store& store) {
     return {listed.begin(), listed.end()};
 }
 
-std::ranges::subrange<FolderNames::const_iterator> beginningWith(const FolderNames& names,
-                                                                 std::string_view beginning) {
+NameRange beginningWith(const FolderNames& names, std::string_view beginning) {
     const auto first = names.lower_bound(beginning);
     const auto last = std::find_if(
         first, names.end(), [&](const std::string& name) { return !name.starts_with(beginning); });

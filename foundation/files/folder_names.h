@@ -3,7 +3,6 @@
 #include "foundation/files/data_folder.h"
 
 #include <functional>
-#include <ranges>
 #include <set>
 #include <string>
 #include <string_view>
@@ -17,8 +16,16 @@ using FolderNames = std::set<std::string, std::less<>>;
 /// Throws FileFault.
 [[nodiscard]] FolderNames namesIn(const Store& store);
 
+/// Some names in a row, for a loop over them.
+struct NameRange {
+    FolderNames::const_iterator first;
+    FolderNames::const_iterator last;
+
+    [[nodiscard]] FolderNames::const_iterator begin() const { return first; }
+    [[nodiscard]] FolderNames::const_iterator end() const { return last; }
+};
+
 /// The names that begin so, in order; they live as long as `names`.
-[[nodiscard]] std::ranges::subrange<FolderNames::const_iterator> beginningWith(
-    const FolderNames& names, std::string_view beginning);
+[[nodiscard]] NameRange beginningWith(const FolderNames& names, std::string_view beginning);
 
 }  // namespace winvrx
