@@ -80,7 +80,7 @@ bool measure(const char* name, const Store& store, Minutes minutes) {
     std::vector<double> floor;
     for (int round = 0; round <= kRounds; ++round) {
         const double applied = milliseconds([&] {
-            ListApplication application(store, {records, records, records}, order);
+            ListApplication application(store, {records, records}, order);
             batch = application.fill(everyone(), {}).value();
             store.files.replaceAll(batch);
         });

@@ -1,4 +1,4 @@
-#include "foundation/register/leave_record.h"
+#include "foundation/register/leave_calendar.h"
 #include "fuzz/invariant.h"
 
 using namespace winvrx;
@@ -26,14 +26,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         bytes;
     for (const std::string& line : splitLines(bytes))
         requireKept(line);
-    const EmployeeLeaves leaves =
-        loadLeaves({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee});
-    for (const LeavePeriod& one : leaves.periods)
-        require(leaves.contain(one.first) && leaves.touch(monthOf(one.last)),
-                "a leave holds its own days");
-    for (const std::string& line : leaves.unread)
+    const LeaveCalendar calendar =
+        loadLeaveCalendar({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee});
+    for (const DatedLeave& one : calendar.leaves()) {
+        require(calendar.touches(monthOf(one.period.last)), "a leave holds its own days");
+        if (one.away)
+            require(calendar.leaveOn(one.away->first) && one.period.contains(one.away->last),
+                    "the days away are the leave's own");
+    }
+    for (const std::string& line : calendar.unread())
         require(isUtf8(line), "a leave that is not understood can be shown");
     if (const auto since = inactiveSince(bytes))
-        require(since->ok(), "an employee is inactive since a day of the calendar");
+        require(since->ok() && calendar.contractEnd() <= since,
+                "an employee is inactive since a day of the calendar, which ends the contract");
     return 0;
 }

@@ -1,6 +1,7 @@
 #include "foundation/register/employee_list.h"
 
 #include "foundation/files/file_faults.h"
+#include "foundation/register/leave_calendar.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>
@@ -23,11 +24,12 @@ std::string_view activityOf(const Employee& employee, const EmployeeMarks& marks
     return marks.unreadable ? "Ilegível" : "Ativo";
 }
 
-EmployeeMarks leaveMarks(const LeaveCalendar& leaves, const EmployeeKey& key,
+EmployeeMarks leaveMarks(const Store& store, const EmployeeKey& key,
                          std::optional<WorkMonth> month) {
     try {
-        const EmployeeLeaves found = leaves.leavesOf(key);
-        return {.onLeave = month && found.touch(*month), .inactiveSince = found.inactiveSince};
+        const LeaveCalendar calendar = loadLeaveCalendar(store, key);
+        return {.onLeave = month && calendar.touches(*month),
+                .inactiveSince = calendar.inactiveSince()};
     } catch (const FileFault&) {
         return {.unreadable = true};
     }
@@ -46,12 +48,12 @@ std::string namesText(const std::vector<std::string>& names, std::size_t most) {
     return text;
 }
 
-EmployeeList::Marks EmployeeList::leaveMarks(const LeaveCalendar& leaves,
-                                             const CompanyCode& company, const FolderNames& names,
+EmployeeList::Marks EmployeeList::leaveMarks(const Store& store, const CompanyCode& company,
+                                             const FolderNames& names,
                                              std::optional<WorkMonth> month) {
     Marks marks;
-    for (const EmployeeCode& code : leaves.recorded(company, names))
-        marks.emplace(code, winvrx::leaveMarks(leaves, {company, code}, month));
+    for (const EmployeeCode& code : employeesWithLeaveFile(company, names))
+        marks.emplace(code, winvrx::leaveMarks(store, {company, code}, month));
     return marks;
 }
 

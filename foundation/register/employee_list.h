@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/register/employee_queries.h"
+#include "foundation/files/folder_names.h"
 #include "foundation/register/employee_register.h"
 
 #include <map>
@@ -30,7 +30,7 @@ struct EmployeeMarks {
 [[nodiscard]] std::string_view activityOf(const Employee& employee, const EmployeeMarks& marks);
 
 /// What the leaves say of an employee; `onLeave` goes by `month`, without one it is false.
-[[nodiscard]] EmployeeMarks leaveMarks(const LeaveCalendar& leaves, const EmployeeKey& key,
+[[nodiscard]] EmployeeMarks leaveMarks(const Store& store, const EmployeeKey& key,
                                        std::optional<WorkMonth> month);
 
 /// False for who was inactive before the month or is admitted after it.
@@ -51,7 +51,7 @@ class EmployeeList {
     [[nodiscard]] static EmployeeMarks marksOf(const Marks& marks, const EmployeeCode& code);
 
     /// What the leaves say of a company's employees; reads only of whom something is on record.
-    [[nodiscard]] static Marks leaveMarks(const LeaveCalendar& leaves, const CompanyCode& company,
+    [[nodiscard]] static Marks leaveMarks(const Store& store, const CompanyCode& company,
                                           const FolderNames& names, std::optional<WorkMonth> month);
 
     explicit EmployeeList(ShiftFilter shift) : shift_(shift) {}

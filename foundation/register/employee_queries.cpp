@@ -49,13 +49,4 @@ std::set<EmployeeCode> RecordedAnswers::closedIn(const CompanyCode& company, Wor
     return closed;
 }
 
-EmployeeLeaves RecordedAnswers::leavesOf(const EmployeeKey& key) const {
-    return loadLeaves(store_, key);
-}
-
-std::set<EmployeeCode> RecordedAnswers::recorded(const CompanyCode& company,
-                                                 const FolderNames& names) const {
-    return employeesWithLeaveFile(company, names);
-}
-
 }  // namespace winvrx

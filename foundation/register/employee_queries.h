@@ -2,7 +2,6 @@
 
 #include "foundation/files/data_folder.h"
 #include "foundation/files/folder_names.h"
-#include "foundation/register/leave_record.h"
 #include "foundation/values/codes.h"
 #include "foundation/values/date.h"
 
@@ -38,21 +37,10 @@ class PayrollLock {
                                                           const FolderNames& names) const = 0;
 };
 
-/// Asked of the leaves.
-class LeaveCalendar {
-  public:
-    virtual ~LeaveCalendar() = default;
-    /// Throws FileFault.
-    [[nodiscard]] virtual EmployeeLeaves leavesOf(const EmployeeKey& key) const = 0;
-    /// The employees of whom something is on record; the others have no leaves and are active.
-    [[nodiscard]] virtual std::set<EmployeeCode> recorded(const CompanyCode& company,
-                                                          const FolderNames& names) const = 0;
-};
-
-/// Answers them from the files that the subjects leave in the data folder: payroll files, leave
-/// files, and a group file whose name begins with company code and "GRUPO-", with the employee's
-/// code at the head of one of its lines.
-class RecordedAnswers final : public RotationMembership, public PayrollLock, public LeaveCalendar {
+/// Answers them from the files that the subjects leave in the data folder: payroll files, and a
+/// group file whose name begins with company code and "GRUPO-", with the employee's code at the
+/// head of one of its lines.
+class RecordedAnswers final : public RotationMembership, public PayrollLock {
   public:
     /// Both outlive this object; `folder` is the one in use when a question is asked.
     RecordedAnswers(const Store& store) : store_(store) {}
@@ -63,9 +51,6 @@ class RecordedAnswers final : public RotationMembership, public PayrollLock, pub
     [[nodiscard]] bool hasClosedMonth(const EmployeeKey& key) const override;
     [[nodiscard]] bool isClosed(const EmployeeKey& key, WorkMonth month) const override;
     [[nodiscard]] std::set<EmployeeCode> closedIn(const CompanyCode& company, WorkMonth month,
-                                                  const FolderNames& names) const override;
-    [[nodiscard]] EmployeeLeaves leavesOf(const EmployeeKey& key) const override;
-    [[nodiscard]] std::set<EmployeeCode> recorded(const CompanyCode& company,
                                                   const FolderNames& names) const override;
 
   private:

@@ -87,8 +87,8 @@ void Empregados::write(const Lines& lines) {
 }
 
 EmployeeList::Marks Empregados::readMarks() const {
-    return EmployeeList::leaveMarks(RecordedAnswers(at_.store()), at_.session.company.value(),
-                                    namesIn(at_.store()), std::nullopt);
+    return EmployeeList::leaveMarks(at_.store(), at_.session.company.value(), namesIn(at_.store()),
+                                    std::nullopt);
 }
 
 EmployeeMarks Empregados::marks(const Employee& employee) const {

@@ -5,6 +5,7 @@
 #include "foundation/desk/text_editor.h"
 #include "foundation/register/company_register.h"
 #include "foundation/register/employee_list.h"
+#include "foundation/register/employee_queries.h"
 #include "foundation/register/employee_register.h"
 
 #include <filesystem>

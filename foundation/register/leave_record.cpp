@@ -9,6 +9,7 @@ namespace winvrx {
 namespace {
 
 constexpr Column kTypeCode{1, 3};
+constexpr std::string_view kTerminationWords = "RESCISÃO_CONTRATO_TRABALHO";
 constexpr std::string_view kStatusMark = "****";
 constexpr Column kInactiveSince{6, 10};
 
@@ -24,6 +25,29 @@ std::optional<LeavePeriod> Leave::period() const {
     const auto last = parseDate(lastDay);
     if (!first || !last || *last < *first) return std::nullopt;
     return LeavePeriod{*first, *last};
+}
+
+bool Leave::isTermination() const {
+    static const std::string words = foldedForSearch(kTerminationWords);
+    return foldedForSearch(type).find(words) != std::string::npos;
+}
+
+bool Leave::isOfHours() const {
+    const std::string_view text = duration;
+    const std::size_t days = text.find_first_not_of("0123456789");
+    if (days == 0 || days == std::string_view::npos) return false;
+    return text.find_first_not_of('0') == days &&
+           text.find_first_of("123456789", days) != std::string_view::npos;
+}
+
+std::optional<Date> Leave::lastDayWorked() const {
+    return isTermination() ? parseDate(secondNoticeDate) : std::nullopt;
+}
+
+std::string wordOf(const Leave& leave) {
+    std::string word = leave.type.substr(std::min(leave.type.size(), kTypeCode.width));
+    std::ranges::replace(word, '_', ' ');
+    return std::string(trimmed(word));
 }
 
 std::optional<Leave> decodeLeave(std::string_view lineBytes) {
@@ -44,33 +68,6 @@ std::optional<Date> inactiveSince(std::string_view leaveFileBytes) {
 
 std::string leaveFileName(const EmployeeCode& employee) {
     return std::string(kLeaveStem) + employee.text();
-}
-
-bool EmployeeLeaves::touch(WorkMonth month) const {
-    return std::ranges::any_of(periods,
-                               [month](const LeavePeriod& one) { return one.touches(month); });
-}
-
-bool EmployeeLeaves::contain(Date date) const {
-    return std::ranges::any_of(periods,
-                               [date](const LeavePeriod& one) { return one.contains(date); });
-}
-
-EmployeeLeaves loadLeaves(const Store& store, const EmployeeKey& key) {
-    EmployeeLeaves leaves;
-    const std::string bytes =
-        store.files.read(store.folder.companyFile(key.company, leaveFileName(key.employee)))
-            .value_or(std::string());
-    leaves.inactiveSince = inactiveSince(bytes);
-    for (const std::string& line : splitLines(bytes)) {
-        const auto leave = decodeLeave(line);
-        if (!leave) continue;
-        if (const auto period = leave->period())
-            leaves.periods.push_back(*period);
-        else
-            leaves.unread.push_back(readableText(line));
-    }
-    return leaves;
 }
 
 std::set<EmployeeCode> employeesWithLeaveFile(const CompanyCode& company,

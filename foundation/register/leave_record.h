@@ -10,7 +10,6 @@
 #include <set>
 #include <string>
 #include <string_view>
-#include <vector>
 
 // The leave file of an employee: a line for each time away from work, then the status line, "**** "
 // alone for an active employee and "**** dd/mm/yyyy" for one inactive since that day. No file means
@@ -49,6 +48,12 @@ struct Leave {
 
     /// nullopt when its days are no dates or end before they begin.
     [[nodiscard]] std::optional<LeavePeriod> period() const;
+    /// The end of the contract, by the words of its type, letter case and accents aside.
+    [[nodiscard]] bool isTermination() const;
+    /// Of part of a day: its duration has hours and no days.
+    [[nodiscard]] bool isOfHours() const;
+    /// Of a termination that says it.
+    [[nodiscard]] std::optional<Date> lastDayWorked() const;
 };
 
 /// One field of a leave's line. The layout's one place; docs/record-layouts.md shows it with
@@ -77,6 +82,9 @@ inline constexpr std::size_t kLeaveWidth = 211;
 template <>
 struct RecordLayout<Leave> : LineLayout<kLeaveFields, kLeaveWidth> {};
 
+/// "FÉRIAS": the type without its code.
+[[nodiscard]] std::string wordOf(const Leave& leave);
+
 /// nullopt for a line that is no leave.
 [[nodiscard]] std::optional<Leave> decodeLeave(std::string_view lineBytes);
 
@@ -88,18 +96,6 @@ struct RecordLayout<Leave> : LineLayout<kLeaveFields, kLeaveWidth> {};
 
 /// "configAf001", to be put behind the company code.
 [[nodiscard]] std::string leaveFileName(const EmployeeCode& employee);
-
-/// The leaves of an employee, in order of record.
-struct EmployeeLeaves {
-    std::vector<LeavePeriod> periods;
-    std::vector<std::string> unread;  ///< leaves whose days cannot be read, as they can be shown
-    std::optional<Date> inactiveSince = {};
-
-    [[nodiscard]] bool touch(WorkMonth month) const;
-    [[nodiscard]] bool contain(Date date) const;
-};
-/// Throws FileFault.
-[[nodiscard]] EmployeeLeaves loadLeaves(const Store& store, const EmployeeKey& key);
 
 /// The employees of a company who have a leave file, by the names in the data folder.
 [[nodiscard]] std::set<EmployeeCode> employeesWithLeaveFile(const CompanyCode& company,

@@ -64,7 +64,7 @@ void Cartao::load() {
         const CompanyCode& company = *at_.session.company;
         list_.fill(
             EmployeeRegister(at_.store(), company).load(),
-            EmployeeList::leaveMarks(desk_.leaves, company, namesIn(at_.store()), std::nullopt));
+            EmployeeList::leaveMarks(at_.store(), company, namesIn(at_.store()), std::nullopt));
     });
 }
 

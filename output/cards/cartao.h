@@ -24,7 +24,6 @@ struct CartaoDesk {
     ReportEngine& engine;
     const Printers& printers;
     const AlignmentMemory& alignment;
-    const LeaveCalendar& leaves;
 };
 
 /// The time-card printing screen.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/employees.h"
+#include "tests/support/leave_files.h"
 #include "tests/support/test_punch_desk.h"
 #include "tests/support/test_workplace.h"
 #include "timecard/month/selected_month.h"
@@ -12,6 +13,7 @@ namespace winvrx::testing {
 
 inline const std::string kPunches = "01001-03-2024.bdx";
 inline const std::string kSchedule = "01PadrHor001.pdx";
+inline const std::string kLeaves = "01configAf001";
 inline const char* const kConfirm =
     "Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão para o Item Selecionado?";
 

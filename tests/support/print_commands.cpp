@@ -35,9 +35,8 @@ bool rememberChoices(const Workplace& at, const Drives&) {
     RecordingEngine engine;
     const TestPrinters printers;
     const AlignmentMemory memory;
-    const TestLeaves leaves;
     TestBrowser browser;
-    Cartao screen(at, {browser, engine, printers, memory, leaves});
+    Cartao screen(at, {browser, engine, printers, memory});
     screen.load();
     screen.choices().printer.exit = SheetExit::FaceUp;
     screen.choices().printer.trays[0] = "Manual";

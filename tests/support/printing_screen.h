@@ -5,6 +5,7 @@
 #include "output/cards/cartao.h"
 #include "output/stocks/card_alignment.h"
 #include "tests/support/employees.h"
+#include "tests/support/leave_files.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
@@ -54,9 +55,8 @@ class CartaoTest : public ::testing::Test {
     RecordingEngine engine;
     TestPrinters printers;
     AlignmentMemory alignment;
-    TestLeaves leaves;
     TestBrowser browser;
-    Cartao screen{desk.at, {browser, engine, printers, alignment, leaves}};
+    Cartao screen{desk.at, {browser, engine, printers, alignment}};
 };
 
 class CartaoOpened : public CartaoTest {

@@ -70,7 +70,7 @@ void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings&
     const auto lines = EmployeeRegister(at_.store(), company).load();
     std::string name = nameOf(at_, company);
     const FolderNames names = namesIn(at_.store());
-    auto marks = EmployeeList::leaveMarks(desk_.leaves, company, names, settings.month);
+    auto marks = EmployeeList::leaveMarks(at_.store(), company, names, settings.month);
     for (const EmployeeCode& code : desk_.payroll.closedIn(company, settings.month, names))
         marks[code].closed = true;
     minutes_ = loadMinutes(at_.store());
@@ -83,7 +83,7 @@ void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings&
 }
 
 EmployeeMarks CartaoPontoDados::marksOf(const EmployeeKey& key) const {
-    EmployeeMarks marks = leaveMarks(desk_.leaves, key, settings_.month);
+    EmployeeMarks marks = leaveMarks(at_.store(), key, settings_.month);
     marks.closed = desk_.payroll.isClosed(key, settings_.month);
     return marks;
 }

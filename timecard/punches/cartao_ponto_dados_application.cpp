@@ -111,7 +111,8 @@ bool CartaoPontoDados::applyPunches() {
         ListApplication application(at_.store(), desk_, applicationOrder());
         ListApplication::Batch batch;
         application.fillOne(batch, *selected(), selectedCode(),
-                            desk_.leaves.leavesOf({company_.value(), selectedCode()}));
+                            loadLeaveCalendar(at_.store(), {company_.value(), selectedCode()},
+                                              selected()->admissionDate()));
         at_.files.replaceAll(batch);
         filledCards_ = application.filled();
         loadCard(*position_);

@@ -15,10 +15,11 @@ std::filesystem::path scheduleFile(const DataFolder& folder, const EmployeeKey& 
     return folder.companyFile(key.company, scheduleFileName(key.employee));
 }
 
-void requireReadable(const EmployeeLeaves& leaves) {
-    if (!leaves.unread.empty())
-        throw Fault("leave line: " + leaves.unread.front(),
-                    "Um afastamento não tem datas que possam ser lidas: " + leaves.unread.front());
+void requireReadable(const LeaveCalendar& leaves) {
+    if (!leaves.unread().empty())
+        throw Fault(
+            "leave line: " + leaves.unread().front(),
+            "Um afastamento não tem datas que possam ser lidas: " + leaves.unread().front());
 }
 
 void requireReadable(const StandardSchedule& schedule) {
@@ -62,10 +63,11 @@ std::string_view ListApplication::textOf(Remark remark) {
 }
 
 std::optional<ListApplication::Remark> ListApplication::hindrance(
-    const Employee& employee, const EmployeeCode& code, const EmployeeLeaves& leaves) const {
+    const Employee& employee, const EmployeeCode& code, const LeaveCalendar& leaves) const {
     const WorkMonth month = order_.settings.month;
     if (closed_.contains(code)) return Remark::Closed;
-    if (leaves.inactiveSince && *leaves.inactiveSince < firstDay(month)) return Remark::Inactive;
+    if (const auto end = leaves.contractEnd(); end && *end < firstDay(month))
+        return Remark::Inactive;
     if (lacksGroup(employee, inGroups_.contains(code))) return Remark::NoGroup;
     if (const auto admission = requireAdmission(employee); admission && *admission > lastDay(month))
         return Remark::AdmittedLater;
@@ -86,12 +88,11 @@ void ListApplication::copySchedule(Batch& batch, const EmployeeCode& code) const
 }
 
 void ListApplication::fillOne(Batch& batch, const Employee& employee, const EmployeeCode& code,
-                              const EmployeeLeaves& leaves) {
+                              const LeaveCalendar& leaves) {
     const StandardSchedule schedule = scheduleOf(code);
     requireReadable(schedule);
     requireReadable(leaves);
     Application application{.schedule = schedule,
-                            .admission = requireAdmission(employee),
                             .leaves = leaves,
                             .restDay = weeklyRestOf(employee),
                             .situation = order_.situation};
@@ -103,24 +104,24 @@ void ListApplication::fillOne(Batch& batch, const Employee& employee, const Empl
     if (order_.common) copySchedule(batch, code);
     punchFiles_.add(batch, {order_.company, code}, std::move(record));
     if (leavesWorkBlank(schedule)) remarks_[Remark::NoTimes].push_back(employee.name);
-    if (leaves.touch(order_.settings.month)) remarks_[Remark::OnLeave].push_back(employee.name);
+    if (leaves.touches(order_.settings.month)) remarks_[Remark::OnLeave].push_back(employee.name);
     filled_.insert(code);
 }
 
 void ListApplication::look(const std::map<EmployeeCode, Employee>& people) {
     const FolderNames names = namesIn(store_);
     closed_ = desk_.payroll.closedIn(order_.company, order_.settings.month, names);
-    withLeaves_ = desk_.leaves.recorded(order_.company, names);
+    withLeaves_ = employeesWithLeaveFile(order_.company, names);
     inGroups_.clear();
     const auto rotates = [](const auto& one) { return one.second.scaleOr() != Scale::Normal; };
     if (std::ranges::any_of(people, rotates))
         inGroups_ = desk_.rotation.members(order_.company, names);
 }
 
-EmployeeLeaves ListApplication::leavesOf(const EmployeeCode& code) const {
-    if (!withLeaves_.contains(code)) return {};
+LeaveCalendar ListApplication::leavesOf(const Employee& employee, const EmployeeCode& code) const {
+    if (!withLeaves_.contains(code)) return {{}, employee.admissionDate()};
     try {
-        return desk_.leaves.leavesOf({order_.company, code});
+        return loadLeaveCalendar(store_, {order_.company, code}, employee.admissionDate());
     } catch (const FileFault& fault) {
         throw Fault(fault.what(), fault.explanation());  // concerns him only
     }
@@ -129,7 +130,7 @@ EmployeeLeaves ListApplication::leavesOf(const EmployeeCode& code) const {
 void ListApplication::take(Batch& batch, const Employee& employee, const EmployeeCode& code) {
     const std::size_t before = batch.size();
     try {
-        const EmployeeLeaves leaves = leavesOf(code);
+        const LeaveCalendar leaves = leavesOf(employee, code);
         if (const auto reason = hindrance(employee, code, leaves))
             remarks_[*reason].push_back(employee.name);
         else

@@ -2,6 +2,7 @@
 
 #include "foundation/register/employee_queries.h"
 #include "foundation/register/employee_register.h"
+#include "foundation/register/leave_calendar.h"
 #include "timecard/punches/minute_variation.h"
 #include "timecard/punches/minutes_option.h"
 #include "timecard/punches/period_record.h"
@@ -19,7 +20,6 @@ namespace winvrx {
 struct PunchDesk {
     const RotationMembership& rotation;
     const PayrollLock& payroll;
-    const LeaveCalendar& leaves;
 };
 
 /// How a month is to be filled.
@@ -54,7 +54,7 @@ class ListApplication {
 
     /// The card of one employee, whose own records decide.
     void fillOne(Batch& batch, const Employee& employee, const EmployeeCode& code,
-                 const EmployeeLeaves& leaves);
+                 const LeaveCalendar& leaves);
 
   private:
     enum class Remark {
@@ -72,11 +72,11 @@ class ListApplication {
     [[nodiscard]] static std::string_view textOf(Remark remark);
     [[nodiscard]] std::optional<Remark> hindrance(const Employee& employee,
                                                   const EmployeeCode& code,
-                                                  const EmployeeLeaves& leaves) const;
+                                                  const LeaveCalendar& leaves) const;
     [[nodiscard]] StandardSchedule scheduleOf(const EmployeeCode& code) const;
     void copySchedule(Batch& batch, const EmployeeCode& code) const;
     /// Throws Fault, not FileFault, when his leave file cannot be read.
-    [[nodiscard]] EmployeeLeaves leavesOf(const EmployeeCode& code) const;
+    [[nodiscard]] LeaveCalendar leavesOf(const Employee& employee, const EmployeeCode& code) const;
     /// Asks once what is asked of everyone.
     void look(const std::map<EmployeeCode, Employee>& people);
     void take(Batch& batch, const Employee& employee, const EmployeeCode& code);

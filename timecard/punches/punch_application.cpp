@@ -17,12 +17,13 @@ void putTimes(PunchLine& line, const DaySchedule& day) {
 
 void fill(PunchLine& line, Date date, const Application& application,
           const MonthSettings& settings) {
-    if (application.admission && date < *application.admission) return;
+    const Standing standing = application.leaves.standingOn(date);
+    if (!isWithinContract(standing)) return;
     const auto weekday = weekdayOf(date);
     const bool saturday = weekday == std::chrono::Saturday;
     const StandardSchedule& schedule = application.schedule;
     const DaySchedule& day = saturday ? schedule.saturday : schedule.weekday;
-    if (application.leaves.contain(date))
+    if (standing == Standing::OnLeave)
         line.situation = kSituationLeave;
     else if (settings.isHoliday(date))
         line.situation = kSituationHoliday;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/register/leave_record.h"
+#include "foundation/register/leave_calendar.h"
 #include "timecard/month/month_settings.h"
 #include "timecard/punches/punch_record.h"
 
@@ -14,8 +14,7 @@ namespace winvrx {
 /// What an employee's month is filled from.
 struct Application {
     StandardSchedule schedule;
-    std::optional<Date> admission = {};
-    EmployeeLeaves leaves = {};
+    LeaveCalendar leaves = {};                           ///< with the admission
     std::chrono::weekday restDay = std::chrono::Sunday;  ///< the employee's own weekly rest
     /// Of the days of work for which the schedule has no times.
     std::string situation = {};
@@ -23,10 +22,10 @@ struct Application {
     std::function<DaySchedule(const DaySchedule& day, Date date)> spread = {};
 };
 
-/// Fills the month from the schedule. The first that fits decides: before admission a day has its
-/// label only; in a leave the situation "AFASTAMENTO"; on a ticked holiday "FERIADO" and on a
-/// Sunday and the own rest day "DESCANSO SEMANAL"; a Saturday the Saturday times; any other day
-/// morning and afternoon.
+/// Fills the month from the schedule. The first that fits decides: before the admission and after
+/// the end of the contract a day has its label only; in a leave the situation "AFASTAMENTO"; on a
+/// ticked holiday "FERIADO" and on a Sunday and the own rest day "DESCANSO SEMANAL"; a Saturday the
+/// Saturday times; any other day morning and afternoon.
 [[nodiscard]] std::vector<PunchLine> filledMonth(const Application& application,
                                                  const MonthSettings& settings);
 

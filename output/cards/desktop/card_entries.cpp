@@ -27,8 +27,7 @@ class CardScreens {
     CardScreens(const Workplace& at, const CardPrintingDesk& desk) : at_(at), desk_(desk) {}
 
     void openCards(QWidget* parent, ReportOutput output) {
-        const RecordedAnswers records(at_.store());
-        Cartao cards(at_, {desk_.browser, desk_.engine, desk_.printers, alignment_, records});
+        Cartao cards(at_, {desk_.browser, desk_.engine, desk_.printers, alignment_});
         cards.choices().output = output;
         const CartaoWindowDesk screens{
             .openStocks = [this](QWidget* over) { openStocks(over); },

@@ -60,8 +60,8 @@ TEST(EmployeeMarks, AreThoseOfTheCompanyAndNoOneFileHidesTheOthers) {
     files.content["/data/01configAfx"] = "**** 10/02/2024\r\n";
     files.failOn = {"01configAf003"};
     const Store store{files, DataFolder('C', "/data")};
-    const auto marks = EmployeeList::leaveMarks(
-        RecordedAnswers(store), CompanyCode::parse("01").value(), namesIn(store), std::nullopt);
+    const auto marks = EmployeeList::leaveMarks(store, CompanyCode::parse("01").value(),
+                                                namesIn(store), std::nullopt);
     EXPECT_EQ(marks.size(), 3U);
     std::string activities;
     for (const char* code : {"001", "002", "003", "004"})

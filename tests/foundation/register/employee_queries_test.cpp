@@ -1,5 +1,6 @@
 #include "foundation/register/employee_queries.h"
 
+#include "foundation/register/leave_record.h"
 #include "tests/support/memory_files.h"
 
 #include <gtest/gtest.h>
@@ -32,7 +33,7 @@ TEST(RecordedAnswers, AnswerFromTheFilesOfTheCompany) {
     EXPECT_EQ(locks.members(kCompany, names), bia);
     EXPECT_EQ(locks.closedIn(kCompany, *parseMonthKey("03-2024"), names), bia);
     EXPECT_TRUE(locks.closedIn(kCompany, *parseMonthKey("04-2024"), names).empty());
-    EXPECT_EQ(locks.recorded(kCompany, names), bia);
+    EXPECT_EQ(employeesWithLeaveFile(kCompany, names), bia);
 }
 
 }  // namespace

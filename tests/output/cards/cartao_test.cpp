@@ -69,7 +69,7 @@ TEST_F(CartaoTest, PrintAllAsksOnceWhetherThoseOutsideTheMonthAreMeant) {
           Case{"29/02/2024", "01/04/2024", Answer::Yes, {ask}, everyone},
           Case{"29/02/2024", "01/04/2024", Answer::No, {ask}, {"JOSÉ DA SILVA"}},
           Case{"29/02/2024", "", Answer::No, {ask}, {"JOSÉ DA SILVA", "RUI BARBOSA"}}}) {
-        leaves.leaves["002"].inactiveSince = parseDate(one.anaInactiveSince);
+        desk.file("01configAf002") = testing::leaveBytes({}, one.anaInactiveSince);
         desk.file("01CartaPonto") = employeeList(
             {employee("001", "JOSÉ DA SILVA", {.admission = ""}),
              employee("002", "ANA PAULA", {.shift = "Dois", .admission = ""}),
@@ -309,7 +309,7 @@ TEST_F(CartaoOpened, WhatTheScreenRemembersIsWrittenWhenItChanged) {
     screen.load();
     EXPECT_EQ(screen.choices().printer.tray, TrayPosition::Lateral) << "typed and not yet written";
     EXPECT_TRUE(screen.remember());
-    Cartao reopened(desk.at, {browser, engine, printers, alignment, leaves});
+    Cartao reopened(desk.at, {browser, engine, printers, alignment});
     reopened.load();
     EXPECT_EQ(reopened.choices().printer.tray, TrayPosition::Lateral);
 }

@@ -130,9 +130,8 @@ class PrintingScreen : public Cups {
     TestWorkplace office_;
     SystemPrinters printers_;
     AlignmentMemory alignment_;
-    TestLeaves leaves_;
     TestBrowser browser_;
-    Cartao screen_{office_.at, {browser_, desk_.engine, printers_, alignment_, leaves_}};
+    Cartao screen_{office_.at, {browser_, desk_.engine, printers_, alignment_}};
 };
 
 TEST_F(PrintingScreen, PrintsTheSecondSideBackwards) {

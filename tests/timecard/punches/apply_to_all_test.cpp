@@ -129,9 +129,10 @@ TEST_F(ApplyToAll, ChecksInOrder) {
         ana.admission = c.admission;
         hire({ana, employee("003", "CAIO", "Unico", c.scaleOfCaio),
               employee("002", "BIA", "Dois", "Norma")});
-        asked.forget();
+        asked.locks = {};
         desk.file(kSchedule) = c.scheduled ? "08:0012:0013:0017:001 08:0012:00\r\n" : "";
-        if (c.onLeave) asked.leaves.add("001", "10/03/2024", "12/03/2024");
+        desk.file("01configAf001") =
+            c.onLeave ? leaveBytes({vacation("10/03/2024", "12/03/2024")}) : "";
         ASSERT_TRUE(screen.open() && screen.filterBy(c.filter));
         if (c.selected) {
             ASSERT_TRUE(screen.select(0));
@@ -209,10 +210,10 @@ TEST_F(ApplyToAll, EachHasHisOwnHoursAndWhoCannotBeFilledIsNamed) {
     people[3].admission = "31/02/2024";
     hire(people);
     asked.locks.closed = {"005"};
-    asked.leaves.leaves["006"].inactiveSince = parseDate("29/02/2024");
-    asked.leaves.add("007", "20/02/2024", "01/03/2024");
-    asked.leaves.leaves["009"];
-    asked.leaves.unreadable = {"009"};
+    desk.file("01configAf006") = leaveBytes({}, "29/02/2024");
+    desk.file("01configAf007") = leaveBytes({vacation("20/02/2024", "01/03/2024")});
+    desk.file("01configAf009") = "";
+    desk.files.failOn = {"01configAf009"};
     desk.file("01PadrHor007.pdx") = "14:0018:0019:0022:00\r\n";
     openOn(0);
     agreeToAll();
@@ -228,7 +229,7 @@ TEST_F(ApplyToAll, EachHasHisOwnHoursAndWhoCannotBeFilledIsNamed) {
               "Não aplicado, registro que não pode ser lido: E004 (A data de admissão "
               "\"31/02/2024\" não existe. Corrija-a no cadastro do funcionário.), E009 (Não foi "
               "possível ler "
-              "\"01configAf009\": o disco não respondeu.)\n"
+              "\"01configAf009\": o disco está cheio.)\n"
               "Aplicado sem horas, não tem horário de trabalho: E008\n"
               "Aplicado com afastamento: E007");
     EXPECT_EQ(firstDayOf("001"), "08:0012:0013:0017:00");

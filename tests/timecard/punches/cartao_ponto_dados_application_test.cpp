@@ -9,6 +9,8 @@ using ::testing::ElementsAre;
 using namespace testing;
 using namespace std::chrono_literals;
 
+const std::vector<Leave> kVacation{vacation("20/02/2024", "05/03/2024")};
+
 TEST_F(CardScreen, ApplicationFillsTheMonth) {
     openOn(0);
     typeSchedule({"8", "12", "13", "17"});
@@ -124,12 +126,11 @@ TEST_F(CardScreen, ApplicationChecksInOrder) {
         Employee ana = employee("001", "ANA", "Unico", c.ana.scale);
         ana.admission = c.ana.admission;
         hire({ana});
-        asked.forget();
+        asked.locks = {};
         if (c.ana.closed) asked.locks.closed = {"001"};
         if (c.ana.inGroup) asked.locks.inGroups = {"001"};
-        if (c.ana.onLeave) asked.leaves.add("001", "20/02/2024", "05/03/2024");
-        if (const auto since = parseDate(c.ana.inactiveSince))
-            asked.leaves.leaves["001"].inactiveSince = since;
+        desk.file(kLeaves) =
+            leaveBytes(c.ana.onLeave ? kVacation : std::vector<Leave>(), c.ana.inactiveSince);
         desk.files.content.erase("/data/" + kPunches);
         if (c.ana.applied) desk.file(kPunches) = "  \r\n01/sex/mar07:00\r\n";
         desk.file(kSchedule) = c.ana.scheduled ? "08:0012:0013:0017:00\r\n" : "";
@@ -156,7 +157,7 @@ TEST_F(CardScreen, AMonthClosedWhileTheQuestionStoodIsNotFilled) {
 
 TEST_F(CardScreen, ALeaveThatCannotBeReadStopsTheApplication) {
     desk.file(kSchedule) = "08:0012:00\r\n";
-    asked.leaves.leaves["001"].unread = {"006 FÉRIAS 31/02/2024"};
+    desk.file(kLeaves) = "006 F\xC9RIAS 31/02/2024\r\n";
     openOn(0);
     desk.person.answers = {Answer::Yes};
     const auto untouched = desk.files.content;
@@ -167,7 +168,7 @@ TEST_F(CardScreen, ALeaveThatCannotBeReadStopsTheApplication) {
 }
 
 TEST_F(CardScreen, ApplicationGivesLeavesSituationAndVariedMinutes) {
-    asked.leaves.add("001", "20/02/2024", "05/03/2024");
+    desk.file(kLeaves) = leaveBytes(kVacation);
     openOn(0);
     screen.setSituationToApply("Dispensado");
     desk.person.answers = {Answer::Ok, Answer::Yes};

@@ -8,7 +8,7 @@ using namespace testing;
 /// 999 employees of a rotation scale, of whom one is inactive and one has a closed month.
 struct LongList : CardScreen {
     const RecordedAnswers records{desk.store()};
-    CartaoPontoDados office{desk.at, {records, records, records}};
+    CartaoPontoDados office{desk.at, {records, records}};
 
     void SetUp() override {
         CardScreen::SetUp();

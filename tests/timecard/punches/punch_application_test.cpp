@@ -1,10 +1,14 @@
 #include "timecard/punches/punch_application.h"
 
+#include "tests/support/leave_files.h"
+
 #include <gtest/gtest.h>
 
 namespace winvrx {
 namespace {
 
+using testing::leaveBytes;
+using testing::vacation;
 using namespace std::chrono_literals;
 
 StandardSchedule usualSchedule() {
@@ -26,8 +30,8 @@ TEST(PunchApplication, EachKindOfDayGetsItsTimes) {
     settings.month = 2024y / 3;
     for (const char* holiday : {"29/03/2024", "30/03/2024", "31/03/2024"})
         settings.setHoliday(*parseDate(holiday), true);
-    const auto lines =
-        filledMonth({.schedule = usualSchedule(), .admission = parseDate("02/03/2024")}, settings);
+    const auto lines = filledMonth(
+        {.schedule = usualSchedule(), .leaves = {"", parseDate("02/03/2024")}}, settings);
     ASSERT_EQ(lines.size(), 31U);
     struct Case {
         std::size_t day;
@@ -47,8 +51,8 @@ TEST(PunchApplication, AdmissionOnTheLastDayLeavesOneDay) {
     MonthSettings settings;
     settings.month = 2024y / 2;
     settings.setHoliday(*parseDate("13/02/2024"), true);
-    const auto lines =
-        filledMonth({.schedule = usualSchedule(), .admission = parseDate("29/02/2024")}, settings);
+    const auto lines = filledMonth(
+        {.schedule = usualSchedule(), .leaves = {"", parseDate("29/02/2024")}}, settings);
     ASSERT_EQ(lines.size(), 29U);
     for (std::size_t day = 1; day < 29; ++day)
         EXPECT_EQ(dayText(lines[day - 1]), "- - ") << day;
@@ -61,14 +65,11 @@ TEST(PunchApplication, TheFirstReasonInTheListDecides) {
     settings.month = 2026y / 2;
     for (const char* holiday : {"07/02/2026", "15/02/2026", "17/02/2026"})
         settings.setHoliday(*parseDate(holiday), true);
-    EmployeeLeaves leaves;
-    leaves.periods = {{*parseDate("20/01/2026"), *parseDate("04/02/2026")},
-                      {*parseDate("14/02/2026"), *parseDate("15/02/2026")}};
-    const auto lines = filledMonth({.schedule = usualSchedule(),
-                                    .admission = parseDate("03/02/2026"),
-                                    .leaves = leaves,
-                                    .restDay = std::chrono::Tuesday},
-                                   settings);
+    const LeaveCalendar leaves(
+        leaveBytes({vacation("20/01/2026", "04/02/2026"), vacation("14/02/2026", "15/02/2026")}),
+        parseDate("03/02/2026"));
+    const auto lines = filledMonth(
+        {.schedule = usualSchedule(), .leaves = leaves, .restDay = std::chrono::Tuesday}, settings);
     struct Case {
         std::size_t day;
         const char* text;

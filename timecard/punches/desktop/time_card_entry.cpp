@@ -11,7 +11,7 @@ namespace {
 
 void openTimeCard(const Workplace& at, QWidget* parent) {
     const RecordedAnswers records(at.store());
-    CartaoPontoDados card(at, {records, records, records});
+    CartaoPontoDados card(at, {records, records});
     (void)card.open();
     CartaoPontoDadosWindow window(card, parent);
     QObject::connect(&window, &CartaoPontoDadosWindow::monthSettingsRequested, &window, [&] {

@@ -30,7 +30,6 @@ using testing::DrivenWindow;
 using testing::employee;
 using testing::employeeList;
 using testing::RecordingEngine;
-using testing::TestLeaves;
 using testing::TestPrinters;
 using testing::TestWorkplace;
 
@@ -51,9 +50,8 @@ class CartaoWindowTest : public ::testing::Test {
     RecordingEngine engine;
     TestPrinters printers;
     AlignmentMemory alignment;
-    TestLeaves leaves;
     testing::TestBrowser browser;
-    Cartao cartao{desk.at, {browser, engine, printers, alignment, leaves}};
+    Cartao cartao{desk.at, {browser, engine, printers, alignment}};
 };
 
 TEST_F(CartaoWindowTest, ChoicesReachThePrintedJob) {

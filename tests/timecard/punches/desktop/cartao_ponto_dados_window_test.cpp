@@ -1,6 +1,7 @@
 #include "timecard/punches/desktop/cartao_ponto_dados_window.h"
 
 #include "tests/support/employees.h"
+#include "tests/support/leave_files.h"
 #include "tests/support/test_punch_desk.h"
 #include "tests/support/test_workplace.h"
 #include "tests/support/window_driver.h"
@@ -364,7 +365,8 @@ TEST_F(CardWindow, AClosedMonthCanBeLookedAtOnly) {
 }
 
 TEST_F(CardWindow, ALeaveIsSaidInTheListAndBesideTheName) {
-    asked.leaves.add("002", "28/02/2024", "04/03/2024");
+    desk.file("01configAf002") =
+        testing::leaveBytes({testing::vacation("28/02/2024", "04/03/2024")});
     open();
     auto& list = driven->find<QListWidget>("card.employees");
     EXPECT_EQ(list.item(1)->text().toStdString(), "002 JOSÉ\nCOLABORADOR COM AFASTAMENTO!!!");
