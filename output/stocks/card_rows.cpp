@@ -37,13 +37,6 @@ ReportRow headerRow(const CardData& card) {
     return row;
 }
 
-bool hasTimes(const PunchLine& line) {
-    for (const std::string* time : {&line.morningEntry, &line.morningExit, &line.afternoonEntry,
-                                    &line.afternoonExit, &line.extraEntry, &line.extraExit})
-        if (!trimmed(*time).empty()) return true;
-    return false;
-}
-
 /// The word for a day without times.
 std::string situationOf(const CardData& card, const PunchLine& line, Date date) {
     if (const auto stored = trimmed(line.situation); !stored.empty()) {
@@ -78,7 +71,7 @@ class PunchWriter {
 
     void write(const PunchLine& line, Date date) {
         ReportRow& row = rows_[static_cast<std::size_t>(dayNumber(date) - 1)];
-        if (!hasTimes(line)) {
+        if (!line.hasTimes()) {
             row[cardColumn("situacao")] = situationOf(card_, line, date);
             return;
         }

@@ -1,8 +1,10 @@
 // What the screens of the time card and of its printing write.
 #include "output/stocks/tipo_ponto.h"
+#include "tests/support/leave_files.h"
 #include "tests/support/test_punch_desk.h"
 #include "tests/support/writing_commands.h"
 #include "timecard/punches/cartao_ponto_dados.h"
+#include "timecard/punches/leave_marking.h"
 
 namespace winvrx::testing {
 
@@ -31,6 +33,16 @@ auto onCardOf(std::size_t position, Give give) {
         CartaoPontoDados screen(at, asked.desk);
         return screen.open() && screen.select(position) && give(screen);
     };
+}
+
+/// A leave over the end of a closing period, in two months that are filled.
+bool markLeave(const Workplace& at, const Drives&) {
+    const TestPunchDesk asked;
+    const EmployeeKey bia{at.session.company.value(), *EmployeeCode::parse("002")};
+    const LeaveCalendar leaves(leaveBytes({vacation("28/02/2024", "05/03/2024")}), {});
+    return attemptWriting(at, incorrectData(), [&] {
+        return markDays(at.store(), asked.locks, bia, leaves, leaves.leaves()[0].period) >= 0;
+    });
 }
 
 bool chooseStock(const Workplace& at, const Drives&) {
@@ -77,6 +89,7 @@ std::vector<WritingCommand> cardCommands() {
                   [](CartaoPontoDados& screen) {
                       return screen.changePercent(HourCategory::ExtraMinimum, "60");
                   })},
+        {"mark leave", officeClosingOn(21), markLeave},
         {"choose stock", filledOffice(), chooseStock},
     };
 }

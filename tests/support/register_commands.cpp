@@ -1,8 +1,10 @@
 // What the registers of companies and employees write.
+#include "foundation/register/dismissal.h"
 #include "foundation/register/employee_import.h"
 #include "foundation/register/empresa.h"
 #include "foundation/register/turnos.h"
 #include "tests/support/employee_desk.h"
+#include "tests/support/leave_files.h"
 #include "tests/support/writing_commands.h"
 
 namespace winvrx::testing {
@@ -51,6 +53,14 @@ bool changeShift(const Workplace& at, const Drives&) {
            screen.change(screen.list().employees()[1], Shift::Dois);
 }
 
+bool endContract(const Workplace& at, const Drives&) {
+    const EmployeeKey bia{at.session.company.value(), *EmployeeCode::parse("002")};
+    const std::string file = leaveBytes(
+        {leave("008 RESCISÃO_CONTRATO_TRABALHO", "15/03/2024", "15/03/2024")}, "15/03/2024");
+    return attemptWriting(at, incorrectData(),
+                          [&] { saveLeaveFile(at.store(), bia, file, at.clock.now()); });
+}
+
 bool importEmployees(const Workplace& at, const Drives&) {
     EmployeeImport import(at);
     return import.open(at.session.folder.file("lista.csv")) && import.include();
@@ -69,6 +79,7 @@ std::vector<WritingCommand> registerCommands() {
         {"delete company", filledOffice(), inEmpresa([](Empresa& screen) {
              return screen.remove(1, DeleteOption::CompanyAndEmployees);
          })},
+        {"end contract", filledOffice(), endContract},
         {"include employee", filledOffice(), inEmpregados([](Empregados& screen) {
              return screen.include(officeEmployee("004", "DANI"));
          })},

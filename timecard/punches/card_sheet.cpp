@@ -105,7 +105,8 @@ CardSheet::Edit CardSheet::clearWholeDays(const std::vector<TypedCell>& cells) {
     std::vector<std::string> labels;
     for (const TypedCell& one : cells) {
         const bool situation = one.cell == PunchCell::Situation;
-        if (!situation || !isWholeDay(line(one.day).situation) || !hasTimes(one.day)) continue;
+        if (!situation || !isWholeDay(line(one.day).situation) || !line(one.day).hasTimes())
+            continue;
         labels.push_back(line(one.day).label);
         for (const PunchCell cell : kPunchCells)
             if (isTime(cell) && !text(one.day, cell).empty()) edit.push_back({one.day, cell, {}});
@@ -149,12 +150,7 @@ std::optional<int> CardSheet::redo() {
 }
 
 bool CardSheet::isBlank(int day) const {
-    return !hasTimes(day) && line(day).situation.empty();
-}
-
-bool CardSheet::hasTimes(int day) const {
-    return std::any_of(kPunchCells.begin(), kPunchCells.end(),
-                       [&](PunchCell cell) { return isTime(cell) && !text(day, cell).empty(); });
+    return !line(day).hasTimes() && line(day).situation.empty();
 }
 
 void CardSheet::markRecorded() {
@@ -174,7 +170,7 @@ std::string CardSheet::noticeAt(int day, PunchCell cell) const {
     const std::string finding = findingAt(day, cell);
     const std::string& recorded = text(day, cell);
     if (!finding.empty() || recorded.empty()) return finding;
-    if (cell == PunchCell::Situation && isWholeDay(recorded) && hasTimes(day))
+    if (cell == PunchCell::Situation && isWholeDay(recorded) && line(day).hasTimes())
         return "Num dia com horas o cartão imprime as horas e não \"" + recorded + "\".";
     if (!isTime(cell)) return {};
     if (!parseTypedTime(recorded))

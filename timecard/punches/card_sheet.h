@@ -104,7 +104,6 @@ class CardSheet {
     Edit exchange(const Edit& edit);
     /// Empties the times of the days that `cells` give to a situation of the whole day.
     Edit clearWholeDays(const std::vector<TypedCell>& cells);
-    [[nodiscard]] bool hasTimes(int day) const;
     std::optional<int> move(std::vector<Edit>& from, std::vector<Edit>& to);
 
     std::vector<Edit> done_;

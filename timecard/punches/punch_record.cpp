@@ -3,9 +3,15 @@
 #include "foundation/values/text.h"
 #include "timecard/schedule/typed_time.h"
 
+#include <algorithm>
+
 namespace winvrx {
 
 namespace {
+
+constexpr std::array kTimes = {&PunchLine::morningEntry,   &PunchLine::morningExit,
+                               &PunchLine::afternoonEntry, &PunchLine::afternoonExit,
+                               &PunchLine::extraEntry,     &PunchLine::extraExit};
 
 /// The word of a mark that the column cut; any other text as it stands.
 std::string wholeSituation(std::string stored) {
@@ -68,6 +74,15 @@ TimePair PunchLine::afternoon() const {
 }
 TimePair PunchLine::extra() const {
     return pairOf(extraEntry, extraExit);
+}
+
+bool PunchLine::hasTimes() const {
+    return std::ranges::any_of(kTimes, [this](auto time) { return !(this->*time).empty(); });
+}
+
+void PunchLine::clearTimes() {
+    for (const auto time : kTimes)
+        (this->*time).clear();
 }
 
 std::string encode(const PunchLine& line, std::string_view existing) {

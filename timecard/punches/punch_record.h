@@ -33,6 +33,9 @@ struct PunchLine {
     [[nodiscard]] TimePair morning() const;
     [[nodiscard]] TimePair afternoon() const;
     [[nodiscard]] TimePair extra() const;
+    /// Something stands in a time's column, be it no time.
+    [[nodiscard]] bool hasTimes() const;
+    void clearTimes();
 };
 
 /// One field of the record. The layout's one place; docs/record-layouts.md shows it with

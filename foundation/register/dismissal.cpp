@@ -1,0 +1,62 @@
+#include "foundation/register/dismissal.h"
+
+#include "foundation/files/file_faults.h"
+#include "foundation/register/employee_register.h"
+#include "foundation/register/leave_record.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+std::string dismissalText(std::optional<Date> inactiveSince) {
+    return inactiveSince ? dateText(*inactiveSince) : std::string();
+}
+
+/// The register with his date of dismissal.
+std::vector<EmployeeLine> withDismissal(std::vector<EmployeeLine> lines, const EmployeeKey& key,
+                                        std::string date) {
+    const auto line = std::ranges::find_if(
+        lines, [&](const EmployeeLine& one) { return one.key() == key.employee; });
+    if (line == lines.end()) throw employeeChangedElsewhere("register");
+    Employee changed = line->record;
+    changed.dismissal = std::move(date);
+    *line = lineOf(changed, line->bytes);
+    return lines;
+}
+
+}  // namespace
+
+std::string dismissalContradiction(const Employee& employee, std::optional<Date> inactiveSince) {
+    const auto dismissal = parseDate(employee.dismissal);
+    if (dismissal == inactiveSince && dismissal.has_value() == !employee.dismissal.empty())
+        return {};
+    return "Demissão no cadastro: " +
+           (employee.dismissal.empty() ? "nenhuma" : employee.dismissal) + "; nos afastamentos: " +
+           (inactiveSince ? "inativo desde " + dateText(*inactiveSince) : "ativo") + ".";
+}
+
+void saveLeaveFile(const Store& store, const EmployeeKey& key, std::string_view leaveFileBytes,
+                   Clock::Moment now) {
+    const auto file = store.folder.companyFile(key.company, leaveFileName(key.employee));
+    const auto since = inactiveSince(leaveFileBytes);
+    if (inactiveSince(store.files.read(file).value_or(std::string())) == since)
+        return store.files.replace(file, leaveFileBytes);
+    EmployeeRegister list(store, key.company);
+    const auto before = list.load();
+    const auto after = withDismissal(before, key, dismissalText(since));
+    if (after != before) list.save(after, now);
+    try {
+        store.files.replace(file, leaveFileBytes);
+    } catch (const FileFault&) {
+        try {
+            if (after != before) store.files.replaceAll({list.contentOf(before)});
+        } catch (const FileFault&) {
+            // Both screens tell of the contradiction that stays.
+        }
+        throw;
+    }
+}
+
+}  // namespace winvrx
