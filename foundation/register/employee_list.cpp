@@ -78,10 +78,16 @@ void EmployeeList::filterBy(std::optional<Scale> scale) {
     filter();
 }
 
+void EmployeeList::narrowTo(std::optional<std::set<EmployeeCode>> codes) {
+    only_ = std::move(codes);
+    filter();
+}
+
 void EmployeeList::filter() {
     employees_.clear();
     std::ranges::copy_if(everyone_, std::back_inserter(employees_), [this](const Employee& one) {
-        return passes(shift_, one.shiftOr()) && (!scale_ || one.scaleOr() == *scale_);
+        return passes(shift_, one.shiftOr()) && (!scale_ || one.scaleOr() == *scale_) &&
+               (!only_ || only_->contains(one.employeeCode().value()));
     });
 }
 

@@ -5,6 +5,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -63,6 +64,8 @@ class EmployeeList {
     /// nullopt stands for every scale.
     [[nodiscard]] std::optional<Scale> scale() const { return scale_; }
     void filterBy(std::optional<Scale> scale);
+    /// Only those of these codes; nullopt stands for everyone.
+    void narrowTo(std::optional<std::set<EmployeeCode>> codes);
     /// Code, name, function, CPF and marks are searched, letter case and accents aside.
     void searchFor(std::string text) { search_ = std::move(text); }
     [[nodiscard]] const std::string& search() const { return search_; }
@@ -84,6 +87,7 @@ class EmployeeList {
 
     ShiftFilter shift_;
     std::optional<Scale> scale_;
+    std::optional<std::set<EmployeeCode>> only_;
     std::string search_;
     std::vector<Employee> everyone_;
     Marks marks_;

@@ -41,7 +41,7 @@ bool Leave::isOfHours() const {
 }
 
 std::optional<Date> Leave::lastDayWorked() const {
-    return isTermination() ? parseDate(secondNoticeDate) : std::nullopt;
+    return isTermination() ? parseDate(lastWorked) : std::nullopt;
 }
 
 std::string wordOf(const Leave& leave) {

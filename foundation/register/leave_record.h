@@ -36,13 +36,14 @@ struct Leave {
     std::string firstDay;
     std::string lastDay;
     std::string duration;  ///< "020 Dias e 0 Horas"
-    std::string firstTerminationDate;
-    std::string secondTerminationDate;
+    std::string noticeGiven;
+    std::string noticeBegins;
     std::string terminationType;
     std::string noticeType;
-    std::string firstNoticeDate;
-    std::string secondNoticeDate;
-    std::string thirdNoticeDate;
+    std::string noticeEnds;  ///< the contract's end too, projected where the notice is paid
+    std::string lastWorked;
+    std::string paymentDue;
+    std::string homologation;  ///< "10:30", the hour of it; empty stands for 09:00
 
     [[nodiscard]] bool operator==(const Leave&) const = default;
 
@@ -68,19 +69,23 @@ inline constexpr std::array kLeaveFields = {
     LeaveField{&Leave::firstDay, {31, 10}},
     LeaveField{&Leave::lastDay, {43, 10}},
     LeaveField{&Leave::duration, {55, 20}},
-    LeaveField{&Leave::firstTerminationDate, {75, 10}},
-    LeaveField{&Leave::secondTerminationDate, {87, 10}},
+    LeaveField{&Leave::noticeGiven, {75, 10}},
+    LeaveField{&Leave::noticeBegins, {87, 10}},
     LeaveField{&Leave::terminationType, {99, 55}},
     LeaveField{&Leave::noticeType, {156, 20}},
-    LeaveField{&Leave::firstNoticeDate, {178, 10}},
-    LeaveField{&Leave::secondNoticeDate, {190, 10}},
-    LeaveField{&Leave::thirdNoticeDate, {202, 10}},
+    LeaveField{&Leave::noticeEnds, {178, 10}},
+    LeaveField{&Leave::lastWorked, {190, 10}},
+    LeaveField{&Leave::paymentDue, {202, 10}},
+    LeaveField{&Leave::homologation, {214, 5}},
 };
 
+/// Without an hour of the homologation, for which a line is made longer.
 inline constexpr std::size_t kLeaveWidth = 211;
 
 template <>
-struct RecordLayout<Leave> : LineLayout<kLeaveFields, kLeaveWidth> {};
+struct RecordLayout<Leave> : LineLayout<kLeaveFields, 218, kLeaveWidth> {
+    static constexpr std::size_t kWidth = kLeaveWidth;
+};
 
 /// "FÉRIAS": the type without its code.
 [[nodiscard]] std::string wordOf(const Leave& leave);

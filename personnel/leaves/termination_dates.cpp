@@ -29,12 +29,6 @@ std::string after(std::string_view what, Date date, int count) {
     return std::string(what) + " " + dateText(date) + " + " + days(count);
 }
 
-/// Paid or worked, the contract of a resigning employee is not projected past his last day.
-bool endsAtOnce(TerminationType type, NoticeType notice) {
-    return type == TerminationType::JustCause ||
-           (type == TerminationType::Resignation && notice == NoticeType::Paid);
-}
-
 void endAtOnce(TerminationDates& dates, TerminationType type) {
     const Date given = dates.noticeGiven.value;
     const std::string rule = type == TerminationType::JustCause
@@ -71,6 +65,12 @@ int fullYearsOfService(Date admission, Date date) {
     return std::max(0, years - (beforeAnniversary ? 1 : 0));
 }
 
+/// Paid or worked, the contract of a resigning employee is not projected past his last day.
+bool hasNoNotice(TerminationType type, NoticeType notice) {
+    return type == TerminationType::JustCause ||
+           (type == TerminationType::Resignation && notice == NoticeType::Paid);
+}
+
 Explained<int> noticeDays(TerminationType type, Date admission, Date given) {
     switch (type) {
         case TerminationType::JustCause:
@@ -95,16 +95,17 @@ TerminationDates terminationDates(TerminationType type, NoticeType notice, Date 
     TerminationDates dates;
     dates.noticeDays = noticeDays(type, admission, given);
     dates.noticeGiven = {given, "Dia da comunicação"};
-    if (endsAtOnce(type, notice))
+    if (hasNoNotice(type, notice))
         endAtOnce(dates, type);
     else
         runNotice(dates, notice);
-    // The ten days run from the end of the contract; where part of the notice is paid, from the
-    // last day worked, which is how the final account is due in practice.
-    const Date last = dates.lastDayWorked.value;
-    dates.paymentDue = {plusDays(last, kPaymentDays),
-                        after("Último dia trabalhado", last, kPaymentDays) + ", CLT art. 477 § 6º"};
+    dates.paymentDue = paymentDue(dates.lastDayWorked.value);
     return dates;
+}
+
+Explained<Date> paymentDue(Date lastDayWorked) {
+    return {plusDays(lastDayWorked, kPaymentDays),
+            after("Último dia trabalhado", lastDayWorked, kPaymentDays) + ", CLT art. 477 § 6º"};
 }
 
 }  // namespace winvrx

@@ -52,8 +52,16 @@ struct TerminationDates {
 /// Days of notice that an end of this type on `given` owes.
 [[nodiscard]] Explained<int> noticeDays(TerminationType type, Date admission, Date given);
 
+/// Whether the contract ends on the day it is given: dismissed for just cause, or leaving without
+/// working the notice.
+[[nodiscard]] bool hasNoNotice(TerminationType type, NoticeType notice);
+
 /// All dates that follow from the day on which notice is given. Requires admission <= given.
 [[nodiscard]] TerminationDates terminationDates(TerminationType type, NoticeType notice,
                                                 Date admission, Date given);
+
+/// The ten days run from the end of the contract; where part of the notice is paid, from the last
+/// day worked, which is how the final account is due in practice.
+[[nodiscard]] Explained<Date> paymentDue(Date lastDayWorked);
 
 }  // namespace winvrx

@@ -44,7 +44,7 @@ const std::vector<WritingCommand>& writingCommands() {
     static const std::vector<WritingCommand> commands = [] {
         std::vector<WritingCommand> all;
         for (const auto& part : {registerCommands(), listCommands(), menuCommands(),
-                                 monthCommands(), cardCommands(), printCommands()})
+                                 monthCommands(), cardCommands(), printCommands(), leaveCommands()})
             all.insert(all.end(), part.begin(), part.end());
         return all;
     }();

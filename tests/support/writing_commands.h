@@ -34,6 +34,7 @@ void PrintTo(const WritingCommand& command, std::ostream* out);
 [[nodiscard]] std::vector<WritingCommand> monthCommands();
 [[nodiscard]] std::vector<WritingCommand> cardCommands();
 [[nodiscard]] std::vector<WritingCommand> printCommands();
+[[nodiscard]] std::vector<WritingCommand> leaveCommands();
 
 [[nodiscard]] const std::vector<WritingCommand>& writingCommands();
 [[nodiscard]] const WritingCommand& writingCommand(const std::string& name);

@@ -18,4 +18,8 @@ void saveSelectedMonth(const Store& store, const SelectedMonth& selected) {
         .rewriteValues({monthKey(selected.month), std::string(codeOf(selected.shiftFilter))});
 }
 
+Message noMonthChosen() {
+    return refusal("Aviso", "Informe um Mês de Trabalho!!");
+}
+
 }  // namespace winvrx

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/desk/message.h"
 #include "foundation/files/data_folder.h"
 #include "foundation/values/date.h"
 #include "foundation/values/shift.h"
@@ -18,5 +19,8 @@ struct SelectedMonth {
 /// nullopt when no month is chosen, or the file does not hold one.
 [[nodiscard]] std::optional<SelectedMonth> loadSelectedMonth(const Store& store);
 void saveSelectedMonth(const Store& store, const SelectedMonth& selected);
+
+/// "Informe um Mês de Trabalho!!", titled "Aviso": what a screen says that needs a month.
+[[nodiscard]] Message noMonthChosen();
 
 }  // namespace winvrx

@@ -11,7 +11,6 @@ namespace winvrx {
 
 namespace {
 
-const Message kNoMonth = refusal("Aviso", "Informe um Mês de Trabalho!!");
 const Message kSaturdayIsNormal =
     question("HORÁRIO DE TRABALHO", "No SÁBADO Será HORA NORMAL?", {}, Buttons::YesNoCancel);
 const Message kNeedsSituation =
@@ -58,7 +57,7 @@ bool CartaoPontoDados::open() {
         }
         const auto selected = loadSelectedMonth(at_.store());
         if (!selected) {
-            at_.person.tell(kNoMonth);
+            at_.person.tell(noMonthChosen());
             return false;
         }
         loadList(*at_.session.company, loadMonthSettings(at_.store(), selected->month));
@@ -157,7 +156,7 @@ bool CartaoPontoDados::requireSelection() {
     if (!at_.session.company)
         at_.person.tell(noCompany(at_));
     else
-        at_.person.tell(company_ ? noEmployeeSelected() : kNoMonth);
+        at_.person.tell(company_ ? noEmployeeSelected() : noMonthChosen());
     return false;
 }
 

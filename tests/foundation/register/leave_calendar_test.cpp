@@ -15,7 +15,7 @@ constexpr const char* kTermination = "008 RESCISÃO_CONTRATO_TRABALHO";
 
 Leave termination(const char* first, const char* last, const char* lastWorked) {
     Leave one = leave(kTermination, first, last);
-    one.secondNoticeDate = lastWorked;
+    one.lastWorked = lastWorked;
     return one;
 }
 

@@ -22,7 +22,8 @@ TEST(LeaveRecord, ReadsAndWritesEveryColumn) {
                       "01. Aviso Trabalhado",
                       "01/03/2024",
                       "31/03/2024",
-                      "08/04/2024"};
+                      "08/04/2024",
+                      ""};
     EXPECT_EQ(decodeLeave(kTermination), leave);
     EXPECT_EQ(encode(leave), kTermination);
     EXPECT_EQ(encode(leave, kTermination + " more"), kTermination + " more");

@@ -1,0 +1,157 @@
+#include "personnel/leaves/afastamento.h"
+
+#include "foundation/register/company_register.h"
+#include "foundation/register/employee_register.h"
+#include "personnel/leaves/leave_findings.h"
+#include "timecard/month/selected_month.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+const Message kInactive = notice("Afastamento", "Funcionário Inativo.!");
+
+}  // namespace
+
+Afastamento::Afastamento(const Workplace& at, const PayrollLock& payroll)
+    : at_(at), payroll_(payroll), list_(at.session.shiftFilter) {}
+
+bool Afastamento::open() {
+    return attempt(at_, incorrectData(), [this] {
+        if (!at_.session.company) {
+            at_.person.tell(noCompany(at_));
+            return false;
+        }
+        const auto selected = loadSelectedMonth(at_.store());
+        if (!selected) {
+            at_.person.tell(noMonthChosen());
+            return false;
+        }
+        loadList(*at_.session.company, selected->month);
+        return true;
+    });
+}
+
+void Afastamento::loadList(const CompanyCode& company, WorkMonth month) {
+    const auto lines = EmployeeRegister(at_.store(), company).load();
+    std::string title = titleOf(loadCompanies(at_.store()), company);
+    const FolderNames names = namesIn(at_.store());
+    auto marks = EmployeeList::leaveMarks(at_.store(), company, names, month);
+    for (const EmployeeCode& code : payroll_.closedIn(company, month, names))
+        marks[code].closed = true;
+    const std::string chosen = selected() ? selected()->code : "";
+    companyTitle_ = std::move(title);
+    month_ = month;
+    withLeaves_ = employeesWithLeaveFile(company, names);
+    list_.fill(lines, std::move(marks));
+    narrowList();
+    const auto position = list_.positionOf(chosen);
+    show(position, position ? loadLeaveFile(at_.store(), keyAt(*position)) : LeaveFile());
+}
+
+void Afastamento::narrowList() {
+    list_.narrowTo(withLeaves_);
+    some_ = list_.employees().size();
+    list_.narrowTo(std::nullopt);
+    all_ = list_.employees().size();
+    if (onlyWithLeaves_) list_.narrowTo(withLeaves_);
+}
+
+bool Afastamento::narrow(const std::function<void()>& filter) {
+    if (!confirmLeaving()) return false;
+    return attempt(at_, incorrectData(), [&] {
+        const std::string code = selected() ? selected()->code : "";
+        LeaveFile file = std::move(file_);
+        filter();
+        narrowList();
+        const auto position = list_.positionOf(code);
+        show(position, position ? std::move(file) : LeaveFile());
+    });
+}
+
+bool Afastamento::filterBy(ShiftFilter shift) {
+    return narrow([&] { list_.filterBy(shift); });
+}
+
+bool Afastamento::showOnlyWithLeaves(bool only) {
+    return narrow([&] { onlyWithLeaves_ = only; });
+}
+
+std::string Afastamento::periodCaption() const {
+    if (!month_) return {};
+    return "Período : " + dateText(firstDay(*month_)) + " á " + dateText(lastDay(*month_));
+}
+
+std::string_view Afastamento::activationCaption() const {
+    return isInactive() ? "Reativar" : "Inativar";
+}
+
+const Employee* Afastamento::selected() const {
+    return position_ ? &list_.employees()[*position_] : nullptr;
+}
+
+EmployeeKey Afastamento::keyAt(std::size_t position) const {
+    return {at_.session.company.value(), list_.employees().at(position).employeeCode().value()};
+}
+
+bool Afastamento::select(std::size_t position) {
+    if (!confirmLeaving()) return false;
+    return attempt(at_, incorrectData(), [&] {
+        LeaveFile file = loadLeaveFile(at_.store(), keyAt(position));
+        list_.mark(position, marksOf(keyAt(position)));
+        show(position, std::move(file));
+        if (isInactive()) at_.person.tell(kInactive);
+    });
+}
+
+bool Afastamento::select(const EmployeeCode& employee) {
+    const auto position = list_.positionOf(employee.text());
+    return position && select(*position);
+}
+
+EmployeeMarks Afastamento::marksOf(const EmployeeKey& key) const {
+    EmployeeMarks marks = leaveMarks(at_.store(), key, month_);
+    marks.closed = payroll_.isClosed(key, month_.value());
+    return marks;
+}
+
+void Afastamento::show(std::optional<std::size_t> position, LeaveFile file) {
+    position_ = position;
+    file_ = std::move(file);
+    fill(std::nullopt);
+}
+
+void Afastamento::fill(std::optional<std::size_t> place) {
+    const auto admission = selected() ? selected()->admissionDate() : std::nullopt;
+    chosen_ = place;
+    form_ = place ? LeaveForm(file_.leaves.at(*place).record, admission) : LeaveForm(admission);
+    form_.showDismissal(file_.inactiveSince);
+    blamed_.reset();
+}
+
+bool Afastamento::choose(std::size_t place) {
+    if (!requireSelection("Afastamento") || !confirmLeaving()) return false;
+    return attempt(at_, incorrectData(), [&] {
+        const bool open = requireOpenMonth();
+        fill(open ? std::optional(place) : std::nullopt);
+        return open;
+    });
+}
+
+bool Afastamento::begin() {
+    if (!confirmLeaving()) return false;
+    fill(std::nullopt);
+    return true;
+}
+
+std::string Afastamento::finding(LeaveInput input) const {
+    return findingFor(input, form_, file_, chosen_);
+}
+
+bool Afastamento::confirmLeaving() {
+    return !form_.isChanged() || at_.person.agrees(discardTyped());
+}
+
+}  // namespace winvrx
