@@ -26,7 +26,9 @@ TEST(LeaveRecord, ReadsAndWritesEveryColumn) {
                       ""};
     EXPECT_EQ(decodeLeave(kTermination), leave);
     EXPECT_EQ(encode(leave), kTermination);
-    EXPECT_EQ(encode(leave, kTermination + " more"), kTermination + " more");
+    const std::string longer = kTermination + "  10:30 more";
+    EXPECT_EQ(decodeLeave(longer)->homologation, "10:30");
+    EXPECT_EQ(encode(*decodeLeave(longer), longer), longer);
     for (const char* none : {"", "**** ", "nota", "08 X", "0081"})
         EXPECT_EQ(decodeLeave(none).has_value(), std::string_view(none) == "0081") << none;
 }
