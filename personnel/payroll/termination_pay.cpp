@@ -11,7 +11,6 @@ namespace {
 
 constexpr int kDaysAMonth = 30;
 constexpr int kMonthsAYear = 12;
-constexpr int kPaymentDays = 10;
 constexpr int kUsualFine = 40;
 constexpr int kMutualFine = 20;
 
@@ -110,7 +109,7 @@ Money thirteenthForInss(const PayrollLaw& law, const TerminationCase& end,
 
 void reckonDeductions(const PayrollLaw& law, const TerminationCase& end, TerminationPay& pay) {
     const WorkMonth month = monthOf(pay.dates.lastDayWorked.value);
-    const Date paid = end.paid.value_or(pay.paymentDue);
+    const Date paid = end.paid.value_or(pay.dates.paymentDue.value);
     const Money notice = law.settings.inssOnPaidNotice ? pay.notice.amount : Money{};
     pay.inssBalance = inss(law, pay.balance.amount + notice, month, "INSS sobre o saldo");
     pay.inssThirteenth = inss(law, thirteenthForInss(law, end, pay), month, "INSS sobre o 13º");
@@ -139,9 +138,8 @@ void reckonFgts(const PayrollLaw& law, const TerminationCase& end, TerminationPa
 TerminationPay terminationPay(const PayrollLaw& law, const TerminationCase& end) {
     TerminationPay pay;
     reckonNotice(end, pay);
-    pay.paymentDue = law.settings.paymentTerm == PaymentTerm::FromProjectedEnd
-                         ? plusDays(pay.dates.noticeEnds.value, kPaymentDays)
-                         : pay.dates.paymentDue.value;
+    if (law.settings.paymentTerm == PaymentTerm::FromProjectedEnd)
+        pay.dates.paymentDue = paymentDue(pay.dates.noticeEnds.value);
     reckonBalance(law, end, pay);
     reckonThirteenth(end, pay);
     reckonVacation(end, pay);

@@ -28,7 +28,6 @@ struct TerminationCase {
 /// Lines that are not due are zero and without a memo.
 struct TerminationPay {
     TerminationDates dates;
-    Date paymentDue{};
     Reckoning balance;         ///< the days of the last month
     Reckoning notice;          ///< the part of the notice that is paid, not worked
     Reckoning noticeDeducted;  ///< a resigning employee who does not work it

@@ -81,11 +81,11 @@ std::optional<std::string> fractionsProblem(int granted, const std::vector<int>&
     return std::nullopt;
 }
 
-Date noticeDue(Date start) {
+Date vacationNoticeDue(Date start) {
     return plusDays(start, -kNoticeDays);
 }
 
-Date paymentDue(Date start) {
+Date vacationPaymentDue(Date start) {
     return plusDays(start, -kPaymentDays);
 }
 

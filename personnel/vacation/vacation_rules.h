@@ -50,8 +50,8 @@ struct AcquisitionPeriod {
 
 /// The last days on which the notice of a vacation is given (CLT, art. 135), on which it is paid
 /// (art. 145), and on which an employee may ask to sell a third of it (art. 143 par. 1).
-[[nodiscard]] Date noticeDue(Date start);
-[[nodiscard]] Date paymentDue(Date start);
+[[nodiscard]] Date vacationNoticeDue(Date start);
+[[nodiscard]] Date vacationPaymentDue(Date start);
 [[nodiscard]] Date saleRequestDue(const AcquisitionPeriod& period);
 
 }  // namespace winvrx

@@ -155,7 +155,7 @@ void terminationTopic(In in, Law law, Out out) {
     const TerminationPay pay = terminationPay(law, terminationCase(in));
     out.add("aviso_dias", pay.dates.noticeDays.value);
     out.add("fim_projetado", pay.dates.noticeEnds.value);
-    out.add("prazo_pagamento", pay.paymentDue);
+    out.add("prazo_pagamento", pay.dates.paymentDue.value);
     out.add("avos_13", pay.thirteenthTwelfths);
     out.add("avos_ferias", pay.vacationTwelfths);
     const std::pair<const char*, Money> lines[] = {

@@ -175,8 +175,8 @@ TEST(VacationRules, KnowTwelfthsFractionsAndDates) {
     EXPECT_EQ(daysPastLimit(periods[0], periods[0].lastStart(30), 30), 0);
     EXPECT_EQ(daysPastLimit(periods[0], plusDays(periods[0].lastStart(30), 1), 30), 1);
     EXPECT_EQ(daysPastLimit(periods[0], 2026y / 5 / 1, 30), 30);
-    EXPECT_EQ(noticeDue(2026y / 3 / 31), Date(2026y / 3 / 1));
-    EXPECT_EQ(paymentDue(2026y / 3 / 2), Date(2026y / 2 / 28));
+    EXPECT_EQ(vacationNoticeDue(2026y / 3 / 31), Date(2026y / 3 / 1));
+    EXPECT_EQ(vacationPaymentDue(2026y / 3 / 2), Date(2026y / 2 / 28));
     EXPECT_EQ(saleRequestDue(periods[0]), Date(2025y / 2 / 22));
 }
 
