@@ -12,14 +12,19 @@ LocalHoliday Feriados::completed(const LocalHoliday& typed) const {
     return {completedHolidayDay(typed.day), std::string(trimmed(typed.name))};
 }
 
+Findings<LocalHoliday> Feriados::wrongIn(const LocalHoliday& typed,
+                                         const LocalHoliday& before) const {
+    const auto day = keyOf(completed(typed));
+    if (typed.day.empty()) return {};
+    if (!day) return {{&LocalHoliday::day, typed.day + " não é um dia (dd/mm ou dd/mm/aaaa)."}};
+    if (day == keyOf(before) || !findLine(lines_, day)) return {};
+    return {{&LocalHoliday::day, typed.day + " já está na lista."}};
+}
+
 bool Feriados::requireAcceptable(const LocalHoliday& typed, const Line* before) {
-    if (const Hint wrong = holidayDayHint(typed.day, Entry::Left); !wrong.text.empty())
-        throw Fault("day of a holiday: " + typed.day, wrong.text);
-    if (typed.name.empty()) throw Fault("holiday without a name", "Digite o nome do feriado.");
-    const bool keepsDay = before && before->key() == keyOf(typed);
-    if (!keepsDay && findLine(lines_, keyOf(typed)))
-        throw Fault("holiday listed twice", "Este dia já está na lista.");
-    return true;
+    if (!requireComplete(typed, incorrectData())) return false;
+    const auto wrong = wrongIn(typed, before ? before->record : LocalHoliday());
+    return wrong.empty() || refuseFor(wrong.front(), incorrectData());
 }
 
 }  // namespace winvrx

@@ -11,6 +11,8 @@ class Feriados : public ListCommands<LocalHoliday> {
     explicit Feriados(const Workplace& at) : ListCommands(at) {}
 
     [[nodiscard]] std::string newRecordTitle() const override { return "Novo feriado"; }
+    [[nodiscard]] Findings<LocalHoliday> wrongIn(const LocalHoliday& typed,
+                                                 const LocalHoliday& before) const override;
 
   protected:
     [[nodiscard]] Lines read() const override { return localHolidays(at_.store()).load(); }

@@ -52,8 +52,8 @@ struct LocalHoliday {
 
 /// The layout of a line. The one place that knows it.
 inline constexpr std::array kLocalHolidayFields = {
-    RecordField<LocalHoliday>{&LocalHoliday::day, {1, 10}, "Dia"},
-    RecordField<LocalHoliday>{&LocalHoliday::name, {12, 40}, "Nome"},
+    RecordField<LocalHoliday>{&LocalHoliday::day, {1, 10}, "Dia", true},
+    RecordField<LocalHoliday>{&LocalHoliday::name, {12, 40}, "Nome", true},
 };
 inline constexpr std::size_t kLocalHolidayWidth = 51;
 

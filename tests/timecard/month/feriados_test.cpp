@@ -45,11 +45,11 @@ TEST_F(HolidayList, WhatCannotBeRecordedIsRefusedAndNothingChanges) {
         const char* detail;
     };
     for (const Case& c :
-         {Case{{"31/02", "X"}, "Digite o dia como dd/mm (todo ano) ou dd/mm/aaaa (uma vez)."},
-          Case{{"", "X"}, "Digite o dia como dd/mm (todo ano) ou dd/mm/aaaa (uma vez)."},
-          Case{{"29/02/2023", "X"}, "Digite o dia como dd/mm (todo ano) ou dd/mm/aaaa (uma vez)."},
-          Case{{"09/07", "  "}, "Digite o nome do feriado."},
-          Case{{"0512", "OUTRO"}, "Este dia já está na lista."}}) {
+         {Case{{"31/02", "X"}, "Dia: 31/02 não é um dia (dd/mm ou dd/mm/aaaa)."},
+          Case{{"", "X"}, "Falta preencher: Dia."},
+          Case{{"29/02/2023", "X"}, "Dia: 29/02/2023 não é um dia (dd/mm ou dd/mm/aaaa)."},
+          Case{{"09/07", "  "}, "Falta preencher: Nome."},
+          Case{{"0512", "OUTRO"}, "Dia: 05/12 já está na lista."}}) {
         agree();
         EXPECT_FALSE(screen.include(c.typed)) << c.typed.day;
         ASSERT_EQ(desk.person.shown.size(), 1U) << c.typed.day;

@@ -63,6 +63,29 @@ TEST_F(HolidayListWindow, ALineIsChangedAndALineNotUnderstoodCanOnlyGo) {
     EXPECT_EQ(splitLines(desk.file("Feriados")).size(), 1U);
 }
 
+TEST_F(HolidayListWindow, WhatIsRefusedIsSaidBesideTheFieldAndLeadsTheCursorThere) {
+    struct Case {
+        const char* day;
+        const char* name;
+        const char* field;
+        const char* beside;
+    };
+    for (const Case& c : {Case{"", "X", "feriados.day", ""},
+                          {"31/02", "X", "feriados.day",
+                           "⚠ Digite o dia como dd/mm (todo ano) ou dd/mm/aaaa (uma vez)."},
+                          {"0512", "X", "feriados.day", "⚠ 05/12 já está na lista."},
+                          {"09/07", " ", "feriados.name", ""}}) {
+        FeriadosWindow window(holidays);
+        const WindowDriver screen(window);
+        screen.type("feriados.day", c.day);
+        screen.type("feriados.name", c.name);
+        screen.find("feriados.list").setFocus();
+        screen.press(Qt::Key_S, Qt::ControlModifier);
+        EXPECT_EQ(screen.focusName(), c.field) << c.day;
+        EXPECT_EQ(screen.hint(c.field), c.beside) << c.day;
+    }
+}
+
 TEST_F(HolidayListWindow, TypedTextIsNotLostWithoutAQuestion) {
     FeriadosWindow window(holidays);
     const WindowDriver screen(window);
