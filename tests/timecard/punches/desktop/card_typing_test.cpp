@@ -17,7 +17,6 @@ namespace {
 
 using testing::DrivenWindow;
 using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
 /// Ana works from eight to twelve and from one to five, Monday to Friday; Bia rotates, Caio has no
@@ -63,18 +62,20 @@ struct CardTyping : testing::CardScreen {
     [[nodiscard]] std::string state() { return driven->label("state"); }
     /// "5:1" for the entry of the fifth.
     [[nodiscard]] std::string cursor() {
-        const QModelIndex at = grid().currentIndex();
-        return std::to_string(at.row() + 1) + ":" + std::to_string(at.column());
+        const bool second = grid(2).hasFocus();
+        const QModelIndex at = grid(second ? 2 : 1).currentIndex();
+        return std::to_string(at.row() + (second ? 16 : 1)) + ":" + std::to_string(at.column());
     }
 };
 
-TEST_F(CardTyping, AHalfMonthFromPaperTakesNoIdleKey) {
+TEST_F(CardTyping, AMonthFromPaperTakesNoIdleKey) {
     open();
-    // Eleven working days: five keys a time are twenty a day, a month of 22 days 440.
-    constexpr int kMostKeys = 11 * 440 / 22;
+    // Five keys a time are twenty a day, a month of 22 days 440. March has 20 and a holiday.
+    constexpr int kMostKeys = 20 * 440 / 22;
     driven->find<QAbstractItemView>("card.employees").setFocus();
     press(Qt::Key_Return);
-    for (const int day : {1, 4, 5, 6, 7, 8, 11, 12, 13, 14, 15}) {
+    for (int day = 1; day <= 28; ++day) {
+        if (day % 7 == 2 || day % 7 == 3) continue;
         EXPECT_EQ(cursor(), std::to_string(day) + ":1");
         if (day == 6) {
             press(Qt::Key_End);
@@ -93,7 +94,7 @@ TEST_F(CardTyping, AHalfMonthFromPaperTakesNoIdleKey) {
     EXPECT_THAT(card, HasSubstr("\r\n05/ter/mar07:5812:0113:0017:05"));
     EXPECT_THAT(card, HasSubstr("\r\n06/qua/mar                                   Falta"));
     EXPECT_THAT(card, HasSubstr("\r\n12/ter/mar07:5812:0213:0017:05"));
-    EXPECT_THAT(card, HasSubstr("\r\n15/sex/mar07:5812:0113:0017:05"));
+    EXPECT_THAT(card, HasSubstr("\r\n28/qui/mar07:5812:0113:0017:05"));
 }
 
 TEST_F(CardTyping, EnterStopsWhereTimesAreExpectedOrStand) {
@@ -267,19 +268,9 @@ TEST_F(CardTyping, EveryEditorSaysItsCellAndDay) {
     }
 }
 
-std::vector<std::string>& warnings() {
-    static std::vector<std::string> seen;
-    return seen;
-}
-
-TEST_F(CardTyping, AnOpenEditorOutlivesNoRefreshAndWarnsOfNothing) {
+/// Qt warns of an editor that is committed too late, and each warning fails the test.
+TEST_F(CardTyping, AnOpenEditorOutlivesNoRefresh) {
     open();
-    warnings().clear();
-    const QtMessageHandler before =
-        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
-            if (!text.startsWith(QStringLiteral("This plugin does not support")))
-                warnings().push_back(text.toStdString());
-        });
     const std::vector<std::function<void()>> interruptions = {
         [this] { driven->window.refresh(); },
         [this] { driven->press(Qt::Key_F6); },
@@ -307,8 +298,6 @@ TEST_F(CardTyping, AnOpenEditorOutlivesNoRefreshAndWarnsOfNothing) {
                 interrupt();
                 QCoreApplication::processEvents();
             }
-    qInstallMessageHandler(before);
-    EXPECT_THAT(warnings(), IsEmpty());
 }
 
 }  // namespace
