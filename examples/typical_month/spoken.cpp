@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTreeView>
@@ -74,6 +75,9 @@ QString untold(const QWidget& window) {
     const auto tell = [&](const QString& what) {
         if (!what.isEmpty()) told += window.objectName() + QStringLiteral(": ") + what + u'\n';
     };
+    if (const QSize room = window.screen()->availableSize();
+        window.size().boundedTo(room) != window.size())
+        tell(QStringLiteral("passa da tela"));
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
         if (widget->window() != &window || !widget->isVisible()) continue;
         if (isInput(*widget) && spokenName(*widget).isEmpty())

@@ -17,7 +17,8 @@ constexpr std::string_view kPrintingDrive = "C";
 
 const Message kNoStock = refusal("IMPRIMIR CARTÃO PONTO", "Selecione um Tipo de Cartão na Lista! ");
 const Message kNoEmployee = refusal("IMPRIMIR CARTÃO PONTO", "Selecione um Funcionário na Lista! ");
-const Message kNoMonth = refusal("IMPRIMIR CARTÃO PONTO", "Informe um Mês de Trabalho!!");
+const Message kNoMonth = refusal("IMPRIMIR CARTÃO PONTO", "Informe um Mês de Trabalho!!",
+                                 "Escolha-o em \"Mês Trabalho (Todos)\" (Ctrl+M).");
 const Message kWrongDrive =
     failure("Imprimir",
             "Diretório Inválido p/ Impressão! Transfira os dados do diretório atual "

@@ -24,7 +24,6 @@ namespace {
 constexpr double kZoomStep = 1.25;
 constexpr double kSmallestZoom = 0.25;
 constexpr double kLargestZoom = 5.0;
-constexpr QSize kUsualSize(1040, 660);
 
 }  // namespace
 
@@ -40,7 +39,6 @@ PreviewWindow::PreviewWindow(const QString& title, LayoutPainter& painter, PageS
     QPushButton* close =
         addClosingButton(QStringLiteral("&Fechar"), QStringLiteral("preview.close"));
     connect(close, &QPushButton::clicked, this, &PreviewWindow::reject);
-    resize(kUsualSize);
     scroll_->setFocus();
     showPage(0);
     showZoom();

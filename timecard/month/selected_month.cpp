@@ -19,7 +19,8 @@ void saveSelectedMonth(const Store& store, const SelectedMonth& selected) {
 }
 
 Message noMonthChosen() {
-    return refusal("Aviso", "Informe um Mês de Trabalho!!");
+    return refusal("Aviso", "Informe um Mês de Trabalho!!",
+                   "Escolha-o em \"Mês\" (F4), na janela principal.");
 }
 
 }  // namespace winvrx

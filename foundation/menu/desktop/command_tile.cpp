@@ -50,7 +50,9 @@ QSize CommandTile::minimumSizeHint() const {
 }
 
 QSize CommandTile::sizeHint() const {
-    return minimumSizeHint();
+    const QFontMetrics letters(look::font(look::TextSize::Heading));
+    const int title = letters.size(Qt::TextShowMnemonic, text()).width();
+    return {kTextLeft + title + look::kMargin, minimumSizeHint().height()};
 }
 
 void CommandTile::paintEvent(QPaintEvent*) {
@@ -81,19 +83,23 @@ void CommandTile::paintTexts(QPainter& painter, const QRect& area) const {
     const int hintHeight = QFontMetrics(hintFont).height();
     const int top = (height() - titleHeight - hintHeight) / 2;
     const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+    const QRect titleRow(area.left(), top, area.width(), titleHeight);
+    QRect stateRow(area.left(), top + titleHeight, area.width(), hintHeight);
+    painter.setFont(titleFont);
+    painter.setPen(palette().color(group, QPalette::WindowText));
+    QRect title;
+    painter.drawText(titleRow, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text(),
+                     &title);
+    const QFontMetrics hintMetrics(hintFont);
+    const int keyWidth = hintMetrics.horizontalAdvance(key_) + look::kGap;
+    const bool besideTitle = title.width() + keyWidth <= area.width();
     painter.setFont(hintFont);
     painter.setPen(isEnabled() ? look::color(look::Tint::Quiet, palette())
                                : palette().color(group, QPalette::WindowText));
-    painter.drawText(QRect(area.left(), top, area.width(), titleHeight),
-                     Qt::AlignRight | Qt::AlignVCenter, key_);
-    const QFontMetrics hintMetrics(hintFont);
-    painter.drawText(QRect(area.left(), top + titleHeight, area.width(), hintHeight),
-                     Qt::AlignLeft | Qt::AlignVCenter,
-                     hintMetrics.elidedText(stateLine_, Qt::ElideRight, area.width()));
-    painter.setFont(titleFont);
-    painter.setPen(palette().color(group, QPalette::WindowText));
-    painter.drawText(QRect(area.left(), top, area.width(), titleHeight),
-                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
+    painter.drawText(besideTitle ? titleRow : stateRow, Qt::AlignRight | Qt::AlignVCenter, key_);
+    if (!besideTitle) stateRow.setRight(stateRow.right() - keyWidth);
+    painter.drawText(stateRow, Qt::AlignLeft | Qt::AlignVCenter,
+                     hintMetrics.elidedText(stateLine_, Qt::ElideRight, stateRow.width()));
 }
 
 }  // namespace winvrx

@@ -34,6 +34,10 @@ class MarkedRow final : public QStyledItemDelegate {
 
 CompanyList::CompanyList(QWidget* parent) : QListWidget(parent) {
     setItemDelegate(new MarkedRow(*this));
+    setFrameShape(QFrame::NoFrame);
+    setTextElideMode(Qt::ElideRight);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setUniformItemSizes(true);
 }
 
 }  // namespace winvrx

@@ -1,10 +1,12 @@
 #include "foundation/menu/desktop/menu_window.h"
 
+#include "foundation/menu/desktop/command_board.h"
 #include "foundation/menu/desktop/command_tile.h"
 #include "foundation/menu/desktop/company_list.h"
 #include "foundation/menu/desktop/month_view.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"
+#include "foundation/widgets/desktop/body_area.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/register_list.h"
 #include "foundation/widgets/desktop/search_box.h"
@@ -12,7 +14,6 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -24,15 +25,28 @@ namespace winvrx {
 
 namespace {
 
-constexpr int kTilesInRow = 3;
 constexpr int kSideWidth = 19;  ///< of the columns at the sides, in average capital letters
 
 /// A panel as wide as the side columns are.
 QFrame* sidePanel(QWidget* parent) {
     auto* frame = new QFrame(parent);
     look::setRole(*frame, "panel");
-    frame->setFixedWidth(frame->fontMetrics().horizontalAdvance(QLatin1Char('M')) * kSideWidth);
     return frame;
+}
+
+/// Which holds what cannot be narrower.
+void fixWidth(QFrame& side) {
+    const int usual = side.fontMetrics().horizontalAdvance(QLatin1Char('M')) * kSideWidth;
+    side.setFixedWidth(std::max(usual, side.minimumSizeHint().width()));
+}
+
+/// A text of several lines at the end of the column.
+QLabel* addLines(QVBoxLayout& column, const char* name, look::TextSize size) {
+    QLabel* lines = look::label(QString(), size, column.parentWidget());
+    lines->setObjectName(QLatin1String(name));
+    lines->setWordWrap(true);
+    column.addWidget(lines);
+    return lines;
 }
 
 /// For what only informs: a failure is logged, and leaves it out.
@@ -65,13 +79,15 @@ MenuWindow::MenuWindow(Menu& menu, const Workplace& at, const MonthCalendar& cal
     frame->setContentsMargins(0, 0, 0, 0);
     frame->setSpacing(0);
     buildTitleBand(*frame);
-    auto* columns = new QHBoxLayout;
+    auto* body = new QWidget(this);
+    auto* columns = new QHBoxLayout(body);
     look::layOutBody(*columns);
     columns->setSpacing(look::kMargin);
     columns->addWidget(buildCompanies());
     columns->addWidget(buildCommands(), 1);
     columns->addWidget(buildOverview());
-    frame->addLayout(columns, 1);
+    body_ = new BodyArea(body, this);
+    frame->addWidget(body_, 1);
     resize(look::kWindowSize);
 }
 
@@ -106,10 +122,6 @@ QWidget* MenuWindow::buildCompanies() {
     column->addWidget(search_);
     companies_ = new CompanyList(side);
     look::name(*companies_, QStringLiteral("menu.companies"), QStringLiteral("Lista de empresas"));
-    companies_->setFrameShape(QFrame::NoFrame);
-    companies_->setTextElideMode(Qt::ElideRight);
-    companies_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    companies_->setUniformItemSizes(true);
     column->addWidget(companies_, 1);
     search_->serve(companies_);
     auto* filter = new QHBoxLayout;
@@ -133,51 +145,15 @@ QWidget* MenuWindow::buildCompanies() {
         if (const auto filter = parseShiftFilter(toUtf8(text))) menu_.setShiftFilter(*filter);
         showTiles();
     });
+    fixWidth(*side);
     return side;
 }
 
 QWidget* MenuWindow::buildCommands() {
-    auto* content = new QWidget;
-    auto* column = new QVBoxLayout(content);
-    column->setContentsMargins(0, 0, look::kGap, 0);
-    column->setSpacing(look::kGap);
-    tiles_.resize(entries_.size());
-    QStringList groups;
-    for (const MenuEntry& entry : entries_)
-        if (!groups.contains(entry.group)) groups.append(entry.group);
-    for (const QString& group : groups)
-        addGroup(*column, group);
-    column->addStretch(1);
-    QScrollArea* area = look::scrolled(content, this);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    return area;
-}
-
-void MenuWindow::addGroup(QVBoxLayout& column, const QString& group) {
-    if (column.count() > 0) column.addSpacing(look::kMargin);
-    column.addWidget(look::heading(group, this));
-    auto* grid = new QGridLayout;
-    grid->setSpacing(look::kGap);
-    for (int i = 0; i < kTilesInRow; ++i)
-        grid->setColumnStretch(i, 1);
-    for (std::size_t i = 0; i < entries_.size(); ++i)
-        if (entries_[i].group == group) tiles_[i] = addTile(*grid, entries_[i]);
-    column.addLayout(grid);
-}
-
-CommandTile* MenuWindow::addTile(QGridLayout& grid, const MenuEntry& entry) {
-    auto* tile = new CommandTile(entry.objectName, entry.icon, entry.title,
-                                 entry.key.toString(QKeySequence::NativeText), this);
-    tile->setEnabled(static_cast<bool>(entry.open));
-    const int count = grid.count();
-    grid.addWidget(tile, count / kTilesInRow, count % kTilesInRow);
-    if (!entry.open) return tile;
-    connect(tile, &CommandTile::clicked, this, [this, entry] { open(entry); });
-    if (!entry.key.isEmpty()) {
-        auto* shortcut = new QShortcut(entry.key, this);
-        connect(shortcut, &QShortcut::activated, tile, &CommandTile::click);
-    }
-    return tile;
+    commands_ = new CommandBoard(entries_, this);
+    connect(commands_, &CommandBoard::chosen, this,
+            [this](std::size_t entry) { open(entries_[entry]); });
+    return look::scrolled(commands_, this);
 }
 
 QWidget* MenuWindow::buildOverview() {
@@ -194,17 +170,12 @@ QWidget* MenuWindow::buildOverview() {
     column->addWidget(offered_);
     month_ = new MonthView(side);
     column->addWidget(month_);
-    counts_ = look::label(QString(), look::TextSize::Body, side);
-    counts_->setObjectName(QStringLiteral("menu.counts"));
-    counts_->setWordWrap(true);
-    column->addWidget(counts_);
-    notices_ = look::label(QString(), look::TextSize::Hint, side);
-    notices_->setObjectName(QStringLiteral("menu.notices"));
-    notices_->setWordWrap(true);
-    column->addWidget(notices_);
+    counts_ = addLines(*column, "menu.counts", look::TextSize::Body);
+    notices_ = addLines(*column, "menu.notices", look::TextSize::Hint);
     column->addStretch(1);
     column->addWidget(buildDataFolder());
     column->addWidget(buildBackup());
+    fixWidth(*side);
     return side;
 }
 
@@ -221,10 +192,7 @@ QWidget* MenuWindow::buildDataFolder() {
     row->addWidget(caption);
     row->addWidget(drive_, 1);
     column->addLayout(row);
-    folder_ = look::label(QString(), look::TextSize::Hint, part);
-    folder_->setObjectName(QStringLiteral("menu.folder"));
-    folder_->setWordWrap(true);
-    column->addWidget(folder_);
+    folder_ = addLines(*column, "menu.folder", look::TextSize::Hint);
     connect(drive_, &QComboBox::textActivated, this, [this](const QString& letter) {
         menu_.useDrive(letter.front().toLatin1());
         fillCompanies();
@@ -252,6 +220,7 @@ bool MenuWindow::start() {
     if (!menu_.claimRun()) return false;
     started_ = true;
     today_->setText(toQt(dateText(at_.clock.today())) + QStringLiteral(" · Aguarde..."));
+    fitToScreen(*this, *body_);
     show();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     menu_.load();
@@ -367,8 +336,9 @@ void MenuWindow::showTiles() {
         attemptQuietly(at_.log, [&] {
             if (entry.state) line = entry.state(progress ? &*progress : nullptr);
         });
-        tiles_[i]->setStateLine(line);
-        tiles_[i]->setNext(progress && entry.step == progress->next);
+        CommandTile& tile = *commands_->tiles()[i];
+        tile.setStateLine(line);
+        tile.setNext(progress && entry.step == progress->next);
     }
 }
 

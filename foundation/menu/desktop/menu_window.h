@@ -11,7 +11,6 @@
 #include <vector>
 
 class QComboBox;
-class QGridLayout;
 class QLabel;
 class QListWidget;
 class QPushButton;
@@ -22,7 +21,8 @@ namespace winvrx {
 /// How far the month is; nullopt when no company is selected or its files cannot be read.
 using ProgressOfMonth = std::function<std::optional<MonthProgress>()>;
 
-class CommandTile;
+class BodyArea;
+class CommandBoard;
 class MonthView;
 class SearchBox;
 
@@ -51,8 +51,6 @@ class MenuWindow : public QWidget {
     [[nodiscard]] QWidget* buildOverview();
     [[nodiscard]] QWidget* buildDataFolder();
     [[nodiscard]] QWidget* buildBackup();
-    void addGroup(QVBoxLayout& column, const QString& group);
-    [[nodiscard]] CommandTile* addTile(QGridLayout& grid, const MenuEntry& entry);
 
     void fillCompanies();
     void showCompany();
@@ -72,6 +70,8 @@ class MenuWindow : public QWidget {
     ProgressOfMonth progress_;
     bool started_ = false;
 
+    BodyArea* body_ = nullptr;
+    CommandBoard* commands_ = nullptr;
     QLabel* companyName_ = nullptr;
     QLabel* today_ = nullptr;
     SearchBox* search_ = nullptr;
@@ -84,7 +84,6 @@ class MenuWindow : public QWidget {
     QLabel* notices_ = nullptr;
     QComboBox* drive_ = nullptr;
     QLabel* folder_ = nullptr;
-    std::vector<CommandTile*> tiles_;  ///< of the entries, in their order
 };
 
 }  // namespace winvrx

@@ -1,5 +1,6 @@
 #include "foundation/widgets/desktop/screen_window.h"
 
+#include "foundation/widgets/desktop/body_area.h"
 #include "foundation/widgets/desktop/look.h"
 
 #include <QAbstractItemView>
@@ -11,10 +12,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
-#include <QStyle>
+#include <QStyleOptionToolButton>
+#include <QStylePainter>
 #include <QToolButton>
 
 #include <utility>
@@ -44,41 +45,25 @@ QString withKey(const QString& text, const QKeySequence& key) {
     return text + QStringLiteral("  ") + key.toString(QKeySequence::NativeText);
 }
 
+/// Leaves out its key where that has no room; the tip says it.
+class CommandButton : public QToolButton {
+  public:
+    using QToolButton::QToolButton;
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QStylePainter painter(this);
+        QStyleOptionToolButton option;
+        initStyleOption(&option);
+        if (width() < sizeHint().width()) option.text = accessibleName();
+        painter.drawComplexControl(QStyle::CC_ToolButton, option);
+    }
+};
+
 std::function<void()>& openHelp() {
     static std::function<void()> open;
     return open;
 }
-
-/// Scrolls the body only where it is smaller than the body can be: a resizable area would give a
-/// body with wrapped lines all the height that it would like.
-class BodyArea : public QScrollArea {
-  public:
-    BodyArea(QWidget* body, QWidget* parent) : QScrollArea(parent) {
-        setFrameShape(QFrame::NoFrame);
-        setFocusPolicy(Qt::NoFocus);
-        setWidget(body);
-    }
-
-  protected:
-    void resizeEvent(QResizeEvent* event) override {
-        fit();
-        QScrollArea::resizeEvent(event);
-    }
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (watched == widget() && event->type() == QEvent::LayoutRequest) fit();
-        return QScrollArea::eventFilter(watched, event);
-    }
-
-  private:
-    void fit() {
-        const QSize least = widget()->minimumSizeHint();
-        const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-        QSize room = maximumViewportSize();
-        if (least.height() > room.height()) room.rwidth() -= bar;
-        if (least.width() > room.width()) room.rheight() -= bar;
-        widget()->resize(room.expandedTo(least));
-    }
-};
 
 }  // namespace
 
@@ -169,7 +154,7 @@ void ScreenWindow::setChips(const QStringList& chips) {
 QToolButton* ScreenWindow::addCommand(const QString& icon, const QString& text,
                                       const QKeySequence& key, const QString& objectName,
                                       QWidget* within) {
-    auto* button = new QToolButton(this);
+    auto* button = new CommandButton(this);
     button->setObjectName(objectName);
     look::setRole(*button, "command");
     button->setAccessibleName(text);
@@ -212,13 +197,7 @@ void ScreenWindow::reject() {
 }
 
 void ScreenWindow::showEvent(QShowEvent* event) {
-    if (!event->spontaneous() && body_) {
-        layout()->activate();
-        const QSize missing = body_->widget()->minimumSizeHint() - body_->size();
-        QSize room = screen()->availableSize();
-        room.rheight() -= style()->pixelMetric(QStyle::PM_TitleBarHeight);
-        resize((size() + missing.expandedTo({0, 0})).boundedTo(room));
-    }
+    if (!event->spontaneous() && body_) fitToScreen(*this, *body_);
     QDialog::showEvent(event);
 }
 

@@ -6,12 +6,14 @@
 #include <QScrollBar>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTreeView>
 
 namespace winvrx::look {
 
 namespace {
 
 constexpr qreal kCorner = 3;
+constexpr int kRowGap = 4;
 
 bool has(const QStyleOption& option, QStyle::StateFlag flag) {
     return option.state & flag;
@@ -103,6 +105,14 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
             QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
     painter->restore();
+}
+
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                              const QWidget* widget) const {
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type == CT_ItemViewItem && qobject_cast<const QTreeView*>(widget))
+        size.rheight() += kRowGap;
+    return size;
 }
 
 }  // namespace winvrx::look

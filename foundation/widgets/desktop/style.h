@@ -6,7 +6,7 @@ namespace winvrx::look {
 
 /// The Fusion style with the outlines of fields, lists, check boxes and option buttons drawn in
 /// the palette's border colour: Fusion darkens the window's colour for them, which a dark palette
-/// hides.
+/// hides. The rows of tables are higher than their letters, whose accents they would cut.
 class Style final : public QProxyStyle {
     Q_OBJECT
 
@@ -18,6 +18,9 @@ class Style final : public QProxyStyle {
     void polish(QWidget* widget) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option,
+                                         const QSize& contents,
+                                         const QWidget* widget) const override;
 };
 
 }  // namespace winvrx::look

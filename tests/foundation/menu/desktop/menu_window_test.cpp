@@ -8,6 +8,7 @@
 
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 
 #include <gmock/gmock.h>
 
@@ -248,6 +249,22 @@ TEST_F(MenuWindowTest, OffersTheShiftsAndClosesCleanly) {
     EXPECT_TRUE(desk_.files.content.contains(kFolder + "LocMen.lvc"));
     window_.close();
     EXPECT_FALSE(desk_.files.content.contains(kFolder + "LocMen.lvc"));
+}
+
+TEST_F(MenuWindowTest, ASmallScreenScrollsAndCutsNoTitle) {
+    ASSERT_TRUE(window_.start());
+    EXPECT_EQ(window_.size(), window_.size().boundedTo(window_.screen()->availableSize()));
+    for (const QSize size : {QSize(1240, 690), QSize(1024, 640), QSize(800, 480)}) {
+        window_.resize(size);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window_.size(), size);
+        for (const auto* tile : window_.findChildren<CommandTile*>())
+            EXPECT_GE(tile->width(), tile->sizeHint().width()) << size.width();
+        for (const auto* label : window_.findChildren<QLabel*>()) {
+            const int needed = label->buddy() ? label->sizeHint().width() : 0;
+            EXPECT_GE(label->width(), needed) << label->text().toStdString();
+        }
+    }
 }
 
 }  // namespace
