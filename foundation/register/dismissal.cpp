@@ -51,7 +51,9 @@ void saveLeaveFile(const Store& store, const EmployeeKey& key, std::string_view 
         store.files.replace(file, leaveFileBytes);
     } catch (const FileFault&) {
         try {
-            if (after != before) store.files.replaceAll({list.contentOf(before)});
+            // A write that fails at its last step has put the new bytes there all the same.
+            if (after != before && store.files.read(file) != leaveFileBytes)
+                store.files.replaceAll({list.contentOf(before)});
         } catch (const FileFault&) {
             // Both screens tell of the contradiction that stays.
         }
