@@ -88,11 +88,9 @@ int markDays(const Store& store, const PayrollLock& payroll, const EmployeeKey& 
         std::vector<FileSystem::NewContent> batch;
         PunchFiles(store, payroll, loadMonthSettings(store, card.month))
             .add(batch, key, editedPunchRecord(before.value_or(""), card.month, card.lines));
-        // The card comes last, for good: cut short, its days are still found unmarked.
-        const FileSystem::NewContent record = std::move(batch.back());
-        batch.pop_back();
-        store.files.replaceAll(batch);
-        store.files.replace(record.file, record.bytes);
+        // One by one, the card last: cut short, its days are still found unmarked.
+        for (const FileSystem::NewContent& one : batch)
+            store.files.replace(one.file, one.bytes);
         marked += static_cast<int>(card.days.size());
     }
     return marked;
