@@ -78,7 +78,8 @@ int main() {
         }));
         times.push_back(milliseconds([&] {
             for (const auto& record : all) {
-                const WorkTerms terms = workTerms(settings, settings.overtime, schedule, employee);
+                const WorkTerms terms =
+                    workTerms(settings, settings.overtime, schedule, employee, {});
                 worked += periodHours(parsed(record), firstDay(settings.month), terms).worked();
             }
         }));

@@ -1,7 +1,6 @@
 #include "foundation/register/employee_list.h"
 
 #include "foundation/files/file_faults.h"
-#include "foundation/register/leave_calendar.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>
@@ -24,14 +23,16 @@ std::string_view activityOf(const Employee& employee, const EmployeeMarks& marks
     return marks.unreadable ? "Ilegível" : "Ativo";
 }
 
-EmployeeMarks leaveMarks(const Store& store, const EmployeeKey& key,
-                         std::optional<WorkMonth> month) {
+MarkedLeaves markedLeaves(const Store& store, const EmployeeKey& key,
+                          std::optional<WorkMonth> month, std::optional<Date> admission) {
     try {
-        const LeaveCalendar calendar = loadLeaveCalendar(store, key);
-        return {.onLeave = month && calendar.touches(*month),
-                .inactiveSince = calendar.inactiveSince()};
+        MarkedLeaves found{loadLeaveCalendar(store, key, admission), {}};
+        found.marks.onLeave = month && found.calendar.touches(*month);
+        found.marks.inactiveSince = found.calendar.inactiveSince();
+        found.marks.contractEnd = found.calendar.contractEnd();
+        return found;
     } catch (const FileFault&) {
-        return {.unreadable = true};
+        return {{{}, admission}, {.unreadable = true}};
     }
 }
 
@@ -53,7 +54,7 @@ EmployeeList::Marks EmployeeList::leaveMarks(const Store& store, const CompanyCo
                                              std::optional<WorkMonth> month) {
     Marks marks;
     for (const EmployeeCode& code : employeesWithLeaveFile(company, names))
-        marks.emplace(code, winvrx::leaveMarks(store, {company, code}, month));
+        marks.emplace(code, markedLeaves(store, {company, code}, month).marks);
     return marks;
 }
 

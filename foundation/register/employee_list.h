@@ -2,6 +2,7 @@
 
 #include "foundation/files/folder_names.h"
 #include "foundation/register/employee_register.h"
+#include "foundation/register/leave_calendar.h"
 
 #include <map>
 #include <optional>
@@ -18,9 +19,10 @@ struct EmployeeMarks {
     bool closed = false;      ///< the month's payroll has been generated
     bool unreadable = false;  ///< his leaves cannot be read
     std::optional<Date> inactiveSince = {};
+    std::optional<Date> contractEnd = {};  ///< of who is inactive; not after it
 
     [[nodiscard]] bool isInactiveBefore(WorkMonth month) const {
-        return inactiveSince && *inactiveSince < firstDay(month);
+        return contractEnd && *contractEnd < firstDay(month);
     }
 };
 
@@ -30,9 +32,15 @@ struct EmployeeMarks {
 /// "Inativo", "Excluido", "Ativo", or "Ilegível" where the leaves do not tell.
 [[nodiscard]] std::string_view activityOf(const Employee& employee, const EmployeeMarks& marks);
 
-/// What the leaves say of an employee; `onLeave` goes by `month`, without one it is false.
-[[nodiscard]] EmployeeMarks leaveMarks(const Store& store, const EmployeeKey& key,
-                                       std::optional<WorkMonth> month);
+/// An employee's leaves and what a list says of them.
+struct MarkedLeaves {
+    LeaveCalendar calendar;  ///< of leaves that cannot be read none, with the admission
+    EmployeeMarks marks;
+};
+/// `onLeave` goes by `month`, without one it is false.
+[[nodiscard]] MarkedLeaves markedLeaves(const Store& store, const EmployeeKey& key,
+                                        std::optional<WorkMonth> month,
+                                        std::optional<Date> admission = std::nullopt);
 
 /// False for who was inactive before the month or is admitted after it.
 [[nodiscard]] bool belongsTo(WorkMonth month, const Employee& employee, const EmployeeMarks& marks);

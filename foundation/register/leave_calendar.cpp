@@ -27,6 +27,11 @@ Date endOfContract(const std::vector<DatedLeave>& leaves, std::optional<Date> ad
 
 }  // namespace
 
+std::string leaveText(const DatedLeave& leave) {
+    return wordOf(leave.leave) + ", " + dateText(leave.period.first) + " a " +
+           dateText(leave.period.last);
+}
+
 LeaveCalendar::LeaveCalendar(std::string_view leaveFileBytes, std::optional<Date> admission)
     : admission_(admission), inactiveSince_(winvrx::inactiveSince(leaveFileBytes)) {
     for (const std::string& line : splitLines(leaveFileBytes)) {

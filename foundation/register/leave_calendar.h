@@ -38,6 +38,9 @@ struct DatedLeave {
     std::optional<LeavePeriod> away;
 };
 
+/// "FÉRIAS, 04/03/2024 a 23/03/2024".
+[[nodiscard]] std::string leaveText(const DatedLeave& leave);
+
 class LeaveCalendar {
   public:
     /// Nobody's: no leaves, an open contract.

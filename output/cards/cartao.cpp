@@ -195,7 +195,8 @@ CardData Cartao::cardOf(const Employee& employee) const {
             .employee = employee,
             .settings = settings,
             .schedule = loadSchedule(at_.store(), {company, code}),
-            .punches = loadPunches(at_.store(), {company, code}, *month_)};
+            .punches = loadPunches(at_.store(), {company, code}, *month_),
+            .leaves = loadLeaveCalendar(at_.store(), {company, code}, employee.admissionDate())};
 }
 
 }  // namespace winvrx

@@ -66,7 +66,7 @@ class PunchWriter {
     PunchWriter(const CardData& card, ReportRows& rows)
         : card_(card),
           terms_(workTerms(card.settings, card.settings.overtime,
-                           card.schedule.value_or(StandardSchedule()), card.employee)),
+                           card.schedule.value_or(StandardSchedule()), card.employee, card.leaves)),
           rows_(rows) {}
 
     void write(const PunchLine& line, Date date) {
@@ -122,14 +122,14 @@ ReportRows cardRows(const CardData& card) {
         rows[static_cast<std::size_t>(line - 1)][cardColumn("linha")] = std::to_string(line);
 
     const WorkMonth month = card.settings.month;
-    const Date from = card.employee.admissionDate().value_or(firstDay(month));
     PunchWriter writer(card, rows);
     for (int day = 1; day <= daysIn(month); ++day) {
         const Date date = plusDays(firstDay(month), day - 1);
         const auto at = static_cast<std::size_t>(day - 1);
         rows[at][cardColumn("dia")] = padded(day, 2);
         rows[at][cardColumn("semana")] = weekdayShort(weekdayOf(date));
-        if (card.punches && date >= from) writer.write(card.punches->at(at), date);
+        if (card.punches && isWithinContract(card.leaves.standingOn(date)))
+            writer.write(card.punches->at(at), date);
     }
     if (card.punches) writer.writeSums();
     return rows;

@@ -2,6 +2,7 @@
 
 #include "foundation/register/company.h"
 #include "foundation/register/employee.h"
+#include "foundation/register/leave_calendar.h"
 #include "report/report_engine.h"
 #include "timecard/month/month_settings.h"
 #include "timecard/punches/punch_record.h"
@@ -50,13 +51,14 @@ struct CardData {
     MonthSettings settings;                         ///< with the employee's own overtime figures
     std::optional<StandardSchedule> schedule;       ///< nullopt: none was recorded
     std::optional<std::vector<PunchLine>> punches;  ///< nullopt: none were applied
+    LeaveCalendar leaves = {};                      ///< with the admission
 };
 
 /// The header block as the screen shows it, captions included, in lines.
 [[nodiscard]] std::string headerText(const CardData& card);
 
-/// Always kCardLines rows. "horas" and the situation stand only on days of the month from the
-/// admission on; a situation only where the day has no times,
+/// Always kCardLines rows. Punches, "horas" and the situation stand only on days of the month
+/// within the contract; a situation only where the day has no times,
 /// "Falta Injustificada" as "Falta Inj.". "total" is the month's sum and
 /// "quinzena" the sum of the row's own half of the month. Without punches a row has its header
 /// values and day labels only.

@@ -112,7 +112,7 @@ bool Afastamento::select(const EmployeeCode& employee) {
 }
 
 EmployeeMarks Afastamento::marksOf(const EmployeeKey& key) const {
-    EmployeeMarks marks = leaveMarks(at_.store(), key, month_);
+    EmployeeMarks marks = markedLeaves(at_.store(), key, month_).marks;
     marks.closed = payroll_.isClosed(key, month_.value());
     return marks;
 }

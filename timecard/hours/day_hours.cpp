@@ -34,16 +34,17 @@ DaySchedule scheduledOn(std::chrono::weekday weekday, const WorkTerms& terms) {
     return terms.saturdayIsNormal ? terms.saturday : DaySchedule();
 }
 
-DayTerms dayTerms(DayMeaning meaning, Date date, const WorkTerms& terms) {
+DayTerms dayTerms(const PunchLine& line, Date date, const WorkTerms& terms) {
+    const DayMeaning meaning = meaningOf(line.situation);
     const std::chrono::weekday weekday = weekdayOf(date);
     DayTerms day;
     day.meaning = meaning;
     day.paidRest = weekday == std::chrono::Sunday || terms.isHoliday(date);
     if (day.paidRest || meaning == DayMeaning::Holiday || meaning == DayMeaning::WeeklyRest)
         day.rest = HourRule::RestDay;
-    else if (weekday == terms.restDay && meaning == DayMeaning::Work)
-        day.rest = HourRule::OwnRestDay;
-    if (!day.rest && meaning != DayMeaning::Leave) day.scheduled = scheduledOn(weekday, terms);
+    const bool rests = weekday == terms.restDay && meaning == DayMeaning::Work && !line.hasTimes();
+    if (!day.rest && !rests && meaning != DayMeaning::Leave)
+        day.scheduled = scheduledOn(weekday, terms);
     return day;
 }
 
@@ -160,9 +161,9 @@ class DayWalk {
 
 template <typename Visit>
 void walk(const PunchLine& line, Date date, const WorkTerms& terms, Visit visit) {
-    if (terms.admission && date < *terms.admission) return;
+    if (!isWithinContract(terms.leaves.standingOn(date))) return;
     const DayPunches punches{{line.morning(), line.afternoon()}, line.extra()};
-    const DayTerms day = dayTerms(meaningOf(line.situation), date, terms);
+    const DayTerms day = dayTerms(line, date, terms);
     DayWalk(day, terms, visit).work(punches);
 }
 

@@ -62,8 +62,9 @@ bool putMonth(DayPlaces& places, const Store& store, const EmployeeKey& key, Wor
 WorkTerms termsOf(const Store& store, const EmployeeKey& key, const Employee& employee,
                   const MonthSettings& settings, const DayPeriod& period) {
     const auto schedule = loadSchedule(store, key);
-    WorkTerms terms = workTerms(settings, overtimeOf(store, key, settings),
-                                schedule.value_or(StandardSchedule()), employee);
+    WorkTerms terms =
+        workTerms(settings, overtimeOf(store, key, settings), schedule.value_or(StandardSchedule()),
+                  employee, loadLeaveCalendar(store, key, employee.admissionDate()));
     if (const WorkMonth first = monthOf(period.first); first != settings.month)
         for (const Date date : loadMonthSettings(store, first).holidays())
             terms.holidays.push_back(date);

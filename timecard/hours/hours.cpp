@@ -1,6 +1,7 @@
 #include "timecard/hours/hours.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace winvrx {
 
@@ -29,12 +30,13 @@ bool WorkTerms::isHoliday(Date date) const {
 }
 
 WorkTerms workTerms(const MonthSettings& settings, const OvertimeRules& overtime,
-                    const StandardSchedule& schedule, const Employee& employee) {
+                    const StandardSchedule& schedule, const Employee& employee,
+                    LeaveCalendar leaves) {
     return {schedule.weekday,
             schedule.saturday,
             schedule.saturdayIsNormal,
             weeklyRestOf(employee),
-            employee.admissionDate(),
+            std::move(leaves),
             settings.holidays(),
             overtime};
 }

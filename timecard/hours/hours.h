@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/register/employee.h"
+#include "foundation/register/leave_calendar.h"
 #include "timecard/hours/hours_format.h"
 #include "timecard/month/half_month.h"
 #include "timecard/month/month_settings.h"
@@ -19,7 +20,7 @@
 // are exact seconds; rounding is hours_format's, and only for showing. docs/hours.md tells the
 // rules with an example each.
 //
-//     const WorkTerms terms = workTerms(settings, overtime, schedule, employee);
+//     const WorkTerms terms = workTerms(settings, overtime, schedule, employee, leaves);
 //     const HourTotals month = periodHours(lines, firstDay(settings.month), terms);
 //     formatted(month[HourCategory::Missing], overtime.totalsFormat)     "01:30"
 
@@ -72,16 +73,18 @@ struct WorkTerms {
     DaySchedule saturday;
     bool saturdayIsNormal = false;
     std::chrono::weekday restDay = std::chrono::Sunday;  ///< the employee's own weekly rest
-    std::optional<Date> admission;                       ///< days before it count nothing
+    LeaveCalendar leaves;  ///< days outside the contract count nothing
     std::vector<Date> holidays;
     OvertimeRules overtime;
 
     [[nodiscard]] bool isHoliday(Date date) const;
 };
 
-/// `overtime` is what holds for the employee: his own figures or the month's.
+/// `leaves` have the admission; `overtime` is what holds for the employee: his own figures or the
+/// month's.
 [[nodiscard]] WorkTerms workTerms(const MonthSettings& settings, const OvertimeRules& overtime,
-                                  const StandardSchedule& schedule, const Employee& employee);
+                                  const StandardSchedule& schedule, const Employee& employee,
+                                  LeaveCalendar leaves);
 
 /// The hours of one day. What was worked past midnight belongs to the line that it stands on.
 [[nodiscard]] HourTotals dayHours(const PunchLine& line, Date date, const WorkTerms& terms);
@@ -95,7 +98,6 @@ enum class HourRule {
     UpToThreshold,    ///< extra, up to the daily threshold
     AboveThreshold,   ///< extra, above it
     RestDay,          ///< extra on a Sunday, a holiday or a day marked as rest
-    OwnRestDay,       ///< extra on the employee's own weekly rest day
     SingleLevel,      ///< extra, paid at one percentage only
     MarkedMissing,    ///< the day is marked as an absence
     ShortOfSchedule,  ///< worked less than the schedule asks for, beyond the tolerance

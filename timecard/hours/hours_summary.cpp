@@ -45,8 +45,6 @@ std::string wordsOf(HourRule rule, const OvertimeRules& rules) {
             return "acima de " + threshold;
         case HourRule::RestDay:
             return "domingo, feriado ou descanso";
-        case HourRule::OwnRestDay:
-            return "descanso semanal do funcionário";
         case HourRule::SingleLevel:
             return "percentual único";
         case HourRule::MarkedMissing:
@@ -57,6 +55,15 @@ std::string wordsOf(HourRule rule, const OvertimeRules& rules) {
             return "domingo ou feriado: jornada diária";
     }
     return {};
+}
+
+/// Why a day away asks for no hours; empty for any other.
+std::string leaveReason(const PunchLine& line, Date date, const WorkTerms& terms) {
+    if (meaningOf(line.situation) != DayMeaning::Leave ||
+        !isWithinContract(terms.leaves.standingOn(date)))
+        return {};
+    const DatedLeave* leave = terms.leaves.leaveOn(date);
+    return "afastamento: " + (leave ? leaveText(*leave) : "nenhum registrado neste dia");
 }
 
 std::string spanText(const ClockSpan& span) {
@@ -105,15 +112,21 @@ std::string HoursSummary::figure(HourCategory category, std::optional<HalfMonth>
 std::vector<ExplainedPart> HoursSummary::explanation(HourCategory category,
                                                      std::optional<HalfMonth> half) const {
     std::vector<ExplainedPart> explained;
-    Date date = first_;
-    for (const PunchLine& line : lines_) {
-        if (!half || halfOf(date) == *half)
-            for (const HourPart& part : dayParts(line, date, terms_))
-                if (part.category == category)
-                    explained.push_back({dayLabel(date), part.span ? spanText(*part.span) : "",
-                                         formatted(part.length, rules().totalsFormat),
-                                         ruleText(part, rules())});
-        date = plusDays(date, 1);
+    const auto add = [&](Date date, std::string span, std::chrono::seconds length,
+                         std::string rule) {
+        explained.push_back({dayLabel(date), std::move(span),
+                             formatted(length, rules().totalsFormat), std::move(rule)});
+    };
+    const bool asked = category == HourCategory::Standard || category == HourCategory::Missing;
+    for (std::size_t at = 0; at < lines_.size(); ++at) {
+        const Date date = plusDays(first_, static_cast<int>(at));
+        if (half && halfOf(date) != *half) continue;
+        if (std::string reason = leaveReason(lines_[at], date, terms_); asked && !reason.empty())
+            add(date, {}, std::chrono::seconds{0}, std::move(reason));
+        for (const HourPart& part : dayParts(lines_[at], date, terms_))
+            if (part.category == category)
+                add(date, part.span ? spanText(*part.span) : "", part.length,
+                    ruleText(part, rules()));
     }
     return explained;
 }

@@ -44,7 +44,8 @@ class HoursSummary {
     /// Of one half, or of the whole month where none is named.
     [[nodiscard]] const HourTotals& totals(std::optional<HalfMonth> half) const;
     [[nodiscard]] std::string figure(HourCategory category, std::optional<HalfMonth> half) const;
-    /// The lengths of its parts add up to the figure.
+    /// The lengths of its parts add up to the figure. What is asked for and what is missing names
+    /// the leave of a day away, without length.
     [[nodiscard]] std::vector<ExplainedPart> explanation(HourCategory category,
                                                          std::optional<HalfMonth> half) const;
 

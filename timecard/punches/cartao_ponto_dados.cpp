@@ -81,14 +81,16 @@ void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings&
     loadCardOf(chosen);
 }
 
-EmployeeMarks CartaoPontoDados::marksOf(const EmployeeKey& key) const {
-    EmployeeMarks marks = leaveMarks(at_.store(), key, settings_.month);
-    marks.closed = desk_.payroll.isClosed(key, settings_.month);
-    return marks;
+MarkedLeaves CartaoPontoDados::leavesOf(const Employee& employee) const {
+    const EmployeeKey key{company_.value(), employee.employeeCode().value()};
+    MarkedLeaves found = markedLeaves(at_.store(), key, settings_.month, employee.admissionDate());
+    found.marks.closed = desk_.payroll.isClosed(key, settings_.month);
+    return found;
 }
 
 void CartaoPontoDados::loadCardOf(const std::string& code) {
     position_.reset();
+    leaves_ = {};
     overtime_ = settings_.overtime;
     schedule_ = TypedSchedule();
     sheet_ = CardSheet(blankMonth(settings_.month));
@@ -104,8 +106,10 @@ void CartaoPontoDados::loadCard(std::size_t position) {
     const OvertimeRules overtime = overtimeOf(at_.store(), {company, code}, settings_);
     auto punches = loadPunches(at_.store(), {company, code}, settings_.month);
     unreadLines_ = unreadPunchLines(at_.store(), {company, code}, settings_.month);
-    list_.mark(position, marksOf({company, code}));
+    MarkedLeaves leaves = leavesOf(list_.employees()[position]);
+    list_.mark(position, leaves.marks);
     position_ = position;
+    leaves_ = std::move(leaves.calendar);
     overtime_ = overtime;
     schedule_ = TypedSchedule(schedule.value_or(StandardSchedule()));
     applied_ = punches.has_value();
@@ -203,8 +207,10 @@ void CartaoPontoDados::requireReadableSchedule() const {
 }
 
 DayKind CartaoPontoDados::kindOf(int day) const {
-    const Date date = plusDays(firstDay(settings_.month), day - 1);
-    switch (meaningOf(sheet_.line(day).situation)) {
+    const Date date = dateOf(day);
+    if (!isWithinContract(leaves_.standingOn(date))) return DayKind::OutsideContract;
+    const PunchLine& line = sheet_.line(day);
+    switch (meaningOf(line.situation)) {
         case DayMeaning::Leave:
             return DayKind::Leave;
         case DayMeaning::Missing:
@@ -220,7 +226,7 @@ DayKind CartaoPontoDados::kindOf(int day) const {
     }
     if (settings_.isHoliday(date)) return DayKind::Holiday;
     const auto weekday = weekdayOf(date);
-    const bool ownRest = selected() && weekday == weeklyRestOf(*selected());
+    const bool ownRest = selected() && weekday == weeklyRestOf(*selected()) && !line.hasTimes();
     return ownRest || weekday == std::chrono::Sunday ? DayKind::WeeklyRest : DayKind::Work;
 }
 
@@ -236,8 +242,7 @@ std::vector<int> CartaoPontoDados::daysWithoutSituation() const {
     std::vector<int> days;
     for (int day = 1; day <= static_cast<int>(sheet_.lines().size()); ++day) {
         const bool typed = sheet_.line(day) != sheet_.recorded()[static_cast<std::size_t>(day) - 1];
-        const Date date = plusDays(firstDay(settings_.month), day - 1);
-        const bool saturday = weekdayOf(date) == std::chrono::Saturday;
+        const bool saturday = weekdayOf(dateOf(day)) == std::chrono::Saturday;
         const StandardSchedule& schedule = schedule_.recorded();
         const bool scheduled = (saturday ? schedule.saturday : schedule.weekday) != DaySchedule();
         if (typed && scheduled && sheet_.isBlank(day) && kindOf(day) == DayKind::Work)

@@ -83,6 +83,11 @@ class CartaoPontoDados {
     [[nodiscard]] CardSheet& sheet() { return sheet_; }
     [[nodiscard]] const CardSheet& sheet() const { return sheet_; }
     [[nodiscard]] DayKind kindOf(int day) const;
+    /// Which leave the day is in, or why it lies outside the contract; empty for any other day.
+    [[nodiscard]] std::string standingText(int day) const;
+    /// Why the times of the day are doubtful, or do not go with the leaves; they can be recorded
+    /// all the same.
+    [[nodiscard]] std::string doubtAt(int day) const;
     /// What was worked on the day, in the month's format; empty for a day without worked time.
     [[nodiscard]] std::string totalOf(int day) const;
     /// What the day has beyond or, with "-", short of its schedule; empty when nothing.
@@ -109,7 +114,7 @@ class CartaoPontoDados {
     /// Shows the card of who bears the code, a blank one if the list has nobody who does.
     void loadCardOf(const std::string& code);
     void loadCard(std::size_t position);
-    [[nodiscard]] EmployeeMarks marksOf(const EmployeeKey& key) const;
+    [[nodiscard]] MarkedLeaves leavesOf(const Employee& employee) const;
     [[nodiscard]] bool requireSelection();
     /// Tells the operator when the month of the employee selected is closed now.
     [[nodiscard]] bool requireOpenMonth();
@@ -129,6 +134,9 @@ class CartaoPontoDados {
     [[nodiscard]] WorkTerms terms() const;
     [[nodiscard]] std::filesystem::path punchFile() const;
     [[nodiscard]] HourTotals hoursOf(int day) const;
+    [[nodiscard]] Date dateOf(int day) const {
+        return plusDays(firstDay(settings_.month), day - 1);
+    }
     /// Something was applied or typed, so that there is something to count.
     [[nodiscard]] bool hasPunches() const;
 
@@ -140,6 +148,7 @@ class CartaoPontoDados {
     OvertimeRules overtime_;
     EmployeeList list_;
     std::optional<std::size_t> position_;
+    LeaveCalendar leaves_;  ///< of the employee selected
     TypedSchedule schedule_;
     CardSheet sheet_;
     std::vector<std::string> unreadLines_;

@@ -45,7 +45,9 @@ bool CartaoPontoDados::requireEditable() {
 }
 
 bool CartaoPontoDados::requireOpenMonth() {
-    list_.mark(*position_, marksOf({company_.value(), selectedCode()}));
+    MarkedLeaves leaves = leavesOf(*selected());
+    list_.mark(*position_, leaves.marks);
+    leaves_ = std::move(leaves.calendar);
     return requireEditable();
 }
 

@@ -7,12 +7,40 @@ namespace winvrx {
 
 WorkTerms CartaoPontoDados::terms() const {
     return workTerms(settings_, overtime_, schedule_.schedule(),
-                     selected() ? *selected() : Employee());
+                     selected() ? *selected() : Employee(), leaves_);
 }
 
 HourTotals CartaoPontoDados::hoursOf(int day) const {
     if (!hasPunches()) return {};
-    return dayHours(sheet_.line(day), plusDays(firstDay(settings_.month), day - 1), terms());
+    return dayHours(sheet_.line(day), dateOf(day), terms());
+}
+
+std::string CartaoPontoDados::standingText(int day) const {
+    switch (leaves_.standingOn(dateOf(day))) {
+        case Standing::BeforeAdmission:
+            return "Antes da admissão em " + dateText(*leaves_.admission());
+        case Standing::AfterEnd:
+            return "Depois do fim do contrato em " + dateText(*leaves_.contractEnd());
+        case Standing::OnLeave:
+            return "Afastamento: " + leaveText(*leaves_.leaveOn(dateOf(day)));
+        case Standing::Employed:
+            break;
+    }
+    const bool marked = meaningOf(sheet_.line(day).situation) == DayMeaning::Leave;
+    return marked ? "Nenhum afastamento registrado neste dia" : "";
+}
+
+std::string CartaoPontoDados::doubtAt(int day) const {
+    const Standing standing = leaves_.standingOn(dateOf(day));
+    const bool punched = sheet_.line(day).hasTimes();
+    if (punched && !isWithinContract(standing))
+        return standingText(day) + ": as horas do dia não contam e não saem no cartão.";
+    const bool asked = standing == Standing::OnLeave &&
+                       meaningOf(sheet_.line(day).situation) != DayMeaning::Leave &&
+                       (punched || hoursOf(day)[HourCategory::Missing].count() > 0);
+    return asked ? standingText(day) + ": o dia não está marcado " + std::string(kSituationLeave) +
+                       "."
+                 : sheet_.doubtAt(day);
 }
 
 bool CartaoPontoDados::hasPunches() const {

@@ -92,10 +92,7 @@ void ListApplication::fillOne(Batch& batch, const Employee& employee, const Empl
     const StandardSchedule schedule = scheduleOf(code);
     requireReadable(schedule);
     requireReadable(leaves);
-    Application application{.schedule = schedule,
-                            .leaves = leaves,
-                            .restDay = weeklyRestOf(employee),
-                            .situation = order_.situation};
+    Application application{.schedule = schedule, .leaves = leaves, .situation = order_.situation};
     if (order_.minutes == Minutes::Varied)
         application.spread = [&](const DaySchedule& day, Date date) {
             return variation_.vary(day, {order_.company, code}, date);

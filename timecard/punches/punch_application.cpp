@@ -27,7 +27,7 @@ void fill(PunchLine& line, Date date, const Application& application,
         line.situation = kSituationLeave;
     else if (settings.isHoliday(date))
         line.situation = kSituationHoliday;
-    else if (weekday == std::chrono::Sunday || weekday == application.restDay)
+    else if (weekday == std::chrono::Sunday)
         line.situation = kSituationWeeklyRest;
     else if (day != DaySchedule())
         putTimes(line, application.spread ? application.spread(day, date) : day);

@@ -37,7 +37,6 @@ DaySchedule expectedOn(const CartaoPontoDados& card, int day) {
     if (hasNoSchedule(schedule)) return bothPairs();
     if (rotates) return schedule.weekday;
     const auto weekday = weekdayOf(plusDays(firstDay(card.settings().month), day - 1));
-    if (one && weekday == weeklyRestOf(*one)) return {};
     return weekday == std::chrono::Saturday ? schedule.saturday : schedule.weekday;
 }
 

@@ -169,14 +169,19 @@ TEST(CardRows, ShortMonthLeavesTheLastRowsBlank) {
     EXPECT_EQ(rows[30][cardColumn("nome")], "JOSÉ DA SILVA");
 }
 
-TEST(CardRows, DaysBeforeAdmissionAreLabelsOnlyAndNotCounted) {
+TEST(CardRows, DaysOutsideTheContractAreLabelsOnlyAndNotCounted) {
     CardData card = commercialCard(kMarch);
-    card.employee.admission = "28/03/2024";
+    card.punches->at(26).situation = kSituationLeave;
+    card.punches->at(26).clearTimes();
+    card.leaves = {leaveStatusLine(parseDate("28/03/2024")), parseDate("25/03/2024")};
     const auto rows = cardRows(card);
+    EXPECT_EQ(row(rows, 22), "22|22|sex||||||||");
     EXPECT_EQ(row(rows, 24), "24|24|dom||||||||");
-    EXPECT_EQ(row(rows, 27), "27|27|qua||||||||");
+    EXPECT_EQ(row(rows, 27), "27|27|qua||||||||AFASTAMENTO");
     EXPECT_EQ(row(rows, 28), "28|28|qui|08:00|12:00|13:00|17:00|||08:00|");
-    EXPECT_EQ(rows[0][cardColumn("total")], "16:00");
+    EXPECT_EQ(row(rows, 29), "29|29|sex||||||||");
+    EXPECT_EQ(row(rows, 31), "31|31|dom||||||||");
+    EXPECT_EQ(rows[0][cardColumn("total")], "24:00");
     EXPECT_EQ(rows[0][cardColumn("quinzena")], "00:00");
 }
 

@@ -106,7 +106,9 @@ void putSettings(WorkTerms& terms, const std::string& text) {
             if (name == "limite")
                 terms.overtime.threshold = required(parseThreshold(value), value);
             else if (name == "adm")
-                terms.admission = dateOf(value);
+                terms.leaves = {"", dateOf(value)};
+            else if (name == "fim")
+                terms.leaves = {leaveStatusLine(dateOf(value)), {}};
             else if (name == "desc")
                 terms.restDay = weekdayNamed(value);
             else

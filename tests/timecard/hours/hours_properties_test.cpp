@@ -13,6 +13,10 @@ using std::chrono::seconds;
 
 constexpr int kMonths = 400;
 
+LeaveCalendar contract(Date admission, int days) {
+    return {leaveStatusLine(plusDays(admission, days)), admission};
+}
+
 /// Cards as they come: near the schedule, far from it, incomplete, marked.
 class Dice {
   public:
@@ -45,7 +49,7 @@ class Dice {
         terms.overtime.differentiatedPercent = once(2);
         terms.overtime.threshold = std::chrono::minutes{30 * upTo(8)};
         if (once(4)) terms.overtime.mode = OvertimeMode::SingleLevel;
-        if (once(4)) terms.admission = plusDays(firstDay(month), upTo(27));
+        if (once(4)) terms.leaves = contract(plusDays(firstDay(month), upTo(27)), upTo(27));
         return terms;
     }
 
@@ -95,7 +99,7 @@ seconds nightOnPaper(const PunchLine& line) {
 
 void expectSoundDay(const PunchLine& line, Date date, const WorkTerms& terms) {
     const HourTotals day = dayHours(line, date, terms);
-    const bool counts = !(terms.admission && date < *terms.admission) &&
+    const bool counts = isWithinContract(terms.leaves.standingOn(date)) &&
                         meaningOf(line.situation) != DayMeaning::Missing;
     const seconds night = day[HourCategory::NormalNight] + day.nightExtra();
     EXPECT_EQ(day.worked(), counts ? onPaper(line) : seconds{0});
@@ -118,7 +122,11 @@ void expectSoundDay(const PunchLine& line, Date date, const WorkTerms& terms) {
 WorkTerms movedBy(int days, WorkTerms terms) {
     for (Date& holiday : terms.holidays)
         holiday = plusDays(holiday, days);
-    if (terms.admission) terms.admission = plusDays(*terms.admission, days);
+    if (const auto admission = terms.leaves.admission()) {
+        const auto length =
+            std::chrono::sys_days(*terms.leaves.contractEnd()) - std::chrono::sys_days(*admission);
+        terms.leaves = contract(plusDays(*admission, days), static_cast<int>(length.count()));
+    }
     return terms;
 }
 

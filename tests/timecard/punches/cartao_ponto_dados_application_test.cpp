@@ -167,6 +167,54 @@ TEST_F(CardScreen, ALeaveThatCannotBeReadStopsTheApplication) {
     EXPECT_EQ(desk.files.content, untouched);
 }
 
+TEST_F(CardScreen, EachDaySaysTheLeaveOrWhyItIsOutsideTheContract) {
+    Leave ended = leave("008 RESCISÃO_CONTRATO_TRABALHO", "20/03/2024", "19/04/2024");
+    ended.lastWorked = "20/03/2024";
+    desk.file(kLeaves) = leaveBytes({vacation("05/03/2024", "06/03/2024"), ended}, "19/04/2024");
+    Employee ana = employee("001", "ANA", "Unico", "Norma");
+    ana.admission = "04/03/2024";
+    hire({ana});
+    std::string filled = "  \r\n";
+    for (const int day : {1, 5, 20, 21})
+        filled += dayLabel(plusDays(firstDay(2024y / 3), day - 1)) + "08:0012:00\r\n";
+    desk.file(kPunches) = filled + "06/qua/mar" + std::string(35, ' ') + "AFASTAMENTO\r\n" +
+                          "07/qui/mar" + std::string(35, ' ') + "AFASTAMENTO\r\n";
+    desk.file(kSchedule) = "08:0012:0013:0017:00\r\n";
+    openOn(0);
+    const std::string away = "Afastamento: FÉRIAS, 05/03/2024 a 06/03/2024";
+    const std::string outside = ": as horas do dia não contam e não saem no cartão.";
+    struct Case {
+        int day;
+        DayKind kind;
+        std::string said;
+        std::string doubt;
+    };
+    for (const Case& c :
+         {Case{1, DayKind::OutsideContract, "Antes da admissão em 04/03/2024",
+               "Antes da admissão em 04/03/2024" + outside},
+          {3, DayKind::OutsideContract, "Antes da admissão em 04/03/2024", ""},
+          {4, DayKind::Work, "", ""},
+          {5, DayKind::Work, away, away + ": o dia não está marcado AFASTAMENTO."},
+          {6, DayKind::Leave, away, ""},
+          {7, DayKind::Leave, "Nenhum afastamento registrado neste dia", ""},
+          {20, DayKind::Work, "", ""},
+          {21, DayKind::OutsideContract, "Depois do fim do contrato em 20/03/2024",
+           "Depois do fim do contrato em 20/03/2024" + outside},
+          {31, DayKind::OutsideContract, "Depois do fim do contrato em 20/03/2024", ""}}) {
+        EXPECT_EQ(screen.kindOf(c.day), c.kind) << c.day;
+        EXPECT_EQ(screen.standingText(c.day), c.said) << c.day;
+        EXPECT_EQ(screen.doubtAt(c.day), c.doubt) << c.day;
+    }
+    // From 04/03 to 20/03 there are two Sundays; the 5th is worked short, the 20th too.
+    const HourTotals& month = screen.hours().totals(std::nullopt);
+    EXPECT_EQ(month[HourCategory::WeeklyRest], 16h);
+    EXPECT_EQ(month[HourCategory::NormalDay], 8h);
+    const auto explained = screen.hours().explanation(HourCategory::Missing, HalfMonth::First);
+    EXPECT_EQ(explained.at(2).day, "06/qua/mar");
+    EXPECT_EQ(explained.at(2).rule, "afastamento: FÉRIAS, 05/03/2024 a 06/03/2024");
+    EXPECT_EQ(explained.at(3).rule, "afastamento: nenhum registrado neste dia");
+}
+
 TEST_F(CardScreen, ApplicationGivesLeavesSituationAndVariedMinutes) {
     desk.file(kLeaves) = leaveBytes(kVacation);
     openOn(0);

@@ -66,21 +66,22 @@ TEST(PunchApplication, TheFirstReasonInTheListDecides) {
     for (const char* holiday : {"07/02/2026", "15/02/2026", "17/02/2026"})
         settings.setHoliday(*parseDate(holiday), true);
     const LeaveCalendar leaves(
-        leaveBytes({vacation("20/01/2026", "04/02/2026"), vacation("14/02/2026", "15/02/2026")}),
+        leaveBytes({vacation("20/01/2026", "04/02/2026"), vacation("14/02/2026", "15/02/2026")},
+                   "26/02/2026"),
         parseDate("03/02/2026"));
-    const auto lines = filledMonth(
-        {.schedule = usualSchedule(), .leaves = leaves, .restDay = std::chrono::Tuesday}, settings);
+    const auto lines = filledMonth({.schedule = usualSchedule(), .leaves = leaves}, settings);
     struct Case {
         std::size_t day;
         const char* text;
     };
-    for (const Case& c : {Case{1, "- - "},  // Sunday in a leave, before admission
-                          Case{3, "- - AFASTAMENTO"}, Case{4, "- - AFASTAMENTO"},
-                          Case{5, "08:00-12:00 13:00-17:00 "}, Case{7, "- - FERIADO"},   // Saturday
-                          Case{8, "- - DESCANSO SEMANAL"}, Case{14, "- - AFASTAMENTO"},  // Saturday
-                          Case{15, "- - AFASTAMENTO"},  // holiday on a Sunday
-                          Case{17, "- - FERIADO"}, Case{24, "- - DESCANSO SEMANAL"},
-                          Case{21, "07:00-11:00 - "}, Case{28, "07:00-11:00 - "}})
+    for (const Case& c :
+         {Case{1, "- - "},  // Sunday in a leave, before admission
+          Case{3, "- - AFASTAMENTO"}, Case{4, "- - AFASTAMENTO"},
+          Case{5, "08:00-12:00 13:00-17:00 "}, Case{7, "- - FERIADO"},   // Saturday
+          Case{8, "- - DESCANSO SEMANAL"}, Case{14, "- - AFASTAMENTO"},  // Saturday
+          Case{15, "- - AFASTAMENTO"},                                   // holiday on a Sunday
+          Case{17, "- - FERIADO"}, Case{24, "08:00-12:00 13:00-17:00 "}, Case{21, "07:00-11:00 - "},
+          Case{26, "08:00-12:00 13:00-17:00 "}, Case{27, "- - "}})  // the contract is over
         EXPECT_EQ(dayText(lines[c.day - 1]), c.text) << c.day;
 }
 

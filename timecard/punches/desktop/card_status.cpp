@@ -25,18 +25,19 @@ QString stateOf(const CartaoPontoDados& card) {
 }
 
 /// Of the day typed last, which the cursor has left.
-QString doubtLeftBehind(const CardSheet& sheet) {
-    const auto day = sheet.lastEditedDay();
-    const std::string doubt = day ? sheet.doubtAt(*day) : std::string();
-    return doubt.empty() ? QString() : toQt("⚠ " + sheet.line(*day).label + ": " + doubt);
+QString doubtLeftBehind(const CartaoPontoDados& card) {
+    const auto day = card.sheet().lastEditedDay();
+    const std::string doubt = day ? card.doubtAt(*day) : std::string();
+    return doubt.empty() ? QString() : toQt("⚠ " + card.sheet().line(*day).label + ": " + doubt);
 }
 
-QString wayFrom(const CartaoPontoDados& card, const PunchGrid& grid, bool inEmployees) {
+QString wayFrom(const CartaoPontoDados& card, const PunchGrid& grid, bool inGrid,
+                bool inEmployees) {
     if (card.closed()) return {};
     if (card.sheet().changed() && countsOnlyExtra(card))
         return QStringLiteral("Sem horário padrão, as horas digitadas contam como extras");
     if (inEmployees) return card.applied() ? kWayIn : kWayIn + kWayToApply;
-    if (grid.isAncestorOf(QApplication::focusWidget()) || grid.hasFocus())
+    if (inGrid)
         return kWayOn.arg(grid.nextCellKey() == Qt::Key_Tab ? QStringLiteral("TAB")
                                                             : QStringLiteral("ENTER"));
     return {};
@@ -51,9 +52,12 @@ QString cardStatus(const CartaoPontoDados& card, const PunchGrid& grid, bool inE
     if (notice.isEmpty()) notice = model.doubtAt(at);
     if (!notice.isEmpty()) return QStringLiteral("⚠ ") + notice;
     if (!card.sheet().note().empty()) return toQt(card.sheet().note());
-    if (const QString doubt = doubtLeftBehind(card.sheet()); !doubt.isEmpty()) return doubt;
+    if (const QString doubt = doubtLeftBehind(card); !doubt.isEmpty()) return doubt;
+    const bool inGrid = grid.hasFocus() || grid.isAncestorOf(QApplication::focusWidget());
+    if (const QString standing = model.standingAt(at); inGrid && !standing.isEmpty())
+        return standing;
     const QString state = stateOf(card);
-    const QString way = wayFrom(card, grid, inEmployees);
+    const QString way = wayFrom(card, grid, inGrid, inEmployees);
     return state.isEmpty() || way.isEmpty() ? state : state + QStringLiteral("  ·  ") + way;
 }
 

@@ -24,6 +24,7 @@ constexpr std::array<const char*, PunchModel::Columns> kHeadings = {
 std::optional<look::Tint> tintOf(DayKind kind) {
     switch (kind) {
         case DayKind::Work:
+        case DayKind::OutsideContract:
             return std::nullopt;
         case DayKind::Holiday:
             return look::Tint::Holiday;
@@ -121,7 +122,11 @@ QString PunchModel::noticeAt(const QModelIndex& index) const {
 }
 
 QString PunchModel::doubtAt(const QModelIndex& index) const {
-    return index.isValid() ? toQt(command_.sheet().doubtAt(dayOf(index))) : QString();
+    return index.isValid() ? toQt(command_.doubtAt(dayOf(index))) : QString();
+}
+
+QString PunchModel::standingAt(const QModelIndex& index) const {
+    return index.isValid() ? toQt(command_.standingText(dayOf(index))) : QString();
 }
 
 QString PunchModel::spokenNameOf(const QModelIndex& index) const {
@@ -142,7 +147,8 @@ QString PunchModel::editorNameOf(const QModelIndex& index) const {
 }
 
 QString PunchModel::toolTipOf(const QModelIndex& index) const {
-    const QString said = noticeAt(index).isEmpty() ? doubtAt(index) : noticeAt(index);
+    QString said = noticeAt(index).isEmpty() ? doubtAt(index) : noticeAt(index);
+    if (said.isEmpty()) said = standingAt(index);
     const QString text = textOf(index);
     const bool cut = shortText(text) != text;
     return tipOf(cut ? said + QLatin1Char('\n') + text : said);
@@ -153,8 +159,11 @@ QString PunchModel::shownText(const QModelIndex& index) const {
     if (index.column() == Day)
         return doubtAt(index).isEmpty() ? text : QString(QStringLiteral("⚠") + text);
     if (!noticeAt(index).isEmpty()) return QString(QStringLiteral("⚠ ") + text);
-    const bool unsaid = index.column() == Situation && text.isEmpty();
-    return unsaid ? calendarWord(command_.kindOf(dayOf(index))) : text;
+    if (index.column() != Situation) return text;
+    const DayKind kind = command_.kindOf(dayOf(index));
+    // Nothing is owed there, whatever rest the fill had marked.
+    if (kind == DayKind::OutsideContract && doubtAt(index).isEmpty()) return {};
+    return text.isEmpty() ? calendarWord(kind) : text;
 }
 
 QVariant PunchModel::foregroundOf(const QModelIndex& index) const {
@@ -187,7 +196,7 @@ QVariant PunchModel::data(const QModelIndex& index, int role) const {
         case Qt::AccessibleTextRole:
             return spokenNameOf(index);
         case Qt::AccessibleDescriptionRole:
-            return doubtAt(index);
+            return doubtAt(index).isEmpty() ? standingAt(index) : doubtAt(index);
         case Qt::FontRole:
             return index.column() == Situation ? look::font(look::TextSize::Hint)
                                                : look::fixedFont();

@@ -37,6 +37,8 @@ class PunchModel : public QAbstractTableModel {
     [[nodiscard]] QString noticeAt(const QModelIndex& index) const;
     /// Why the day's times are doubtful; empty when they are not.
     [[nodiscard]] QString doubtAt(const QModelIndex& index) const;
+    /// Which leave the day of the row is in, or why it lies outside the contract.
+    [[nodiscard]] QString standingAt(const QModelIndex& index) const;
 
     /// The cell that takes text in this column; nullopt for the day and its total.
     [[nodiscard]] static std::optional<PunchCell> cellOf(int column);
