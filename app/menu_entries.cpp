@@ -4,6 +4,7 @@
 #include "foundation/register/desktop/register_entries.h"
 #include "timecard/month/desktop/month_entry.h"
 #include "timecard/punches/desktop/time_card_entry.h"
+#include "timecard/rotation/rotation_records.h"
 
 namespace winvrx {
 
@@ -36,9 +37,10 @@ MenuEntries menuEntries(const Workplace& at, const CardPrintingDesk& desk, TextE
     const auto add = [&all](const MenuEntries& some) {
         all.insert(all.end(), some.begin(), some.end());
     };
-    add(registerEntries(at, editor));
+    const auto rotation = std::make_shared<RotationRecords>(at.store(), at.clock);
+    add(registerEntries(at, editor, rotation));
     add({monthEntry(at)});
-    add({timeCardEntry(at)});
+    add({timeCardEntry(at, rotation)});
     add(cardEntries(at, desk));
     add({planned("Cartão de Ponto", "rotation", "rotation", "Escalas")});
     add({planned("Cartão de Ponto", "mirror", "mirror", "Espelho")});

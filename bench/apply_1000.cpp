@@ -10,6 +10,7 @@
 #include "foundation/register/employee_register.h"
 #include "tests/support/employees.h"
 #include "timecard/punches/list_application.h"
+#include "timecard/rotation/rotation_records.h"
 
 #include <algorithm>
 #include <chrono>
@@ -71,6 +72,8 @@ void hire(const Store& store) {
 /// Ours and the floor in turn, so that both meet the same disk.
 bool measure(const char* name, const Store& store, Minutes minutes) {
     const RecordedAnswers records(store);
+    const FixedClock clock({Date{2024y / 3 / 15}, {}});
+    const RotationRecords rotation(store, clock);
     MonthSettings march;
     march.month = 2024y / 3;
     const ApplicationOrder order{
@@ -80,7 +83,7 @@ bool measure(const char* name, const Store& store, Minutes minutes) {
     std::vector<double> floor;
     for (int round = 0; round <= kRounds; ++round) {
         const double applied = milliseconds([&] {
-            ListApplication application(store, {records, records}, order);
+            ListApplication application(store, {rotation, records}, order);
             batch = application.fill(everyone(), {}).value();
             store.files.replaceAll(batch);
         });

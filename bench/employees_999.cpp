@@ -9,6 +9,7 @@
 #include "foundation/register/employee_import.h"
 #include "foundation/register/empregados.h"
 #include "tests/support/employees.h"
+#include "timecard/rotation/rotation_records.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -104,7 +105,8 @@ bool measureScreen(const Workplace& at) {
     NoEditor editor;
     XlsxSpreadsheet spreadsheet;
     const RecordedAnswers records(at.store());
-    Empregados screen(at, {editor, spreadsheet, records, records});
+    const RotationRecords rotation(at.store(), at.clock);
+    Empregados screen(at, {editor, spreadsheet, rotation, records});
     EmployeeImport import(at);
     const bool opened = report("open", milliseconds([&] {
                                    EmpregadosWindow window(screen, import);

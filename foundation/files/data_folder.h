@@ -94,12 +94,14 @@ inline constexpr std::string_view kGroupStem = "GRUPO-";
 inline constexpr std::string_view kTransferStem = "Transf";
 inline constexpr std::string_view kEmployeeListStem = "CartaPonto";
 
-/// Settings of one company, behind its code: card stock, how cards come out, trays and header.
+/// Settings of one company, behind its code: card stock, how cards come out, trays and header, and
+/// the work-time tables of the rotations.
 inline constexpr std::string_view kStockSettingName = "CartaoDePontoTipo";
 inline constexpr std::string_view kPrinterKindName = "ImpressoraTipo";
 inline constexpr std::string_view kFeedName = "Impresstec";
-inline constexpr std::array<std::string_view, 3> kCompanySettings = {kStockSettingName,
-                                                                     kPrinterKindName, kFeedName};
+inline constexpr std::string_view kWorkTableName = "er.rdx";
+inline constexpr std::array<std::string_view, 4> kCompanySettings = {
+    kStockSettingName, kPrinterKindName, kFeedName, kWorkTableName};
 
 /// Files of the run: both go when the program ends.
 inline constexpr std::string_view kStartMemoryName = "LocMen.lvc";

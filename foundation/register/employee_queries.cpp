@@ -13,21 +13,6 @@ constexpr std::size_t kCodeDigits = 3;
 
 }  // namespace
 
-bool RecordedAnswers::isMember(const EmployeeKey& key) const {
-    return members(key.company, namesIn(store_)).contains(key.employee);
-}
-
-std::set<EmployeeCode> RecordedAnswers::members(const CompanyCode& company,
-                                                const FolderNames& names) const {
-    std::set<EmployeeCode> members;
-    for (const std::string& name : beginningWith(names, company.text() + std::string(kGroupStem)))
-        for (const std::string& line :
-             splitLines(store_.files.read(store_.folder.file(name)).value_or(std::string())))
-            if (const auto code = EmployeeCode::parse(line.substr(0, kCodeDigits)))
-                members.insert(*code);
-    return members;
-}
-
 bool RecordedAnswers::hasClosedMonth(const EmployeeKey& key) const {
     const auto names = store_.files.names(store_.folder.path());
     return std::any_of(names.begin(), names.end(),

@@ -19,8 +19,9 @@ class RotationMembership {
     virtual ~RotationMembership() = default;
     /// Whether the employee stands in one of the company's rotation groups.
     [[nodiscard]] virtual bool isMember(const EmployeeKey& key) const = 0;
-    [[nodiscard]] virtual std::set<EmployeeCode> members(const CompanyCode& company,
-                                                         const FolderNames& names) const = 0;
+    /// Takes an employee who is deleted or leaves the company off its groups of every month. Who
+    /// calls holds the folder.
+    virtual void removeMember(const EmployeeKey& key) const = 0;
 };
 
 /// Asked of the payroll.
@@ -37,17 +38,12 @@ class PayrollLock {
                                                           const FolderNames& names) const = 0;
 };
 
-/// Answers them from the files that the subjects leave in the data folder: payroll files, and a
-/// group file whose name begins with company code and "GRUPO-", with the employee's code at the
-/// head of one of its lines.
-class RecordedAnswers final : public RotationMembership, public PayrollLock {
+/// Answers it from the payroll files in the data folder.
+class RecordedAnswers final : public PayrollLock {
   public:
     /// Both outlive this object; `folder` is the one in use when a question is asked.
     RecordedAnswers(const Store& store) : store_(store) {}
 
-    [[nodiscard]] bool isMember(const EmployeeKey& key) const override;
-    [[nodiscard]] std::set<EmployeeCode> members(const CompanyCode& company,
-                                                 const FolderNames& names) const override;
     [[nodiscard]] bool hasClosedMonth(const EmployeeKey& key) const override;
     [[nodiscard]] bool isClosed(const EmployeeKey& key, WorkMonth month) const override;
     [[nodiscard]] std::set<EmployeeCode> closedIn(const CompanyCode& company, WorkMonth month,

@@ -215,6 +215,7 @@ bool Empregados::transfer(std::size_t position, const CompanyCode& target) {
                 throw changedElsewhere("company " + target.text());
             EmployeeTransfer(at_.store(), *at_.session.company, target)
                 .move(now, position, at_.clock.now());
+            desk_.rotation.removeMember(keyOfLine(leaving));
         });
     });
 }
@@ -262,7 +263,9 @@ std::size_t Empregados::filesOf(const std::set<EmployeeCode>& codes) const {
 
 void Empregados::removeFilesOf(const Line& gone, const Lines& remaining) const {
     const auto code = gone.key();
-    if (code && !findLine(remaining, *code)) removeRecordsOfEmployee(at_.store(), keyOfLine(gone));
+    if (!code || findLine(remaining, *code)) return;
+    removeRecordsOfEmployee(at_.store(), keyOfLine(gone));
+    desk_.rotation.removeMember(keyOfLine(gone));
 }
 
 }  // namespace winvrx

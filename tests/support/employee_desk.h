@@ -47,9 +47,7 @@ struct TestLocks final : RotationMembership, PayrollLock {
     bool isMember(const EmployeeKey& key) const override {
         return inGroups.contains(key.employee.text());
     }
-    std::set<EmployeeCode> members(const CompanyCode&, const FolderNames&) const override {
-        return codesOf(inGroups);
-    }
+    void removeMember(const EmployeeKey&) const override {}
     std::set<EmployeeCode> closedIn(const CompanyCode&, WorkMonth,
                                     const FolderNames&) const override {
         return codesOf(closed);

@@ -83,17 +83,18 @@ bool CartaoPontoDados::saveTypedSchedule() {
 
 bool CartaoPontoDados::confirmApplication() {
     const CompanyCode& company = company_.value();
-    const bool rotates = selected()->scaleOr() != Scale::Normal;
+    const bool inGroup = selected()->scaleOr() != Scale::Normal &&
+                         desk_.rotation.monthsOf(company, settings_.month).contains(selectedCode());
     return winvrx::confirmApplication(
-        at_.person,
-        {.employee = *selected(),
-         .month = settings_.month,
-         .applied = applied_,
-         .edited = sheet_.changed(),
-         .inGroup = rotates && desk_.rotation.isMember({company, selectedCode()}),
-         .lacksSituation = leavesWorkBlank(schedule_.schedule()) && situationToApply_.empty(),
-         .onLeave = marks().onLeave,
-         .inactive = marks().isInactiveBefore(settings_.month)});
+        at_.person, {.employee = *selected(),
+                     .month = settings_.month,
+                     .applied = applied_,
+                     .edited = sheet_.changed(),
+                     .inGroup = inGroup,
+                     .lacksSituation = !inGroup && leavesWorkBlank(schedule_.schedule()) &&
+                                       situationToApply_.empty(),
+                     .onLeave = marks().onLeave,
+                     .inactive = marks().isInactiveBefore(settings_.month)});
 }
 
 bool CartaoPontoDados::applyPunches() {

@@ -30,6 +30,12 @@ void requireReadable(const StandardSchedule& schedule) {
                     "O horário de trabalho tem uma hora que não existe. Corrija-o primeiro.");
 }
 
+/// The weekday that the record names for the rest; nullopt where it names none.
+std::optional<std::chrono::weekday> ownRestDay(const Employee& employee) {
+    if (employee.restDay.empty()) return std::nullopt;
+    return weeklyRestOf(employee);
+}
+
 }  // namespace
 
 ListApplication::ListApplication(const Store& store, const PunchDesk& desk, ApplicationOrder order)
@@ -68,51 +74,67 @@ std::optional<ListApplication::Remark> ListApplication::hindrance(
     if (closed_.contains(code)) return Remark::Closed;
     if (const auto end = leaves.contractEnd(); end && *end < firstDay(month))
         return Remark::Inactive;
-    if (lacksGroup(employee, inGroups_.contains(code))) return Remark::NoGroup;
+    if (lacksGroup(employee, rotationOf(employee, code) != nullptr)) return Remark::NoGroup;
     if (const auto admission = requireAdmission(employee); admission && *admission > lastDay(month))
         return Remark::AdmittedLater;
     return std::nullopt;
 }
 
-StandardSchedule ListApplication::scheduleOf(const EmployeeCode& code) const {
-    if (order_.common) return *order_.common;
-    return loadSchedule(store_, {order_.company, code}).value_or(StandardSchedule());
+const RotationMonth* ListApplication::rotationOf(const Employee& employee,
+                                                 const EmployeeCode& code) const {
+    if (employee.scaleOr() == Scale::Normal) return nullptr;
+    if (!rotations_) rotations_ = desk_.rotation.monthsOf(order_.company, order_.settings.month);
+    const auto found = rotations_->find(code);
+    return found == rotations_->end() ? nullptr : &found->second;
 }
 
-void ListApplication::copySchedule(Batch& batch, const EmployeeCode& code) const {
+StandardSchedule ListApplication::scheduleOf(const EmployeeCode& code,
+                                             const RotationMonth* rotation) const {
+    if (order_.common && !rotation) return *order_.common;
+    auto schedule = loadSchedule(store_, {order_.company, code}).value_or(StandardSchedule());
+    if (rotation) {
+        schedule.weekday = rotation->weekday;
+        schedule.saturday = rotation->saturday;
+        schedule.saturdayIsNormal = true;
+        schedule.unread = {};
+    }
+    return schedule;
+}
+
+void ListApplication::putSchedule(Batch& batch, const EmployeeCode& code,
+                                  const StandardSchedule& schedule) const {
     const auto file = scheduleFile(store_.folder, {order_.company, code});
     auto lines = RecordFile(store_.files, file).lines();
     if (lines.empty()) lines.emplace_back();
-    lines.front() = encode(*order_.common, std::move(lines.front()));
+    lines.front() = encode(schedule, std::move(lines.front()));
     batch.push_back({file, joinedLines(lines)});
 }
 
 void ListApplication::fillOne(Batch& batch, const Employee& employee, const EmployeeCode& code,
                               const LeaveCalendar& leaves) {
-    const StandardSchedule schedule = scheduleOf(code);
+    const RotationMonth* rotation = rotationOf(employee, code);
+    const StandardSchedule schedule = scheduleOf(code, rotation);
     requireReadable(schedule);
     requireReadable(leaves);
     Application application{.schedule = schedule, .leaves = leaves, .situation = order_.situation};
+    if (rotation) application.rotation = RotationTerms{*rotation, ownRestDay(employee)};
     if (order_.minutes == Minutes::Varied)
         application.spread = [&](const DaySchedule& day, Date date) {
             return variation_.vary(day, {order_.company, code}, date);
         };
     std::string record = punchRecordBytes(filledMonth(application, order_.settings));
-    if (order_.common) copySchedule(batch, code);
+    if (order_.common || rotation) putSchedule(batch, code, schedule);
     punchFiles_.add(batch, {order_.company, code}, std::move(record));
     if (leavesWorkBlank(schedule)) remarks_[Remark::NoTimes].push_back(employee.name);
     if (leaves.touches(order_.settings.month)) remarks_[Remark::OnLeave].push_back(employee.name);
     filled_.insert(code);
 }
 
-void ListApplication::look(const std::map<EmployeeCode, Employee>& people) {
+void ListApplication::look() {
     const FolderNames names = namesIn(store_);
     closed_ = desk_.payroll.closedIn(order_.company, order_.settings.month, names);
     withLeaves_ = employeesWithLeaveFile(order_.company, names);
-    inGroups_.clear();
-    const auto rotates = [](const auto& one) { return one.second.scaleOr() != Scale::Normal; };
-    if (std::ranges::any_of(people, rotates))
-        inGroups_ = desk_.rotation.members(order_.company, names);
+    rotations_.reset();
 }
 
 LeaveCalendar ListApplication::leavesOf(const Employee& employee, const EmployeeCode& code) const {
@@ -147,7 +169,7 @@ std::optional<ListApplication::Batch> ListApplication::fill(const std::vector<Em
     std::map<EmployeeCode, Employee> people;
     for (EmployeeLine& line : EmployeeRegister(store_, order_.company).load())
         if (const auto code = line.key()) people.emplace(*code, std::move(line.record));
-    look(people);
+    look();
     Batch batch;
     std::set<EmployeeCode> seen;
     int done = 0;

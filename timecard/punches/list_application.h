@@ -6,6 +6,7 @@
 #include "timecard/punches/minute_variation.h"
 #include "timecard/punches/minutes_option.h"
 #include "timecard/punches/period_record.h"
+#include "timecard/punches/rotation_calendar.h"
 
 #include <functional>
 #include <map>
@@ -18,7 +19,7 @@ namespace winvrx {
 
 /// What the punches ask of other subjects; all outlive the commands.
 struct PunchDesk {
-    const RotationMembership& rotation;
+    const RotationCalendar& rotation;
     const PayrollLock& payroll;
 };
 
@@ -73,12 +74,17 @@ class ListApplication {
     [[nodiscard]] std::optional<Remark> hindrance(const Employee& employee,
                                                   const EmployeeCode& code,
                                                   const LeaveCalendar& leaves) const;
-    [[nodiscard]] StandardSchedule scheduleOf(const EmployeeCode& code) const;
-    void copySchedule(Batch& batch, const EmployeeCode& code) const;
+    [[nodiscard]] StandardSchedule scheduleOf(const EmployeeCode& code,
+                                              const RotationMonth* rotation) const;
+    void putSchedule(Batch& batch, const EmployeeCode& code,
+                     const StandardSchedule& schedule) const;
+    /// nullptr for who is on no rotation scale, or in no group.
+    [[nodiscard]] const RotationMonth* rotationOf(const Employee& employee,
+                                                  const EmployeeCode& code) const;
     /// Throws Fault, not FileFault, when his leave file cannot be read.
     [[nodiscard]] LeaveCalendar leavesOf(const Employee& employee, const EmployeeCode& code) const;
     /// Asks once what is asked of everyone.
-    void look(const std::map<EmployeeCode, Employee>& people);
+    void look();
     void take(Batch& batch, const Employee& employee, const EmployeeCode& code);
 
     Store store_;
@@ -87,7 +93,7 @@ class ListApplication {
     PunchFiles punchFiles_;
     MinuteVariation variation_;
     std::set<EmployeeCode> closed_;
-    std::set<EmployeeCode> inGroups_;
+    mutable std::optional<RotationMonths> rotations_;  ///< read when first asked for
     std::set<EmployeeCode> withLeaves_;
     std::map<Remark, std::vector<std::string>> remarks_;
     std::set<EmployeeCode> filled_;

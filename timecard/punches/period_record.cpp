@@ -84,4 +84,16 @@ void PunchFiles::add(std::vector<FileSystem::NewContent>& batch, const EmployeeK
     batch.push_back({store_.folder.file(punchFileName(key, month_)), std::move(record)});
 }
 
+void PunchFiles::remove(const EmployeeKey& key) const {
+    std::vector<FileSystem::NewContent> batch;
+    add(batch, key, {});
+    const auto punches = store_.folder.file(punchFileName(key, month_));
+    const auto period = store_.folder.file(closingFileName(key, month_));
+    std::erase_if(batch,
+                  [&](const auto& one) { return one.file == punches || one.file == period; });
+    if (!batch.empty()) store_.files.replaceAll(batch);
+    store_.files.remove(period);
+    store_.files.remove(punches);
+}
+
 }  // namespace winvrx

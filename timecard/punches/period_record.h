@@ -21,6 +21,10 @@ class PunchFiles {
     void add(std::vector<FileSystem::NewContent>& batch, const EmployeeKey& key,
              std::string record) const;
 
+    /// Deletes the month's punches of one employee: the record of the next period first loses them,
+    /// the punch record goes last, so that the command can be given again.
+    void remove(const EmployeeKey& key) const;
+
   private:
     Store store_;
     const PayrollLock& payroll_;

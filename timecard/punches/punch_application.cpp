@@ -15,6 +15,22 @@ void putTimes(PunchLine& line, const DaySchedule& day) {
     line.afternoonExit = textOf(day.afternoon.exit);
 }
 
+void putTimes(PunchLine& line, const DaySchedule& day, Date date, const Application& application) {
+    putTimes(line, application.spread ? application.spread(day, date) : day);
+}
+
+void fillRotation(PunchLine& line, Date date, const Application& application, bool holiday) {
+    const RotationTerms& rotation = *application.rotation;
+    const auto& day = rotation.month.days.at(static_cast<std::size_t>(dayNumber(date)) - 1);
+    if (day) {
+        putTimes(line, *day, date, application);
+        if (holiday) line.situation = kSituationHoliday;
+    } else {
+        const bool otherDay = rotation.restDay && weekdayOf(date) != *rotation.restDay;
+        line.situation = otherDay ? kSituationDayOff : kSituationWeeklyRest;
+    }
+}
+
 void fill(PunchLine& line, Date date, const Application& application,
           const MonthSettings& settings) {
     const Standing standing = application.leaves.standingOn(date);
@@ -25,12 +41,14 @@ void fill(PunchLine& line, Date date, const Application& application,
     const DaySchedule& day = saturday ? schedule.saturday : schedule.weekday;
     if (standing == Standing::OnLeave)
         line.situation = kSituationLeave;
+    else if (application.rotation)
+        fillRotation(line, date, application, settings.isHoliday(date));
     else if (settings.isHoliday(date))
         line.situation = kSituationHoliday;
     else if (weekday == std::chrono::Sunday)
         line.situation = kSituationWeeklyRest;
     else if (day != DaySchedule())
-        putTimes(line, application.spread ? application.spread(day, date) : day);
+        putTimes(line, day, date, application);
     else if (!saturday)
         line.situation = application.situation;
 }

@@ -38,6 +38,7 @@ inline constexpr std::string_view kSituationUnjustified = "Falta Injustificada";
 inline constexpr std::string_view kSituationUnjustifiedShort = "Falta Inj.";  ///< on the cards
 inline constexpr std::string_view kSituationHoliday = "FERIADO";
 inline constexpr std::string_view kSituationWeeklyRest = "DESCANSO SEMANAL";
+inline constexpr std::string_view kSituationDayOff = "FOLGA";  ///< of a rotation
 inline constexpr std::string_view kSituationLeave = "AFASTAMENTO";
 
 /// In the order in which the grid offers them.

@@ -46,7 +46,9 @@ MenuEntry companies(const Workplace& at) {
             .state = [at](const MonthProgress*) { return companiesState(at); }};
 }
 
-MenuEntry employees(const Workplace& at, TextEditor& editor) {
+using Rotation = std::shared_ptr<const RotationMembership>;
+
+MenuEntry employees(const Workplace& at, TextEditor& editor, const Rotation& rotation) {
     return {.group = kGroup,
             .objectName = QStringLiteral("menu.employees.open"),
             .icon = QStringLiteral("employees"),
@@ -54,10 +56,10 @@ MenuEntry employees(const Workplace& at, TextEditor& editor) {
             .key = Qt::Key_F3,
             .needs = MenuNeeds::Company,
             .open =
-                [at, &editor](QWidget* parent) {
+                [at, &editor, rotation](QWidget* parent) {
                     XlsxSpreadsheet spreadsheet;
                     const RecordedAnswers records(at.store());
-                    Empregados employees(at, {editor, spreadsheet, records, records});
+                    Empregados employees(at, {editor, spreadsheet, *rotation, records});
                     EmployeeImport import(at);
                     EmpregadosWindow(employees, import, parent).exec();
                 },
@@ -65,7 +67,7 @@ MenuEntry employees(const Workplace& at, TextEditor& editor) {
             .step = MonthStep::RegisterEmployees};
 }
 
-MenuEntry shifts(const Workplace& at) {
+MenuEntry shifts(const Workplace& at, const Rotation& rotation) {
     return {.group = kGroup,
             .objectName = QStringLiteral("menu.shifts.open"),
             .icon = QStringLiteral("shifts"),
@@ -73,9 +75,9 @@ MenuEntry shifts(const Workplace& at) {
             .key = Qt::Key_F9,
             .needs = MenuNeeds::Employees,
             .open =
-                [at](QWidget* parent) {
+                [at, rotation](QWidget* parent) {
                     const RecordedAnswers records(at.store());
-                    Turnos shifts(at, records, records);
+                    Turnos shifts(at, *rotation, records);
                     TurnosWindow(shifts, parent).exec();
                 },
             .state =
@@ -86,8 +88,9 @@ MenuEntry shifts(const Workplace& at) {
 
 }  // namespace
 
-MenuEntries registerEntries(const Workplace& at, TextEditor& editor) {
-    return {companies(at), employees(at, editor), shifts(at)};
+MenuEntries registerEntries(const Workplace& at, TextEditor& editor,
+                            std::shared_ptr<const RotationMembership> rotation) {
+    return {companies(at), employees(at, editor, rotation), shifts(at, rotation)};
 }
 
 }  // namespace winvrx

@@ -18,19 +18,14 @@ TEST(RecordedAnswers, AnswerFromTheFilesOfTheCompany) {
     const RecordedAnswers locks({files, kFolder});
     for (const char* name : {"02fp0000103-2024.bdx", "01001-03-2024.bdx", "01fp0000203-2024.bdx"})
         files.content[kFolder.file(name)] = "";
-    files.content["/data/02GRUPO-001032024.er"] = "001 ANA\r\n";
-    files.content["/data/01GRUPO-001032024.er"] = "GRUPO-001\r\n002 BIA\r\n";
     EXPECT_FALSE(locks.hasClosedMonth({kCompany, kAna}));
     EXPECT_TRUE(locks.hasClosedMonth({kCompany, kBia}));
     EXPECT_TRUE(locks.isClosed({kCompany, kBia}, *parseMonthKey("03-2024")));
     EXPECT_FALSE(locks.isClosed({kCompany, kBia}, *parseMonthKey("04-2024")));
     EXPECT_FALSE(locks.isClosed({kCompany, kAna}, *parseMonthKey("03-2024")));
-    EXPECT_FALSE(locks.isMember({kCompany, kAna}));
-    EXPECT_TRUE(locks.isMember({kCompany, kBia}));
     files.content["/data/01configAf002"] = files.content["/data/01configAfx"] = "";
     const FolderNames names = namesIn({files, kFolder});
     const std::set<EmployeeCode> bia{kBia};
-    EXPECT_EQ(locks.members(kCompany, names), bia);
     EXPECT_EQ(locks.closedIn(kCompany, *parseMonthKey("03-2024"), names), bia);
     EXPECT_TRUE(locks.closedIn(kCompany, *parseMonthKey("04-2024"), names).empty());
     EXPECT_EQ(employeesWithLeaveFile(kCompany, names), bia);

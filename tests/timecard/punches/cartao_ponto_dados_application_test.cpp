@@ -120,15 +120,16 @@ TEST_F(CardScreen, ApplicationChecksInOrder) {
              {"impossible date", {.admission = "31/02/2024"}, {}, {kFailed}, false},
              {"all of it, to the end",
               troubled,
-              {kOk, kOk, kOk, kYes},
-              {kAlready, kReplace, kSituation, kLeave, kConfirmed},
+              {kOk, kOk, kYes},
+              {kAlready, kReplace, kLeave, kConfirmed},
               true}}) {
         Employee ana = employee("001", "ANA", "Unico", c.ana.scale);
         ana.admission = c.ana.admission;
         hire({ana});
         asked.locks = {};
         if (c.ana.closed) asked.locks.closed = {"001"};
-        if (c.ana.inGroup) asked.locks.inGroups = {"001"};
+        asked.rotations.months.clear();
+        if (c.ana.inGroup) asked.rotations.months[*EmployeeCode::parse("001")].days.resize(31);
         desk.file(kLeaves) =
             leaveBytes(c.ana.onLeave ? kVacation : std::vector<Leave>(), c.ana.inactiveSince);
         desk.files.content.erase("/data/" + kPunches);

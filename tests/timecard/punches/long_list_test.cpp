@@ -1,4 +1,5 @@
 #include "tests/support/card_screen.h"
+#include "timecard/rotation/rotation_records.h"
 
 namespace winvrx {
 namespace {
@@ -8,19 +9,23 @@ using namespace testing;
 /// 999 employees of a rotation scale, of whom one is inactive and one has a closed month.
 struct LongList : CardScreen {
     const RecordedAnswers records{desk.store()};
-    CartaoPontoDados office{desk.at, {records, records}};
+    const RotationRecords rotation{desk.store(), desk.clock};
+    CartaoPontoDados office{desk.at, {rotation, records}};
 
     void SetUp() override {
         CardScreen::SetUp();
         std::vector<Employee> people;
-        std::string group;
+        GroupLines groups;
         for (int number = 1; number <= EmployeeCode::kHighest; ++number) {
             const std::string code = EmployeeCode::fromNumber(number)->text();
             people.push_back(employee(code.c_str(), "N", "Unico", "5x1"));
-            group += code + " N\r\n";
+            RotationGroup group{.number = number, .firstDayOff = parseDate("01/03/2024")};
+            group.places = {EmployeeCode::parse(code)};
+            groups.push_back(lineOf(recordOf(group)));
         }
         hire(people);
-        desk.file("01GRUPO-001032024.er") = group;
+        groupFile(desk.store(), *CompanyCode::parse("01"), *parseMonthKey("03-2024")).save(groups);
+        desk.files.reads = 0;
         desk.file("01configAf005") = "**** 10/02/2024\r\n";
         desk.file("01fp0000703-2024.bdx") = "";
     }

@@ -9,9 +9,9 @@ namespace winvrx {
 
 namespace {
 
-void openTimeCard(const Workplace& at, QWidget* parent) {
+void openTimeCard(const Workplace& at, const RotationCalendar& rotation, QWidget* parent) {
     const RecordedAnswers records(at.store());
-    CartaoPontoDados card(at, {records, records});
+    CartaoPontoDados card(at, {rotation, records});
     (void)card.open();
     CartaoPontoDadosWindow window(card, parent);
     QObject::connect(&window, &CartaoPontoDadosWindow::monthSettingsRequested, &window, [&] {
@@ -24,14 +24,14 @@ void openTimeCard(const Workplace& at, QWidget* parent) {
 
 }  // namespace
 
-MenuEntry timeCardEntry(const Workplace& at) {
+MenuEntry timeCardEntry(const Workplace& at, std::shared_ptr<const RotationCalendar> rotation) {
     return {.group = QStringLiteral("Cartão de Ponto"),
             .objectName = QStringLiteral("menu.timecard.open"),
             .icon = QStringLiteral("card"),
             .title = QStringLiteral("&Dados"),
             .key = Qt::Key_F5,
             .needs = MenuNeeds::Employees,
-            .open = [at](QWidget* parent) { openTimeCard(at, parent); },
+            .open = [at, rotation](QWidget* parent) { openTimeCard(at, *rotation, parent); },
             .state =
                 [](const MonthProgress* progress) {
                     return progress && progress->month ? QStringLiteral("%1 de %2 preenchidos")

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "foundation/values/codes.h"
+#include "foundation/values/date.h"
+#include "timecard/schedule/standard_schedule.h"
+
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace winvrx {
+
+/// An employee's month as a rotation has it.
+struct RotationMonth {
+    /// One for each day: the times of a working day, nullopt for a day off.
+    std::vector<std::optional<DaySchedule>> days;
+    DaySchedule weekday;  ///< what his hours are compared with, Monday to Friday
+    DaySchedule saturday;
+};
+
+using RotationMonths = std::map<EmployeeCode, RotationMonth>;
+
+/// Asked of the rotation schedules by the application of punches.
+class RotationCalendar {
+  public:
+    virtual ~RotationCalendar() = default;
+    /// The months of all who are in a group of that month. Throws Fault when their hours cannot be
+    /// read.
+    [[nodiscard]] virtual RotationMonths monthsOf(const CompanyCode& company,
+                                                  WorkMonth month) const = 0;
+};
+
+}  // namespace winvrx

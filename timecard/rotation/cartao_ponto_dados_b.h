@@ -1,0 +1,166 @@
+#pragma once
+
+#include "foundation/desk/command.h"
+#include "foundation/register/employee_list.h"
+#include "foundation/register/leave_calendar.h"
+#include "timecard/month/month_settings.h"
+#include "timecard/rotation/group_draft.h"
+#include "timecard/rotation/group_work.h"
+#include "timecard/rotation/rotation_view.h"
+#include "timecard/rotation/work_table.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace winvrx {
+
+class ReportEngine;
+class TextEditor;
+
+/// What the rotations ask of other subjects; all outlive the commands.
+struct RotationDesk {
+    const PayrollLock& payroll;
+    TextEditor& editor;
+    ReportEngine& engine;
+};
+
+/// The screen "Quadro de Horário de  Trabalho": the work-time table of each shift and scale, and
+/// the groups of the rotations in the work month.
+///
+/// Holds the table shown and one group as it is being edited; both are seen before anything is
+/// recorded. A refusal or a failure leaves every record as it was, and the typed stays.
+class CartaoPontoDadosB {
+  public:
+    CartaoPontoDadosB(const Workplace& at, const RotationDesk& desk);
+
+    /// Loads month, employees, table and groups. False when no company or no month is chosen.
+    [[nodiscard]] bool open();
+    [[nodiscard]] const std::optional<CompanyCode>& company() const { return company_; }
+    [[nodiscard]] const std::string& companyName() const { return companyName_; }
+    [[nodiscard]] const MonthSettings& settings() const { return settings_; }
+
+    /// Shift and scale say whose table and which groups and employees are shown. False when the
+    /// operator stays with unrecorded changes, or the scale bars the shift.
+    [[nodiscard]] bool filterBy(ShiftFilter shift);
+    [[nodiscard]] bool filterBy(Scale scale);
+    [[nodiscard]] ShiftFilter shift() const { return list_.shift(); }
+    [[nodiscard]] Scale scale() const { return table_.scale; }
+
+    /// Of all shifts ("TODOS") the table of the first that the scale allows is shown.
+    [[nodiscard]] const WorkTable& table() const { return table_; }
+    void typeTime(std::size_t row, std::size_t cell, std::string_view text);
+    /// Why the table cannot be recorded; empty when it can.
+    [[nodiscard]] std::string tableFinding() const { return findingIn(table_).value_or(""); }
+    [[nodiscard]] std::string weeklyCaption() const;  ///< "44,0 HORAS SEMANAIS"
+    [[nodiscard]] bool tableChanged() const { return table_ != recordedTable_; }
+    void restoreTable();  ///< "Restaurar Padrão"
+    /// "Gravar Horário de Trabalho".
+    [[nodiscard]] bool saveTable();
+
+    /// Those of shift and scale.
+    [[nodiscard]] EmployeeList& list() { return list_; }
+    [[nodiscard]] const EmployeeList& list() const { return list_; }
+    /// "GRUPO-001", or "S/GRUPO! …" for who is on a rotation scale without a group.
+    [[nodiscard]] std::string captionOf(std::size_t position) const;
+    /// Selects the group of the employee at `position`; told when he is in none.
+    [[nodiscard]] bool selectGroupOf(std::size_t position);
+
+    /// Those of shift and scale, in the order of their numbers, as they are shown: without those
+    /// who may not stay in them. With the scale "Normal" of both rotation scales.
+    [[nodiscard]] std::vector<RotationGroup> shownGroups() const;
+    /// "GRUPO-001  5 x 1  Um  3 funcionários".
+    [[nodiscard]] static std::string titleOf(const RotationGroup& group);
+    /// What is said of the month's groups: who had to leave one, and lines that nobody understands.
+    [[nodiscard]] const std::vector<std::string>& notes() const { return notes_; }
+
+    /// The month that the groups could go on from; nullopt when this one has groups, or none before
+    /// it has.
+    [[nodiscard]] std::optional<WorkMonth> continuableFrom() const { return continuableFrom_; }
+    /// Asks, and records this month's groups with the rhythm of that month.
+    [[nodiscard]] bool continueGroups();
+
+    /// The group being edited; nullopt when none is selected.
+    [[nodiscard]] const std::optional<RotationGroup>& group() const { return draft_; }
+    [[nodiscard]] bool groupChanged() const;
+    [[nodiscard]] bool changed() const { return tableChanged() || groupChanged(); }
+    /// False when the operator stays with unrecorded changes.
+    [[nodiscard]] bool selectGroup(int number);
+    /// "Criar Novo Grupo", of the shift and scale shown.
+    [[nodiscard]] bool newGroup();
+    /// "Adicionar =>" and "Adicionar Funcionários Folguista", by positions in the list.
+    [[nodiscard]] bool add(const std::vector<std::size_t>& positions);
+    [[nodiscard]] bool addReliefWorker(std::size_t position);
+    /// "<= Remover": a place of the list, or a relief worker.
+    void removePlace(std::size_t place);
+    void removeReliefWorker(std::size_t which);
+    /// "Mover p/ Cima", "Mover p/ Baixo" and dragging. False when there is no such place.
+    [[nodiscard]] bool move(std::size_t from, std::size_t to);
+    /// "Primeira folga da Lista no  mês dia:"; a day that the month lacks is no date.
+    void setFirstDayOff(int day);
+    void setReliefDayOff(std::size_t which, int day);
+    /// The days of the month on which relief worker `which` may be off first.
+    [[nodiscard]] std::vector<Date> daysForRelief(std::size_t which) const;
+
+    /// The month of the group being edited; empty when none is.
+    [[nodiscard]] RotationView view() const;
+    /// Punches of the month stand for one of its members.
+    [[nodiscard]] bool applied() const;
+
+    /// "Gravar Grupo". Where its punches were applied it asks, and applies them again.
+    [[nodiscard]] bool saveGroup();
+    /// "EXCLUIR GRUPO" and, for those shown, "EXCLUIR GRUPOS"; applied punches go along.
+    [[nodiscard]] bool removeGroup();
+    [[nodiscard]] bool removeGroups();
+    /// Deletes the month's punches of the group's members.
+    [[nodiscard]] bool removePunches();
+
+    /// Asks before typed but unrecorded changes are left behind.
+    [[nodiscard]] bool confirmLeaving();
+
+  private:
+    void load(const CompanyCode& company, const MonthSettings& settings);
+    void loadGroups(const FolderNames& names);
+    void loadTable(ShiftFilter shift, Scale scale);
+    [[nodiscard]] bool narrow(ShiftFilter shift, Scale scale);
+    [[nodiscard]] RotationGroup withoutStrays(RotationGroup group);
+    [[nodiscard]] std::string strayReason(const EmployeeCode& code,
+                                          const RotationGroup& group) const;
+    /// Of the month, the one being edited as it is.
+    [[nodiscard]] std::vector<RotationGroup> groups() const;
+    [[nodiscard]] std::vector<RotationGroup> otherGroups() const;
+    [[nodiscard]] const RotationGroup* recordedGroup(int number) const;
+    [[nodiscard]] Absence absence() const;
+    [[nodiscard]] MemberNames names() const;
+    [[nodiscard]] bool requireGroup();
+    [[nodiscard]] bool tellRefusal(const Refusal& refusal);
+    [[nodiscard]] GroupWork work() const;
+    [[nodiscard]] bool requireOpenMonths(const std::vector<EmployeeCode>& employees);
+    [[nodiscard]] bool addMembers(const std::function<Refusal(RotationGroup&)>& adding);
+    [[nodiscard]] bool confirmRecording(const std::vector<EmployeeCode>& reapplied);
+    void record(const std::vector<EmployeeCode>& reapplied);
+    /// The lines on disk. Throws Fault when those of these groups are not as shown.
+    [[nodiscard]] GroupLines linesAsShown(const std::vector<RotationGroup>& groups) const;
+    [[nodiscard]] bool remove(const std::vector<RotationGroup>& groups, const std::string& title,
+                              bool groupsToo);
+
+    Workplace at_;
+    RotationDesk desk_;
+    std::optional<CompanyCode> company_;
+    std::string companyName_;
+    MonthSettings settings_;
+    EmployeeList list_;
+    std::map<EmployeeCode, Employee> people_;
+    std::map<EmployeeCode, LeaveCalendar> leaves_;
+    WorkTable table_;
+    WorkTable recordedTable_;
+    GroupLines lines_;  ///< as they were read
+    std::vector<RotationGroup> groups_;
+    std::vector<RotationGroup> before_;  ///< of the month before
+    std::vector<std::string> notes_;
+    std::optional<WorkMonth> continuableFrom_;
+    std::optional<RotationGroup> draft_;
+};
+
+}  // namespace winvrx

@@ -1,0 +1,175 @@
+// The group being edited, before it is recorded.
+#include "timecard/rotation/cartao_ponto_dados_b.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+const std::string kTitle = "Escala de Revezamento";
+
+const Message kNoGroup = refusal(kTitle, "Selecione um GRUPO na lista!");
+const Message kNeedsShift = refusal("CRIAR NOVO GRUPO", "Mude para um Turno Específico.");
+const Message kNeedsRotation =
+    refusal("CRIAR NOVO GRUPO", "Escolha a escala do grupo: 5 x 1 ou 12 x 36.");
+const Message kNoNumberLeft = refusal("CRIAR NOVO GRUPO", "O mês já tem 999 grupos.");
+
+std::string_view scaleTitle(Scale scale) {
+    return scale == Scale::TwelveByThirtySix ? "12 x 36" : "5 x 1";
+}
+
+std::optional<Date> dayIn(WorkMonth month, int day) {
+    if (day < 1 || day > daysIn(month)) return std::nullopt;
+    return plusDays(firstDay(month), day - 1);
+}
+
+}  // namespace
+
+std::string CartaoPontoDadosB::titleOf(const RotationGroup& group) {
+    const std::size_t count = group.members().size();
+    return groupName(group.number)
+        .append("  ")
+        .append(scaleTitle(group.scale))
+        .append("  ")
+        .append(codeOf(group.shift))
+        .append("  ")
+        .append(std::to_string(count))
+        .append(count == 1 ? " funcionário" : " funcionários");
+}
+
+const RotationGroup* CartaoPontoDadosB::recordedGroup(int number) const {
+    const auto group = std::ranges::find(groups_, number, &RotationGroup::number);
+    return group == groups_.end() ? nullptr : &*group;
+}
+
+std::vector<RotationGroup> CartaoPontoDadosB::otherGroups() const {
+    std::vector<RotationGroup> others = groups_;
+    std::erase_if(others, [this](const RotationGroup& group) {
+        return draft_ && group.number == draft_->number;
+    });
+    return others;
+}
+
+std::vector<RotationGroup> CartaoPontoDadosB::groups() const {
+    std::vector<RotationGroup> all = otherGroups();
+    if (draft_) all.push_back(*draft_);
+    std::ranges::sort(all, {}, &RotationGroup::number);
+    return all;
+}
+
+std::vector<RotationGroup> CartaoPontoDadosB::shownGroups() const {
+    std::vector<RotationGroup> shown = groups();
+    std::erase_if(shown, [this](const RotationGroup& group) {
+        return !passes(list_.shift(), group.shift) ||
+               (scale() != Scale::Normal && group.scale != scale());
+    });
+    return shown;
+}
+
+bool CartaoPontoDadosB::groupChanged() const {
+    if (!draft_) return false;
+    for (const RotationGroup& group : groupsIn(lines_))
+        if (group.number == draft_->number) return group != *draft_;
+    return true;
+}
+
+bool CartaoPontoDadosB::selectGroup(int number) {
+    if (draft_ && draft_->number == number) return true;
+    const RotationGroup* group = recordedGroup(number);
+    if (!group || (groupChanged() && !at_.person.agrees(discardTyped()))) return false;
+    draft_ = *group;
+    return true;
+}
+
+bool CartaoPontoDadosB::newGroup() {
+    const auto shift = parseShift(codeOf(list_.shift()));
+    if (!shift || scale() == Scale::Normal) {
+        at_.person.tell(scale() == Scale::Normal ? kNeedsRotation : kNeedsShift);
+        return false;
+    }
+    if (groupChanged() && !at_.person.agrees(discardTyped())) return false;
+    int number = 1;
+    while (recordedGroup(number))
+        ++number;
+    if (number > kHighestGroup) {
+        at_.person.tell(kNoNumberLeft);
+        return false;
+    }
+    draft_ = RotationGroup{.number = number,
+                           .shift = *shift,
+                           .scale = scale(),
+                           .firstDayOff = firstDay(settings_.month)};
+    return true;
+}
+
+bool CartaoPontoDadosB::requireGroup() {
+    if (!draft_) at_.person.tell(kNoGroup);
+    return draft_.has_value();
+}
+
+bool CartaoPontoDadosB::tellRefusal(const Refusal& refusal) {
+    if (refusal) at_.person.tell(*refusal);
+    return refusal.has_value();
+}
+
+bool CartaoPontoDadosB::addMembers(const std::function<Refusal(RotationGroup&)>& adding) {
+    if (!requireGroup()) return false;
+    RotationGroup group = *draft_;
+    if (tellRefusal(adding(group))) return false;
+    for (const EmployeeCode& code : group.members())
+        if (const std::string reason = strayReason(code, group); !reason.empty()) {
+            at_.person.tell(refusal(kTitle, nameOf(names(), code) + " " + reason + "."));
+            return false;
+        }
+    draft_ = std::move(group);
+    return true;
+}
+
+bool CartaoPontoDadosB::add(const std::vector<std::size_t>& positions) {
+    if (positions.empty()) {
+        at_.person.tell(noEmployeeSelected());
+        return false;
+    }
+    std::vector<Employee> employees;
+    for (const std::size_t position : positions)
+        employees.push_back(list_.employees().at(position));
+    return addMembers(
+        [&](RotationGroup& group) { return addToList(group, employees, otherGroups()); });
+}
+
+bool CartaoPontoDadosB::addReliefWorker(std::size_t position) {
+    const Employee& employee = list_.employees().at(position);
+    return addMembers([&](RotationGroup& group) {
+        return addRelief(group, employee, otherGroups(), settings_.month);
+    });
+}
+
+void CartaoPontoDadosB::removePlace(std::size_t place) {
+    if (draft_ && place < draft_->places.size() && draft_->places[place])
+        draft_->remove(EmployeeCode(*draft_->places[place]));
+}
+
+void CartaoPontoDadosB::removeReliefWorker(std::size_t which) {
+    if (draft_ && which < draft_->relief.size())
+        draft_->relief.erase(draft_->relief.begin() + static_cast<std::ptrdiff_t>(which));
+}
+
+bool CartaoPontoDadosB::move(std::size_t from, std::size_t to) {
+    return draft_ && movePlace(*draft_, from, to);
+}
+
+void CartaoPontoDadosB::setFirstDayOff(int day) {
+    if (draft_) draft_->firstDayOff = dayIn(settings_.month, day);
+}
+
+void CartaoPontoDadosB::setReliefDayOff(std::size_t which, int day) {
+    if (draft_ && which < draft_->relief.size())
+        draft_->relief[which].firstDayOff = dayIn(settings_.month, day);
+}
+
+std::vector<Date> CartaoPontoDadosB::daysForRelief(std::size_t which) const {
+    return draft_ ? freeForRelief(*draft_, which, settings_.month) : std::vector<Date>();
+}
+
+}  // namespace winvrx

@@ -1,0 +1,230 @@
+// Recording, continuing and deleting the month's groups.
+#include "timecard/rotation/cartao_ponto_dados_b.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace winvrx {
+
+namespace {
+
+const std::string kTitle = "Escala de Revezamento";
+const std::string kByHand =
+    "As alterações feitas à mão nestes cartões serão substituídas pelo ponto da escala: ";
+
+const Message kMoveStart = riskyQuestion(
+    "MOVER INICIO DA FOLGA",
+    "Já foi Aplicado PONTO para Esta ESCALA! Para MOVER O DIA DO INICIO DA FOLGA Você deverá "
+    "Aplicar Ponto Novamente. Se Deseja MOVER o DIA DO INICIO DA FOLGA Clique em 'OK' Senão não "
+    "deseja MOVER, Clique em 'CANCELAR'!",
+    {}, Buttons::OkCancel);
+const Message kChangeApplied = riskyQuestion(
+    "Aplicação Ponto",
+    "Já foi Aplicado PONTO para Esta ESCALA! Se Deseja Gravar o GRUPO e Aplicar Ponto Novamente "
+    "Clique em 'OK', Senão, Clique em 'CANCELAR'!",
+    {}, Buttons::OkCancel);
+const Message kRemoveGroup =
+    warning("EXCLUIR GRUPO", "Tem Certeza que Deseja EXCLUIR Todos os Itens deste GRUPO?");
+const Message kRemovesPunches = warning(
+    "EXCLUIR PONTO",
+    "Esta Operação irá Excluir o PONTO dos funcionários desta ESCALA! Para Desistir Clique em "
+    "'CANCELAR'!",
+    {}, Buttons::OkCancel);
+const Message kPayrollClosed = refusal(
+    kTitle,
+    "Não é Possível Realizar Esta Operação!! Já Existe Folha de Pagamento Fechada  para este "
+    "Funcionário!");
+const Message kNoGroups = refusal("EXCLUIR GRUPOS", "Não há GRUPOS na lista.");
+const Message kNoPunches =
+    refusal("EXCLUIR PONTO", "Nenhum funcionário do grupo tem ponto no mês.");
+
+std::string namesOf(const std::vector<EmployeeCode>& employees, const MemberNames& names) {
+    std::vector<std::string> texts;
+    for (const EmployeeCode& code : employees)
+        texts.push_back(nameOf(names, code));
+    return namesText(texts, kMostNames);
+}
+
+const GroupLine* lineOfGroup(const GroupLines& lines, int number) {
+    return findLine(lines, number);
+}
+
+std::string listOf(const std::vector<RotationGroup>& groups) {
+    std::vector<std::string> texts;
+    for (const RotationGroup& group : groups)
+        texts.push_back(groupName(group.number));
+    return namesText(texts, kMostNames);
+}
+
+}  // namespace
+
+GroupWork CartaoPontoDadosB::work() const {
+    return {at_, desk_.payroll, company_.value(), settings_};
+}
+
+bool CartaoPontoDadosB::requireOpenMonths(const std::vector<EmployeeCode>& employees) {
+    const auto closed = closedAmong(work(), employees);
+    if (closed.empty()) return true;
+    Message message = kPayrollClosed;
+    message.detail = namesOf(closed, names());
+    at_.person.tell(message);
+    return false;
+}
+
+bool CartaoPontoDadosB::applied() const {
+    return draft_ && !appliedAmong(work(), draft_->members()).empty();
+}
+
+GroupLines CartaoPontoDadosB::linesAsShown(const std::vector<RotationGroup>& groups) const {
+    GroupLines now = groupFile(at_.store(), *company_, settings_.month).load();
+    for (const RotationGroup& group : groups) {
+        const GroupLine* line = lineOfGroup(now, group.number);
+        const GroupLine* shown = lineOfGroup(lines_, group.number);
+        if ((line == nullptr) != (shown == nullptr) || (line && !(*line == *shown)))
+            throw changedElsewhere("rotation groups", "O grupo foi alterado");
+    }
+    return now;
+}
+
+bool CartaoPontoDadosB::confirmRecording(const std::vector<EmployeeCode>& reapplied) {
+    const GroupLine* line = lineOfGroup(lines_, draft_->number);
+    const auto recorded = line ? groupOf(line->record) : std::nullopt;
+    const bool moved = recorded && recorded->firstDayOff != draft_->firstDayOff;
+    Message asked = !reapplied.empty()
+                        ? (moved ? kMoveStart : kChangeApplied)
+                        : question(recorded ? "ALTERAÇÃO" : "INCLUSÃO",
+                                   "Confirma Gravar o " + groupName(draft_->number) + "?");
+    if (!reapplied.empty()) asked.detail = kByHand + namesOf(reapplied, names()) + ".";
+    const RotationView shown = view();
+    std::vector<std::string> told = shown.remarks;
+    if (!shown.gaps.empty()) told.insert(told.begin(), shown.gaps + ".");
+    for (const std::string& one : told)
+        asked.detail.append(asked.detail.empty() ? "" : "\n").append(one);
+    return at_.person.agrees(asked);
+}
+
+bool CartaoPontoDadosB::saveGroup() {
+    if (!requireGroup()) return false;
+    return attempt(at_, incorrectData(), [this] {
+        if (tellRefusal(recordingRefusal(*draft_, settings_.month))) return false;
+        const GroupLine* line = lineOfGroup(lines_, draft_->number);
+        const auto recorded = line ? groupOf(line->record) : std::nullopt;
+        auto changed = changedMembers(recorded ? &*recorded : nullptr, *draft_, settings_.month);
+        if (!requireOpenMonths(changed)) return false;
+        std::erase_if(changed, [this](const auto& code) { return !draft_->contains(code); });
+        const auto reapplied = appliedAmong(work(), changed);
+        if (!confirmRecording(reapplied)) return false;
+        const auto hold = holdFolder(at_);
+        if (appliedAmong(work(), changed) != reapplied || !closedAmong(work(), changed).empty())
+            throw changedElsewhere("cards of the group", "O ponto do grupo foi alterado");
+        record(reapplied);
+        return true;
+    });
+}
+
+void CartaoPontoDadosB::record(const std::vector<EmployeeCode>& reapplied) {
+    GroupLines lines = linesAsShown({*draft_});
+    for (const RotationGroup& other : groupsIn(lines))
+        for (const EmployeeCode& code : draft_->members())
+            if (other.number != draft_->number && other.contains(code) &&
+                strayReason(code, other).empty())
+                throw changedElsewhere("rotation groups", "Os grupos foram alterados");
+    auto line = std::ranges::find_if(
+        lines, [this](const GroupLine& one) { return one.key() == draft_->number; });
+    if (line == lines.end()) line = lines.emplace(lines.end());
+    *line = lineOf(recordOf(*draft_), std::move(line->bytes));
+    std::string remarks;
+    ListApplication::Batch batch;
+    if (!reapplied.empty()) batch = reappliedCards(work(), {*draft_}, reapplied, remarks);
+    batch.push_back(groupFile(at_.store(), *company_, settings_.month).contentOf(lines));
+    at_.files.replaceAll(batch);
+    loadGroups(namesIn(at_.store()));
+    if (!remarks.empty())
+        at_.person.tell(notice("Aplicação de Pontos", "O grupo foi gravado.", remarks));
+}
+
+bool CartaoPontoDadosB::continueGroups() {
+    if (!continuableFrom_) return false;
+    const WorkMonth from = *continuableFrom_;
+    const Message asked =
+        question("CONTINUAR GRUPOS", "Não há grupos em " + monthTitle(settings_.month) +
+                                         ". Deseja continuar os de " + monthTitle(from) +
+                                         ", com o mesmo ritmo de folgas?");
+    if (!at_.person.agrees(asked)) return false;
+    return attemptWriting(at_, incorrectData(), [&] {
+        const auto file = groupFile(at_.store(), *company_, settings_.month);
+        if (!file.load().empty()) throw changedElsewhere("rotation groups", "Já há grupos no mês");
+        std::vector<std::string> left;
+        GroupLines lines;
+        notes_.clear();
+        for (RotationGroup group : groupsIn(groupFile(at_.store(), *company_, from).load())) {
+            group = continued(withoutStrays(std::move(group)), settings_.month);
+            if (!group.members().empty()) lines.push_back(lineOf(recordOf(group)));
+        }
+        left.swap(notes_);
+        if (!lines.empty()) at_.files.replaceAll({file.contentOf(lines)});
+        loadGroups(namesIn(at_.store()));
+        std::ranges::move(left, std::back_inserter(notes_));
+    });
+}
+
+bool CartaoPontoDadosB::remove(const std::vector<RotationGroup>& groups, const std::string& title,
+                               bool groupsToo) {
+    return attempt(at_, incorrectData(), [&] {
+        std::vector<EmployeeCode> members;
+        for (const RotationGroup& group : groups)
+            std::ranges::move(group.members(), std::back_inserter(members));
+        const auto applied = appliedAmong(work(), members);
+        if (!requireOpenMonths(groupsToo ? members : applied)) return false;
+        Message asked = kRemoveGroup;
+        asked.title = title;
+        asked.detail = listOf(groups) + ".";
+        if (groupsToo && !at_.person.agrees(asked)) return false;
+        if (!groupsToo && applied.empty()) return !tellRefusal(kNoPunches);
+        Message punches = kRemovesPunches;
+        punches.detail = namesOf(applied, names()) + ".";
+        if (!applied.empty() && !at_.person.agrees(punches)) return false;
+        const auto hold = holdFolder(at_);
+        GroupLines lines = linesAsShown(groups);
+        if (!closedAmong(work(), members).empty())
+            throw changedElsewhere("payroll", "A folha foi fechada");
+        at_.keepStateBefore((groupsToo ? "excluir " : "excluir o ponto de ") + listOf(groups) +
+                            " da empresa " + company_->text() + " " + companyName_);
+        winvrx::removePunches(work(), applied);
+        if (groupsToo) {
+            std::erase_if(lines, [&](const GroupLine& line) {
+                return std::ranges::any_of(
+                    groups, [&](const RotationGroup& group) { return line.key() == group.number; });
+            });
+            at_.files.replaceAll(
+                {groupFile(at_.store(), *company_, settings_.month).contentOf(lines)});
+            draft_.reset();
+        }
+        loadGroups(namesIn(at_.store()));
+        return true;
+    });
+}
+
+bool CartaoPontoDadosB::removeGroup() {
+    if (!requireGroup()) return false;
+    const GroupLine* line = lineOfGroup(lines_, draft_->number);
+    if (line) return remove({groupOf(line->record).value()}, "EXCLUIR GRUPO", true);
+    if (!at_.person.agrees(kRemoveGroup)) return false;
+    draft_.reset();
+    return true;
+}
+
+bool CartaoPontoDadosB::removeGroups() {
+    std::vector<RotationGroup> groups;
+    for (const RotationGroup& shown : shownGroups())
+        if (const GroupLine* line = lineOfGroup(lines_, shown.number))
+            groups.push_back(groupOf(line->record).value());
+    if (groups.empty()) return !tellRefusal(kNoGroups);
+    return remove(groups, "EXCLUIR GRUPOS", true);
+}
+
+bool CartaoPontoDadosB::removePunches() {
+    return requireGroup() && remove({*draft_}, "EXCLUIR PONTO", false);
+}
+
+}  // namespace winvrx

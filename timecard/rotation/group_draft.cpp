@@ -1,0 +1,131 @@
+#include "timecard/rotation/group_draft.h"
+
+#include "timecard/rotation/rotation_checks.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+const std::string kTitle = "Escala de Revezamento";
+
+const Message kWrongShift =
+    refusal(kTitle,
+            "Turno do Grupo não Confere com Item Selecionado! Para INCLUIR Altere o Turno do "
+            "Funcionário Selecionado.");
+const Message kWrongScale =
+    refusal(kTitle,
+            "Escala do Grupo não Confere com Item Selecionado! Para INCLUIR Altere o Escala do "
+            "Funcionário Selecionado.");
+const Message kMostInUm = refusal(
+    kTitle,
+    "LISTA MÁXIMA de 3 Funcionários pora o Turno UM ! Para SUBSTITUIR remova um ITEM da lista.");
+const Message kMostInTres = refusal(
+    kTitle,
+    "LISTA MÁXIMA de 3 Funcionários pora o Turno TRES ! Para SUBSTITUIR remova um ITEM da lista.");
+const Message kMostInList = refusal(kTitle, "Lista Máxima de 6 Funcionários");
+const Message kNoReliefIn12x36 =
+    refusal(kTitle, "Escala do Grupo não Confere com Item Selecionado!",
+            "Na escala 12 x 36 as equipes se alternam e não há folguista.");
+const Message kTwoReliefWorkers =
+    refusal(kTitle, "O grupo já tem folguista.",
+            "Remova-o para substituí-lo. Um segundo folguista é para uma lista de seis.");
+const Message kNobodyListed = refusal(kTitle, "Adicione funcionários à lista do grupo.");
+const Message kOutsideMonth =
+    failure(kTitle,
+            "ERRO!! Não é Possível Gravar o GRUPO! Data do Mês de Início da Folga não confere com "
+            "o Mês de Copetência!");
+const Message kNoReliefDate = refusal(kTitle, "Informe a DATA da Primeira folga do FOLGUISTA!");
+
+Message alreadyListed(const Employee& employee, int number) {
+    return refusal(kTitle, "Já está na Lista",
+                   employee.code + " " + employee.name + " está em " + groupName(number) + ".");
+}
+
+Message mostInGroup(Shift shift) {
+    if (shift == Shift::Um) return kMostInUm;
+    if (shift == Shift::Tres) return kMostInTres;
+    return refusal(kTitle, "LISTA MÁXIMA de " + std::to_string(mostPlacesOf(shift)) +
+                               " Funcionários por GRUPO! Para SUBSTITUIR remova um ITEM da lista "
+                               "de FOLGA.");
+}
+
+Refusal memberRefusal(const RotationGroup& group, const Employee& employee,
+                      const std::vector<RotationGroup>& others) {
+    const EmployeeCode code = employee.employeeCode().value();
+    if (group.contains(code)) return alreadyListed(employee, group.number);
+    for (const RotationGroup& other : others)
+        if (other.contains(code)) return alreadyListed(employee, other.number);
+    if (employee.shiftOr() != group.shift) return kWrongShift;
+    if (employee.scaleOr() != group.scale) return kWrongScale;
+    return std::nullopt;
+}
+
+void putInList(RotationGroup& group, const EmployeeCode& employee) {
+    const auto vacant = std::ranges::find(group.places, std::optional<EmployeeCode>());
+    if (vacant == group.places.end())
+        group.places.emplace_back(employee);
+    else
+        *vacant = employee;
+}
+
+bool isIn(WorkMonth month, const std::optional<Date>& date) {
+    return date && monthOf(*date) == month;
+}
+
+}  // namespace
+
+Refusal addToList(RotationGroup& group, const std::vector<Employee>& employees,
+                  const std::vector<RotationGroup>& others) {
+    RotationGroup changed = group;
+    for (const Employee& employee : employees) {
+        if (const Refusal refused = memberRefusal(changed, employee, others)) return refused;
+        if (changed.listed() >= mostPlacesOf(group.shift)) {
+            const bool tooMany = group.listed() + employees.size() > kMostPlaces;
+            return employees.size() > 1 && tooMany ? kMostInList : mostInGroup(group.shift);
+        }
+        putInList(changed, employee.employeeCode().value());
+    }
+    group = std::move(changed);
+    return std::nullopt;
+}
+
+Refusal addRelief(RotationGroup& group, const Employee& employee,
+                  const std::vector<RotationGroup>& others, WorkMonth month) {
+    if (group.scale == Scale::TwelveByThirtySix) return kNoReliefIn12x36;
+    if (const Refusal refused = memberRefusal(group, employee, others)) return refused;
+    const std::size_t most = group.listed() == kMostPlaces ? kMostReliefWorkers : 1;
+    if (group.relief.size() >= most) return kTwoReliefWorkers;
+    group.relief.push_back({employee.employeeCode().value()});
+    const std::size_t which = group.relief.size() - 1;
+    if (const auto free = freeForRelief(group, which, month); !free.empty())
+        group.relief[which].firstDayOff = free.front();
+    return std::nullopt;
+}
+
+bool movePlace(RotationGroup& group, std::size_t from, std::size_t to) {
+    if (from >= group.places.size() || to >= group.places.size()) return false;
+    const auto begin = group.places.begin();
+    const auto at = [&](std::size_t place) { return begin + static_cast<std::ptrdiff_t>(place); };
+    if (from < to)
+        std::rotate(at(from), at(from + 1), at(to + 1));
+    else
+        std::rotate(at(to), at(from), at(from + 1));
+    while (!group.places.empty() && !group.places.back())
+        group.places.pop_back();
+    return true;
+}
+
+Refusal recordingRefusal(const RotationGroup& group, WorkMonth month) {
+    if (group.listed() == 0) return kNobodyListed;
+    if (!isIn(month, group.firstDayOff)) return kOutsideMonth;
+    for (const ReliefWorker& one : group.relief) {
+        if (!one.firstDayOff) return kNoReliefDate;
+        if (!isIn(month, one.firstDayOff)) return kOutsideMonth;
+    }
+    if (const auto finding = reliefFinding(group, month)) return refusal(kTitle, *finding);
+    return std::nullopt;
+}
+
+}  // namespace winvrx
