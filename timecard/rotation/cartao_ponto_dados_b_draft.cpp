@@ -71,7 +71,7 @@ bool CartaoPontoDadosB::groupChanged() const {
     if (!draft_) return false;
     for (const RotationGroup& group : groupsIn(lines_))
         if (group.number == draft_->number) return group != *draft_;
-    return true;
+    return !draft_->members().empty();
 }
 
 bool CartaoPontoDadosB::selectGroup(int number) {

@@ -1,4 +1,5 @@
 #include "tests/timecard/rotation/rotation_screen.h"
+#include "timecard/punches/cartao_ponto_dados.h"
 
 #include <gmock/gmock.h>
 
@@ -176,7 +177,7 @@ TEST_F(Rotation, ANewMonthGoesOnFromTheOneBefore) {
 struct AppliedRotation : Rotation {
     void SetUp() override {
         Rotation::SetUp();
-        draw({1, 2, 3}, 5, 7, 8);
+        draw({1, 2, 3}, 5, 7, 9);
         ASSERT_TRUE(save());
         const RotationRecords rotation(desk.store(), desk.clock);
         CartaoPontoDados cards(desk.at, {rotation, locks});
@@ -207,7 +208,7 @@ TEST_F(AppliedRotation, CardsFollowThePlan) {
     EXPECT_THAT(dayOf(1, 29), HasSubstr("DESCANSO SEMANA")) << "a holiday changes no rhythm";
     EXPECT_THAT(dayOf(7, 29), HasSubstr("29/sex/mar09:0012:0013:0017:20")) << "in place of E1";
     EXPECT_THAT(dayOf(7, 29), HasSubstr("FERIADO"));
-    EXPECT_THAT(dayOf(7, 8), HasSubstr("DESCANSO SEMANA"));
+    EXPECT_THAT(dayOf(7, 9), HasSubstr("DESCANSO SEMANA"));
     const auto schedule = loadSchedule(desk.store(), {kCompany, code(7)}).value();
     EXPECT_EQ(schedule.weekday.afternoon.exit, parseTime("17:20")) << "hours are compared with it";
 }
@@ -215,7 +216,6 @@ TEST_F(AppliedRotation, CardsFollowThePlan) {
 TEST_F(AppliedRotation, MovingTheStartAppliesAgain) {
     ASSERT_TRUE(screen.selectGroup(1) && screen.applied());
     screen.setFirstDayOff(4);
-    screen.setReliefDayOff(0, 7);
     const auto untouched = desk.files.content;
     EXPECT_FALSE(screen.saveGroup());
     EXPECT_EQ(desk.files.content, untouched);
@@ -231,7 +231,6 @@ TEST_F(AppliedRotation, AClosedMonthIsNotTouched) {
     ASSERT_TRUE(screen.selectGroup(1));
     locks.closed = {"001"};
     screen.setFirstDayOff(4);
-    screen.setReliefDayOff(0, 7);
     const auto untouched = desk.files.content;
     EXPECT_FALSE(screen.saveGroup());
     EXPECT_FALSE(screen.removeGroup());
@@ -240,7 +239,6 @@ TEST_F(AppliedRotation, AClosedMonthIsNotTouched) {
     EXPECT_THAT(shown(), ElementsAre(kClosed, kClosed, kClosed, kClosed));
     EXPECT_EQ(desk.files.content, untouched);
     screen.setFirstDayOff(5);
-    screen.setReliefDayOff(0, 8);
     ASSERT_TRUE(screen.add({at(4)}));
     EXPECT_TRUE(save()) << "nothing changes for who is closed";
 }
