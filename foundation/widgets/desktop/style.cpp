@@ -2,6 +2,7 @@
 
 #include "foundation/widgets/desktop/colors.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyleFactory>
@@ -76,6 +77,8 @@ void Style::polish(QWidget* widget) {
         bar->setAccessibleName(bar->orientation() == Qt::Horizontal
                                    ? QStringLiteral("Rolagem horizontal")
                                    : QStringLiteral("Rolagem vertical"));
+    if (auto* view = qobject_cast<QAbstractItemView*>(widget))
+        QMetaObject::invokeMethod(view, &QAbstractItemView::doItemsLayout, Qt::QueuedConnection);
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

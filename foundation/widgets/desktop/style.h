@@ -14,7 +14,8 @@ class Style final : public QProxyStyle {
     Style();
 
     using QProxyStyle::polish;
-    /// Gives a scroll bar a name for screen readers.
+    /// Gives a scroll bar a name for screen readers, and lays out the rows that a reader asked for
+    /// before their view had this style: without its padding they would lie on each other.
     void polish(QWidget* widget) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
