@@ -11,7 +11,6 @@
 #include "month_script.h"
 #include "player.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QDir>
 
@@ -85,7 +84,6 @@ int main(int argc, char** argv) {
     QDir(folder).removeRecursively();
     QDir().mkpath(folder);
     chooseFont();
-    QAccessible::setActive(true);
     setUpDesktop(application);
     look::apply(application, look::lightPalette());
 

@@ -1,8 +1,11 @@
 #include "month_script.h"
 
+#include "foundation/desk/desktop/help_window.h"
 #include "player.h"
 
+#include <QApplication>
 #include <QFile>
+#include <QUrl>
 
 #include <array>
 
@@ -166,6 +169,9 @@ void correctDays(Player& player) {
     player.typeCell(grid, kAbsent, kSituation, "Falta"_t);
     player.click("card.save"_t);
     player.picture("dados"_t);
+    player.choose("hours.table"_t, "Hora Falta"_t);
+    player.picture("explicacao"_t);
+    player.click("hoursExplanation.close"_t);
     player.click("card.otherHalf"_t);
     player.picture("dados-segunda-quinzena"_t);
 }
@@ -226,7 +232,25 @@ void printCards(Player& player) {
     player.tick("cartao.output.printer"_t, true);
     player.click("cartao.printAll"_t);
     player.click("cartao.close"_t);
-    player.picture("janela-principal"_t);
+}
+
+/// The page as it is shown where the desktop has no browser.
+void lookAtHelp(Player& player) {
+    player.then([] {
+        const QString page = QApplication::applicationDirPath() + "/help/instalacao.htm"_t;
+        QUrl section = QUrl::fromLocalFile(page);
+        section.setFragment("cartaoPontoDados"_t);
+        auto* help = new HelpWindow(section, nullptr);
+        help->setAttribute(Qt::WA_DeleteOnClose);
+        help->show();
+    });
+    player.pictureBeside("ajuda"_t, "ajuda"_t);
+}
+
+void lookAtCopies(Player& player) {
+    player.click("menu.restore.open"_t);
+    player.picture("restaurar"_t);
+    player.click("restaurar.close"_t);
 }
 
 }  // namespace
@@ -238,6 +262,9 @@ void writeMonth(Player& player) {
     chooseMonth(player);
     applyCards(player);
     printCards(player);
+    lookAtCopies(player);
+    lookAtHelp(player);
+    player.picture("janela-principal"_t);
 }
 
 }  // namespace winvrx

@@ -2,19 +2,52 @@
 
 #include "foundation/widgets/desktop/look.h"
 
+#include <QFrame>
+#include <QImage>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTextBrowser>
 #include <QTimer>
 #include <QUrl>
 
 namespace winvrx {
 
+namespace {
+
+constexpr int kPictureWidth = 880;  ///< fits the smallest screen
+
+/// The page without the style that it has for browsers, whose lengths this view takes for others.
+class HelpPage : public QTextBrowser {
+  public:
+    explicit HelpPage(QWidget* parent) : QTextBrowser(parent) {
+        look::name(*this, QStringLiteral("ajuda.page"), QStringLiteral("Ajuda"));
+        setFrameShape(QFrame::NoFrame);
+        document()->setDocumentMargin(look::kMargin);
+        document()->setDefaultStyleSheet(QStringLiteral("td, th { padding: 3px 8px; }"));
+    }
+
+  protected:
+    QVariant loadResource(int type, const QUrl& name) override {
+        const QVariant found = QTextBrowser::loadResource(type, name);
+        if (type == QTextDocument::HtmlResource) {
+            static const QRegularExpression style(QStringLiteral("<style>.*</style>"),
+                                                  QRegularExpression::DotMatchesEverythingOption);
+            return QString::fromUtf8(found.toByteArray()).remove(style);
+        }
+        if (type != QTextDocument::ImageResource) return found;
+        return QImage::fromData(found.toByteArray())
+            .scaledToWidth(kPictureWidth, Qt::SmoothTransformation);
+    }
+};
+
+}  // namespace
+
 HelpWindow::HelpWindow(const QUrl& section, QWidget* parent)
     : ScreenWindow(QStringLiteral("ajuda"), QStringLiteral("Ajuda"), parent) {
-    auto* page = new QTextBrowser(this);
-    look::name(*page, QStringLiteral("ajuda.page"), QStringLiteral("Ajuda"));
+    auto* page = new HelpPage(this);
     page->setSource(section.adjusted(QUrl::RemoveFragment));
     setBody(page);
+    findChild<QFrame*>(QStringLiteral("commandBar"))->hide();
     QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("ajuda.close"));
     connect(close, &QPushButton::clicked, this, &HelpWindow::reject);
     // The page has its places only when it is laid out in the window's width.
