@@ -1,7 +1,6 @@
 #include "output/stocks/card_rows.h"
 
 #include "foundation/values/text.h"
-#include "timecard/hours/hours.h"
 #include "timecard/punches/situation.h"
 #include "timecard/schedule/schedule_words.h"
 
@@ -37,18 +36,10 @@ ReportRow headerRow(const CardData& card) {
     return row;
 }
 
-/// The word for a day without times.
-std::string situationOf(const CardData& card, const PunchLine& line, Date date) {
-    if (const auto stored = trimmed(line.situation); !stored.empty()) {
-        const Situation* known = findSituation(stored);
-        const bool unjustified = known && known->word == kSituationUnjustified;
-        return std::string(unjustified ? kSituationUnjustifiedShort : stored);
-    }
-    if (card.settings.isHoliday(date)) return std::string(kSituationHoliday);
-    const auto weekday = weekdayOf(date);
-    if (weekday == std::chrono::Sunday || weekday == weeklyRestOf(card.employee))
-        return std::string(kSituationWeeklyRest);
-    return {};
+std::string shortened(std::string situation) {
+    const Situation* known = findSituation(situation);
+    const bool unjustified = known && known->word == kSituationUnjustified;
+    return unjustified ? std::string(kSituationUnjustifiedShort) : situation;
 }
 
 void putTimes(ReportRow& row, const PunchLine& line) {
@@ -72,7 +63,7 @@ class PunchWriter {
     void write(const PunchLine& line, Date date) {
         ReportRow& row = rows_[static_cast<std::size_t>(dayNumber(date) - 1)];
         if (!line.hasTimes()) {
-            row[cardColumn("situacao")] = situationOf(card_, line, date);
+            row[cardColumn("situacao")] = shortened(situationOf(line, date, terms_));
             return;
         }
         putTimes(row, line);
@@ -110,6 +101,15 @@ const std::vector<std::string>& cardColumns() {
 
 PageNoun cardNoun() {
     return {"cartão", "cartões"};
+}
+
+std::string situationOf(const PunchLine& line, Date date, const WorkTerms& terms) {
+    if (const auto stored = trimmed(line.situation); !stored.empty()) return std::string(stored);
+    if (terms.isHoliday(date)) return std::string(kSituationHoliday);
+    const auto weekday = weekdayOf(date);
+    if (weekday == std::chrono::Sunday || weekday == terms.restDay)
+        return std::string(kSituationWeeklyRest);
+    return {};
 }
 
 std::string headerText(const CardData& card) {

@@ -4,6 +4,7 @@
 #include "foundation/register/employee.h"
 #include "foundation/register/leave_calendar.h"
 #include "report/report_engine.h"
+#include "timecard/hours/hours.h"
 #include "timecard/month/month_settings.h"
 #include "timecard/punches/punch_record.h"
 #include "timecard/schedule/standard_schedule.h"
@@ -56,6 +57,10 @@ struct CardData {
 
 /// The header block as the screen shows it, captions included, in lines.
 [[nodiscard]] std::string headerText(const CardData& card);
+
+/// The word for a day without times: its mark, or what the calendar makes of it. Empty on a working
+/// day.
+[[nodiscard]] std::string situationOf(const PunchLine& line, Date date, const WorkTerms& terms);
 
 /// Always kCardLines rows. Punches, "horas" and the situation stand only on days of the month
 /// within the contract; a situation only where the day has no times,

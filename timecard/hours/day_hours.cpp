@@ -73,7 +73,7 @@ class DayWalk {
             give(HourCategory::Missing, HourRule::MarkedMissing, standard_);
             return;
         }
-        const bool tolerated = isTolerated(punches.regular, day_.scheduled);
+        const bool tolerated = toleratedVariation(punches.regular, day_.scheduled).has_value();
         seconds left = tolerated ? tolerate(punches.regular) : standard_;
         for (const auto pair : kRegularPairs) {
             const seconds normal = std::min(seconds{lengthOf(punches.regular.*pair)}, left);
@@ -168,6 +168,11 @@ void walk(const PunchLine& line, Date date, const WorkTerms& terms, Visit visit)
 }
 
 }  // namespace
+
+DaySchedule contractedTimes(const PunchLine& line, Date date, const WorkTerms& terms) {
+    if (!isWithinContract(terms.leaves.standingOn(date))) return {};
+    return dayTerms(line, date, terms).scheduled;
+}
 
 HourTotals dayHours(const PunchLine& line, Date date, const WorkTerms& terms) {
     HourTotals totals;

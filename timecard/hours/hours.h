@@ -89,6 +89,9 @@ struct WorkTerms {
 /// The hours of one day. What was worked past midnight belongs to the line that it stands on.
 [[nodiscard]] HourTotals dayHours(const PunchLine& line, Date date, const WorkTerms& terms);
 
+/// The times that the day is asked for; blank on a day of rest, away or outside the contract.
+[[nodiscard]] DaySchedule contractedTimes(const PunchLine& line, Date date, const WorkTerms& terms);
+
 /// The rule by which some minutes came to their category.
 enum class HourRule {
     Schedule,         ///< asked for by the schedule

@@ -2,8 +2,6 @@
 
 #include "timecard/schedule/schedule_hours.h"
 
-#include <optional>
-
 namespace winvrx {
 
 namespace {
@@ -33,17 +31,17 @@ std::optional<minutes> variationOf(const TimePair& worked, const TimePair& sched
 
 }  // namespace
 
-bool isTolerated(const DaySchedule& worked, const DaySchedule& scheduled) {
+std::optional<minutes> toleratedVariation(const DaySchedule& worked, const DaySchedule& scheduled) {
     minutes sum{0};
     bool anyScheduled = false;
     for (const auto pair : {&DaySchedule::morning, &DaySchedule::afternoon}) {
         if (lengthOf(scheduled.*pair).count() == 0) continue;
         anyScheduled = true;
         const auto variation = variationOf(worked.*pair, scheduled.*pair);
-        if (!variation) return false;
+        if (!variation) return std::nullopt;
         sum += *variation;
     }
-    return anyScheduled && sum <= kMostOfDay;
+    return anyScheduled && sum <= kMostOfDay ? std::optional(sum) : std::nullopt;
 }
 
 }  // namespace winvrx

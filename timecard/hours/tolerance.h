@@ -3,6 +3,7 @@
 #include "timecard/schedule/standard_schedule.h"
 
 #include <chrono>
+#include <optional>
 
 namespace winvrx {
 
@@ -11,9 +12,11 @@ namespace winvrx {
 inline constexpr std::chrono::minutes kMostOfPunch{5};
 inline constexpr std::chrono::minutes kMostOfDay{10};
 
-/// Whether each scheduled pair of the day was worked and its punches lie within both limits. The
-/// variations are summed without their signs. False for a day on which nothing is scheduled; a pair
-/// that is not scheduled has nothing to vary from and is left out.
-[[nodiscard]] bool isTolerated(const DaySchedule& worked, const DaySchedule& scheduled);
+/// By how much the punches of a day vary from the schedule, where each scheduled pair was worked
+/// and its punches lie within both limits; nullopt past them. The variations are summed without
+/// their signs. nullopt for a day on which nothing is scheduled too; a pair that is not scheduled
+/// has nothing to vary from and is left out.
+[[nodiscard]] std::optional<std::chrono::minutes> toleratedVariation(const DaySchedule& worked,
+                                                                     const DaySchedule& scheduled);
 
 }  // namespace winvrx

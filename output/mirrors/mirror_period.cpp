@@ -1,0 +1,119 @@
+#include "output/mirrors/mirror_period.h"
+
+#include "foundation/values/text.h"
+#include "output/stocks/card_rows.h"
+#include "timecard/hours/employee_hours.h"
+#include "timecard/hours/tolerance.h"
+#include "timecard/month/overtime_record.h"
+#include "timecard/punches/day_check.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace winvrx {
+
+/// Days that follow each other and go by the same terms.
+struct MirrorPeriod::Piece {
+    Date first;
+    std::vector<PunchLine> lines;
+    WorkTerms terms;
+    bool recorded = false;
+};
+
+namespace {
+
+MirrorDay dayOf(PunchLine line, Date date, const WorkTerms& terms, bool recorded) {
+    MirrorDay day;
+    day.date = date;
+    day.standing = terms.leaves.standingOn(date);
+    if (isWithinContract(day.standing)) day.line = std::move(line);
+    day.line.label = dayLabel(date);
+    if (!isWithinContract(day.standing)) return day;
+    day.contracted = contractedTimes(day.line, date, terms);
+    if (!day.line.hasTimes()) day.situation = situationOf(day.line, date, terms);
+    if (recorded) day.hours = dayHours(day.line, date, terms);
+    return day;
+}
+
+}  // namespace
+
+MirrorPeriod::MirrorPeriod(const Store& store, const CompanyCode& company, const DayPeriod& period)
+    : store_(store), company_(company), period_(period) {
+    for (WorkMonth month = monthOf(period.first); month <= monthOf(period.last);
+         month += std::chrono::months{1})
+        months_.push_back(loadMonthSettings(store, month));
+}
+
+bool MirrorPeriod::isClosing() const {
+    return !lastMonth().fixedMonth && period_ == closingPeriod(lastMonth());
+}
+
+MirrorSheet MirrorPeriod::of(const Employee& employee) const {
+    const EmployeeKey key{company_, employee.employeeCode().value()};
+    MirrorSheet sheet{.employee = employee,
+                      .period = period_,
+                      .overtime = {},
+                      .schedule = loadSchedule(store_, key),
+                      .leaves = loadLeaveCalendar(store_, key, employee.admissionDate()),
+                      .days = {},
+                      .totals = {}};
+    for (Piece& piece : piecesOf(sheet, key)) {
+        Date date = piece.first;
+        for (PunchLine& line : piece.lines) {
+            sheet.days.push_back(dayOf(std::move(line), date, piece.terms, piece.recorded));
+            sheet.totals += sheet.days.back().hours;
+            date = plusDays(date, 1);
+        }
+        sheet.overtime = piece.terms.overtime;
+        sheet.recorded = sheet.recorded || piece.recorded;
+    }
+    return sheet;
+}
+
+std::vector<std::string> mirrorNotes(const MirrorSheet& sheet) {
+    std::vector<std::string> notes;
+    for (const MirrorDay& day : sheet.days) {
+        const auto say = [&](const std::string& what) {
+            notes.push_back(day.line.label + ": " + what);
+        };
+        const auto varied =
+            toleratedVariation({day.line.morning(), day.line.afternoon()}, day.contracted);
+        if (varied && varied->count() > 0)
+            say("variação de " + std::to_string(varied->count()) + " min tolerada");
+        if (const std::string doubt = doubtAbout(day.line); !doubt.empty()) say(doubt);
+        if (const auto typed = trimmed(day.line.shortField); !typed.empty())
+            say("observação \"" + std::string(typed) + "\"");
+    }
+    return notes;
+}
+
+std::vector<MirrorPeriod::Piece> MirrorPeriod::piecesOf(const MirrorSheet& sheet,
+                                                        const EmployeeKey& key) const {
+    if (isClosing())
+        if (auto hours = loadEmployeeHours(store_, company_, sheet.employee, lastMonth(),
+                                           HoursPeriod::ClosingPeriod))
+            return {{period_.first, std::move(hours->lines), std::move(hours->terms), true}};
+    std::vector<Piece> pieces;
+    for (const MonthSettings& settings : months_)
+        pieces.push_back(pieceOf(sheet, key, settings));
+    return pieces;
+}
+
+MirrorPeriod::Piece MirrorPeriod::pieceOf(const MirrorSheet& sheet, const EmployeeKey& key,
+                                          const MonthSettings& settings) const {
+    auto punches = loadPunches(store_, key, settings.month);
+    Piece piece{.first = std::max(period_.first, firstDay(settings.month)),
+                .lines = {},
+                .terms = workTerms(settings, overtimeOf(store_, key, settings),
+                                   sheet.schedule.value_or(StandardSchedule()), sheet.employee,
+                                   sheet.leaves),
+                .recorded = punches.has_value()};
+    const Date last = std::min(period_.last, lastDay(settings.month));
+    std::vector<PunchLine> lines = punches ? std::move(*punches) : blankMonth(settings.month);
+    piece.lines.assign(std::make_move_iterator(lines.begin() + dayNumber(piece.first) - 1),
+                       std::make_move_iterator(lines.begin() + dayNumber(last)));
+    return piece;
+}
+
+}  // namespace winvrx
