@@ -2,7 +2,8 @@
 // reading register, schedules and leaves, filling the month and writing the cards. The floor writes
 // the same bytes of the same files in one batch. Both on the disk on which the bench is run.
 //
-// `apply-1000`: flushed, as it is. `apply-1000-varied`: with "Minutos Variados".
+// `apply-1000`: flushed, as it is. `apply-1000-varied`: with "Minutos Variados". `rotation-99`: for
+// the members of ninety-nine rotation groups, planned on the way.
 
 #include "bench/timing.h"
 #include "foundation/files/disk.h"
@@ -26,7 +27,12 @@ using std::filesystem::path;
 
 constexpr int kRounds = 9;
 constexpr double kMostRatio = 1.3;
+constexpr double kMostRotationRatio = 1.5;
 const CompanyCode kCompany = *CompanyCode::parse("01");
+const CompanyCode kRotating = *CompanyCode::parse("02");
+constexpr int kGroups = 99;
+constexpr int kGroupSize = 6;
+constexpr WorkMonth kMarch = 2024y / 3;
 
 class BenchFolder {
   public:
@@ -46,9 +52,9 @@ class BenchFolder {
     path path_;
 };
 
-std::vector<EmployeeCode> everyone() {
+std::vector<EmployeeCode> everyone(int count = EmployeeCode::kHighest) {
     std::vector<EmployeeCode> codes;
-    for (int number = 1; number <= EmployeeCode::kHighest; ++number)
+    for (int number = 1; number <= count; ++number)
         codes.push_back(*EmployeeCode::fromNumber(number));
     return codes;
 }
@@ -69,22 +75,46 @@ void hire(const Store& store) {
     store.files.replaceAll({EmployeeRegister(store, kCompany).contentOf(lines)});
 }
 
+/// Ninety-nine groups of five with a relief worker each.
+void drawGroups(const Store& store) {
+    std::vector<EmployeeLine> people;
+    GroupLines groups;
+    for (const EmployeeCode& code : everyone(kGroups * kGroupSize)) {
+        people.push_back(lineOf(testing::employee(code.text(), "MARIA " + code.text(),
+                                                  {"Unico", "5x1", "12/03/2020"})));
+        const int at = (code.number() - 1) % kGroupSize;
+        if (at == 0) groups.push_back(lineOf(GroupRecord()));
+        RotationGroup group = groupOf(groups.back().record)
+                                  .value_or(RotationGroup{.number = static_cast<int>(groups.size()),
+                                                          .firstDayOff = firstDay(kMarch)});
+        if (at + 1 < kGroupSize)
+            group.places.emplace_back(code);
+        else
+            group.relief = {{code, plusDays(firstDay(kMarch), at)}};
+        groups.back() = lineOf(recordOf(group));
+    }
+    groupFile(store, kRotating, kMarch).save(groups);
+    store.files.replaceAll({EmployeeRegister(store, kRotating).contentOf(people)});
+}
+
 /// Ours and the floor in turn, so that both meet the same disk.
-bool measure(const char* name, const Store& store, Minutes minutes) {
+bool measure(const char* name, const Store& store, const CompanyCode& company, Minutes minutes) {
     const RecordedAnswers records(store);
     const FixedClock clock({Date{2024y / 3 / 15}, {}});
     const RotationRecords rotation(store, clock);
     MonthSettings march;
-    march.month = 2024y / 3;
+    march.month = kMarch;
+    const auto codes =
+        everyone(company == kRotating ? kGroups * kGroupSize : EmployeeCode::kHighest);
     const ApplicationOrder order{
-        .company = kCompany, .settings = march, .minutes = minutes, .situation = {}, .common = {}};
+        .company = company, .settings = march, .minutes = minutes, .situation = {}, .common = {}};
     ListApplication::Batch batch;
     std::vector<double> ours;
     std::vector<double> floor;
     for (int round = 0; round <= kRounds; ++round) {
         const double applied = milliseconds([&] {
             ListApplication application(store, {rotation, records}, order);
-            batch = application.fill(everyone(), {}).value();
+            batch = application.fill(codes, {}).value();
             store.files.replaceAll(batch);
         });
         const double written = milliseconds([&] { store.files.replaceAll(batch); });
@@ -93,7 +123,8 @@ bool measure(const char* name, const Store& store, Minutes minutes) {
         floor.push_back(written);
     }
     const double ratio = report(name, ours, floor);
-    return batch.size() == static_cast<std::size_t>(EmployeeCode::kHighest) && ratio <= kMostRatio;
+    return batch.size() == codes.size() &&
+           ratio <= (company == kRotating ? kMostRotationRatio : kMostRatio);
 }
 
 }  // namespace
@@ -104,7 +135,9 @@ int main() {
     const auto files = systemFiles();
     const Store store{*files, folder};
     hire(store);
-    const bool fixed = measure("apply-1000", store, Minutes::Fixed);
-    const bool varied = measure("apply-1000-varied", store, Minutes::Varied);
-    return fixed && varied ? 0 : 1;
+    drawGroups(store);
+    const bool fixed = measure("apply-1000", store, kCompany, Minutes::Fixed);
+    const bool varied = measure("apply-1000-varied", store, kCompany, Minutes::Varied);
+    const bool rotation = measure("rotation-99", store, kRotating, Minutes::Fixed);
+    return fixed && varied && rotation ? 0 : 1;
 }

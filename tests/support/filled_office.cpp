@@ -53,8 +53,8 @@ FileTable filledOffice() {
     file("01CartaoDePontoTipo") = "05\r\n";
     file("02CartaoDePontoTipo") = "02\r\n";
     file("03CartaoDePontoTipo") = "left behind by a company of that code\r\n";
-    file("01GRUPO-001032024.er") = "GRUPO-001\r\n";
-    file("02GRUPO-001032024.er") = "GRUPO-001\r\n";
+    file("01GRUPO-032024.rdx") = "GRUPO-001\r\n";
+    file("02GRUPO-032024.rdx") = "GRUPO-001\r\n";
     file("03-2024ds.rdx") = "";
     file("01MedHorExtr002") = "02-2024 60  50  100 100 0 0 0 2 \r\n";
     file("Feriados") = "05/12      PADROEIRO\r\n09/07      9 DE JULHO\r\n";

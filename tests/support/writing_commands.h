@@ -35,6 +35,7 @@ void PrintTo(const WritingCommand& command, std::ostream* out);
 [[nodiscard]] std::vector<WritingCommand> cardCommands();
 [[nodiscard]] std::vector<WritingCommand> printCommands();
 [[nodiscard]] std::vector<WritingCommand> leaveCommands();
+[[nodiscard]] std::vector<WritingCommand> rotationCommands();
 
 [[nodiscard]] const std::vector<WritingCommand>& writingCommands();
 [[nodiscard]] const WritingCommand& writingCommand(const std::string& name);

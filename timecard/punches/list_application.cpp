@@ -36,6 +36,16 @@ std::optional<std::chrono::weekday> ownRestDay(const Employee& employee) {
     return weeklyRestOf(employee);
 }
 
+/// Makes the hours of the rotation those that worked time is compared with; true when they change.
+bool takeRotation(StandardSchedule& schedule, const RotationMonth& rotation) {
+    const StandardSchedule before = schedule;
+    schedule.weekday = rotation.weekday;
+    schedule.saturday = rotation.saturday;
+    schedule.saturdayIsNormal = true;
+    schedule.unread = {};
+    return schedule != before;
+}
+
 }  // namespace
 
 ListApplication::ListApplication(const Store& store, const PunchDesk& desk, ApplicationOrder order)
@@ -91,14 +101,7 @@ const RotationMonth* ListApplication::rotationOf(const Employee& employee,
 StandardSchedule ListApplication::scheduleOf(const EmployeeCode& code,
                                              const RotationMonth* rotation) const {
     if (order_.common && !rotation) return *order_.common;
-    auto schedule = loadSchedule(store_, {order_.company, code}).value_or(StandardSchedule());
-    if (rotation) {
-        schedule.weekday = rotation->weekday;
-        schedule.saturday = rotation->saturday;
-        schedule.saturdayIsNormal = true;
-        schedule.unread = {};
-    }
-    return schedule;
+    return loadSchedule(store_, {order_.company, code}).value_or(StandardSchedule());
 }
 
 void ListApplication::putSchedule(Batch& batch, const EmployeeCode& code,
@@ -113,7 +116,8 @@ void ListApplication::putSchedule(Batch& batch, const EmployeeCode& code,
 void ListApplication::fillOne(Batch& batch, const Employee& employee, const EmployeeCode& code,
                               const LeaveCalendar& leaves) {
     const RotationMonth* rotation = rotationOf(employee, code);
-    const StandardSchedule schedule = scheduleOf(code, rotation);
+    StandardSchedule schedule = scheduleOf(code, rotation);
+    const bool replaced = rotation ? takeRotation(schedule, *rotation) : order_.common.has_value();
     requireReadable(schedule);
     requireReadable(leaves);
     Application application{.schedule = schedule, .leaves = leaves, .situation = order_.situation};
@@ -123,7 +127,7 @@ void ListApplication::fillOne(Batch& batch, const Employee& employee, const Empl
             return variation_.vary(day, {order_.company, code}, date);
         };
     std::string record = punchRecordBytes(filledMonth(application, order_.settings));
-    if (order_.common || rotation) putSchedule(batch, code, schedule);
+    if (replaced) putSchedule(batch, code, schedule);
     punchFiles_.add(batch, {order_.company, code}, std::move(record));
     if (leavesWorkBlank(schedule)) remarks_[Remark::NoTimes].push_back(employee.name);
     if (leaves.touches(order_.settings.month)) remarks_[Remark::OnLeave].push_back(employee.name);

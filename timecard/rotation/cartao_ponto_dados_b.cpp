@@ -95,7 +95,7 @@ void CartaoPontoDadosB::load(const CompanyCode& company, const MonthSettings& se
     }
     if (company_ != company || settings_.month != settings.month) draft_.reset();
     company_ = company;
-    companyName_ = found.value_or(Company()).name;
+    heading_ = found.value_or(Company());
     settings_ = settings;
     people_ = std::move(people);
     leaves_ = std::move(leaves);

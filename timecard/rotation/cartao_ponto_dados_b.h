@@ -3,10 +3,11 @@
 #include "foundation/desk/command.h"
 #include "foundation/register/employee_list.h"
 #include "foundation/register/leave_calendar.h"
+#include "report/report_request.h"
 #include "timecard/month/month_settings.h"
 #include "timecard/rotation/group_draft.h"
 #include "timecard/rotation/group_work.h"
-#include "timecard/rotation/rotation_view.h"
+#include "timecard/rotation/rotation_sheet.h"
 #include "timecard/rotation/work_table.h"
 
 #include <map>
@@ -38,7 +39,7 @@ class CartaoPontoDadosB {
     /// Loads month, employees, table and groups. False when no company or no month is chosen.
     [[nodiscard]] bool open();
     [[nodiscard]] const std::optional<CompanyCode>& company() const { return company_; }
-    [[nodiscard]] const std::string& companyName() const { return companyName_; }
+    [[nodiscard]] const std::string& companyName() const { return heading_.name; }
     [[nodiscard]] const MonthSettings& settings() const { return settings_; }
 
     /// Shift and scale say whose table and which groups and employees are shown. False when the
@@ -116,6 +117,11 @@ class CartaoPontoDadosB {
     /// Deletes the month's punches of the group's members.
     [[nodiscard]] bool removePunches();
 
+    /// "FolhaRevezamento.txt" of the groups shown, in the desktop's editor.
+    [[nodiscard]] bool printText();
+    /// The same as pages of the report engine, one a group.
+    [[nodiscard]] bool printSheets(ReportOutput output);
+
     /// Asks before typed but unrecorded changes are left behind.
     [[nodiscard]] bool confirmLeaving();
 
@@ -142,13 +148,15 @@ class CartaoPontoDadosB {
     void record(const std::vector<EmployeeCode>& reapplied);
     /// The lines on disk. Throws Fault when those of these groups are not as shown.
     [[nodiscard]] GroupLines linesAsShown(const std::vector<RotationGroup>& groups) const;
+    /// Of the groups shown; empty when the operator was told why there are none.
+    [[nodiscard]] std::vector<RotationSheet> requireSheets();
     [[nodiscard]] bool remove(const std::vector<RotationGroup>& groups, const std::string& title,
                               bool groupsToo);
 
     Workplace at_;
     RotationDesk desk_;
     std::optional<CompanyCode> company_;
-    std::string companyName_;
+    Company heading_;
     MonthSettings settings_;
     EmployeeList list_;
     std::map<EmployeeCode, Employee> people_;

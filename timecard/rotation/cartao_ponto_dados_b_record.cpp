@@ -189,7 +189,7 @@ bool CartaoPontoDadosB::remove(const std::vector<RotationGroup>& groups, const s
         if (!closedAmong(work(), members).empty())
             throw changedElsewhere("payroll", "A folha foi fechada");
         at_.keepStateBefore((groupsToo ? "excluir " : "excluir o ponto de ") + listOf(groups) +
-                            " da empresa " + company_->text() + " " + companyName_);
+                            " da empresa " + company_->text() + " " + heading_.name);
         winvrx::removePunches(work(), applied);
         if (groupsToo) {
             std::erase_if(lines, [&](const GroupLine& line) {

@@ -119,7 +119,7 @@ std::string encode(const WorkTable& table, std::string existing) {
     }
     for (std::size_t row = 0; row < kTableRows; ++row)
         for (std::size_t cell = 0; cell < kRowTimes; ++cell)
-            line.put(timeColumn(row, cell), completedTime(table.rows[row][cell]));
+            line.put(timeColumn(row, cell), table.rows[row][cell]);
     return line.bytes();
 }
 

@@ -311,11 +311,11 @@ TEST_F(EmpregadosTest, DeleteAllAsksTwiceAndLeavesOtherCompaniesAlone) {
     addEmployees();
     for (const char* name :
          {"01configAf001", "01MedHorExtr002", "01001-03-2024.bdx", "01001022024.pdx",
-          "01002122023.pdx", "01fp0000203-2024.bdx", "01GRUPO-001032024.er"})
+          "01002122023.pdx", "01fp0000203-2024.bdx", "01GRUPO-032024.rdx"})
         desk_.file(name) = "x";
     const std::vector<std::string> staying = {
         "02CartaPonto",        "02PadrHor001.pdx",  "02001022024.pdx",
-        "03configAf001",       "03001-03-2024.bdx", "02GRUPO-001032024.er",
+        "03configAf001",       "03001-03-2024.bdx", "02GRUPO-032024.rdx",
         "01CartaoDePontoTipo", "01PadrHor003.pdx",  "01032024ds.rdx"};
     for (const std::string& name : staying)
         desk_.file(name) = "stays";
