@@ -23,6 +23,7 @@ FileTable rotationOffice(WorkMonth month) {
     for (Employee& one : people)
         one.scale = "5x1";
     files[inDataFolder("01CartaPonto")] = employeeList(people);
+    files.erase(inDataFolder("01GRUPO-032024.rdx"));
     const RotationGroup group{
         .firstDayOff = firstDay(month),
         .places = {EmployeeCode::parse("001"), EmployeeCode::parse("002")},

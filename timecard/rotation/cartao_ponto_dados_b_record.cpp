@@ -136,8 +136,9 @@ void CartaoPontoDadosB::record(const std::vector<EmployeeCode>& reapplied) {
     std::string remarks;
     ListApplication::Batch batch;
     if (!reapplied.empty()) batch = reappliedCards(work(), {*draft_}, reapplied, remarks);
-    batch.push_back(groupFile(at_.store(), *company_, settings_.month).contentOf(lines));
-    at_.files.replaceAll(batch);
+    // The cards first: cut short between the two, the command given again still finds the change.
+    if (!batch.empty()) at_.files.replaceAll(batch);
+    at_.files.replaceAll({groupFile(at_.store(), *company_, settings_.month).contentOf(lines)});
     loadGroups(namesIn(at_.store()));
     if (!remarks.empty())
         at_.person.tell(notice("Aplicação de Pontos", "O grupo foi gravado.", remarks));
