@@ -50,11 +50,6 @@ LeaveFile loadLeaveFile(const Store& store, const EmployeeKey& key) {
     return parseLeaveFile(store.files.read(path).value_or(std::string()));
 }
 
-FileSystem::NewContent contentOf(const Store& store, const EmployeeKey& key,
-                                 const LeaveFile& file) {
-    return {store.folder.companyFile(key.company, leaveFileName(key.employee)), encode(file)};
-}
-
 std::array<std::string, kTerminationStems.size()> terminationFileNames(const EmployeeKey& key) {
     std::array<std::string, kTerminationStems.size()> names;
     std::ranges::transform(kTerminationStems, names.begin(), [&](std::string_view stem) {

@@ -35,9 +35,6 @@ struct LeaveFile {
 
 /// An employee without a file has no leaves and is active. Throws FileFault.
 [[nodiscard]] LeaveFile loadLeaveFile(const Store& store, const EmployeeKey& key);
-/// What a rewrite puts on disk.
-[[nodiscard]] FileSystem::NewContent contentOf(const Store& store, const EmployeeKey& key,
-                                               const LeaveFile& file);
 
 /// The names of the employee's termination documents, "01TRTC001" and the like: the leave file's
 /// with another stem. Who has one of them has left for good.

@@ -1,17 +1,40 @@
 #include "personnel/leaves/afastamento.h"
 
+#include "foundation/desk/list_screen.h"
 #include "foundation/register/company_register.h"
+#include "foundation/register/dismissal.h"
 #include "foundation/register/employee_register.h"
 #include "personnel/leaves/leave_findings.h"
 #include "timecard/month/selected_month.h"
+#include "timecard/punches/leave_marking.h"
 
 #include <algorithm>
+#include <iterator>
+#include <vector>
 
 namespace winvrx {
 
 namespace {
 
-const Message kInactive = notice("Afastamento", "Funcionário Inativo.!");
+constexpr std::string_view kTitle = "Afastamento";
+const Message kInactive = notice(kTitle, "Funcionário Inativo.!");
+constexpr std::string_view kMarkDays =
+    "Há dias preenchidos no cartão que este afastamento muda. Deseja marcá-los agora?";
+constexpr std::size_t kMostDays = 12;
+
+/// "20/03/2024, 21/03/2024 e mais 3".
+std::string datesText(const std::vector<Date>& dates) {
+    std::vector<std::string> texts;
+    std::ranges::transform(dates, std::back_inserter(texts), dateText);
+    return namesText(texts, kMostDays);
+}
+
+std::vector<Date> datesOf(const std::vector<UnmarkedDay>& days, bool UnmarkedDay::*kind) {
+    std::vector<Date> dates;
+    for (const UnmarkedDay& day : days)
+        if (day.*kind) dates.push_back(day.date);
+    return dates;
+}
 
 }  // namespace
 
@@ -128,11 +151,12 @@ void Afastamento::fill(std::optional<std::size_t> place) {
     chosen_ = place;
     form_ = place ? LeaveForm(file_.leaves.at(*place).record, admission) : LeaveForm(admission);
     form_.showDismissal(file_.inactiveSince);
+    punches_.clear();
     blamed_.reset();
 }
 
 bool Afastamento::choose(std::size_t place) {
-    if (!requireSelection("Afastamento") || !confirmLeaving()) return false;
+    if (!requireSelection(kTitle) || !confirmLeaving()) return false;
     return attempt(at_, incorrectData(), [&] {
         const bool open = requireOpenMonth();
         fill(open ? std::optional(place) : std::nullopt);
@@ -146,8 +170,51 @@ bool Afastamento::begin() {
     return true;
 }
 
+LeaveCalendar Afastamento::calendarOf(const LeaveFile& file) const {
+    return {encode(file), selected() ? selected()->admissionDate() : std::nullopt};
+}
+
+std::string Afastamento::contradiction() const {
+    return selected() ? dismissalContradiction(*selected(), file_.inactiveSince) : std::string();
+}
+
+void Afastamento::lookForPunches() {
+    punches_.clear();
+    const auto period = form_.period();
+    if (!selected() || !period) return;
+    LeaveFile planned{.inactiveSince = file_.inactiveSince};
+    planned.leaves.push_back(leaveLine(form_.leave()));
+    try {
+        const auto days = datesOf(
+            unmarkedDays(at_.store(), payroll_, keyAt(*position_), calendarOf(planned), *period),
+            &UnmarkedDay::hasTimes);
+        if (!days.empty()) punches_ = "Já há horas no cartão em " + datesText(days) + ".";
+    } catch (const std::exception& fault) {
+        at_.log.write(std::string("punches of a leave not looked up: ") + fault.what());
+    }
+}
+
 std::string Afastamento::finding(LeaveInput input) const {
-    return findingFor(input, form_, file_, chosen_);
+    const std::string found = findingFor(input, form_, file_, chosen_);
+    return found.empty() && input == LeaveInput::FirstDay ? punches_ : found;
+}
+
+void Afastamento::offerMarking(LeavePeriod days) {
+    const EmployeeKey key = keyAt(*position_);
+    (void)attempt(at_, incorrectData(), [&] {
+        const auto unmarked = unmarkedDays(at_.store(), payroll_, key, calendar(), days);
+        const auto closed = datesOf(unmarked, &UnmarkedDay::closed);
+        if (unmarked.size() == closed.size()) return;
+        const auto timed = datesOf(unmarked, &UnmarkedDay::hasTimes);
+        std::string detail = countOf(unmarked.size() - closed.size(), "dia") + ".";
+        if (!timed.empty()) detail += " Perdem as horas: " + datesText(timed) + ".";
+        if (!closed.empty()) detail += " De mês fechado, não são marcados: " + datesText(closed);
+        const Message asked = timed.empty() ? question(kTitle, std::string(kMarkDays), detail)
+                                            : warning(kTitle, std::string(kMarkDays), detail);
+        if (!at_.person.agrees(asked)) return;
+        const auto hold = holdFolder(at_);
+        (void)markDays(at_.store(), payroll_, key, calendar(), days);
+    });
 }
 
 bool Afastamento::confirmLeaving() {

@@ -3,6 +3,7 @@
 #include "foundation/desk/command.h"
 #include "foundation/register/employee_list.h"
 #include "foundation/register/employee_queries.h"
+#include "foundation/register/leave_calendar.h"
 #include "foundation/register/leave_file.h"
 #include "personnel/leaves/leave_form.h"
 
@@ -50,7 +51,11 @@ class Afastamento {
     [[nodiscard]] std::optional<std::size_t> selectedPosition() const { return position_; }
     [[nodiscard]] const Employee* selected() const;  ///< nullptr when there is none
     [[nodiscard]] const LeaveFile& file() const { return file_; }
+    /// Where the employee is on each day, as the file has it.
+    [[nodiscard]] LeaveCalendar calendar() const { return calendarOf(file_); }
     [[nodiscard]] bool isInactive() const { return file_.inactiveSince.has_value(); }
+    /// What register and leave file say differently; empty when they agree.
+    [[nodiscard]] std::string contradiction() const;
     /// "Inativar" or "Reativar".
     [[nodiscard]] std::string_view activationCaption() const;
 
@@ -62,6 +67,8 @@ class Afastamento {
     [[nodiscard]] std::optional<std::size_t> chosen() const { return chosen_; }
     [[nodiscard]] LeaveForm& form() { return form_; }
     [[nodiscard]] const LeaveForm& form() const { return form_; }
+    /// Looks for punches on the days of the leave as it is typed, for `finding`.
+    void lookForPunches();
     /// What speaks against the text of a field, to be said beside it.
     [[nodiscard]] std::string finding(LeaveInput input) const;
     /// The field for which the last command ended; none when it was for none.
@@ -82,6 +89,9 @@ class Afastamento {
     [[nodiscard]] bool narrow(const std::function<void()>& filter);
     void show(std::optional<std::size_t> position, LeaveFile file);
     void fill(std::optional<std::size_t> place);
+    [[nodiscard]] LeaveCalendar calendarOf(const LeaveFile& file) const;
+    /// Asks whether the days of cards that stand otherwise are to be marked now, and marks them.
+    void offerMarking(LeavePeriod days);
     [[nodiscard]] EmployeeKey keyAt(std::size_t position) const;
     [[nodiscard]] EmployeeMarks marksOf(const EmployeeKey& key) const;
     void requireEmployeeOnRecord() const;
@@ -117,6 +127,7 @@ class Afastamento {
     LeaveFile file_;
     std::optional<std::size_t> chosen_;
     LeaveForm form_;
+    std::string punches_;  ///< what is said of those on the days of `form_`
     std::optional<LeaveInput> blamed_;
 };
 

@@ -1,3 +1,4 @@
+#include "foundation/register/dismissal.h"
 #include "foundation/register/employee_register.h"
 #include "foundation/values/text.h"
 #include "personnel/leaves/afastamento.h"
@@ -5,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 
 namespace winvrx {
 
@@ -37,6 +39,9 @@ const Message kConfirmDisregard =
     riskyQuestion("Excluindo Afastamento", "Confirma Excluir e Desconsiderar este Afastamento?");
 const Message kDeactivates = refusal(kScreen, "Você está Prestes a Desativar este Funionário!");
 const Message kConfirmDeactivate = riskyQuestion(kScreen, "Confirma Desativar este Funionário?");
+
+/// The card of every month behind the end of a contract is looked at.
+constexpr Date kLastOfAll{std::chrono::year{9999}, std::chrono::December, std::chrono::day{31}};
 
 /// Fields that hold dates, with what they are called in a message.
 struct DateInput {
@@ -156,6 +161,7 @@ bool Afastamento::add() {
                      [&] { return !ofMonth || requireOpenMonth(); }))
             return false;
         fill(file_.leaves.size() - 1);
+        offerMarking(*form_.period());
         return true;
     });
 }
@@ -173,6 +179,7 @@ bool Afastamento::change() {
                      [this] { return requireOpenMonth(); }))
             return false;
         fill(place);
+        offerMarking(*form_.period());
         return true;
     });
 }
@@ -210,7 +217,11 @@ bool Afastamento::changeActivation() {
         if (!rewrite(
                 [&](LeaveFile& file) { file.inactiveSince = inactivates ? since : std::nullopt; }))
             return false;
-        fill(chosen_);
+        const auto place = chosen_;
+        loadList(at_.session.company.value(), month_.value());
+        if (position_) fill(place);
+        if (const auto end = calendar().contractEnd())
+            offerMarking({plusDays(*end, 1), kLastOfAll});
         return true;
     });
 }
@@ -287,8 +298,7 @@ bool Afastamento::rewrite(const std::function<void(LeaveFile&)>& edit,
     LeaveFile changed = file_;
     edit(changed);
     changed.strays.clear();
-    const auto content = contentOf(at_.store(), key, changed);
-    at_.files.replace(content.file, content.bytes);
+    saveLeaveFile(at_.store(), key, encode(changed), at_.clock.now());
     file_ = std::move(changed);
     list_.mark(*position_, marksOf(key));
     if (withLeaves_.insert(key.employee).second) ++some_;

@@ -52,13 +52,16 @@ bool changeHour(Afastamento& screen) {
 std::vector<WritingCommand> leaveCommands() {
     const auto date = parseDate("08/05/2024");
     const auto toggle = [](Afastamento& screen) { return screen.changeActivation(); };
+    // A command of its own marks the cards.
+    const std::set<std::string> leaveCards = {
+        "Há dias preenchidos no cartão que este afastamento muda. Deseja marcá-los agora?"};
     return {
-        {"add leave", filledOffice(), inLeaves(addTermination)},
-        {"change leave", officeWithALeave(std::nullopt), inLeaves(changeHour)},
+        {"add leave", filledOffice(), inLeaves(addTermination), leaveCards},
+        {"change leave", officeWithALeave(std::nullopt), inLeaves(changeHour), leaveCards},
         {"delete leave", officeWithALeave(date),
          inLeaves([](Afastamento& screen) { return screen.remove(); })},
-        {"inactivate employee", officeWithALeave(std::nullopt), inLeaves(toggle)},
-        {"reactivate employee", officeWithALeave(date), inLeaves(toggle)},
+        {"inactivate employee", officeWithALeave(std::nullopt), inLeaves(toggle), leaveCards},
+        {"reactivate employee", officeWithALeave(date), inLeaves(toggle), leaveCards},
     };
 }
 
