@@ -2,6 +2,7 @@
 
 #include "foundation/copies/desktop/restore_entry.h"
 #include "foundation/register/desktop/register_entries.h"
+#include "personnel/leaves/desktop/leaves_entry.h"
 #include "timecard/month/desktop/month_entry.h"
 #include "timecard/punches/desktop/time_card_entry.h"
 #include "timecard/rotation/rotation_records.h"
@@ -40,11 +41,11 @@ MenuEntries menuEntries(const Workplace& at, const CardPrintingDesk& desk, TextE
     const auto rotation = std::make_shared<RotationRecords>(at.store(), at.clock);
     add(registerEntries(at, editor, rotation));
     add({monthEntry(at)});
-    add({timeCardEntry(at, rotation)});
+    add({timeCardEntry(at, rotation, openLeaves)});
     add(cardEntries(at, desk));
     add({planned("Cartão de Ponto", "rotation", "rotation", "Escalas")});
     add({planned("Cartão de Ponto", "mirror", "mirror", "Espelho")});
-    add({planned("Pessoal", "leaves", "leave", "Afastamentos")});
+    add({leavesEntry(at)});
     add({planned("Pessoal", "payroll", "payroll", "Folha de Pagamento")});
     add({planned("Pessoal", "documents", "documents", "Documentos")});
     add({planned("Ferramentas", "labels", "labels", "Etiquetas")});

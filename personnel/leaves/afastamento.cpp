@@ -195,8 +195,10 @@ void Afastamento::lookForPunches() {
 }
 
 std::string Afastamento::finding(LeaveInput input) const {
-    const std::string found = findingFor(input, form_, file_, chosen_);
-    return found.empty() && input == LeaveInput::FirstDay ? punches_ : found;
+    std::string found = findingFor(input, form_, file_, chosen_);
+    if (input == LeaveInput::FirstDay && !punches_.empty())
+        found += (found.empty() ? "" : " ") + punches_;
+    return found;
 }
 
 void Afastamento::offerMarking(LeavePeriod days) {

@@ -80,6 +80,8 @@ class Afastamento {
     /// "Inativar" or "Reativar", whichever the employee is not.
     [[nodiscard]] bool changeActivation();
 
+    [[nodiscard]] Date today() const { return at_.clock.today(); }
+
     /// Asks before what is typed is left behind. True when the screen may go on.
     [[nodiscard]] bool confirmLeaving();
 

@@ -242,6 +242,19 @@ void Field::placeIn(QGridLayout& grid, int row, int column, const QString& suffi
     hide();
 }
 
+void Field::placeInRow(QGridLayout& grid, int row, bool wide) {
+    grid.addWidget(label_, row, 0);
+    grid.addWidget(input_, row, 1, 1, wide ? 2 : 1, wide ? Qt::AlignLeft : Qt::Alignment());
+    if (!wide) grid.addWidget(hint_, row, 2);
+    hint_->setWordWrap(false);
+    hide();
+}
+
+void Field::setPlacedVisible(bool visible) {
+    for (QWidget* part : {static_cast<QWidget*>(label_), input_, static_cast<QWidget*>(hint_)})
+        part->setVisible(visible);
+}
+
 QWidget* Field::bareInput() {
     hide();
     return input_;
@@ -274,6 +287,11 @@ void Field::setFinding(const QString& text) {
     if (!notes_) showHint(Entry::Left);
 }
 
+void Field::setNote(const QString& text) {
+    note_ = text;
+    showHint(Entry::Left);
+}
+
 Hint Field::ownHint(Entry entry) const {
     if (!line_ || !line_->isModified()) return {};
     const std::string typed = toUtf8(line_->text());
@@ -290,8 +308,10 @@ void Field::showHint(Entry entry) {
                         !kind_.hint && !kind_.completed && entry == Entry::Typing;
     const QString own = hint.tone == Hint::Tone::Warning ? toQt(hint.text) : finding_;
     setWarning(own.isEmpty() ? cut_ : own);
-    if (!hint_->text().isEmpty() || (!isRight && !isFull)) return;
-    hint_->setText(isRight ? QStringLiteral("✓ ") + toQt(hint.text) : fullText(width_));
+    if (!hint_->text().isEmpty() || (!isRight && !isFull && note_.isEmpty())) return;
+    hint_->setText(isRight  ? QStringLiteral("✓ ") + toQt(hint.text)
+                   : isFull ? fullText(width_)
+                            : note_);
     look::setTint(*hint_, look::Tint::Quiet);
 }
 

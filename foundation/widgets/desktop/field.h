@@ -53,6 +53,11 @@ class Field : public QWidget {
     /// Gives the label and the input to cells of `grid` side by side, with `suffix` behind them,
     /// and the hint to the row below. The field itself shows nothing then.
     void placeIn(QGridLayout& grid, int row, int column, const QString& suffix);
+    /// Gives label, input and hint to the first three cells of a row of `grid`; a wide input takes
+    /// the cell of the hint too. The field itself shows nothing then.
+    void placeInRow(QGridLayout& grid, int row, bool wide = false);
+    /// Shows or hides what the field gave to a grid.
+    void setPlacedVisible(bool visible);
     /// Gives only the input away: what is around it names it and shows its hints.
     [[nodiscard]] QWidget* bareInput();
     void takeFocus();
@@ -65,6 +70,8 @@ class Field : public QWidget {
     /// What is found in the text beside other fields and records: said until the next edit where
     /// the field finds nothing itself.
     void setFinding(const QString& text);
+    /// A quiet word under the field while nothing is found, as where its text comes from.
+    void setNote(const QString& text);
 
   signals:
     /// By the operator, not by setStored.
@@ -108,7 +115,8 @@ class Field : public QWidget {
     QString shown_;
     QString typed_;    ///< before the key in hand
     QString finding_;  ///< of others
-    QString cut_;      ///< what is said of what the last key or paste had too much
+    QString note_;
+    QString cut_;  ///< what is said of what the last key or paste had too much
 };
 
 /// The caption with its Alt letter marked: the first `letter` in it, whatever its case. A caption

@@ -181,7 +181,12 @@ void CartaoPontoDadosWindow::buildCommands() {
     QToolButton* month =
         addCommand(QStringLiteral("month"), QStringLiteral("Configurações Feriados e Horas extras"),
                    Qt::Key_F7, QStringLiteral("card.monthSettings"));
-    connect(month, &QToolButton::clicked, this, &CartaoPontoDadosWindow::changeMonth);
+    connect(month, &QToolButton::clicked, this,
+            [this] { leaveFor(&CartaoPontoDadosWindow::monthSettingsRequested); });
+    QToolButton* leaves = addCommand(QStringLiteral("leave"), QStringLiteral("Afastamentos"),
+                                     Qt::Key_F8, QStringLiteral("card.leaves"));
+    connect(leaves, &QToolButton::clicked, this,
+            [this] { leaveFor(&CartaoPontoDadosWindow::leavesRequested); });
     QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("card.close"));
     connect(close, &QPushButton::clicked, this, &CartaoPontoDadosWindow::reject);
 }
@@ -373,9 +378,9 @@ void CartaoPontoDadosWindow::save() {
     showCard();
 }
 
-void CartaoPontoDadosWindow::changeMonth() {
+void CartaoPontoDadosWindow::leaveFor(void (CartaoPontoDadosWindow::*requested)()) {
     commitEditors();
-    if (command_.confirmLeaving()) emit monthSettingsRequested();
+    if (command_.confirmLeaving()) emit(this->*requested)();
 }
 
 bool CartaoPontoDadosWindow::mayClose() {

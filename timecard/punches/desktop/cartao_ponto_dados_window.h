@@ -36,6 +36,8 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     /// "Configurações Feriados e Horas extras": whoever listens shows that window, opens the
     /// command again and refreshes this one.
     void monthSettingsRequested();
+    /// "Afastamentos" of the employee selected, if one is: the same for that window.
+    void leavesRequested();
 
   protected:
     bool mayClose() override;
@@ -72,7 +74,8 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     bool apply();
     void applyToAll();
     void save();
-    void changeMonth();
+    /// Emits the signal once nothing is left unrecorded.
+    void leaveFor(void (CartaoPontoDadosWindow::*requested)());
 
     CartaoPontoDados& command_;
     HalfMonth shown_ = HalfMonth::First;

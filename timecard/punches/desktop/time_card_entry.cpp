@@ -9,29 +9,40 @@ namespace winvrx {
 
 namespace {
 
-void openTimeCard(const Workplace& at, const RotationCalendar& rotation, QWidget* parent) {
+void openTimeCard(const Workplace& at, const RotationCalendar& rotation,
+                  const LeavesOpener& openLeaves, QWidget* parent) {
     const RecordedAnswers records(at.store());
     CartaoPontoDados card(at, {rotation, records});
     (void)card.open();
     CartaoPontoDadosWindow window(card, parent);
-    QObject::connect(&window, &CartaoPontoDadosWindow::monthSettingsRequested, &window, [&] {
-        openWorkMonth(at, &window);
+    const auto comeBack = [&] {
         (void)card.open();
         window.refresh();
+    };
+    QObject::connect(&window, &CartaoPontoDadosWindow::monthSettingsRequested, &window, [&] {
+        openWorkMonth(at, &window);
+        comeBack();
+    });
+    QObject::connect(&window, &CartaoPontoDadosWindow::leavesRequested, &window, [&] {
+        const Employee* inHand = card.selected();
+        openLeaves(at, &window, inHand ? inHand->employeeCode() : std::nullopt);
+        comeBack();
     });
     window.exec();
 }
 
 }  // namespace
 
-MenuEntry timeCardEntry(const Workplace& at, std::shared_ptr<const RotationCalendar> rotation) {
+MenuEntry timeCardEntry(const Workplace& at, std::shared_ptr<const RotationCalendar> rotation,
+                        LeavesOpener openLeaves) {
     return {.group = QStringLiteral("Cartão de Ponto"),
             .objectName = QStringLiteral("menu.timecard.open"),
             .icon = QStringLiteral("card"),
             .title = QStringLiteral("&Dados"),
             .key = Qt::Key_F5,
             .needs = MenuNeeds::Employees,
-            .open = [at, rotation](QWidget* parent) { openTimeCard(at, *rotation, parent); },
+            .open = [at, rotation, openLeaves](
+                        QWidget* parent) { openTimeCard(at, *rotation, openLeaves, parent); },
             .state =
                 [](const MonthProgress* progress) {
                     return progress && progress->month ? QStringLiteral("%1 de %2 preenchidos")

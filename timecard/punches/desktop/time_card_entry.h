@@ -3,14 +3,21 @@
 #include "foundation/desk/command.h"
 #include "foundation/desk/desktop/menu_entry.h"
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 namespace winvrx {
 
 class RotationCalendar;
 
-/// The time card's command of the main window.
+/// Opens the leaves, of the employee in hand where there is one, over a window.
+using LeavesOpener = std::function<void(const Workplace& at, QWidget* parent,
+                                        const std::optional<EmployeeCode>& inHand)>;
+
+/// The time card's command of the main window. Its window leads on to the leaves.
 [[nodiscard]] MenuEntry timeCardEntry(const Workplace& at,
-                                      std::shared_ptr<const RotationCalendar> rotation);
+                                      std::shared_ptr<const RotationCalendar> rotation,
+                                      LeavesOpener openLeaves);
 
 }  // namespace winvrx

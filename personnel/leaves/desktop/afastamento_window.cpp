@@ -1,0 +1,284 @@
+#include "personnel/leaves/desktop/afastamento_window.h"
+
+#include "foundation/register/desktop/employee_picker.h"
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
+#include "foundation/widgets/desktop/look.h"
+#include "personnel/leaves/afastamento.h"
+#include "personnel/leaves/desktop/leave_form_panel.h"
+#include "personnel/leaves/desktop/year_strip.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QToolButton>
+#include <QTreeWidget>
+
+namespace winvrx {
+
+namespace {
+
+constexpr int kSideWidth = 288;
+const QString kNoMonth =
+    QStringLiteral("Escolha primeiro o mês de trabalho em \"Mês de Trabalho\" (F7).");
+
+/// A leave as the list shows it; what its columns do not hold stands in the tip.
+QTreeWidgetItem* rowOf(const Leave& leave, const std::string& bytes) {
+    auto* row = new QTreeWidgetItem(
+        {toQt(leave.type), toQt(leave.firstDay), toQt(leave.lastDay), toQt(leave.duration)});
+    if (!leave.period()) row->setText(0, QStringLiteral("⚠ ") + row->text(0));
+    for (int column = 0; column < row->columnCount(); ++column)
+        row->setToolTip(column, toQt(readableText(bytes)));
+    return row;
+}
+
+}  // namespace
+
+AfastamentoWindow::AfastamentoWindow(Afastamento& command, QWidget* parent)
+    : ScreenWindow(QStringLiteral("afastamento"), QStringLiteral("Afastamento"), parent),
+      command_(command) {
+    auto* body = new QWidget(this);
+    auto* row = new QHBoxLayout(body);
+    look::layOutBody(*row);
+    row->setSpacing(look::kMargin);
+    row->addWidget(buildEmployees());
+    row->addWidget(buildLeaves(), 1);
+    setBody(body);
+    buildCommands();
+    addKeys();
+    refresh();
+    employees_->focusList();
+}
+
+QRadioButton* AfastamentoWindow::buildFilter(bool onlyWithLeaves, const char* name) {
+    auto* button = new QRadioButton(this);
+    button->setObjectName(QStringLiteral("leaves.") + QLatin1String(name));
+    connect(button, &QRadioButton::clicked, this, [this, onlyWithLeaves] {
+        (void)command_.showOnlyWithLeaves(onlyWithLeaves);
+        refresh();
+    });
+    return button;
+}
+
+QWidget* AfastamentoWindow::buildEmployees() {
+    auto* side = new QWidget(this);
+    side->setFixedWidth(kSideWidth);
+    auto* column = new QVBoxLayout(side);
+    look::layOutPart(*column);
+    everyone_ = buildFilter(false, "everyone");
+    withLeaves_ = buildFilter(true, "withLeaves");
+    column->addWidget(everyone_);
+    column->addWidget(withLeaves_);
+    employees_ = new EmployeePicker(command_.list(), {.screen = QStringLiteral("leaves")}, side);
+    connect(employees_, &EmployeePicker::shiftChosen, this, [this](ShiftFilter shift) {
+        (void)command_.filterBy(shift);
+        refresh();
+    });
+    connect(employees_, &EmployeePicker::employeeChosen, this, &AfastamentoWindow::chooseEmployee);
+    connect(employees_, &EmployeePicker::opened, this, [this] {
+        if (command_.file().leaves.empty())
+            form_->focus(LeaveInput::Type);
+        else
+            leaves_->setFocus(Qt::TabFocusReason);
+    });
+    column->addWidget(employees_, 1);
+    return side;
+}
+
+QWidget* AfastamentoWindow::buildLeaves() {
+    auto* part = new QWidget(this);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    auto* row = new QHBoxLayout;
+    look::layOutPart(*row);
+    row->setSpacing(look::kMargin);
+    row->addLayout(buildList(part), 1);
+    year_ = new YearStrip(part);
+    row->addWidget(year_);
+    column->addLayout(row, 1);
+    form_ = new LeaveFormPanel(command_, part);
+    connect(form_, &LeaveFormPanel::edited, this, &AfastamentoWindow::showState);
+    column->addWidget(form_);
+    return part;
+}
+
+QLayout* AfastamentoWindow::buildList(QWidget* part) {
+    auto* column = new QVBoxLayout;
+    look::layOutPart(*column);
+    name_ = look::heading(QString(), part);
+    name_->setObjectName(QStringLiteral("leaves.name"));
+    column->addWidget(name_);
+    contradiction_ = look::label(QString(), look::TextSize::Hint, part);
+    contradiction_->setObjectName(QStringLiteral("leaves.contradiction"));
+    look::setTint(*contradiction_, look::Tint::Warning);
+    column->addWidget(contradiction_);
+    leaves_ = look::table(QStringLiteral("leaves.list"), QStringLiteral("Afastamentos"),
+                          {QStringLiteral("Tipo"), QStringLiteral("Primeiro dia"),
+                           QStringLiteral("Último dia"), QStringLiteral("Duração")},
+                          part);
+    leaves_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    connect(leaves_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+        if (item) chooseLeave(leaves_->indexOfTopLevelItem(item));
+    });
+    connect(leaves_, &QTreeWidget::itemDoubleClicked, this,
+            [this] { form_->focus(LeaveInput::Type); });
+    leaves_->installEventFilter(this);
+    column->addWidget(leaves_, 1);
+    return column;
+}
+
+void AfastamentoWindow::buildCommands() {
+    const auto add = [this](const char* icon, const QString& text, const QKeySequence& key,
+                            const char* name, auto act, QWidget* within = nullptr) {
+        QToolButton* button = addCommand(QLatin1String(icon), text, key,
+                                         QStringLiteral("leaves.") + QLatin1String(name), within);
+        connect(button, &QToolButton::clicked, this, act);
+        return button;
+    };
+    add("add", QStringLiteral("Adicionar Afastamento"), Qt::Key_Insert, "add",
+        [this] { beginOrAdd(); });
+    add("edit", QStringLiteral("Alterar Afastamento"), Qt::Key_F2, "change", [this] { change(); });
+    add(
+        "delete", QStringLiteral("Excluir Afastamento"), Qt::Key_Delete, "remove",
+        [this] { showOutcome(command_.remove()); }, leaves_);
+    activation_ = add("employees", QString(), Qt::Key_F9, "activation", [this] {
+        form_->finishTyping();
+        showOutcome(command_.changeActivation());
+    });
+    add("month", QStringLiteral("Mês de Trabalho"), Qt::Key_F7, "month", [this] {
+        if (command_.confirmLeaving()) emit monthRequested();
+    });
+    QPushButton* save = addClosingButton(QStringLiteral("&Gravar"), QStringLiteral("leaves.save"));
+    save->setIcon(look::icon(QStringLiteral("save")));
+    save->setDefault(true);
+    const auto record = [this] { command_.chosen() ? change() : beginOrAdd(); };
+    connect(save, &QPushButton::clicked, this, record);
+    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, record);
+    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("leaves.close"));
+    connect(close, &QPushButton::clicked, this, &AfastamentoWindow::reject);
+}
+
+void AfastamentoWindow::addKeys() {
+    for (const auto& [key, by] : {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)}) {
+        auto* move = new QShortcut(key, this);
+        connect(move, &QShortcut::activated, employees_,
+                [this, step = by] { employees_->step(step); });
+    }
+}
+
+void AfastamentoWindow::refresh() {
+    if (!command_.selected() && !command_.list().employees().empty()) (void)command_.select(0);
+    if (command_.month())
+        setChips({toQt(command_.companyTitle()), toQt(command_.periodCaption()),
+                  toQt(monthTitle(*command_.month()))});
+    everyone_->setText(QStringLiteral("Funcionários (%1)").arg(command_.count(false)));
+    withLeaves_->setText(
+        QStringLiteral("Todos com Registro de Afastamento (%1)").arg(command_.count(true)));
+    (command_.showsOnlyWithLeaves() ? withLeaves_ : everyone_)->setChecked(true);
+    employees_->setHint(command_.month() ? QString() : kNoMonth);
+    employees_->refresh();
+    showEmployee();
+}
+
+void AfastamentoWindow::chooseEmployee(std::size_t position) {
+    form_->finishTyping();
+    if (command_.selectedPosition() != position) (void)command_.select(position);
+    showEmployee();
+}
+
+void AfastamentoWindow::showEmployee() {
+    employees_->select(command_.selectedPosition());
+    const Employee* one = command_.selected();
+    name_->setText(one ? toQt(one->code + " " + one->name)
+                       : QStringLiteral("Nenhum funcionário selecionado"));
+    const QString disagree = toQt(command_.contradiction());
+    contradiction_->setText(QStringLiteral("⚠ ") + disagree);
+    contradiction_->setVisible(!disagree.isEmpty());
+    activation_->setText(toQt(command_.activationCaption()) + QStringLiteral("  F9"));
+    activation_->setToolTip(activation_->text());
+    activation_->setAccessibleName(toQt(command_.activationCaption()));
+    showLeaves();
+    form_->refresh();
+    showState();
+}
+
+void AfastamentoWindow::showLeaves() {
+    const QSignalBlocker quiet(leaves_);
+    leaves_->clear();
+    for (const auto& line : command_.file().leaves)
+        leaves_->addTopLevelItem(rowOf(line.record, line.bytes));
+    const auto chosen = command_.chosen();
+    leaves_->setCurrentItem(chosen ? leaves_->topLevelItem(static_cast<int>(*chosen)) : nullptr);
+    const auto period = command_.form().period();
+    const auto of = [](Date date) { return std::optional(date.year()); };
+    year_->show(command_.calendar(), chosen && period   ? of(period->first)
+                                     : command_.month() ? std::optional(command_.month()->year())
+                                                        : std::nullopt);
+}
+
+void AfastamentoWindow::chooseLeave(int row) {
+    form_->finishTyping();
+    (void)command_.choose(static_cast<std::size_t>(row));
+    // The list is still handling the key or click that moved it.
+    QMetaObject::invokeMethod(
+        this, [this] { showEmployee(); }, Qt::QueuedConnection);
+}
+
+void AfastamentoWindow::beginOrAdd() {
+    form_->finishTyping();
+    const bool fresh = command_.chosen() && !command_.form().isChanged();
+    if (!fresh) return showOutcome(command_.add());
+    if (!command_.begin()) return;
+    showEmployee();
+    form_->focus(LeaveInput::Type);
+}
+
+void AfastamentoWindow::change() {
+    form_->finishTyping();
+    if (command_.chosen() && !command_.form().isChanged()) return form_->focus(LeaveInput::Type);
+    showOutcome(command_.change());
+}
+
+void AfastamentoWindow::showOutcome(bool done) {
+    if (done) {
+        refresh();
+        leaves_->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    form_->follow();
+    if (command_.blamed()) form_->focus(*command_.blamed());
+    showState();
+}
+
+void AfastamentoWindow::showState() {
+    const std::size_t count = command_.file().leaves.size();
+    QString text = count == 0
+                       ? QStringLiteral("Nenhum afastamento. Preencha os campos e tecle Ins.")
+                   : count == 1 ? QStringLiteral("1 afastamento")
+                                : QStringLiteral("%1 afastamentos").arg(count);
+    if (!command_.selected()) text.clear();
+    if (command_.form().isChanged()) text = QStringLiteral("Alterações não gravadas");
+    setState(text);
+}
+
+/// ENTER on a leave goes on to its fields.
+bool AfastamentoWindow::eventFilter(QObject* watched, QEvent* event) {
+    const int key =
+        event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : Qt::Key_unknown;
+    if (watched != leaves_ || (key != Qt::Key_Return && key != Qt::Key_Enter))
+        return ScreenWindow::eventFilter(watched, event);
+    form_->focus(LeaveInput::Type);
+    return true;
+}
+
+bool AfastamentoWindow::mayClose() {
+    form_->finishTyping();
+    return command_.confirmLeaving();
+}
+
+}  // namespace winvrx

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "foundation/widgets/desktop/screen_window.h"
+
+#include <optional>
+
+class QLabel;
+class QLayout;
+class QRadioButton;
+class QToolButton;
+class QTreeWidget;
+
+namespace winvrx {
+
+class Afastamento;
+class EmployeePicker;
+class LeaveFormPanel;
+class YearStrip;
+
+/// The window of the leave screen: employees at the left; the leaves of the one chosen with his
+/// year, and the fields, at the right. `command` outlives it.
+class AfastamentoWindow : public ScreenWindow {
+    Q_OBJECT
+
+  public:
+    explicit AfastamentoWindow(Afastamento& command, QWidget* parent = nullptr);
+
+    /// Shows again what the command holds.
+    void refresh();
+
+  signals:
+    /// Whoever listens shows the work month, opens the command again and refreshes this window.
+    void monthRequested();
+
+  protected:
+    bool mayClose() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    [[nodiscard]] QWidget* buildEmployees();
+    [[nodiscard]] QRadioButton* buildFilter(bool onlyWithLeaves, const char* name);
+    [[nodiscard]] QWidget* buildLeaves();
+    [[nodiscard]] QLayout* buildList(QWidget* part);
+    void buildCommands();
+    void addKeys();
+
+    void chooseEmployee(std::size_t position);
+    void chooseLeave(int row);
+    void beginOrAdd();
+    void change();
+    /// Shows what a command came to, and where it ended for a field.
+    void showOutcome(bool done);
+    void showEmployee();
+    void showLeaves();
+    void showState();
+
+    Afastamento& command_;
+    EmployeePicker* employees_ = nullptr;
+    QRadioButton* everyone_ = nullptr;
+    QRadioButton* withLeaves_ = nullptr;
+    QLabel* name_ = nullptr;
+    QLabel* contradiction_ = nullptr;
+    QTreeWidget* leaves_ = nullptr;
+    YearStrip* year_ = nullptr;
+    LeaveFormPanel* form_ = nullptr;
+    QToolButton* activation_ = nullptr;
+};
+
+}  // namespace winvrx

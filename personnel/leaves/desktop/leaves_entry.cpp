@@ -1,0 +1,36 @@
+#include "personnel/leaves/desktop/leaves_entry.h"
+
+#include "foundation/register/employee_queries.h"
+#include "foundation/register/leave_record.h"
+#include "personnel/leaves/afastamento.h"
+#include "personnel/leaves/desktop/afastamento_window.h"
+#include "timecard/month/desktop/month_entry.h"
+
+namespace winvrx {
+
+void openLeaves(const Workplace& at, QWidget* parent, const std::optional<EmployeeCode>& inHand) {
+    const RecordedAnswers records(at.store());
+    Afastamento leaves(at, records);
+    if (leaves.open() && inHand) (void)leaves.select(*inHand);
+    AfastamentoWindow window(leaves, parent);
+    QObject::connect(&window, &AfastamentoWindow::monthRequested, &window, [&] {
+        openWorkMonth(at, &window);
+        (void)leaves.open();
+        window.refresh();
+    });
+    window.exec();
+}
+
+MenuEntry leavesEntry(const Workplace& at) {
+    return {
+        .group = QStringLiteral("Pessoal"),
+        .objectName = QStringLiteral("menu.leaves.open"),
+        .icon = QStringLiteral("leave"),
+        .title = QStringLiteral("Afastame&ntos"),
+        .key = Qt::Key_F10,
+        .needs = MenuNeeds::Employees,
+        .open = [at](QWidget* parent) { openLeaves(at, parent); },
+        .state = [](const MonthProgress*) { return QStringLiteral("Faltas, férias e rescisão"); }};
+}
+
+}  // namespace winvrx
