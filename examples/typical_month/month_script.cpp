@@ -31,8 +31,8 @@ struct Person {
 
 void registerCompany(Player& player) {
     player.picture("janela-vazia"_t);
-    player.click("menu.companies.open"_t);
-    player.click("empresa.include"_t);
+    player.press(Qt::Key_F2);
+    player.press(Qt::Key_Insert);
     player.type("empresa.name"_t, "PADARIA PÃO DE MEL LTDA"_t);
     player.type("empresa.taxId"_t, "11.222.333/0001-81"_t);
     player.type("empresa.address"_t, "RUA DAS ACÁCIAS, 120"_t);
@@ -42,9 +42,9 @@ void registerCompany(Player& player) {
     player.type("empresa.postalCode"_t, "12020-330"_t);
     player.type("empresa.owner"_t, "MARIA HELENA PRADO"_t);
     player.picture("empresas"_t);
-    player.click("empresa.include"_t);
+    player.press(Qt::CTRL | Qt::Key_S);
     player.answer("Confirma a Inclusão?"_t, Answer::Yes);
-    player.click("empresa.close"_t);
+    player.press(Qt::Key_Escape);
     player.choose("menu.companies"_t, "PADARIA"_t);
 }
 
@@ -59,7 +59,7 @@ void registerPerson(Player& player, const Person& person) {
     player.openTab("empregados.tabs"_t, "Documentos"_t);
     player.type("empregados.workBooklet"_t, person.workBooklet);
     player.type("empregados.registration"_t, person.registration);
-    player.click("empregados.include"_t);
+    player.press(Qt::CTRL | Qt::Key_S);
     player.answer("Confirma a Inclusão na LISTA DE FUNCIONARIOS?"_t, Answer::Yes);
 }
 
@@ -91,14 +91,14 @@ void lookAtImport(Player& player) {
 }
 
 void registerEmployees(Player& player) {
-    player.click("menu.employees.open"_t);
+    player.press(Qt::Key_F3);
     player.picture("funcionarios-vazio"_t);
     registerPerson(player, {"001"_t, "JOSÉ DA CONCEIÇÃO"_t, "PADEIRO"_t, "12345/00010-SP"_t,
                             "00001"_t, "02/05/2019"_t, "Comercial"_t});
-    player.click("empregados.include"_t);
+    player.press(Qt::Key_Insert);
     registerPerson(player, {"002"_t, "ANA PAULA D'ÁVILA"_t, "BALCONISTA"_t, "67890/00022-SP"_t,
                             "00002"_t, "12/03/2024"_t, "Comercial"_t});
-    player.click("empregados.include"_t);
+    player.press(Qt::Key_Insert);
     registerPerson(player, {"003"_t, "JOÃO BATISTA LIMA"_t, "VIGIA NOTURNO"_t, "24680/00031-SP"_t,
                             "00003"_t, "10/01/2022"_t, "Noite"_t});
     player.choose("empregados.list"_t, "001"_t);
@@ -111,34 +111,34 @@ void registerEmployees(Player& player) {
                   Answer::Yes);
     lookAtReports(player);
     lookAtImport(player);
-    player.click("empregados.close"_t);
+    player.press(Qt::Key_Escape);
 }
 
 void lookAtShifts(Player& player) {
-    player.click("menu.shifts.open"_t);
+    player.press(Qt::Key_F9);
     player.choose("turnos.employees"_t, "003"_t);
     player.picture("turnos"_t);
-    player.click("turnos.close"_t);
+    player.press(Qt::Key_Escape);
 }
 
 void chooseMonth(Player& player) {
-    player.click("menu.month.open"_t);
+    player.press(Qt::Key_F4);
     player.choose("month.month"_t, "fevereiro/2024"_t);
     player.picture("mes-carnaval"_t);
-    player.click("month.localHolidays"_t);
+    player.press(Qt::Key_F6);
     player.picture("feriados-vazio"_t);
     player.type("feriados.day"_t, "0512"_t);
     player.type("feriados.name"_t, "ANIVERSÁRIO DE TAUBATÉ"_t);
-    player.click("feriados.include"_t);
+    player.press(Qt::CTRL | Qt::Key_S);
     player.answer("Confirma a Inclusão?"_t, Answer::Yes);
     player.picture("feriados"_t);
-    player.click("feriados.close"_t);
+    player.press(Qt::Key_Escape);
     player.choose("month.month"_t, "março/2024"_t);
     player.picture("mes"_t);
-    player.click("month.updateAll"_t);
+    player.press(Qt::Key_F7);
     player.answer("Confirma Atualizar as Horas Extras de MARÇO/2024 p/Todos os Funcionários"_t,
                   Answer::Yes);
-    player.click("month.confirm"_t);
+    player.press(Qt::ALT | Qt::Key_C);
     player.answer("Há feriados sugeridos que não estão marcados. Deseja marcá-los?"_t, Answer::Yes);
     player.picture("janela-com-mes"_t);
 }
@@ -147,7 +147,7 @@ void recordHours(Player& player, const Text& code, const std::array<Text, 8>& ti
     player.choose("card.employees"_t, code);
     for (std::size_t i = 0; i < times.size(); ++i)
         if (!times[i].isEmpty()) player.type("schedule.time%1"_t.arg(i + 1), times[i]);
-    player.click("schedule.save"_t);
+    player.press(Qt::ALT | Qt::Key_H);
     player.answer("No SÁBADO Será HORA NORMAL?"_t, Answer::Yes);
 }
 
@@ -164,63 +164,61 @@ void correctDays(Player& player) {
     player.typeCell(grid, kTuesday, 3, "1150"_t);
     player.picture("dados-aviso"_t);
     player.typeCell(grid, kTuesday, 3, "1310"_t);
-    for (int column = 1; column <= 4; ++column)
-        player.typeCell(grid, kAbsent, column, {});
     player.typeCell(grid, kAbsent, kSituation, "Falta"_t);
-    player.click("card.save"_t);
+    player.press(Qt::CTRL | Qt::Key_S);
     player.picture("dados"_t);
     player.choose("hours.table"_t, "Hora Falta"_t);
     player.picture("explicacao"_t);
-    player.click("hoursExplanation.close"_t);
-    player.click("card.otherHalf"_t);
+    player.press(Qt::Key_Escape);
+    player.press(Qt::Key_F6);
     player.picture("dados-segunda-quinzena"_t);
 }
 
 void applyCards(Player& player) {
-    player.click("menu.timecard.open"_t);
+    player.press(Qt::Key_F5);
     recordHours(player, "001"_t,
                 {"08:00"_t, "12:00"_t, "13:00"_t, "17:00"_t, "08:00"_t, "12:00"_t});
     recordHours(player, "002"_t,
                 {"09:00"_t, "13:00"_t, "14:00"_t, "18:00"_t, "09:00"_t, "13:00"_t});
     recordHours(player, "003"_t,
                 {"22:00"_t, "02:00"_t, "03:00"_t, "06:00"_t, "22:00"_t, "02:00"_t});
-    player.click("card.applyToAll"_t);
+    player.press(Qt::SHIFT | Qt::Key_F9);
     player.answer("Esta Operação Irá Apagar Todos os Dados Já Existentes"_t, Answer::Ok);
     player.answer("Tem Certeza que Deseja Substituir"_t, Answer::Ok);
     player.picture("aplicar-todos"_t);
     player.answer("Confirma Aplicação de Ponto"_t, Answer::Yes);
     correctDays(player);
-    player.click("card.close"_t);
+    player.press(Qt::Key_Escape);
 }
 
 void lookAtPrinters(Player& player) {
-    player.click("cartao.printer"_t);
+    player.press(Qt::CTRL | Qt::Key_R);
     player.tick("impressorar.kind.installed"_t, true);
     player.choose("impressorar.printers"_t, "LaserJet"_t);
     player.picture("impressoras"_t);
     player.tick("impressorar.kind.default"_t, true);
-    player.click("impressorar.close"_t);
+    player.press(Qt::Key_Escape);
 }
 
 /// Moves the print back to where it began, so that the cards lie where they belong.
 void alignPrint(Player& player) {
-    player.click("cartao.alignment"_t);
+    player.press(Qt::CTRL | Qt::Key_J);
     for (int step = 0; step < 3; ++step)
-        player.click("alinhamento.right"_t);
+        player.press(Qt::CTRL | Qt::Key_Right);
     player.picture("alinhamento"_t);
     player.openTab("cartaoPontos.tabs"_t, "calibração"_t);
     player.picture("calibracao"_t);
-    player.click("cartaoPontos.reset"_t);
+    player.press(Qt::CTRL | Qt::Key_R);
     player.answer("Confirma a Volta de Todos os Alinhamentos ao Padrão?"_t, Answer::Yes);
-    player.click("cartaoPontos.close"_t);
+    player.press(Qt::Key_Escape);
 }
 
 void printCards(Player& player) {
-    player.click("menu.print.open"_t);
-    player.click("cartao.stock"_t);
+    player.press(Qt::Key_F6);
+    player.press(Qt::CTRL | Qt::Key_T);
     player.tick("tipoPonto.stocks.01"_t, true);
     player.picture("tipo"_t);
-    player.click("tipoPonto.close"_t);
+    player.press(Qt::Key_Escape);
     lookAtPrinters(player);
     alignPrint(player);
     player.choose("cartao.employees"_t, "001"_t);
@@ -228,10 +226,10 @@ void printCards(Player& player) {
     player.tick("cartao.output.preview"_t, true);
     player.click("cartao.printAll"_t);
     player.picture("previa"_t);
-    player.click("preview.close"_t);
+    player.press(Qt::Key_Escape);
     player.tick("cartao.output.printer"_t, true);
     player.click("cartao.printAll"_t);
-    player.click("cartao.close"_t);
+    player.press(Qt::Key_Escape);
 }
 
 /// The page as it is shown where the desktop has no browser.
@@ -248,9 +246,9 @@ void lookAtHelp(Player& player) {
 }
 
 void lookAtCopies(Player& player) {
-    player.click("menu.restore.open"_t);
+    player.press(Qt::Key_F8);
     player.picture("restaurar"_t);
-    player.click("restaurar.close"_t);
+    player.press(Qt::Key_Escape);
 }
 
 }  // namespace

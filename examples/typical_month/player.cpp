@@ -26,6 +26,7 @@ namespace {
 
 /// Milliseconds between two steps: a timer's, for a pause of none would be a posted event.
 constexpr int kStepPause = 1;
+constexpr int kPatience = 1000;  ///< steps that may pass before a box is there
 
 QMessageBox::StandardButton buttonOf(Answer answer) {
     switch (answer) {
@@ -88,6 +89,21 @@ void Player::click(const QString& name) {
     then([this, name] { QTest::mouseClick(find(name), Qt::LeftButton); });
 }
 
+void Player::press(QKeyCombination key) {
+    then([this, key] { pressNow(key); });
+}
+
+/// Tries again while the window is not the active one, as keys go to that.
+void Player::pressNow(QKeyCombination key) {
+    QWidget* window = present();
+    if (!window->isActiveWindow()) {
+        window->activateWindow();
+        return steps_.push_front([this, key] { pressNow(key); });
+    }
+    QWidget* focus = window->focusWidget() ? window->focusWidget() : window;
+    QTest::keyClick(focus, key.key(), key.keyboardModifiers());
+}
+
 void Player::trigger(const QString& name) {
     then([this, name] {
         auto* action = present()->findChild<QAction*>(name);
@@ -130,10 +146,6 @@ void Player::typeCell(const QString& name, int row, int column, const QString& t
 void Player::typeCellNow(QAbstractItemView& grid, const QModelIndex& cell, const QString& text) {
     grid.setFocus();
     grid.setCurrentIndex(cell);
-    if (text.isEmpty()) {
-        QTest::keyClick(&grid, Qt::Key_Delete);
-        return;
-    }
     QWidget* editor = &grid;
     for (const QChar letter : text) {
         QTest::sendKeyEvent(QTest::Click, editor, Qt::Key_unknown, QString(letter), Qt::NoModifier);
@@ -184,11 +196,14 @@ void Player::openTab(const QString& name, const QString& title) {
 }
 
 void Player::answer(const QString& text, Answer answer) {
-    then([this, text, answer] { answerNow(text, answer); });
+    then([this, text, answer] { answerNow(text, answer, kPatience); });
 }
 
-void Player::answerNow(const QString& text, Answer answer) {
+/// Tries again while there is no box: a button acts on its letter a moment later.
+void Player::answerNow(const QString& text, Answer answer, int tries) {
     auto* box = qobject_cast<QMessageBox*>(present());
+    if (!box && tries > 0)
+        return steps_.push_front([=, this] { answerNow(text, answer, tries - 1); });
     if (!box) fail(QStringLiteral("no message box, wanted: ") + text);
     if (!box->text().startsWith(text))
         fail(QStringLiteral("the message box says: ") + box->text() + box->informativeText());
@@ -196,7 +211,8 @@ void Player::answerNow(const QString& text, Answer answer) {
     if (!button) fail(QStringLiteral("no such button: ") + text);
     record(box->windowTitle(), box->text(), iconName(box->icon()),
            button->text().remove(QLatin1Char('&')));
-    QTest::mouseClick(button, Qt::LeftButton);
+    button->setFocus();
+    QTest::keyClick(button, Qt::Key_Space);
 }
 
 void Player::picture(const QString& name) {

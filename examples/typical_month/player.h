@@ -28,6 +28,8 @@ class Player : public QObject {
     /// and what a screen reader could not tell of the windows to `folder`/leitor-de-tela.txt.
     explicit Player(QString folder);
 
+    /// Presses a key where the focus is.
+    void press(QKeyCombination key);
     void click(const QString& name);
     /// Gives a command of a menu.
     void trigger(const QString& name);
@@ -35,7 +37,7 @@ class Player : public QObject {
     void chooseFile(const QString& path);
     /// Replaces the text of a field by key presses.
     void type(const QString& name, const QString& text);
-    /// Types into a cell of a grid and ends with ENTER; an empty text empties the cell.
+    /// Types into a cell of a grid and ends with ENTER.
     void typeCell(const QString& name, int row, int column, const QString& text);
     /// Picks the entry of a list or combo box whose text contains `text`.
     void choose(const QString& name, const QString& text);
@@ -62,8 +64,9 @@ class Player : public QObject {
     [[noreturn]] void fail(const QString& reason) const;
     [[nodiscard]] static QWidget* present();
     [[nodiscard]] QWidget* find(const QString& name) const;
+    void pressNow(QKeyCombination key);
     void typeCellNow(QAbstractItemView& grid, const QModelIndex& cell, const QString& text);
-    void answerNow(const QString& text, Answer answer);
+    void answerNow(const QString& text, Answer answer, int tries);
     void savePicture(QWidget* window, const QString& name);
     [[nodiscard]] QWidget* beside(const QString& objectName) const;
     void record(const QString& title, const QString& text, const QString& icon,

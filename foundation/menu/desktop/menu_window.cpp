@@ -316,7 +316,8 @@ void MenuWindow::showOverview() {
     monthName_->setText(toQt(monthTitle(overview.month)));
     offered_->setVisible(overview.offered && menu_.selected());
     if (overview.offered)
-        offered_->setText(QStringLiteral("Confirmar ") + toQt(monthTitle(*overview.offered)));
+        offered_->setText(
+            QStringLiteral("Confirmar %1 ↵").arg(toQt(monthTitle(*overview.offered))));
     month_->show(overview, today);
     const QString counts =
         QStringLiteral("Dias úteis %1 · DSR %2").arg(overview.businessDays).arg(overview.restDays);

@@ -95,6 +95,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
             break;
         }
         case PE_Frame:
+        case PE_FrameLineEdit:
             drawFrame(*option, *painter, Qt::NoBrush);
             break;
         case PE_IndicatorCheckBox:

@@ -118,7 +118,7 @@ TEST_F(MenuWindowTest, EnterOnTheCompanyInUseConfirmsTheMonthOffered) {
     ASSERT_TRUE(window_.start());
     const WindowDriver driver(window_);
     const auto& offer = driver.find<QPushButton>("menu.confirmMonth");
-    EXPECT_EQ(offer.text().toStdString(), "Confirmar fevereiro/2024");
+    EXPECT_EQ(offer.text().toStdString(), "Confirmar fevereiro/2024 ↵");
     EXPECT_EQ(driver.focusName(), "menu.search");
     driver.press(Qt::Key_Return);
     EXPECT_EQ(calendar_.confirmed, 1);
