@@ -23,7 +23,7 @@ void checkGroup(const RotationGroup& group) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     testing::MemoryFiles files;
     const Store store{files, fuzz::kFolder};
-    const std::string text = fuzz::textOf(data, size);
+    const std::string text(fuzz::textOf(data, size));
     files.content["/data/01GRUPO-032024.rdx"] = files.content["/data/01er.rdx"] = text;
     for (const GroupLine& line : groupFile(store, fuzz::kCompany, kMonth).load()) {
         require(encode(line.record, line.bytes) == fuzz::widened(line.bytes, kGroupWidth) ||

@@ -1,4 +1,5 @@
 #include "tests/timecard/rotation/rotation_screen.h"
+#include "timecard/hours/employee_hours.h"
 #include "timecard/punches/cartao_ponto_dados.h"
 
 #include <gmock/gmock.h>
@@ -211,6 +212,32 @@ TEST_F(AppliedRotation, CardsFollowThePlan) {
     EXPECT_THAT(dayOf(7, 9), HasSubstr("DESCANSO SEMANA"));
     const auto schedule = loadSchedule(desk.store(), {kCompany, code(7)}).value();
     EXPECT_EQ(schedule.weekday.afternoon.exit, parseTime("17:20")) << "hours are compared with it";
+}
+
+TEST_F(Rotation, ANightTeamGoesThroughCardAndHours) {
+    show(ShiftFilter::Tres, Scale::Normal);
+    show(ShiftFilter::Tres, Scale::TwelveByThirtySix);
+    ASSERT_TRUE(screen.newGroup() && screen.add({at(10), at(11)}));
+    ASSERT_TRUE(save());
+    const RotationRecords rotation(desk.store(), desk.clock);
+    CartaoPontoDados cards(desk.at, {rotation, locks});
+    ASSERT_TRUE(cards.open() && cards.filterBy(Scale::TwelveByThirtySix) && cards.select(0));
+    desk.person.answers = {Answer::Ok, Answer::Ok, Answer::Yes};
+    ASSERT_TRUE(cards.applyToAll(false));
+    EXPECT_EQ(cards.filledCards(), 2) << "the other two are in no group";
+    EXPECT_THAT(desk.person.shown.back().detail, HasSubstr("escala de revezamento sem grupo"));
+    const auto hours = loadEmployeeHours(desk.store(), kCompany, people().at(9), screen.settings(),
+                                         HoursPeriod::CalendarMonth);
+    ASSERT_TRUE(hours.has_value());
+    const HourTotals totals = hours->totals();
+    // Off on the first, so at work on fifteen even days, of which the 10th and the 24th are
+    // Sundays.
+    EXPECT_EQ(totals[HourCategory::Standard], 13 * 12h);
+    EXPECT_EQ(totals[HourCategory::NormalDay], 13 * 5h) << "19 to 22 and 5 to 7";
+    EXPECT_EQ(totals[HourCategory::NormalNight], 13 * 7h);
+    EXPECT_EQ(totals[HourCategory::ExtraMaximum], 2 * 5h);
+    EXPECT_EQ(totals[HourCategory::NightExtraMaximum], 2 * 7h);
+    EXPECT_EQ(totals[HourCategory::Missing], 0h);
 }
 
 TEST_F(AppliedRotation, MovingTheStartAppliesAgain) {

@@ -29,6 +29,11 @@ struct RotationScreen : ::testing::Test {
 
     void SetUp() override {
         using namespace std::chrono_literals;
+        desk.file("01CartaPonto") = employeeList(people());
+        choose(2024y / 3);
+    }
+
+    [[nodiscard]] static std::vector<Employee> people() {
         std::vector<Employee> people;
         for (int number = 1; number <= 14; ++number) {
             const std::string scale = number <= 9 ? "5x1" : number <= 13 ? "12x36" : "Norma";
@@ -36,8 +41,7 @@ struct RotationScreen : ::testing::Test {
                 employee(code(number).text(), "E" + std::to_string(number),
                          {number > 9 && number < 14 ? "Tres" : "Unico", scale, "01/02/2020"}));
         }
-        desk.file("01CartaPonto") = employeeList(people);
-        choose(2024y / 3);
+        return people;
     }
 
     void choose(WorkMonth month) {
