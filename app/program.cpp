@@ -62,7 +62,7 @@ Program::Program(const ProgramDesk& desk)
           menu_, at_, calendar_,
           menuEntries(at_, {*browser_, *engine_, *printers_, [this] { return layoutPlaces(); }},
                       *editor_, copies_),
-          [this] { return progress(); })) {
+          [this](std::optional<WorkMonth> month) { return progress(month); })) {
     ScreenWindow::setHelp([this] { openHelp(at_, *browser_); });
 }
 
@@ -74,9 +74,9 @@ bool Program::start() {
     return window_->start();
 }
 
-std::optional<MonthProgress> Program::progress() const {
+std::optional<MonthProgress> Program::progress(std::optional<WorkMonth> month) const {
     if (!session_.company) return std::nullopt;
-    return monthProgress(at_.store(), *session_.company, session_.shiftFilter);
+    return monthProgress(at_.store(), *session_.company, session_.shiftFilter, month);
 }
 
 std::unique_ptr<TextEditor> Program::makeEditor() {

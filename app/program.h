@@ -56,7 +56,7 @@ class Program {
     [[nodiscard]] std::unique_ptr<TextEditor> makeEditor();
     [[nodiscard]] std::unique_ptr<ReportEngine> makeEngine();
     [[nodiscard]] std::vector<std::filesystem::path> layoutPlaces() const;
-    [[nodiscard]] std::optional<MonthProgress> progress() const;
+    [[nodiscard]] std::optional<MonthProgress> progress(std::optional<WorkMonth> month) const;
 
     ProgramDesk desk_;
     std::unique_ptr<FileSystem> files_;

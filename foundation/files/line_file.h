@@ -74,11 +74,15 @@ class LineFile {
     explicit LineFile(RecordFile file) : file_(std::move(file)) {}
 
     /// In file order; empty when there is no file.
-    [[nodiscard]] Lines load() const {
+    [[nodiscard]] Lines load() const { return loadIfAny().value_or(Lines()); }
+
+    /// nullopt when there is no file.
+    [[nodiscard]] std::optional<Lines> loadIfAny() const {
+        auto stored = file_.linesIfAny();
+        if (!stored) return std::nullopt;
         Lines lines;
-        std::vector<std::string> stored = file_.lines();
-        lines.reserve(stored.size());
-        for (std::string& bytes : stored)
+        lines.reserve(stored->size());
+        for (std::string& bytes : *stored)
             lines.push_back(lineFrom<Record>(std::move(bytes)));
         return lines;
     }

@@ -63,11 +63,16 @@ std::string joinedLines(const std::vector<std::string>& lineBytes) {
     return bytes;
 }
 
-std::vector<std::string> RecordFile::lines() const {
-    const std::string bytes = files_.read(path_).value_or(std::string());
-    const auto ends = std::count(bytes.begin(), bytes.end(), '\n');
+std::optional<std::vector<std::string>> RecordFile::linesIfAny() const {
+    const auto bytes = files_.read(path_);
+    if (!bytes) return std::nullopt;
+    const auto ends = std::count(bytes->begin(), bytes->end(), '\n');
     requireFewLines(static_cast<std::size_t>(ends), FileFault::Operation::Read, path_);
-    return splitLines(bytes);
+    return splitLines(*bytes);
+}
+
+std::vector<std::string> RecordFile::lines() const {
+    return linesIfAny().value_or(std::vector<std::string>());
 }
 
 std::vector<std::string> RecordFile::values() const {

@@ -83,6 +83,8 @@ class RecordFile {
     /// The lines as bytes, without their line ends. Accepts CR LF, bare LF and a last line without
     /// an end. Refuses more than kMostLines.
     [[nodiscard]] std::vector<std::string> lines() const;
+    /// The same; nullopt when there is no such file.
+    [[nodiscard]] std::optional<std::vector<std::string>> linesIfAny() const;
 
     /// The lines as trimmed UTF-8: for setting files of one value a line.
     [[nodiscard]] std::vector<std::string> values() const;

@@ -45,9 +45,9 @@ bool isDealtWith(const Store& store, std::string_view earlierFolder) {
 }
 
 /// The upper-case letter that a start memory holds; nullopt for anything else.
-std::optional<char> letterIn(const std::vector<std::string>& values) {
-    if (values.empty()) return std::nullopt;
-    const std::string letter = upperCase(values.front());
+std::optional<char> letterIn(const std::vector<std::string>& lines) {
+    if (lines.empty()) return std::nullopt;
+    const std::string letter = upperCase(decodeWindows1252(trimmed(lines.front())));
     if (letter.size() != 1 || letter[0] < 'A' || letter[0] > 'Z') return std::nullopt;
     return letter[0];
 }
@@ -97,10 +97,10 @@ void Menu::remember() {
 /// The letter of the start memory, which is written where it is missing.
 char Menu::rememberedLetter() {
     RecordFile memory(at_.files, localFolder(kDefaultDrive) / kStartMemoryName);
-    if (memory.exists()) return letterIn(memory.values()).value_or(kDefaultDrive);
+    if (const auto lines = memory.linesIfAny()) return letterIn(*lines).value_or(kDefaultDrive);
     at_.files.makeFolder(memory.path().parent_path());
     const auto hold = holdFolder(at_, memory.path().parent_path());
-    memory.append(std::string(1, kDefaultDrive));
+    memory.rewrite({std::string(1, kDefaultDrive)});
     return kDefaultDrive;
 }
 
@@ -222,9 +222,9 @@ bool Menu::require(MenuNeeds needs) {
     });
 }
 
-void Menu::offerEarlierData() {
-    for (const std::string_view literal : kEarlierFolders)
-        if (offerEarlier(literal)) return;
+bool Menu::offerEarlierData() {
+    return std::ranges::any_of(kEarlierFolders,
+                               [this](std::string_view literal) { return offerEarlier(literal); });
 }
 
 /// True when the data was imported, and there is no need of an older one.

@@ -39,8 +39,9 @@ class Menu {
     void load();
     /// Selects the company used last, or the only one.
     void selectAsBefore();
-    /// The last step of start-up: offers the data of an earlier installation.
-    void offerEarlierData();
+    /// The last step of start-up: offers the data of an earlier installation. True when it was
+    /// imported.
+    bool offerEarlierData();
 
     /// Reads the company list again and drops the selection when its company is gone.
     void reloadCompanies();

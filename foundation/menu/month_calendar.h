@@ -12,6 +12,7 @@ namespace winvrx {
 struct MonthOverview {
     WorkMonth month{};
     std::vector<Date> holidays;
+    std::optional<WorkMonth> inWork;   ///< chosen, and on record
     std::optional<WorkMonth> offered;  ///< none is chosen, and this one was confirmed last
     bool recorded = false;             ///< false: holidays and counts are only suggested
     int businessDays = 0;

@@ -5,13 +5,11 @@
 namespace winvrx {
 
 std::vector<CompanyLine> loadOrCreateCompanies(const Workplace& at) {
-    const DataFolder& folder = at.session.folder;
-    const auto missing = [&] { return !at.files.read(folder.file(kCompanyRegisterName)); };
-    if (missing()) {
-        const auto hold = holdFolder(at);
-        if (missing()) companyFile(at.store()).save({lineOf(sampleCompany(at.clock.today()))});
-    }
-    return loadCompanies(at.store());
+    auto companies = companyFile(at.store());
+    if (auto lines = companies.loadIfAny()) return *std::move(lines);
+    const auto hold = holdFolder(at);
+    if (!companies.loadIfAny()) companies.save({lineOf(sampleCompany(at.clock.today()))});
+    return companies.load();
 }
 
 std::optional<Company> findCompany(const Store& store, const CompanyCode& code) {

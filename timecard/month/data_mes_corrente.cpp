@@ -39,21 +39,14 @@ void DataMesCorrente::open() {
     });
 }
 
-std::optional<MonthSettings> DataMesCorrente::readRecord(WorkMonth month) const {
-    if (!hasMonthSettings(at_.store(), month)) return std::nullopt;
-    return loadMonthSettings(at_.store(), month);
-}
-
 void DataMesCorrente::load(WorkMonth month) {
     auto offer = offeredHolidays(at_.store(), month);
-    auto onDisk = readRecord(month);
-    auto unread = unreadMonthLines(at_.store(), month);
+    auto record = findMonthRecord(at_.store(), month);
     auto ownPercents = ownPercentsOfList(at_, month);
-    const auto before = onDisk ? std::nullopt : lastRecordedBefore(at_.store(), month);
-    model_ = before ? readRecord(*before) : std::nullopt;
+    const auto before = record ? std::nullopt : lastRecordedBefore(at_.store(), month);
+    model_ = before ? std::optional(loadMonthSettings(at_.store(), *before)) : std::nullopt;
     offer_ = std::move(offer);
-    onDisk_ = std::move(onDisk);
-    unread_ = std::move(unread);
+    takeRecord(std::move(record));
     ownPercents_ = std::move(ownPercents);
     settings_ = {};
     settings_.month = month;
@@ -61,6 +54,11 @@ void DataMesCorrente::load(WorkMonth month) {
     offerSettled_ = false;
     numbers_ = numbersOf(settings_);
     switched_ = false;
+}
+
+void DataMesCorrente::takeRecord(std::optional<MonthRecord> record) {
+    onDisk_ = record ? std::optional(record->settings) : std::nullopt;
+    unread_ = record ? std::move(record->unread) : std::vector<UnreadLine>();
 }
 
 std::vector<WorkMonth> DataMesCorrente::months() const {
@@ -102,10 +100,10 @@ void DataMesCorrente::clearTicks() {
 
 void DataMesCorrente::restoreTicks() {
     (void)attempt(at_, incorrectData(), [this] {
-        const auto record = readRecord(settings_.month);
-        settings_.holidayCells = record.value_or(MonthSettings()).holidayCells;
+        const auto record = findMonthRecord(at_.store(), settings_.month);
+        settings_.holidayCells = record.value_or(MonthRecord()).settings.holidayCells;
         opened_.holidayCells = settings_.holidayCells;
-        if (onDisk_ && record) onDisk_->holidayCells = record->holidayCells;
+        if (onDisk_ && record) onDisk_->holidayCells = settings_.holidayCells;
     });
 }
 
@@ -187,14 +185,14 @@ bool DataMesCorrente::changed() const {
 
 void DataMesCorrente::write() {
     MonthSettings toWrite = withNumbers(settings_, numbers_);
-    if (readRecord(settings_.month) != onDisk_)
+    const auto found = findMonthRecord(at_.store(), settings_.month);
+    if ((found ? std::optional(found->settings) : std::nullopt) != onDisk_)
         throw changedElsewhere("month", "Este mês foi alterado");
     if (!toWrite.recordTicks) toWrite.holidayCells = onDisk_.value_or(MonthSettings()).holidayCells;
-    saveMonthSettings(at_.store(), toWrite);
+    takeRecord(saveMonthSettings(at_.store(), toWrite));
     const auto shownTicks = settings_.holidayCells;
-    onDisk_ = opened_ = settings_ = toWrite;
+    opened_ = settings_ = toWrite;
     settings_.holidayCells = shownTicks;
-    unread_ = unreadMonthLines(at_.store(), toWrite.month);
 }
 
 bool DataMesCorrente::record() {

@@ -112,7 +112,7 @@ class DataMesCorrente {
 
   private:
     void load(WorkMonth month);
-    [[nodiscard]] std::optional<MonthSettings> readRecord(WorkMonth month) const;
+    void takeRecord(std::optional<MonthRecord> record);
     void write();
     /// What tickOffer would tick.
     [[nodiscard]] std::vector<Holiday> openOffer() const;

@@ -13,13 +13,13 @@ constexpr std::string_view kFromOffer = "Feriados ainda não confirmados.";
 }  // namespace
 
 TimecardCalendar::Seen TimecardCalendar::seen(WorkMonth month) const {
-    if (hasMonthSettings(at_.store(), month)) return {loadMonthSettings(at_.store(), month), true};
+    if (auto record = findMonthRecord(at_.store(), month)) return {record->settings, true};
     return {proposedSettings(month, offeredHolidays(at_.store(), month)), false};
 }
 
 std::optional<WorkMonth> TimecardCalendar::lastMonth() const {
     const auto last = at_.session.lastMonth;
-    return last && hasMonthSettings(at_.store(), *last) ? last : std::nullopt;
+    return last && findMonthRecord(at_.store(), *last) ? last : std::nullopt;
 }
 
 bool TimecardCalendar::confirmOffered() const {
@@ -41,6 +41,7 @@ MonthOverview TimecardCalendar::overview(Date today) const {
     const MonthDayCounts counts = countDays(chosen.settings);
     overview.holidays = chosen.settings.holidays();
     overview.recorded = chosen.isRecorded;
+    if (selected && chosen.isRecorded) overview.inWork = selected->month;
     overview.businessDays = counts.businessDays;
     overview.restDays = counts.restDays;
     overview.notices =

@@ -17,23 +17,37 @@ struct LineValue {
     bool (*take)(MonthSettings&, std::string_view);
 };
 
+/// A member of the settings, or of their overtime rules.
+template <auto Member>
+auto& valueIn(auto& settings) {
+    if constexpr (requires { settings.*Member; })
+        return settings.*Member;
+    else
+        return settings.overtime.*Member;
+}
+
 /// A whole number, also that of a switch or a choice.
-template <auto Of, int Lowest, int Highest>
+template <auto Member, int Lowest, int Highest>
 constexpr LineValue wholeNumber() {
     return {[](const MonthSettings& settings) {
-                return std::to_string(static_cast<int>(Of(settings)));
+                return std::to_string(static_cast<int>(valueIn<Member>(settings)));
             },
             [](MonthSettings& settings, std::string_view text) {
                 const auto number = parseWholeNumber(text, Lowest, Highest);
-                auto& value = Of(settings);
+                auto& value = valueIn<Member>(settings);
                 if (number) value = static_cast<std::remove_reference_t<decltype(value)>>(*number);
                 return number.has_value();
             }};
 }
 
-template <auto Of>
+template <auto Member>
 constexpr LineValue percent() {
-    return wholeNumber<Of, 0, kHighestPercent>();
+    return wholeNumber<Member, 0, kHighestPercent>();
+}
+
+template <auto Member>
+constexpr LineValue choice() {
+    return wholeNumber<Member, 0, 1>();
 }
 
 bool takeThreshold(MonthSettings& settings, std::string_view text) {
@@ -43,41 +57,20 @@ bool takeThreshold(MonthSettings& settings, std::string_view text) {
 }
 
 /// In the order of MonthLine.
-constexpr std::array kLineValues = {percent <
-                                        [](auto& of) -> auto& {return of.overtime.minimumPercent;
-}  // namespace
-> (), percent < [](auto& of) -> auto& {
-    return of.overtime.nightMinimumPercent;
-}
-> (), percent < [](auto& of) -> auto& {
-    return of.overtime.maximumPercent;
-}
-> (), percent < [](auto& of) -> auto& {
-    return of.overtime.nightMaximumPercent;
-}
-> (), wholeNumber < [](auto& of) -> auto& {
-    return of.recordTicks;
-}
-, 0, 1 > (), wholeNumber < [](auto& of) -> auto& {
-    return of.overtime.differentiatedPercent;
-}
-, 0, 1 > (), wholeNumber < [](auto& of) -> auto& {
-    return of.overtime.mode;
-}
-, 0, 1 > (), wholeNumber < [](auto& of) -> auto& {
-    return of.overtime.totalsFormat;
-}
-, 0, 1 > (),
+constexpr std::array kLineValues = {
+    percent<&OvertimeRules::minimumPercent>(),
+    percent<&OvertimeRules::nightMinimumPercent>(),
+    percent<&OvertimeRules::maximumPercent>(),
+    percent<&OvertimeRules::nightMaximumPercent>(),
+    choice<&MonthSettings::recordTicks>(),
+    choice<&OvertimeRules::differentiatedPercent>(),
+    choice<&OvertimeRules::mode>(),
+    choice<&OvertimeRules::totalsFormat>(),
     LineValue{[](const MonthSettings& of) { return thresholdText(of.overtime.threshold); },
               takeThreshold},
-    wholeNumber < [](auto& of) -> auto& {
-    return of.closingDay;
-}
-, 1, kHighestClosingDay > (), wholeNumber < [](auto& of) -> auto& {
-    return of.fixedMonth;
-}
-, 0, 1 > (),
-};  // namespace winvrx
+    wholeNumber<&MonthSettings::closingDay, 1, kHighestClosingDay>(),
+    choice<&MonthSettings::fixedMonth>(),
+};
 constexpr std::size_t kKnownLines = kHolidayCells + kLineValues.size();
 static_assert(static_cast<std::size_t>(MonthLine::FixedMonth) == kKnownLines);
 
@@ -99,18 +92,21 @@ bool takeText(MonthSettings& settings, std::size_t line, std::string_view text) 
     return ticked.has_value();
 }
 
-MonthSettings decode(WorkMonth month, const std::vector<std::string>& lines) {
-    MonthSettings settings;
-    settings.month = month;
-    for (std::size_t line = 1; line <= lines.size(); ++line)
-        (void)takeText(settings, line, lines[line - 1]);
-    return settings;
+MonthRecord decode(WorkMonth month, const std::vector<std::string>& lines) {
+    MonthRecord record;
+    record.settings.month = month;
+    for (std::size_t line = 1; line <= lines.size(); ++line) {
+        const std::string& bytes = lines[line - 1];
+        if (!takeText(record.settings, line, bytes) && !trimmed(bytes).empty())
+            record.unread.push_back({line, readableText(bytes)});
+    }
+    return record;
 }
 
 /// `settings` put into a record that stands.
 std::vector<std::string> encodeInto(std::vector<std::string> record,
                                     const MonthSettings& settings) {
-    const MonthSettings before = decode(settings.month, record);
+    const MonthSettings before = decode(settings.month, record).settings;
     if (record.size() < kKnownLines) record.resize(kKnownLines);
     for (std::size_t line = 1; line <= kKnownLines; ++line) {
         std::string& bytes = record[line - 1];
@@ -160,10 +156,6 @@ std::string monthRecordName(WorkMonth month) {
     return monthKey(month).append(kRecordEnding);
 }
 
-bool hasMonthSettings(const Store& store, WorkMonth month) {
-    return recordOf(store, month).exists();
-}
-
 std::optional<WorkMonth> lastRecordedBefore(const Store& store, WorkMonth month) {
     std::optional<WorkMonth> last;
     for (const std::string& name : store.files.names(store.folder.path())) {
@@ -174,25 +166,20 @@ std::optional<WorkMonth> lastRecordedBefore(const Store& store, WorkMonth month)
     return last;
 }
 
+std::optional<MonthRecord> findMonthRecord(const Store& store, WorkMonth month) {
+    const auto lines = recordOf(store, month).linesIfAny();
+    return lines ? std::optional(decode(month, *lines)) : std::nullopt;
+}
+
 MonthSettings loadMonthSettings(const Store& store, WorkMonth month) {
-    return decode(month, recordOf(store, month).lines());
+    return decode(month, recordOf(store, month).lines()).settings;
 }
 
-std::vector<UnreadLine> unreadMonthLines(const Store& store, WorkMonth month) {
-    std::vector<UnreadLine> unread;
-    MonthSettings settings;
-    const auto lines = recordOf(store, month).lines();
-    for (std::size_t line = 1; line <= lines.size(); ++line) {
-        const std::string& bytes = lines[line - 1];
-        if (!takeText(settings, line, bytes) && !trimmed(bytes).empty())
-            unread.push_back({line, readableText(bytes)});
-    }
-    return unread;
-}
-
-void saveMonthSettings(const Store& store, const MonthSettings& settings) {
+MonthRecord saveMonthSettings(const Store& store, const MonthSettings& settings) {
     RecordFile record = recordOf(store, settings.month);
-    record.rewrite(encodeInto(record.lines(), settings));
+    const auto lines = encodeInto(record.lines(), settings);
+    record.rewrite(lines);
+    return decode(settings.month, lines);
 }
 
 }  // namespace winvrx

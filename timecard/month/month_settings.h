@@ -64,13 +64,8 @@ enum class MonthLine : std::size_t {
 
 inline constexpr int kHighestClosingDay = 31;
 
-[[nodiscard]] bool hasMonthSettings(const Store& store, WorkMonth month);
 /// The latest month with a record before `month`; nullopt where there is none.
 [[nodiscard]] std::optional<WorkMonth> lastRecordedBefore(const Store& store, WorkMonth month);
-
-/// The month's record; the defaults where there is none. A line that is not a number of its range
-/// counts as the default.
-[[nodiscard]] MonthSettings loadMonthSettings(const Store& store, WorkMonth month);
 
 /// A line of the record that holds no number of its range, or stands behind the known ones. It is
 /// kept as it stands.
@@ -80,10 +75,20 @@ struct UnreadLine {
 
     [[nodiscard]] bool operator==(const UnreadLine&) const = default;
 };
-[[nodiscard]] std::vector<UnreadLine> unreadMonthLines(const Store& store, WorkMonth month);
+
+struct MonthRecord {
+    MonthSettings settings;
+    std::vector<UnreadLine> unread;
+};
+
+/// The month's record; nullopt where there is none. A line that is not a number of its range counts
+/// as the default.
+[[nodiscard]] std::optional<MonthRecord> findMonthRecord(const Store& store, WorkMonth month);
+/// The settings of the record; the defaults where there is none.
+[[nodiscard]] MonthSettings loadMonthSettings(const Store& store, WorkMonth month);
 
 /// A line whose meaning does not change keeps its bytes, those that are not understood and those
-/// past the known ones included.
-void saveMonthSettings(const Store& store, const MonthSettings& settings);
+/// past the known ones included. Gives the record as it stands then.
+MonthRecord saveMonthSettings(const Store& store, const MonthSettings& settings);
 
 }  // namespace winvrx

@@ -1,12 +1,10 @@
 #include "timecard/punches/month_progress.h"
 
+#include "foundation/files/folder_names.h"
 #include "foundation/register/employee_register.h"
-#include "timecard/month/month_settings.h"
-#include "timecard/month/selected_month.h"
 #include "timecard/punches/punch_record.h"
 
 #include <algorithm>
-#include <set>
 
 namespace winvrx {
 
@@ -21,19 +19,18 @@ MonthStep nextStep(const MonthProgress& progress) {
 
 }  // namespace
 
-MonthProgress monthProgress(const Store& store, const CompanyCode& company, ShiftFilter filter) {
+MonthProgress monthProgress(const Store& store, const CompanyCode& company, ShiftFilter filter,
+                            std::optional<WorkMonth> month) {
     const auto people = employeesOf(EmployeeRegister(store, company).load(), filter);
     MonthProgress progress;
     progress.employees = static_cast<int>(people.size());
-    const auto selected = loadSelectedMonth(store);
-    if (selected && hasMonthSettings(store, selected->month)) {
-        progress.month = selected->month;
-        const auto listed = store.files.names(store.folder.path());
-        const std::set<std::string> names(listed.begin(), listed.end());
-        progress
-            .filledCards = static_cast<int>(std::ranges::count_if(people, [&](const Employee& one) {
-            return names.contains(punchFileName({company, *one.employeeCode()}, selected->month));
-        }));
+    progress.month = month;
+    if (month) {
+        const FolderNames names = namesIn(store);
+        progress.filledCards =
+            static_cast<int>(std::ranges::count_if(people, [&](const Employee& one) {
+                return names.contains(punchFileName({company, *one.employeeCode()}, *month));
+            }));
     }
     progress.next = nextStep(progress);
     return progress;

@@ -128,6 +128,9 @@ QWidget* MenuWindow::buildCompanies() {
     auto* caption = new QLabel(QStringLiteral("T&urno:"), side);
     shift_ = new QComboBox(side);
     look::name(*shift_, QStringLiteral("menu.shift"), QStringLiteral("Turno"));
+    for (const ShiftFilter filter : kMenuShiftFilters)
+        shift_->addItem(toQt(codeOf(filter)));
+    shift_->setCurrentText(toQt(codeOf(ShiftFilter::Todos)));
     caption->setBuddy(shift_);
     filter->addWidget(caption);
     filter->addWidget(shift_, 1);
@@ -225,13 +228,9 @@ bool MenuWindow::start() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     menu_.load();
     menu_.selectAsBefore();
-    for (const ShiftFilter filter : kMenuShiftFilters)
-        shift_->addItem(toQt(codeOf(filter)));
-    shift_->setCurrentText(toQt(codeOf(ShiftFilter::Todos)));
     fillCompanies();
     refresh();
-    menu_.offerEarlierData();
-    refresh();
+    if (menu_.offerEarlierData()) refresh();
     search_->setFocus();
     return true;
 }
@@ -313,6 +312,7 @@ void MenuWindow::showOverview() {
     MonthOverview overview;
     overview.month = monthOf(today);
     (void)attempt(at_, incorrectData(), [&] { overview = calendar_.overview(today); });
+    inWork_ = overview.inWork;
     monthName_->setText(toQt(monthTitle(overview.month)));
     offered_->setVisible(overview.offered && menu_.selected());
     if (overview.offered)
@@ -330,7 +330,7 @@ void MenuWindow::showOverview() {
 
 void MenuWindow::showTiles() {
     std::optional<MonthProgress> progress;
-    attemptQuietly(at_.log, [&] { progress = progress_(); });
+    attemptQuietly(at_.log, [&] { progress = progress_(inWork_); });
     for (std::size_t i = 0; i < entries_.size(); ++i) {
         const MenuEntry& entry = entries_[i];
         QString line;

@@ -18,8 +18,8 @@ class QVBoxLayout;
 
 namespace winvrx {
 
-/// How far the month is; nullopt when no company is selected or its files cannot be read.
-using ProgressOfMonth = std::function<std::optional<MonthProgress>()>;
+/// How far the month that is worked on is, where one is; nullopt when no company is selected.
+using ProgressOfMonth = std::function<std::optional<MonthProgress>(std::optional<WorkMonth> month)>;
 
 class BodyArea;
 class CommandBoard;
@@ -68,6 +68,7 @@ class MenuWindow : public QWidget {
     const MonthCalendar& calendar_;
     MenuEntries entries_;
     ProgressOfMonth progress_;
+    std::optional<WorkMonth> inWork_;
     bool started_ = false;
 
     BodyArea* body_ = nullptr;

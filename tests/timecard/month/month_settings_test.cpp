@@ -49,7 +49,7 @@ TEST(MonthSettings, WhatIsNoNumberOfItsRangeCountsAsDefault) {
     MonthSettings defaults;
     defaults.month = 2024y / 3;
     TestWorkplace desk;
-    EXPECT_FALSE(hasMonthSettings(desk.store(), 2024y / 3));
+    EXPECT_FALSE(findMonthRecord(desk.store(), 2024y / 3));
     EXPECT_EQ(loadMonthSettings(desk.store(), 2024y / 3), defaults);
     for (const char* junk : {"x", "-1", "1000", "50%", "5 0", "99999999999999999999", ""}) {
         std::string& file = desk.file("03-2024ds.rdx");
@@ -88,7 +88,7 @@ TEST(MonthSettings, LinesThatAreNotUnderstoodAreNamed) {
     TestWorkplace desk;
     const auto unread = [&](const std::vector<std::string>& lines) {
         desk.file("03-2024ds.rdx") = joinedLines(lines);
-        return unreadMonthLines(desk.store(), 2024y / 3);
+        return findMonthRecord(desk.store(), 2024y / 3).value_or(MonthRecord()).unread;
     };
     std::vector<std::string> lines(53, " 1 ");
     EXPECT_THAT(unread(lines), ::testing::IsEmpty());

@@ -1,6 +1,7 @@
 #include "timecard/punches/month_progress.h"
 
 #include "tests/support/test_workplace.h"
+#include "timecard/month/month_overview.h"
 #include "timecard/month/month_settings.h"
 #include "timecard/month/selected_month.h"
 #include "timecard/punches/punch_record.h"
@@ -14,7 +15,11 @@ TEST(MonthProgressTest, EachStepFollowsTheOneBefore) {
     testing::TestWorkplace desk;
     const auto company = *CompanyCode::parse("01");
     const WorkMonth march = *parseMonthKey("03-2024");
-    const auto now = [&] { return monthProgress(desk.store(), company, ShiftFilter::Todos); };
+    const TimecardCalendar calendar(desk.at);
+    const auto now = [&] {
+        return monthProgress(desk.store(), company, ShiftFilter::Todos,
+                             calendar.overview(desk.at.clock.today()).inWork);
+    };
     const auto fill = [&](const char* code) {
         desk.file(punchFileName({company, *EmployeeCode::parse(code)}, march)) = "\r\n";
     };

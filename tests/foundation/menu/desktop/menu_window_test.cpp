@@ -97,7 +97,8 @@ class MenuWindowTest : public ::testing::Test {
     Menu menu_{desk_.at, drives_, instance_, settings_, "/opt/winvrx"};
     std::vector<std::string> opened_;
     int progressAsked_ = 0;
-    MenuWindow window_{menu_, desk_.at, calendar_, entries(), [this] { return progress(); }};
+    MenuWindow window_{menu_, desk_.at, calendar_, entries(),
+                       [this](std::optional<WorkMonth>) { return progress(); }};
 };
 
 TEST_F(MenuWindowTest, SearchAndEnterSelectACompany) {
