@@ -40,19 +40,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         checkLine(line);
 
     const auto load = [&] {
-        return loadPunches({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, kMonth)
+        return findPunchRecord({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, kMonth)
             .value();
     };
-    const auto unread = [&] {
-        return unreadPunchLines({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, kMonth);
-    };
-    const auto days = load();
-    const auto unreadBefore = unread();
+    const auto [days, unread] = load();
     file = editedPunchRecord(file, kMonth, days);
     const auto written = splitLines(file);
     for (const std::string& line : before)
         require(isKept(line, written), "every line is kept");
-    require(written.size() == 1 + days.size() + unreadBefore.size(), "no line is doubled");
-    require(load() == days && unread() == unreadBefore, "a record comes back");
+    require(written.size() == 1 + days.size() + unread.size(), "no line is doubled");
+    const auto [daysBack, unreadBack] = load();
+    require(daysBack == days && unreadBack == unread, "a record comes back");
     return 0;
 }

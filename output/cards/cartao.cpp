@@ -84,8 +84,10 @@ std::string Cartao::stockLabel() const {
 std::string Cartao::headerPreview(std::optional<std::size_t> position) const {
     if (!month_ || !isShown(position)) return {};
     std::string text;
-    (void)attempt(at_, incorrectData(),
-                  [&] { text = headerText(cardOf(list_.employees()[*position])); });
+    (void)attempt(at_, incorrectData(), [&] {
+        text = headerText(
+            cardOf(list_.employees()[*position], {loadMonthSettings(at_.store(), *month_), {}}));
+    });
     return text;
 }
 
@@ -177,26 +179,35 @@ CardBatch Cartao::batchOf(const std::vector<Employee>& people) const {
                                 .noun = cardNoun(),
                                 .printerName = printer_,
                                 .trays = choices_.printer.trays};
+    RunMonth month{loadMonthSettings(at_.store(), *month_), {}};
+    if (people.size() > 1) month.names = namesIn(at_.store());
     return {.people = people,
             .companyName = company_.name,
             .month = *month_,
             .stockCode = std::string(stock_->code),
             .choices = choices_,
             .request = request,
-            .rowsOf = [this](const Employee& employee) { return cardRows(cardOf(employee)); }};
+            .rowsOf = [this, month = std::move(month)](const Employee& one) {
+                return cardRows(cardOf(one, month));
+            }};
 }
 
-CardData Cartao::cardOf(const Employee& employee) const {
-    const CompanyCode& company = at_.session.company.value();
-    const EmployeeCode code = employee.employeeCode().value();
-    MonthSettings settings = loadMonthSettings(at_.store(), month_.value());
-    settings.overtime = overtimeOf(at_.store(), {company, code}, settings);
+CardData Cartao::cardOf(const Employee& employee, const RunMonth& run) const {
+    const EmployeeKey key{at_.session.company.value(), employee.employeeCode().value()};
+    MonthSettings settings = run.settings;
+    const auto mayHave = [&](const std::string& name) {
+        return !run.names || run.names->contains(key.company.text() + name);
+    };
+    if (mayHave(overtimeFileName(key.employee)))
+        settings.overtime = overtimeOf(at_.store(), key, settings);
     return {.company = company_,
             .employee = employee,
-            .settings = settings,
-            .schedule = loadSchedule(at_.store(), {company, code}),
-            .punches = loadPunches(at_.store(), {company, code}, *month_),
-            .leaves = loadLeaveCalendar(at_.store(), {company, code}, employee.admissionDate())};
+            .settings = std::move(settings),
+            .schedule = loadSchedule(at_.store(), key),
+            .punches = loadPunches(at_.store(), key, *month_),
+            .leaves = mayHave(leaveFileName(key.employee))
+                          ? loadLeaveCalendar(at_.store(), key, employee.admissionDate())
+                          : LeaveCalendar({}, employee.admissionDate())};
 }
 
 }  // namespace winvrx

@@ -2,12 +2,14 @@
 
 #include "foundation/desk/browser.h"
 #include "foundation/desk/command.h"
+#include "foundation/files/folder_names.h"
 #include "foundation/register/company.h"
 #include "foundation/register/employee_list.h"
 #include "output/cards/card_run.h"
 #include "output/stocks/card_alignment.h"
 #include "output/stocks/card_rows.h"
 #include "report/printers.h"
+#include "timecard/month/month_settings.h"
 
 #include <optional>
 #include <string>
@@ -28,8 +30,9 @@ struct CartaoDesk {
 
 /// The time-card printing screen.
 ///
-/// Prints the cards of those whom the list shows, in file order. A card's records are read when its
-/// turn comes. A failed card ends the run; cards already printed stay printed.
+/// Prints the cards of those whom the list shows, in file order. The month is read once a run, a
+/// card's own records when its turn comes. A failed card ends the run; cards already printed stay
+/// printed.
 class Cartao {
   public:
     Cartao(const Workplace& at, const CartaoDesk& desk);
@@ -71,7 +74,13 @@ class Cartao {
     [[nodiscard]] bool print(const std::vector<Employee>& people, const PrintRun& run);
     void offerToOpen(const std::vector<std::string>& files);
     [[nodiscard]] CardBatch batchOf(const std::vector<Employee>& people) const;
-    [[nodiscard]] CardData cardOf(const Employee& employee) const;
+    /// What the cards of a run have in common.
+    struct RunMonth {
+        MonthSettings settings;
+        /// Of the folder, to tell who has leaves or percentages of his own; nullopt for one card.
+        std::optional<FolderNames> names;
+    };
+    [[nodiscard]] CardData cardOf(const Employee& employee, const RunMonth& run) const;
 
     Workplace at_;
     CartaoDesk desk_;

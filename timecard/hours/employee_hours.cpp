@@ -41,10 +41,11 @@ class DayPlaces {
 
 bool putClosingRecord(DayPlaces& places, const Store& store, const EmployeeKey& key,
                       WorkMonth month) {
-    const RecordFile record(store, closingFileName(key, month));
-    for (const std::string& bytes : record.lines())
+    const auto lines = RecordFile(store, closingFileName(key, month)).linesIfAny();
+    if (!lines) return false;
+    for (const std::string& bytes : *lines)
         places.put(decodePunchLine(bytes));
-    return record.exists();
+    return true;
 }
 
 bool putMonth(DayPlaces& places, const Store& store, const EmployeeKey& key, WorkMonth month) {

@@ -67,21 +67,23 @@ OvertimeRules overtimeOf(const Store& store, const EmployeeKey& key, const Month
     return rules;
 }
 
-FileSystem::NewContent withOvertime(const Store& store, const EmployeeKey& key,
-                                    const OvertimeLine& line) {
+std::optional<FileSystem::NewContent> withOvertime(const Store& store, const EmployeeKey& key,
+                                                   const OvertimeLine& line) {
     const RecordFile record = recordOf(store, key);
     auto lines = record.lines();
     const auto found = lineOf(lines, line.month);
     if (found == lines.end())
         lines.push_back(encode(line));
+    else if (decodeOvertime(*found) == line)
+        return std::nullopt;
     else
         *found = encode(line, *found);
-    return {record.path(), joinedLines(lines)};
+    return FileSystem::NewContent{record.path(), joinedLines(lines)};
 }
 
 void saveOvertime(const Store& store, const EmployeeKey& key, const OvertimeLine& line) {
-    const auto content = withOvertime(store, key, line);
-    store.files.replace(content.file, content.bytes);
+    if (const auto content = withOvertime(store, key, line))
+        store.files.replace(content->file, content->bytes);
 }
 
 }  // namespace winvrx

@@ -56,9 +56,11 @@ struct OvertimeLine {
 [[nodiscard]] OvertimeRules overtimeOf(const Store& store, const EmployeeKey& key,
                                        const MonthSettings& month);
 
-/// The employee's file with the line put into it; every other line stays as it is.
-[[nodiscard]] FileSystem::NewContent withOvertime(const Store& store, const EmployeeKey& key,
-                                                  const OvertimeLine& line);
+/// The employee's file with the line put into it; every other line stays as it is. nullopt when the
+/// file says so already.
+[[nodiscard]] std::optional<FileSystem::NewContent> withOvertime(const Store& store,
+                                                                 const EmployeeKey& key,
+                                                                 const OvertimeLine& line);
 void saveOvertime(const Store& store, const EmployeeKey& key, const OvertimeLine& line);
 
 }  // namespace winvrx

@@ -1,5 +1,6 @@
 #include "timecard/month/overtime_update.h"
 
+#include "foundation/files/folder_names.h"
 #include "foundation/files/payroll_file.h"
 #include "foundation/register/company_register.h"
 #include "foundation/register/employee_register.h"
@@ -8,7 +9,6 @@
 
 #include <algorithm>
 #include <map>
-#include <set>
 #include <string>
 
 namespace winvrx {
@@ -31,12 +31,14 @@ struct Listed {
     std::map<EmployeeCode, std::string> closed;
 };
 
-std::set<std::string> fileNames(const Workplace& at) {
-    const auto names = at.files.names(at.session.folder.path());
-    return {names.begin(), names.end()};
+/// Those with a code whose shift passes the session's filter; none without a company.
+std::vector<Employee> listedEmployees(const Workplace& at) {
+    if (!at.session.company) return {};
+    return employeesOf(EmployeeRegister(at.store(), *at.session.company).load(),
+                       at.session.shiftFilter);
 }
 
-Listed listedIn(const Workplace& at, WorkMonth month, const std::set<std::string>& names) {
+Listed listedIn(const Workplace& at, WorkMonth month, const FolderNames& names) {
     Listed listed;
     for (const Employee& one : listedEmployees(at)) {
         const EmployeeCode code = one.employeeCode().value();
@@ -74,14 +76,14 @@ std::vector<FileSystem::NewContent> filesToWrite(const Workplace& at, const List
     const CompanyCode& company = at.session.company.value();
     std::vector<FileSystem::NewContent> batch;
     for (const auto& [code, name] : listed.open)
-        if (loadOvertime(at.store(), {company, code}, line.month) != line.percents)
-            batch.push_back(withOvertime(at.store(), {company, code}, line));
+        if (auto content = withOvertime(at.store(), {company, code}, line))
+            batch.push_back(*std::move(content));
     return batch;
 }
 
 OvertimeUpdate writeFor(const Workplace& at, const OvertimeLine& line,
                         const OvertimeProgress& progress) {
-    const Listed listed = listedIn(at, line.month, fileNames(at));
+    const Listed listed = listedIn(at, line.month, namesIn(at.store()));
     const auto batch = filesToWrite(at, listed, line);
     OvertimeUpdate update{listed.open.size() - batch.size(), listed.open.size(),
                           listed.closed.size()};
@@ -95,7 +97,7 @@ OvertimeUpdate writeFor(const Workplace& at, const OvertimeLine& line,
 }
 
 bool confirmUpdate(const Workplace& at, WorkMonth month) {
-    const Listed listed = listedIn(at, month, fileNames(at));
+    const Listed listed = listedIn(at, month, namesIn(at.store()));
     if (!listed.open.empty()) return at.person.agrees(confirmation(at, month, listed));
     if (!at.session.company)
         at.person.tell(noCompany(at));
@@ -106,16 +108,10 @@ bool confirmUpdate(const Workplace& at, WorkMonth month) {
 
 }  // namespace
 
-std::vector<Employee> listedEmployees(const Workplace& at) {
-    if (!at.session.company) return {};
-    return employeesOf(EmployeeRegister(at.store(), *at.session.company).load(),
-                       at.session.shiftFilter);
-}
-
 std::vector<OvertimePercents> ownPercentsOfList(const Workplace& at, WorkMonth month) {
     std::vector<OvertimePercents> own;
     if (!at.session.company) return own;
-    const auto names = fileNames(at);
+    const auto names = namesIn(at.store());
     for (const auto& [code, name] : listedIn(at, month, names).open) {
         if (!names.contains(at.session.company->text() + overtimeFileName(code))) continue;
         if (const auto percents = loadOvertime(at.store(), {*at.session.company, code}, month))

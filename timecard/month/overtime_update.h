@@ -1,7 +1,6 @@
 #pragma once
 
 #include "foundation/desk/command.h"
-#include "foundation/register/employee.h"
 #include "timecard/month/overtime_rules.h"
 
 #include <functional>
@@ -12,9 +11,6 @@ namespace winvrx {
 
 /// Told how many employees are done; false cancels.
 using OvertimeProgress = std::function<bool(std::size_t done, std::size_t total)>;
-
-/// The employees with a code whose shift passes the session's filter; none without a company.
-[[nodiscard]] std::vector<Employee> listedEmployees(const Workplace& at);
 
 /// The percentages of their own that listed employees have in the month, of those whose month is
 /// not closed. Throws FileFault.

@@ -93,9 +93,7 @@ void CartaoPontoDados::loadCardOf(const std::string& code) {
     leaves_ = {};
     overtime_ = settings_.overtime;
     schedule_ = TypedSchedule();
-    sheet_ = CardSheet(blankMonth(settings_.month));
-    unreadLines_.clear();
-    applied_ = false;
+    showPunches(std::nullopt);
     if (const auto position = list_.positionOf(code)) loadCard(*position);
 }
 
@@ -104,16 +102,20 @@ void CartaoPontoDados::loadCard(std::size_t position) {
     const CompanyCode& company = company_.value();
     const auto schedule = loadSchedule(at_.store(), {company, code});
     const OvertimeRules overtime = overtimeOf(at_.store(), {company, code}, settings_);
-    auto punches = loadPunches(at_.store(), {company, code}, settings_.month);
-    unreadLines_ = unreadPunchLines(at_.store(), {company, code}, settings_.month);
+    auto punches = findPunchRecord(at_.store(), {company, code}, settings_.month);
     MarkedLeaves leaves = leavesOf(list_.employees()[position]);
     list_.mark(position, leaves.marks);
     position_ = position;
     leaves_ = std::move(leaves.calendar);
     overtime_ = overtime;
     schedule_ = TypedSchedule(schedule.value_or(StandardSchedule()));
-    applied_ = punches.has_value();
-    sheet_ = CardSheet(punches ? std::move(*punches) : blankMonth(settings_.month));
+    showPunches(std::move(punches));
+}
+
+void CartaoPontoDados::showPunches(std::optional<PunchRecord> record) {
+    applied_ = record.has_value();
+    unreadLines_ = record ? std::move(record->unread) : std::vector<std::string>();
+    sheet_ = CardSheet(record ? std::move(record->days) : blankMonth(settings_.month));
 }
 
 bool CartaoPontoDados::narrow(const std::function<void()>& filter) {

@@ -114,6 +114,7 @@ class CartaoPontoDados {
     /// Shows the card of who bears the code, a blank one if the list has nobody who does.
     void loadCardOf(const std::string& code);
     void loadCard(std::size_t position);
+    void showPunches(std::optional<PunchRecord> record);
     [[nodiscard]] MarkedLeaves leavesOf(const Employee& employee) const;
     [[nodiscard]] bool requireSelection();
     /// Tells the operator when the month of the employee selected is closed now.
@@ -129,6 +130,8 @@ class CartaoPontoDados {
     [[nodiscard]] ApplicationOrder applicationOrder() const;
     [[nodiscard]] bool fillAll(const std::vector<std::size_t>& positions, bool sameHours,
                                const ListApplication::Progress& progress);
+    /// Shows what was written for the employee selected: of who rotates also the schedule.
+    void showApplied();
     [[nodiscard]] bool confirmBlankDays();
     [[nodiscard]] EmployeeCode selectedCode() const;
     [[nodiscard]] WorkTerms terms() const;

@@ -118,9 +118,14 @@ bool CartaoPontoDados::applyPunches() {
                                               selected()->admissionDate()));
         at_.files.replaceAll(batch);
         filledCards_ = application.filled();
-        loadCard(*position_);
+        showApplied();
         return true;
     });
+}
+
+void CartaoPontoDados::showApplied() {
+    if (selected()->scaleOr() != Scale::Normal) return loadCard(*position_);
+    showPunches(findPunchRecord(at_.store(), {company_.value(), selectedCode()}, settings_.month));
 }
 
 bool CartaoPontoDados::confirmListApplication(const std::vector<std::size_t>& positions,
@@ -178,7 +183,7 @@ bool CartaoPontoDados::fillAll(const std::vector<std::size_t>& positions, bool s
     if (!batch) return false;
     at_.files.replaceAll(*batch);
     filledCards_ = application.filled();
-    if (application.hasFilled(selectedCode())) loadCard(*position_);
+    if (application.hasFilled(selectedCode())) showApplied();
     if (const std::string remarks = application.remarks(kMostNames); !remarks.empty()) {
         const std::string all = application.remarks(codes.size());
         if (all != remarks) at_.log.write("punches of a list: " + all);

@@ -135,10 +135,11 @@ void ListApplication::fillOne(Batch& batch, const Employee& employee, const Empl
 }
 
 void ListApplication::look() {
-    const FolderNames names = namesIn(store_);
+    FolderNames names = namesIn(store_);
     closed_ = desk_.payroll.closedIn(order_.company, order_.settings.month, names);
     withLeaves_ = employeesWithLeaveFile(order_.company, names);
     rotations_.reset();
+    punchFiles_.lookAmong(std::move(names));
 }
 
 LeaveCalendar ListApplication::leavesOf(const Employee& employee, const EmployeeCode& code) const {

@@ -56,6 +56,11 @@ PunchFiles::PunchFiles(const Store& store, const PayrollLock& payroll,
       period_(closingPeriod(settings)),
       nextPeriod_(closingPeriod(loadMonthSettings(store, month_ + kOneMonth))) {}
 
+bool PunchFiles::hasPeriodFile(const EmployeeKey& key, WorkMonth month) const {
+    const std::string name = closingFileName(key, month);
+    return names_ ? names_->contains(name) : store_.files.exists(store_.folder.file(name));
+}
+
 void PunchFiles::add(std::vector<FileSystem::NewContent>& batch, const EmployeeKey& key,
                      std::string record) const {
     const auto recorded = [&](WorkMonth month) {
@@ -72,11 +77,11 @@ void PunchFiles::add(std::vector<FileSystem::NewContent>& batch, const EmployeeK
     if (!isCalendarMonth(period_)) {
         const Lines before = reachesBack(period_) ? recorded(month_ - kOneMonth) : Lines();
         batch.push_back({periodFile(month_), periodBytes(period_, before, splitLines(record))});
-    } else if (store_.files.exists(periodFile(month_))) {
+    } else if (hasPeriodFile(key, month_)) {
         batch.push_back({periodFile(month_), refreshedPeriod(month_)});
     }
     const WorkMonth next = month_ + kOneMonth;
-    if (store_.files.exists(periodFile(next)) && !payroll_.isClosed(key, next))
+    if (hasPeriodFile(key, next) && !payroll_.isClosed(key, next))
         batch.push_back(
             {periodFile(next), reachesBack(nextPeriod_)
                                    ? periodBytes(nextPeriod_, splitLines(record), recorded(next))

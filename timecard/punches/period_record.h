@@ -1,10 +1,13 @@
 #pragma once
 
+#include "foundation/files/folder_names.h"
 #include "foundation/register/employee_queries.h"
 #include "timecard/month/closing_period.h"
 #include "timecard/punches/punch_record.h"
 
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace winvrx {
@@ -17,6 +20,9 @@ class PunchFiles {
     /// The referred objects outlive this one.
     PunchFiles(const Store& store, const PayrollLock& payroll, const MonthSettings& settings);
 
+    /// From now on a record stands when its name is among these: for a command on many employees.
+    void lookAmong(FolderNames names) { names_ = std::move(names); }
+
     /// Adds the files of one employee to `batch`. `record` is the new punch record, whole.
     void add(std::vector<FileSystem::NewContent>& batch, const EmployeeKey& key,
              std::string record) const;
@@ -26,7 +32,10 @@ class PunchFiles {
     void remove(const EmployeeKey& key) const;
 
   private:
+    [[nodiscard]] bool hasPeriodFile(const EmployeeKey& key, WorkMonth month) const;
+
     Store store_;
+    std::optional<FolderNames> names_;
     const PayrollLock& payroll_;
     WorkMonth month_;
     DayPeriod period_;

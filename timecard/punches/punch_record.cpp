@@ -49,10 +49,6 @@ RecordContent contentOf(const std::vector<std::string>& lines, WorkMonth month) 
     return content;
 }
 
-RecordFile recordOf(const Store& store, const EmployeeKey& key, WorkMonth month) {
-    return {store, punchFileName(key, month)};
-}
-
 }  // namespace
 
 int PunchLine::day() const {
@@ -112,19 +108,19 @@ std::vector<PunchLine> blankMonth(WorkMonth month) {
     return lines;
 }
 
-std::optional<std::vector<PunchLine>> loadPunches(const Store& store, const EmployeeKey& key,
-                                                  WorkMonth month) {
-    const RecordFile record = recordOf(store, key, month);
-    if (!record.exists()) return std::nullopt;
-    return contentOf(record.lines(), month).days;
+std::optional<PunchRecord> findPunchRecord(const Store& store, const EmployeeKey& key,
+                                           WorkMonth month) {
+    const auto lines = RecordFile(store, punchFileName(key, month)).linesIfAny();
+    if (!lines) return std::nullopt;
+    RecordContent content = contentOf(*lines, month);
+    for (std::string& line : content.others)
+        line = readableText(line);
+    return PunchRecord{std::move(content.days), std::move(content.others)};
 }
 
-std::vector<std::string> unreadPunchLines(const Store& store, const EmployeeKey& key,
-                                          WorkMonth month) {
-    std::vector<std::string> unread = contentOf(recordOf(store, key, month).lines(), month).others;
-    for (std::string& line : unread)
-        line = readableText(line);
-    return unread;
+std::optional<PunchLines> loadPunches(const Store& store, const EmployeeKey& key, WorkMonth month) {
+    auto record = findPunchRecord(store, key, month);
+    return record ? std::optional(std::move(record->days)) : std::nullopt;
 }
 
 std::string punchRecordBytes(const std::vector<PunchLine>& lines) {

@@ -72,14 +72,20 @@ static_assert(isContiguous(kPunchFields, kPunchWidth));
 [[nodiscard]] std::vector<PunchLine> blankMonth(WorkMonth month);
 
 /// One line for each day of the month, in date order; days that the record lacks carry their label
-/// only. Of two lines for one day the first counts. nullopt when no punches were applied.
-[[nodiscard]] std::optional<std::vector<PunchLine>> loadPunches(const Store& store,
-                                                                const EmployeeKey& key,
-                                                                WorkMonth month);
+/// only. Of two lines for one day the first counts.
+using PunchLines = std::vector<PunchLine>;
 
-/// What can be shown of the lines of a record that stand for no day of the month, in file order.
-[[nodiscard]] std::vector<std::string> unreadPunchLines(const Store& store, const EmployeeKey& key,
-                                                        WorkMonth month);
+struct PunchRecord {
+    PunchLines days;
+    std::vector<std::string> unread;  ///< what can be shown of the lines that stand for no day
+};
+
+/// nullopt when no punches were applied.
+[[nodiscard]] std::optional<PunchRecord> findPunchRecord(const Store& store, const EmployeeKey& key,
+                                                         WorkMonth month);
+/// The days of the record.
+[[nodiscard]] std::optional<PunchLines> loadPunches(const Store& store, const EmployeeKey& key,
+                                                    WorkMonth month);
 
 /// The line of two blanks that opens a record.
 inline constexpr std::string_view kOpeningPunchLine = "  ";

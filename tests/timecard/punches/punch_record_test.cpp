@@ -91,7 +91,7 @@ TEST(PunchRecord, DamagedRecordGivesEveryDayAndKeepsWhatItDoesNotKnow) {
     EXPECT_EQ((*lines)[4].morningEntry, "08:0");
     EXPECT_EQ((*lines)[30].label, "31/dom/mar");
 
-    EXPECT_THAT(unreadPunchLines(desk.store(), {kCompany, kEmployee}, 2024y / 3),
+    EXPECT_THAT(findPunchRecord(desk.store(), {kCompany, kEmployee}, 2024y / 3)->unread,
                 ::testing::ElementsAre("anotação de alguém", "01/sex/mar07:00"));
 
     edit(desk, 2024y / 3, *lines);
