@@ -132,6 +132,12 @@ CopyContents::Archives CopyShelf::othersOf(const CopyName& copy) const {
     return text ? decodeOthers(*text) : CopyContents::Archives();
 }
 
+void CopyShelf::requireHolderOf(const OpenedCopy& copy, const std::string& file) const {
+    const std::string& archive = copy.contents.files.at(file).archive;
+    if (!archive.empty() && !has(archive, copy.contents.others.at(archive)))
+        throw lacks(archive, archives_.contains(archive) ? "has another size" : "is gone");
+}
+
 void CopyShelf::unpack(const OpenedCopy& copy, const std::set<std::string>& files,
                        const Archiver::Visitor& visit) const {
     std::map<std::string, std::set<std::string>> byArchive;

@@ -47,6 +47,8 @@ class CopyShelf {
     [[nodiscard]] OpenedCopy open(const CopyName& copy) const;
     /// The archives that the copy needs beside its own.
     [[nodiscard]] CopyContents::Archives othersOf(const CopyName& copy) const;
+    /// Throws when the archive that holds a file of the copy is gone or has another size.
+    void requireHolderOf(const OpenedCopy& copy, const std::string& file) const;
     /// Hands over these files of the copy, whichever archives hold them: all of them, or throws.
     void unpack(const OpenedCopy& copy, const std::set<std::string>& files,
                 const Archiver::Visitor& visit) const;

@@ -52,9 +52,9 @@ void limitOthers(CopyContents& contents) {
 bool SafetyCopies::makeDailyCopy(const DataFolder& folder, Clock::Moment now) {
     const CopyShelf shelf(files_, archiver_, folder);
     if (hasDailyCopy(shelf, now.date)) return true;
-    if (!make(shelf, folder, now, {})) return false;
-    removeOutdated(folder, now.date);
-    return true;
+    const auto made = make(shelf, folder, now, {});
+    if (made) removeOutdated(shelf, made->name, now.date);
+    return made.has_value();
 }
 
 void SafetyCopies::makeCopyBefore(const DataFolder& folder, Clock::Moment now,
@@ -64,18 +64,20 @@ void SafetyCopies::makeCopyBefore(const DataFolder& folder, Clock::Moment now,
          {.kind = CopyName::Kind::Before, .before = act, .unreadable = Unreadable::Refuse});
 }
 
-std::optional<CopyContents> SafetyCopies::make(const CopyShelf& shelf, const DataFolder& folder,
-                                               Clock::Moment now, const Purpose& purpose) {
+std::optional<SafetyCopies::Made> SafetyCopies::make(const CopyShelf& shelf,
+                                                     const DataFolder& folder, Clock::Moment now,
+                                                     const Purpose& purpose) {
     const std::vector<ListedFile> here = copiedFiles(folder);
     if (here.empty()) return std::nullopt;
     CopyContents contents = unchangedSince(shelf, here, purpose);
     contents.before = purpose.before;
     const std::string archive = pack(folder, here, contents, purpose.unreadable);
     if (contents.files.empty()) return std::nullopt;
-    files_.makeFolder(shelf.path());
+    if (shelf.copies().empty()) files_.makeFolder(shelf.path());
     files_.removeLeftovers(shelf.path());
-    files_.replace(shelf.path() / shelf.freeName(now, purpose.kind).text(), archive);
-    return contents;
+    const CopyName name = shelf.freeName(now, purpose.kind);
+    files_.replace(shelf.path() / name.text(), archive);
+    return Made{name, std::move(contents)};
 }
 
 std::vector<ListedFile> SafetyCopies::copiedFiles(const DataFolder& folder) const {
@@ -153,9 +155,9 @@ std::string SafetyCopies::pack(const DataFolder& folder, const std::vector<Liste
     });
 }
 
-void SafetyCopies::removeOutdated(const DataFolder& folder, Date today) {
-    const CopyShelf shelf(files_, archiver_, folder);
-    const auto copies = shelf.copies();
+void SafetyCopies::removeOutdated(const CopyShelf& shelf, const CopyName& made, Date today) {
+    auto copies = shelf.copies();
+    copies.push_back(made);
     const auto old = outdated(copies, today);
     if (old.empty()) return;
     const std::set<std::string> outdatedNames = [&] {
@@ -202,41 +204,49 @@ SafetyCopy SafetyCopies::described(const CopyShelf& shelf, const CopyName& copy)
     return described;
 }
 
-SafetyCopies::Difference SafetyCopies::difference(const DataFolder& folder,
-                                                  const CopyName& copy) const {
+SafetyCopies::Difference SafetyCopies::difference(const DataFolder& folder, const CopyName& copy,
+                                                  Depth depth) const {
     const CopyShelf shelf(files_, archiver_, folder);
     const OpenedCopy opened = shelf.open(copy);
     Difference difference;
-    std::set<std::string> compared;
+    std::map<std::string, FileChange::Kind> changed;
     for (const auto& [name, file] : opened.contents.files)
-        if (isCopiedFile(name)) compared.insert(name);
-    for (const ListedFile& file : copiedFiles(folder)) {
-        if (!opened.contents.files.contains(file.name))
-            difference.changes.push_back({file.name, FileChange::Kind::OnlyHere});
-        else if (opened.isUnchanged(file))
-            compared.erase(file.name);
+        if (isCopiedFile(name)) changed.emplace(name, FileChange::Kind::OnlyInCopy);
+    std::set<std::string> unsure;  // as large as they were, and only their bytes tell
+    for (const ListedFile& here : copiedFiles(folder)) {
+        const auto file = opened.contents.files.find(here.name);
+        if (file == opened.contents.files.end())
+            changed[here.name] = FileChange::Kind::OnlyHere;
+        else if (opened.isUnchanged(here))
+            changed.erase(here.name);
+        else if (changed[here.name] = FileChange::Kind::Differs; file->second.size == here.size)
+            unsure.insert(here.name);
     }
-    shelf.unpack(opened, compared, [&](ArchiveEntry entry) {
+    std::set<std::string> unpacked = unsure;
+    for (const auto& [name, kind] : changed) {
+        if (kind == FileChange::Kind::OnlyHere) continue;
+        shelf.requireHolderOf(opened, name);
+        if (depth == Depth::WithContents) unpacked.insert(name);
+    }
+    shelf.unpack(opened, unpacked, [&](ArchiveEntry entry) {
         const auto file = folder.path() / entry.name;
-        const auto here = files_.read(file);
-        if (here == entry.bytes) return;
-        difference.changes.push_back(
-            {entry.name, here ? FileChange::Kind::Differs : FileChange::Kind::OnlyInCopy});
-        difference.contents.push_back({file, std::move(entry.bytes)});
+        if (unsure.contains(entry.name) && files_.read(file) == entry.bytes)
+            changed.erase(entry.name);
+        else if (depth == Depth::WithContents)
+            difference.contents.push_back({file, std::move(entry.bytes)});
     });
-    std::sort(
-        difference.changes.begin(), difference.changes.end(),
-        [](const FileChange& left, const FileChange& right) { return left.file < right.file; });
+    for (const auto& [name, kind] : changed)
+        difference.changes.push_back({name, kind});
     return difference;
 }
 
 std::vector<FileChange> SafetyCopies::changes(const DataFolder& folder,
                                               const CopyName& copy) const {
-    return difference(folder, copy).changes;
+    return difference(folder, copy, Depth::NamesOnly).changes;
 }
 
 void SafetyCopies::restore(const DataFolder& folder, const CopyName& copy, Clock::Moment now) {
-    const Difference difference = this->difference(folder, copy);
+    const Difference difference = this->difference(folder, copy, Depth::WithContents);
     if (difference.changes.empty()) return;
     Purpose purpose{.kind = CopyName::Kind::Before,
                     .before = "restaurar a cópia de " + momentOfCopy(copy),
@@ -247,7 +257,8 @@ void SafetyCopies::restore(const DataFolder& folder, const CopyName& copy, Clock
     const auto kept = make(shelf, folder, now, purpose);
     if (!difference.contents.empty()) files_.replaceAll(difference.contents);
     for (const FileChange& change : difference.changes)
-        if (change.kind == FileChange::Kind::OnlyHere && kept && kept->files.contains(change.file))
+        if (change.kind == FileChange::Kind::OnlyHere && kept &&
+            kept->contents.files.contains(change.file))
             files_.remove(folder.path() / change.file);
 }
 

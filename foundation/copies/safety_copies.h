@@ -98,11 +98,19 @@ class SafetyCopies {
                                               const Purpose& purpose) const;
     [[nodiscard]] std::string pack(const DataFolder& folder, const std::vector<ListedFile>& here,
                                    CopyContents& contents, Unreadable unreadable) const;
+    struct Made {
+        CopyName name;
+        CopyContents contents;
+    };
     /// nullopt when there is nothing to copy.
-    std::optional<CopyContents> make(const CopyShelf& shelf, const DataFolder& folder,
-                                     Clock::Moment now, const Purpose& purpose);
-    [[nodiscard]] Difference difference(const DataFolder& folder, const CopyName& copy) const;
-    void removeOutdated(const DataFolder& folder, Date today);
+    std::optional<Made> make(const CopyShelf& shelf, const DataFolder& folder, Clock::Moment now,
+                             const Purpose& purpose);
+    enum class Depth { NamesOnly, WithContents };
+    /// Reads only the files whose size does not tell.
+    [[nodiscard]] Difference difference(const DataFolder& folder, const CopyName& copy,
+                                        Depth depth) const;
+    /// Of the copies on the shelf and the one that was just made.
+    void removeOutdated(const CopyShelf& shelf, const CopyName& made, Date today);
 
     FileSystem& files_;
     const Archiver& archiver_;

@@ -301,6 +301,9 @@ TEST_F(SafetyCopiesTest, WhatACopyNeedsAndIsNotThereIsTold) {
         if (bytes) desk.files.content[kCopies + base] = *bytes;
         const auto before = desk.files.content;
         EXPECT_EQ(refusalOf(today), "Esta cópia precisa de \"" + base + "\", que " + told);
+        if (bytes != swapped) {
+            EXPECT_THROW((void)copies.changes(desk.session.folder, today), Fault) << told;
+        }
         EXPECT_EQ(desk.files.content, before) << told;
     }
     desk.files.content.erase(kCopies + base);
