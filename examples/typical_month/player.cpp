@@ -85,6 +85,14 @@ void Player::then(std::function<void()> step) {
     steps_.push_back(std::move(step));
 }
 
+void Player::waitUntil(std::function<bool()> ready) {
+    then([this, ready = std::move(ready)] { waitNow(ready); });
+}
+
+void Player::waitNow(const std::function<bool()>& ready) {
+    if (!ready()) steps_.push_front([this, ready] { waitNow(ready); });
+}
+
 void Player::click(const QString& name) {
     then([this, name] { QTest::mouseClick(find(name), Qt::LeftButton); });
 }

@@ -51,6 +51,8 @@ class Player : public QObject {
     void picture(const QString& name);
     /// The same of a window that lies beside it; closes it.
     void pictureBeside(const QString& objectName, const QString& name);
+    /// Asks again and again until the answer is yes: the next steps begin then.
+    void waitUntil(std::function<bool()> ready);
     /// Anything else.
     void then(std::function<void()> step);
 
@@ -61,6 +63,7 @@ class Player : public QObject {
 
   private:
     void next();
+    void waitNow(const std::function<bool()>& ready);
     [[noreturn]] void fail(const QString& reason) const;
     [[nodiscard]] static QWidget* present();
     [[nodiscard]] QWidget* find(const QString& name) const;
