@@ -36,7 +36,7 @@ bool isOf(const PrintScaleKey& key, std::string_view lineBytes) {
 /// A name is stored as far as its column goes.
 PrintScaleKey storedKey(const PrintScaleKey& key) {
     return {std::string(trimmed(firstCharacters(trimmed(key.printer), kScalePrinter.width))),
-            key.stock};
+            key.paper};
 }
 
 }  // namespace
@@ -68,8 +68,8 @@ bool isUsable(const PrintScale& scale) {
 }
 
 std::optional<PrintScaleLine> decodePrintScale(std::string_view lineBytes) {
-    PrintScaleLine line{{fieldOf(lineBytes, kScalePrinter), fieldOf(lineBytes, kScaleStock)}, {}};
-    if (line.key.printer.empty() || line.key.stock.empty()) return std::nullopt;
+    PrintScaleLine line{{fieldOf(lineBytes, kScalePrinter), fieldOf(lineBytes, kScalePaper)}, {}};
+    if (line.key.printer.empty() || line.key.paper.empty()) return std::nullopt;
     for (const PrintScaleField& field : kPrintScaleFields) {
         const auto value = parseHundredths(fieldOf(lineBytes, field.column));
         if (!value || !isWithin(field, *value)) return std::nullopt;
@@ -82,7 +82,7 @@ std::string encode(const PrintScaleLine& line, std::string existing) {
     const std::size_t width = existing.empty() ? kPrintScaleWidth : existing.size();
     RecordLine bytes(std::move(existing), width);
     bytes.put(kScalePrinter, line.key.printer);
-    bytes.put(kScaleStock, line.key.stock);
+    bytes.put(kScalePaper, line.key.paper);
     for (const PrintScaleField& field : kPrintScaleFields) {
         const int value = line.scale.*field.member;
         if (parseHundredths(fieldOf(bytes.bytes(), field.column)) != value)

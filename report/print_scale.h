@@ -10,8 +10,8 @@
 #include <string_view>
 
 // The record `EscalaImpressao`: a printer may print everything a little too large, too small or too
-// far to one side, and differently on each stock. A line of the record says for one printer and one
-// stock by how much its print is to be scaled and moved to make up for that.
+// far to one side, and differently on each paper. A line of the record says for one printer and one
+// paper by how much its print is to be scaled and moved to make up for that.
 
 namespace winvrx {
 
@@ -22,10 +22,10 @@ inline constexpr int kSmallestScale = 9000;
 inline constexpr int kLargestScale = 11000;
 inline constexpr int kLargestScaleOffset = 5000;  ///< hundredths of a millimetre, either way
 
-/// The printer and the stock that a line is for.
+/// The printer and the paper that a line is for.
 struct PrintScaleKey {
     std::string printer;  ///< its name, also where it is the system's default printer
-    std::string stock;    ///< two-digit code
+    std::string paper;    ///< what is printed on, a code of its subject's: of a card its stock's
 
     [[nodiscard]] bool operator==(const PrintScaleKey&) const = default;
 };
@@ -46,7 +46,7 @@ struct PrintScaleField {
 };
 
 inline constexpr Column kScalePrinter{1, 60};
-inline constexpr Column kScaleStock{61, 3};
+inline constexpr Column kScalePaper{61, 3};
 inline constexpr std::array kPrintScaleFields = {
     PrintScaleField{&PrintScale::horizontalScale, {64, 8}, kSmallestScale, kLargestScale},
     PrintScaleField{&PrintScale::verticalScale, {72, 8}, kSmallestScale, kLargestScale},
@@ -56,8 +56,8 @@ inline constexpr std::array kPrintScaleFields = {
         &PrintScale::verticalOffset, {88, 8}, -kLargestScaleOffset, kLargestScaleOffset},
 };
 inline constexpr std::size_t kPrintScaleWidth = 95;
-static_assert(kScalePrinter.end() == kScaleStock.start);
-static_assert(kScaleStock.end() == kPrintScaleFields.front().column.start);
+static_assert(kScalePrinter.end() == kScalePaper.start);
+static_assert(kScalePaper.end() == kPrintScaleFields.front().column.start);
 static_assert(kPrintScaleFields.back().column.end() == kPrintScaleWidth + 1);
 
 /// "100,25", "-1,5", "100": hundredths; nullopt for anything else and beyond a million.

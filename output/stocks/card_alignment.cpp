@@ -83,7 +83,7 @@ void removeOffsets(const Store& store) {
 
 Alignment loadAlignment(const Store& store, const PrintScaleKey& key,
                         const AlignmentMemory& memory) {
-    const auto entry = alignmentEntryOf(key.stock);
+    const auto entry = alignmentEntryOf(key.paper);
     const Offsets offsets = entry ? loadOffsets(store)[*entry] : Offsets();
     return {.horizontalTwips = offsets.horizontal,
             .verticalTwips = offsets.vertical,
