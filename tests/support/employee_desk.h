@@ -42,12 +42,15 @@ class TestSpreadsheet final : public Spreadsheet {
 /// Answers with the employees that the test names.
 struct TestLocks final : RotationMembership, PayrollLock {
     std::set<std::string> inGroups;
+    mutable std::set<std::string> removed;  ///< from groups
     std::set<std::string> closed;
 
     bool isMember(const EmployeeKey& key) const override {
         return inGroups.contains(key.employee.text());
     }
-    void removeMember(const EmployeeKey&) const override {}
+    void removeMember(const EmployeeKey& key) const override {
+        removed.insert(key.employee.text());
+    }
     std::set<EmployeeCode> closedIn(const CompanyCode&, WorkMonth,
                                     const FolderNames&) const override {
         return codesOf(closed);

@@ -225,24 +225,29 @@ Absence CartaoPontoDadosB::absence() const {
     };
 }
 
+const RotationGroup* CartaoPontoDadosB::groupOfMember(const Employee& employee) const {
+    const EmployeeCode code = employee.employeeCode().value();
+    if (draft_ && draft_->contains(code)) return &*draft_;
+    const auto group = std::ranges::find_if(
+        groups_, [&](const RotationGroup& one) { return !isEdited(one) && one.contains(code); });
+    return group == groups_.end() ? nullptr : &*group;
+}
+
 std::string CartaoPontoDadosB::captionOf(std::size_t position) const {
     const Employee& employee = list_.employees().at(position);
     if (employee.scaleOr() == Scale::Normal) return {};
-    const EmployeeCode code = employee.employeeCode().value();
-    bool room = false;
-    for (const RotationGroup& group : groups()) {
-        if (group.contains(code)) return groupName(group.number);
-        room = room || hasRoomFor(group, employee);
-    }
+    if (const RotationGroup* group = groupOfMember(employee)) return groupName(group->number);
+    const bool room = (draft_ && hasRoomFor(*draft_, employee)) ||
+                      std::ranges::any_of(groups_, [&](const RotationGroup& group) {
+                          return !isEdited(group) && hasRoomFor(group, employee);
+                      });
     return std::string(room ? kAddToGroup : kCreateGroup);
 }
 
 bool CartaoPontoDadosB::selectGroupOf(std::size_t position) {
-    const EmployeeCode code = list_.employees().at(position).employeeCode().value();
-    for (const RotationGroup& group : groups())
-        if (group.contains(code)) return selectGroup(group.number);
-    at_.person.tell(kInNoGroup);
-    return false;
+    const RotationGroup* group = groupOfMember(list_.employees().at(position));
+    if (!group) at_.person.tell(kInNoGroup);
+    return group && selectGroup(group->number);
 }
 
 RotationView CartaoPontoDadosB::view() const {

@@ -137,6 +137,11 @@ class CartaoPontoDadosB {
     [[nodiscard]] std::vector<RotationGroup> groups() const;
     [[nodiscard]] std::vector<RotationGroup> otherGroups() const;
     [[nodiscard]] const RotationGroup* recordedGroup(int number) const;
+    /// As he is shown; nullptr when he is in none.
+    [[nodiscard]] const RotationGroup* groupOfMember(const Employee& employee) const;
+    [[nodiscard]] bool isEdited(const RotationGroup& group) const {
+        return draft_ && draft_->number == group.number;
+    }
     [[nodiscard]] Absence absence() const;
     [[nodiscard]] MemberNames names() const;
     [[nodiscard]] bool requireGroup();

@@ -1,4 +1,5 @@
 // The group being edited, before it is recorded.
+#include "foundation/register/company_register.h"
 #include "timecard/rotation/cartao_ponto_dados_b.h"
 
 #include <algorithm>
@@ -45,9 +46,7 @@ const RotationGroup* CartaoPontoDadosB::recordedGroup(int number) const {
 
 std::vector<RotationGroup> CartaoPontoDadosB::otherGroups() const {
     std::vector<RotationGroup> others = groups_;
-    std::erase_if(others, [this](const RotationGroup& group) {
-        return draft_ && group.number == draft_->number;
-    });
+    std::erase_if(others, [this](const RotationGroup& group) { return isEdited(group); });
     return others;
 }
 
@@ -83,6 +82,10 @@ bool CartaoPontoDadosB::selectGroup(int number) {
 }
 
 bool CartaoPontoDadosB::newGroup() {
+    if (!company_) {
+        at_.person.tell(noCompany(at_));
+        return false;
+    }
     const auto shift = parseShift(codeOf(list_.shift()));
     if (!shift || scale() == Scale::Normal) {
         at_.person.tell(scale() == Scale::Normal ? kNeedsRotation : kNeedsShift);

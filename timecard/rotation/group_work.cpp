@@ -11,20 +11,17 @@ namespace winvrx {
 
 namespace {
 
-/// Answers with groups that are not on record yet.
-class GivenGroups final : public RotationCalendar {
+/// Answers with months that are not on record yet.
+class GivenMonths final : public RotationCalendar {
   public:
-    GivenGroups(const Store& store, const std::vector<RotationGroup>& groups)
-        : store_(store), groups_(groups) {}
+    explicit GivenMonths(RotationMonths months) : months_(std::move(months)) {}
 
-    [[nodiscard]] RotationMonths monthsOf(const CompanyCode& company,
-                                          WorkMonth month) const override {
-        return winvrx::monthsOf(store_, company, month, groups_);
+    [[nodiscard]] RotationMonths monthsOf(const CompanyCode&, WorkMonth) const override {
+        return months_;
     }
 
   private:
-    Store store_;
-    const std::vector<RotationGroup>& groups_;
+    RotationMonths months_;
 };
 
 }  // namespace
@@ -75,7 +72,7 @@ ListApplication::Batch reappliedCards(const GroupWork& work,
                                       const std::vector<EmployeeCode>& employees,
                                       std::string& remarks) {
     const Store store = work.at.store();
-    const GivenGroups calendar(store, groups);
+    const GivenMonths calendar(monthsOf(store, work.company, work.settings.month, groups));
     ListApplication application(store, {calendar, work.payroll},
                                 {.company = work.company,
                                  .settings = work.settings,

@@ -30,7 +30,7 @@ struct GroupWork {
                                                        const RotationGroup& group, WorkMonth month);
 
 /// The cards of these employees filled from `groups`, whatever is on record; `remarks` tells who
-/// could not be filled.
+/// could not be filled. Throws Fault when a work-time table cannot be applied.
 [[nodiscard]] ListApplication::Batch reappliedCards(const GroupWork& work,
                                                     const std::vector<RotationGroup>& groups,
                                                     const std::vector<EmployeeCode>& employees,

@@ -65,11 +65,13 @@ std::vector<EmployeeCode> RotationGroup::members() const {
 }
 
 std::size_t RotationGroup::listed() const {
-    return members().size() - relief.size();
+    return places.size() -
+           static_cast<std::size_t>(std::ranges::count(places, std::optional<EmployeeCode>()));
 }
 
 bool RotationGroup::contains(const EmployeeCode& employee) const {
-    return std::ranges::count(members(), employee) > 0;
+    return std::ranges::count(places, std::optional(employee)) > 0 ||
+           std::ranges::count(relief, employee, &ReliefWorker::employee) > 0;
 }
 
 void RotationGroup::remove(const EmployeeCode& employee) {

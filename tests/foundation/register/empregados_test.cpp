@@ -305,6 +305,7 @@ TEST_F(EmpregadosTest, AMemberIsDeletedOnlyAfterASecondYes) {
     desk_.person.answers = {Answer::Yes, Answer::Yes};
     EXPECT_TRUE(empregados_.remove(0));
     EXPECT_EQ(desk_.codes(), "002 ");
+    EXPECT_THAT(desk_.locks.removed, ElementsAre("001"));
 }
 
 TEST_F(EmpregadosTest, DeleteAllAsksTwiceAndLeavesOtherCompaniesAlone) {

@@ -254,6 +254,17 @@ TEST_F(AppliedRotation, MovingTheStartAppliesAgain) {
     EXPECT_EQ(dayOf(2, 1), "") << "who had no card has none";
 }
 
+TEST_F(AppliedRotation, ATableThatIsNoneIsNotApplied) {
+    desk.file("01er.rdx") = "Unico 5x1   09:0025:00\r\n";
+    ASSERT_TRUE(screen.selectGroup(1));
+    screen.setFirstDayOff(4);
+    const auto untouched = desk.files.content;
+    desk.person.answers = {Answer::Ok};
+    EXPECT_FALSE(screen.saveGroup());
+    EXPECT_THAT(desk.person.shown.back().detail, HasSubstr("25:00"));
+    EXPECT_EQ(desk.files.content, untouched);
+}
+
 TEST_F(AppliedRotation, AClosedMonthIsNotTouched) {
     ASSERT_TRUE(screen.selectGroup(1));
     locks.closed = {"001"};
