@@ -4,6 +4,7 @@
 #include "foundation/values/text.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <limits>
 #include <numeric>
 #include <stdexcept>

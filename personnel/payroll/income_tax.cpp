@@ -1,5 +1,7 @@
 #include "personnel/payroll/income_tax.h"
 
+#include <algorithm>
+
 namespace winvrx {
 
 namespace {

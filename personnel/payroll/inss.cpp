@@ -1,5 +1,7 @@
 #include "personnel/payroll/inss.h"
 
+#include <algorithm>
+
 namespace winvrx {
 
 namespace {

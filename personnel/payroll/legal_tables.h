@@ -4,7 +4,9 @@
 #include "personnel/payroll/legal_file.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
+#include <iterator>
 #include <optional>
 #include <string>
 #include <string_view>

@@ -4,6 +4,10 @@
 #include "personnel/payroll/payroll_settings.h"
 #include "personnel/payroll/reckoning.h"
 
+#include <algorithm>
+#include <optional>
+#include <string>
+
 namespace winvrx {
 
 /// The days of a month that are paid: from `first` to `last`, both in the same month, less the days

@@ -4,6 +4,8 @@
 #include "personnel/payroll/employer_dues.h"
 #include "personnel/payroll/income_tax.h"
 
+#include <optional>
+
 // The figures of the end of a contract, for each way in which it ends. The dates and the days of
 // notice are those of termination_dates.h.
 

@@ -3,6 +3,8 @@
 #include "personnel/payroll/inss.h"
 #include "personnel/payroll/partial_month.h"
 
+#include <algorithm>
+
 namespace winvrx {
 
 namespace {

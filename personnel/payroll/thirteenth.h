@@ -3,6 +3,7 @@
 #include "personnel/payroll/employer_dues.h"
 #include "personnel/payroll/income_tax.h"
 
+#include <optional>
 #include <vector>
 
 // The 13th salary (Lei 4.090/1962, Lei 4.749/1965): a twelfth of the December salary for each month

@@ -1,5 +1,7 @@
 #include "personnel/payroll/usual_deductions.h"
 
+#include <utility>
+
 namespace winvrx {
 
 namespace {

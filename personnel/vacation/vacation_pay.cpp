@@ -2,6 +2,8 @@
 
 #include "personnel/payroll/inss.h"
 
+#include <algorithm>
+
 namespace winvrx {
 
 namespace {

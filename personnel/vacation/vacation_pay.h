@@ -3,6 +3,8 @@
 #include "personnel/payroll/employer_dues.h"
 #include "personnel/payroll/income_tax.h"
 
+#include <vector>
+
 namespace winvrx {
 
 struct VacationCase {
