@@ -13,144 +13,141 @@ std::string percentWords(const char* words, int percent) {
     return words + (" " + std::to_string(percent)) + "%";
 }
 
-class MonthReckoner {
-  public:
-    MonthReckoner(const PayrollLaw& law, const MonthPayCase& month)
-        : law_(law), month_(month), share_(paidShare(month.part, law.settings.partialMonth)) {}
+Fraction shareOf(const PayrollLaw& law, const MonthPayCase& month) {
+    return paidShare(month.part, law.settings.partialMonth);
+}
 
-    [[nodiscard]] MonthPay reckoned() && {
-        reckonFixedPay();
-        reckonHours();
-        reckonLosses();
-        reckonBase();
-        reckonDeductions();
-        reckonTotals();
-        return std::move(pay_);
-    }
+RiskPay wholeRisk(const PayrollLaw& law, const MonthPayCase& month) {
+    Reckoning unhealthy;
+    Reckoning danger;
+    if (month.unhealthyPercent > Fraction(0))
+        unhealthy = unhealthyPay(law, month.unhealthyPercent, month.salary, month.part.month());
+    if (month.isDangerous) danger = dangerPay(month.salary);
+    return betterRiskPay(std::move(unhealthy), std::move(danger));
+}
 
-  private:
-    void reckonFixedPay() {
-        pay_.salary = partialSalary(month_.salary, month_.part, law_.settings.partialMonth);
-        wholeRisk_ = riskOf(month_.salary);
-        pay_.risk = share_ == Fraction(1) ? wholeRisk_ : partialRisk();
-    }
+void reckonExtra(const PayrollLaw& law, const HourBase& base, const ExtraHours& hours,
+                 Reckoning& byDay, Reckoning& byNight) {
+    if (hours.byDay.count() > 0)
+        byDay = overtimePay(law, base, hours.percent, hours.byDay,
+                            percentWords("Horas extras", hours.percent));
+    if (hours.byNight.count() > 0)
+        byNight = nightOvertimePay(law, base, hours.nightPercent, hours.byNight,
+                                   percentWords("Horas extras noturnas", hours.nightPercent));
+}
 
-    [[nodiscard]] RiskPay riskOf(Money salary) const {
-        Reckoning unhealthy;
-        Reckoning danger;
-        if (month_.unhealthyPercent > Fraction(0))
-            unhealthy = unhealthyPay(law_, month_.unhealthyPercent, salary, month_.part.month());
-        if (month_.isDangerous) danger = dangerPay(salary);
-        return betterRiskPay(std::move(unhealthy), std::move(danger));
-    }
+/// Súmula 264 and OJ 259: additions are part of the hour; whether pay for unhealthy work is part of
+/// the night hour, the company says.
+void reckonHours(const PayrollLaw& law, const MonthPayCase& month, const RiskPay& risk,
+                 MonthEarnings& pay) {
+    Money nightPay = month.salary + risk.danger.amount;
+    if (law.settings.unhealthyPayIsInNightBase) nightPay = nightPay + risk.unhealthy.amount;
+    if (month.nightHours.count() > 0)
+        pay.night = nightPremium(law, {nightPay, month.divisor}, month.nightHours);
+    Money extraPay = month.salary + risk.total();
+    if (law.settings.nightPremiumIsInOvertimeBase) extraPay = extraPay + pay.night.amount;
+    const HourBase base{extraPay, month.divisor};
+    reckonExtra(law, base, month.minimum, pay.minimumOvertime, pay.minimumNightOvertime);
+    reckonExtra(law, base, month.maximum, pay.maximumOvertime, pay.maximumNightOvertime);
+    pay.restReflex =
+        restReflex({pay.minimumOvertime.amount, pay.maximumOvertime.amount, pay.night.amount,
+                    pay.minimumNightOvertime.amount, pay.maximumNightOvertime.amount},
+                   month.days.businessDays, month.days.restDays);
+}
 
-    [[nodiscard]] RiskPay partialRisk() const {
-        const auto part = [&](const Reckoning& whole) {
-            if (whole.amount.cents == 0) return whole;
-            const Reckoning days = Sum(whole.amount).times(share_).rounded("Pelos dias do mês");
-            Memo memo = whole.memo;
-            append(memo, days.memo);
-            return Reckoning{days.amount, memo};
-        };
-        return {part(wholeRisk_.unhealthy), part(wholeRisk_.danger)};
-    }
+Reckoning inssOf(const PayrollLaw& law, const MonthPayCase& month, Money base) {
+    Reckoning all = inss(law, base + month.vacationBase, month.part.month());
+    if (month.vacationBase.cents == 0) return all;
+    const Reckoning rest = Sum(all.amount)
+                               .minus(month.vacationInss)
+                               .rounded("INSS sem o que já se descontou nas férias");
+    append(all.memo, rest.memo);
+    return {atLeastZero(rest.amount), all.memo};
+}
 
-    /// Súmula 264 and OJ 259: additions are part of the hour; whether pay for unhealthy work is
-    /// part of the night hour, the company says.
-    void reckonHours() {
-        Money nightPay = month_.salary + wholeRisk_.danger.amount;
-        if (law_.settings.unhealthyPayIsInNightBase)
-            nightPay = nightPay + wholeRisk_.unhealthy.amount;
-        if (month_.nightHours.count() > 0)
-            pay_.night = nightPremium(law_, {nightPay, month_.divisor}, month_.nightHours);
-        Money extraPay = month_.salary + wholeRisk_.total();
-        if (law_.settings.nightPremiumIsInOvertimeBase) extraPay = extraPay + pay_.night.amount;
-        const HourBase base{extraPay, month_.divisor};
-        reckonExtra(base, month_.minimum, pay_.minimumOvertime, pay_.minimumNightOvertime);
-        reckonExtra(base, month_.maximum, pay_.maximumOvertime, pay_.maximumNightOvertime);
-        pay_.restReflex =
-            restReflex({pay_.minimumOvertime.amount, pay_.maximumOvertime.amount, pay_.night.amount,
-                        pay_.minimumNightOvertime.amount, pay_.maximumNightOvertime.amount},
-                       month_.days.businessDays, month_.days.restDays);
-    }
+/// Whether the advance was taxed when it was paid, in another month than the rest.
+bool isAdvanceTaxedApart(const PayrollLaw& law, const MonthPayCase& month) {
+    return law.settings.incomeTaxMoment == IncomeTaxMoment::EachPayment && month.advancePaid &&
+           monthOf(*month.advancePaid) != monthOf(month.paid);
+}
 
-    void reckonExtra(const HourBase& base, const ExtraHours& hours, Reckoning& byDay,
-                     Reckoning& byNight) const {
-        if (hours.byDay.count() > 0)
-            byDay = overtimePay(law_, base, hours.percent, hours.byDay,
-                                percentWords("Horas extras", hours.percent));
-        if (hours.byNight.count() > 0)
-            byNight = nightOvertimePay(law_, base, hours.percent, hours.byNight,
-                                       percentWords("Horas extras noturnas", hours.percent));
-    }
-
-    void reckonLosses() {
-        pay_.absences = daysLost(month_.salary, month_.absentDays, "Faltas");
-        const int byDelay = law_.settings.delayLosesWeeklyRest ? month_.restsLostByDelay : 0;
-        pay_.restsLost = daysLost(month_.salary, month_.restsLost + byDelay, "DSR perdido");
-        pay_.missing = timeLost(law_, {month_.salary, month_.divisor}, month_.missing);
-    }
-
-    [[nodiscard]] Money lost() const {
-        return pay_.absences.amount + pay_.restsLost.amount + pay_.missing.amount;
-    }
-
-    void reckonBase() {
-        pay_.credits = pay_.salary.amount + pay_.risk.total() + pay_.minimumOvertime.amount +
-                       pay_.maximumOvertime.amount + pay_.night.amount +
-                       pay_.minimumNightOvertime.amount + pay_.maximumNightOvertime.amount +
-                       pay_.restReflex.amount;
-        pay_.base = atLeastZero(pay_.credits - lost());
-    }
-
-    void reckonDeductions() {
-        const WorkMonth month = month_.part.month();
-        const Money inssBase = pay_.base + month_.vacationBase;
-        pay_.familyQuota = familyQuota(law_, inssBase, month_.children, month, share_);
-        pay_.inss = inss(law_, inssBase, month);
-        if (month_.vacationBase.cents > 0) leaveOutVacationInss();
-        pay_.tax = incomeTax(law_, {.kind = TaxedIncome::Month,
-                                    .income = pay_.base,
-                                    .inss = pay_.inss.amount,
-                                    .dependants = month_.dependants,
-                                    .alimony = month_.alimony,
-                                    .privatePension = month_.privatePension,
-                                    .paid = month_.paid});
-        pay_.voucher = transportVoucher(month_.salary, month_.voucherCost, voucherShare());
-        pay_.advance = salaryAdvance(month_.salary, month_.advancePercent);
-        pay_.fgts = fgts(law_, pay_.base, month_.fgtsRate);
-    }
-
-    void leaveOutVacationInss() {
-        const Reckoning rest = Sum(pay_.inss.amount)
-                                   .minus(month_.vacationInss)
-                                   .rounded("INSS sem o que já se descontou nas férias");
-        append(pay_.inss.memo, rest.memo);
-        pay_.inss.amount = atLeastZero(rest.amount);
-    }
-
-    [[nodiscard]] Fraction voucherShare() const {
-        return law_.settings.voucherFollowsDaysWorked ? share_ : Fraction(1);
-    }
-
-    void reckonTotals() {
-        pay_.credits = pay_.credits + pay_.familyQuota.amount;
-        pay_.debits = lost() + pay_.inss.amount + pay_.tax.withheld + pay_.voucher.amount +
-                      pay_.advance.amount;
-        pay_.net = pay_.credits - pay_.debits;
-    }
-
-    const PayrollLaw& law_;
-    const MonthPayCase& month_;
-    Fraction share_;
-    RiskPay wholeRisk_;
-    MonthPay pay_;
-};
+IncomeTax taxOf(const PayrollLaw& law, const MonthPayCase& month, Money base,
+                const MonthDeductions& pay) {
+    const Money apart = isAdvanceTaxedApart(law, month) ? pay.advance.amount : Money{};
+    IncomeTax tax = incomeTax(law, {.kind = TaxedIncome::Month,
+                                    .income = atLeastZero(base - apart) + month.earlier.income,
+                                    .inss = pay.inss.amount + month.earlier.inss,
+                                    .dependants = month.dependants,
+                                    .alimony = month.alimony,
+                                    .privatePension = month.privatePension,
+                                    .paid = month.paid});
+    if (month.earlier.withheld.cents == 0) return tax;
+    const Reckoning rest = Sum(tax.withheld)
+                               .minus(month.earlier.withheld)
+                               .rounded("IRRF sem o que já se reteve no mês");
+    append(tax.memo, rest.memo);
+    tax.withheld = atLeastZero(rest.amount);
+    return tax;
+}
 
 }  // namespace
 
+Reckoning partOf(const Reckoning& whole, const Fraction& share) {
+    if (share == Fraction(1) || whole.amount.cents == 0) return whole;
+    Reckoning part = Sum(whole.amount).times(share).rounded("Pelos dias do mês");
+    part.memo.insert(part.memo.begin(), whole.memo.begin(), whole.memo.end());
+    return part;
+}
+
+Money MonthEarnings::earned() const {
+    return salary.amount + risk.total() + minimumOvertime.amount + maximumOvertime.amount +
+           night.amount + minimumNightOvertime.amount + maximumNightOvertime.amount +
+           restReflex.amount;
+}
+
+Money MonthEarnings::lost() const {
+    return absences.amount + restsLost.amount + missing.amount;
+}
+
+MonthEarnings monthEarnings(const PayrollLaw& law, const MonthPayCase& month) {
+    MonthEarnings pay;
+    const Fraction share = shareOf(law, month);
+    pay.salary = partialSalary(month.salary, month.part, law.settings.partialMonth);
+    const RiskPay risk = wholeRisk(law, month);
+    pay.risk = {partOf(risk.unhealthy, share), partOf(risk.danger, share)};
+    reckonHours(law, month, risk, pay);
+    const int byDelay = law.settings.delayLosesWeeklyRest ? month.restsLostByDelay : 0;
+    pay.absences = daysLost(month.salary, month.absentDays, "Faltas");
+    pay.restsLost = daysLost(month.salary, month.restsLost + byDelay, "DSR perdido");
+    pay.missing = timeLost(law, {month.salary, month.divisor}, month.missing);
+    return pay;
+}
+
+MonthDeductions monthDeductions(const PayrollLaw& law, const MonthPayCase& month, Money base) {
+    MonthDeductions pay;
+    const Fraction share = shareOf(law, month);
+    pay.familyQuota =
+        familyQuota(law, base + month.vacationBase, month.children, month.part.month(), share);
+    pay.inss = inssOf(law, month, base);
+    pay.advance = salaryAdvance(month.salary, month.advancePercent);
+    pay.tax = taxOf(law, month, base, pay);
+    pay.voucher = transportVoucher(month.salary, month.voucherCost, month.voucherPercent,
+                                   law.settings.voucherFollowsDaysWorked ? share : Fraction(1));
+    pay.fgts = fgts(law, base, month.fgtsRate);
+    if (law.settings.isDomesticEmployer)
+        pay.guide = domesticGuide(law, base + month.vacationBase, month.part.month());
+    return pay;
+}
+
 MonthPay monthPay(const PayrollLaw& law, const MonthPayCase& month) {
-    return MonthReckoner(law, month).reckoned();
+    const MonthEarnings earnings = monthEarnings(law, month);
+    const Money base = atLeastZero(earnings.earned() - earnings.lost());
+    MonthPay pay{earnings, monthDeductions(law, month, base), base, {}, {}, {}};
+    pay.credits = pay.earned() + pay.familyQuota.amount;
+    pay.debits =
+        pay.lost() + pay.inss.amount + pay.tax.withheld + pay.voucher.amount + pay.advance.amount;
+    pay.net = pay.credits - pay.debits;
+    return pay;
 }
 
 }  // namespace winvrx

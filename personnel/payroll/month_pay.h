@@ -7,15 +7,26 @@
 #include "personnel/payroll/risk_pay.h"
 #include "timecard/month/business_days.h"
 
-// The pay of one employee for one month, from figures; who gathers them stands outside.
+#include <optional>
+
+// The pay of one employee for one month, from figures; who gathers them stands outside. First what
+// is earned and lost, then, on the base that this leaves, what is taken off.
 
 namespace winvrx {
 
-/// Extra hours at one rate.
+/// Extra hours of one level.
 struct ExtraHours {
     int percent = 50;
+    int nightPercent = 50;
     std::chrono::seconds byDay{};
     std::chrono::seconds byNight{};  ///< clock hours
+};
+
+/// What was paid, in the calendar month of this payment, before it, and withheld of it.
+struct EarlierPayments {
+    Money income;
+    Money inss;
+    Money withheld;
 };
 
 struct MonthPayCase {
@@ -23,8 +34,8 @@ struct MonthPayCase {
     Date paid{};
     Money salary = {};
     Fraction divisor = 220;
-    ExtraHours minimum = {.percent = 50};
-    ExtraHours maximum = {.percent = 100};
+    ExtraHours minimum = {.percent = 50, .nightPercent = 50};
+    ExtraHours maximum = {.percent = 100, .nightPercent = 100};
     std::chrono::seconds nightHours{};  ///< clock hours, those of extra work apart
     Fraction unhealthyPercent = 0;
     bool isDangerous = false;
@@ -33,12 +44,15 @@ struct MonthPayCase {
     int restsLostByDelay = 0;        ///< counts by the company's setting
     std::chrono::seconds missing{};  ///< delays, whole days apart
     MonthDayCounts days = {};
-    Money voucherCost = {};
+    Fraction voucherPercent = 6;
+    Money voucherCost = {};  ///< of the tickets; none, no voucher
     Fraction advancePercent = 0;
+    std::optional<Date> advancePaid = {};
     int children = 0;    ///< with a right to the salary-family
     int dependants = 0;  ///< of the IRRF
     Money alimony = {};
     Money privatePension = {};
+    EarlierPayments earlier = {};
     /// Of a vacation in the month: what falls in its INSS, and what is withheld of it already.
     Money vacationBase = {};
     Money vacationInss = {};
@@ -46,10 +60,9 @@ struct MonthPayCase {
 };
 
 /// Lines that are not due are zero and without a memo.
-struct MonthPay {
+struct MonthEarnings {
     Reckoning salary;
     RiskPay risk;
-    Reckoning familyQuota;
     Reckoning minimumOvertime;
     Reckoning maximumOvertime;
     Reckoning night;
@@ -59,17 +72,34 @@ struct MonthPay {
     Reckoning absences;
     Reckoning restsLost;
     Reckoning missing;
-    Money base;  ///< of INSS, IRRF and FGTS
+
+    [[nodiscard]] Money earned() const;
+    [[nodiscard]] Money lost() const;
+};
+[[nodiscard]] MonthEarnings monthEarnings(const PayrollLaw& law, const MonthPayCase& month);
+
+struct MonthDeductions {
+    Reckoning familyQuota;  ///< paid, not taken off, but by the same base
     Reckoning inss;
     IncomeTax tax;
     Reckoning voucher;
     Reckoning advance;
     Reckoning fgts;
+    std::optional<DomesticGuide> guide;  ///< of a domestic employer
+};
+/// `base` is what INSS, IRRF and FGTS fall on.
+[[nodiscard]] MonthDeductions monthDeductions(const PayrollLaw& law, const MonthPayCase& month,
+                                              Money base);
+
+struct MonthPay : MonthEarnings, MonthDeductions {
+    Money base;
     Money credits;  ///< of earnings, before absences
     Money debits;   ///< of everything taken off, absences among it
     Money net;      ///< credits − debits
 };
-
 [[nodiscard]] MonthPay monthPay(const PayrollLaw& law, const MonthPayCase& month);
+
+/// The part of a month in its additions, voucher limit and family quota.
+[[nodiscard]] Reckoning partOf(const Reckoning& whole, const Fraction& share);
 
 }  // namespace winvrx

@@ -4,21 +4,16 @@
 
 namespace winvrx {
 
-namespace {
-
-constexpr int kVoucherPercent = 6;
-
-}  // namespace
-
-Reckoning voucherLimit(Money salary, const Fraction& share) {
-    Sum sum = Sum(salary).percent(kVoucherPercent);
+Reckoning voucherLimit(Money salary, const Fraction& percent, const Fraction& share) {
+    Sum sum = Sum(salary).percent(percent);
     if (share != Fraction(1)) sum = std::move(sum).times(share);
     return sum.rounded("Limite do vale-transporte");
 }
 
-Reckoning transportVoucher(Money salary, Money cost, const Fraction& share) {
+Reckoning transportVoucher(Money salary, Money cost, const Fraction& percent,
+                           const Fraction& share) {
     if (cost.cents == 0) return {};
-    return smallerOf(voucherLimit(salary, share), Sum(cost).rounded("Custo das passagens"),
+    return smallerOf(voucherLimit(salary, percent, share), Sum(cost).rounded("Custo das passagens"),
                      "Vale-transporte, o menor dos dois");
 }
 

@@ -131,8 +131,9 @@ Fraction shareOf(In in, Law law) {
 void voucherTopic(In in, Law law, Out out) {
     const Money salary = in.money({"salario_base", "salario"});
     const Fraction share = shareOf(in, law);
-    out.add("teto_6", voucherLimit(salary, share));
-    out.add("desconto", transportVoucher(salary, in.money({"custo", "vt_custo"}), share));
+    out.add("teto_6", voucherLimit(salary, kVoucherPercent, share));
+    out.add("desconto",
+            transportVoucher(salary, in.money({"custo", "vt_custo"}), kVoucherPercent, share));
 }
 
 void advanceTopic(In in, Law, Out out) {
@@ -170,8 +171,8 @@ MonthPayCase payslipCase(In in, Law law) {
     MonthPayCase pay{.part = *part, .paid = in.dateIfAny({"pagamento"}).value_or(in.refDay())};
     pay.salary = in.money({"salario"});
     pay.divisor = in.divisor();
-    pay.minimum = {50, in.hours({"h50"}), in.hours({"h50_noturnas"})};
-    pay.maximum = {100, in.hours({"h100"}), in.hours({"h100_noturnas"})};
+    pay.minimum = {50, 50, in.hours({"h50"}), in.hours({"h50_noturnas"})};
+    pay.maximum = {100, 100, in.hours({"h100"}), in.hours({"h100_noturnas"})};
     pay.nightHours = in.hours({"noturnas_relogio"});
     pay.unhealthyPercent = in.numberOr({"insal_pct"}, 0);
     pay.isDangerous = in.flag({"peric"});
