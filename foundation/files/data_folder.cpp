@@ -17,6 +17,8 @@ constexpr std::size_t kEmployeeMonthFileLength = 15;
 /// "01", "001", "-03-2024", then ".bdx".
 constexpr std::size_t kPunchSuffixStart = 14;
 
+constexpr std::size_t kEmployeeEventListStart = 6;
+
 std::string withForwardSlashes(std::string_view text) {
     std::string result(text);
     std::replace(result.begin(), result.end(), '\\', '/');
@@ -50,6 +52,16 @@ bool isGroup(std::string_view name) {
 bool isSetting(std::string_view name) {
     return std::find(kCompanySettings.begin(), kCompanySettings.end(), name) !=
            kCompanySettings.end();
+}
+
+/// "01" and "001" before the end.
+bool isEmployeeEventList(std::string_view name) {
+    return name.size() == kEmployeeEventListStart - 1 + kEmployeeEventListStem.size() &&
+           standsAt(name, kEmployeeEventListStart, kEmployeeEventListStem);
+}
+
+bool isEventList(std::string_view name) {
+    return name.substr(2) == kEventListStem || isEmployeeEventList(name);
 }
 
 std::optional<std::string_view> stemOf(std::string_view name) {
@@ -98,14 +110,14 @@ bool isRecordOfCompany(std::string_view name, const CompanyCode& company) {
     if (!name.starts_with(company.text())) return false;
     return stemOf(name) || name.find(kLeaveStem) != std::string_view::npos ||
            isPunchOrPayrollFile(name) || isMonthFile(name) || name.substr(2) == kEmployeeListStem ||
-           isGroup(name) || isSetting(name.substr(2));
+           isGroup(name) || isSetting(name.substr(2)) || isEventList(name);
 }
 
 std::optional<EmployeeCode> employeeOfRecord(std::string_view name, const CompanyCode& company) {
     if (!isRecordOfCompany(name, company) || name.substr(2) == kEmployeeListStem || isGroup(name))
         return std::nullopt;
-    const bool hasEmployee =
-        stemOf(name) || isPunchOrPayrollFile(name) || name.size() >= kEmployeeMonthFileLength;
+    const bool hasEmployee = stemOf(name) || isPunchOrPayrollFile(name) ||
+                             isEmployeeEventList(name) || name.size() >= kEmployeeMonthFileLength;
     const std::size_t start = employeeCodeStart(name) - 1;
     if (!hasEmployee || start >= name.size()) return std::nullopt;
     return EmployeeCode::parse(name.substr(start, EmployeeCode::kDigits));

@@ -90,18 +90,22 @@ inline constexpr std::string_view kLeaveStem = "configAf";
 inline constexpr std::array<std::string_view, 3> kTerminationStems = {"TRTC", "THRTC", "AviTRTC"};
 /// Stem of a company's rotation groups.
 inline constexpr std::string_view kGroupStem = "GRUPO-";
+/// Ends of the names of a company's list of payroll events and of an employee's own.
+inline constexpr std::string_view kEventListStem = "confgger";
+inline constexpr std::string_view kEmployeeEventListStem = "confgger2";
 /// Stem of the mark of a transfer to another company that is under way.
 inline constexpr std::string_view kTransferStem = "Transf";
 inline constexpr std::string_view kEmployeeListStem = "CartaPonto";
 
-/// Settings of one company, behind its code: card stock, how cards come out, trays and header, and
-/// the work-time tables of the rotations.
+/// Settings of one company, behind its code: card stock, how cards come out, trays and header,
+/// the work-time tables of the rotations, and how its payroll is computed.
 inline constexpr std::string_view kStockSettingName = "CartaoDePontoTipo";
 inline constexpr std::string_view kPrinterKindName = "ImpressoraTipo";
 inline constexpr std::string_view kFeedName = "Impresstec";
 inline constexpr std::string_view kWorkTableName = "er.rdx";
-inline constexpr std::array<std::string_view, 4> kCompanySettings = {
-    kStockSettingName, kPrinterKindName, kFeedName, kWorkTableName};
+inline constexpr std::string_view kPayrollSettingsName = "FolhaOpcoes";
+inline constexpr std::array<std::string_view, 5> kCompanySettings = {
+    kStockSettingName, kPrinterKindName, kFeedName, kWorkTableName, kPayrollSettingsName};
 
 /// Files of the run: both go when the program ends.
 inline constexpr std::string_view kStartMemoryName = "LocMen.lvc";

@@ -47,6 +47,7 @@ std::optional<Money> parseMoney(std::string_view text) {
 }
 
 std::string moneyText(Money money) {
+    if (money.cents < 0) return "-" + moneyText({-money.cents});
     std::string whole = std::to_string(money.cents / 100);
     for (auto place = static_cast<std::ptrdiff_t>(whole.size()) - 3; place > 0; place -= 3)
         whole.insert(static_cast<std::size_t>(place), ".");

@@ -18,7 +18,7 @@ struct Money {
 /// amounts and amounts of more than twelve digits before the comma included.
 [[nodiscard]] std::optional<Money> parseMoney(std::string_view text);
 
-/// "1.234,56".
+/// "1.234,56", below zero "-1.234,56".
 [[nodiscard]] std::string moneyText(Money money);
 
 }  // namespace winvrx

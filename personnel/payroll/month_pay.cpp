@@ -17,15 +17,6 @@ Fraction shareOf(const PayrollLaw& law, const MonthPayCase& month) {
     return paidShare(month.part, law.settings.partialMonth);
 }
 
-RiskPay wholeRisk(const PayrollLaw& law, const MonthPayCase& month) {
-    Reckoning unhealthy;
-    Reckoning danger;
-    if (month.unhealthyPercent > Fraction(0))
-        unhealthy = unhealthyPay(law, month.unhealthyPercent, month.salary, month.part.month());
-    if (month.isDangerous) danger = dangerPay(month.salary);
-    return betterRiskPay(std::move(unhealthy), std::move(danger));
-}
-
 void reckonExtra(const PayrollLaw& law, const HourBase& base, const ExtraHours& hours,
                  Reckoning& byDay, Reckoning& byNight) {
     if (hours.byDay.count() > 0)
@@ -92,6 +83,15 @@ IncomeTax taxOf(const PayrollLaw& law, const MonthPayCase& month, Money base,
 
 }  // namespace
 
+RiskPay wholeRiskPay(const PayrollLaw& law, const MonthPayCase& month) {
+    Reckoning unhealthy;
+    Reckoning danger;
+    if (month.unhealthyPercent > Fraction(0))
+        unhealthy = unhealthyPay(law, month.unhealthyPercent, month.salary, month.part.month());
+    if (month.isDangerous) danger = dangerPay(month.salary);
+    return betterRiskPay(std::move(unhealthy), std::move(danger));
+}
+
 Reckoning partOf(const Reckoning& whole, const Fraction& share) {
     if (share == Fraction(1) || whole.amount.cents == 0) return whole;
     Reckoning part = Sum(whole.amount).times(share).rounded("Pelos dias do mês");
@@ -113,7 +113,7 @@ MonthEarnings monthEarnings(const PayrollLaw& law, const MonthPayCase& month) {
     MonthEarnings pay;
     const Fraction share = shareOf(law, month);
     pay.salary = partialSalary(month.salary, month.part, law.settings.partialMonth);
-    const RiskPay risk = wholeRisk(law, month);
+    const RiskPay risk = wholeRiskPay(law, month);
     pay.risk = {partOf(risk.unhealthy, share), partOf(risk.danger, share)};
     reckonHours(law, month, risk, pay);
     const int byDelay = law.settings.delayLosesWeeklyRest ? month.restsLostByDelay : 0;

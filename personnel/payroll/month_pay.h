@@ -99,7 +99,10 @@ struct MonthPay : MonthEarnings, MonthDeductions {
 };
 [[nodiscard]] MonthPay monthPay(const PayrollLaw& law, const MonthPayCase& month);
 
-/// The part of a month in its additions, voucher limit and family quota.
+/// The additions of a whole month.
+[[nodiscard]] RiskPay wholeRiskPay(const PayrollLaw& law, const MonthPayCase& month);
+
+/// The part of a month in its additions.
 [[nodiscard]] Reckoning partOf(const Reckoning& whole, const Fraction& share);
 
 }  // namespace winvrx

@@ -77,4 +77,15 @@ std::vector<VacationShare> sharesByMonth(Money pay, Date start, int days) {
     return shares;
 }
 
+Reckoning vacationInss(const PayrollLaw& law, Money taxable, Date start, int days) {
+    Reckoning sum;
+    for (const VacationShare& share : sharesByMonth(taxable, start, days)) {
+        const Reckoning one = inss(law, share.amount, share.month,
+                                   "INSS sobre as férias em " + monthKey(share.month));
+        sum.amount = sum.amount + one.amount;
+        append(sum.memo, one.memo);
+    }
+    return sum;
+}
+
 }  // namespace winvrx

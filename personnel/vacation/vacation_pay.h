@@ -47,4 +47,8 @@ struct VacationShare {
 };
 [[nodiscard]] std::vector<VacationShare> sharesByMonth(Money pay, Date start, int days);
 
+/// The INSS of a vacation's pay: of each month's share by itself, as it is withheld when the
+/// vacation is paid. The month's own payroll withholds what its pay adds.
+[[nodiscard]] Reckoning vacationInss(const PayrollLaw& law, Money taxable, Date start, int days);
+
 }  // namespace winvrx

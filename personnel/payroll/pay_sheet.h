@@ -1,0 +1,59 @@
+#pragma once
+
+#include "personnel/payroll/pay_sheet_case.h"
+#include "personnel/payroll/payroll_event.h"
+
+#include <map>
+#include <optional>
+#include <span>
+#include <vector>
+
+// The payroll of an employee and month, event by event: what the screen shows, the file keeps and
+// the receipt prints.
+
+namespace winvrx {
+
+/// Amounts that the operator typed over what is computed, by event.
+using TypedAmounts = std::map<EventCode, Money>;
+
+struct PayLine {
+    PayrollEvent event;
+    Money amount;
+    bool isTyped = false;
+    Memo memo = {};
+};
+
+struct PaySheet {
+    std::vector<PayLine> lines;  ///< in the order of the computation
+    Money base;                  ///< of the month's INSS, IRRF and FGTS
+    Money fgtsBase;              ///< with vacation and 13th
+    Reckoning fgts;
+    std::optional<DomesticGuide> guide = {};
+    Money credits;
+    Money debits;
+    Money net;
+
+    /// nullptr where the event is not on the sheet.
+    [[nodiscard]] const PayLine* find(std::string_view code) const;
+    /// Zero where the event is not on the sheet.
+    [[nodiscard]] Money amountOf(std::string_view code) const;
+};
+
+/// Taxed earnings of a payroll, in a month less the hours that were lost.
+[[nodiscard]] Money taxedPay(const PaySheet& sheet, PayrollKind payroll);
+
+/// Bases and totals from the lines; FGTS and guide are not among them.
+void addUp(PaySheet& sheet);
+
+/// Which events of `events` the month, and a vacation and a 13th salary where there are, have, each
+/// with its amount. An event that nobody computes has what was typed, or nothing. Reference numbers
+/// speak: 001 hours a month, 002 per cent, 003 above zero where work is dangerous, 004 children,
+/// 005 to 009 rates, 025 per cent, 031 per cent of the salary or 1 for the rate of `month`.
+[[nodiscard]] PaySheet paySheet(const PayrollLaw& law, const PaySheetCase& one,
+                                std::span<const PayrollEventLine> events,
+                                const TypedAmounts& typed = {});
+
+/// The codes of the default catalogue in the order in which they are computed.
+[[nodiscard]] std::span<const std::string_view> computationOrder();
+
+}  // namespace winvrx

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "personnel/payroll/month_pay.h"
+#include "personnel/vacation/vacation_pay.h"
+
+#include <optional>
+
+// What the payroll of an employee and month is computed from.
+
+namespace winvrx {
+
+enum class Instalment { First, Second };
+
+struct ThirteenthSheet {
+    Instalment instalment = Instalment::First;
+    int twelfths = 12;
+    std::optional<int> twelfthsSoFar = {};
+    Money averages = {};
+    Money firstPaid = {};  ///< of the second: what the first paid out
+    Date paid{};
+};
+
+struct VacationSheet {
+    VacationCase pay;  ///< salary and additions apart: `pay.salary` is the base salary
+    Date start{};
+};
+
+struct PaySheetCase {
+    MonthPayCase month;
+    std::optional<VacationSheet> vacation = {};
+    std::optional<ThirteenthSheet> thirteenth = {};
+};
+
+}  // namespace winvrx

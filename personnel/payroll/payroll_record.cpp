@@ -1,0 +1,78 @@
+#include "personnel/payroll/payroll_record.h"
+
+#include "foundation/values/text.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+RecordFile fileOf(const Store& store, const EmployeeKey& key, WorkMonth month) {
+    return {store, payrollFileName(key, month)};
+}
+
+std::string lineOfPay(const PayLine& line) {
+    RecordedPayLine record{line.event, moneyText(line.amount),
+                           std::string(line.isTyped ? kTypedMark : "")};
+    return encode(record);
+}
+
+std::optional<PayLine> payLineFrom(std::string_view bytes) {
+    const auto record = decode<RecordedPayLine>(bytes);
+    const auto amount = parseMoney(record.amount);
+    if (!keyOf(record) || !amount) return std::nullopt;
+    return PayLine{record, *amount, record.typed == kTypedMark};
+}
+
+/// Where the month stands in the name: behind company, "fp" and the five digits of the employee.
+constexpr std::size_t kMonthStart = 9;
+constexpr std::size_t kMonthLength = 7;
+
+}  // namespace
+
+std::optional<RecordedPayroll> loadPayroll(const Store& store, const EmployeeKey& key,
+                                           WorkMonth month) {
+    const RecordFile file = fileOf(store, key, month);
+    if (!file.exists()) return std::nullopt;
+    RecordedPayroll payroll;
+    for (const std::string& bytes : file.lines()) {
+        if (auto line = payLineFrom(bytes))
+            payroll.sheet.lines.push_back(*std::move(line));
+        else if (!trimmed(bytes).empty())
+            payroll.unread.push_back(readableText(bytes));
+    }
+    addUp(payroll.sheet);
+    return payroll;
+}
+
+TypedAmounts typedAmounts(const PaySheet& sheet) {
+    TypedAmounts typed;
+    for (const PayLine& line : sheet.lines)
+        if (line.isTyped) typed.emplace(keyOf(line.event).value(), line.amount);
+    return typed;
+}
+
+FileSystem::NewContent payrollContent(const Store& store, const EmployeeKey& key, WorkMonth month,
+                                      const PaySheet& sheet) {
+    std::vector<std::string> lines;
+    std::ranges::transform(sheet.lines, std::back_inserter(lines), lineOfPay);
+    return {store.folder.file(payrollFileName(key, month)), joinedLines(lines)};
+}
+
+bool reopenPayroll(const Store& store, const EmployeeKey& key, WorkMonth month) {
+    return fileOf(store, key, month).remove();
+}
+
+std::vector<WorkMonth> recordedMonths(const EmployeeKey& key, const FolderNames& names) {
+    std::vector<WorkMonth> months;
+    for (const std::string& name : beginningWith(names, key.company.text())) {
+        if (!isPayrollOfEmployee(name, key) || name.size() < kMonthStart + kMonthLength) continue;
+        const auto month = parseMonthKey(std::string_view(name).substr(kMonthStart, kMonthLength));
+        if (month && name == payrollFileName(key, *month)) months.push_back(*month);
+    }
+    std::ranges::sort(months);
+    return months;
+}
+
+}  // namespace winvrx

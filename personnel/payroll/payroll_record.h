@@ -1,0 +1,67 @@
+#pragma once
+
+#include "foundation/files/folder_names.h"
+#include "foundation/files/payroll_file.h"
+#include "personnel/payroll/pay_sheet.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+// The payroll file of an employee and month: a line an event with its amount,
+//
+//     005 HORA EXTRA 50%       1050,01111000 392,73         *
+//
+// "*" where the amount was typed over. While the file stands the month is closed for the employee.
+
+namespace winvrx {
+
+struct RecordedPayLine : PayrollEvent {
+    std::string amount;  ///< "#,##0.00"
+    std::string typed;   ///< kTypedMark or nothing
+};
+inline constexpr std::string_view kTypedMark = "*";
+
+/// The layout of a line: that of an event, and behind it the amount. The one place that knows it.
+inline constexpr std::array kRecordedPayFields = {
+    RecordField<RecordedPayLine>{&RecordedPayLine::code, kPayrollEventFields[0].column, ""},
+    RecordField<RecordedPayLine>{&RecordedPayLine::name, kPayrollEventFields[1].column, ""},
+    RecordField<RecordedPayLine>{&RecordedPayLine::kind, kPayrollEventFields[2].column, ""},
+    RecordField<RecordedPayLine>{&RecordedPayLine::reference, kPayrollEventFields[3].column, ""},
+    RecordField<RecordedPayLine>{&RecordedPayLine::comma, kPayrollEventFields[4].column, ""},
+    RecordField<RecordedPayLine>{&RecordedPayLine::flags, kPayrollEventFields[5].column, ""},
+    RecordField<RecordedPayLine>{&RecordedPayLine::amount, {40, 14}, "Valor"},
+    RecordField<RecordedPayLine>{&RecordedPayLine::typed, {55, 1}, "Digitado"},
+};
+inline constexpr std::size_t kRecordedPayWidth = 55;
+
+template <>
+struct RecordLayout<RecordedPayLine> : LineLayout<kRecordedPayFields, kRecordedPayWidth> {};
+
+/// A payroll as it was recorded: without memos, which are computed anew. Lines that cannot be
+/// understood are told, and counted nowhere.
+struct RecordedPayroll {
+    PaySheet sheet;
+    std::vector<std::string> unread;
+};
+
+/// nullopt where the month is open. Throws FileFault.
+[[nodiscard]] std::optional<RecordedPayroll> loadPayroll(const Store& store, const EmployeeKey& key,
+                                                         WorkMonth month);
+
+/// The amounts that were typed over in a recorded payroll.
+[[nodiscard]] TypedAmounts typedAmounts(const PaySheet& sheet);
+
+/// What the file of a sheet holds, for a caller that writes many with one flush. Throws TextFault
+/// for a name that cannot be stored.
+[[nodiscard]] FileSystem::NewContent payrollContent(const Store& store, const EmployeeKey& key,
+                                                    WorkMonth month, const PaySheet& sheet);
+
+/// Opens the month again: the file goes. False when it was open. Throws FileFault.
+bool reopenPayroll(const Store& store, const EmployeeKey& key, WorkMonth month);
+
+/// The months of an employee that are recorded, the earliest first, by the names in the folder.
+[[nodiscard]] std::vector<WorkMonth> recordedMonths(const EmployeeKey& key,
+                                                    const FolderNames& names);
+
+}  // namespace winvrx
