@@ -1,6 +1,6 @@
 #include "personnel/payroll/pay_sheet.h"
 
-#include "personnel/payroll/inss.h"
+#include "personnel/pay/inss.h"
 #include "personnel/payroll/special_sheets.h"
 
 #include <algorithm>

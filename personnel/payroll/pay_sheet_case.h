@@ -1,6 +1,6 @@
 #pragma once
 
-#include "personnel/payroll/month_pay.h"
+#include "personnel/pay/month_pay.h"
 #include "personnel/vacation/vacation_pay.h"
 
 #include <optional>

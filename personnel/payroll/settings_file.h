@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/files/data_folder.h"
-#include "personnel/payroll/payroll_settings.h"
+#include "personnel/pay/payroll_settings.h"
 
 #include <string>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "personnel/payroll/special_sheets.h"
 
-#include "personnel/payroll/inss.h"
-#include "personnel/payroll/thirteenth.h"
+#include "personnel/pay/inss.h"
+#include "personnel/pay/thirteenth.h"
 
 namespace winvrx {
 

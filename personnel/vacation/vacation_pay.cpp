@@ -1,6 +1,6 @@
 #include "personnel/vacation/vacation_pay.h"
 
-#include "personnel/payroll/inss.h"
+#include "personnel/pay/inss.h"
 
 #include <algorithm>
 

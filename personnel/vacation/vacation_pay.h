@@ -1,7 +1,7 @@
 #pragma once
 
-#include "personnel/payroll/employer_dues.h"
-#include "personnel/payroll/income_tax.h"
+#include "personnel/pay/employer_dues.h"
+#include "personnel/pay/income_tax.h"
 
 #include <vector>
 

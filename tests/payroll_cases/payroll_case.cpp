@@ -2,7 +2,7 @@
 
 #include "foundation/values/csv.h"
 #include "foundation/values/text.h"
-#include "personnel/payroll/hours_pay.h"
+#include "personnel/pay/hours_pay.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/values/date.h"
-#include "personnel/payroll/reckoning.h"
+#include "personnel/pay/reckoning.h"
 
 #include <chrono>
 #include <map>

@@ -1,5 +1,5 @@
-#include "personnel/payroll/termination_pay.h"
-#include "personnel/payroll/thirteenth.h"
+#include "personnel/pay/termination_pay.h"
+#include "personnel/pay/thirteenth.h"
 #include "personnel/vacation/vacation_pay.h"
 #include "personnel/vacation/vacation_rules.h"
 #include "tests/payroll_cases/topics.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "personnel/payroll/payroll_law.h"
+#include "personnel/pay/payroll_law.h"
 #include "tests/payroll_cases/payroll_case.h"
 
 namespace winvrx::testing {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/files/file_system.h"
-#include "personnel/payroll/legal_tables.h"
+#include "personnel/pay/legal_tables.h"
 
 namespace winvrx::testing {
 

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "personnel/pay/payroll_law.h"
+#include "personnel/pay/reckoning.h"
+
+#include <chrono>
+#include <initializer_list>
+
+// What hours are worth. The value of an hour is never rounded by itself, unless the company says
+// so; a line is rounded once, at its total.
+
+namespace winvrx {
+
+/// The pay of a month that an hour is a part of, and of how many hours the month is.
+struct HourBase {
+    Money pay;
+    Fraction divisor;  ///< above zero
+};
+
+/// Hours a month for so many a week, a sixth of them each day of thirty: 44 give 220, 40 give 200
+/// (Súmula 431 of the TST).
+[[nodiscard]] Fraction divisorOf(const Fraction& weeklyHours);
+
+/// In cents and parts of a cent.
+[[nodiscard]] Fraction hourValue(const PayrollLaw& law, const HourBase& base);
+
+/// Hours with `percent` added to each (CF, art. 7º, XVI; Súmula 264).
+[[nodiscard]] Reckoning overtimePay(const PayrollLaw& law, const HourBase& base, int percent,
+                                    std::chrono::seconds worked, std::string words);
+
+/// Clock hours as hours of night work: of 52 minutes 30 seconds each (CLT, art. 73 par. 1), or as
+/// they are where work is rural or the company does not reduce them.
+[[nodiscard]] Fraction nightHours(const PayrollLaw& law, std::chrono::seconds clock);
+
+/// What night work adds to an hour: 20% (CLT, art. 73), rural 25% (Lei 5.889/1973, art. 7º).
+[[nodiscard]] int nightPercent(const PayrollLaw& law);
+
+[[nodiscard]] Reckoning nightPremium(const PayrollLaw& law, const HourBase& base,
+                                     std::chrono::seconds clock);
+
+/// Overtime at night: both additions one upon the other, on the hours of night work.
+[[nodiscard]] Reckoning nightOvertimePay(const PayrollLaw& law, const HourBase& base, int percent,
+                                         std::chrono::seconds clock, std::string words);
+
+/// What the rest days get of the variable pay of the month (Lei 605/1949, art. 7º; Súmula 172).
+/// Nothing in a month without business days.
+[[nodiscard]] Reckoning restReflex(std::initializer_list<Money> variablePay, int businessDays,
+                                   int restDays);
+
+/// The average of `hours` overtime over `months`, at today's value (Súmula 347): what it adds to a
+/// 13th salary or a vacation. Requires months > 0.
+[[nodiscard]] Reckoning overtimeAverage(const PayrollLaw& law, const HourBase& base, int percent,
+                                        std::chrono::seconds hours, int months);
+
+}  // namespace winvrx

@@ -1,0 +1,153 @@
+#include "personnel/pay/month_pay.h"
+
+#include "personnel/pay/absences.h"
+#include "personnel/pay/family_quota.h"
+#include "personnel/pay/inss.h"
+#include "personnel/pay/usual_deductions.h"
+
+namespace winvrx {
+
+namespace {
+
+std::string percentWords(const char* words, int percent) {
+    return words + (" " + std::to_string(percent)) + "%";
+}
+
+Fraction shareOf(const PayrollLaw& law, const MonthPayCase& month) {
+    return paidShare(month.part, law.settings.partialMonth);
+}
+
+void reckonExtra(const PayrollLaw& law, const HourBase& base, const ExtraHours& hours,
+                 Reckoning& byDay, Reckoning& byNight) {
+    if (hours.byDay.count() > 0)
+        byDay = overtimePay(law, base, hours.percent, hours.byDay,
+                            percentWords("Horas extras", hours.percent));
+    if (hours.byNight.count() > 0)
+        byNight = nightOvertimePay(law, base, hours.nightPercent, hours.byNight,
+                                   percentWords("Horas extras noturnas", hours.nightPercent));
+}
+
+/// Súmula 264 and OJ 259: additions are part of the hour; whether pay for unhealthy work is part of
+/// the night hour, the company says.
+void reckonHours(const PayrollLaw& law, const MonthPayCase& month, const RiskPay& risk,
+                 MonthEarnings& pay) {
+    Money nightPay = month.salary + risk.danger.amount;
+    if (law.settings.unhealthyPayIsInNightBase) nightPay = nightPay + risk.unhealthy.amount;
+    if (month.nightHours.count() > 0)
+        pay.night = nightPremium(law, {nightPay, month.divisor}, month.nightHours);
+    Money extraPay = month.salary + risk.total();
+    if (law.settings.nightPremiumIsInOvertimeBase) extraPay = extraPay + pay.night.amount;
+    const HourBase base{extraPay, month.divisor};
+    reckonExtra(law, base, month.minimum, pay.minimumOvertime, pay.minimumNightOvertime);
+    reckonExtra(law, base, month.maximum, pay.maximumOvertime, pay.maximumNightOvertime);
+    pay.restReflex =
+        restReflex({pay.minimumOvertime.amount, pay.maximumOvertime.amount, pay.night.amount,
+                    pay.minimumNightOvertime.amount, pay.maximumNightOvertime.amount},
+                   month.days.businessDays, month.days.restDays);
+}
+
+Reckoning inssOf(const PayrollLaw& law, const MonthPayCase& month, Money base) {
+    Reckoning all = inss(law, base + month.vacationBase, month.part.month());
+    if (month.vacationBase.cents == 0) return all;
+    const Reckoning rest = Sum(all.amount)
+                               .minus(month.vacationInss)
+                               .rounded("INSS sem o que já se descontou nas férias");
+    append(all.memo, rest.memo);
+    return {atLeastZero(rest.amount), all.memo};
+}
+
+/// Whether the advance was taxed when it was paid, in another month than the rest.
+bool isAdvanceTaxedApart(const PayrollLaw& law, const MonthPayCase& month) {
+    return law.settings.incomeTaxMoment == IncomeTaxMoment::EachPayment && month.advancePaid &&
+           monthOf(*month.advancePaid) != monthOf(month.paid);
+}
+
+IncomeTax taxOf(const PayrollLaw& law, const MonthPayCase& month, Money base,
+                const MonthDeductions& pay) {
+    const Money apart = isAdvanceTaxedApart(law, month) ? pay.advance.amount : Money{};
+    IncomeTax tax = incomeTax(law, {.kind = TaxedIncome::Month,
+                                    .income = atLeastZero(base - apart) + month.earlier.income,
+                                    .inss = pay.inss.amount + month.earlier.inss,
+                                    .dependants = month.dependants,
+                                    .alimony = month.alimony,
+                                    .privatePension = month.privatePension,
+                                    .paid = month.paid});
+    if (month.earlier.withheld.cents == 0) return tax;
+    const Reckoning rest = Sum(tax.withheld)
+                               .minus(month.earlier.withheld)
+                               .rounded("IRRF sem o que já se reteve no mês");
+    append(tax.memo, rest.memo);
+    tax.withheld = atLeastZero(rest.amount);
+    return tax;
+}
+
+}  // namespace
+
+RiskPay wholeRiskPay(const PayrollLaw& law, const MonthPayCase& month) {
+    Reckoning unhealthy;
+    Reckoning danger;
+    if (month.unhealthyPercent > Fraction(0))
+        unhealthy = unhealthyPay(law, month.unhealthyPercent, month.salary, month.part.month());
+    if (month.isDangerous) danger = dangerPay(month.salary);
+    return betterRiskPay(std::move(unhealthy), std::move(danger));
+}
+
+Reckoning partOf(const Reckoning& whole, const Fraction& share) {
+    if (share == Fraction(1) || whole.amount.cents == 0) return whole;
+    Reckoning part = Sum(whole.amount).times(share).rounded("Pelos dias do mês");
+    part.memo.insert(part.memo.begin(), whole.memo.begin(), whole.memo.end());
+    return part;
+}
+
+Money MonthEarnings::earned() const {
+    return salary.amount + risk.total() + minimumOvertime.amount + maximumOvertime.amount +
+           night.amount + minimumNightOvertime.amount + maximumNightOvertime.amount +
+           restReflex.amount;
+}
+
+Money MonthEarnings::lost() const {
+    return absences.amount + restsLost.amount + missing.amount;
+}
+
+MonthEarnings monthEarnings(const PayrollLaw& law, const MonthPayCase& month) {
+    MonthEarnings pay;
+    const Fraction share = shareOf(law, month);
+    pay.salary = partialSalary(month.salary, month.part, law.settings.partialMonth);
+    const RiskPay risk = wholeRiskPay(law, month);
+    pay.risk = {partOf(risk.unhealthy, share), partOf(risk.danger, share)};
+    reckonHours(law, month, risk, pay);
+    const int byDelay = law.settings.delayLosesWeeklyRest ? month.restsLostByDelay : 0;
+    pay.absences = daysLost(month.salary, month.absentDays, "Faltas");
+    pay.restsLost = daysLost(month.salary, month.restsLost + byDelay, "DSR perdido");
+    pay.missing = timeLost(law, {month.salary, month.divisor}, month.missing);
+    return pay;
+}
+
+MonthDeductions monthDeductions(const PayrollLaw& law, const MonthPayCase& month, Money base) {
+    MonthDeductions pay;
+    const Fraction share = shareOf(law, month);
+    pay.familyQuota =
+        familyQuota(law, base + month.vacationBase, month.children, month.part.month(), share);
+    pay.inss = inssOf(law, month, base);
+    pay.advance = salaryAdvance(month.salary, month.advancePercent);
+    pay.tax = taxOf(law, month, base, pay);
+    pay.voucher = transportVoucher(month.salary, month.voucherCost, month.voucherPercent,
+                                   law.settings.voucherFollowsDaysWorked ? share : Fraction(1));
+    pay.fgts = fgts(law, base, month.fgtsRate);
+    if (law.settings.isDomesticEmployer)
+        pay.guide = domesticGuide(law, base + month.vacationBase, month.part.month());
+    return pay;
+}
+
+MonthPay monthPay(const PayrollLaw& law, const MonthPayCase& month) {
+    const MonthEarnings earnings = monthEarnings(law, month);
+    const Money base = atLeastZero(earnings.earned() - earnings.lost());
+    MonthPay pay{earnings, monthDeductions(law, month, base), base, {}, {}, {}};
+    pay.credits = pay.earned() + pay.familyQuota.amount;
+    pay.debits =
+        pay.lost() + pay.inss.amount + pay.tax.withheld + pay.voucher.amount + pay.advance.amount;
+    pay.net = pay.credits - pay.debits;
+    return pay;
+}
+
+}  // namespace winvrx

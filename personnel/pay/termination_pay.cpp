@@ -1,0 +1,157 @@
+#include "personnel/pay/termination_pay.h"
+
+#include "personnel/pay/inss.h"
+#include "personnel/pay/partial_month.h"
+#include "personnel/pay/thirteenth.h"
+#include "personnel/vacation/vacation_rules.h"
+
+namespace winvrx {
+
+namespace {
+
+constexpr int kDaysAMonth = 30;
+constexpr int kMonthsAYear = 12;
+constexpr int kUsualFine = 40;
+constexpr int kMutualFine = 20;
+
+bool isResignation(const TerminationCase& end) {
+    return end.type == TerminationType::Resignation;
+}
+
+bool isMutual(const TerminationCase& end) {
+    return end.type == TerminationType::MutualFault;
+}
+
+/// By mutual fault half of it is due (CLT, art. 484; Súmula 14 of the TST).
+Reckoning halved(const TerminationCase& end, Reckoning whole) {
+    if (!isMutual(end)) return whole;
+    const Reckoning half = Sum(whole.amount).over(2).rounded("Metade por culpa recíproca");
+    append(whole.memo, half.memo);
+    return {half.amount, whole.memo};
+}
+
+int daysOfNoticePaid(const TerminationCase& end, const TerminationDates& dates) {
+    if (isResignation(end)) return 0;
+    const auto worked = std::chrono::sys_days(dates.lastDayWorked.value) -
+                        std::chrono::sys_days(dates.noticeGiven.value);
+    return dates.noticeDays.value - static_cast<int>(worked.count());
+}
+
+Reckoning noticePay(const TerminationCase& end, int days, std::string words) {
+    return Sum({end.salary, end.averages}).over(kDaysAMonth).times(days).rounded(std::move(words));
+}
+
+void reckonNotice(const TerminationCase& end, TerminationPay& pay) {
+    pay.dates = terminationDates(end.type, end.notice, end.admission, end.given);
+    if (const int days = daysOfNoticePaid(end, pay.dates); days > 0)
+        pay.notice = noticePay(end, days, "Aviso prévio indenizado");
+    if (!pay.notice.memo.empty()) pay.notice.memo.push_back({pay.dates.noticeDays.rule});
+    if (isResignation(end) && end.notice == NoticeType::Paid)
+        pay.noticeDeducted =
+            noticePay(end, pay.dates.noticeDays.value, "Aviso prévio não cumprido");
+}
+
+void reckonBalance(const PayrollLaw& law, const TerminationCase& end, TerminationPay& pay) {
+    const Date last = pay.dates.lastDayWorked.value;
+    if (const auto part = employedPart(monthOf(last), end.admission, last))
+        pay.balance =
+            partialSalary(end.salary, *part, law.settings.partialMonth, "Saldo de salário");
+}
+
+/// Twelfths of the year of `last`, and of the next where the projected notice reaches it.
+int twelfthsUntil(const TerminationCase& end, Date lastWorked, Date last) {
+    int twelfths = thirteenthTwelfths(lastWorked.year(), end.admission, last);
+    if (last.year() > lastWorked.year())
+        twelfths += thirteenthTwelfths(last.year(), end.admission, last);
+    return twelfths;
+}
+
+void reckonThirteenth(const TerminationCase& end, TerminationPay& pay) {
+    if (end.type == TerminationType::JustCause) return;
+    pay.thirteenthTwelfths =
+        twelfthsUntil(end, pay.dates.lastDayWorked.value, pay.dates.noticeEnds.value);
+    pay.thirteenth = halved(
+        end, thirteenthOf(end.salary, end.averages, pay.thirteenthTwelfths, "13º proporcional"));
+}
+
+Reckoning overdueVacation(const TerminationCase& end) {
+    const int count = end.overduePeriods + end.doubledPeriods;
+    if (count <= 0) return {};
+    Reckoning pay = Sum({end.salary, end.averages}).times(count).rounded("Férias vencidas");
+    if (end.doubledPeriods > 0)
+        pay.memo.push_back(
+            {"Em dobro (CLT, art. 137)", std::to_string(end.doubledPeriods) + " período(s)"});
+    const Reckoning third = Sum(pay.amount).over(3).rounded("1/3 das férias vencidas");
+    append(pay.memo, third.memo);
+    return {pay.amount + third.amount, pay.memo};
+}
+
+void reckonVacation(const TerminationCase& end, TerminationPay& pay) {
+    pay.overdue = overdueVacation(end);
+    if (end.type == TerminationType::JustCause) return;
+    const Date runs = acquisitionPeriods(end.admission, pay.dates.lastDayWorked.value).back().first;
+    pay.vacationTwelfths = vacationTwelfths(runs, pay.dates.noticeEnds.value);
+    const int days = vacationDays(end.absences);
+    Sum sum = Sum({end.salary, end.averages}).over(kMonthsAYear).times(pay.vacationTwelfths);
+    if (days != kDaysAMonth) sum = std::move(sum).times({days, kDaysAMonth});
+    pay.vacation = halved(end, sum.rounded("Férias proporcionais"));
+    pay.vacationThird = Sum(pay.vacation.amount).over(3).rounded("1/3 das férias proporcionais");
+}
+
+Money thirteenthForInss(const PayrollLaw& law, const TerminationCase& end,
+                        const TerminationPay& pay) {
+    if (law.settings.inssOnNoticeTwelfths || end.type == TerminationType::JustCause)
+        return pay.thirteenth.amount;
+    const Date last = pay.dates.lastDayWorked.value;
+    return halved(end, thirteenthOf(end.salary, end.averages, twelfthsUntil(end, last, last)))
+        .amount;
+}
+
+void reckonDeductions(const PayrollLaw& law, const TerminationCase& end, TerminationPay& pay) {
+    const WorkMonth month = monthOf(pay.dates.lastDayWorked.value);
+    const Date paid = end.paid.value_or(pay.dates.paymentDue.value);
+    const Money notice = law.settings.inssOnPaidNotice ? pay.notice.amount : Money{};
+    pay.inssBalance = inss(law, pay.balance.amount + notice, month, "INSS sobre o saldo");
+    pay.inssThirteenth = inss(law, thirteenthForInss(law, end, pay), month, "INSS sobre o 13º");
+    pay.taxBalance = incomeTax(law, {.kind = TaxedIncome::Month,
+                                     .income = pay.balance.amount,
+                                     .inss = pay.inssBalance.amount,
+                                     .dependants = end.dependants,
+                                     .paid = paid});
+    pay.taxThirteenth = incomeTax(law, {.kind = TaxedIncome::Thirteenth,
+                                        .income = pay.thirteenth.amount,
+                                        .inss = pay.inssThirteenth.amount,
+                                        .dependants = end.dependants,
+                                        .paid = paid});
+}
+
+void reckonFgts(const PayrollLaw& law, const TerminationCase& end, TerminationPay& pay) {
+    const Money base = pay.balance.amount + pay.notice.amount + pay.thirteenth.amount;
+    pay.fgts = fgts(law, base, end.fgtsRate, "FGTS da rescisão");
+    if (end.type == TerminationType::JustCause || isResignation(end)) return;
+    pay.fgtsFine =
+        fgtsFine(end.fgtsAccount + pay.fgts.amount, isMutual(end) ? kMutualFine : kUsualFine);
+}
+
+}  // namespace
+
+TerminationPay terminationPay(const PayrollLaw& law, const TerminationCase& end) {
+    TerminationPay pay;
+    reckonNotice(end, pay);
+    if (law.settings.paymentTerm == PaymentTerm::FromProjectedEnd)
+        pay.dates.paymentDue = paymentDue(pay.dates.noticeEnds.value);
+    reckonBalance(law, end, pay);
+    reckonThirteenth(end, pay);
+    reckonVacation(end, pay);
+    reckonDeductions(law, end, pay);
+    reckonFgts(law, end, pay);
+    pay.gross = pay.balance.amount + pay.notice.amount + pay.thirteenth.amount +
+                pay.vacation.amount + pay.vacationThird.amount + pay.overdue.amount;
+    pay.deductions = pay.noticeDeducted.amount + pay.inssBalance.amount +
+                     pay.inssThirteenth.amount + pay.taxBalance.withheld +
+                     pay.taxThirteenth.withheld;
+    pay.net = pay.gross - pay.deductions;
+    return pay;
+}
+
+}  // namespace winvrx

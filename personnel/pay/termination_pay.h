@@ -1,0 +1,56 @@
+#pragma once
+
+#include "personnel/leaves/termination_dates.h"
+#include "personnel/pay/employer_dues.h"
+#include "personnel/pay/income_tax.h"
+
+#include <optional>
+
+// The figures of the end of a contract, for each way in which it ends. The dates and the days of
+// notice are those of termination_dates.h.
+
+namespace winvrx {
+
+struct TerminationCase {
+    TerminationType type = TerminationType::WithoutCause;
+    NoticeType notice = NoticeType::Paid;
+    Date admission{};
+    Date given{};  ///< the day on which notice is given
+    Money salary = {};
+    Money averages = {};     ///< of variable pay, in notice, 13th and vacation
+    int overduePeriods = 0;  ///< vacations earned and not taken
+    int doubledPeriods = 0;  ///< of these, past the limit of the concession
+    int absences = 0;        ///< unjustified, in the vacation period that runs
+    Money fgtsAccount = {};  ///< its balance before this account
+    int dependants = 0;
+    std::optional<Date> paid = {};  ///< the day on which it is due where not said
+    FgtsRate fgtsRate = FgtsRate::Usual;
+};
+
+/// Lines that are not due are zero and without a memo.
+struct TerminationPay {
+    TerminationDates dates;
+    Reckoning balance;         ///< the days of the last month
+    Reckoning notice;          ///< the part of the notice that is paid, not worked
+    Reckoning noticeDeducted;  ///< a resigning employee who does not work it
+    int thirteenthTwelfths = 0;
+    Reckoning thirteenth;
+    int vacationTwelfths = 0;
+    Reckoning vacation;  ///< in twelfths
+    Reckoning vacationThird;
+    Reckoning overdue;  ///< whole periods, with their third
+    Reckoning inssBalance;
+    Reckoning inssThirteenth;
+    IncomeTax taxBalance;
+    IncomeTax taxThirteenth;
+    Reckoning fgts;  ///< of this account
+    Reckoning fgtsFine;
+    Money gross;
+    Money deductions;
+    Money net;  ///< without FGTS and fine, which go to the account; may be below zero
+};
+
+/// Requires admission <= given. Throws LegalTableFault for dates before the tables.
+[[nodiscard]] TerminationPay terminationPay(const PayrollLaw& law, const TerminationCase& end);
+
+}  // namespace winvrx

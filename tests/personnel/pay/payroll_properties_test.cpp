@@ -1,0 +1,147 @@
+// What holds of every payroll, tried on random figures; the seed is printed with each run.
+#include "personnel/pay/inss.h"
+#include "personnel/pay/month_pay.h"
+#include "personnel/vacation/vacation_pay.h"
+#include "tests/support/legal_tables.h"
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+#include <random>
+
+namespace winvrx {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int kTries = 800;
+constexpr std::int64_t kHighestPay = 1'500'000;
+
+class PayrollProperties : public ::testing::Test {
+  protected:
+    PayrollProperties() { std::cout << "seed " << seed_ << "\n"; }
+
+    int upTo(int highest) { return std::uniform_int_distribution(0, highest)(random_); }
+    Money pay() { return {std::uniform_int_distribution<std::int64_t>(1, kHighestPay)(random_)}; }
+
+    /// A month from 2023 to 2026.
+    WorkMonth month() { return 2023y / std::chrono::January + std::chrono::months{upTo(47)}; }
+
+    PayrollSettings settings() {
+        PayrollSettings chosen;
+        for (const PayrollSetting& one : payrollSettings())
+            one.choose(chosen,
+                       static_cast<std::size_t>(upTo(static_cast<int>(one.choices.size()) - 1)));
+        return chosen;
+    }
+
+    MonthPayCase someMonth() {
+        MonthPayCase pay{.part = wholeMonth(month())};
+        if (upTo(2) == 0) pay.part.first = plusDays(pay.part.first, upTo(27));
+        pay.paid = plusDays(pay.part.last, upTo(7));
+        pay.salary = this->pay();
+        pay.minimum.byDay = std::chrono::minutes{upTo(3000)};
+        pay.maximum.byNight = std::chrono::minutes{upTo(600)};
+        pay.nightHours = std::chrono::minutes{upTo(6000)};
+        pay.unhealthyPercent = upTo(4) * 10;
+        pay.isDangerous = upTo(1) == 1;
+        pay.absentDays = upTo(3);
+        pay.restsLost = upTo(2);
+        pay.missing = std::chrono::minutes{upTo(300)};
+        pay.days = {25, 6};
+        pay.voucherCost = {upTo(30000)};
+        pay.advancePercent = upTo(40);
+        pay.children = upTo(3);
+        pay.dependants = upTo(3);
+        return pay;
+    }
+
+    LegalTables tables_ = testing::legalTablesIn(WINVRX_LEGAL_FOLDER);
+    unsigned seed_ = std::random_device{}();
+    std::mt19937 random_{seed_};
+};
+
+TEST_F(PayrollProperties, InssAndIncomeTaxNeverFallWhenTheGrossRises) {
+    for (int i = 0; i < kTries; ++i) {
+        PayrollSettings chosen;
+        chosen.inssRounding =
+            upTo(1) == 0 ? InssRounding::TruncatedBrackets : InssRounding::RoundedOnce;
+        const PayrollLaw law{tables_, chosen};
+        const WorkMonth when = month();
+        const Money low = pay();
+        const Money high = low + Money{1 + (upTo(1) == 0 ? upTo(3) : upTo(100000))};
+        const int dependants = upTo(3);
+        const auto taxes = [&](Money gross) {
+            const Money contribution = inss(law, gross, when).amount;
+            return std::pair(contribution, incomeTax(law, {.income = gross,
+                                                           .inss = contribution,
+                                                           .dependants = dependants,
+                                                           .paid = lastDay(when)}));
+        };
+        const auto [lowInss, lowTax] = taxes(low);
+        const auto [highInss, highTax] = taxes(high);
+        SCOPED_TRACE(monthKey(when) + " " + moneyText(low) + " " + moneyText(high));
+        EXPECT_LE(lowInss, highInss);
+        // At a bracket's edge the law's deductions, which have whole cents, let the tax step by
+        // one.
+        EXPECT_LE(lowTax.due, highTax.due + Money{1});
+        EXPECT_GE(lowTax.due, Money{});
+    }
+}
+
+TEST_F(PayrollProperties, NetIsCreditsLessDebitsAndTwiceIsTheSame) {
+    for (int i = 0; i < kTries; ++i) {
+        const PayrollSettings chosen = settings();
+        const PayrollLaw law{tables_, chosen};
+        const MonthPayCase month = someMonth();
+        const MonthPay once = monthPay(law, month);
+        SCOPED_TRACE(monthKey(month.part.month()) + " " + moneyText(month.salary));
+        EXPECT_EQ(once.credits, once.earned() + once.familyQuota.amount);
+        EXPECT_EQ(once.net, once.earned() + once.familyQuota.amount - once.lost() -
+                                once.inss.amount - once.tax.withheld - once.voucher.amount -
+                                once.advance.amount);
+        const MonthPay twice = monthPay(law, month);
+        EXPECT_EQ(once.net, twice.net);
+        EXPECT_EQ(once.inss, twice.inss);
+        EXPECT_EQ(once.tax.memo, twice.tax.memo);
+    }
+}
+
+TEST_F(PayrollProperties, AMonthSplitByAnAdmissionNeverExceedsTheWhole) {
+    for (int i = 0; i < kTries; ++i) {
+        const Money salary = pay();
+        const WorkMonth when = month();
+        const auto method = static_cast<PartialMonth>(upTo(2));
+        Money later = salary;
+        for (Date day = firstDay(when); monthOf(day) == when; day = plusDays(day, 1)) {
+            const MonthPart part{day, lastDay(when)};
+            const Money amount = partialSalary(salary, part, method).amount;
+            EXPECT_LE(amount, later) << dateText(day) << " " << moneyText(salary);
+            EXPECT_LE(paidShare(part, method), Fraction(1));
+            later = amount;
+        }
+        EXPECT_EQ(
+            partialSalary(salary, {firstDay(when), lastDay(when), daysIn(when)}, method).amount,
+            Money{});
+    }
+}
+
+TEST_F(PayrollProperties, AVacationOfTwoMonthsLosesNothing) {
+    for (int i = 0; i < kTries; ++i) {
+        const Money pay = this->pay();
+        const int days = 1 + upTo(29);
+        Money sum;
+        int counted = 0;
+        for (const VacationShare& share :
+             sharesByMonth(pay, plusDays(firstDay(month()), upTo(30)), days)) {
+            sum = sum + share.amount;
+            counted += share.days;
+            EXPECT_GE(share.amount, Money{});
+        }
+        EXPECT_EQ(sum, pay);
+        EXPECT_EQ(counted, days);
+    }
+}
+
+}  // namespace
+}  // namespace winvrx
