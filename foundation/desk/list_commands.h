@@ -60,7 +60,7 @@ class ListCommands : public ListScreen {
         return run(incorrectData(), [&] {
             const Record record = completed(typed);
             return requireAcceptable(record, nullptr) && requireNoDoubt(record, {}) &&
-                   at_.person.agrees(questions_.include) && rewrite([&](Lines& lines) {
+                   at_.person.agrees(inclusionOf(record)) && rewrite([&](Lines& lines) {
                        lines.push_back(newLine(record, lines));
                        clearFor(lines.back());
                    });
@@ -122,6 +122,8 @@ class ListCommands : public ListScreen {
         blamed_ = doubts.front().member;
         return false;
     }
+    /// The question before a record is included; one may name it.
+    [[nodiscard]] virtual Message inclusionOf(const Record&) const { return questions_.include; }
     /// The question before the line goes, which names it; `along` is what goes with it.
     [[nodiscard]] Message removalOf(std::size_t position, const std::string& along = {}) const {
         Message asked = questions_.remove;
