@@ -174,6 +174,40 @@ void correctDays(Player& player) {
     player.picture("dados-segunda-quinzena"_t);
 }
 
+void addLeave(Player& player) {
+    player.press(Qt::Key_Insert);
+    player.answer("Confirma Adicionar Novo Afastamento?"_t, Answer::Yes);
+    player.answer("Há dias preenchidos no cartão que este afastamento muda."_t, Answer::Yes);
+}
+
+/// A medical certificate of 001, and 003 who is dismissed on the 20th, both after the cards were
+/// filled.
+void recordLeaves(Player& player) {
+    player.choose("card.employees"_t, "001"_t);
+    player.press(Qt::Key_F8);
+    player.choose("leaves.type"_t, "007"_t);
+    player.type("leaves.firstDay"_t, "18/03/2024"_t);
+    player.type("leaves.days"_t, "3"_t);
+    player.type("leaves.hours"_t, "0"_t);
+    player.picture("atestado"_t);
+    addLeave(player);
+    player.choose("leaves.employees"_t, "003"_t);
+    player.choose("leaves.type"_t, "008"_t);
+    player.type("leaves.firstDay"_t, "20/03/2024"_t);
+    player.choose("leaves.terminationType"_t, "01."_t);
+    player.choose("leaves.noticeType"_t, "02."_t);
+    addLeave(player);
+    player.picture("afastamentos"_t);
+    player.press(Qt::Key_F9);
+    player.answer("Confirma  Inativar  Funcionário Selecionado?"_t, Answer::Yes);
+    player.answer("Há dias preenchidos no cartão que este afastamento muda."_t, Answer::Yes);
+    player.picture("inativo"_t);
+    player.press(Qt::Key_Escape);
+    player.picture("dados-atestado"_t);
+    player.choose("card.employees"_t, "003"_t);
+    player.picture("dados-rescisao"_t);
+}
+
 void applyCards(Player& player) {
     player.press(Qt::Key_F5);
     recordHours(player, "001"_t,
@@ -188,6 +222,7 @@ void applyCards(Player& player) {
     player.picture("aplicar-todos"_t);
     player.answer("Confirma Aplicação de Ponto"_t, Answer::Yes);
     correctDays(player);
+    recordLeaves(player);
     player.press(Qt::Key_Escape);
 }
 

@@ -80,6 +80,7 @@ LeaveFormPanel::LeaveFormPanel(Afastamento& command, QWidget* parent)
     : QWidget(parent), command_(command) {
     auto* column = new QVBoxLayout(this);
     look::layOutPart(*column);
+    column->setSpacing(look::kSmallGap / 2);
     auto* row = new QHBoxLayout;
     look::layOutPart(*row);
     buildLeave(*row);
@@ -90,7 +91,7 @@ LeaveFormPanel::LeaveFormPanel(Afastamento& command, QWidget* parent)
     column->addWidget(period_);
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(look::kGap);
-    grid->setVerticalSpacing(look::kSmallGap);
+    grid->setVerticalSpacing(look::kSmallGap / 4);
     grid->setColumnStretch(2, 1);
     buildTermination(*grid);
     column->addLayout(grid);
@@ -160,6 +161,7 @@ void LeaveFormPanel::showNotes(LeaveInput input) {
     const QString finding = toQt(command_.finding(input));
     if (input != LeaveInput::FirstDay) return field.setFinding(finding);
     period_->setText(finding.isEmpty() ? finding : QStringLiteral("⚠ ") + finding);
+    period_->setVisible(!finding.isEmpty());
 }
 
 void LeaveFormPanel::showParts() {

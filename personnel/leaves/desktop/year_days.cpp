@@ -24,6 +24,11 @@ int cellWidth(const QFontMetrics& metrics) {
     return metrics.horizontalAdvance(QStringLiteral("00")) - 2;
 }
 
+/// A row of digits needs less than one of letters.
+int cellHeight(const QFontMetrics& metrics) {
+    return metrics.tightBoundingRect(QStringLiteral("8")).height() + look::kSmallGap;
+}
+
 }  // namespace
 
 QString numberOf(const Leave& leave) {
@@ -55,12 +60,12 @@ int YearDays::monthWidth() const {
 
 QSize YearDays::sizeHint() const {
     return {monthWidth() + kDaysOfRow * cellWidth(fontMetrics()) + 1,
-            (kMonths + 1) * fontMetrics().height() + 1};
+            (kMonths + 1) * cellHeight(fontMetrics()) + 1};
 }
 
 QRect YearDays::cellOf(Date date) const {
     const int width = cellWidth(fontMetrics());
-    const int height = fontMetrics().height();
+    const int height = cellHeight(fontMetrics());
     return {monthWidth() + (dayNumber(date) - 1) * width,
             static_cast<int>(unsigned{date.month()}) * height, width, height};
 }
@@ -104,7 +109,7 @@ void YearDays::paintDay(QPainter& painter, Date date) const {
 void YearDays::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), palette().base());
-    const int height = fontMetrics().height();
+    const int height = cellHeight(fontMetrics());
     painter.setPen(look::color(look::Tint::Quiet, palette()));
     for (const unsigned day : {1U, 5U, 10U, 15U, 20U, 25U, 30U}) {
         const QRect cell = cellOf(Date{year_, std::chrono::January, std::chrono::day(day)});

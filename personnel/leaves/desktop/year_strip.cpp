@@ -4,6 +4,7 @@
 #include "foundation/widgets/desktop/look.h"
 #include "personnel/leaves/desktop/year_days.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
@@ -19,6 +20,7 @@ YearStrip::YearStrip(QWidget* parent)
       legend_(look::label(QString(), look::TextSize::Hint, this)) {
     auto* column = new QVBoxLayout(this);
     look::layOutPart(*column);
+    column->setSpacing(look::kSmallGap / 2);
     auto* row = new QHBoxLayout;
     look::layOutPart(*row);
     title_->setObjectName(QStringLiteral("leaves.year"));
@@ -29,6 +31,8 @@ YearStrip::YearStrip(QWidget* parent)
         look::name(*button, QStringLiteral("leaves.year.") + QLatin1String(name),
                    QString::fromUtf8(spoken));
         button->setIcon(look::icon(QLatin1String(name)));
+        button->setAutoRaise(true);
+        button->setFixedHeight(title_->fontMetrics().height());
         button->setToolTip(QString::fromUtf8(spoken));
         connect(button, &QToolButton::clicked, this, [this, years = by] { turn(years); });
         row->addWidget(button);
@@ -46,6 +50,12 @@ void YearStrip::show(LeaveCalendar calendar, std::optional<std::chrono::year> ye
     calendar_ = std::move(calendar);
     if (year) year_ = *year;
     refresh();
+}
+
+/// The legend holds its colours.
+void YearStrip::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) refresh();
 }
 
 void YearStrip::turn(int years) {

@@ -23,6 +23,9 @@ class YearStrip : public QWidget {
     /// Stays on its year where `year` is none.
     void show(LeaveCalendar calendar, std::optional<std::chrono::year> year);
 
+  protected:
+    void changeEvent(QEvent* event) override;
+
   private:
     void turn(int years);
     void refresh();

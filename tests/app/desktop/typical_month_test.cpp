@@ -96,7 +96,10 @@ TEST_F(TypicalMonth, PrintsARowForEachOfThirtyOneDays) {
             const bool holiday = day == 29;
             const bool beforeAdmission = card == 1 && day < 12;
             const bool absent = card == 0 && day == 12;
-            const bool worked = !sunday && !holiday && !beforeAdmission && !absent;
+            const bool onLeave = card == 0 && day >= 18 && day <= 20;
+            const bool dismissed = card == 2 && day > 20;
+            const bool worked =
+                !sunday && !holiday && !beforeAdmission && !absent && !onLeave && !dismissed;
             EXPECT_EQ(row.find(':') != std::string::npos, worked) << row;
         }
     }
@@ -108,6 +111,8 @@ TEST_F(TypicalMonth, PrintsARowForEachOfThirtyOneDays) {
     EXPECT_EQ(dayRow(cards[1], 12), "12 ter 09:00 13:00 14:00 18:00 08:00");
     EXPECT_EQ(dayRow(cards[2], 4), "04 seg 22:00 02:00 03:00 06:00 07:00");
     EXPECT_EQ(dayRow(cards[0], 29), "29 sex FERIADO");
+    EXPECT_EQ(dayRow(cards[0], 18), "18 seg AFASTAMENTO");
+    EXPECT_EQ(dayRow(cards[2], 29), "29 sex");
 }
 
 TEST_F(TypicalMonth, LeavesRecordsOfTheirLayout) {
@@ -127,7 +132,10 @@ TEST_F(TypicalMonth, LeavesRecordsOfTheirLayout) {
     EXPECT_EQ(punches[0], "  \r");
     EXPECT_EQ(punches[1].left(60), QByteArray("01/sex/mar22:0002:0003:0006:00").leftJustified(60));
     EXPECT_EQ(punches[3].mid(45, 15), "DESCANSO SEMANA");
-    EXPECT_EQ(punches[29].mid(45, 15), QByteArray("FERIADO").leftJustified(15));
+    EXPECT_EQ(punches[29].mid(10), QByteArray("\r").rightJustified(punches[29].size() - 10));
+    EXPECT_EQ(record("02001-03-2024.bdx").split('\n')[29].mid(45, 15),
+              QByteArray("FERIADO").leftJustified(15));
+    EXPECT_THAT(record("02configAf003").toStdString(), ::testing::EndsWith("**** 25/04/2024\r\n"));
 }
 
 TEST_F(TypicalMonth, KeepsPicturesInBothPalettesTheConversationAndNothingUntold) {
@@ -135,8 +143,9 @@ TEST_F(TypicalMonth, KeepsPicturesInBothPalettesTheConversationAndNothingUntold)
     std::vector<std::string> names;
     for (const QString& name : pictures)
         names.push_back(name.mid(3).toStdString());
-    for (const char* window : {"janela-principal", "empresas", "funcionarios", "mes-carnaval",
-                               "feriados", "mes", "dados", "tipo", "imprimir", "previa"}) {
+    for (const char* window :
+         {"janela-principal", "empresas", "funcionarios", "mes-carnaval", "feriados", "mes",
+          "dados", "afastamentos", "tipo", "imprimir", "previa"}) {
         EXPECT_THAT(names, Contains(std::string(window) + "-claro.png"));
         EXPECT_THAT(names, Contains(std::string(window) + "-escuro.png"));
     }

@@ -2,6 +2,7 @@
 
 #include "personnel/leaves/leave_types.h"
 #include "tests/support/employee_desk.h"
+#include "timecard/punches/punch_record.h"
 
 #include <gmock/gmock.h>
 
@@ -9,6 +10,7 @@ namespace winvrx {
 namespace {
 
 using enum LeaveInput;
+using namespace std::chrono_literals;
 using ::testing::ElementsAre;
 using testing::EmployeeDesk;
 using ::testing::IsEmpty;
@@ -419,6 +421,54 @@ TEST_F(AfastamentoTest, ReactivatesUnlessATerminationDocumentStands) {
     EXPECT_TRUE(screen_.changeActivation());
     EXPECT_EQ(told(), Texts{"Ativar/Inativar: Confirma  Reativar  Funcionário Selecionado?"});
     EXPECT_THAT(file(), ::testing::EndsWith("**** \r\n"));
+}
+
+TEST_F(AfastamentoTest, OffersTheCardsThatALeaveComesTooLateFor) {
+    const EmployeeKey key{*CompanyCode::parse("01"), *EmployeeCode::parse("001")};
+    for (const auto month : {2024y / 3, 2024y / 4}) {
+        auto lines = blankMonth(month);
+        for (PunchLine& line : lines)
+            line.morningEntry = "08:00";
+        desk_.file(punchFileName(key, month)) = editedPunchRecord("", month, lines);
+    }
+    const auto marked = [&](WorkMonth month, int day) {
+        const auto line =
+            loadPunches(desk_.store(), key, month)->at(static_cast<std::size_t>(day) - 1);
+        return line.situation + (line.hasTimes() ? " timed" : "");
+    };
+    record({});
+    start();
+    type({{Type, "007 ATESTADO_DECALRAÇÃO"}, {FirstDay, "30/03/2024"}, {Days, "3"}});
+    screen_.lookForPunches();
+    EXPECT_EQ(screen_.finding(FirstDay),
+              "Já há horas no cartão em 30/03/2024, 31/03/2024, 01/04/2024.");
+    desk_.person.answers = {kYes, kNo};
+    EXPECT_TRUE(screen_.add());
+    EXPECT_EQ(desk_.person.shown.back().icon, Icon::Exclamation) << "times would be lost";
+    EXPECT_EQ(desk_.person.shown.back().detail,
+              "3 dias. Perdem as horas: 30/03/2024, 31/03/2024, 01/04/2024.");
+    EXPECT_EQ(marked(2024y / 3, 30), " timed");
+    type({{Hours, "1"}});
+    desk_.person.answers = {kYes, kYes};
+    EXPECT_TRUE(screen_.change());
+    EXPECT_EQ(marked(2024y / 3, 31), "AFASTAMENTO");
+    EXPECT_EQ(marked(2024y / 4, 1), "AFASTAMENTO");
+    EXPECT_EQ(marked(2024y / 4, 2), " timed");
+
+    type({{Hours, "2"}});
+    desk_.person.shown.clear();
+    desk_.person.answers = {kYes};
+    EXPECT_TRUE(screen_.change());
+    EXPECT_EQ(desk_.person.shown.size(), 1U) << "every day is marked already";
+
+    record({termination()});
+    start();
+    desk_.person.answers = {kYes, kYes};
+    EXPECT_TRUE(screen_.changeActivation());
+    EXPECT_EQ(marked(2024y / 3, 15), " timed");
+    EXPECT_EQ(marked(2024y / 3, 16) + marked(2024y / 4, 30), "");
+    EXPECT_EQ(screen_.selected()->dismissal, "26/04/2024");
+    EXPECT_EQ(screen_.contradiction(), "");
 }
 
 TEST_F(AfastamentoTest, ListsEveryoneOrThoseWithAFile) {

@@ -183,10 +183,13 @@ void CartaoPontoDadosWindow::buildCommands() {
                    Qt::Key_F7, QStringLiteral("card.monthSettings"));
     connect(month, &QToolButton::clicked, this,
             [this] { leaveFor(&CartaoPontoDadosWindow::monthSettingsRequested); });
-    QToolButton* leaves = addCommand(QStringLiteral("leave"), QStringLiteral("Afastamentos"),
-                                     Qt::Key_F8, QStringLiteral("card.leaves"));
-    connect(leaves, &QToolButton::clicked, this,
+    // The command bar has no room left.
+    QPushButton* leaves =
+        addClosingButton(QStringLiteral("Afasta&mentos  F8"), QStringLiteral("card.leaves"));
+    leaves->setIcon(look::icon(QStringLiteral("leave")));
+    connect(leaves, &QPushButton::clicked, this,
             [this] { leaveFor(&CartaoPontoDadosWindow::leavesRequested); });
+    connect(new QShortcut(Qt::Key_F8, this), &QShortcut::activated, leaves, &QPushButton::click);
     QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("card.close"));
     connect(close, &QPushButton::clicked, this, &CartaoPontoDadosWindow::reject);
 }
