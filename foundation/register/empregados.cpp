@@ -1,5 +1,6 @@
 #include "foundation/register/empregados.h"
 
+#include "foundation/register/dismissal.h"
 #include "foundation/register/employee_checks.h"
 #include "foundation/register/employee_transfer.h"
 
@@ -96,6 +97,11 @@ EmployeeMarks Empregados::marks(const Employee& employee) const {
     return code ? EmployeeList::marksOf(marks_, *code) : EmployeeMarks();
 }
 
+std::string Empregados::contradictionIn(const Employee& employee) const {
+    const EmployeeMarks its = marks(employee);
+    return its.unreadable ? std::string() : dismissalContradiction(employee, its.inactiveSince);
+}
+
 std::optional<EmployeeCode> Empregados::proposedCode() const {
     std::set<EmployeeCode> taken = keysOf(lines_);
     taken.insert(codesOfFiles_.begin(), codesOfFiles_.end());
@@ -148,7 +154,11 @@ Findings<Employee> Empregados::wrongIn(const Employee& typed, const Employee& be
 }
 
 Findings<Employee> Empregados::doubtsAbout(const Employee& typed, const Employee& before) const {
-    return winvrx::doubtsAbout(typed, before, lines_, at_.clock.today());
+    auto doubts = winvrx::doubtsAbout(typed, before, lines_, at_.clock.today());
+    if (typed.dismissal != before.dismissal)
+        if (const std::string contradiction = contradictionIn(typed); !contradiction.empty())
+            doubts.push_back({&Employee::dismissal, contradiction});
+    return doubts;
 }
 
 bool Empregados::requireRight(const Employee& typed, const Employee& before) {

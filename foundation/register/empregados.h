@@ -55,6 +55,9 @@ class Empregados : public ListCommands<Employee> {
     [[nodiscard]] const std::vector<CompanyLine>& otherCompanies() const { return others_; }
     /// What the leave file says of the employee.
     [[nodiscard]] EmployeeMarks marks(const Employee& employee) const;
+    /// What the record and the leave file say differently of his dismissal; empty when they agree,
+    /// or the leave file cannot be read.
+    [[nodiscard]] std::string contradictionIn(const Employee& employee) const;
     /// The lowest code that neither a line nor a file bears: what the next employee gets unless
     /// another is typed. nullopt when all are taken.
     [[nodiscard]] std::optional<EmployeeCode> proposedCode() const;

@@ -37,10 +37,12 @@ LeaveCalendar::LeaveCalendar(std::string_view leaveFileBytes, std::optional<Date
     for (const std::string& line : splitLines(leaveFileBytes)) {
         auto leave = decodeLeave(line);
         if (!leave) continue;
-        if (const auto period = leave->period())
+        if (const auto period = leave->period()) {
             leaves_.push_back({*leave, *period, daysAway(*leave, *period)});
-        else
+        } else {
+            undated_.push_back(*std::move(leave));
             unread_.push_back(readableText(line));
+        }
     }
     if (inactiveSince_) contractEnd_ = endOfContract(leaves_, admission_, *inactiveSince_);
 }

@@ -54,7 +54,8 @@ class LeaveCalendar {
     [[nodiscard]] bool touches(WorkMonth month) const;
 
     [[nodiscard]] const std::vector<DatedLeave>& leaves() const { return leaves_; }
-    /// Leaves whose days cannot be read, as they can be shown.
+    /// Leaves whose days cannot be read, and their lines as they can be shown.
+    [[nodiscard]] const std::vector<Leave>& undated() const { return undated_; }
     [[nodiscard]] const std::vector<std::string>& unread() const { return unread_; }
     [[nodiscard]] std::optional<Date> admission() const { return admission_; }
     [[nodiscard]] std::optional<Date> inactiveSince() const { return inactiveSince_; }
@@ -65,6 +66,7 @@ class LeaveCalendar {
 
   private:
     std::vector<DatedLeave> leaves_;
+    std::vector<Leave> undated_;
     std::vector<std::string> unread_;
     std::optional<Date> admission_;
     std::optional<Date> inactiveSince_;

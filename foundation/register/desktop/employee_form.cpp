@@ -122,6 +122,9 @@ void EmployeeForm::show(std::optional<std::size_t> position) {
         status = toQt(said.empty() ? activityOf(employee, marks) : said.front());
     }
     field(&Employee::status)->showInstead(status);
+    const QString contradiction = position ? toQt(employees_.contradictionIn(employee)) : QString();
+    for (const auto member : {&Employee::status, &Employee::dismissal})
+        field(member)->setWarning(contradiction);
     // The code of a recorded employee stands in file names.
     field(&Employee::code)->setReadOnly(position.has_value());
 }
