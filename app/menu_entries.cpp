@@ -41,11 +41,15 @@ MenuEntries menuEntries(const Workplace& at, const CardPrintingDesk& desk, TextE
     const auto rotation = std::make_shared<RotationRecords>(at.store(), at.clock);
     add(registerEntries(at, editor, rotation));
     add({monthEntry(at)});
-    add({timeCardEntry(at, rotation, openLeaves)});
+    const LeavesDesk leaves{desk.engine, editor};
+    add({timeCardEntry(at, rotation,
+                       [leaves](const Workplace& office, QWidget* parent, const auto& inHand) {
+                           openLeaves(office, leaves, parent, inHand);
+                       })});
     add(cardEntries(at, desk));
     add({planned("Cartão de Ponto", "rotation", "rotation", "Escalas")});
     add({planned("Cartão de Ponto", "mirror", "mirror", "Espelho")});
-    add({leavesEntry(at)});
+    add({leavesEntry(at, leaves)});
     add({planned("Pessoal", "payroll", "payroll", "Folha de Pagamento")});
     add({planned("Pessoal", "documents", "documents", "Documentos")});
     add({planned("Ferramentas", "labels", "labels", "Etiquetas")});

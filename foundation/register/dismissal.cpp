@@ -28,13 +28,17 @@ std::vector<EmployeeLine> withDismissal(std::vector<EmployeeLine> lines, const E
 
 }  // namespace
 
+std::string statusText(std::optional<Date> inactiveSince) {
+    return inactiveSince ? "inativo desde " + dateText(*inactiveSince) : "ativo";
+}
+
 std::string dismissalContradiction(const Employee& employee, std::optional<Date> inactiveSince) {
     const auto dismissal = parseDate(employee.dismissal);
     if (dismissal == inactiveSince && dismissal.has_value() == !employee.dismissal.empty())
         return {};
     return "Demissão no cadastro: " +
-           (employee.dismissal.empty() ? "nenhuma" : employee.dismissal) + "; nos afastamentos: " +
-           (inactiveSince ? "inativo desde " + dateText(*inactiveSince) : "ativo") + ".";
+           (employee.dismissal.empty() ? "nenhuma" : employee.dismissal) +
+           "; nos afastamentos: " + statusText(inactiveSince) + ".";
 }
 
 void saveLeaveFile(const Store& store, const EmployeeKey& key, std::string_view leaveFileBytes,

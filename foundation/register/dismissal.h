@@ -12,6 +12,9 @@
 
 namespace winvrx {
 
+/// "inativo desde 10/02/2024", "ativo".
+[[nodiscard]] std::string statusText(std::optional<Date> inactiveSince);
+
 /// What register and leave file say differently, in one sentence; empty when they agree.
 [[nodiscard]] std::string dismissalContradiction(const Employee& employee,
                                                  std::optional<Date> inactiveSince);

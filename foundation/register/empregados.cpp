@@ -156,8 +156,9 @@ Findings<Employee> Empregados::wrongIn(const Employee& typed, const Employee& be
 Findings<Employee> Empregados::doubtsAbout(const Employee& typed, const Employee& before) const {
     auto doubts = winvrx::doubtsAbout(typed, before, lines_, at_.clock.today());
     if (typed.dismissal != before.dismissal)
-        if (const std::string contradiction = contradictionIn(typed); !contradiction.empty())
-            doubts.push_back({&Employee::dismissal, contradiction});
+        if (!contradictionIn(typed).empty())
+            doubts.push_back({&Employee::dismissal,
+                              "Nos afastamentos: " + statusText(marks(typed).inactiveSince) + "."});
     return doubts;
 }
 

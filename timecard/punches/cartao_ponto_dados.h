@@ -85,6 +85,8 @@ class CartaoPontoDados {
     [[nodiscard]] DayKind kindOf(int day) const;
     /// Which leave the day is in, or why it lies outside the contract; empty for any other day.
     [[nodiscard]] std::string standingText(int day) const;
+    /// "FÉRIAS", of a day marked as one of a leave that is on record.
+    [[nodiscard]] std::string leaveWord(int day) const;
     /// Why the times of the day are doubtful, or do not go with the leaves; they can be recorded
     /// all the same.
     [[nodiscard]] std::string doubtAt(int day) const;

@@ -30,6 +30,11 @@ std::string CartaoPontoDados::standingText(int day) const {
     return marked ? "Nenhum afastamento registrado neste dia" : "";
 }
 
+std::string CartaoPontoDados::leaveWord(int day) const {
+    const DatedLeave* leave = leaves_.leaveOn(dateOf(day));
+    return leave && kindOf(day) == DayKind::Leave ? wordOf(leave->leave) : std::string();
+}
+
 std::string CartaoPontoDados::doubtAt(int day) const {
     const Standing standing = leaves_.standingOn(dateOf(day));
     const bool punched = sheet_.line(day).hasTimes();

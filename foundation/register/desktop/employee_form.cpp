@@ -58,7 +58,7 @@ constexpr std::array kPlacements = {
     Placement{&Employee::birthDate, "birthDate", 'M', kIdentity, 2, 4, kBirthDateField},
     Placement{&Employee::telephone, "telephone", 'T', kIdentity, 2, 5},
     Placement{&Employee::dependants, "dependants", 'P', kIdentity, 2, 3},
-    Placement{&Employee::status, "status", 'Y', kIdentity, 3, 4},
+    Placement{&Employee::status, "status", 'Y', kIdentity, 3, 12},
     Placement{&Employee::admission, "admission", 'A', kContract, 0, 4, kContractDateField},
     Placement{&Employee::dismissal, "dismissal", 'D', kContract, 0, 4, kContractDateField},
     Placement{&Employee::salary, "salary", 'L', kContract, 0, 4, kMoneyField},
@@ -122,9 +122,8 @@ void EmployeeForm::show(std::optional<std::size_t> position) {
         status = toQt(said.empty() ? activityOf(employee, marks) : said.front());
     }
     field(&Employee::status)->showInstead(status);
-    const QString contradiction = position ? toQt(employees_.contradictionIn(employee)) : QString();
-    for (const auto member : {&Employee::status, &Employee::dismissal})
-        field(member)->setWarning(contradiction);
+    field(&Employee::status)
+        ->setWarning(position ? toQt(employees_.contradictionIn(employee)) : QString());
     // The code of a recorded employee stands in file names.
     field(&Employee::code)->setReadOnly(position.has_value());
 }

@@ -153,6 +153,12 @@ void AfastamentoWindow::buildCommands() {
     add("month", QStringLiteral("Mês de Trabalho"), Qt::Key_F7, "month", [this] {
         if (command_.confirmLeaving()) emit monthRequested();
     });
+    add("print", QStringLiteral("Ausências"), QKeySequence::Print, "absences",
+        [this] { emit absencesRequested(false); })
+        ->setToolTip(QStringLiteral("Ausências do mês de toda a empresa: Ctrl+P numa folha, Ctrl+T "
+                                    "em texto"));
+    connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+T")), this), &QShortcut::activated,
+            this, [this] { emit absencesRequested(true); });
     QPushButton* save = addClosingButton(QStringLiteral("&Gravar"), QStringLiteral("leaves.save"));
     save->setIcon(look::icon(QStringLiteral("save")));
     save->setDefault(true);

@@ -31,6 +31,8 @@ class AfastamentoWindow : public ScreenWindow {
   signals:
     /// Whoever listens shows the work month, opens the command again and refreshes this window.
     void monthRequested();
+    /// Whoever listens shows the absences of the company's month, on a sheet or as text.
+    void absencesRequested(bool asText);
 
   protected:
     bool mayClose() override;

@@ -2,13 +2,15 @@
 
 #include "foundation/register/employee_queries.h"
 #include "foundation/register/leave_record.h"
+#include "personnel/leaves/absence_report.h"
 #include "personnel/leaves/afastamento.h"
 #include "personnel/leaves/desktop/afastamento_window.h"
 #include "timecard/month/desktop/month_entry.h"
 
 namespace winvrx {
 
-void openLeaves(const Workplace& at, QWidget* parent, const std::optional<EmployeeCode>& inHand) {
+void openLeaves(const Workplace& at, const LeavesDesk& desk, QWidget* parent,
+                const std::optional<EmployeeCode>& inHand) {
     const RecordedAnswers records(at.store());
     Afastamento leaves(at, records);
     if (leaves.open() && inHand) (void)leaves.select(*inHand);
@@ -18,10 +20,18 @@ void openLeaves(const Workplace& at, QWidget* parent, const std::optional<Employ
         (void)leaves.open();
         window.refresh();
     });
+    QObject::connect(&window, &AfastamentoWindow::absencesRequested, &window, [&](bool asText) {
+        if (!leaves.month())
+            (void)leaves.open();
+        else if (asText)
+            (void)showAbsences(at, desk.editor, *leaves.month());
+        else
+            (void)previewAbsences({at, desk.engine}, *leaves.month());
+    });
     window.exec();
 }
 
-MenuEntry leavesEntry(const Workplace& at) {
+MenuEntry leavesEntry(const Workplace& at, const LeavesDesk& desk) {
     return {
         .group = QStringLiteral("Pessoal"),
         .objectName = QStringLiteral("menu.leaves.open"),
@@ -29,7 +39,7 @@ MenuEntry leavesEntry(const Workplace& at) {
         .title = QStringLiteral("Afastame&ntos"),
         .key = Qt::Key_F10,
         .needs = MenuNeeds::Employees,
-        .open = [at](QWidget* parent) { openLeaves(at, parent); },
+        .open = [at, desk](QWidget* parent) { openLeaves(at, desk, parent); },
         .state = [](const MonthProgress*) { return QStringLiteral("Faltas, férias e rescisão"); }};
 }
 

@@ -7,11 +7,20 @@
 
 namespace winvrx {
 
+class ReportEngine;
+class TextEditor;
+
+/// Where the month's absences are shown. Both outlive the entry.
+struct LeavesDesk {
+    ReportEngine& engine;
+    TextEditor& editor;
+};
+
 /// Opens the leave screen, on `inHand` where an employee is chosen, and returns when it is closed.
-void openLeaves(const Workplace& at, QWidget* parent,
+void openLeaves(const Workplace& at, const LeavesDesk& desk, QWidget* parent,
                 const std::optional<EmployeeCode>& inHand = std::nullopt);
 
 /// The leaves' command of the main window.
-[[nodiscard]] MenuEntry leavesEntry(const Workplace& at);
+[[nodiscard]] MenuEntry leavesEntry(const Workplace& at, const LeavesDesk& desk);
 
 }  // namespace winvrx

@@ -206,6 +206,8 @@ TEST_F(CardScreen, EachDaySaysTheLeaveOrWhyItIsOutsideTheContract) {
         EXPECT_EQ(screen.standingText(c.day), c.said) << c.day;
         EXPECT_EQ(screen.doubtAt(c.day), c.doubt) << c.day;
     }
+    EXPECT_EQ(screen.leaveWord(6), "FÉRIAS");
+    EXPECT_EQ(screen.leaveWord(5) + screen.leaveWord(7), "");
     // From 04/03 to 20/03 there are two Sundays; the 5th is worked short, the 20th too.
     const HourTotals& month = screen.hours().totals(std::nullopt);
     EXPECT_EQ(month[HourCategory::WeeklyRest], 16h);

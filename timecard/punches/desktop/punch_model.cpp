@@ -163,6 +163,8 @@ QString PunchModel::shownText(const QModelIndex& index) const {
     const DayKind kind = command_.kindOf(dayOf(index));
     // Nothing is owed there, whatever rest the fill had marked.
     if (kind == DayKind::OutsideContract && doubtAt(index).isEmpty()) return {};
+    if (const std::string leave = command_.leaveWord(dayOf(index)); !leave.empty())
+        return text + QStringLiteral(" · ") + toQt(leave);
     return text.isEmpty() ? calendarWord(kind) : text;
 }
 

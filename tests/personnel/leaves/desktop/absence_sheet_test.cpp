@@ -35,7 +35,7 @@ class SavingEngine final : public ReportEngine {
 
 TEST(AbsenceSheet, ShowsEachLeaveBesideTheDaysOfItsMonth) {
     ReportDesk desk;
-    desk.office.file("01Empresa") = "01 PADARIA SÃO JOÃO LTDA\r\n";
+    desk.office.file("01Empresa") = encodeWindows1252("01 PADARIA SÃO JOÃO LTDA");
     std::vector<Employee> people;
     for (int number = 1; number <= 31; ++number) {
         const std::string code = padded(number, 3);
