@@ -96,5 +96,19 @@ TEST_F(PeriodRecords, TheNextPeriodFollowsUnlessItIsClosed) {
     EXPECT_FALSE(filesOf(february, record.c_str()).contains("01001-03-2024.prd"));
 }
 
+TEST_F(PeriodRecords, DeletedPunchesLeaveTheNextPeriodToo) {
+    saveMonthSettings(desk.store(), closingOn(2024y / 4, 21));
+    desk.file("01001-04-2024.prd") = "  \r\n";
+    desk.file("01001-03-2024.prd") = desk.file("01001-03-2024.bdx") = "  \r\n25/seg/mar08:00\r\n";
+    desk.file("01001-04-2024.bdx") = "  \r\n05/sex/abr09:00\r\n";
+    PunchFiles(desk.store(), asked.locks, closingOn(2024y / 3, 21)).remove({kCompany, kAna});
+    EXPECT_FALSE(desk.files.exists("/data/01001-03-2024.prd"));
+    EXPECT_FALSE(desk.files.exists("/data/01001-03-2024.bdx"));
+    const auto next = splitLines(desk.file("01001-04-2024.prd"));
+    ASSERT_EQ(next.size(), 1U + 11 + 20);
+    EXPECT_EQ(next[5], "25/seg/mar" + std::string(50, ' ')) << "its label is left";
+    EXPECT_EQ(next[16], "05/sex/abr09:00");
+}
+
 }  // namespace
 }  // namespace winvrx
