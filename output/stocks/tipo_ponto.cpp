@@ -4,8 +4,6 @@
 
 namespace winvrx {
 
-namespace {}  // namespace
-
 TipoPonto::TipoPonto(const Workplace& at) : at_(at) {}
 
 void TipoPonto::load() {

@@ -98,12 +98,12 @@ void CartaoPontoDados::loadCardOf(const std::string& code) {
 }
 
 void CartaoPontoDados::loadCard(std::size_t position) {
-    const EmployeeCode code = list_.employees().at(position).employeeCode().value();
-    const CompanyCode& company = company_.value();
-    const auto schedule = loadSchedule(at_.store(), {company, code});
-    const OvertimeRules overtime = overtimeOf(at_.store(), {company, code}, settings_);
-    auto punches = findPunchRecord(at_.store(), {company, code}, settings_.month);
-    MarkedLeaves leaves = leavesOf(list_.employees()[position]);
+    const Employee& employee = list_.employees().at(position);
+    const EmployeeKey key{company_.value(), employee.employeeCode().value()};
+    const auto schedule = loadSchedule(at_.store(), key);
+    const OvertimeRules overtime = overtimeOf(at_.store(), key, settings_);
+    auto punches = findPunchRecord(at_.store(), key, settings_.month);
+    MarkedLeaves leaves = leavesOf(employee);
     list_.mark(position, leaves.marks);
     position_ = position;
     leaves_ = std::move(leaves.calendar);
@@ -148,13 +148,12 @@ EmployeeMarks CartaoPontoDados::marks() const {
     return position_ ? list_.marks(*position_) : EmployeeMarks();
 }
 
-EmployeeCode CartaoPontoDados::selectedCode() const {
-    return selected()->employeeCode().value();
+EmployeeKey CartaoPontoDados::selectedKey() const {
+    return {company_.value(), selected()->employeeCode().value()};
 }
 
 std::filesystem::path CartaoPontoDados::punchFile() const {
-    return at_.session.folder.file(
-        punchFileName({company_.value(), selectedCode()}, settings_.month));
+    return at_.session.folder.file(punchFileName(selectedKey(), settings_.month));
 }
 
 bool CartaoPontoDados::requireSelection() {
@@ -191,14 +190,14 @@ bool CartaoPontoDados::saveSchedule() {
         }
         const auto hold = holdFolder(at_);
         requireScheduleAsShown();
-        winvrx::saveSchedule(at_.store(), {company_.value(), selectedCode()}, schedule);
+        winvrx::saveSchedule(at_.store(), selectedKey(), schedule);
         schedule_ = TypedSchedule(decodeSchedule(encode(schedule)));
         return true;
     });
 }
 
 void CartaoPontoDados::requireScheduleAsShown() const {
-    const auto onDisk = loadSchedule(at_.store(), {company_.value(), selectedCode()});
+    const auto onDisk = loadSchedule(at_.store(), selectedKey());
     if (onDisk.value_or(StandardSchedule()) != schedule_.recorded())
         throw employeeChangedElsewhere("schedule");
 }
@@ -273,13 +272,12 @@ bool CartaoPontoDados::savePunches() {
         if (!confirmBlankDays()) return false;
         const auto hold = holdFolder(at_);
         if (!requireOpenMonth()) return false;
-        const CompanyCode& company = company_.value();
-        const auto onDisk = loadPunches(at_.store(), {company, selectedCode()}, settings_.month);
+        const auto onDisk = loadPunches(at_.store(), selectedKey(), settings_.month);
         if (onDisk.value_or(blankMonth(settings_.month)) != sheet_.recorded())
             throw employeeChangedElsewhere("punches");
         std::vector<FileSystem::NewContent> batch;
         PunchFiles(at_.store(), desk_.payroll, settings_)
-            .add(batch, {company, selectedCode()},
+            .add(batch, selectedKey(),
                  editedPunchRecord(at_.files.read(punchFile()).value_or(std::string()),
                                    settings_.month, sheet_.lines()));
         at_.files.replaceAll(batch);

@@ -58,7 +58,6 @@ class CartaoPontoDados {
     [[nodiscard]] Minutes minutes() const { return minutes_; }
     [[nodiscard]] bool chooseMinutes(Minutes minutes);
     /// The situation that an application gives to days of work without times.
-    [[nodiscard]] const std::string& situationToApply() const { return situationToApply_; }
     void setSituationToApply(std::string_view situation);
 
     /// "Aplicar Ponto": fills the month from the standard schedule.
@@ -135,7 +134,7 @@ class CartaoPontoDados {
     /// Shows what was written for the employee selected: of who rotates also the schedule.
     void showApplied();
     [[nodiscard]] bool confirmBlankDays();
-    [[nodiscard]] EmployeeCode selectedCode() const;
+    [[nodiscard]] EmployeeKey selectedKey() const;
     [[nodiscard]] WorkTerms terms() const;
     [[nodiscard]] std::filesystem::path punchFile() const;
     [[nodiscard]] HourTotals hoursOf(int day) const;

@@ -82,9 +82,10 @@ bool CartaoPontoDados::saveTypedSchedule() {
 }
 
 bool CartaoPontoDados::confirmApplication() {
-    const CompanyCode& company = company_.value();
-    const bool inGroup = selected()->scaleOr() != Scale::Normal &&
-                         desk_.rotation.monthsOf(company, settings_.month).contains(selectedCode());
+    const EmployeeKey key = selectedKey();
+    const bool inGroup =
+        selected()->scaleOr() != Scale::Normal &&
+        desk_.rotation.monthsOf(key.company, settings_.month).contains(key.employee);
     return winvrx::confirmApplication(
         at_.person, {.employee = *selected(),
                      .month = settings_.month,
@@ -113,9 +114,9 @@ bool CartaoPontoDados::applyPunches() {
         if (!requireOpenMonth()) return false;
         ListApplication application(at_.store(), desk_, applicationOrder());
         ListApplication::Batch batch;
-        application.fillOne(batch, *selected(), selectedCode(),
-                            loadLeaveCalendar(at_.store(), {company_.value(), selectedCode()},
-                                              selected()->admissionDate()));
+        application.fillOne(
+            batch, *selected(), selectedKey().employee,
+            loadLeaveCalendar(at_.store(), selectedKey(), selected()->admissionDate()));
         at_.files.replaceAll(batch);
         filledCards_ = application.filled();
         showApplied();
@@ -125,7 +126,7 @@ bool CartaoPontoDados::applyPunches() {
 
 void CartaoPontoDados::showApplied() {
     if (selected()->scaleOr() != Scale::Normal) return loadCard(*position_);
-    showPunches(findPunchRecord(at_.store(), {company_.value(), selectedCode()}, settings_.month));
+    showPunches(findPunchRecord(at_.store(), selectedKey(), settings_.month));
 }
 
 bool CartaoPontoDados::confirmListApplication(const std::vector<std::size_t>& positions,
@@ -183,7 +184,7 @@ bool CartaoPontoDados::fillAll(const std::vector<std::size_t>& positions, bool s
     if (!batch) return false;
     at_.files.replaceAll(*batch);
     filledCards_ = application.filled();
-    if (application.hasFilled(selectedCode())) showApplied();
+    if (application.hasFilled(selectedKey().employee)) showApplied();
     if (const std::string remarks = application.remarks(kMostNames); !remarks.empty()) {
         const std::string all = application.remarks(codes.size());
         if (all != remarks) at_.log.write("punches of a list: " + all);

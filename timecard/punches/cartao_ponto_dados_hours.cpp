@@ -75,12 +75,12 @@ HoursSummary CartaoPontoDados::hours() const {
 bool CartaoPontoDados::changePercent(HourCategory category, std::string_view typed) {
     if (!requireSelection()) return false;
     return attempt(at_, incorrectData(), [&] {
-        const CompanyCode& company = company_.value();
+        const EmployeeKey key = selectedKey();
         if (!requireOpenMonth() ||
             !winvrx::changePercent(
-                at_, {company, selectedCode(), settings_.month, overtime_, category, typed}))
+                at_, {key.company, key.employee, settings_.month, overtime_, category, typed}))
             return false;
-        overtime_ = overtimeOf(at_.store(), {company, selectedCode()}, settings_);
+        overtime_ = overtimeOf(at_.store(), key, settings_);
         return true;
     });
 }

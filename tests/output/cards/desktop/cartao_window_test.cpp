@@ -59,6 +59,12 @@ TEST_F(CartaoWindowTest, ChoicesReachThePrintedJob) {
     driven.click("cartao.output.printer");
     driven.click("cartao.tray.lateral");
     driven.click("cartao.printHeader");
+    const auto& drawing = driven.find<QLabel>("cartao.sheetExitPicture");
+    const QImage faceDown = drawing.pixmap().toImage();
+    const QString turned = drawing.accessibleName();
+    driven.click("cartao.cardOutput.faceUp");
+    EXPECT_NE(drawing.pixmap().toImage(), faceDown);
+    EXPECT_NE(drawing.accessibleName(), turned);
     driven.type("cartao.printerTray3", "Manual");
     QTest::keyClick(&driven.window, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     ASSERT_EQ(engine.jobs.size(), 1U);
@@ -66,6 +72,7 @@ TEST_F(CartaoWindowTest, ChoicesReachThePrintedJob) {
     EXPECT_EQ(request.layoutName, "tilibleft.rpt");
     EXPECT_EQ(request.output, ReportOutput::Printer);
     EXPECT_FALSE(request.printHeader);
+    EXPECT_EQ(request.exit, SheetExit::FaceUp);
     EXPECT_EQ(request.trays[2], "Manual");
     EXPECT_EQ(engine.jobs[0].cards.size(), 2U);
 
