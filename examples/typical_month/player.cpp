@@ -104,10 +104,7 @@ void Player::press(QKeyCombination key) {
 /// Tries again while the window is not the active one, as keys go to that.
 void Player::pressNow(QKeyCombination key) {
     QWidget* window = present();
-    if (!window->isActiveWindow()) {
-        window->activateWindow();
-        return steps_.push_front([this, key] { pressNow(key); });
-    }
+    if (!window->isActiveWindow()) return steps_.push_front([this, key] { pressNow(key); });
     QWidget* focus = window->focusWidget() ? window->focusWidget() : window;
     QTest::keyClick(focus, key.key(), key.keyboardModifiers());
 }
@@ -161,7 +158,8 @@ void Player::typeCellNow(QAbstractItemView& grid, const QModelIndex& cell, const
         if (!editor) fail(QStringLiteral("the cell takes no text: ") + text);
         if (auto* box = qobject_cast<QComboBox*>(editor)) editor = box->lineEdit();
     }
-    QTest::keyClick(editor, Qt::Key_Return);
+    QWidget* offered = QApplication::activePopupWidget();
+    QTest::keyClick(offered ? offered : editor, Qt::Key_Return);
 }
 
 void Player::choose(const QString& name, const QString& text) {
@@ -267,6 +265,8 @@ void Player::next() {
     steps_.pop_front();
     // Queued first: the step may open a modal window and return only when that is closed.
     QTimer::singleShot(kStepPause, this, &Player::next);
+    // A window has its focus only while it is the active one, as it is under an operator's hands.
+    if (QWidget* window = present(); window && !window->isActiveWindow()) window->activateWindow();
     step();
 }
 

@@ -1,6 +1,7 @@
 #include "foundation/widgets/desktop/screen_window.h"
 
 #include "foundation/widgets/desktop/body_area.h"
+#include "foundation/widgets/desktop/command_bar.h"
 #include "foundation/widgets/desktop/look.h"
 
 #include <QAbstractItemView>
@@ -14,8 +15,6 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
-#include <QStyleOptionToolButton>
-#include <QStylePainter>
 #include <QToolButton>
 
 #include <utility>
@@ -23,8 +22,6 @@
 namespace winvrx {
 
 namespace {
-
-constexpr int kLettersOfCommand = 5;  ///< of a command on a narrow screen
 
 QFrame* band(const QString& objectName, QWidget* parent) {
     auto* frame = new QFrame(parent);
@@ -39,26 +36,6 @@ QHBoxLayout* rowIn(QFrame* frame, int vertical) {
     row->setSpacing(look::kGap);
     return row;
 }
-
-QString withKey(const QString& text, const QKeySequence& key) {
-    if (key.isEmpty()) return text;
-    return text + QStringLiteral("  ") + key.toString(QKeySequence::NativeText);
-}
-
-/// Leaves out its key where that has no room; the tip says it.
-class CommandButton : public QToolButton {
-  public:
-    using QToolButton::QToolButton;
-
-  protected:
-    void paintEvent(QPaintEvent*) override {
-        QStylePainter painter(this);
-        QStyleOptionToolButton option;
-        initStyleOption(&option);
-        if (width() < sizeHint().width()) option.text = accessibleName();
-        painter.drawComplexControl(QStyle::CC_ToolButton, option);
-    }
-};
 
 std::function<void()>& openHelp() {
     static std::function<void()> open;
@@ -108,14 +85,10 @@ void ScreenWindow::buildTitleBand(const QString& title) {
 }
 
 void ScreenWindow::buildCommandBar() {
-    QFrame* frame = band(QStringLiteral("commandBar"), this);
-    commands_ = rowIn(frame, look::kSmallGap);
-    commands_->addStretch();
-    frame_->addWidget(frame);
+    commands_ = new CommandBar(this);
+    frame_->addWidget(commands_);
     QToolButton* help = addCommand(QStringLiteral("help"), QStringLiteral("Ajuda"), Qt::Key_F1,
                                    objectName() + QStringLiteral(".help"));
-    commands_->removeWidget(help);
-    commands_->addWidget(help);
     connect(help, &QToolButton::clicked, this, [] {
         if (openHelp()) openHelp()();
     });
@@ -154,23 +127,13 @@ void ScreenWindow::setChips(const QStringList& chips) {
 QToolButton* ScreenWindow::addCommand(const QString& icon, const QString& text,
                                       const QKeySequence& key, const QString& objectName,
                                       QWidget* within) {
-    auto* button = new CommandButton(this);
+    QToolButton* button = commands_->add(icon, text, key.toString(QKeySequence::NativeText));
     button->setObjectName(objectName);
-    look::setRole(*button, "command");
-    button->setAccessibleName(text);
-    button->setIcon(look::icon(icon));
-    button->setText(withKey(text, key));
-    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    button->setToolTip(button->text());
-    button->setFocusPolicy(Qt::TabFocus);
-    button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    button->setMinimumWidth(look::kTileIcon + kLettersOfCommand * fontMetrics().averageCharWidth());
     if (!key.isEmpty()) {
         auto* shortcut = new QShortcut(key, within ? within : this);
         if (within) shortcut->setContext(Qt::WidgetWithChildrenShortcut);
         connect(shortcut, &QShortcut::activated, button, &QToolButton::click);
     }
-    commands_->insertWidget(std::max(0, commands_->count() - 2), button);
     return button;
 }
 

@@ -16,6 +16,8 @@ class QVBoxLayout;
 
 namespace winvrx {
 
+class CommandBar;
+
 /// The frame that every screen shares: title band with context chips, command bar, body, and a
 /// state bar with the closing commands.
 ///
@@ -70,7 +72,7 @@ class ScreenWindow : public QDialog {
     QVBoxLayout* frame_;
     QLabel* subtitle_;
     QHBoxLayout* chips_;
-    QHBoxLayout* commands_;
+    CommandBar* commands_;
     QScrollArea* body_ = nullptr;
     QLabel* state_;
     QHBoxLayout* closing_;

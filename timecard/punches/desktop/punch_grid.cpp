@@ -211,7 +211,10 @@ void PunchGrid::keyPressEvent(QKeyEvent* event) {
 }
 
 void PunchGrid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint) {
+    // Also where the list of situations, a window of its own, has the focus of the application.
+    const bool typedIn = editor->isAncestorOf(window()->focusWidget());
     QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    if (typedIn) setFocus();
     emit cellChanged();
 }
 
