@@ -74,10 +74,17 @@ HoursRow rowOf(std::string_view label, std::chrono::seconds hours) {
 }  // namespace
 
 EmployeeMonth loadEmployeeMonth(const Store& store, const CompanyCode& company,
-                                const Employee& employee, const MonthSettings& settings) {
+                                const Employee& employee, const MonthSettings& settings,
+                                const FolderNames& names) {
     const EmployeeKey key{company, employee.employeeCode().value()};
-    return {employee, settings, loadLeaveCalendar(store, key, employee.admissionDate()),
-            loadEmployeeHours(store, company, employee, settings, HoursPeriod::CalendarMonth)};
+    const auto has = [&](const std::string& name) { return names.contains(name); };
+    EmployeeMonth month{employee, settings, LeaveCalendar({}, employee.admissionDate()), {}};
+    if (has(company.text() + leaveFileName(key.employee)))
+        month.leaves = loadLeaveCalendar(store, key, employee.admissionDate());
+    if (has(punchFileName(key, settings.month)))
+        month.hours =
+            loadEmployeeHours(store, company, employee, settings, HoursPeriod::CalendarMonth);
+    return month;
 }
 
 std::optional<Money> salaryOf(const Employee& employee) {

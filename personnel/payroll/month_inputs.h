@@ -22,10 +22,11 @@ struct EmployeeMonth {
     std::optional<EmployeeHours> hours;  ///< of the calendar month; none, no card is filled
 };
 
-/// Reads them. Throws FileFault.
+/// Reads them; `names`, of the files in the folder, say what need not be read. Throws FileFault.
 [[nodiscard]] EmployeeMonth loadEmployeeMonth(const Store& store, const CompanyCode& company,
                                               const Employee& employee,
-                                              const MonthSettings& settings);
+                                              const MonthSettings& settings,
+                                              const FolderNames& names);
 
 /// The salary of the register; nullopt where it is zero, missing or no amount.
 [[nodiscard]] std::optional<Money> salaryOf(const Employee& employee);

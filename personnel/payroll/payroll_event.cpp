@@ -59,6 +59,10 @@ std::string flagsOf(const NewEvent& said) {
            flag(PayrollKind::Vacation) + flag(PayrollKind::Thirteenth) + "0";
 }
 
+std::string ownEventsName(const EmployeeKey& key) {
+    return key.company.text() + key.employee.text() + std::string(kEmployeeEventListStem);
+}
+
 }  // namespace
 
 int PayrollEvent::referenceNumber() const {
@@ -120,13 +124,14 @@ LineFile<PayrollEvent> companyEvents(const Store& store, const CompanyCode& comp
 }
 
 LineFile<PayrollEvent> employeeEvents(const Store& store, const EmployeeKey& key) {
-    return LineFile<PayrollEvent>(
-        {store, key.company, key.employee.text() + std::string(kEmployeeEventListStem)});
+    return LineFile<PayrollEvent>({store, ownEventsName(key)});
 }
 
-PayrollEvents loadEvents(const Store& store, const EmployeeKey& key, const OvertimeRules& rates) {
-    PayrollEvents events = employeeEvents(store, key).load();
-    if (events.empty()) events = companyEvents(store, key.company).load();
+PayrollEvents loadEvents(const Store& store, const EmployeeKey& key, const PayrollEvents& companys,
+                         const OvertimeRules& rates, const FolderNames& names) {
+    PayrollEvents events;
+    if (names.contains(ownEventsName(key))) events = employeeEvents(store, key).load();
+    if (events.empty()) events = companys;
     return events.empty() ? defaultEvents(rates) : events;
 }
 

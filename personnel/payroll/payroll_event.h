@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/files/data_folder.h"
+#include "foundation/files/folder_names.h"
 #include "foundation/files/line_file.h"
 #include "foundation/values/codes.h"
 #include "timecard/month/overtime_rules.h"
@@ -101,8 +102,10 @@ inline constexpr std::array<std::string_view, 3> kVacationExtras = {
 [[nodiscard]] LineFile<PayrollEvent> companyEvents(const Store& store, const CompanyCode& company);
 [[nodiscard]] LineFile<PayrollEvent> employeeEvents(const Store& store, const EmployeeKey& key);
 
-/// The employee's own catalogue where he has one, else the company's, else the default.
+/// The employee's own catalogue where he has one by the names in the folder, else `companys`, else
+/// the default.
 [[nodiscard]] PayrollEvents loadEvents(const Store& store, const EmployeeKey& key,
-                                       const OvertimeRules& rates);
+                                       const PayrollEvents& companys, const OvertimeRules& rates,
+                                       const FolderNames& names);
 
 }  // namespace winvrx

@@ -45,7 +45,7 @@ const std::vector<WritingCommand>& writingCommands() {
         std::vector<WritingCommand> all;
         for (const auto& part :
              {registerCommands(), listCommands(), menuCommands(), monthCommands(), cardCommands(),
-              printCommands(), leaveCommands(), rotationCommands()})
+              printCommands(), leaveCommands(), rotationCommands(), payrollCommands()})
             all.insert(all.end(), part.begin(), part.end());
         return all;
     }();

@@ -36,6 +36,7 @@ void PrintTo(const WritingCommand& command, std::ostream* out);
 [[nodiscard]] std::vector<WritingCommand> printCommands();
 [[nodiscard]] std::vector<WritingCommand> leaveCommands();
 [[nodiscard]] std::vector<WritingCommand> rotationCommands();
+[[nodiscard]] std::vector<WritingCommand> payrollCommands();
 
 [[nodiscard]] const std::vector<WritingCommand>& writingCommands();
 [[nodiscard]] const WritingCommand& writingCommand(const std::string& name);

@@ -34,7 +34,8 @@ class MonthInputsTest : public ::testing::Test {
                "\r\n";
     }
     [[nodiscard]] EmployeeMonth load() {
-        return loadEmployeeMonth({files_, folder_}, kCompany, ana_, settings_);
+        const Store store{files_, folder_};
+        return loadEmployeeMonth(store, kCompany, ana_, settings_, namesIn(store));
     }
     [[nodiscard]] std::optional<MonthPayCase> monthOf() {
         return monthCase({tables_, choices_}, load(), 2026y / 3 / 31);

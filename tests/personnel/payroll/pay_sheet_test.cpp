@@ -86,16 +86,20 @@ TEST(PayrollEvents, AreTheEmployeesThenTheCompanysThenTheDefault) {
     testing::MemoryFiles files;
     const DataFolder folder('C', "/data");
     const Store store{files, folder};
-    EXPECT_EQ(loadEvents(store, kEmployee, {}).size(), kDefaultEvents);
+    const auto load = [&] {
+        return loadEvents(store, kEmployee, companyEvents(store, kEmployee.company).load(), {},
+                          namesIn(store));
+    };
+    EXPECT_EQ(load().size(), kDefaultEvents);
     files.content["/data/01confgger"] =
         "001 SALARIO BASE         1200,01111000\r\nxxx\r\n002 A 9\r\n";
-    const PayrollEvents company = loadEvents(store, kEmployee, {});
+    const PayrollEvents company = load();
     ASSERT_EQ(company.size(), 3U);
     EXPECT_EQ(company[0].record.referenceNumber(), 200);
     EXPECT_FALSE(company[1].key());
     EXPECT_FALSE(company[2].key());
     files.content["/data/01001confgger2"] = "001 SALARIO BASE         1180,01111000\r\n";
-    EXPECT_EQ(loadEvents(store, kEmployee, {})[0].record.referenceNumber(), 180);
+    EXPECT_EQ(load()[0].record.referenceNumber(), 180);
 }
 
 class PaySheetTest : public ::testing::Test {

@@ -1,0 +1,139 @@
+#include "personnel/payroll/folha.h"
+
+#include "tests/support/employees.h"
+#include "tests/support/legal_tables.h"
+#include "tests/support/test_workplace.h"
+
+#include <gtest/gtest.h>
+
+namespace winvrx {
+namespace {
+
+using namespace std::chrono_literals;
+using enum Answer;
+using enum Folha::Opening;
+
+constexpr WorkMonth kMonth = 2026y / 3;
+const std::filesystem::path kLegal = "/program/legal";
+
+class FolhaTest : public ::testing::Test, protected testing::TestWorkplace {
+  protected:
+    FolhaTest() {
+        for (const std::string_view name : kLegalFiles)
+            files.content[kLegal / name] =
+                systemFiles()->read(std::filesystem::path(WINVRX_LEGAL_FOLDER) / name).value();
+        fillCard("001");
+        EXPECT_TRUE(folha.load(kMonth));
+    }
+
+    /// A month of full days.
+    void fillCard(const std::string& code) {
+        std::string card = "  \r\n";
+        for (Date date = firstDay(kMonth); monthOf(date) == kMonth; date = plusDays(date, 1))
+            if (weekdayOf(date) != std::chrono::Sunday && weekdayOf(date) != std::chrono::Saturday)
+                card += dayLabel(date) + "08:0016:00\r\n";
+        file("01PadrHor" + code + ".pdx") = "08:0016:00";
+        file("01" + code + "-03-2026.bdx") = card;
+    }
+    static Employee employee(const char* code, const char* name, const char* salary) {
+        Employee one = testing::employee(code, name);
+        one.admission = "01/02/2020";
+        one.salary = salary;
+        return one;
+    }
+
+    static constexpr const char* kPayroll = "/data/01fp0000103-2026.bdx";
+    Employee ana = employee("001", "ANA", "3.000,00");
+    Folha folha{at, kLegal};
+};
+
+TEST_F(FolhaTest, OpensInTheOrderOfItsChecks) {
+    const Employee rui = employee("002", "RUI", "");
+    EXPECT_EQ(folha.open(rui), Refused);
+    person.answers = {Yes};
+    EXPECT_EQ(folha.open(rui), ToTimeCard);
+    fillCard("002");
+    EXPECT_EQ(folha.open(rui), Refused);
+    const std::string noCard =
+        "Planilha de Ponto não Preenchida! Deseja ir para a Planilha de Ponto?";
+    EXPECT_EQ(person.takeTexts(),
+              (std::vector<std::string>{
+                  noCard, noCard,
+                  "Erro! Valor do Salário deste Funcionário = R$ 0,00!     Clique no Botão "
+                  "Funcionário e Altere o Valor do Salário."}));
+    EXPECT_FALSE(folha.shown());
+    EXPECT_EQ(folha.open(ana), Opened);
+    ASSERT_TRUE(folha.shown());
+    EXPECT_EQ(folha.shown()->sheet.amountOf("001"), Money{300000});
+    EXPECT_EQ(folha.shown()->sheet.amountOf("091"), Money{24858});
+    EXPECT_TRUE(folha.warnings().empty());
+}
+
+TEST_F(FolhaTest, RecordsReadsAndReopens) {
+    EXPECT_FALSE(folha.save());
+    EXPECT_EQ(folha.open(ana), Opened);
+    EXPECT_TRUE(folha.compute({{EventCode::parse("025").value(), {5000}}}));
+    EXPECT_FALSE(folha.save());
+    EXPECT_FALSE(files.content.contains(kPayroll));
+    person.answers = {Yes};
+    EXPECT_TRUE(folha.save());
+    EXPECT_TRUE(files.content.contains(kPayroll));
+    const Money net = folha.shown()->sheet.net;
+
+    Folha other{at, kLegal};
+    EXPECT_TRUE(other.load(kMonth));
+    EXPECT_EQ(other.open(ana), Opened);
+    EXPECT_TRUE(other.shown()->isRecorded);
+    EXPECT_EQ(other.shown()->sheet.net, net);
+    EXPECT_EQ(typedAmounts(other.shown()->sheet).size(), 1U);
+    EXPECT_FALSE(other.reopen());
+    person.answers = {Yes};
+    EXPECT_TRUE(other.reopen());
+    EXPECT_FALSE(files.content.contains(kPayroll));
+
+    // The first screen shows what is gone: it writes nothing over it.
+    person.answers = {Yes};
+    EXPECT_FALSE(folha.save());
+    EXPECT_FALSE(files.content.contains(kPayroll));
+    const auto texts = person.takeTexts();
+    EXPECT_EQ(texts.front(), "Não Há Dados para Gravação!");
+    EXPECT_EQ(texts[1], "Deseja Gravar Somente o FUNCIONARIO SELECIONADO?");
+}
+
+TEST_F(FolhaTest, RecordsEveryoneInOneBatch) {
+    const Employee rui = employee("002", "RUI", "2.000,00");
+    const Employee eva = employee("003", "EVA", "2.500,00");
+    fillCard("003");
+    person.answers = {Yes, No};
+    EXPECT_FALSE(folha.saveAll({ana, rui, eva}, {}));
+    EXPECT_EQ(person.shown.back().detail, "Sem cartão de ponto, salário ou contrato no mês: RUI");
+    EXPECT_FALSE(files.content.contains(kPayroll));
+    person.answers = {Yes};
+    EXPECT_FALSE(folha.saveAll({ana, eva}, [](int done, int) { return done < 1; }));
+    EXPECT_FALSE(files.content.contains(kPayroll));
+
+    person.takeTexts();
+    person.answers = {Yes, Yes};
+    EXPECT_TRUE(folha.saveAll({ana, rui, eva}, {}));
+    EXPECT_EQ(person.takeTexts(),
+              (std::vector<std::string>{"Confirma Gravar TODOS OS FUNCIONARIOS DA LISTA?",
+                                        "Não Há Dados para Gravação! Deseja Prosseguir?"}));
+    EXPECT_TRUE(files.content.contains(kPayroll));
+    EXPECT_TRUE(files.content.contains("/data/01fp0000303-2026.bdx"));
+    const auto before = files.content;
+    person.answers = {Yes};
+    EXPECT_FALSE(folha.saveAll({ana, eva}, {}));
+    EXPECT_EQ(person.shown.back().text, "Não Há Dados para Gravação!");
+    EXPECT_EQ(person.shown.back().detail, "Já gravados, ficam como estão: ANA, EVA");
+    EXPECT_EQ(files.content, before);
+}
+
+TEST_F(FolhaTest, ComputesNothingWithoutItsTables) {
+    files.content["/data/inss.txt"] = "desde; até\n01/2026; x; 7,5; A\n";
+    EXPECT_FALSE(folha.load(kMonth));
+    EXPECT_EQ(person.shown.back().detail,
+              "Tabela legal inss.txt, linha 2: \"x\" não é um valor em reais.");
+}
+
+}  // namespace
+}  // namespace winvrx

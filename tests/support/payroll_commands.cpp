@@ -1,0 +1,96 @@
+// What the payroll and its catalogue of events write.
+#include "personnel/payroll/eventos.h"
+#include "personnel/payroll/folha.h"
+#include "tests/support/employees.h"
+#include "tests/support/writing_commands.h"
+
+namespace winvrx::testing {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr const char* kRecorded =
+    "001 SALARIO BASE         1220,01111000 2.000,00\r\n"
+    "091 INSS                 0000,00001000 158,82\r\n";
+
+std::vector<Employee> paidEmployees() {
+    std::vector<Employee> employees = {officeEmployee("001", "ANA"), officeEmployee("002", "BIA"),
+                                       officeEmployee("003", "CAIO")};
+    for (Employee& one : employees)
+        one.salary = "2.000,00";
+    return employees;
+}
+
+/// Everyone has a salary, and all but the first a card. The tables lie among the records.
+FileTable payingOffice() {
+    FileTable files = filledOffice();
+    const auto file = [&](const char* name) -> std::string& { return files[inDataFolder(name)]; };
+    file("01CartaPonto") = employeeList(paidEmployees());
+    file("01003-03-2024.bdx") = file("01002-03-2024.bdx");
+    file("01confgger") = "001 SALARIO BASE         1220,01111000\r\nnota\r\n";
+    file("salario-minimo.txt") = "desde; valor\n01/2024; 1.412,00; A\n";
+    file("inss.txt") = "desde; até\n01/2024; 1.412,00; 7,5; 7.786,02; 9; A\n";
+    file("salario-familia.txt") = "desde; cota\n01/2024; 62,04; 1.819,26; A\n";
+    file("irrf-tabela.txt") = "desde; isento\n01/01/2024; 2.259,20; 27,5; 621,28; A\n";
+    file("irrf-dependente.txt") = "desde; valor\n01/01/2024; 189,59; A\n";
+    file("irrf-desconto-simplificado.txt") = "desde; valor\n01/01/2024; 564,80; A\n";
+    file("irrf-reducao.txt") = "desde; até\n01/01/2026; 5,00; 3,00; 7,00; 9,00; 0,1; A\n";
+    return files;
+}
+
+FileTable recordedOffice() {
+    FileTable files = payingOffice();
+    files[inDataFolder("01fp0000203-2024.bdx")] = kRecorded;
+    return files;
+}
+
+template <typename Give>
+auto inPayroll(Give give) {
+    return [give](const Workplace& at, const Drives&) {
+        Folha screen(at, at.session.folder.path());
+        return screen.load(2024y / 3) && give(screen);
+    };
+}
+
+template <typename Give>
+auto ofSecond(Give give) {
+    return inPayroll([give](Folha& screen) {
+        return screen.open(paidEmployees().at(1)) == Folha::Opening::Opened && give(screen);
+    });
+}
+
+template <typename Give>
+auto inEvents(std::optional<EmployeeCode> employee, Give give) {
+    return [employee, give](const Workplace& at, const Drives&) {
+        Eventos screen(at, {}, employee);
+        screen.load();
+        return screen.count() > 0 && give(screen);
+    };
+}
+
+}  // namespace
+
+std::vector<WritingCommand> payrollCommands() {
+    const NewEvent commission{"COMISSAO", true, 5, {PayrollKind::Month}};
+    return {
+        {"record payroll", payingOffice(), ofSecond([](Folha& screen) { return screen.save(); })},
+        {"record payroll again", recordedOffice(),
+         ofSecond([](Folha& screen) { return screen.compute({}) && screen.save(); })},
+        {"record all payrolls", payingOffice(),
+         inPayroll([](Folha& screen) { return screen.saveAll(paidEmployees(), {}); })},
+        {"reopen payroll", recordedOffice(),
+         ofSecond([](Folha& screen) { return screen.reopen(); })},
+        {"include event", payingOffice(),
+         inEvents({}, [=](Eventos& screen) { return screen.includeNew(commission); })},
+        {"delete event", payingOffice(),
+         inEvents({}, [](Eventos& screen) { return screen.remove(0); })},
+        {"restore events", payingOffice(),
+         inEvents({}, [](Eventos& screen) { return screen.restoreDefault(); })},
+        {"restore events of one", payingOffice(),
+         inEvents(EmployeeCode::parse("002"),
+                  [](Eventos& screen) { return screen.restoreDefault(); })},
+    };
+}
+
+}  // namespace winvrx::testing
