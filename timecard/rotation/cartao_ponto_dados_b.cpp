@@ -12,7 +12,6 @@ namespace winvrx {
 
 namespace {
 
-constexpr std::chrono::months kOneMonth{1};
 constexpr std::string_view kWeekly = " HORAS SEMANAIS";
 const std::string kTableTitle = "Quadro de Horário de  Trabalho";
 const std::string kGroupTitle = "Escala de Revezamento";
@@ -81,74 +80,40 @@ void CartaoPontoDadosB::load(const CompanyCode& company, const MonthSettings& se
     auto marks = EmployeeList::leaveMarks(at_.store(), company, names, settings.month);
     for (const EmployeeCode& code : desk_.payroll.closedIn(company, settings.month, names))
         marks[code].closed = true;
-    std::map<EmployeeCode, Employee> people;
-    std::map<EmployeeCode, LeaveCalendar> leaves;
+    RotationPeople people;
     for (const EmployeeLine& line : lines) {
         if (!line.key() || line.record.scaleOr() == Scale::Normal) continue;
-        if (!people.emplace(*line.key(), line.record).second) continue;
         const auto admission = line.record.admissionDate();
         const EmployeeMarks mark = EmployeeList::marksOf(marks, *line.key());
         const bool recorded = !mark.unreadable && (mark.onLeave || mark.inactiveSince);
-        leaves.emplace(*line.key(),
-                       recorded ? loadLeaveCalendar(at_.store(), {company, *line.key()}, admission)
-                                : LeaveCalendar({}, admission));
+        const EmployeeKey key{company, *line.key()};
+        people.emplace(
+            key.employee,
+            RotationPerson{line.record, recorded ? loadLeaveCalendar(at_.store(), key, admission)
+                                                 : LeaveCalendar({}, admission)});
     }
+    MonthGroups month(company, settings.month, std::move(people));
+    month.read(at_.store(), names);
     if (company_ != company || settings_.month != settings.month) draft_.reset();
     company_ = company;
     heading_ = found.value_or(Company());
     settings_ = settings;
-    people_ = std::move(people);
-    leaves_ = std::move(leaves);
+    month_ = std::move(month);
     list_.fill(lines, std::move(marks));
     list_.filterBy(table_.scale);
-    loadGroups(names);
+    keepDraft();
     loadTable(list_.shift(), table_.scale);
 }
 
-void CartaoPontoDadosB::loadGroups(const FolderNames& names) {
-    lines_ = groupFile(at_.store(), *company_, settings_.month).load();
-    before_ = groupsIn(groupFile(at_.store(), *company_, settings_.month - kOneMonth).load());
-    continuableFrom_.reset();
-    if (lines_.empty())
-        for (const std::string& name :
-             beginningWith(names, company_->text() + std::string(kGroupStem)))
-            if (const auto month = monthOfGroupFile(name, *company_);
-                month && *month < settings_.month)
-                continuableFrom_ = std::max(continuableFrom_.value_or(*month), *month);
-    notes_.clear();
-    groups_.clear();
-    for (const RotationGroup& group : groupsIn(lines_))
-        groups_.push_back(withoutStrays(group));
-    std::ranges::sort(groups_, {}, &RotationGroup::number);
-    if (const std::size_t unread = lines_.size() - groups_.size(); unread > 0)
-        notes_.push_back(std::to_string(unread) +
-                         " linha(s) do arquivo de grupos não foram entendidas e ficam como estão.");
-    if (draft_ && !recordedGroup(draft_->number)) draft_.reset();
-    if (draft_) draft_ = *recordedGroup(draft_->number);
+void CartaoPontoDadosB::keepDraft() {
+    if (!draft_) return;
+    const RotationGroup* shown = month_.find(draft_->number);
+    draft_ = shown ? std::optional(*shown) : std::nullopt;
 }
 
-std::string CartaoPontoDadosB::strayReason(const EmployeeCode& code,
-                                           const RotationGroup& group) const {
-    const auto person = people_.find(code);
-    if (person == people_.end()) return "não está no cadastro com escala de revezamento";
-    const Employee& employee = person->second;
-    if (employee.status == kDeletedStatus) return "está excluído";
-    const auto end = leaves_.at(code).contractEnd();
-    if (end && *end < firstDay(settings_.month)) return "está inativo";
-    if (employee.shiftOr() != group.shift) return "está em outro turno";
-    if (employee.scaleOr() != group.scale) return "está em outra escala";
-    return {};
-}
-
-RotationGroup CartaoPontoDadosB::withoutStrays(RotationGroup group) {
-    for (const EmployeeCode& code : group.members()) {
-        const std::string reason = strayReason(code, group);
-        if (reason.empty()) continue;
-        notes_.push_back(groupName(group.number) + ": " + nameOf(names(), code) + " " + reason +
-                         " e não fica no grupo.");
-        group.remove(code);
-    }
-    return group;
+void CartaoPontoDadosB::showGroups() {
+    month_.read(at_.store(), namesIn(at_.store()));
+    keepDraft();
 }
 
 void CartaoPontoDadosB::loadTable(ShiftFilter shift, Scale scale) {
@@ -211,26 +176,12 @@ bool CartaoPontoDadosB::saveTable() {
     });
 }
 
-MemberNames CartaoPontoDadosB::names() const {
-    MemberNames names;
-    for (const auto& [code, employee] : people_)
-        names.emplace(code, employee.code + " " + employee.name);
-    return names;
-}
-
-Absence CartaoPontoDadosB::absence() const {
-    return [this](const EmployeeCode& code, Date date) {
-        const auto leaves = leaves_.find(code);
-        return leaves != leaves_.end() && leaves->second.standingOn(date) != Standing::Employed;
-    };
-}
-
 const RotationGroup* CartaoPontoDadosB::groupOfMember(const Employee& employee) const {
     const EmployeeCode code = employee.employeeCode().value();
     if (draft_ && draft_->contains(code)) return &*draft_;
-    const auto group = std::ranges::find_if(
-        groups_, [&](const RotationGroup& one) { return !isEdited(one) && one.contains(code); });
-    return group == groups_.end() ? nullptr : &*group;
+    for (const RotationGroup& group : month_.groups())
+        if (!isEdited(group) && group.contains(code)) return &group;
+    return nullptr;
 }
 
 std::string CartaoPontoDadosB::captionOf(std::size_t position) const {
@@ -238,7 +189,7 @@ std::string CartaoPontoDadosB::captionOf(std::size_t position) const {
     if (employee.scaleOr() == Scale::Normal) return {};
     if (const RotationGroup* group = groupOfMember(employee)) return groupName(group->number);
     const bool room = (draft_ && hasRoomFor(*draft_, employee)) ||
-                      std::ranges::any_of(groups_, [&](const RotationGroup& group) {
+                      std::ranges::any_of(month_.groups(), [&](const RotationGroup& group) {
                           return !isEdited(group) && hasRoomFor(group, employee);
                       });
     return std::string(room ? kAddToGroup : kCreateGroup);
@@ -251,7 +202,8 @@ bool CartaoPontoDadosB::selectGroupOf(std::size_t position) {
 }
 
 RotationView CartaoPontoDadosB::view() const {
-    return draft_ ? viewOf(*draft_, settings_, names(), absence(), before_) : RotationView();
+    return draft_ ? viewOf(*draft_, settings_, month_.names(), month_.absence(), month_.before())
+                  : RotationView();
 }
 
 bool CartaoPontoDadosB::confirmLeaving() {

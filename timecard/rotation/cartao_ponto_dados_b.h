@@ -2,15 +2,15 @@
 
 #include "foundation/desk/command.h"
 #include "foundation/register/employee_list.h"
-#include "foundation/register/leave_calendar.h"
 #include "report/report_request.h"
 #include "timecard/month/month_settings.h"
 #include "timecard/rotation/group_draft.h"
 #include "timecard/rotation/group_work.h"
+#include "timecard/rotation/month_groups.h"
 #include "timecard/rotation/rotation_sheet.h"
 #include "timecard/rotation/work_table.h"
 
-#include <map>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -74,11 +74,13 @@ class CartaoPontoDadosB {
     /// "GRUPO-001  5 x 1  Um  3 funcionários".
     [[nodiscard]] static std::string titleOf(const RotationGroup& group);
     /// What is said of the month's groups: who had to leave one, and lines that nobody understands.
-    [[nodiscard]] const std::vector<std::string>& notes() const { return notes_; }
+    [[nodiscard]] const std::vector<std::string>& notes() const { return month_.notes(); }
 
     /// The month that the groups could go on from; nullopt when this one has groups, or none before
     /// it has.
-    [[nodiscard]] std::optional<WorkMonth> continuableFrom() const { return continuableFrom_; }
+    [[nodiscard]] std::optional<WorkMonth> continuableFrom() const {
+        return month_.continuableFrom();
+    }
     /// Asks, and records this month's groups with the rhythm of that month.
     [[nodiscard]] bool continueGroups();
 
@@ -127,23 +129,19 @@ class CartaoPontoDadosB {
 
   private:
     void load(const CompanyCode& company, const MonthSettings& settings);
-    void loadGroups(const FolderNames& names);
+    void showGroups();  ///< again, as they are on disk
+    /// The group being edited as it is on record now; none where it is gone.
+    void keepDraft();
     void loadTable(ShiftFilter shift, Scale scale);
     [[nodiscard]] bool narrow(ShiftFilter shift, Scale scale);
-    [[nodiscard]] RotationGroup withoutStrays(RotationGroup group);
-    [[nodiscard]] std::string strayReason(const EmployeeCode& code,
-                                          const RotationGroup& group) const;
     /// Of the month, the one being edited as it is.
     [[nodiscard]] std::vector<RotationGroup> groups() const;
     [[nodiscard]] std::vector<RotationGroup> otherGroups() const;
-    [[nodiscard]] const RotationGroup* recordedGroup(int number) const;
     /// As he is shown; nullptr when he is in none.
     [[nodiscard]] const RotationGroup* groupOfMember(const Employee& employee) const;
     [[nodiscard]] bool isEdited(const RotationGroup& group) const {
         return draft_ && draft_->number == group.number;
     }
-    [[nodiscard]] Absence absence() const;
-    [[nodiscard]] MemberNames names() const;
     [[nodiscard]] bool requireGroup();
     [[nodiscard]] bool tellRefusal(const Refusal& refusal);
     [[nodiscard]] GroupWork work() const;
@@ -151,8 +149,6 @@ class CartaoPontoDadosB {
     [[nodiscard]] bool addMembers(const std::function<Refusal(RotationGroup&)>& adding);
     [[nodiscard]] bool confirmRecording(const std::vector<EmployeeCode>& reapplied);
     void record(const std::vector<EmployeeCode>& reapplied);
-    /// The lines on disk. Throws Fault when those of these groups are not as shown.
-    [[nodiscard]] GroupLines linesAsShown(const std::vector<RotationGroup>& groups) const;
     /// Of the groups shown; empty when the operator was told why there are none.
     [[nodiscard]] std::vector<RotationSheet> requireSheets();
     [[nodiscard]] bool remove(const std::vector<RotationGroup>& groups, const std::string& title,
@@ -164,15 +160,9 @@ class CartaoPontoDadosB {
     Company heading_;
     MonthSettings settings_;
     EmployeeList list_;
-    std::map<EmployeeCode, Employee> people_;
-    std::map<EmployeeCode, LeaveCalendar> leaves_;
     WorkTable table_;
     WorkTable recordedTable_;
-    GroupLines lines_;  ///< as they were read
-    std::vector<RotationGroup> groups_;
-    std::vector<RotationGroup> before_;  ///< of the month before
-    std::vector<std::string> notes_;
-    std::optional<WorkMonth> continuableFrom_;
+    MonthGroups month_;
     std::optional<RotationGroup> draft_;
 };
 

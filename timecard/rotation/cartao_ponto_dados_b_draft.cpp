@@ -39,13 +39,8 @@ std::string CartaoPontoDadosB::titleOf(const RotationGroup& group) {
         .append(count == 1 ? " funcionário" : " funcionários");
 }
 
-const RotationGroup* CartaoPontoDadosB::recordedGroup(int number) const {
-    const auto group = std::ranges::find(groups_, number, &RotationGroup::number);
-    return group == groups_.end() ? nullptr : &*group;
-}
-
 std::vector<RotationGroup> CartaoPontoDadosB::otherGroups() const {
-    std::vector<RotationGroup> others = groups_;
+    std::vector<RotationGroup> others = month_.groups();
     std::erase_if(others, [this](const RotationGroup& group) { return isEdited(group); });
     return others;
 }
@@ -68,14 +63,13 @@ std::vector<RotationGroup> CartaoPontoDadosB::shownGroups() const {
 
 bool CartaoPontoDadosB::groupChanged() const {
     if (!draft_) return false;
-    for (const RotationGroup& group : groupsIn(lines_))
-        if (group.number == draft_->number) return group != *draft_;
+    if (const auto recorded = month_.recorded(draft_->number)) return *recorded != *draft_;
     return !draft_->members().empty();
 }
 
 bool CartaoPontoDadosB::selectGroup(int number) {
     if (draft_ && draft_->number == number) return true;
-    const RotationGroup* group = recordedGroup(number);
+    const RotationGroup* group = month_.find(number);
     if (!group || (groupChanged() && !at_.person.agrees(discardTyped()))) return false;
     draft_ = *group;
     return true;
@@ -93,7 +87,7 @@ bool CartaoPontoDadosB::newGroup() {
     }
     if (groupChanged() && !at_.person.agrees(discardTyped())) return false;
     int number = 1;
-    while (recordedGroup(number))
+    while (month_.find(number))
         ++number;
     if (number > kHighestGroup) {
         at_.person.tell(kNoNumberLeft);
@@ -121,8 +115,8 @@ bool CartaoPontoDadosB::addMembers(const std::function<Refusal(RotationGroup&)>&
     RotationGroup group = *draft_;
     if (tellRefusal(adding(group))) return false;
     for (const EmployeeCode& code : group.members())
-        if (const std::string reason = strayReason(code, group); !reason.empty()) {
-            at_.person.tell(refusal(kTitle, nameOf(names(), code) + " " + reason + "."));
+        if (const std::string reason = month_.strayReason(code, group); !reason.empty()) {
+            at_.person.tell(refusal(kTitle, nameOf(month_.names(), code) + " " + reason + "."));
             return false;
         }
     draft_ = std::move(group);

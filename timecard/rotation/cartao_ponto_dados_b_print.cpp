@@ -30,8 +30,10 @@ std::vector<RotationSheet> CartaoPontoDadosB::requireSheets() {
         putSchedule(words,
                     timesOn(winvrx::loadTable(at_.store(), *company_, group.shift, group.scale),
                             std::chrono::Monday));
-        sheets.push_back({heading_, group, viewOf(group, settings_, names(), absence(), before_),
-                          settings_.month, words.at("horario")});
+        sheets.push_back(
+            {heading_, group,
+             viewOf(group, settings_, month_.names(), month_.absence(), month_.before()),
+             settings_.month, words.at("horario")});
     }
     return sheets;
 }

@@ -45,10 +45,6 @@ std::string namesOf(const std::vector<EmployeeCode>& employees, const MemberName
     return namesText(texts, kMostNames);
 }
 
-const GroupLine* lineOfGroup(const GroupLines& lines, int number) {
-    return findLine(lines, number);
-}
-
 std::string listOf(const std::vector<RotationGroup>& groups) {
     std::vector<std::string> texts;
     for (const RotationGroup& group : groups)
@@ -66,7 +62,7 @@ bool CartaoPontoDadosB::requireOpenMonths(const std::vector<EmployeeCode>& emplo
     const auto closed = closedAmong(work(), employees);
     if (closed.empty()) return true;
     Message message = kPayrollClosed;
-    message.detail = namesOf(closed, names());
+    message.detail = namesOf(closed, month_.names());
     at_.person.tell(message);
     return false;
 }
@@ -75,26 +71,14 @@ bool CartaoPontoDadosB::applied() const {
     return draft_ && !appliedAmong(work(), draft_->members()).empty();
 }
 
-GroupLines CartaoPontoDadosB::linesAsShown(const std::vector<RotationGroup>& groups) const {
-    GroupLines now = groupFile(at_.store(), *company_, settings_.month).load();
-    for (const RotationGroup& group : groups) {
-        const GroupLine* line = lineOfGroup(now, group.number);
-        const GroupLine* shown = lineOfGroup(lines_, group.number);
-        if ((line == nullptr) != (shown == nullptr) || (line && !(*line == *shown)))
-            throw changedElsewhere("rotation groups", "O grupo foi alterado");
-    }
-    return now;
-}
-
 bool CartaoPontoDadosB::confirmRecording(const std::vector<EmployeeCode>& reapplied) {
-    const GroupLine* line = lineOfGroup(lines_, draft_->number);
-    const auto recorded = line ? groupOf(line->record) : std::nullopt;
+    const auto recorded = month_.recorded(draft_->number);
     const bool moved = recorded && recorded->firstDayOff != draft_->firstDayOff;
     Message asked = !reapplied.empty()
                         ? (moved ? kMoveStart : kChangeApplied)
                         : question(recorded ? "ALTERAÇÃO" : "INCLUSÃO",
                                    "Confirma Gravar o " + groupName(draft_->number) + "?");
-    if (!reapplied.empty()) asked.detail = kByHand + namesOf(reapplied, names()) + ".";
+    if (!reapplied.empty()) asked.detail = kByHand + namesOf(reapplied, month_.names()) + ".";
     const RotationView shown = view();
     std::vector<std::string> told = shown.remarks;
     if (!shown.gaps.empty()) told.insert(told.begin(), shown.gaps + ".");
@@ -107,8 +91,7 @@ bool CartaoPontoDadosB::saveGroup() {
     if (!requireGroup()) return false;
     return attempt(at_, incorrectData(), [this] {
         if (tellRefusal(recordingRefusal(*draft_, settings_.month))) return false;
-        const GroupLine* line = lineOfGroup(lines_, draft_->number);
-        const auto recorded = line ? groupOf(line->record) : std::nullopt;
+        const auto recorded = month_.recorded(draft_->number);
         auto changed = changedMembers(recorded ? &*recorded : nullptr, *draft_, settings_.month);
         if (!requireOpenMonths(changed)) return false;
         std::erase_if(changed, [this](const auto& code) { return !draft_->contains(code); });
@@ -123,11 +106,11 @@ bool CartaoPontoDadosB::saveGroup() {
 }
 
 void CartaoPontoDadosB::record(const std::vector<EmployeeCode>& reapplied) {
-    GroupLines lines = linesAsShown({*draft_});
+    GroupLines lines = month_.linesAsRead(at_.store(), {*draft_});
     for (const RotationGroup& other : groupsIn(lines))
         for (const EmployeeCode& code : draft_->members())
             if (other.number != draft_->number && other.contains(code) &&
-                strayReason(code, other).empty())
+                month_.strayReason(code, other).empty())
                 throw changedElsewhere("rotation groups", "Os grupos foram alterados");
     auto line = std::ranges::find_if(
         lines, [this](const GroupLine& one) { return one.key() == draft_->number; });
@@ -138,35 +121,21 @@ void CartaoPontoDadosB::record(const std::vector<EmployeeCode>& reapplied) {
     if (!reapplied.empty()) batch = reappliedCards(work(), {*draft_}, reapplied, remarks);
     // The cards first: cut short between the two, the command given again still finds the change.
     if (!batch.empty()) at_.files.replaceAll(batch);
-    at_.files.replaceAll({groupFile(at_.store(), *company_, settings_.month).contentOf(lines)});
-    loadGroups(namesIn(at_.store()));
+    at_.files.replaceAll({month_.file(at_.store()).contentOf(lines)});
+    showGroups();
     if (!remarks.empty())
         at_.person.tell(notice("Aplicação de Pontos", "O grupo foi gravado.", remarks));
 }
 
 bool CartaoPontoDadosB::continueGroups() {
-    if (!continuableFrom_) return false;
-    const WorkMonth from = *continuableFrom_;
+    const auto from = continuableFrom();
+    if (!from) return false;
     const Message asked =
         question("CONTINUAR GRUPOS", "Não há grupos em " + monthTitle(settings_.month) +
-                                         ". Deseja continuar os de " + monthTitle(from) +
+                                         ". Deseja continuar os de " + monthTitle(*from) +
                                          ", com o mesmo ritmo de folgas?");
-    if (!at_.person.agrees(asked)) return false;
-    return attemptWriting(at_, incorrectData(), [&] {
-        const auto file = groupFile(at_.store(), *company_, settings_.month);
-        if (!file.load().empty()) throw changedElsewhere("rotation groups", "Já há grupos no mês");
-        std::vector<std::string> left;
-        GroupLines lines;
-        notes_.clear();
-        for (RotationGroup group : groupsIn(groupFile(at_.store(), *company_, from).load())) {
-            group = continued(withoutStrays(std::move(group)), settings_.month);
-            if (!group.members().empty()) lines.push_back(lineOf(recordOf(group)));
-        }
-        left.swap(notes_);
-        if (!lines.empty()) at_.files.replaceAll({file.contentOf(lines)});
-        loadGroups(namesIn(at_.store()));
-        std::ranges::move(left, std::back_inserter(notes_));
-    });
+    return at_.person.agrees(asked) &&
+           attemptWriting(at_, incorrectData(), [&] { month_.continueFrom(at_.store(), *from); });
 }
 
 bool CartaoPontoDadosB::remove(const std::vector<RotationGroup>& groups, const std::string& title,
@@ -183,10 +152,10 @@ bool CartaoPontoDadosB::remove(const std::vector<RotationGroup>& groups, const s
         if (groupsToo && !at_.person.agrees(asked)) return false;
         if (!groupsToo && applied.empty()) return !tellRefusal(kNoPunches);
         Message punches = kRemovesPunches;
-        punches.detail = namesOf(applied, names()) + ".";
+        punches.detail = namesOf(applied, month_.names()) + ".";
         if (!applied.empty() && !at_.person.agrees(punches)) return false;
         const auto hold = holdFolder(at_);
-        GroupLines lines = linesAsShown(groups);
+        GroupLines lines = month_.linesAsRead(at_.store(), groups);
         if (!closedAmong(work(), members).empty())
             throw changedElsewhere("payroll", "A folha foi fechada");
         at_.keepStateBefore((groupsToo ? "excluir " : "excluir o ponto de ") + listOf(groups) +
@@ -197,19 +166,18 @@ bool CartaoPontoDadosB::remove(const std::vector<RotationGroup>& groups, const s
                 return std::ranges::any_of(
                     groups, [&](const RotationGroup& group) { return line.key() == group.number; });
             });
-            at_.files.replaceAll(
-                {groupFile(at_.store(), *company_, settings_.month).contentOf(lines)});
+            at_.files.replaceAll({month_.file(at_.store()).contentOf(lines)});
             draft_.reset();
         }
-        loadGroups(namesIn(at_.store()));
+        showGroups();
         return true;
     });
 }
 
 bool CartaoPontoDadosB::removeGroup() {
     if (!requireGroup()) return false;
-    const GroupLine* line = lineOfGroup(lines_, draft_->number);
-    if (line) return remove({groupOf(line->record).value()}, "EXCLUIR GRUPO", true);
+    if (const auto recorded = month_.recorded(draft_->number))
+        return remove({*recorded}, "EXCLUIR GRUPO", true);
     if (!at_.person.agrees(kRemoveGroup)) return false;
     draft_.reset();
     return true;
@@ -218,8 +186,7 @@ bool CartaoPontoDadosB::removeGroup() {
 bool CartaoPontoDadosB::removeGroups() {
     std::vector<RotationGroup> groups;
     for (const RotationGroup& shown : shownGroups())
-        if (const GroupLine* line = lineOfGroup(lines_, shown.number))
-            groups.push_back(groupOf(line->record).value());
+        if (const auto recorded = month_.recorded(shown.number)) groups.push_back(*recorded);
     if (groups.empty()) return !tellRefusal(kNoGroups);
     return remove(groups, "EXCLUIR GRUPOS", true);
 }
