@@ -1,4 +1,5 @@
 #include "foundation/register/leave_calendar.h"
+#include "foundation/register/leave_file.h"
 #include "fuzz/invariant.h"
 
 using namespace winvrx;
@@ -26,6 +27,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         bytes;
     for (const std::string& line : splitLines(bytes))
         requireKept(line);
+    LeaveFile file = parseLeaveFile(bytes);
+    const LeaveFile again = parseLeaveFile(encode(file));
+    file.strays.clear();
+    require(again == file, "a rewrite keeps the leaves and the status");
     const LeaveCalendar calendar =
         loadLeaveCalendar({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee});
     for (const DatedLeave& one : calendar.leaves()) {

@@ -130,6 +130,7 @@ bool Afastamento::select(std::size_t position) {
 }
 
 bool Afastamento::select(const EmployeeCode& employee) {
+    if (!list_.positionOf(employee.text()) && !filterBy(ShiftFilter::Todos)) return false;
     const auto position = list_.positionOf(employee.text());
     return position && select(*position);
 }

@@ -46,7 +46,7 @@ class Afastamento {
     /// Loads the leaves of the employee at `position` of the list, and tells of one who is
     /// inactive. False when the operator stays with what is typed, or they cannot be read.
     [[nodiscard]] bool select(std::size_t position);
-    /// The same by his code; false when the list does not have him.
+    /// The same by his code, with every shift listed where the filter hides him.
     [[nodiscard]] bool select(const EmployeeCode& employee);
     [[nodiscard]] std::optional<std::size_t> selectedPosition() const { return position_; }
     [[nodiscard]] const Employee* selected() const;  ///< nullptr when there is none

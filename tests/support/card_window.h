@@ -23,6 +23,7 @@ struct CardWindow : ::testing::Test {
     TestPunchDesk asked;
     CartaoPontoDados command{desk.at, asked.desk};
     int monthOpened = 0;
+    int leavesOpened = 0;
     std::unique_ptr<DrivenWindow<CartaoPontoDadosWindow>> driven;
 
     void SetUp() override {
@@ -38,6 +39,8 @@ struct CardWindow : ::testing::Test {
         driven = std::make_unique<DrivenWindow<CartaoPontoDadosWindow>>(command);
         QObject::connect(&driven->window, &CartaoPontoDadosWindow::monthSettingsRequested,
                          &driven->window, [this] { ++monthOpened; });
+        QObject::connect(&driven->window, &CartaoPontoDadosWindow::leavesRequested, &driven->window,
+                         [this] { ++leavesOpened; });
     }
 
     [[nodiscard]] PunchGrid& grid(int half) {

@@ -32,15 +32,15 @@ void openLeaves(const Workplace& at, const LeavesDesk& desk, QWidget* parent,
 }
 
 MenuEntry leavesEntry(const Workplace& at, const LeavesDesk& desk) {
-    return {
-        .group = QStringLiteral("Pessoal"),
-        .objectName = QStringLiteral("menu.leaves.open"),
-        .icon = QStringLiteral("leave"),
-        .title = QStringLiteral("Afastame&ntos"),
-        .key = Qt::Key_F10,
-        .needs = MenuNeeds::Employees,
-        .open = [at, desk](QWidget* parent) { openLeaves(at, desk, parent); },
-        .state = [](const MonthProgress*) { return QStringLiteral("Faltas, férias e rescisão"); }};
+    return {.group = QStringLiteral("Pessoal"),
+            .objectName = QStringLiteral("menu.leaves.open"),
+            .icon = QStringLiteral("leave"),
+            .title = QStringLiteral("Afastame&ntos"),
+            .key = Qt::Key_F10,
+            .needs = MenuNeeds::Employees,
+            .open = [at, desk](QWidget* parent) { openLeaves(at, desk, parent); },
+            .state =
+                [](const MonthProgress*) { return QStringLiteral("Férias, atestados, rescisão"); }};
 }
 
 }  // namespace winvrx

@@ -311,6 +311,21 @@ TEST_F(AfastamentoTest, TellsOfLinesThatARewriteDrops) {
     EXPECT_EQ(desk_.person.shown.size(), 1U) << "nothing is left to be dropped";
 }
 
+TEST_F(AfastamentoTest, ChangesALineOfAnotherProgram) {
+    const std::string beginning = "006 f\xE9rias" + std::string(20, ' ');
+    file() = beginning + "28/02/2024  01/03/2024";
+    start();
+    desk_.person.answers = {kYes};
+    ASSERT_TRUE(screen_.choose(0));
+    EXPECT_EQ(screen_.form().text(Days), "3");
+    EXPECT_FALSE(screen_.form().isChanged());
+    type({{Days, "4"}});
+    desk_.person.answers = {kOk, kYes};
+    EXPECT_TRUE(screen_.change());
+    const std::string line = beginning + "28/02/2024  02/03/2024  004 Dias e 0 Horas";
+    EXPECT_EQ(file(), line + std::string(211 - line.size(), ' ') + "\r\n**** \r\n");
+}
+
 TEST_F(AfastamentoTest, RefusesWhenAnotherComputerChangedTheFile) {
     record({kVacation});
     start();
@@ -490,6 +505,9 @@ TEST_F(AfastamentoTest, ListsEveryoneOrThoseWithAFile) {
     desk_.person.answers = {kYes};
     EXPECT_TRUE(screen_.select(EmployeeCode::parse("002").value()));
     EXPECT_EQ(screen_.selected()->name, "BIA");
+    EXPECT_TRUE(screen_.filterBy(ShiftFilter::Tres));
+    EXPECT_EQ(screen_.selected(), nullptr);
+    EXPECT_TRUE(screen_.select(EmployeeCode::parse("001").value())) << "of a shift not listed";
     desk_.files.content.erase("/data/DataIde.ivc");
     EXPECT_FALSE(screen_.open());
     EXPECT_EQ(desk_.person.takeTexts().back(), "Informe um Mês de Trabalho!!");

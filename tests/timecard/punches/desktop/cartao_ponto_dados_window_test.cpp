@@ -93,14 +93,17 @@ TEST_F(CardWindow, SearchAndShiftNarrowTheList) {
     EXPECT_EQ(command.selected()->name, "JOSÉ");
 }
 
-TEST_F(CardWindow, TheMonthIsChangedOnlyAfterTheChangesAreSettled) {
+TEST_F(CardWindow, OtherScreensOpenOnlyAfterTheChangesAreSettled) {
     open();
     driven->type("schedule.time1", "7");
     driven->press(Qt::Key_F7);  // answered Cancel
-    EXPECT_EQ(monthOpened, 0);
-    desk.person.answers = {Answer::No};
+    driven->press(Qt::Key_F8);
+    EXPECT_EQ(monthOpened + leavesOpened, 0);
+    desk.person.answers = {Answer::No, Answer::No};
     driven->press(Qt::Key_F7);
     EXPECT_EQ(monthOpened, 1);
+    driven->press(Qt::Key_F8);
+    EXPECT_EQ(leavesOpened, 1);
 }
 
 TEST_F(CardWindow, EveryWidgetHasAName) {
