@@ -45,7 +45,8 @@ struct MonthPayCase {
     std::chrono::seconds missing{};  ///< delays, whole days apart
     MonthDayCounts days = {};
     Fraction voucherPercent = 6;
-    Money voucherCost = {};  ///< of the tickets; none, no voucher
+    /// Of the tickets: zero, no voucher; nullopt, not known, and the limit is taken.
+    std::optional<Money> voucherCost = Money{};
     Fraction advancePercent = 0;
     std::optional<Date> advancePaid = {};
     int children = 0;    ///< with a right to the salary-family

@@ -10,11 +10,15 @@ Reckoning voucherLimit(Money salary, const Fraction& percent, const Fraction& sh
     return sum.rounded("Limite do vale-transporte");
 }
 
-Reckoning transportVoucher(Money salary, Money cost, const Fraction& percent,
+Reckoning transportVoucher(Money salary, std::optional<Money> cost, const Fraction& percent,
                            const Fraction& share) {
-    if (cost.cents == 0) return {};
-    return smallerOf(voucherLimit(salary, percent, share), Sum(cost).rounded("Custo das passagens"),
-                     "Vale-transporte, o menor dos dois");
+    if (percent == Fraction(0) || cost == Money{}) return {};
+    Reckoning limit = voucherLimit(salary, percent, share);
+    if (cost)
+        return smallerOf(limit, Sum(*cost).rounded("Custo das passagens"),
+                         "Vale-transporte, o menor dos dois");
+    limit.memo.push_back({"O custo das passagens não é conhecido: desconta-se o limite"});
+    return limit;
 }
 
 Reckoning salaryAdvance(Money salary, const Fraction& percent) {

@@ -125,6 +125,7 @@ std::optional<MonthPayCase> monthCase(const PayrollLaw& law, const EmployeeMonth
     part->daysAway = daysAwayUnpaid(of.leaves, *part);
     MonthPayCase month{.part = *part, .paid = paid};
     month.salary = salaryOf(of.employee).value_or(Money{});
+    month.voucherCost = std::nullopt;
     month.dependants = parseWholeNumber(of.employee.dependants, 0, kMostDependants).value_or(0);
     if (of.hours) takeHours(law, of, month);
     return month;

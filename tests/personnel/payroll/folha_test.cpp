@@ -66,6 +66,10 @@ TEST_F(FolhaTest, OpensInTheOrderOfItsChecks) {
     ASSERT_TRUE(folha.shown());
     EXPECT_EQ(folha.shown()->sheet.amountOf("001"), Money{300000});
     EXPECT_EQ(folha.shown()->sheet.amountOf("091"), Money{24858});
+    EXPECT_EQ(folha.shown()->sheet.amountOf("025"), Money{18000});
+    file("01001confgger2") = "025 VALE TRANSPORTES     0000,00001000\r\n";
+    EXPECT_EQ(folha.open(ana), Opened);
+    EXPECT_EQ(folha.shown()->sheet.amountOf("025"), Money{});
     EXPECT_TRUE(folha.warnings().empty());
 }
 
