@@ -16,11 +16,14 @@ std::optional<LeavePeriod> daysAway(const Leave& leave, LeavePeriod period) {
     return period.first <= period.last ? std::optional(period) : std::nullopt;
 }
 
-/// A termination from before the admission belongs to a contract of long ago.
-Date endOfContract(const std::vector<DatedLeave>& leaves, std::optional<Date> admission,
-                   Date inactiveSince) {
+/// Between the last day worked and the end there is a notice at most; a termination from longer
+/// ago is of an earlier contract. Lei 12.506/2011: up to ninety days.
+constexpr int kLongestNotice = 90;
+
+Date endOfContract(const std::vector<DatedLeave>& leaves, Date inactiveSince) {
     for (const DatedLeave& one : leaves | std::views::reverse)
-        if (const auto worked = one.leave.lastDayWorked(); worked && worked >= admission)
+        if (const auto worked = one.leave.lastDayWorked();
+            worked && plusDays(*worked, kLongestNotice) >= inactiveSince)
             return std::min(*worked, inactiveSince);
     return inactiveSince;
 }
@@ -44,7 +47,7 @@ LeaveCalendar::LeaveCalendar(std::string_view leaveFileBytes, std::optional<Date
             unread_.push_back(readableText(line));
         }
     }
-    if (inactiveSince_) contractEnd_ = endOfContract(leaves_, admission_, *inactiveSince_);
+    if (inactiveSince_) contractEnd_ = endOfContract(leaves_, *inactiveSince_);
 }
 
 Standing LeaveCalendar::standingOn(Date date) const {

@@ -26,6 +26,9 @@ std::string CartaoPontoDados::standingText(int day) const {
         case Standing::Employed:
             break;
     }
+    for (const DatedLeave& one : leaves_.leaves())
+        if (one.leave.isOfHours() && one.period.contains(dateOf(day)))
+            return "Afastamento de horas: " + wordOf(one.leave) + ", " + one.leave.duration;
     const bool marked = meaningOf(sheet_.line(day).situation) == DayMeaning::Leave;
     return marked ? "Nenhum afastamento registrado neste dia" : "";
 }

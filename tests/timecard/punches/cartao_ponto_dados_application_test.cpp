@@ -171,7 +171,10 @@ TEST_F(CardScreen, ALeaveThatCannotBeReadStopsTheApplication) {
 TEST_F(CardScreen, EachDaySaysTheLeaveOrWhyItIsOutsideTheContract) {
     Leave ended = leave("008 RESCISÃO_CONTRATO_TRABALHO", "20/03/2024", "19/04/2024");
     ended.lastWorked = "20/03/2024";
-    desk.file(kLeaves) = leaveBytes({vacation("05/03/2024", "06/03/2024"), ended}, "19/04/2024");
+    Leave hours = leave("007 ATESTADO_DECALRAÇÃO", "20/03/2024", "20/03/2024");
+    hours.duration = "000 Dias e 4 Horas";
+    desk.file(kLeaves) =
+        leaveBytes({vacation("05/03/2024", "06/03/2024"), hours, ended}, "19/04/2024");
     Employee ana = employee("001", "ANA", "Unico", "Norma");
     ana.admission = "04/03/2024";
     hire({ana});
@@ -198,7 +201,7 @@ TEST_F(CardScreen, EachDaySaysTheLeaveOrWhyItIsOutsideTheContract) {
           {5, DayKind::Work, away, away + ": o dia não está marcado AFASTAMENTO."},
           {6, DayKind::Leave, away, ""},
           {7, DayKind::Leave, "Nenhum afastamento registrado neste dia", ""},
-          {20, DayKind::Work, "", ""},
+          {20, DayKind::Work, "Afastamento de horas: ATESTADO DECALRAÇÃO, 000 Dias e 4 Horas", ""},
           {21, DayKind::OutsideContract, "Depois do fim do contrato em 20/03/2024",
            "Depois do fim do contrato em 20/03/2024" + outside},
           {31, DayKind::OutsideContract, "Depois do fim do contrato em 20/03/2024", ""}}) {
