@@ -13,12 +13,12 @@
 // `bench_share --trace` lists the operations and the questions that were agreed to.
 #include "app/desktop_setup.h"
 #include "app/program.h"
+#include "bench/counting_files.h"
 #include "bench/share_office.h"
 #include "foundation/desk/desktop/desktop_text_editor.h"
 #include "foundation/desk/desktop/file_log.h"
 #include "foundation/desk/desktop/file_user_settings.h"
 #include "foundation/files/desktop/system_drives.h"
-#include "foundation/files/forwarding_files.h"
 #include "foundation/menu/desktop/menu_window.h"
 #include "player.h"
 
@@ -39,65 +39,6 @@ using namespace winvrx;
 
 constexpr double kMostRatio = 1.5;
 constexpr double kMostMilliseconds = 500;
-
-/// Counts what is asked of the disk, and names it.
-class CountingFiles final : public ForwardingFiles {
-  public:
-    CountingFiles(std::unique_ptr<FileSystem> files, std::vector<std::string>& asked)
-        : ForwardingFiles(*files), own_(std::move(files)), asked_(asked) {}
-
-    [[nodiscard]] std::optional<std::string> read(
-        const std::filesystem::path& file) const override {
-        note("read", file);
-        return files_.read(file);
-    }
-    void replace(const std::filesystem::path& file, std::string_view bytes) override {
-        note("write", file);
-        files_.replace(file, bytes);
-    }
-    void replaceAll(const std::vector<NewContent>& files) override {
-        for (const NewContent& one : files)
-            note("write", one.file);
-        files_.replaceAll(files);
-    }
-    bool remove(const std::filesystem::path& file) override {
-        note("remove", file);
-        return files_.remove(file);
-    }
-    [[nodiscard]] bool exists(const std::filesystem::path& file) const override {
-        note("look for", file);
-        return files_.exists(file);
-    }
-    [[nodiscard]] std::vector<std::string> names(
-        const std::filesystem::path& folder) const override {
-        note("list", folder);
-        return files_.names(folder);
-    }
-    [[nodiscard]] std::vector<ListedFile> list(const std::filesystem::path& folder) const override {
-        note("list", folder);
-        return files_.list(folder);
-    }
-    void makeFolder(const std::filesystem::path& folder) override {
-        note("make", folder);
-        files_.makeFolder(folder);
-    }
-    [[nodiscard]] bool hasLeftovers(const std::filesystem::path& folder) const override {
-        note("list for leftovers", folder);
-        return files_.hasLeftovers(folder);
-    }
-    void removeLeftovers(const std::filesystem::path& folder) override {
-        note("list for leftovers", folder);
-        files_.removeLeftovers(folder);
-    }
-
-  private:
-    void note(const char* what, const std::filesystem::path& file) const {
-        asked_.push_back(std::string(what) + " " + file.filename().string());
-    }
-
-    std::unique_ptr<FileSystem> own_;
-    std::vector<std::string>& asked_;
-};
 
 struct Need {
     int operations;
@@ -145,7 +86,10 @@ const std::vector<Need> kEmployeesShown = {{1, "the company's name"},
                                            {1, "the employees"},
                                            {1, "the folder's names: codes in use, leave files"},
                                            {kOnLeave, "the leave files"}};
-const std::vector<Need> kShiftsShown = {{1, "the company's name"}, {1, "the employees"}};
+const std::vector<Need> kShiftsShown = {{1, "the company's name"},
+                                        {1, "the employees"},
+                                        {1, "the folder's names: leave files"},
+                                        {kOnLeave, "the leave files"}};
 const std::vector<Need> kMonthShown = {{1, "which month is in use"},
                                        {1, "the local holidays"},
                                        {1, "the month's record"},
@@ -181,6 +125,7 @@ const std::vector<Need> kAppliedToAll = {{1, "the folder's names, for what is as
                                          {kOnLeave, "the leave files"},
                                          {kEmployees, "the schedules"},
                                          {kEmployees, "the punches, written"}};
+const std::vector<Need> kLeaves = {{1, "the leave file"}};
 const std::vector<Need> kPrintShown = std::vector<Need>{{1, "the employees"},
                                                         {1, "the company"},
                                                         {1, "which month is in use"},
@@ -190,8 +135,17 @@ const std::vector<Need> kPrintShown = std::vector<Need>{{1, "the employees"},
                                                         {1, "the folder's names: leaves"},
                                                         {kOnLeave, "the leave files"},
                                                         {1, "the month's record"}} +
-                                      kCard;
-const std::vector<Need> kLeaves = {{1, "the leave file"}};
+                                      kCard + kLeaves;
+const std::vector<Need> kLeavesShown = {
+    {1, "which month is in use"},  {1, "the employees"},
+    {1, "the company's name"},     {1, "the folder's names: leave files"},
+    {kOnLeave, "the leave files"}, {1, "a payroll of the one shown is looked for"}};
+const std::vector<Need> kStockShown = {{1, "the card stock"}};
+const std::vector<Need> kAlignmentShown = {{1, "the printer"},
+                                           {2, "what is remembered of it"},
+                                           {1, "the company, on the sample"},
+                                           {1, "the card stock"},
+                                           {2, "alignment and scale"}};
 const std::vector<Need> kRun = {{2, "alignment and scale"}, {1, "the month's record"}};
 const std::vector<Need> kAllCards = {{1, "the folder's names: own percentages, leaves"},
                                      {kEmployees, "the schedules"},
@@ -303,8 +257,14 @@ class Day {
         command("card.apply", {"apply to one", kApplied});
         command("card.applyToAll", {"apply to all", kAppliedToAll, false});
         step({"close Dados", menu(true)}, [this] { player_.click(text("card.close")); });
-        step({"open Imprimir", kPrintShown + kLeaves},
-             [this] { player_.click(text("menu.print.open")); });
+        openAndClose("leaves", "leaves", {"open Afastamentos", kLeavesShown},
+                     {"close Afastamentos", menu(true)});
+        step({"open Imprimir", kPrintShown}, [this] { player_.click(text("menu.print.open")); });
+        inside(text("cartao.stock"), text("tipoPonto.close"), {"open Tipo de Cartao", kStockShown},
+               {"close Tipo de Cartao", kPrintShown});
+        inside(text("cartao.alignment"), text("cartaoPontos.close"),
+               {"open Ajuste de Impressao", kAlignmentShown},
+               {"close Ajuste de Impressao", kPrintShown});
         command("cartao.printOne", {"print one", kRun + kCard + kLeaves});
         command("cartao.printAll", {"print all", kRun + kAllCards, false});
         step({"close Imprimir", menu(true)}, [this] { player_.click(text("cartao.close")); });
@@ -323,8 +283,15 @@ class Day {
 
     void openAndClose(const char* entry, const char* screen, const Step& opening,
                       const Step& closing) {
-        step(opening, [&] { player_.click(text("menu.%1.open").arg(text(entry))); });
-        step(closing, [&] { player_.click(text(screen) + text(".close")); });
+        inside(text("menu.%1.open").arg(text(entry)), text(screen) + text(".close"), opening,
+               closing);
+    }
+
+    /// Opens a screen by a button of the one in front, and closes it.
+    void inside(const QString& button, const QString& closingButton, const Step& opening,
+                const Step& closing) {
+        step(opening, [&] { player_.click(button); });
+        step(closing, [&] { player_.click(closingButton); });
     }
 
     /// A command of the screen in front, with everything that it asks agreed to, from the click to
