@@ -87,6 +87,8 @@ class CartaoPontoDadosB {
     /// The group being edited; nullopt when none is selected.
     [[nodiscard]] const std::optional<RotationGroup>& group() const { return draft_; }
     [[nodiscard]] bool groupChanged() const;
+    /// Why the group cannot be recorded; empty when it can.
+    [[nodiscard]] std::string groupFinding() const;
     [[nodiscard]] bool changed() const { return tableChanged() || groupChanged(); }
     /// False when the operator stays with unrecorded changes.
     [[nodiscard]] bool selectGroup(int number);

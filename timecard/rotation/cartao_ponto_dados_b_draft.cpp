@@ -67,6 +67,12 @@ bool CartaoPontoDadosB::groupChanged() const {
     return !draft_->members().empty();
 }
 
+std::string CartaoPontoDadosB::groupFinding() const {
+    const Refusal refused =
+        draft_ ? recordingRefusal(*draft_, settings_.month) : std::optional<Message>();
+    return refused ? refused->text : std::string();
+}
+
 bool CartaoPontoDadosB::selectGroup(int number) {
     if (draft_ && draft_->number == number) return true;
     const RotationGroup* group = month_.find(number);

@@ -98,9 +98,11 @@ Refusal addRelief(RotationGroup& group, const Employee& employee,
     const std::size_t most = group.listed() == kMostPlaces ? kMostReliefWorkers : 1;
     if (group.relief.size() >= most) return kTwoReliefWorkers;
     group.relief.push_back({employee.employeeCode().value()});
-    const std::size_t which = group.relief.size() - 1;
-    if (const auto free = freeForRelief(group, which, month); !free.empty())
-        group.relief[which].firstDayOff = free.front();
+    // The first of two had no day until there was a second.
+    for (std::size_t which = 0; which < group.relief.size(); ++which)
+        if (const auto free = freeForRelief(group, which, month);
+            !group.relief[which].firstDayOff && !free.empty())
+            group.relief[which].firstDayOff = free.front();
     return std::nullopt;
 }
 
@@ -120,6 +122,7 @@ bool movePlace(RotationGroup& group, std::size_t from, std::size_t to) {
 Refusal recordingRefusal(const RotationGroup& group, WorkMonth month) {
     if (group.listed() == 0) return kNobodyListed;
     if (!isIn(month, group.firstDayOff)) return kOutsideMonth;
+    if (const auto finding = reliefCountFinding(group)) return refusal(kTitle, *finding);
     for (const ReliefWorker& one : group.relief) {
         if (!one.firstDayOff) return kNoReliefDate;
         if (!isIn(month, one.firstDayOff)) return kOutsideMonth;

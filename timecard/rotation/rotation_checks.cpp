@@ -104,7 +104,7 @@ std::vector<BrokenRhythm> brokenRhythms(const std::vector<RotationGroup>& before
     return broken;
 }
 
-std::optional<std::string> reliefFinding(const RotationGroup& group, WorkMonth month) {
+std::optional<std::string> reliefCountFinding(const RotationGroup& group) {
     if (group.relief.empty()) return std::nullopt;
     const bool full = group.listed() == kMostPlaces;
     if (full && group.relief.size() < kMostReliefWorkers)
@@ -112,6 +112,11 @@ std::optional<std::string> reliefFinding(const RotationGroup& group, WorkMonth m
                "folguista. Informe um segundo folguista, ou deixe cinco na lista.";
     if (!full && group.relief.size() > 1)
         return "O segundo folguista é para uma lista de seis funcionários.";
+    return std::nullopt;
+}
+
+std::optional<std::string> reliefFinding(const RotationGroup& group, WorkMonth month) {
+    const bool full = group.listed() == kMostPlaces;
     for (std::size_t which = 0; which < group.relief.size(); ++which) {
         const auto free = freeForRelief(group, which, month);
         if (!isAmong(free, *group.relief[which].firstDayOff, rhythmOf(group.scale)))

@@ -38,6 +38,10 @@ struct BrokenRhythm {
 [[nodiscard]] std::vector<BrokenRhythm> brokenRhythms(const std::vector<RotationGroup>& before,
                                                       const RotationGroup& group, WorkMonth month);
 
+/// Why a list of this length has too few or too many relief workers, in one sentence; nullopt when
+/// it has not.
+[[nodiscard]] std::optional<std::string> reliefCountFinding(const RotationGroup& group);
+
 /// Why the relief workers' days off do not fit the list, in one sentence; nullopt when they do.
 /// Presumes that they are given.
 [[nodiscard]] std::optional<std::string> reliefFinding(const RotationGroup& group, WorkMonth month);
