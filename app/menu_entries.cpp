@@ -5,6 +5,7 @@
 #include "personnel/leaves/desktop/leaves_entry.h"
 #include "timecard/month/desktop/month_entry.h"
 #include "timecard/punches/desktop/time_card_entry.h"
+#include "timecard/rotation/desktop/rotation_entry.h"
 #include "timecard/rotation/rotation_records.h"
 
 namespace winvrx {
@@ -39,15 +40,20 @@ MenuEntries menuEntries(const Workplace& at, const CardPrintingDesk& desk, TextE
         all.insert(all.end(), some.begin(), some.end());
     };
     const auto rotation = std::make_shared<RotationRecords>(at.store(), at.clock);
+    const auto openRotation = [at, &engine = desk.engine, &editor](QWidget* parent) {
+        openRotations(at, engine, editor, parent);
+    };
     add(registerEntries(at, editor, rotation));
     add({monthEntry(at)});
     const LeavesDesk leaves{desk.engine, editor};
-    add({timeCardEntry(at, rotation,
-                       [leaves](const Workplace& office, QWidget* parent, const auto& inHand) {
-                           openLeaves(office, leaves, parent, inHand);
-                       })});
+    add({timeCardEntry(
+        at, rotation,
+        [leaves](const Workplace& office, QWidget* parent, const auto& inHand) {
+            openLeaves(office, leaves, parent, inHand);
+        },
+        openRotation)});
     add(cardEntries(at, desk));
-    add({planned("Cartão de Ponto", "rotation", "rotation", "Escalas")});
+    add({rotationEntry(at, openRotation)});
     add({planned("Cartão de Ponto", "mirror", "mirror", "Espelho")});
     add({leavesEntry(at, leaves)});
     add({planned("Pessoal", "payroll", "payroll", "Folha de Pagamento")});

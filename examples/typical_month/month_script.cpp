@@ -27,6 +27,7 @@ struct Person {
     Text registration;
     Text admission;
     Text shift;
+    Text scale = "Normal"_t;
 };
 
 void registerCompany(Player& player) {
@@ -55,7 +56,7 @@ void registerPerson(Player& player, const Person& person) {
     player.openTab("empregados.tabs"_t, "Contrato"_t);
     player.type("empregados.admission"_t, person.admission);
     player.choose("empregados.shift"_t, person.shift);
-    player.choose("empregados.scale"_t, "Normal"_t);
+    player.choose("empregados.scale"_t, person.scale);
     player.openTab("empregados.tabs"_t, "Documentos"_t);
     player.type("empregados.workBooklet"_t, person.workBooklet);
     player.type("empregados.registration"_t, person.registration);
@@ -286,6 +287,50 @@ void lookAtCopies(Player& player) {
     player.press(Qt::Key_Escape);
 }
 
+void registerPorters(Player& player) {
+    player.click("menu.employees.open"_t);
+    const Text names[] = {"ADÃO FERREIRA"_t, "BENTO SIQUEIRA"_t, "CÉLIA RAMOS"_t, "DIVA MOURA"_t};
+    int number = 3;
+    for (const Text& name : names) {
+        player.click("empregados.include"_t);
+        const Text code = "%1"_t.arg(++number, 3, 10, QLatin1Char('0'));
+        registerPerson(player, {code, name, "PORTEIRO"_t, "13579/0004%1-SP"_t.arg(number),
+                                "000"_t + code.last(2), "02/01/2024"_t, "Comercial"_t, "5x1"_t});
+    }
+    player.click("empregados.close"_t);
+}
+
+/// Three porters on 5 x 1, the fourth works in place of whoever is off.
+void planRotation(Player& player) {
+    player.click("menu.rotation.open"_t);
+    player.choose("rotation.shift"_t, "Unico"_t);
+    player.picture("escalas-vazio"_t);
+    player.click("rotation.new"_t);
+    for (const Text& code : {"004"_t, "005"_t, "006"_t}) {
+        player.choose("rotation.employees"_t, code);
+        player.click("rotation.add"_t);
+    }
+    player.picture("escalas-descoberto"_t);
+    player.choose("rotation.employees"_t, "007"_t);
+    player.click("rotation.addRelief"_t);
+    player.choose("rotation.firstDay"_t, "05"_t);
+    player.click("rotation.save"_t);
+    player.answer("Confirma Gravar o GRUPO-001?"_t, Answer::Yes);
+    player.picture("escalas"_t);
+    player.openTab("rotation.pages"_t, "Quadro"_t);
+    player.picture("quadro"_t);
+    player.click("rotation.close"_t);
+}
+
+void applyRotation(Player& player) {
+    player.click("menu.timecard.open"_t);
+    player.choose("card.employees"_t, "004"_t);
+    player.click("card.apply"_t);
+    player.answer("Confirma Aplicação de Ponto"_t, Answer::Yes);
+    player.picture("dados-escala"_t);
+    player.click("card.close"_t);
+}
+
 }  // namespace
 
 void writeMonth(Player& player) {
@@ -298,6 +343,9 @@ void writeMonth(Player& player) {
     lookAtCopies(player);
     lookAtHelp(player);
     player.picture("janela-principal"_t);
+    registerPorters(player);
+    planRotation(player);
+    applyRotation(player);
 }
 
 }  // namespace winvrx

@@ -16,7 +16,8 @@ const Message kReplaceApplied = riskyQuestion(
 const Message kRotationScale =
     refusal("Aplicação de Ponto", "Este Funcionário foi definido como ESCALA DE REVEZAMENTO!!!");
 const Message kAddToRotation = refusal(
-    "Aplicação de Ponto", "Portanto é Necessário PRIMEIRO adicioná-lo na ESCALA DE REVEZAMENTO!!!");
+    "Aplicação de Ponto", "Portanto é Necessário PRIMEIRO adicioná-lo na ESCALA DE REVEZAMENTO!!!",
+    "Ctrl+E abre + Quadro Horário e Escala de Revezamento.");
 const std::string kNoScheduleTimes = "O horário de trabalho não tem horas de segunda a sexta";
 const Message kNoSituation = question(
     "Situação",

@@ -136,6 +136,11 @@ TEST_F(TypicalMonth, LeavesRecordsOfTheirLayout) {
     EXPECT_EQ(record("02001-03-2024.bdx").split('\n')[29].mid(45, 15),
               QByteArray("FERIADO").leftJustified(15));
     EXPECT_THAT(record("02configAf003").toStdString(), ::testing::EndsWith("**** 25/04/2024\r\n"));
+    const QList<QByteArray> porter = record("02004-03-2024.bdx").split('\n');
+    ASSERT_EQ(porter.size(), 33);
+    EXPECT_EQ(porter[3].left(30), "03/dom/mar09:0012:0013:0017:20") << "a Sunday at work";
+    EXPECT_EQ(porter[5].mid(45, 15), "DESCANSO SEMANA");
+    EXPECT_TRUE(record("02GRUPO-032024.rdx").startsWith("GRUPO-001 Unico 5x1   05/03/2024 007 "));
 }
 
 TEST_F(TypicalMonth, KeepsPicturesInBothPalettesTheConversationAndNothingUntold) {
@@ -145,7 +150,7 @@ TEST_F(TypicalMonth, KeepsPicturesInBothPalettesTheConversationAndNothingUntold)
         names.push_back(name.mid(3).toStdString());
     for (const char* window :
          {"janela-principal", "empresas", "funcionarios", "mes-carnaval", "feriados", "mes",
-          "dados", "afastamentos", "tipo", "imprimir", "previa"}) {
+          "dados", "afastamentos", "tipo", "imprimir", "previa", "escalas", "quadro"}) {
         EXPECT_THAT(names, Contains(std::string(window) + "-claro.png"));
         EXPECT_THAT(names, Contains(std::string(window) + "-escuro.png"));
     }

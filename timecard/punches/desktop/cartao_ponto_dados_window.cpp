@@ -183,15 +183,23 @@ void CartaoPontoDadosWindow::buildCommands() {
                    Qt::Key_F7, QStringLiteral("card.monthSettings"));
     connect(month, &QToolButton::clicked, this,
             [this] { leaveFor(&CartaoPontoDadosWindow::monthSettingsRequested); });
-    // The command bar has no room left.
-    QPushButton* leaves =
-        addClosingButton(QStringLiteral("Afasta&mentos  F8"), QStringLiteral("card.leaves"));
-    leaves->setIcon(look::icon(QStringLiteral("leave")));
-    connect(leaves, &QPushButton::clicked, this,
-            [this] { leaveFor(&CartaoPontoDadosWindow::leavesRequested); });
-    connect(new QShortcut(Qt::Key_F8, this), &QShortcut::activated, leaves, &QPushButton::click);
+    addWay(QStringLiteral("leave"), QStringLiteral("Afasta&mentos  F8"), Qt::Key_F8,
+           QStringLiteral("card.leaves"), &CartaoPontoDadosWindow::leavesRequested);
+    addWay(QStringLiteral("rotation"), QStringLiteral("+ Quadro Horário e Escala de Revezamento"),
+           Qt::CTRL | Qt::Key_E, QStringLiteral("card.rotation"),
+           &CartaoPontoDadosWindow::rotationRequested);
     QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("card.close"));
     connect(close, &QPushButton::clicked, this, &CartaoPontoDadosWindow::reject);
+}
+
+void CartaoPontoDadosWindow::addWay(const QString& icon, const QString& text,
+                                    const QKeySequence& key, const QString& objectName,
+                                    void (CartaoPontoDadosWindow::*requested)()) {
+    QPushButton* button = addClosingButton(text, objectName);
+    button->setIcon(look::icon(icon));
+    button->setToolTip(key.toString(QKeySequence::NativeText));
+    connect(button, &QPushButton::clicked, this, [this, requested] { leaveFor(requested); });
+    connect(new QShortcut(key, this), &QShortcut::activated, button, &QPushButton::click);
 }
 
 void CartaoPontoDadosWindow::connectEmployees() {

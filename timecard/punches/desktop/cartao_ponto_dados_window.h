@@ -38,6 +38,8 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     void monthSettingsRequested();
     /// "Afastamentos" of the employee selected, if one is: the same for that window.
     void leavesRequested();
+    /// "+ Quadro Horário e Escala de Revezamento": the same for the rotations.
+    void rotationRequested();
 
   protected:
     bool mayClose() override;
@@ -51,6 +53,9 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     [[nodiscard]] QRadioButton* buildEntryMode(const QString& text, const QString& objectName,
                                                Qt::Key key);
     void buildCommands();
+    /// A command that leads to another screen; the command bar has no room left.
+    void addWay(const QString& icon, const QString& text, const QKeySequence& key,
+                const QString& objectName, void (CartaoPontoDadosWindow::*requested)());
     void connectEmployees();
     void connectGrid(HalfMonth half);
     void addEmployeeKeys();

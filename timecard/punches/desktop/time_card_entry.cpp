@@ -10,7 +10,8 @@ namespace winvrx {
 namespace {
 
 void openTimeCard(const Workplace& at, const RotationCalendar& rotation,
-                  const LeavesOpener& openLeaves, QWidget* parent) {
+                  const LeavesOpener& openLeaves, const RotationOpener& openRotation,
+                  QWidget* parent) {
     const RecordedAnswers records(at.store());
     CartaoPontoDados card(at, {rotation, records});
     (void)card.open();
@@ -28,21 +29,27 @@ void openTimeCard(const Workplace& at, const RotationCalendar& rotation,
         openLeaves(at, &window, inHand ? inHand->employeeCode() : std::nullopt);
         comeBack();
     });
+    QObject::connect(&window, &CartaoPontoDadosWindow::rotationRequested, &window, [&] {
+        openRotation(&window);
+        comeBack();
+    });
     window.exec();
 }
 
 }  // namespace
 
 MenuEntry timeCardEntry(const Workplace& at, std::shared_ptr<const RotationCalendar> rotation,
-                        LeavesOpener openLeaves) {
+                        LeavesOpener openLeaves, RotationOpener openRotation) {
     return {.group = QStringLiteral("Cartão de Ponto"),
             .objectName = QStringLiteral("menu.timecard.open"),
             .icon = QStringLiteral("card"),
             .title = QStringLiteral("&Dados"),
             .key = Qt::Key_F5,
             .needs = MenuNeeds::Employees,
-            .open = [at, rotation, openLeaves](
-                        QWidget* parent) { openTimeCard(at, *rotation, openLeaves, parent); },
+            .open =
+                [at, rotation, openLeaves, openRotation](QWidget* parent) {
+                    openTimeCard(at, *rotation, openLeaves, openRotation, parent);
+                },
             .state =
                 [](const MonthProgress* progress) {
                     return progress && progress->month ? QStringLiteral("%1 de %2 preenchidos")

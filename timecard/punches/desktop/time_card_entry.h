@@ -15,9 +15,13 @@ class RotationCalendar;
 using LeavesOpener = std::function<void(const Workplace& at, QWidget* parent,
                                         const std::optional<EmployeeCode>& inHand)>;
 
-/// The time card's command of the main window. Its window leads on to the leaves.
+/// Opens the rotations over a window.
+using RotationOpener = std::function<void(QWidget* parent)>;
+
+/// The time card's command of the main window. Its window leads on to the leaves
+/// and the rotations.
 [[nodiscard]] MenuEntry timeCardEntry(const Workplace& at,
                                       std::shared_ptr<const RotationCalendar> rotation,
-                                      LeavesOpener openLeaves);
+                                      LeavesOpener openLeaves, RotationOpener openRotation);
 
 }  // namespace winvrx
