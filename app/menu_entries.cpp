@@ -2,6 +2,7 @@
 
 #include "foundation/copies/desktop/restore_entry.h"
 #include "foundation/register/desktop/register_entries.h"
+#include "output/mirrors/desktop/hours_entry.h"
 #include "personnel/leaves/desktop/leaves_entry.h"
 #include "timecard/month/desktop/month_entry.h"
 #include "timecard/punches/desktop/time_card_entry.h"
@@ -53,6 +54,7 @@ MenuEntries menuEntries(const Workplace& at, const CardPrintingDesk& desk, TextE
         },
         openRotation)});
     add(cardEntries(at, desk));
+    add({hoursEntry(at, {editor, desk.browser, desk.engine, rotation})});
     add({rotationEntry(at, openRotation)});
     add({planned("Cartão de Ponto", "mirror", "mirror", "Espelho")});
     add({leavesEntry(at, leaves)});

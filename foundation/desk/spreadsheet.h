@@ -1,6 +1,10 @@
 #pragma once
 
+#include "foundation/values/date.h"
+
+#include <chrono>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace winvrx {
@@ -13,14 +17,33 @@ struct Table {
     [[nodiscard]] bool operator==(const Table&) const = default;
 };
 
+/// A text, or a value that a spreadsheet can sort and reckon with. An empty text is a blank cell.
+using SheetCell = std::variant<std::string, Date, TimeOfDay, std::chrono::seconds>;
+
+struct SheetColumn {
+    std::string title;
+    bool summed = false;  ///< of durations: their sum stands below the last row, as a formula
+};
+
+/// One sheet of a workbook: titles that stay in sight above rows of one cell a column.
+struct Sheet {
+    std::string name;
+    std::vector<SheetColumn> columns;
+    std::vector<std::vector<SheetCell>> rows;
+    bool filtered = false;      ///< the titles offer a filter, which the sums follow
+    bool decimalHours = false;  ///< durations as "8,50", else as "08:30"
+};
+
+/// The table as a sheet of texts.
+[[nodiscard]] Sheet textSheet(std::string name, const Table& table);
+
 /// Writes workbooks.
 class Spreadsheet {
   public:
     virtual ~Spreadsheet() = default;
 
-    /// The bytes of an XLSX file with one sheet; every cell is a text. Throws Fault.
-    [[nodiscard]] virtual std::string workbookOf(const Table& table,
-                                                 const std::string& sheetName) = 0;
+    /// The bytes of an XLSX file. Throws Fault.
+    [[nodiscard]] virtual std::string workbookOf(const std::vector<Sheet>& sheets) = 0;
 };
 
 }  // namespace winvrx

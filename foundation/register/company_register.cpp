@@ -18,6 +18,12 @@ std::optional<Company> findCompany(const Store& store, const CompanyCode& code) 
     return line ? std::optional(line->record) : std::nullopt;
 }
 
+Company loadCompany(const Store& store, const CompanyCode& code) {
+    if (auto company = findCompany(store, code)) return *company;
+    throw Fault("company is not in the register",
+                "A empresa selecionada não está no cadastro de empresas.");
+}
+
 const CompanyLine* firstCompany(const std::vector<CompanyLine>& lines) {
     const auto found =
         std::ranges::find_if(lines, [](const auto& line) { return line.key().has_value(); });

@@ -31,6 +31,9 @@ using CompanyLine = StoredLine<Company>;
 /// The company of that code; nullopt when no line has it.
 [[nodiscard]] std::optional<Company> findCompany(const Store& store, const CompanyCode& code);
 
+/// The same; throws Fault when no line has it.
+[[nodiscard]] Company loadCompany(const Store& store, const CompanyCode& code);
+
 /// The first line that is understood, of the company that cannot be deleted; nullptr without one.
 [[nodiscard]] const CompanyLine* firstCompany(const std::vector<CompanyLine>& lines);
 

@@ -124,9 +124,9 @@ bool Empregados::exportTo(const std::filesystem::path& file) {
     if (!requireCompany()) return false;
     return run(incorrectData(), [&] {
         const Table table = tableOf(lines_, marks_);
-        at_.files.replace(file, isWorkbookName(file)
-                                    ? desk_.spreadsheet.workbookOf(table, "Funcionários")
-                                    : csvText(rowsOf(table)));
+        at_.files.replace(file, isWorkbookName(file) ? desk_.spreadsheet.workbookOf(
+                                                           {textSheet("Funcionários", table)})
+                                                     : csvText(rowsOf(table)));
     });
 }
 

@@ -41,12 +41,6 @@ Message confirmOutsiders(const std::vector<std::string>& names) {
                     namesText(names, kMostNames));
 }
 
-Company requireCompany(const Store& store, const CompanyCode& code) {
-    if (auto company = findCompany(store, code)) return *company;
-    throw Fault("company is not in the register",
-                "A empresa selecionada não está no cadastro de empresas.");
-}
-
 }  // namespace
 
 Cartao::Cartao(const Workplace& at, const CartaoDesk& desk)
@@ -54,7 +48,7 @@ Cartao::Cartao(const Workplace& at, const CartaoDesk& desk)
 
 void Cartao::load() {
     (void)attempt(at_, incorrectData(), [this] {
-        company_ = requireCompany(at_.store(), at_.session.company.value());
+        company_ = loadCompany(at_.store(), at_.session.company.value());
         const auto selected = loadSelectedMonth(at_.store());
         month_ = selected ? std::optional(selected->month) : std::nullopt;
         stock_ = loadStock(at_.store(), *at_.session.company);

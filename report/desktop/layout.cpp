@@ -46,9 +46,13 @@ QRectF cardArea(const Layout& layout) {
 DrawnColumns drawnColumns(const Layout& layout) {
     DrawnColumns columns;
     for (const LayoutSection& section : layout.sections)
-        for (const LayoutMark& mark : section.marks)
+        for (const LayoutMark& mark : section.marks) {
+            auto& into = isOfFirstRow(section) ? columns.once : columns.inRows;
             if (const auto* text = std::get_if<LayoutText>(&mark))
-                collect(*text, isOfFirstRow(section) ? columns.once : columns.inRows);
+                collect(*text, into);
+            else if (const auto* rect = std::get_if<LayoutRect>(&mark); rect && rect->share)
+                into.push_back(*rect->share);
+        }
     makeUnique(columns.once);
     makeUnique(columns.inRows);
     return columns;

@@ -73,6 +73,7 @@ struct LayoutRect {
     QColor fill;
     QColor stroke;
     double strokeWidth = 0;
+    std::optional<std::size_t> share;  ///< so many thousandths of its width, a column of the table
 };
 
 using LayoutMark = std::variant<LayoutText, LayoutLine, LayoutRect>;

@@ -45,6 +45,12 @@ void cut(QString& text, double width, Measure widthOf) {
     text += u'…';
 }
 
+/// Thousandths as a part of one; what is no number of them is nothing.
+double shareIn(const QString& text) {
+    constexpr int kWhole = 1000;
+    return std::clamp(text.toInt(), 0, kWhole) / static_cast<double>(kWhole);
+}
+
 double startOf(LayoutText::Anchor anchor, double width) {
     if (anchor == LayoutText::Anchor::Middle) return -width / 2;
     return anchor == LayoutText::Anchor::End ? -width : 0;
@@ -113,7 +119,9 @@ void LayoutPainter::paintMark(QPainter& painter, const LayoutMark& mark, const P
     } else if (const auto* rect = std::get_if<LayoutRect>(&mark)) {
         painter.setPen(penOf(rect->stroke, rect->strokeWidth));
         painter.setBrush(rect->fill.isValid() ? QBrush(rect->fill) : QBrush(Qt::NoBrush));
-        painter.drawRect(rect->area.translated(shift));
+        QRectF area = rect->area.translated(shift);
+        if (rect->share) area.setWidth(area.width() * shareIn(row[*rect->share]));
+        if (area.width() > 0 || !rect->share) painter.drawRect(area);
     }
 }
 

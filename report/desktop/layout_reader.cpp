@@ -209,7 +209,11 @@ class LayoutReader {
                               scale_);
         if (area.width() < 0 || area.height() < 0)
             throw BadValue(QStringLiteral("um rect de tamanho negativo"));
-        add(LayoutRect{area, context.fill, context.stroke, context.strokeWidth * scale_}, context);
+        LayoutRect rect{area, context.fill, context.stroke, context.strokeWidth * scale_,
+                        std::nullopt};
+        if (const auto share = values.text(QStringLiteral("data-share")))
+            rect.share = columnNamed(*share, columns_);
+        add(std::move(rect), context);
         xml_.skipCurrentElement();
     }
 

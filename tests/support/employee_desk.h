@@ -20,13 +20,13 @@ class TestEditor final : public TextEditor {
     }
 };
 
-/// Remembers the table; the workbook is a word.
+/// Remembers the sheets; the workbook is a word.
 class TestSpreadsheet final : public Spreadsheet {
   public:
-    Table table;
+    std::vector<Sheet> sheets;
 
-    std::string workbookOf(const Table& written, const std::string&) override {
-        table = written;
+    std::string workbookOf(const std::vector<Sheet>& written) override {
+        sheets = written;
         return "workbook";
     }
 };

@@ -2,22 +2,30 @@
 
 #include "foundation/widgets/desktop/look.h"
 
+#include <QFontMetricsF>
+#include <QPagedPaintDevice>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
-#include <QTextDocument>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <cmath>
 
 namespace winvrx {
 
 namespace {
 
-constexpr qreal kPaperMargin = 15;  // millimetres
+constexpr qreal kPaperMargin = 15;         // millimetres
+constexpr qsizetype kUprightColumns = 84;  // that fit a page upright; wider reports lie
+constexpr int kWideLetters = 8;            // points
+
+QString widestOf(const QStringList& lines) {
+    const auto widest = std::ranges::max_element(lines, {}, &QString::size);
+    return widest == lines.end() ? QString() : *widest;
+}
 
 }  // namespace
 
@@ -53,20 +61,37 @@ void TextViewerWindow::print() {
 }
 
 void TextViewerWindow::printOn(QPagedPaintDevice& paper) const {
+    QStringList lines = text_->toPlainText().split(u'\n');
+    while (!lines.isEmpty() && lines.back().isEmpty())
+        lines.removeLast();
+    const QString widest = widestOf(lines);
+    QFont font = look::reportFont();
+    if (widest.size() > kUprightColumns) {
+        font.setPointSize(kWideLetters);
+        paper.setPageOrientation(QPageLayout::Landscape);
+    }
     paper.setPageMargins({kPaperMargin, kPaperMargin, kPaperMargin, kPaperMargin},
                          QPageLayout::Millimeter);
-    QTextDocument text;
-    text.setDocumentMargin(0);
-    text.setDefaultFont(look::reportFont());
-    QTextOption columns = text.defaultTextOption();
-    columns.setWrapMode(QTextOption::NoWrap);
-    text.setDefaultTextOption(columns);
-    text.setPlainText(text_->toPlainText());
-    // A page as wide as the widest line is made smaller until it fits the paper.
-    QSizeF page = paper.pageLayout().paintRect(QPageLayout::Inch).size() * text_->logicalDpiX();
-    page *= std::max(1.0, std::ceil(text.idealWidth()) / page.width());
-    text.setPageSize(page);
-    text.print(&paper);
+    QPainter painter(&paper);
+    painter.setFont(font);
+    const QFontMetricsF letters = painter.fontMetrics();
+    // What is wider than the paper is made smaller until it fits.
+    const double scale =
+        std::min(1.0, painter.viewport().width() / letters.horizontalAdvance(widest));
+    painter.scale(scale, scale);
+    const QSizeF page = QSizeF(painter.viewport().size()) / scale;
+    // Two lines are the page number's.
+    const auto perPage = static_cast<qsizetype>(page.height() / letters.lineSpacing()) - 2;
+    const qsizetype pages = std::max<qsizetype>((lines.size() + perPage - 1) / perPage, 1);
+    for (qsizetype number = 0; number < pages; ++number) {
+        if (number > 0) paper.newPage();
+        for (qsizetype at = 0; at < std::min(perPage, lines.size() - number * perPage); ++at)
+            painter.drawText(
+                QPointF(0, letters.ascent() + static_cast<double>(at) * letters.lineSpacing()),
+                lines[number * perPage + at]);
+        painter.drawText(QRectF(QPointF(), page), Qt::AlignRight | Qt::AlignBottom,
+                         QStringLiteral("Página %1 de %2").arg(number + 1).arg(pages));
+    }
 }
 
 }  // namespace winvrx

@@ -7,7 +7,7 @@ namespace winvrx {
 /// Workbooks written by libxlsxwriter.
 class XlsxSpreadsheet final : public Spreadsheet {
   public:
-    [[nodiscard]] std::string workbookOf(const Table& table, const std::string& sheetName) override;
+    [[nodiscard]] std::string workbookOf(const std::vector<Sheet>& sheets) override;
 };
 
 }  // namespace winvrx

@@ -272,11 +272,12 @@ TEST_F(EmpregadosListTest, ExportsByTheNameOfTheFile) {
     list_.load();
     EXPECT_TRUE(list_.exportTo("/out/lista.XLSX"));
     EXPECT_EQ(desk_.files.content["/out/lista.XLSX"], "workbook");
-    EXPECT_EQ(desk_.spreadsheet.table.titles.front(), "Código");
-    EXPECT_EQ(desk_.spreadsheet.table.titles.back(), "Situação");
-    ASSERT_EQ(desk_.spreadsheet.table.rows.size(), 2U);
-    EXPECT_EQ(desk_.spreadsheet.table.rows[0].back(), "Ativo");
-    EXPECT_EQ(desk_.spreadsheet.table.rows[1].back(), "Inativo");
+    const Sheet& sheet = desk_.spreadsheet.sheets.at(0);
+    EXPECT_EQ(sheet.columns.front().title, "Código");
+    EXPECT_EQ(sheet.columns.back().title, "Situação");
+    ASSERT_EQ(sheet.rows.size(), 2U);
+    EXPECT_EQ(sheet.rows[0].back(), SheetCell("Ativo"));
+    EXPECT_EQ(sheet.rows[1].back(), SheetCell("Inativo"));
     EXPECT_TRUE(list_.exportTo("/out/lista.csv"));
     const std::string& csv = desk_.files.content["/out/lista.csv"];
     EXPECT_TRUE(

@@ -134,10 +134,19 @@ TEST(DesktopTextEditor, ShowsTheReportItselfWithoutAHandler) {
 }
 
 TEST(TextViewerWindow, PrintsTheReportInItsColumns) {
-    for (const int width : {78, 160}) {
-        QString report = QStringLiteral("(Usar Fonte: Courier New, Tamanho: 10)\n");
+    struct Case {
+        int width;
+        double pageWidth;  ///< points
+        double letter;     ///< points from one column to the next
+        int pages;
+    };
+    constexpr double kA4Short = 595;
+    constexpr double kA4Long = 842;
+    for (const Case& one : {Case{78, kA4Short, 6, 2}, Case{140, kA4Long, 4.8, 3},
+                            Case{141, kA4Long, 4.8, 3}, Case{200, kA4Long, 3.78, 2}}) {
+        QString report = QStringLiteral("(Usar Fonte: Courier New)\n");
         for (int line = 1; line <= 100; ++line)
-            report += QStringLiteral("|%1|\n").arg(line, width - 2);
+            report += QStringLiteral("%1|\n").arg(line, one.width - 1);
         const TextViewerWindow viewer(QStringLiteral("01RelAtivos"), report);
         const QTemporaryDir folder;
         const QString pdf = folder.filePath(QStringLiteral("report.pdf"));
@@ -150,10 +159,14 @@ TEST(TextViewerWindow, PrintsTheReportInItsColumns) {
         const auto first = testing::wordOf(words, QStringLiteral("1|"));
         const auto last = testing::wordOf(words, QStringLiteral("100|"));
         EXPECT_EQ(first.page, 1);
-        EXPECT_EQ(last.page, width == 78 ? 2 : 1) << "wider reports are printed smaller";
+        EXPECT_EQ(last.page, one.pages) << one.width;
         EXPECT_NEAR(first.right, last.right, 0.5);
-        EXPECT_GT(first.right, 480) << width;
-        EXPECT_LT(first.right, 595 - 42) << width;
+        constexpr double kMargin = 42.5;
+        EXPECT_NEAR(first.right, kMargin + one.width * one.letter, 4) << one.width;
+        EXPECT_LT(first.right, one.pageWidth - kMargin + 1) << one.width;
+        EXPECT_TRUE(
+            testing::printedText(pdf).contains(QStringLiteral("Página %1 de %1").arg(one.pages)))
+            << one.width;
     }
 }
 

@@ -1,0 +1,29 @@
+#include "output/mirrors/desktop/hours_entry.h"
+
+#include "foundation/desk/desktop/xlsx_spreadsheet.h"
+#include "output/mirrors/desktop/hours_reports_window.h"
+#include "timecard/month/desktop/month_entry.h"
+
+namespace winvrx {
+
+void openHoursReports(const Workplace& at, const HoursEntryDesk& desk, QWidget* parent) {
+    XlsxSpreadsheet spreadsheet;
+    HoursReports reports(at, {desk.editor, spreadsheet, desk.browser, desk.engine, *desk.rotation});
+    HoursReportsWindow(
+        reports, [&at](QWidget* over) { openWorkMonth(at, over); }, parent)
+        .exec();
+}
+
+MenuEntry hoursEntry(const Workplace& at, const HoursEntryDesk& desk) {
+    return {
+        .group = QStringLiteral("Cartão de Ponto"),
+        .objectName = QStringLiteral("menu.hours.open"),
+        .icon = QStringLiteral("clock"),
+        .title = QStringLiteral("Relatório de &Horas"),
+        .key = Qt::Key_F12,
+        .needs = MenuNeeds::Employees,
+        .open = [at, desk](QWidget* parent) { openHoursReports(at, desk, parent); },
+        .state = [](const MonthProgress*) { return QStringLiteral("Extras, faltas e resumo"); }};
+}
+
+}  // namespace winvrx

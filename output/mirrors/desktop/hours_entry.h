@@ -1,0 +1,30 @@
+#pragma once
+
+#include "foundation/desk/command.h"
+#include "foundation/desk/desktop/menu_entry.h"
+
+#include <functional>
+#include <memory>
+
+namespace winvrx {
+
+class Browser;
+class ReportEngine;
+class RotationCalendar;
+class TextEditor;
+
+/// What the hours reports open things with. All outlive the entry.
+struct HoursEntryDesk {
+    TextEditor& editor;
+    Browser& browser;
+    ReportEngine& engine;
+    std::shared_ptr<const RotationCalendar> rotation;
+};
+
+/// Opens the screen of the hours reports.
+void openHoursReports(const Workplace& at, const HoursEntryDesk& desk, QWidget* parent);
+
+/// Their command of the main window.
+[[nodiscard]] MenuEntry hoursEntry(const Workplace& at, const HoursEntryDesk& desk);
+
+}  // namespace winvrx

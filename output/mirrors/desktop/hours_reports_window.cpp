@@ -1,0 +1,241 @@
+#include "output/mirrors/desktop/hours_reports_window.h"
+
+#include "foundation/register/desktop/employee_picker.h"
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/field.h"
+#include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/progress.h"
+
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStandardPaths>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace winvrx {
+
+namespace {
+
+constexpr int kListCharacters = 46;
+constexpr std::size_t kDateWidth = 10;
+
+constexpr FieldKind kDayField{.hint = dateHint, .completed = completedDate};
+
+QString countText(std::size_t people) {
+    return people == 1 ? QStringLiteral("1 funcionário")
+                       : QStringLiteral("%1 funcionários").arg(static_cast<qulonglong>(people));
+}
+
+}  // namespace
+
+HoursReportsWindow::HoursReportsWindow(HoursReports& reports,
+                                       std::function<void(QWidget* parent)> openWorkMonth,
+                                       QWidget* parent)
+    : ScreenWindow(QStringLiteral("horas"), QStringLiteral("RELATÓRIOS DE HORAS"), parent),
+      reports_(reports),
+      openWorkMonth_(std::move(openWorkMonth)) {
+    reports_.load();
+    buildCommands();
+    setBody(buildBody());
+    buildClosingButtons();
+    employees_->refresh();
+    showPeriod();
+    showContext();
+    employees_->focusList();
+}
+
+QToolButton* HoursReportsWindow::command(const char* icon, const QString& text,
+                                         const QKeySequence& key, const char* name) {
+    return addCommand(QLatin1String(icon), text, key,
+                      QStringLiteral("horas.") + QLatin1String(name));
+}
+
+void HoursReportsWindow::buildCommands() {
+    connect(command("month", QStringLiteral("Mês Trabalho (Todos)"), Qt::CTRL | Qt::Key_M, "month"),
+            &QToolButton::clicked, this, [this] {
+                if (openWorkMonth_) openWorkMonth_(this);
+                reports_.load();
+                employees_->refresh();
+                showPeriod();
+                showContext();
+            });
+    connect(
+        command("preview", QStringLiteral("Ver Resumo"), Qt::CTRL | Qt::Key_R, "overview"),
+        &QToolButton::clicked, this, [this] {
+            make([this](const PageProgress& progress) { return reports_.showOverview(progress); });
+        });
+    connect(command("mirror", QStringLiteral("Espelho em Texto"), Qt::CTRL | Qt::Key_E, "mirror"),
+            &QToolButton::clicked, this, [this] {
+                if (takePeriod()) (void)reports_.showMirrorText(employees_->selected());
+            });
+    connect(command("save", QStringLiteral("Totais em CSV"), Qt::CTRL | Qt::Key_T, "csv"),
+            &QToolButton::clicked, this, &HoursReportsWindow::exportSums);
+}
+
+void HoursReportsWindow::buildClosingButtons() {
+    QPushButton* report =
+        addClosingButton(QStringLiteral("&Gerar Relatório"), QStringLiteral("horas.report"));
+    report->setIcon(look::icon(QStringLiteral("sheet")));
+    report->setDefault(true);
+    connect(report, &QPushButton::clicked, this, [this] {
+        make([this](const PageProgress& progress) { return reports_.report(progress); });
+    });
+    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, report,
+            &QPushButton::click);
+    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("horas.close"));
+    connect(close, &QPushButton::clicked, this, &HoursReportsWindow::reject);
+}
+
+QWidget* HoursReportsWindow::buildBody() {
+    auto* body = new QWidget(this);
+    auto* row = new QHBoxLayout(body);
+    look::layOutBody(*row);
+    row->setSpacing(look::kGroupGap);
+    employees_ = new EmployeePicker(reports_.list(),
+                                    {.screen = QStringLiteral("horas"), .scales = true}, body);
+    employees_->setMinimumWidth(employees_->fontMetrics().averageCharWidth() * kListCharacters);
+    row->addWidget(employees_, 2);
+    auto* right = new QVBoxLayout;
+    right->setSpacing(look::kGroupGap);
+    right->addWidget(buildPeriod(body));
+    right->addWidget(buildExplanation(body));
+    right->addStretch();
+    row->addLayout(right, 3);
+    connect(employees_, &EmployeePicker::shiftChosen, this, [this](ShiftFilter shift) {
+        reports_.list().filterBy(shift);
+        employees_->refresh();
+        showContext();
+    });
+    connect(employees_, &EmployeePicker::scaleChosen, this, [this](std::optional<Scale> scale) {
+        reports_.list().filterBy(scale);
+        employees_->refresh();
+        showContext();
+    });
+    connect(employees_, &EmployeePicker::searched, this, [this] {
+        employees_->selectShown();
+        showContext();
+    });
+    return body;
+}
+
+QWidget* HoursReportsWindow::buildPeriod(QWidget* parent) {
+    auto* part = new QWidget(parent);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    column->addWidget(look::heading(QStringLiteral("Período"), part));
+    auto* dates = new QHBoxLayout;
+    dates->setSpacing(look::kGap);
+    const auto field = [&](const QString& caption, const QString& name) {
+        auto* made = new Field({.caption = caption,
+                                .objectName = QStringLiteral("horas.") + name,
+                                .width = kDateWidth,
+                                .kind = kDayField},
+                               part);
+        dates->addWidget(made);
+        connect(made, &Field::finished, this, [this] { (void)takePeriod(); });
+        return made;
+    };
+    first_ = field(QStringLiteral("&De"), QStringLiteral("first"));
+    last_ = field(QStringLiteral("&Até"), QStringLiteral("last"));
+    last_->input()->setProperty("lastField", true);
+    dates->addStretch();
+    column->addLayout(dates);
+    auto* choices = new QHBoxLayout;
+    choices->setSpacing(look::kGap);
+    const auto choice = [&](const QString& text, const QString& name, auto choose) {
+        auto* button = new QPushButton(text, part);
+        look::name(*button, QStringLiteral("horas.") + name, QString(text).remove(u'&'));
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, [this, choose] {
+            (reports_.*choose)();
+            showPeriod();
+        });
+        choices->addWidget(button);
+    };
+    choice(QStringLiteral("&Mês de trabalho"), QStringLiteral("wholeMonth"),
+           &HoursReports::chooseMonth);
+    choice(QStringLiteral("&Fechamento do ponto"), QStringLiteral("closing"),
+           &HoursReports::chooseClosing);
+    choices->addStretch();
+    column->addLayout(choices);
+    return part;
+}
+
+QWidget* HoursReportsWindow::buildExplanation(QWidget* parent) {
+    auto* part = new QWidget(parent);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    column->addWidget(look::heading(QStringLiteral("O que cada comando gera"), part));
+    const QStringList lines = {
+        QStringLiteral("Gerar Relatório: horas extras e faltas dia a dia, resumo e afastamentos, "
+                       "em planilha ou texto."),
+        QStringLiteral("Ver Resumo: uma página com as faltas e extras de todos; quem precisa de "
+                       "atenção vem primeiro."),
+        QStringLiteral("Espelho em Texto: os dias do funcionário selecionado."),
+        QStringLiteral("Totais em CSV: uma linha por funcionário, para o escritório da folha.")};
+    for (const QString& line : lines) {
+        QLabel* text = look::label(line, look::TextSize::Body, part);
+        text->setWordWrap(true);
+        column->addWidget(text);
+    }
+    return part;
+}
+
+void HoursReportsWindow::showPeriod() {
+    const auto& period = reports_.period();
+    first_->setStored(period ? dateText(period->first) : std::string());
+    last_->setStored(period ? dateText(period->last) : std::string());
+}
+
+bool HoursReportsWindow::takePeriod() {
+    const bool taken = reports_.choosePeriod(first_->stored(), last_->stored());
+    const bool typed = !first_->stored().empty() && !last_->stored().empty();
+    last_->setFinding(taken || !typed
+                          ? QString()
+                          : QStringLiteral("Termina antes de começar, ou passa de um ano."));
+    return taken;
+}
+
+template <typename Make>
+void HoursReportsWindow::make(Make&& make) {
+    if (!takePeriod()) {
+        reports_.refusePeriod();
+        first_->takeFocus();
+        return;
+    }
+    Progress progress({QStringLiteral("horas.progress"), QStringLiteral("GERANDO RELATÓRIO"),
+                       QStringLiteral("Funcionário %1 de %2")},
+                      this);
+    (void)make([&progress](int done, int total) { return progress.show(done, total); });
+}
+
+void HoursReportsWindow::exportSums() {
+    if (!takePeriod()) {
+        reports_.refusePeriod();
+        first_->takeFocus();
+        return;
+    }
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString file = QFileDialog::getSaveFileName(this, QStringLiteral("Totais em CSV"),
+                                                      folder + QStringLiteral("/horas.csv"),
+                                                      QStringLiteral("CSV (*.csv)"));
+    if (file.isEmpty()) return;
+    make([&](const PageProgress& progress) {
+        return reports_.exportSums(std::filesystem::path(file.toStdU16String()), progress);
+    });
+}
+
+void HoursReportsWindow::showContext() {
+    const Company& company = reports_.company();
+    setSubtitle(QStringLiteral("Horas extras, faltas e afastamentos do período"));
+    setChips({toQt(company.code) + QLatin1Char(' ') + toQt(company.name),
+              reports_.month() ? toQt(monthTitle(*reports_.month()))
+                               : QStringLiteral("Sem mês de trabalho"),
+              toQt(codeOf(reports_.list().shift()))});
+    setState(countText(reports_.list().shown().size()) + QStringLiteral(" no relatório"));
+}
+
+}  // namespace winvrx

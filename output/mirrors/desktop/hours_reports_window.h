@@ -1,0 +1,47 @@
+#pragma once
+
+#include "foundation/widgets/desktop/screen_window.h"
+#include "output/mirrors/hours_reports.h"
+
+class QToolButton;
+
+namespace winvrx {
+
+class EmployeePicker;
+class Field;
+
+/// The hours reports: employees at the left, the period and what to make of it at the right.
+class HoursReportsWindow : public ScreenWindow {
+    Q_OBJECT
+
+  public:
+    /// `reports` outlives the window; it is read again when the window opens. `openWorkMonth`
+    /// returns when its screen is closed.
+    HoursReportsWindow(HoursReports& reports, std::function<void(QWidget* parent)> openWorkMonth,
+                       QWidget* parent = nullptr);
+
+  private:
+    void buildCommands();
+    void buildClosingButtons();
+    [[nodiscard]] QWidget* buildBody();
+    [[nodiscard]] QWidget* buildPeriod(QWidget* parent);
+    [[nodiscard]] QWidget* buildExplanation(QWidget* parent);
+    [[nodiscard]] QToolButton* command(const char* icon, const QString& text,
+                                       const QKeySequence& key, const char* name);
+
+    void showPeriod();
+    void showContext();
+    /// Takes the days as typed; false, with a finding at the field, when they are no period.
+    [[nodiscard]] bool takePeriod();
+    template <typename Make>
+    void make(Make&& make);
+    void exportSums();
+
+    HoursReports& reports_;
+    std::function<void(QWidget* parent)> openWorkMonth_;
+    EmployeePicker* employees_ = nullptr;
+    Field* first_ = nullptr;
+    Field* last_ = nullptr;
+};
+
+}  // namespace winvrx

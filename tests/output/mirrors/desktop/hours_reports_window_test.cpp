@@ -1,0 +1,143 @@
+#include "output/mirrors/desktop/hours_reports_window.h"
+
+#include "foundation/desk/desktop/xlsx_spreadsheet.h"
+#include "output/mirrors/hours_overview.h"
+#include "output/mirrors/hours_tables.h"
+#include "report/desktop/qt_report_engine.h"
+#include "tests/support/hours_office.h"
+#include "tests/support/printed_text.h"
+#include "tests/support/window_driver.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+namespace winvrx {
+namespace {
+
+using ::testing::HasSubstr;
+
+void write(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        throw std::runtime_error("not written");
+}
+
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("not read " + path.toStdString());
+    return file.readAll();
+}
+
+/// The workbook without the values of its formulas, so that whoever shows them has reckoned.
+void takeValuesAway(const QString& folder, const QString& from, const QString& to) {
+    const QString parts = folder + QStringLiteral("/parts");
+    QDir().mkpath(parts);
+    (void)testing::outputOf(QStringLiteral("bsdtar"),
+                            {QStringLiteral("-xf"), from, QStringLiteral("-C"), parts});
+    for (const int number : {1, 2}) {
+        const QString sheet = parts + QStringLiteral("/xl/worksheets/sheet%1.xml").arg(number);
+        static const QRegularExpression values(QStringLiteral("(</f>)<v>[^<]*</v>"));
+        write(sheet,
+              QString::fromUtf8(bytesOf(sheet)).replace(values, QStringLiteral("\\1")).toUtf8());
+    }
+    (void)testing::outputOf(QStringLiteral("bsdtar"),
+                            {QStringLiteral("--format=zip"), QStringLiteral("-cf"), to,
+                             QStringLiteral("-C"), parts, QStringLiteral(".")});
+}
+
+TEST(HoursWorkbook, LibreOfficeReckonsItsSums) {
+    if (QStandardPaths::findExecutable(QStringLiteral("soffice")).isEmpty())
+        GTEST_SKIP() << "no soffice";
+    testing::HoursOffice office;
+    office.setFormat(TotalsFormat::DecimalHours);
+    HoursSheets sheets([] {
+        OvertimeRules rules;
+        rules.totalsFormat = TotalsFormat::DecimalHours;
+        return rules;
+    }());
+    const MirrorPeriod period(office.desk.store(), *CompanyCode::parse("01"),
+                              {*parseDate("01/03/2024"), *parseDate("06/03/2024")});
+    for (const Employee& one : office.reports.list().employees())
+        sheets.add(period.of(one));
+    const QTemporaryDir folder;
+    XlsxSpreadsheet spreadsheet;
+    const std::string bytes = spreadsheet.workbookOf(std::move(sheets).sheets());
+    write(folder.filePath(QStringLiteral("horas.xlsx")), QByteArray::fromStdString(bytes));
+    takeValuesAway(folder.path(), folder.filePath(QStringLiteral("horas.xlsx")),
+                   folder.filePath(QStringLiteral("bare.xlsx")));
+    (void)testing::outputOf(
+        QStringLiteral("soffice"),
+        {QStringLiteral("-env:UserInstallation=file://") + folder.path() + QStringLiteral("/user"),
+         QStringLiteral("--headless"), QStringLiteral("--convert-to"),
+         QStringLiteral("csv:Text - txt - csv (StarCalc):59,34,76,1,,0,false,true,false,false,"
+                        "false,-1"),
+         QStringLiteral("--outdir"), folder.path(), folder.filePath(QStringLiteral("bare.xlsx"))});
+    const std::string days =
+        bytesOf(folder.filePath(QStringLiteral("bare-Dias.csv"))).toStdString();
+    EXPECT_THAT(days, HasSubstr("ANA DA CONCEIÇÃO;05/03/2024;08:03;12:00;13:00;17:00;21:00;23:30;;"
+                                "7.95;0.00;1.00;1.50;0.00"));
+    EXPECT_THAT(days, HasSubstr("\n;;;;;;;;;15.95;0.00;4.00;1.50;16.00"));
+    const std::string sums =
+        bytesOf(folder.filePath(QStringLiteral("bare-Resumo.csv"))).toStdString();
+    EXPECT_THAT(sums, HasSubstr("\n;;32.00;4.00;0.00;0.00;1.50;0.00;16.00;15.95"));
+    EXPECT_THAT(bytesOf(folder.filePath(QStringLiteral("bare-Afastamentos.csv"))).toStdString(),
+                HasSubstr("ANA DA CONCEIÇÃO;FÉRIAS;06/03/2024;25/03/2024"));
+}
+
+TEST(HoursReportsWindow, TakesThePeriodAndNamesItsInputs) {
+    testing::HoursOffice office;
+    HoursReportsWindow window(office.reports, {});
+    window.show();
+    testing::WindowDriver driver(window);
+    EXPECT_EQ(driver.namelessWidgets(), "");
+    auto* last = window.findChild<QLineEdit*>(QStringLiteral("horas.last"));
+    ASSERT_NE(last, nullptr);
+    EXPECT_EQ(last->text(), QStringLiteral("31/03/2024"));
+    office.desk.person.answers = {Answer::No};
+    last->setText(QStringLiteral("05/03/2024"));
+    driver.click("horas.report");
+    EXPECT_THAT(office.desk.file("RelHorasExtras"), HasSubstr("01/03/2024 a 05/03/2024"));
+    office.desk.person.takeTexts();
+    last->setText(QStringLiteral("05/02/2024"));
+    driver.click("horas.report");
+    EXPECT_EQ(office.desk.person.takeTexts(),
+              std::vector<std::string>{"Informe o Período do Relatório!"});
+}
+
+/// Bars as long as their figures say, on pages of thirty-two.
+TEST(HoursOverview, IsDrawnInBars) {
+    using namespace std::chrono_literals;
+    std::vector<OverviewLine> lines = {{"001", "ANA", 160h, 10h, 0h}, {"002", "BIA", 80h, 0h, 5h}};
+    for (int number = 3; number <= 33; ++number)
+        lines.push_back({std::to_string(number), "CAIO", 1h * number, 0h, 0h});
+    Company company;
+    company.name = "PADARIA SÃO JOÃO LTDA";
+    const auto made = overviewPages(
+        {company, {*parseDate("01/03/2024"), *parseDate("31/03/2024")}, TotalsFormat::DecimalHours},
+        lines);
+    const QTemporaryDir folder;
+    testing::RecordedLog log;
+    QtReportEngine engine(
+        [&] {
+            return layoutFolders(folder.path().toStdString(),
+                                 QCoreApplication::applicationDirPath().toStdString());
+        },
+        [&] { return std::filesystem::path(folder.path().toStdString()) / "qdb.mdb"; }, log);
+    ReportRequest request = overviewRequest();
+    request.output = ReportOutput::PdfFile;
+    request.pdfPath = folder.path().toStdString() + "/resumo.pdf";
+    ReportPages pages(made.size(), [&](std::size_t at) { return made[at]; });
+    ASSERT_EQ(engine.print(request, pages, [](int, int) { return true; }), PrintEnd::Done);
+    const QString text = testing::printedText(QString::fromStdString(request.pdfPath));
+    EXPECT_TRUE(text.contains(QStringLiteral("PADARIA SÃO JOÃO LTDA")));
+    EXPECT_TRUE(text.contains(QStringLiteral("Página 2/2")));
+    EXPECT_TRUE(text.contains(QStringLiteral("001 ANA 0,00 10,00 160,00"))) << text.toStdString();
+}
+
+}  // namespace
+}  // namespace winvrx
