@@ -142,8 +142,8 @@ TEST(TextViewerWindow, PrintsTheReportInItsColumns) {
     };
     constexpr double kA4Short = 595;
     constexpr double kA4Long = 842;
-    for (const Case& one : {Case{78, kA4Short, 6, 2}, Case{140, kA4Long, 4.8, 3},
-                            Case{141, kA4Long, 4.8, 3}, Case{200, kA4Long, 3.78, 2}}) {
+    for (const Case& one : {Case{78, kA4Short, 6, 2}, Case{140, kA4Long, 4.8, 2},
+                            Case{141, kA4Long, 4.8, 2}, Case{200, kA4Long, 3.78, 2}}) {
         QString report = QStringLiteral("(Usar Fonte: Courier New)\n");
         for (int line = 1; line <= 100; ++line)
             report += QStringLiteral("%1|\n").arg(line, one.width - 1);
