@@ -30,6 +30,10 @@ void requireReadable(const StandardSchedule& schedule) {
                     "O horário de trabalho tem uma hora que não existe. Corrija-o primeiro.");
 }
 
+void requireReadable(const RotationMonth& rotation) {
+    if (!rotation.finding.empty()) throw Fault("work table of a rotation", rotation.finding);
+}
+
 /// The weekday that the record names for the rest; nullopt where it names none.
 std::optional<std::chrono::weekday> ownRestDay(const Employee& employee) {
     if (employee.restDay.empty()) return std::nullopt;
@@ -116,6 +120,7 @@ void ListApplication::putSchedule(Batch& batch, const EmployeeCode& code,
 void ListApplication::fillOne(Batch& batch, const Employee& employee, const EmployeeCode& code,
                               const LeaveCalendar& leaves) {
     const RotationMonth* rotation = rotationOf(employee, code);
+    if (rotation) requireReadable(*rotation);
     StandardSchedule schedule = scheduleOf(code, rotation);
     const bool replaced = rotation ? takeRotation(schedule, *rotation) : order_.common.has_value();
     requireReadable(schedule);

@@ -6,6 +6,7 @@
 
 #include <map>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace winvrx {
@@ -16,6 +17,7 @@ struct RotationMonth {
     std::vector<std::optional<DaySchedule>> days;
     DaySchedule weekday;  ///< what his hours are compared with, Monday to Friday
     DaySchedule saturday;
+    std::string finding = {};  ///< why it cannot be applied, in one sentence; empty when it can
 };
 
 using RotationMonths = std::map<EmployeeCode, RotationMonth>;
@@ -24,8 +26,7 @@ using RotationMonths = std::map<EmployeeCode, RotationMonth>;
 class RotationCalendar {
   public:
     virtual ~RotationCalendar() = default;
-    /// The months of all who are in a group of that month. Throws Fault when their hours cannot be
-    /// read.
+    /// The months of all who are in a group of that month. Throws FileFault.
     [[nodiscard]] virtual RotationMonths monthsOf(const CompanyCode& company,
                                                   WorkMonth month) const = 0;
 };

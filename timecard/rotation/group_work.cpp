@@ -2,6 +2,7 @@
 
 #include "foundation/files/folder_names.h"
 #include "foundation/register/employee_list.h"
+#include "foundation/values/faults.h"
 #include "timecard/rotation/rotation_records.h"
 
 #include <algorithm>
@@ -72,7 +73,10 @@ ListApplication::Batch reappliedCards(const GroupWork& work,
                                       const std::vector<EmployeeCode>& employees,
                                       std::string& remarks) {
     const Store store = work.at.store();
-    const GivenMonths calendar(monthsOf(store, work.company, work.settings.month, groups));
+    const RotationMonths months = monthsOf(store, work.company, work.settings.month, groups);
+    for (const auto& [code, month] : months)
+        if (!month.finding.empty()) throw Fault("work table", month.finding);
+    const GivenMonths calendar(months);
     ListApplication application(store, {calendar, work.payroll},
                                 {.company = work.company,
                                  .settings = work.settings,

@@ -1,7 +1,6 @@
 #include "timecard/rotation/rotation_records.h"
 
 #include "foundation/files/folder_names.h"
-#include "foundation/values/faults.h"
 #include "timecard/month/selected_month.h"
 #include "timecard/rotation/work_table.h"
 
@@ -11,24 +10,29 @@ namespace winvrx {
 
 namespace {
 
-WorkTable applicableTable(const Store& store, const CompanyCode& company,
-                          const RotationGroup& group) {
-    WorkTable table = loadTable(store, company, group.shift, group.scale);
-    if (const auto finding = findingIn(table))
-        throw Fault("work table of " + groupName(group.number),
-                    "O quadro de horário do " + groupName(group.number) +
-                        " não pode ser aplicado. " + *finding);
-    return table;
+/// A group's table, and why it cannot be applied.
+struct GroupHours {
+    WorkTable table;
+    std::string finding;
+};
+
+GroupHours hoursOf(const Store& store, const CompanyCode& company, const RotationGroup& group) {
+    GroupHours hours{loadTable(store, company, group.shift, group.scale), {}};
+    if (const auto finding = findingIn(hours.table))
+        hours.finding = "O quadro de horário do " + groupName(group.number) +
+                        " não pode ser aplicado. " + *finding;
+    return hours;
 }
 
-RotationMonth monthOfRow(const PlanRow& row, const WorkTable& table, WorkMonth month) {
+RotationMonth monthOfRow(const PlanRow& row, const GroupHours& hours, WorkMonth month) {
     RotationMonth result{.days = {},
-                         .weekday = timesOn(table, std::chrono::Monday),
-                         .saturday = timesOn(table, std::chrono::Saturday)};
+                         .weekday = timesOn(hours.table, std::chrono::Monday),
+                         .saturday = timesOn(hours.table, std::chrono::Saturday),
+                         .finding = hours.finding};
     for (int day = 0; day < daysIn(month); ++day) {
         const bool off = row.days[static_cast<std::size_t>(day)].turn == Turn::Off;
         const auto weekday = weekdayOf(plusDays(firstDay(month), day));
-        result.days.push_back(off ? std::nullopt : std::optional(timesOn(table, weekday)));
+        result.days.push_back(off ? std::nullopt : std::optional(timesOn(hours.table, weekday)));
     }
     return result;
 }
@@ -38,12 +42,12 @@ RotationMonth monthOfRow(const PlanRow& row, const WorkTable& table, WorkMonth m
 RotationMonths monthsOf(const Store& store, const CompanyCode& company, WorkMonth month,
                         const std::vector<RotationGroup>& groups) {
     RotationMonths months;
-    std::map<std::pair<Shift, Scale>, WorkTable> tables;
+    std::map<std::pair<Shift, Scale>, GroupHours> read;
     for (const RotationGroup& group : groups) {
         const std::pair key{group.shift, group.scale};
-        if (!tables.contains(key)) tables.emplace(key, applicableTable(store, company, group));
+        if (!read.contains(key)) read.emplace(key, hoursOf(store, company, group));
         for (const PlanRow& row : planOf(group, month).rows)
-            months.emplace(row.employee, monthOfRow(row, tables.at(key), month));
+            months.emplace(row.employee, monthOfRow(row, read.at(key), month));
     }
     return months;
 }

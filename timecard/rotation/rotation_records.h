@@ -9,8 +9,7 @@
 
 namespace winvrx {
 
-/// The days of these groups with the times of the company's work-time tables. Throws Fault when a
-/// table cannot be applied.
+/// The days of these groups with the times of the company's work-time tables.
 [[nodiscard]] RotationMonths monthsOf(const Store& store, const CompanyCode& company,
                                       WorkMonth month, const std::vector<RotationGroup>& groups);
 

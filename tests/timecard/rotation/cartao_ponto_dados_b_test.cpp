@@ -263,6 +263,12 @@ TEST_F(AppliedRotation, ATableThatIsNoneIsNotApplied) {
     EXPECT_FALSE(screen.saveGroup());
     EXPECT_THAT(desk.person.shown.back().detail, HasSubstr("25:00"));
     EXPECT_EQ(desk.files.content, untouched);
+    const RotationRecords rotation(desk.store(), desk.clock);
+    CartaoPontoDados cards(desk.at, {rotation, locks});
+    ASSERT_TRUE(cards.open() && cards.filterBy(Scale::FiveByOne) && cards.select(1));
+    desk.person.answers = {Answer::Yes};
+    EXPECT_FALSE(cards.applyPunches());
+    EXPECT_THAT(desk.person.shown.back().detail, HasSubstr("25:00"));
 }
 
 TEST_F(AppliedRotation, AClosedMonthIsNotTouched) {
