@@ -21,6 +21,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace winvrx {
 
 namespace {

@@ -8,8 +8,6 @@
 #include <QStylePainter>
 #include <QToolButton>
 
-#include <algorithm>
-
 namespace winvrx {
 
 namespace {
