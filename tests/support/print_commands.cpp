@@ -1,7 +1,9 @@
 // What the screens of alignment, printers and printing write.
 #include "output/cards/cartao.h"
+#include "output/mirrors/hours_reports.h"
 #include "output/stocks/cartao_pontos.h"
 #include "report/impressorar.h"
+#include "tests/support/hours_office.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
@@ -43,6 +45,20 @@ bool rememberChoices(const Workplace& at, const Drives&) {
     return screen.list().employees().size() == 3 && screen.remember();
 }
 
+template <typename Give>
+auto inHoursReports(Give give) {
+    return [give](const Workplace& at, const Drives&) {
+        TestEditor editor;
+        TestSpreadsheet spreadsheet;
+        TestBrowser browser;
+        RecordingEngine engine;
+        const TestRotation rotation;
+        HoursReports screen(at, {editor, spreadsheet, browser, engine, rotation});
+        screen.load();
+        return give(screen);
+    };
+}
+
 FileTable officeWithAPrinter() {
     FileTable files = filledOffice();
     files[inDataFolder("Config")] = "30         50\r\n";
@@ -67,6 +83,15 @@ std::vector<WritingCommand> printCommands() {
          })},
         {"choose printer", officeWithAPrinter(), choosePrinter},
         {"remember printing", officeWithAPrinter(), rememberChoices},
+        {"report hours",
+         filledOffice(),
+         inHoursReports([](HoursReports& screen) { return screen.report(); }),
+         {"Deseja Gerar o Relatório Em EXCEL ou ARQUIVO TEXTO ? Se Desejar em Excel Clique em "
+          "SIM"}},
+        {"report hours in a workbook", filledOffice(),
+         inHoursReports([](HoursReports& screen) { return screen.report(); })},
+        {"show a mirror as text", filledOffice(),
+         inHoursReports([](HoursReports& screen) { return screen.showMirrorText(1); })},
     };
 }
 
