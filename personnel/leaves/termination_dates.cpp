@@ -39,7 +39,7 @@ void endAtOnce(TerminationDates& dates, TerminationType type) {
     dates.lastDayWorked = {given, rule};
 }
 
-void runNotice(TerminationDates& dates, NoticeType notice) {
+void runNotice(TerminationDates& dates, TerminationType type, NoticeType notice) {
     const Date given = dates.noticeGiven.value;
     const int owed = dates.noticeDays.value;
     const int worked = notice == NoticeType::Worked ? std::min(owed, kMostWorkedDays) : 0;
@@ -51,7 +51,9 @@ void runNotice(TerminationDates& dates, NoticeType notice) {
         dates.lastDayWorked.rule = "Aviso indenizado: o dia da comunicação";
         return;
     }
-    dates.lastDayWorked.rule += ", 2 horas a menos por dia ou 7 dias corridos, CLT art. 488";
+    // Who resigns has no time off to look for other work.
+    if (type != TerminationType::Resignation)
+        dates.lastDayWorked.rule += ", 2 horas a menos por dia ou 7 dias corridos, CLT art. 488";
     if (owed > worked) dates.noticeEnds.rule += "; " + days(owed - worked) + " indenizados";
 }
 
@@ -98,7 +100,7 @@ TerminationDates terminationDates(TerminationType type, NoticeType notice, Date 
     if (hasNoNotice(type, notice))
         endAtOnce(dates, type);
     else
-        runNotice(dates, notice);
+        runNotice(dates, type, notice);
     dates.paymentDue = paymentDue(dates.lastDayWorked.value);
     return dates;
 }

@@ -84,6 +84,11 @@ TEST(TerminationDates, SayTheirRule) {
               "30 + 3 × 4 anos = 42 dias, Lei 12.506/2011");
     EXPECT_EQ(noticeDays(TerminationType::WithoutCause, day("10/01/2000"), day("30/06/2026")).rule,
               "30 + 3 × 26 anos = 108 dias, no máximo 90, Lei 12.506/2011");
+    for (const auto& [type, offers] : {std::pair(TerminationType::WithoutCause, true),
+                                       std::pair(TerminationType::Resignation, false)})
+        EXPECT_EQ(terminationDates(type, NoticeType::Worked, day("10/01/2022"), day("30/06/2026"))
+                          .lastDayWorked.rule.find("art. 488") != std::string::npos,
+                  offers);
 }
 
 }  // namespace
