@@ -120,7 +120,7 @@ void YearDays::paintEvent(QPaintEvent*) {
         const WorkMonth one{year_, std::chrono::month(static_cast<unsigned>(month))};
         painter.setPen(palette().color(QPalette::Text));
         painter.drawText(QRect(look::kSmallGap, month * height, monthWidth(), height),
-                         Qt::AlignVCenter, toQt(monthName(one.month())).left(3));
+                         Qt::AlignVCenter | Qt::TextDontClip, toQt(monthName(one.month())).left(3));
         if (!calendar_) continue;
         for (Date date = firstDay(one); monthOf(date) == one; date = plusDays(date, 1))
             paintDay(painter, date);
