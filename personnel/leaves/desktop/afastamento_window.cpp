@@ -19,6 +19,8 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
+#include <array>
+
 namespace winvrx {
 
 namespace {
@@ -27,10 +29,24 @@ constexpr int kSideWidth = 288;
 const QString kNoMonth =
     QStringLiteral("Escolha primeiro o mês de trabalho em \"Mês de Trabalho\" (F7).");
 
-/// A leave as the list shows it; what its columns do not hold stands in the tip.
+/// Over the columns of a leave's line, in their order.
+constexpr std::array<const char*, kLeaveFields.size()> kHeadings = {
+    "Tipo",         "Primeiro dia",    "Último dia",    "Duração",
+    "Aviso em",     "Início do aviso", "Rescisão",      "Tipo de aviso",
+    "Fim do aviso", "Último trabalho", "Pagamento até", "Homologação"};
+
+QStringList headings() {
+    QStringList texts;
+    for (const char* heading : kHeadings)
+        texts << QString::fromUtf8(heading);
+    return texts;
+}
+
+/// The line of a leave, column by column; its tip is the line as it is.
 QTreeWidgetItem* rowOf(const Leave& leave, const std::string& bytes) {
-    auto* row = new QTreeWidgetItem(
-        {toQt(leave.type), toQt(leave.firstDay), toQt(leave.lastDay), toQt(leave.duration)});
+    auto* row = new QTreeWidgetItem;
+    for (std::size_t at = 0; at < kLeaveFields.size(); ++at)
+        row->setText(static_cast<int>(at), toQt(leave.*kLeaveFields[at].member));
     if (!leave.period()) row->setText(0, QStringLiteral("⚠ ") + row->text(0));
     for (int column = 0; column < row->columnCount(); ++column)
         row->setToolTip(column, toQt(readableText(bytes)));
@@ -117,11 +133,8 @@ QLayout* AfastamentoWindow::buildList(QWidget* part) {
     contradiction_->setObjectName(QStringLiteral("leaves.contradiction"));
     look::setTint(*contradiction_, look::Tint::Warning);
     column->addWidget(contradiction_);
-    leaves_ = look::table(QStringLiteral("leaves.list"), QStringLiteral("Afastamentos"),
-                          {QStringLiteral("Tipo"), QStringLiteral("Primeiro dia"),
-                           QStringLiteral("Último dia"), QStringLiteral("Duração")},
+    leaves_ = look::table(QStringLiteral("leaves.list"), QStringLiteral("Afastamentos"), headings(),
                           part);
-    leaves_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     connect(leaves_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (item) chooseLeave(leaves_->indexOfTopLevelItem(item));
     });

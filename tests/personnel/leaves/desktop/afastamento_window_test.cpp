@@ -110,6 +110,13 @@ TEST_F(LeaveWindow, EndsAContractWithDatesThatCanBeTypedOver) {
     desk.person.answers = {Answer::Yes};
     screen->press(Qt::Key_F9);
     EXPECT_THAT(desk.file("01configAf001"), ::testing::EndsWith("**** 20/04/2024\r\n"));
+    std::string line;
+    for (int column = 0; column < leaves().columnCount(); ++column)
+        line += leaves().topLevelItem(0)->text(column).toStdString() + "|";
+    EXPECT_EQ(line,
+              "008 RESCISÃO_CONTRATO_TRABALHO|15/03/2024|20/04/2024|037 Dias e 0 Horas|"
+              "15/03/2024|16/03/2024|01. Dispensa sem Justa Causa|02. Aviso Indenizado|"
+              "20/04/2024|20/03/2024|30/03/2024||");
     EXPECT_EQ(screen->find<QToolButton>("leaves.activation").text().toStdString(), "Reativar  F9");
     EXPECT_TRUE(screen->find<QLineEdit>("leaves.dismissal").isReadOnly());
     EXPECT_FALSE(screen->find<QLabel>("leaves.contradiction").isVisible());
