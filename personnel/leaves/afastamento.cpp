@@ -208,13 +208,16 @@ void Afastamento::offerMarking(LeavePeriod days) {
         const auto unmarked = unmarkedDays(at_.store(), payroll_, key, calendar(), days);
         const auto closed = datesOf(unmarked, &UnmarkedDay::closed);
         if (unmarked.size() == closed.size()) return;
+        // Those that a termination marked, and that are blank now, were asked about then.
+        const auto asks = std::ranges::count_if(
+            unmarked, [](const UnmarkedDay& day) { return !day.onLeave && !day.closed; });
         const auto timed = datesOf(unmarked, &UnmarkedDay::hasTimes);
-        std::string detail = countOf(unmarked.size() - closed.size(), "dia") + ".";
+        std::string detail = countOf(static_cast<std::size_t>(asks), "dia") + ".";
         if (!timed.empty()) detail += " Perdem as horas: " + datesText(timed) + ".";
         if (!closed.empty()) detail += " De mês fechado, não são marcados: " + datesText(closed);
         const Message asked = timed.empty() ? question(kTitle, std::string(kMarkDays), detail)
                                             : warning(kTitle, std::string(kMarkDays), detail);
-        if (!at_.person.agrees(asked)) return;
+        if (asks > 0 && !at_.person.agrees(asked)) return;
         const auto hold = holdFolder(at_);
         (void)markDays(at_.store(), payroll_, key, calendar(), days);
     });

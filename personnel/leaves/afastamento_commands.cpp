@@ -35,10 +35,9 @@ const Message kConfirmAdd = question(kAdd, "Confirma Adicionar Novo Afastamento?
 const Message kConfirmChange = question(kChange, "Confirma Alterar este Ítem?");
 const Message kIdentical = refusal(kChange, "Já Existe um Afastamento com Dados Idênticos.");
 const Message kDisregards = refusal(kRemove, "Você está Prestes a Desconsiderar este Afastamento!");
-const Message kConfirmDisregard =
-    riskyQuestion("Excluindo Afastamento", "Confirma Excluir e Desconsiderar este Afastamento?");
+constexpr std::string_view kConfirmDisregard = "Confirma Excluir e Desconsiderar este Afastamento?";
 const Message kDeactivates = refusal(kScreen, "Você está Prestes a Desativar este Funionário!");
-const Message kConfirmDeactivate = riskyQuestion(kScreen, "Confirma Desativar este Funionário?");
+constexpr std::string_view kConfirmDeactivate = "Confirma Desativar este Funionário?";
 
 /// The card of every month behind the end of a contract is looked at.
 constexpr Date kLastOfAll{std::chrono::year{9999}, std::chrono::December, std::chrono::day{31}};
@@ -69,6 +68,14 @@ bool isNeeded(LeaveInput input, const LeaveForm& form) {
 
 std::string namedText(std::string_view caption, const std::string& text) {
     return std::string(caption) + ": “" + text + "” não é uma data.";
+}
+
+/// The leave is named beneath, as the text speaks of the employee only.
+Message confirmRemoval(const Leave& leave, bool isInactive) {
+    const std::string detail =
+        leave.type + ", de " + leave.firstDay + " a " + leave.lastDay + ", será excluído.";
+    return riskyQuestion(isInactive ? "Excluindo Afastamento" : kScreen,
+                         std::string(isInactive ? kConfirmDisregard : kConfirmDeactivate), detail);
 }
 
 Message dropsLines(const std::vector<std::string>& lines) {
@@ -190,7 +197,8 @@ bool Afastamento::remove() {
         if (!chosen_) return refuse(kRemove, kNoItem);
         if (!requireOpenMonth() || !confirmPeriod()) return false;
         at_.person.tell(isInactive() ? kDisregards : kDeactivates);
-        if (!at_.person.agrees(isInactive() ? kConfirmDisregard : kConfirmDeactivate)) return false;
+        if (!at_.person.agrees(confirmRemoval(file_.leaves.at(*chosen_).record, isInactive())))
+            return false;
         const auto place = static_cast<std::ptrdiff_t>(*chosen_);
         if (!confirmDroppedLines() ||
             !rewrite([&](LeaveFile& file) { file.leaves.erase(file.leaves.begin() + place); },
@@ -209,6 +217,7 @@ bool Afastamento::changeActivation() {
         if (inactivates ? !requireTermination(title) : !requireNoTerminationDocument(title))
             return false;
         if (inactivates && !requireDismissal(title)) return false;
+        if (form_.isLineChanged() && !confirmLeaving()) return false;
         if (!at_.person.agrees(question("Ativar/Inativar", "Confirma  " + std::string(title) +
                                                                "  Funcionário Selecionado?")) ||
             !confirmDroppedLines())

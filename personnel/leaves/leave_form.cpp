@@ -180,6 +180,12 @@ void LeaveForm::workOutDates() {
     }
 }
 
+bool LeaveForm::isLineChanged() const {
+    auto line = texts_;
+    line[place(LeaveInput::Dismissal)] = shown_[place(LeaveInput::Dismissal)];
+    return line != shown_;
+}
+
 bool LeaveForm::isTypedOver(LeaveInput input) const {
     return typedOver_[place(input)] && !workedOut_[place(input)].rule.empty();
 }

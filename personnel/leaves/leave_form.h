@@ -55,6 +55,8 @@ class LeaveForm {
     [[nodiscard]] const std::optional<Date>& admission() const { return admission_; }
     [[nodiscard]] bool isTermination() const;
     [[nodiscard]] bool isChanged() const { return texts_ != shown_; }
+    /// Whether a field that belongs to the line of the leave is.
+    [[nodiscard]] bool isLineChanged() const;
     /// Whether something else stands where a date was worked out.
     [[nodiscard]] bool isTypedOver(LeaveInput input) const;
     /// What gives the value of the field, in one line, and the value where another one stands in

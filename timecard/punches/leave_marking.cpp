@@ -35,7 +35,8 @@ Card cardOf(std::vector<PunchLine> lines, WorkMonth month, bool closed, const Le
     for (PunchLine& line : card.lines) {
         PunchLine wanted = days.contains(date) ? marked(line, leaves.standingOn(date)) : line;
         if (wanted != line) {
-            card.days.push_back({date, line.hasTimes(), closed});
+            const bool onLeave = !line.hasTimes() && line.situation == kSituationLeave;
+            card.days.push_back({date, line.hasTimes(), onLeave, closed});
             line = std::move(wanted);
         }
         date = plusDays(date, 1);

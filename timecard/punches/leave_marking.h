@@ -14,6 +14,7 @@ namespace winvrx {
 struct UnmarkedDay {
     Date date;
     bool hasTimes = false;  ///< marking it loses them
+    bool onLeave = false;   ///< marked so far: nothing but the mark goes
     bool closed = false;    ///< the month's payroll is generated: it cannot be marked
 
     [[nodiscard]] bool operator==(const UnmarkedDay&) const = default;

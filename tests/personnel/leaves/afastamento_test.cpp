@@ -192,6 +192,8 @@ TEST_F(AfastamentoTest, RecordsALeaveAndChoosesIt) {
                              "Alterar Afastamento: " + kIdentical}));
     desk_.person.answers = {kYes};
     EXPECT_TRUE(screen_.remove());
+    EXPECT_EQ(desk_.person.shown.back().detail,
+              "007 ATESTADO_DECALRAÇÃO, de 20/03/2024 a 24/03/2024, será excluído.");
     EXPECT_EQ(told(), (Texts{"Afastamento: Você está Prestes a Desativar este Funionário!",
                              "Afastamento: Confirma Desativar este Funionário?"}));
     EXPECT_EQ(file(), "**** \r\n");
@@ -369,6 +371,9 @@ TEST_F(AfastamentoTest, InactivatesStepByStep) {
                   {},
                   "Inativar: Informe a Data de Demissão do Funcionário Maior que a Data da "
                   "Admissão!"},
+             Case{{{LastDayWorked, "18/03/2024"}},
+                  {kNo},
+                  "Aviso: Há dados digitados que não foram gravados. Deseja descartá-los?"},
              Case{{{Dismissal, "13/03/2020"}},
                   {kNo},
                   "Ativar/Inativar: Confirma  Inativar  Funcionário Selecionado?"},
@@ -476,10 +481,22 @@ TEST_F(AfastamentoTest, OffersTheCardsThatALeaveComesTooLateFor) {
     EXPECT_TRUE(screen_.change());
     EXPECT_EQ(desk_.person.shown.size(), 1U) << "every day is marked already";
 
-    record({termination()});
+    record({});
     start();
+    const Leave end = termination();
+    type({{Type, end.type},
+          {FirstDay, end.firstDay},
+          {TerminationType, end.terminationType},
+          {NoticeType, end.noticeType}});
+    desk_.person.answers = {kYes, kYes};
+    EXPECT_TRUE(screen_.add());
+    EXPECT_EQ(marked(2024y / 3, 16) + marked(2024y / 4, 27), "AFASTAMENTO timed");
+    desk_.person.shown.clear();
     desk_.person.answers = {kYes, kYes};
     EXPECT_TRUE(screen_.changeActivation());
+    EXPECT_EQ(desk_.person.shown.back().detail,
+              "4 dias. Perdem as horas: 27/04/2024, 28/04/2024, 29/04/2024, 30/04/2024.")
+        << "those marked before are not asked about again";
     EXPECT_EQ(marked(2024y / 3, 15), " timed");
     EXPECT_EQ(marked(2024y / 3, 16) + marked(2024y / 4, 30), "");
     EXPECT_EQ(screen_.selected()->dismissal, "26/04/2024");
