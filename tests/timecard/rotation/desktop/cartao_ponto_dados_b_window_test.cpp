@@ -13,10 +13,8 @@
 namespace winvrx {
 namespace {
 
-using testing::code;
 using testing::DrivenWindow;
 using ::testing::HasSubstr;
-using ::testing::Not;
 using testing::RotationScreen;
 
 struct RotationWindow : RotationScreen {
@@ -88,6 +86,11 @@ TEST_F(RotationWindow, AGroupIsPlannedSeenAndRecordedByKeys) {
     EXPECT_THAT(recorded(), HasSubstr("GRUPO-001 Unico 5x1   01/03/2024 006 06/03/2024"));
     EXPECT_EQ(listed("rotation.groups", 0), "GRUPO-001  5 x 1  Unico  6 funcionários");
     EXPECT_THAT(driven->state(), HasSubstr("Grupo gravado"));
+    driven->press(Qt::Key_P, Qt::ControlModifier);
+    ASSERT_EQ(engine.jobs.size(), 1U);
+    EXPECT_EQ(engine.jobs[0].request.output, ReportOutput::Preview);
+    driven->press(Qt::Key_T, Qt::ControlModifier);
+    EXPECT_THAT(editor.opened, ::testing::ElementsAre("FolhaRevezamento.txt"));
 }
 
 TEST_F(RotationWindow, RowsAreMovedAndRemovedAlikeByKeysCommandsAndMouse) {
