@@ -201,7 +201,6 @@ void recordLeaves(Player& player) {
     player.picture("afastamentos"_t);
     player.press(Qt::Key_F9);
     player.answer("Confirma  Inativar  Funcionário Selecionado?"_t, Answer::Yes);
-    player.answer("Há dias preenchidos no cartão que este afastamento muda."_t, Answer::Yes);
     player.picture("inativo"_t);
     player.press(Qt::Key_Escape);
     player.picture("dados-atestado"_t);
