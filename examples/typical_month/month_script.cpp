@@ -316,6 +316,11 @@ void planRotation(Player& player) {
     player.click("rotation.save"_t);
     player.answer("Confirma Gravar o GRUPO-001?"_t, Answer::Yes);
     player.picture("escalas"_t);
+    player.click("rotation.print"_t);
+    player.picture("escala-na-parede"_t);
+    player.click("preview.close"_t);
+    player.click("rotation.text"_t);
+    player.pictureBeside("relatorio"_t, "escala-em-texto"_t);
     player.openTab("rotation.pages"_t, "Quadro"_t);
     player.picture("quadro"_t);
     player.click("rotation.close"_t);
