@@ -46,17 +46,18 @@ MenuEntries menuEntries(const Workplace& at, const CardPrintingDesk& desk, TextE
     };
     add(registerEntries(at, editor, rotation));
     add({monthEntry(at)});
+    const HoursEntryDesk hours{editor, desk.browser, desk.engine, rotation};
+    const auto openHours = [at, hours](QWidget* parent) { openHoursReports(at, hours, parent); };
     const LeavesDesk leaves{desk.engine, editor};
     add({timeCardEntry(
         at, rotation,
         [leaves](const Workplace& office, QWidget* parent, const auto& inHand) {
             openLeaves(office, leaves, parent, inHand);
         },
-        openRotation)});
+        openRotation, openHours)});
     add(cardEntries(at, desk));
-    add({hoursEntry(at, {editor, desk.browser, desk.engine, rotation})});
+    add(hoursEntries(at, hours));
     add({rotationEntry(at, openRotation)});
-    add({planned("Cartão de Ponto", "mirror", "mirror", "Espelho")});
     add({leavesEntry(at, leaves)});
     add({planned("Pessoal", "payroll", "payroll", "Folha de Pagamento")});
     add({planned("Pessoal", "documents", "documents", "Documentos")});

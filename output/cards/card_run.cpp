@@ -1,7 +1,5 @@
 #include "output/cards/card_run.h"
 
-#include "output/cards/pdf_name.h"
-
 #include <algorithm>
 #include <utility>
 
@@ -12,8 +10,10 @@ namespace {
 constexpr auto kPrinting = "IMPRIMINDO";
 
 const Message kCancelOthers = riskyQuestion(kPrinting, "Deseja Cancelar as demais Impressões? ");
-const Message kReplaceFiles =
-    warning(kPrinting, "Já existem nesta pasta arquivos destes cartões. Deseja substituí-los?");
+Message replaceFiles(const PageNoun& noun) {
+    return warning(kPrinting, "Já existem nesta pasta arquivos destes " + noun.many +
+                                  ". Deseja substituí-los?");
+}
 
 Message confirmCardOf(const Employee& employee) {
     return question(kPrinting, "Confirma a Impressão do Cartão do " + employee.name + " ? ", {},
@@ -64,8 +64,8 @@ bool CardRun::printJob(const People& people, LayoutSet set) {
 }
 
 std::string CardRun::pdfNameFor(const People& people) const {
-    return people.size() == 1 ? pdfNameOf(people.front(), batch_.month)
-                              : pdfNameOf(batch_.companyName, batch_.month);
+    return people.size() == 1 ? pdfNameOf(people.front(), naming())
+                              : pdfNameOf(batch_.companyName, naming());
 }
 
 bool CardRun::savePdfOfEach(const People& people, LayoutSet set) {
@@ -75,7 +75,7 @@ bool CardRun::savePdfOfEach(const People& people, LayoutSet set) {
         return !run_.progress || run_.progress(++saved, static_cast<int>(people.size()));
     };
     return std::ranges::all_of(people, [&](const Employee& employee) {
-        request.pdfPath = pdfFolder_ + "/" + pdfNameOf(employee, batch_.month);
+        request.pdfPath = pdfFolder_ + "/" + pdfNameOf(employee, naming());
         return send(request, {employee}, progress);
     });
 }
@@ -87,24 +87,42 @@ bool CardRun::choosePdfFolder() {
 
 bool CardRun::confirmReplacing() {
     const bool any = std::ranges::any_of(batch_.people, [&](const Employee& employee) {
-        return at_.files.exists(pdfFolder_ + "/" + pdfNameOf(employee, batch_.month));
+        return at_.files.exists(pdfFolder_ + "/" + pdfNameOf(employee, naming()));
     });
-    return !any || at_.person.agrees(kReplaceFiles);
+    return !any || at_.person.agrees(replaceFiles(batch_.request.noun));
 }
 
 ReportRequest CardRun::requestFor(LayoutSet set) const {
     ReportRequest request = batch_.request;
-    request.layoutName = layoutFor(batch_.stockCode, batch_.choices.printer.tray, set).value();
+    if (!batch_.stockCode.empty())
+        request.layoutName = layoutFor(batch_.stockCode, batch_.choices.printer.tray, set).value();
     request.output = batch_.choices.output;
     return request;
 }
 
 bool CardRun::send(const ReportRequest& request, const People& people,
                    const PageProgress& progress) {
-    ReportPages cards(people.size(), [&](std::size_t at) { return batch_.rowsOf(people[at]); });
-    if (printPages({at_, engine_, progress}, request, cards) != PrintEnd::Done) return false;
+    const std::size_t each = batch_.pagesEach;
+    ReportPages pages(people.size() * each,
+                      [&](std::size_t at) { return batch_.rowsOf(people[at / each], at % each); });
+    if (printPages({at_, engine_, progress}, request, pages) != PrintEnd::Done) return false;
     if (request.output == ReportOutput::PdfFile) savedFiles_.push_back(request.pdfPath);
     return true;
+}
+
+void offerToOpenPdf(Operator& person, Browser& browser, const std::string& title,
+                    const std::vector<std::string>& files) {
+    if (files.empty()) return;
+    const bool one = files.size() == 1;
+    const std::string place =
+        one ? files.front() : files.back().substr(0, files.back().find_last_of('/'));
+    const Message asked = one ? question(title, "O PDF foi gravado. Deseja abri-lo?", place)
+                              : question(title,
+                                         std::to_string(files.size()) +
+                                             " arquivos PDF foram gravados. Deseja abrir a pasta?",
+                                         place);
+    if (person.agrees(asked) && !browser.open(place))
+        person.tell(failure(title, "Não há programa que abra este arquivo.", place));
 }
 
 }  // namespace winvrx

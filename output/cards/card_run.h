@@ -1,8 +1,9 @@
 #pragma once
 
+#include "foundation/desk/browser.h"
 #include "foundation/desk/command.h"
 #include "foundation/register/employee.h"
-#include "foundation/values/date.h"
+#include "output/cards/pdf_name.h"
 #include "output/stocks/card_stock.h"
 #include "output/stocks/printer_memory.h"
 #include "report/print_pages.h"
@@ -41,16 +42,17 @@ struct PrintRun {
     std::function<void()> chooseStock = {};
 };
 
-/// The cards of a run, and how they are printed.
+/// The cards of a run, or other pages of employees, and how they are printed.
 struct CardBatch {
     std::vector<Employee> people;
     std::string companyName;
-    WorkMonth month{};
-    std::string stockCode;  ///< of a stock that the card print knows
+    std::string period;     ///< in the names of PDF files: "03-2024"
+    std::string stockCode;  ///< of a stock that the card print knows; empty: the request's layout
     PrintChoices choices;
-    ReportRequest request;  ///< without layout and PDF path
-    /// Called when the card's turn comes; may throw.
-    std::function<ReportRows(const Employee&)> rowsOf;
+    ReportRequest request;  ///< without PDF path; its title and noun name the pages
+    std::size_t pagesEach = 1;
+    /// A page of an employee, counted from 0; called when its turn comes, may throw.
+    std::function<ReportRows(const Employee&, std::size_t page)> rowsOf;
 };
 
 /// Sends the cards of a list to printer, preview or PDF files. A failed card ends the run; cards
@@ -72,6 +74,7 @@ class CardRun {
     [[nodiscard]] bool printJob(const People& people, LayoutSet set);
     [[nodiscard]] bool savePdfOfEach(const People& people, LayoutSet set);
     [[nodiscard]] std::string pdfNameFor(const People& people) const;
+    [[nodiscard]] PdfNaming naming() const { return {batch_.request.title, batch_.period}; }
     [[nodiscard]] bool choosePdfFolder();
     [[nodiscard]] bool confirmReplacing();
 
@@ -86,5 +89,9 @@ class CardRun {
     std::string pdfFolder_;
     std::vector<std::string> savedFiles_;
 };
+
+/// Offers to open the PDF files that a run has saved, or their folder.
+void offerToOpenPdf(Operator& person, Browser& browser, const std::string& title,
+                    const std::vector<std::string>& files);
 
 }  // namespace winvrx

@@ -141,24 +141,8 @@ bool Cartao::print(const std::vector<Employee>& people, const PrintRun& run) {
         saved = cards.savedFiles();
         return done;
     });
-    offerToOpen(saved);
+    offerToOpenPdf(at_.person, desk_.browser, "IMPRIMIR CARTÃO PONTO", saved);
     return printed;
-}
-
-void Cartao::offerToOpen(const std::vector<std::string>& files) {
-    if (files.empty()) return;
-    const bool one = files.size() == 1;
-    const std::string place =
-        one ? files.front() : files.back().substr(0, files.back().find_last_of('/'));
-    const Message asked =
-        one ? question("IMPRIMIR CARTÃO PONTO", "O PDF foi gravado. Deseja abri-lo?", place)
-            : question("IMPRIMIR CARTÃO PONTO",
-                       std::to_string(files.size()) +
-                           " arquivos PDF foram gravados. Deseja abrir a pasta?",
-                       place);
-    if (at_.person.agrees(asked) && !desk_.browser.open(place))
-        at_.person.tell(
-            failure("IMPRIMIR CARTÃO PONTO", "Não há programa que abra este arquivo.", place));
 }
 
 CardBatch Cartao::batchOf(const std::vector<Employee>& people) const {
@@ -177,11 +161,11 @@ CardBatch Cartao::batchOf(const std::vector<Employee>& people) const {
     if (people.size() > 1) month.names = namesIn(at_.store());
     return {.people = people,
             .companyName = company_.name,
-            .month = *month_,
+            .period = monthKey(*month_),
             .stockCode = std::string(stock_->code),
             .choices = choices_,
             .request = request,
-            .rowsOf = [this, month = std::move(month)](const Employee& one) {
+            .rowsOf = [this, month = std::move(month)](const Employee& one, std::size_t) {
                 return cardRows(cardOf(one, month));
             }};
 }

@@ -72,7 +72,6 @@ class Cartao {
     [[nodiscard]] bool requireChoices(bool anyEmployee, const PrintRun& run);
     [[nodiscard]] bool requirePrintingDrive();
     [[nodiscard]] bool print(const std::vector<Employee>& people, const PrintRun& run);
-    void offerToOpen(const std::vector<std::string>& files);
     [[nodiscard]] CardBatch batchOf(const std::vector<Employee>& people) const;
     /// What the cards of a run have in common.
     struct RunMonth {

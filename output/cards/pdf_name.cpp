@@ -6,7 +6,6 @@ namespace winvrx {
 
 namespace {
 
-constexpr std::string_view kOpening = "CARTÃO PONTO ";
 constexpr std::string_view kNotInFileNames = "/\\:*?\"<>|";
 constexpr std::size_t kLongestSubject = 80;
 
@@ -16,15 +15,15 @@ bool isControl(char c) {
 
 }  // namespace
 
-std::string pdfNameOf(std::string_view subject, WorkMonth month) {
-    std::string name(kOpening);
+std::string pdfNameOf(std::string_view subject, const PdfNaming& naming) {
+    std::string name = naming.title + " ";
     for (const char c : firstCharacters(trimmed(subject), kLongestSubject))
         name += isControl(c) || kNotInFileNames.find(c) != std::string_view::npos ? '-' : c;
-    return name + " " + monthKey(month) + ".pdf";
+    return name + " " + naming.period + ".pdf";
 }
 
-std::string pdfNameOf(const Employee& employee, WorkMonth month) {
-    return pdfNameOf(employee.code + " " + employee.name, month);
+std::string pdfNameOf(const Employee& employee, const PdfNaming& naming) {
+    return pdfNameOf(employee.code + " " + employee.name, naming);
 }
 
 }  // namespace winvrx

@@ -101,12 +101,16 @@ ReportRequest overviewRequest() {
     return request;
 }
 
+bool HoursReports::requirePrintingDrive() {
+    const char letter = at_.session.folder.driveLetter();
+    if (upperCase(std::string(1, letter)) == kPrintingDrive) return true;
+    at_.person.tell(kWrongDrive);
+    return false;
+}
+
 bool HoursReports::showOverview(const PageProgress& progress) {
     if (!requirePeriod()) return false;
-    if (upperCase(std::string(1, at_.session.folder.driveLetter())) != kPrintingDrive) {
-        at_.person.tell(kWrongDrive);
-        return false;
-    }
+    if (!requirePrintingDrive()) return false;
     return attempt(at_, printFailed(), [&] {
         std::vector<OverviewLine> lines;
         const auto take = [&lines](const MirrorSheet& sheet) { lines.push_back(lineOf(sheet)); };

@@ -6,6 +6,7 @@
 #include "foundation/desk/text_editor.h"
 #include "foundation/register/company.h"
 #include "foundation/register/employee_list.h"
+#include "output/cards/card_run.h"
 #include "output/mirrors/mirror_period.h"
 #include "report/report_engine.h"
 #include "timecard/punches/rotation_calendar.h"
@@ -63,6 +64,12 @@ class HoursReports {
     /// The sums as CSV into `file`.
     [[nodiscard]] bool exportSums(const std::filesystem::path& file,
                                   const PageProgress& progress = {});
+    /// "ESPELHO DE PONTO" of everyone in the list, a page each; whoever has no record is named and
+    /// left out. True when all were printed.
+    [[nodiscard]] bool printMirrors(const PrintChoices& choices, const PrintRun& run);
+    /// "FOLHA MANUAL DE PONTO" of the selected employee: the same page without times.
+    [[nodiscard]] bool printManualSheet(std::optional<std::size_t> position,
+                                        const PrintChoices& choices, const PrintRun& run);
     /// "RESUMO DO MÊS": bars of everyone's hours, what needs attention first, to the preview.
     [[nodiscard]] bool showOverview(const PageProgress& progress = {});
 
@@ -82,6 +89,13 @@ class HoursReports {
     [[nodiscard]] bool writeText(const PageProgress& progress);
     [[nodiscard]] bool writeWorkbook(const PageProgress& progress);
     [[nodiscard]] MirrorPeriod mirrorPeriod() const;
+    /// "Diretório Inválido p/ Impressão!" on any drive but "C".
+    [[nodiscard]] bool requirePrintingDrive();
+    /// Those of whom the period has a record.
+    [[nodiscard]] People recordedOf(const People& people);
+    struct MirrorForm;
+    [[nodiscard]] bool print(const MirrorForm& form, const People& people,
+                             const PrintChoices& choices, const PrintRun& run);
 
     Workplace at_;
     HoursReportsDesk desk_;

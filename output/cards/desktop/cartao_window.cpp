@@ -5,10 +5,9 @@
 #include "foundation/values/text.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/progress.h"
+#include "output/cards/desktop/output_choice.h"
 #include "output/cards/desktop/print_choices_box.h"
-#include "report/desktop/pdf_file_dialog.h"
 
-#include <QFileDialog>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -178,22 +177,11 @@ void CartaoWindow::printAll() {
 }
 
 PrintRun CartaoWindow::runWith(Progress* progress) {
-    PrintRun run{
-        .choosePdf = [this](const std::string& proposedName) { return choosePdf(proposedName); },
-        .choosePdfFolder = [this] { return choosePdfFolder(); },
-        .chooseStock = [this] { visit(desk_.openStocks); }};
+    PrintRun run = pdfAsking(this);
+    run.chooseStock = [this] { visit(desk_.openStocks); };
     if (progress)
         run.progress = [progress](int done, int total) { return progress->show(done, total); };
     return run;
-}
-
-std::string CartaoWindow::choosePdf(const std::string& proposedName) {
-    return toUtf8(choosePdfFile(this, QStringLiteral("Gravar em PDF"), toQt(proposedName)));
-}
-
-std::string CartaoWindow::choosePdfFolder() {
-    return toUtf8(QFileDialog::getExistingDirectory(this, QStringLiteral("Pasta dos arquivos PDF"),
-                                                    folderForPdfFiles()));
 }
 
 void CartaoWindow::showList() {

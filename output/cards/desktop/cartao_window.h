@@ -45,8 +45,6 @@ class CartaoWindow : public ScreenWindow {
     void printOne();
     void printAll();
     [[nodiscard]] PrintRun runWith(Progress* progress);
-    [[nodiscard]] std::string choosePdf(const std::string& proposedName);
-    [[nodiscard]] std::string choosePdfFolder();
 
     void showList();
     void showPreview();

@@ -4,6 +4,7 @@
 #include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/option_group.h"
+#include "output/cards/desktop/output_choice.h"
 
 #include <QCheckBox>
 #include <QEvent>
@@ -17,9 +18,6 @@ namespace winvrx {
 
 namespace {
 
-/// The option beside those of ReportOutput: a PDF file for each employee.
-constexpr int kPdfForEach = 100;
-
 constexpr QSize kPictureSize(120, 40);
 
 template <typename Choice>
@@ -31,7 +29,7 @@ constexpr int idOf(Choice choice) {
 
 PrintChoicesBox::PrintChoicesBox(const PrintChoices& choices, QWidget* parent)
     : QWidget(parent),
-      output_(buildOutput()),
+      output_(new OutputChoice(QStringLiteral("cartao.output"), this)),
       mode_(buildMode()),
       tray_(buildTray()),
       sheetExit_(buildSheetExit()) {
@@ -52,20 +50,6 @@ PrintChoicesBox::PrintChoicesBox(const PrintChoices& choices, QWidget* parent)
     grid->setColumnStretch(1, 1);
     showChoices(choices);
     connectAll();
-}
-
-OptionGroup* PrintChoicesBox::buildOutput() {
-    auto* group =
-        new OptionGroup(QStringLiteral("Saída:"), QStringLiteral("cartao.output"), 2, this);
-    group->addOption(idOf(ReportOutput::Preview), QStringLiteral("&Visualizar"),
-                     QStringLiteral("preview"));
-    group->addOption(idOf(ReportOutput::Printer), QStringLiteral("I&mprimir"),
-                     QStringLiteral("printer"));
-    group->addOption(idOf(ReportOutput::PdfFile), QStringLiteral("Gravar em P&DF"),
-                     QStringLiteral("pdf"));
-    group->addOption(kPdfForEach, QStringLiteral("Um PDF por &funcionário"),
-                     QStringLiteral("pdfForEach"));
-    return group;
 }
 
 OptionGroup* PrintChoicesBox::buildMode() {
@@ -165,9 +149,7 @@ QWidget* PrintChoicesBox::buildPrinterTrays() {
 void PrintChoicesBox::showChoices(const PrintChoices& choices) {
     const QSignalBlocker quiet(this);
     mode_->choose(idOf(choices.mode));
-    const bool pdfForEach =
-        choices.output == ReportOutput::PdfFile && choices.pdfFiles == PdfFiles::OneForEach;
-    output_->choose(pdfForEach ? kPdfForEach : idOf(choices.output));
+    output_->showOutput(choices);
     tray_->choose(idOf(choices.printer.tray));
     sheetExit_->choose(idOf(choices.printer.exit));
     showSheetExit();
@@ -178,7 +160,8 @@ void PrintChoicesBox::showChoices(const PrintChoices& choices) {
 
 void PrintChoicesBox::connectAll() {
     connect(sheetExit_, &OptionGroup::picked, this, &PrintChoicesBox::showSheetExit);
-    for (OptionGroup* group : {mode_, output_, tray_, sheetExit_})
+    for (OptionGroup* group :
+         std::initializer_list<OptionGroup*>{mode_, output_, tray_, sheetExit_})
         connect(group, &OptionGroup::picked, this, &PrintChoicesBox::changed);
     connect(printHeader_, &QCheckBox::toggled, this, &PrintChoicesBox::changed);
     for (Field* field : trays_)
@@ -187,10 +170,7 @@ void PrintChoicesBox::connectAll() {
 
 PrintChoices PrintChoicesBox::choices() const {
     PrintChoices choices{.mode = static_cast<PrintMode>(mode_->chosen())};
-    const bool pdfForEach = output_->chosen() == kPdfForEach;
-    choices.output =
-        pdfForEach ? ReportOutput::PdfFile : static_cast<ReportOutput>(output_->chosen());
-    choices.pdfFiles = pdfForEach ? PdfFiles::OneForEach : PdfFiles::OneForAll;
+    output_->takeInto(choices);
     choices.printer = {.exit = static_cast<SheetExit>(sheetExit_->chosen()),
                        .tray = static_cast<TrayPosition>(tray_->chosen()),
                        .trays = {},

@@ -12,6 +12,7 @@ class QLabel;
 namespace winvrx {
 
 class OptionGroup;
+class OutputChoice;
 class Field;
 
 /// The choices of the printing screen: where to, how many at a time, how the card is fed and comes
@@ -34,7 +35,6 @@ class PrintChoicesBox : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
-    [[nodiscard]] OptionGroup* buildOutput();
     [[nodiscard]] OptionGroup* buildMode();
     [[nodiscard]] OptionGroup* buildTray();
     [[nodiscard]] OptionGroup* buildSheetExit();
@@ -45,7 +45,7 @@ class PrintChoicesBox : public QWidget {
     [[nodiscard]] QWidget* buildPrinterTrays();
     void connectAll();
 
-    OptionGroup* output_;
+    OutputChoice* output_;
     OptionGroup* mode_;
     OptionGroup* tray_;
     OptionGroup* sheetExit_;

@@ -14,16 +14,25 @@ void openHoursReports(const Workplace& at, const HoursEntryDesk& desk, QWidget* 
         .exec();
 }
 
-MenuEntry hoursEntry(const Workplace& at, const HoursEntryDesk& desk) {
+MenuEntries hoursEntries(const Workplace& at, const HoursEntryDesk& desk) {
+    const QString group = QStringLiteral("Cartão de Ponto");
+    const auto open = [at, desk](QWidget* parent) { openHoursReports(at, desk, parent); };
     return {
-        .group = QStringLiteral("Cartão de Ponto"),
-        .objectName = QStringLiteral("menu.hours.open"),
-        .icon = QStringLiteral("clock"),
-        .title = QStringLiteral("Relatório de &Horas"),
-        .key = Qt::Key_F12,
-        .needs = MenuNeeds::Employees,
-        .open = [at, desk](QWidget* parent) { openHoursReports(at, desk, parent); },
-        .state = [](const MonthProgress*) { return QStringLiteral("Extras, faltas e resumo"); }};
+        {.group = group,
+         .objectName = QStringLiteral("menu.hours.open"),
+         .icon = QStringLiteral("clock"),
+         .title = QStringLiteral("Relatório de &Horas"),
+         .key = Qt::Key_F12,
+         .needs = MenuNeeds::Employees,
+         .open = open,
+         .state = [](const MonthProgress*) { return QStringLiteral("Extras, faltas e resumo"); }},
+        {.group = group,
+         .objectName = QStringLiteral("menu.mirror.open"),
+         .icon = QStringLiteral("mirror"),
+         .title = QStringLiteral("Espelho"),
+         .needs = MenuNeeds::Employees,
+         .open = open,
+         .state = [](const MonthProgress*) { return QStringLiteral("Folha para assinar"); }}};
 }
 
 }  // namespace winvrx

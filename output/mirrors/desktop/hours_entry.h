@@ -24,7 +24,7 @@ struct HoursEntryDesk {
 /// Opens the screen of the hours reports.
 void openHoursReports(const Workplace& at, const HoursEntryDesk& desk, QWidget* parent);
 
-/// Their command of the main window.
-[[nodiscard]] MenuEntry hoursEntry(const Workplace& at, const HoursEntryDesk& desk);
+/// The commands of the main window: the reports, and the mirror, which the same screen prints.
+[[nodiscard]] MenuEntries hoursEntries(const Workplace& at, const HoursEntryDesk& desk);
 
 }  // namespace winvrx

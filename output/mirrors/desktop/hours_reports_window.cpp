@@ -5,6 +5,7 @@
 #include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/progress.h"
+#include "output/cards/desktop/output_choice.h"
 
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -34,7 +35,8 @@ QString countText(std::size_t people) {
 HoursReportsWindow::HoursReportsWindow(HoursReports& reports,
                                        std::function<void(QWidget* parent)> openWorkMonth,
                                        QWidget* parent)
-    : ScreenWindow(QStringLiteral("horas"), QStringLiteral("RELATÓRIOS DE HORAS"), parent),
+    : ScreenWindow(QStringLiteral("horas"), QStringLiteral("ESPELHO E RELATÓRIOS DE HORAS"),
+                   parent),
       reports_(reports),
       openWorkMonth_(std::move(openWorkMonth)) {
     reports_.load();
@@ -62,12 +64,16 @@ void HoursReportsWindow::buildCommands() {
                 showPeriod();
                 showContext();
             });
+    connect(command("mirror", QStringLiteral("Espelho de Ponto"), Qt::CTRL | Qt::Key_I, "mirrors"),
+            &QToolButton::clicked, this, &HoursReportsWindow::printMirrors);
+    connect(command("sheet", QStringLiteral("Folha Manual"), Qt::CTRL | Qt::Key_L, "manual"),
+            &QToolButton::clicked, this, &HoursReportsWindow::printManualSheet);
     connect(
         command("preview", QStringLiteral("Ver Resumo"), Qt::CTRL | Qt::Key_R, "overview"),
         &QToolButton::clicked, this, [this] {
             make([this](const PageProgress& progress) { return reports_.showOverview(progress); });
         });
-    connect(command("mirror", QStringLiteral("Espelho em Texto"), Qt::CTRL | Qt::Key_E, "mirror"),
+    connect(command("sheet", QStringLiteral("Espelho em Texto"), Qt::CTRL | Qt::Key_E, "mirror"),
             &QToolButton::clicked, this, [this] {
                 if (takePeriod()) (void)reports_.showMirrorText(employees_->selected());
             });
@@ -101,6 +107,9 @@ QWidget* HoursReportsWindow::buildBody() {
     auto* right = new QVBoxLayout;
     right->setSpacing(look::kGroupGap);
     right->addWidget(buildPeriod(body));
+    output_ = new OutputChoice(QStringLiteral("horas.output"), body);
+    output_->showOutput({});
+    right->addWidget(output_);
     right->addWidget(buildExplanation(body));
     right->addStretch();
     row->addLayout(right, 3);
@@ -170,6 +179,8 @@ QWidget* HoursReportsWindow::buildExplanation(QWidget* parent) {
     look::layOutPart(*column);
     column->addWidget(look::heading(QStringLiteral("O que cada comando gera"), part));
     const QStringList lines = {
+        QStringLiteral("Espelho de Ponto: uma folha para cada funcionário da lista assinar."),
+        QStringLiteral("Folha Manual: a mesma folha, do funcionário selecionado, sem horários."),
         QStringLiteral("Gerar Relatório: horas extras e faltas dia a dia, resumo e afastamentos, "
                        "em planilha ou texto."),
         QStringLiteral("Ver Resumo: uma página com as faltas e extras de todos; quem precisa de "
@@ -199,25 +210,44 @@ bool HoursReportsWindow::takePeriod() {
     return taken;
 }
 
+bool HoursReportsWindow::requireTakenPeriod() {
+    if (takePeriod()) return true;
+    reports_.refusePeriod();
+    first_->takeFocus();
+    return false;
+}
+
 template <typename Make>
 void HoursReportsWindow::make(Make&& make) {
-    if (!takePeriod()) {
-        reports_.refusePeriod();
-        first_->takeFocus();
-        return;
-    }
+    if (!requireTakenPeriod()) return;
     Progress progress({QStringLiteral("horas.progress"), QStringLiteral("GERANDO RELATÓRIO"),
                        QStringLiteral("Funcionário %1 de %2")},
                       this);
     (void)make([&progress](int done, int total) { return progress.show(done, total); });
 }
 
+void HoursReportsWindow::printMirrors() {
+    if (!requireTakenPeriod()) return;
+    Progress progress(
+        {QStringLiteral("horas.progress"), QStringLiteral("IMPRIMINDO ESPELHO DE PONTO"),
+         QStringLiteral("Folha %1 de %2")},
+        this);
+    PrintRun run = pdfAsking(this);
+    run.progress = [&progress](int done, int total) { return progress.show(done, total); };
+    PrintChoices choices;
+    output_->takeInto(choices);
+    (void)reports_.printMirrors(choices, run);
+}
+
+void HoursReportsWindow::printManualSheet() {
+    if (!requireTakenPeriod()) return;
+    PrintChoices choices;
+    output_->takeInto(choices);
+    (void)reports_.printManualSheet(employees_->selected(), choices, pdfAsking(this));
+}
+
 void HoursReportsWindow::exportSums() {
-    if (!takePeriod()) {
-        reports_.refusePeriod();
-        first_->takeFocus();
-        return;
-    }
+    if (!requireTakenPeriod()) return;
     const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QString file = QFileDialog::getSaveFileName(this, QStringLiteral("Totais em CSV"),
                                                       folder + QStringLiteral("/horas.csv"),

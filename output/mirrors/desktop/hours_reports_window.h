@@ -9,6 +9,7 @@ namespace winvrx {
 
 class EmployeePicker;
 class Field;
+class OutputChoice;
 
 /// The hours reports: employees at the left, the period and what to make of it at the right.
 class HoursReportsWindow : public ScreenWindow {
@@ -33,8 +34,13 @@ class HoursReportsWindow : public ScreenWindow {
     void showContext();
     /// Takes the days as typed; false, with a finding at the field, when they are no period.
     [[nodiscard]] bool takePeriod();
+    /// The same, and says so.
+    [[nodiscard]] bool requireTakenPeriod();
     template <typename Make>
     void make(Make&& make);
+    /// "Espelho de Ponto" of everyone, or "Folha Manual" of the employee selected.
+    void printMirrors();
+    void printManualSheet();
     void exportSums();
 
     HoursReports& reports_;
@@ -42,6 +48,7 @@ class HoursReportsWindow : public ScreenWindow {
     EmployeePicker* employees_ = nullptr;
     Field* first_ = nullptr;
     Field* last_ = nullptr;
+    OutputChoice* output_ = nullptr;
 };
 
 }  // namespace winvrx

@@ -7,7 +7,7 @@
 namespace winvrx {
 namespace {
 
-constexpr WorkMonth kMarch = std::chrono::year(2024) / 3;
+const PdfNaming kMarch{"CARTÃO PONTO", "03-2024"};
 
 TEST(PdfName, LeadsNowhereElse) {
     struct Case {

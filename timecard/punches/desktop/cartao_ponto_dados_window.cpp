@@ -188,6 +188,8 @@ void CartaoPontoDadosWindow::buildCommands() {
     addWay(QStringLiteral("rotation"), QStringLiteral("+ Quadro Horário e Escala de Revezamento"),
            Qt::CTRL | Qt::Key_E, QStringLiteral("card.rotation"),
            &CartaoPontoDadosWindow::rotationRequested);
+    addWay(QStringLiteral("mirror"), QStringLiteral("Espelho do Ponto"), Qt::CTRL | Qt::Key_I,
+           QStringLiteral("card.mirror"), &CartaoPontoDadosWindow::mirrorRequested);
     QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("card.close"));
     connect(close, &QPushButton::clicked, this, &CartaoPontoDadosWindow::reject);
 }

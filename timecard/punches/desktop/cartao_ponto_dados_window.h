@@ -40,6 +40,8 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     void leavesRequested();
     /// "+ Quadro Horário e Escala de Revezamento": the same for the rotations.
     void rotationRequested();
+    /// "Espelho do Ponto" and "Resumo Folha de Ponto": the same for the mirrors and hours reports.
+    void mirrorRequested();
 
   protected:
     bool mayClose() override;

@@ -11,7 +11,7 @@ namespace {
 
 void openTimeCard(const Workplace& at, const RotationCalendar& rotation,
                   const LeavesOpener& openLeaves, const RotationOpener& openRotation,
-                  QWidget* parent) {
+                  const MirrorOpener& openMirrors, QWidget* parent) {
     const RecordedAnswers records(at.store());
     CartaoPontoDados card(at, {rotation, records});
     (void)card.open();
@@ -33,13 +33,18 @@ void openTimeCard(const Workplace& at, const RotationCalendar& rotation,
         openRotation(&window);
         comeBack();
     });
+    QObject::connect(&window, &CartaoPontoDadosWindow::mirrorRequested, &window, [&] {
+        openMirrors(&window);
+        comeBack();
+    });
     window.exec();
 }
 
 }  // namespace
 
 MenuEntry timeCardEntry(const Workplace& at, std::shared_ptr<const RotationCalendar> rotation,
-                        LeavesOpener openLeaves, RotationOpener openRotation) {
+                        LeavesOpener openLeaves, RotationOpener openRotation,
+                        MirrorOpener openMirrors) {
     return {.group = QStringLiteral("Cartão de Ponto"),
             .objectName = QStringLiteral("menu.timecard.open"),
             .icon = QStringLiteral("card"),
@@ -47,8 +52,8 @@ MenuEntry timeCardEntry(const Workplace& at, std::shared_ptr<const RotationCalen
             .key = Qt::Key_F5,
             .needs = MenuNeeds::Employees,
             .open =
-                [at, rotation, openLeaves, openRotation](QWidget* parent) {
-                    openTimeCard(at, *rotation, openLeaves, openRotation, parent);
+                [at, rotation, openLeaves, openRotation, openMirrors](QWidget* parent) {
+                    openTimeCard(at, *rotation, openLeaves, openRotation, openMirrors, parent);
                 },
             .state =
                 [](const MonthProgress* progress) {

@@ -18,10 +18,14 @@ using LeavesOpener = std::function<void(const Workplace& at, QWidget* parent,
 /// Opens the rotations over a window.
 using RotationOpener = std::function<void(QWidget* parent)>;
 
-/// The time card's command of the main window. Its window leads on to the leaves
-/// and the rotations.
+/// Opens the mirrors and the summary of the hours over a window.
+using MirrorOpener = std::function<void(QWidget* parent)>;
+
+/// The time card's command of the main window. Its window leads on to the leaves, the rotations and
+/// the mirrors.
 [[nodiscard]] MenuEntry timeCardEntry(const Workplace& at,
                                       std::shared_ptr<const RotationCalendar> rotation,
-                                      LeavesOpener openLeaves, RotationOpener openRotation);
+                                      LeavesOpener openLeaves, RotationOpener openRotation,
+                                      MirrorOpener openMirrors);
 
 }  // namespace winvrx

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "foundation/widgets/desktop/option_group.h"
+#include "output/cards/card_run.h"
+
+namespace winvrx {
+
+/// Where pages go: the preview, a printer, one PDF file or one for each employee.
+class OutputChoice : public OptionGroup {
+    Q_OBJECT
+
+  public:
+    OutputChoice(const QString& objectName, QWidget* parent);
+
+    void showOutput(const PrintChoices& choices);
+    /// Puts the choice into `choices`.
+    void takeInto(PrintChoices& choices) const;
+};
+
+/// Asks for PDF files in dialogues over `parent`, which outlives the run.
+[[nodiscard]] PrintRun pdfAsking(QWidget* parent);
+
+}  // namespace winvrx
