@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace winvrx {
 namespace {
 
@@ -184,6 +186,79 @@ TEST_F(HoursReportsTest, TheOverviewIsSortedByWhatNeedsAttention) {
     EXPECT_EQ(tail(1), (Texts{"002", "BIA", "04:00", "00:00", "80:00", "444", "0", "500"}));
     EXPECT_EQ(tail(2), (Texts{"001", "ANA", "00:00", "09:00", "160:00", "0", "1000", "1000"}));
     EXPECT_EQ(overviewPages({{}, {}, {}}, std::vector<OverviewLine>(33)).size(), 2U);
+}
+
+/// Who has no record is named; the blank sheet asks for none, and has no times of the record.
+TEST_F(HoursReportsTest, PrintsMirrorsOfThoseOnRecordAndABlankSheetOfAnyone) {
+    const std::string all =
+        "Confirma a Impressão do ESPELHO DE PONTO para Todos os Funcionário Selecionado?";
+    const std::string manual =
+        "Confirma a Impressão da FOLHA MANUAL DE PONTO para o Funcionário Selecionado?";
+    desk.person.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
+    EXPECT_TRUE(reports.printMirrors({}, {}));
+    EXPECT_EQ(desk.person.shown.back().detail, "JOSÉ DE ALENCAR GONÇALVES FILH");
+    EXPECT_TRUE(reports.printManualSheet(1, {}, {}));
+    EXPECT_TRUE(reports.printManualSheet(0, {}, {}));
+    EXPECT_THAT(desk.person.takeTexts(), ElementsAre(all, kNoData, manual, manual));
+    ASSERT_EQ(office.engine.jobs.size(), 3U);
+    for (const auto& job : office.engine.jobs) {
+        const bool blank = job.request.layoutName == "espelho.rpt";
+        EXPECT_EQ(job.request.layoutName, blank ? "espelho.rpt" : "espelhos.rpt");
+        ASSERT_EQ(job.cards.size(), 1U);
+        EXPECT_EQ(job.cards[0].size(), 31U);
+        for (const ReportRow& row : job.cards[0])
+            EXPECT_EQ(row.size(), job.request.columns.size());
+        EXPECT_EQ(std::ranges::count(job.cards[0][3], "Falta Injustificada"), blank ? 0 : 1);
+        EXPECT_EQ(std::ranges::count(job.cards[0][0], "18:00"), blank ? 0 : 1);
+    }
+}
+
+TEST_F(HoursReportsTest, MirrorsOfALongerRangeHaveAPageAMonth) {
+    ASSERT_TRUE(reports.choosePeriod("15/02/2024", "20/03/2024"));
+    reports.list().filterBy(ShiftFilter::Unico);
+    PrintChoices toPdf{.output = ReportOutput::PdfFile};
+    std::string proposed;
+    const PrintRun run{.choosePdf = [&](const std::string& name) {
+        proposed = name;
+        return "/out/" + name;
+    }};
+    desk.person.answers = {Answer::Yes, Answer::Yes, Answer::No};
+    EXPECT_TRUE(reports.printMirrors(toPdf, run));
+    EXPECT_EQ(proposed, "ESPELHO DE PONTO 001 ANA DA CONCEIÇÃO 15-02-2024 a 20-03-2024.pdf");
+    ASSERT_EQ(office.engine.jobs.size(), 1U);
+    ASSERT_EQ(office.engine.jobs[0].cards.size(), 2U);
+    EXPECT_EQ(office.engine.jobs[0].cards[0].size(), 15U);
+    EXPECT_EQ(office.engine.jobs[0].cards[1].size(), 20U);
+}
+
+TEST_F(HoursReportsTest, MirrorsAreRefusedWithoutConsentDriveGroupOrData) {
+    const auto print = [&](Answer answer) {
+        desk.person.answers = {answer};
+        return reports.printMirrors({}, {});
+    };
+    EXPECT_FALSE(print(Answer::No));
+    reports.list().filterBy(ShiftFilter::Dois);
+    EXPECT_FALSE(print(Answer::Yes));
+    EXPECT_EQ(desk.person.takeTexts().back(), kNoData);
+    desk.session.folder = DataFolder('D', "/data");
+    EXPECT_FALSE(print(Answer::Yes));
+    EXPECT_THAT(desk.person.takeTexts().back(), HasSubstr("Diretório Inválido p/ Impressão!"));
+    EXPECT_TRUE(office.engine.jobs.empty());
+    desk.session.folder = DataFolder('C', "/data");
+    reports.list().filterBy(ShiftFilter::Unico);
+    office.engine.outcomes = {testing::RecordingEngine::Outcome::NoPrinter};
+    EXPECT_FALSE(print(Answer::Yes));
+    EXPECT_THAT(desk.person.takeTexts().back(), HasSubstr("não há Impressoras Instalada no PC!"));
+    Employee ana = reports.list().employees()[0];
+    ana.scale = "12x36";
+    desk.file("01CartaPonto") = testing::employeeList({ana});
+    reports.load();
+    office.engine.jobs.clear();
+    desk.person.answers = {Answer::Yes};
+    EXPECT_FALSE(reports.printManualSheet(0, {}, {}));
+    EXPECT_EQ(desk.person.takeTexts().back(),
+              "Portanto é Necessário PRIMEIRO adicioná-lo na ESCALA DE REVEZAMENTO!!!");
+    EXPECT_TRUE(office.engine.jobs.empty());
 }
 
 }  // namespace

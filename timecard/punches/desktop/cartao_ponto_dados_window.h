@@ -40,7 +40,7 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     void leavesRequested();
     /// "+ Quadro Horário e Escala de Revezamento": the same for the rotations.
     void rotationRequested();
-    /// "Espelho do Ponto" and "Resumo Folha de Ponto": the same for the mirrors and hours reports.
+    /// "Espelho do Ponto": the same for the mirrors and the hours reports.
     void mirrorRequested();
 
   protected:

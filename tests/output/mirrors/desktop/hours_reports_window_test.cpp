@@ -7,6 +7,7 @@
 #include "tests/support/hours_office.h"
 #include "tests/support/printed_text.h"
 #include "tests/support/window_driver.h"
+#include "timecard/hours/employee_hours.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -115,6 +116,65 @@ TEST(HoursReportsWindow, TakesThePeriodAndNamesItsInputs) {
               std::vector<std::string>{"Informe o Período do Relatório!"});
 }
 
+/// The program's own engine, with its layouts.
+struct PdfEngine {
+    QTemporaryDir folder;
+    testing::RecordedLog log;
+    QtReportEngine engine{[this] {
+                              return layoutFolders(
+                                  folder.path().toStdString(),
+                                  QCoreApplication::applicationDirPath().toStdString());
+                          },
+                          [this] { return std::filesystem::path(path("qdb.mdb")); }, log};
+
+    [[nodiscard]] std::string path(const std::string& name) const {
+        return folder.path().toStdString() + "/" + name;
+    }
+};
+
+/// The page says what the hours say, and the blank sheet says nothing of them.
+TEST(MirrorPage, IsPrintedWithDaysSumsAndNotes) {
+    testing::HoursOffice office;
+    PdfEngine pdf;
+    HoursReports reports(office.desk.at, {office.editor, office.spreadsheet, office.browser,
+                                          pdf.engine, office.rotation});
+    reports.load();
+    const PrintRun run{.choosePdf = [&](const std::string& name) { return pdf.path(name); }};
+    const PrintChoices toPdf{.output = ReportOutput::PdfFile};
+    const auto textOf = [&](const char* name) {
+        return testing::printedText(QString::fromStdString(pdf.path(name)));
+    };
+    office.desk.person.answers = {Answer::Yes, Answer::No, Answer::Yes, Answer::No};
+    ASSERT_TRUE(reports.printMirrors(toPdf, run));
+    const QString mirror = textOf("ESPELHO DE PONTO 001 ANA DA CONCEIÇÃO 03-2024.pdf");
+    const auto month =
+        loadEmployeeHours(office.desk.store(), *CompanyCode::parse("01"),
+                          reports.list().employees()[0],
+                          loadMonthSettings(office.desk.store(), testing::HoursOffice::kMarch),
+                          HoursPeriod::CalendarMonth)
+            ->totals();
+    QString sums = QStringLiteral("TOTAIS");
+    for (const std::chrono::seconds sum :
+         {month.worked(), month[HourCategory::NormalDay], month[HourCategory::NormalNight],
+          month[HourCategory::ExtraMinimum], month[HourCategory::ExtraMaximum],
+          month[HourCategory::NightExtraMinimum], month[HourCategory::NightExtraMaximum],
+          month[HourCategory::Missing]})
+        sums += QLatin1Char(' ') +
+                QString::fromStdString(formatted(sum, TotalsFormat::HoursAndMinutes));
+    for (const QString& part :
+         {sums, QStringLiteral("PADARIA SÃO JOÃO LTDA"), QStringLiteral("12.345.678/0001-95"),
+          QStringLiteral("529.982.247-25"), QStringLiteral("Falta Injustificada"),
+          QStringLiteral("05/ter/mar 08:00 12:00 13:00 17:00 08:03 12:00 13:00 17:00 21:00 23:30"),
+          QStringLiteral("05/ter/mar: variação de 3 min tolerada")})
+        EXPECT_TRUE(mirror.contains(part)) << part.toStdString() << "\n" << mirror.toStdString();
+    ASSERT_TRUE(reports.printManualSheet(0, toPdf, run));
+    const QString blank = textOf("FOLHA MANUAL DE PONTO 001 ANA DA CONCEIÇÃO 03-2024.pdf");
+    EXPECT_TRUE(blank.contains(QStringLiteral("05/ter/mar 08:00 12:00 13:00 17:00\n")))
+        << blank.toStdString();
+    EXPECT_FALSE(blank.contains(QStringLiteral("08:03")));
+    EXPECT_FALSE(blank.contains(QStringLiteral("Falta Injustificada")));
+}
+
 /// Bars as long as their figures say, on pages of thirty-two.
 TEST(HoursOverview, IsDrawnInBars) {
     using namespace std::chrono_literals;
@@ -126,19 +186,12 @@ TEST(HoursOverview, IsDrawnInBars) {
     const auto made = overviewPages(
         {company, {*parseDate("01/03/2024"), *parseDate("31/03/2024")}, TotalsFormat::DecimalHours},
         lines);
-    const QTemporaryDir folder;
-    testing::RecordedLog log;
-    QtReportEngine engine(
-        [&] {
-            return layoutFolders(folder.path().toStdString(),
-                                 QCoreApplication::applicationDirPath().toStdString());
-        },
-        [&] { return std::filesystem::path(folder.path().toStdString()) / "qdb.mdb"; }, log);
+    PdfEngine pdf;
     ReportRequest request = overviewRequest();
     request.output = ReportOutput::PdfFile;
-    request.pdfPath = folder.path().toStdString() + "/resumo.pdf";
+    request.pdfPath = pdf.path("resumo.pdf");
     ReportPages pages(made.size(), [&](std::size_t at) { return made[at]; });
-    ASSERT_EQ(engine.print(request, pages, [](int, int) { return true; }), PrintEnd::Done);
+    ASSERT_EQ(pdf.engine.print(request, pages, [](int, int) { return true; }), PrintEnd::Done);
     const QString text = testing::printedText(QString::fromStdString(request.pdfPath));
     EXPECT_TRUE(text.contains(QStringLiteral("PADARIA SÃO JOÃO LTDA")));
     EXPECT_TRUE(text.contains(QStringLiteral("Página 2/2")));
