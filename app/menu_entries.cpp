@@ -46,7 +46,7 @@ MenuEntries menuEntries(const Workplace& at, const CardPrintingDesk& desk, TextE
     };
     add(registerEntries(at, editor, rotation));
     add({monthEntry(at)});
-    const HoursEntryDesk hours{editor, desk.browser, desk.engine, rotation};
+    const HoursEntryDesk hours{editor, desk.browser, desk.engine, desk.printers, rotation};
     const auto openHours = [at, hours](QWidget* parent) { openHoursReports(at, hours, parent); };
     const LeavesDesk leaves{desk.engine, editor};
     add({timeCardEntry(

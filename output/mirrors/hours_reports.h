@@ -8,6 +8,7 @@
 #include "foundation/register/employee_list.h"
 #include "output/cards/card_run.h"
 #include "output/mirrors/mirror_period.h"
+#include "report/printers.h"
 #include "report/report_engine.h"
 #include "timecard/punches/rotation_calendar.h"
 
@@ -30,6 +31,7 @@ struct HoursReportsDesk {
     Spreadsheet& spreadsheet;
     Browser& browser;
     ReportEngine& engine;
+    const Printers& printers;
     const RotationCalendar& rotation;
 };
 
@@ -70,6 +72,12 @@ class HoursReports {
     /// "FOLHA MANUAL DE PONTO" of the selected employee: the same page without times.
     [[nodiscard]] bool printManualSheet(std::optional<std::size_t> position,
                                         const PrintChoices& choices, const PrintRun& run);
+    /// The work month's mirrors on the two sides of cards (stock "LadosPonto"), one card after the
+    /// other, each side confirmed; a prompt declined ends the run, and a card with one side only is
+    /// told of. Without prompts to the preview or a PDF file. The period becomes the work month.
+    /// `tellLine` may be empty.
+    [[nodiscard]] bool printSides(const PrintChoices& choices, const PrintRun& run,
+                                  const std::function<void(const std::string&)>& tellLine = {});
     /// "RESUMO DO MÊS": bars of everyone's hours, what needs attention first, to the preview.
     [[nodiscard]] bool showOverview(const PageProgress& progress = {});
 
@@ -93,6 +101,9 @@ class HoursReports {
     [[nodiscard]] bool requirePrintingDrive();
     /// Those of whom the period has a record.
     [[nodiscard]] People recordedOf(const People& people);
+    [[nodiscard]] CardBatch sidesBatch(const PrintChoices& choices);
+    [[nodiscard]] ReportRows sidesRows(const Employee& employee, const MonthSettings& month) const;
+    [[nodiscard]] bool printBothSides(const CardBatch& batch, const Employee& employee);
     struct MirrorForm;
     [[nodiscard]] bool print(const MirrorForm& form, const People& people,
                              const PrintChoices& choices, const PrintRun& run);

@@ -7,6 +7,7 @@
 #include "tests/support/employees.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
+#include "tests/support/test_printers.h"
 #include "timecard/month/month_settings.h"
 #include "timecard/month/selected_month.h"
 
@@ -34,7 +35,8 @@ struct HoursOffice {
     TestBrowser browser;
     RecordingEngine engine;
     TestRotation rotation;
-    HoursReports reports{desk.at, {editor, spreadsheet, browser, engine, rotation}};
+    TestPrinters printers;
+    HoursReports reports{desk.at, {editor, spreadsheet, browser, engine, printers, rotation}};
 
     HoursOffice() {
         Company company = sampleCompany(*parseDate("01/01/2024"));

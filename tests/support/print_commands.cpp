@@ -52,8 +52,9 @@ auto inHoursReports(Give give) {
         TestSpreadsheet spreadsheet;
         TestBrowser browser;
         RecordingEngine engine;
+        const TestPrinters printers;
         const TestRotation rotation;
-        HoursReports screen(at, {editor, spreadsheet, browser, engine, rotation});
+        HoursReports screen(at, {editor, spreadsheet, browser, engine, printers, rotation});
         screen.load();
         return give(screen);
     };

@@ -8,7 +8,8 @@ namespace winvrx {
 
 void openHoursReports(const Workplace& at, const HoursEntryDesk& desk, QWidget* parent) {
     XlsxSpreadsheet spreadsheet;
-    HoursReports reports(at, {desk.editor, spreadsheet, desk.browser, desk.engine, *desk.rotation});
+    HoursReports reports(
+        at, {desk.editor, spreadsheet, desk.browser, desk.engine, desk.printers, *desk.rotation});
     HoursReportsWindow(
         reports, [&at](QWidget* over) { openWorkMonth(at, over); }, parent)
         .exec();

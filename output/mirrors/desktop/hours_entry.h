@@ -9,6 +9,7 @@
 namespace winvrx {
 
 class Browser;
+class Printers;
 class ReportEngine;
 class RotationCalendar;
 class TextEditor;
@@ -18,6 +19,7 @@ struct HoursEntryDesk {
     TextEditor& editor;
     Browser& browser;
     ReportEngine& engine;
+    const Printers& printers;
     std::shared_ptr<const RotationCalendar> rotation;
 };
 

@@ -91,6 +91,10 @@ void HoursReportsWindow::buildClosingButtons() {
     });
     connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, report,
             &QPushButton::click);
+    QPushButton* sides = addClosingButton(QStringLiteral("Espelho nos &Lados do Cartão"),
+                                          QStringLiteral("horas.sides"));
+    sides->setIcon(look::icon(QStringLiteral("card")));
+    connect(sides, &QPushButton::clicked, this, &HoursReportsWindow::printSides);
     QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("horas.close"));
     connect(close, &QPushButton::clicked, this, &HoursReportsWindow::reject);
 }
@@ -244,6 +248,15 @@ void HoursReportsWindow::printManualSheet() {
     PrintChoices choices;
     output_->takeInto(choices);
     (void)reports_.printManualSheet(employees_->selected(), choices, pdfAsking(this));
+}
+
+void HoursReportsWindow::printSides() {
+    PrintChoices choices;
+    output_->takeInto(choices);
+    (void)reports_.printSides(choices, pdfAsking(this),
+                              [this](const std::string& line) { setState(toQt(line)); });
+    showPeriod();
+    showContext();
 }
 
 void HoursReportsWindow::exportSums() {

@@ -41,6 +41,8 @@ class HoursReportsWindow : public ScreenWindow {
     /// "Espelho de Ponto" of everyone, or "Folha Manual" of the employee selected.
     void printMirrors();
     void printManualSheet();
+    /// The mirrors on the two sides of cards.
+    void printSides();
     void exportSums();
 
     HoursReports& reports_;

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <deque>
 
 namespace winvrx {
 namespace {
@@ -259,6 +260,45 @@ TEST_F(HoursReportsTest, MirrorsAreRefusedWithoutConsentDriveGroupOrData) {
     EXPECT_EQ(desk.person.takeTexts().back(),
               "Portanto é Necessário PRIMEIRO adicioná-lo na ESCALA DE REVEZAMENTO!!!");
     EXPECT_TRUE(office.engine.jobs.empty());
+}
+
+/// A declined side ends the run after the side in hand.
+TEST_F(HoursReportsTest, CardSidesArePromptedOneByOne) {
+    const auto ready = [](const char* number) {
+        return std::string("PRONTO PARA IMPRIMIR A ") + number +
+               "º QUINZENA??          Coloque o Cartão na Impressora e Clique em <SIM> para "
+               "Prosseguir.. ";
+    };
+    reports.list().filterBy(ShiftFilter::Unico);
+    struct Case {
+        std::deque<Answer> answers;
+        std::vector<SheetSides> printed;
+        Texts told;
+    };
+    using enum SheetSides;
+    const std::string half = "1 cartão ficou impresso somente na 1º QUINZENA.";
+    for (const Case& one :
+         {Case{{Answer::No}, {}, {ready("1")}},
+          Case{{Answer::Yes, Answer::No}, {First}, {ready("1"), ready("2"), half}},
+          Case{{Answer::Yes, Answer::Yes}, {First, Second}, {ready("1"), ready("2")}}}) {
+        office.engine.jobs.clear();
+        desk.person.answers = {one.answers.begin(), one.answers.end()};
+        std::string line;
+        EXPECT_EQ(reports.printSides({.output = ReportOutput::Printer}, {},
+                                     [&](const std::string& text) { line = text; }),
+                  one.printed.size() == 2);
+        EXPECT_EQ(line, "Imprimindo Cartão do Funcionário:  ANA DA CONCEIÇÃO");
+        EXPECT_EQ(desk.person.takeTexts(), one.told);
+        std::vector<SheetSides> sides;
+        for (const auto& job : office.engine.jobs) {
+            sides.push_back(job.request.sides);
+            EXPECT_EQ(job.request.layoutName, "espelhosladopontocenter.rpt");
+            ASSERT_EQ(job.cards.at(0).size(), 31U);
+        }
+        EXPECT_EQ(sides, one.printed);
+    }
+    EXPECT_TRUE(reports.printSides({}, {}));
+    EXPECT_EQ(office.engine.jobs.back().request.sides, Both);
 }
 
 }  // namespace

@@ -137,7 +137,7 @@ TEST(MirrorPage, IsPrintedWithDaysSumsAndNotes) {
     testing::HoursOffice office;
     PdfEngine pdf;
     HoursReports reports(office.desk.at, {office.editor, office.spreadsheet, office.browser,
-                                          pdf.engine, office.rotation});
+                                          pdf.engine, office.printers, office.rotation});
     reports.load();
     const PrintRun run{.choosePdf = [&](const std::string& name) { return pdf.path(name); }};
     const PrintChoices toPdf{.output = ReportOutput::PdfFile};
@@ -172,6 +172,11 @@ TEST(MirrorPage, IsPrintedWithDaysSumsAndNotes) {
     EXPECT_TRUE(blank.contains(QStringLiteral("05/ter/mar 08:00 12:00 13:00 17:00\n")))
         << blank.toStdString();
     EXPECT_FALSE(blank.contains(QStringLiteral("08:03")));
+    office.desk.person.answers = {Answer::No};
+    ASSERT_TRUE(reports.printSides(toPdf, run));
+    const QString sides = textOf("ESPELHO DE PONTO 001 ANA DA CONCEIÇÃO 03-2024.pdf");
+    for (const char* part : {"1º QUINZENA", "2º QUINZENA", "08:03", "29 sex"})
+        EXPECT_TRUE(sides.contains(QString::fromUtf8(part))) << sides.toStdString();
     EXPECT_FALSE(blank.contains(QStringLiteral("Falta Injustificada")));
 }
 
