@@ -29,4 +29,8 @@ std::chrono::weekday weeklyRestOf(const Employee& employee) {
     return std::chrono::Sunday;
 }
 
+std::chrono::weekday restByCalendar(const Employee& employee) {
+    return employee.scaleOr() == Scale::Normal ? weeklyRestOf(employee) : std::chrono::Sunday;
+}
+
 }  // namespace winvrx

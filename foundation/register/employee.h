@@ -111,5 +111,8 @@ struct RecordLayout<Employee> : LineLayout<kEmployeeFields, kEmployeeWidth, 0> {
 /// The weekday of the employee's weekly rest, by its first three letters in any case; Sunday where
 /// the record does not say.
 [[nodiscard]] std::chrono::weekday weeklyRestOf(const Employee& employee);
+/// The weekday without work for him: his weekly rest; Sunday in a rotation, whose days off move
+/// through the week.
+[[nodiscard]] std::chrono::weekday restByCalendar(const Employee& employee);
 
 }  // namespace winvrx

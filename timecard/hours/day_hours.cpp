@@ -42,9 +42,9 @@ DayTerms dayTerms(const PunchLine& line, Date date, const WorkTerms& terms) {
     day.paidRest = weekday == std::chrono::Sunday || terms.isHoliday(date);
     if (day.paidRest || meaning == DayMeaning::Holiday || meaning == DayMeaning::WeeklyRest)
         day.rest = HourRule::RestDay;
-    const bool rests = weekday == terms.restDay && meaning == DayMeaning::Work && !line.hasTimes();
-    if (!day.rest && !rests && meaning != DayMeaning::Leave)
-        day.scheduled = scheduledOn(weekday, terms);
+    else if (weekday == terms.restDay && meaning == DayMeaning::Work)
+        day.rest = HourRule::OwnRestDay;
+    if (!day.rest && meaning != DayMeaning::Leave) day.scheduled = scheduledOn(weekday, terms);
     return day;
 }
 

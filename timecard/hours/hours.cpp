@@ -35,7 +35,7 @@ WorkTerms workTerms(const MonthSettings& settings, const OvertimeRules& overtime
     return {schedule.weekday,
             schedule.saturday,
             schedule.saturdayIsNormal,
-            weeklyRestOf(employee),
+            restByCalendar(employee),
             std::move(leaves),
             settings.holidays(),
             overtime};

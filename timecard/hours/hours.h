@@ -72,7 +72,7 @@ struct WorkTerms {
     DaySchedule weekday;
     DaySchedule saturday;
     bool saturdayIsNormal = false;
-    std::chrono::weekday restDay = std::chrono::Sunday;  ///< the employee's own weekly rest
+    std::chrono::weekday restDay = std::chrono::Sunday;  ///< `restByCalendar` of the employee
     LeaveCalendar leaves;  ///< days outside the contract count nothing
     std::vector<Date> holidays;
     OvertimeRules overtime;
@@ -101,6 +101,7 @@ enum class HourRule {
     UpToThreshold,    ///< extra, up to the daily threshold
     AboveThreshold,   ///< extra, above it
     RestDay,          ///< extra on a Sunday, a holiday or a day marked as rest
+    OwnRestDay,       ///< extra on the employee's own weekly rest day
     SingleLevel,      ///< extra, paid at one percentage only
     MarkedMissing,    ///< the day is marked as an absence
     ShortOfSchedule,  ///< worked less than the schedule asks for, beyond the tolerance

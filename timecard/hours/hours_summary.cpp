@@ -45,6 +45,8 @@ std::string wordsOf(HourRule rule, const OvertimeRules& rules) {
             return "acima de " + threshold;
         case HourRule::RestDay:
             return "domingo, feriado ou descanso";
+        case HourRule::OwnRestDay:
+            return "descanso semanal do funcionário";
         case HourRule::SingleLevel:
             return "percentual único";
         case HourRule::MarkedMissing:

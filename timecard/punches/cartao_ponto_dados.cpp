@@ -227,7 +227,7 @@ DayKind CartaoPontoDados::kindOf(int day) const {
     }
     if (settings_.isHoliday(date)) return DayKind::Holiday;
     const auto weekday = weekdayOf(date);
-    const bool ownRest = selected() && weekday == weeklyRestOf(*selected()) && !line.hasTimes();
+    const bool ownRest = selected() && weekday == restByCalendar(*selected());
     return ownRest || weekday == std::chrono::Sunday ? DayKind::WeeklyRest : DayKind::Work;
 }
 

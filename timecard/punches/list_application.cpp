@@ -125,7 +125,10 @@ void ListApplication::fillOne(Batch& batch, const Employee& employee, const Empl
     const bool replaced = rotation ? takeRotation(schedule, *rotation) : order_.common.has_value();
     requireReadable(schedule);
     requireReadable(leaves);
-    Application application{.schedule = schedule, .leaves = leaves, .situation = order_.situation};
+    Application application{.schedule = schedule,
+                            .leaves = leaves,
+                            .restDay = restByCalendar(employee),
+                            .situation = order_.situation};
     if (rotation) application.rotation = RotationTerms{*rotation, ownRestDay(employee)};
     if (order_.minutes == Minutes::Varied)
         application.spread = [&](const DaySchedule& day, Date date) {

@@ -45,7 +45,7 @@ void fill(PunchLine& line, Date date, const Application& application,
         fillRotation(line, date, application, settings.isHoliday(date));
     else if (settings.isHoliday(date))
         line.situation = kSituationHoliday;
-    else if (weekday == std::chrono::Sunday)
+    else if (weekday == std::chrono::Sunday || weekday == application.restDay)
         line.situation = kSituationWeeklyRest;
     else if (day != DaySchedule())
         putTimes(line, day, date, application);

@@ -21,7 +21,8 @@ struct RotationTerms {
 /// What an employee's month is filled from.
 struct Application {
     StandardSchedule schedule;
-    LeaveCalendar leaves = {};  ///< with the admission
+    LeaveCalendar leaves = {};                           ///< with the admission
+    std::chrono::weekday restDay = std::chrono::Sunday;  ///< the employee's own weekly rest
     /// Of the days of work for which the schedule has no times.
     std::string situation = {};
     std::optional<RotationTerms> rotation = {};
@@ -31,7 +32,7 @@ struct Application {
 
 /// Fills the month from the schedule. The first that fits decides: before the admission and after
 /// the end of the contract a day has its label only; in a leave the situation "AFASTAMENTO"; on a
-/// ticked holiday "FERIADO" and on a Sunday "DESCANSO SEMANAL"; a Saturday the
+/// ticked holiday "FERIADO" and on a Sunday and the own rest day "DESCANSO SEMANAL"; a Saturday the
 /// Saturday times; any other day morning and afternoon.
 ///
 /// In a rotation calendar and schedule do not count: a working day has its times, on a ticked

@@ -69,7 +69,8 @@ TEST(PunchApplication, TheFirstReasonInTheListDecides) {
         leaveBytes({vacation("20/01/2026", "04/02/2026"), vacation("14/02/2026", "15/02/2026")},
                    "26/02/2026"),
         parseDate("03/02/2026"));
-    const auto lines = filledMonth({.schedule = usualSchedule(), .leaves = leaves}, settings);
+    const auto lines = filledMonth(
+        {.schedule = usualSchedule(), .leaves = leaves, .restDay = std::chrono::Tuesday}, settings);
     struct Case {
         std::size_t day;
         const char* text;
@@ -80,7 +81,7 @@ TEST(PunchApplication, TheFirstReasonInTheListDecides) {
           Case{5, "08:00-12:00 13:00-17:00 "}, Case{7, "- - FERIADO"},   // Saturday
           Case{8, "- - DESCANSO SEMANAL"}, Case{14, "- - AFASTAMENTO"},  // Saturday
           Case{15, "- - AFASTAMENTO"},                                   // holiday on a Sunday
-          Case{17, "- - FERIADO"}, Case{24, "08:00-12:00 13:00-17:00 "}, Case{21, "07:00-11:00 - "},
+          Case{17, "- - FERIADO"}, Case{24, "- - DESCANSO SEMANAL"}, Case{21, "07:00-11:00 - "},
           Case{26, "08:00-12:00 13:00-17:00 "}, Case{27, "- - "}})  // the contract is over
         EXPECT_EQ(dayText(lines[c.day - 1]), c.text) << c.day;
 }
