@@ -216,7 +216,7 @@ bool Afastamento::changeActivation() {
         const bool inactivates = !isInactive();
         if (inactivates ? !requireTermination(title) : !requireNoTerminationDocument(title))
             return false;
-        if (inactivates && !requireDismissal(title)) return false;
+        if (!requireDismissal(title)) return false;
         if (form_.isLineChanged() && !confirmLeaving()) return false;
         if (!at_.person.agrees(question("Ativar/Inativar", "Confirma  " + std::string(title) +
                                                                "  Funcionário Selecionado?")) ||
