@@ -34,4 +34,12 @@ std::set<EmployeeCode> RecordedAnswers::closedIn(const CompanyCode& company, Wor
     return closed;
 }
 
+EmployeeList::Marks monthMarks(const Store& store, const CompanyCode& company, WorkMonth month,
+                               const FolderNames& names, const PayrollLock& payroll) {
+    auto marks = EmployeeList::leaveMarks(store, company, names, month);
+    for (const EmployeeCode& code : payroll.closedIn(company, month, names))
+        marks[code].closed = true;
+    return marks;
+}
+
 }  // namespace winvrx

@@ -2,6 +2,7 @@
 
 #include "foundation/files/data_folder.h"
 #include "foundation/files/folder_names.h"
+#include "foundation/register/employee_list.h"
 #include "foundation/values/codes.h"
 #include "foundation/values/date.h"
 
@@ -52,5 +53,10 @@ class RecordedAnswers final : public PayrollLock {
   private:
     Store store_;
 };
+
+/// What leaves and payroll say of a company's employees in a month.
+[[nodiscard]] EmployeeList::Marks monthMarks(const Store& store, const CompanyCode& company,
+                                             WorkMonth month, const FolderNames& names,
+                                             const PayrollLock& payroll);
 
 }  // namespace winvrx

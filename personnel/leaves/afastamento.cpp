@@ -43,16 +43,9 @@ Afastamento::Afastamento(const Workplace& at, const PayrollLock& payroll)
 
 bool Afastamento::open() {
     return attempt(at_, incorrectData(), [this] {
-        if (!at_.session.company) {
-            at_.person.tell(noCompany(at_));
-            return false;
-        }
-        const auto selected = loadSelectedMonth(at_.store());
-        if (!selected) {
-            at_.person.tell(noMonthChosen());
-            return false;
-        }
-        loadList(*at_.session.company, selected->month);
+        const auto month = requireSelectedMonth(at_);
+        if (!month) return false;
+        loadList(*at_.session.company, *month);
         return true;
     });
 }
@@ -61,9 +54,7 @@ void Afastamento::loadList(const CompanyCode& company, WorkMonth month) {
     const auto lines = EmployeeRegister(at_.store(), company).load();
     std::string title = titleOf(loadCompanies(at_.store()), company);
     const FolderNames names = namesIn(at_.store());
-    auto marks = EmployeeList::leaveMarks(at_.store(), company, names, month);
-    for (const EmployeeCode& code : payroll_.closedIn(company, month, names))
-        marks[code].closed = true;
+    auto marks = monthMarks(at_.store(), company, month, names, payroll_);
     const std::string chosen = selected() ? selected()->code : "";
     companyTitle_ = std::move(title);
     month_ = month;

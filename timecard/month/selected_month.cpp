@@ -1,6 +1,7 @@
 #include "timecard/month/selected_month.h"
 
 #include "foundation/files/record_file.h"
+#include "foundation/register/company_register.h"
 
 namespace winvrx {
 
@@ -21,6 +22,19 @@ void saveSelectedMonth(const Store& store, const SelectedMonth& selected) {
 Message noMonthChosen() {
     return refusal("Aviso", "Informe um Mês de Trabalho!!",
                    "Escolha-o em \"Mês\" (F4), na janela principal.");
+}
+
+std::optional<WorkMonth> requireSelectedMonth(const Workplace& at) {
+    if (!at.session.company) {
+        at.person.tell(noCompany(at));
+        return std::nullopt;
+    }
+    const auto selected = loadSelectedMonth(at.store());
+    if (!selected) {
+        at.person.tell(noMonthChosen());
+        return std::nullopt;
+    }
+    return selected->month;
 }
 
 }  // namespace winvrx

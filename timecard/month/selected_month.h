@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/desk/command.h"
 #include "foundation/desk/message.h"
 #include "foundation/files/data_folder.h"
 #include "foundation/values/date.h"
@@ -22,5 +23,7 @@ void saveSelectedMonth(const Store& store, const SelectedMonth& selected);
 
 /// "Informe um Mês de Trabalho!!", titled "Aviso": what a screen says that needs a month.
 [[nodiscard]] Message noMonthChosen();
+/// The month chosen, for a screen of the company in use; tells when either is missing.
+[[nodiscard]] std::optional<WorkMonth> requireSelectedMonth(const Workplace& at);
 
 }  // namespace winvrx

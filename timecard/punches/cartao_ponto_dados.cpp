@@ -1,6 +1,7 @@
 #include "timecard/punches/cartao_ponto_dados.h"
 
 #include "foundation/register/company_register.h"
+#include "foundation/register/employee_queries.h"
 #include "timecard/month/overtime_record.h"
 #include "timecard/month/selected_month.h"
 #include "timecard/punches/cell_block.h"
@@ -51,16 +52,9 @@ CartaoPontoDados::CartaoPontoDados(const Workplace& at, const PunchDesk& desk)
 
 bool CartaoPontoDados::open() {
     return attempt(at_, incorrectData(), [this] {
-        if (!at_.session.company) {
-            at_.person.tell(noCompany(at_));
-            return false;
-        }
-        const auto selected = loadSelectedMonth(at_.store());
-        if (!selected) {
-            at_.person.tell(noMonthChosen());
-            return false;
-        }
-        loadList(*at_.session.company, loadMonthSettings(at_.store(), selected->month));
+        const auto month = requireSelectedMonth(at_);
+        if (!month) return false;
+        loadList(*at_.session.company, loadMonthSettings(at_.store(), *month));
         return true;
     });
 }
@@ -69,9 +63,7 @@ void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings&
     const auto lines = EmployeeRegister(at_.store(), company).load();
     std::string name = nameOf(at_, company);
     const FolderNames names = namesIn(at_.store());
-    auto marks = EmployeeList::leaveMarks(at_.store(), company, names, settings.month);
-    for (const EmployeeCode& code : desk_.payroll.closedIn(company, settings.month, names))
-        marks[code].closed = true;
+    auto marks = monthMarks(at_.store(), company, settings.month, names, desk_.payroll);
     minutes_ = loadMinutes(at_.store());
     const std::string chosen = company_ == company && selected() ? selected()->code : "";
     company_ = company;

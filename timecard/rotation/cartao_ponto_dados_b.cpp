@@ -2,6 +2,7 @@
 
 #include "foundation/files/folder_names.h"
 #include "foundation/register/company_register.h"
+#include "foundation/register/employee_queries.h"
 #include "timecard/hours/hours_format.h"
 #include "timecard/month/selected_month.h"
 #include "timecard/schedule/typed_time.h"
@@ -16,7 +17,6 @@ constexpr std::string_view kWeekly = " HORAS SEMANAIS";
 const std::string kTableTitle = "Quadro de Horário de  Trabalho";
 const std::string kGroupTitle = "Escala de Revezamento";
 
-const Message kNoMonth = refusal("Aviso", "Informe um Mês de Trabalho!!");
 const Message kScaleBarsShift = refusal("Aviso", "Dado Incorreto!",
                                         "A escala 12x36 é permitida somente nos turnos 1 e 3. "
                                         "Escolha primeiro um desses turnos.");
@@ -59,16 +59,9 @@ CartaoPontoDadosB::CartaoPontoDadosB(const Workplace& at, const RotationDesk& de
 
 bool CartaoPontoDadosB::open() {
     return attempt(at_, incorrectData(), [this] {
-        if (!at_.session.company) {
-            at_.person.tell(noCompany(at_));
-            return false;
-        }
-        const auto selected = loadSelectedMonth(at_.store());
-        if (!selected) {
-            at_.person.tell(kNoMonth);
-            return false;
-        }
-        load(*at_.session.company, loadMonthSettings(at_.store(), selected->month));
+        const auto month = requireSelectedMonth(at_);
+        if (!month) return false;
+        load(*at_.session.company, loadMonthSettings(at_.store(), *month));
         return true;
     });
 }
@@ -77,9 +70,7 @@ void CartaoPontoDadosB::load(const CompanyCode& company, const MonthSettings& se
     const auto lines = EmployeeRegister(at_.store(), company).load();
     const auto found = findCompany(at_.store(), company);
     const FolderNames names = namesIn(at_.store());
-    auto marks = EmployeeList::leaveMarks(at_.store(), company, names, settings.month);
-    for (const EmployeeCode& code : desk_.payroll.closedIn(company, settings.month, names))
-        marks[code].closed = true;
+    auto marks = monthMarks(at_.store(), company, settings.month, names, desk_.payroll);
     RotationPeople people;
     for (const EmployeeLine& line : lines) {
         if (!line.key() || line.record.scaleOr() == Scale::Normal) continue;

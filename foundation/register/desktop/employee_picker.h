@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+#include <array>
 #include <functional>
 #include <span>
 
@@ -16,6 +17,10 @@ class QPushButton;
 namespace winvrx {
 
 class SearchBox;
+
+/// Every shift that a list can be narrowed to.
+inline constexpr std::array kAllShiftFilters = {
+    ShiftFilter::Todos, ShiftFilter::Unico, ShiftFilter::Um, ShiftFilter::Dois, ShiftFilter::Tres};
 
 /// The employees that a screen works on: shift and scale, search, list. Marks and what else is to
 /// be said of an employee stand in lines under his name. An empty list says what to do next.

@@ -20,8 +20,6 @@
 #include <QShortcut>
 #include <QToolButton>
 
-#include <memory>
-
 namespace winvrx {
 
 namespace {
@@ -29,8 +27,6 @@ namespace {
 /// Of the side; both halves beside it bring one more column of hours.
 constexpr int kSideWidth = 288;
 constexpr int kWideSideWidth = 332;
-constexpr std::array kShiftFilters = {ShiftFilter::Todos, ShiftFilter::Unico, ShiftFilter::Um,
-                                      ShiftFilter::Dois, ShiftFilter::Tres};
 const QString kNoMonth = QStringLiteral(
     "Escolha primeiro o mês de trabalho em \"Configurações Feriados e Horas extras\" (F7).");
 
@@ -75,7 +71,7 @@ QWidget* CartaoPontoDadosWindow::buildSide() {
     look::layOutPart(*column);
     employees_ = new EmployeePicker(
         command_.list(),
-        {.screen = QStringLiteral("card"), .shifts = kShiftFilters, .scales = true}, side_);
+        {.screen = QStringLiteral("card"), .shifts = kAllShiftFilters, .scales = true}, side_);
     column->addWidget(employees_, 1);
     column->addWidget(buildHours());
     QRadioButton* enter = buildEntryMode(QStringLiteral("Usar Tecla &ENTER"),
@@ -307,9 +303,7 @@ void CartaoPontoDadosWindow::showSheet() {
 void CartaoPontoDadosWindow::showEdit(std::optional<int> day) {
     if (!day) return;
     showSheet();
-    const HalfMonth place = *day <= daysOf(HalfMonth::First, command_.settings().month).last
-                                ? HalfMonth::First
-                                : HalfMonth::Second;
+    const HalfMonth place = halfOf(plusDays(firstDay(command_.settings().month), *day - 1));
     if (place == shown_) return;
     showHalf(place);
     half(place).grid().setCurrentIndex(half(place).model().indexOfDay(*day));

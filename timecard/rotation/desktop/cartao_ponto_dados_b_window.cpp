@@ -22,8 +22,6 @@ namespace {
 
 constexpr int kSideWidth = 288;
 constexpr int kGroupRows = 4;  ///< that the list shows without scrolling
-constexpr std::array kShiftFilters = {ShiftFilter::Todos, ShiftFilter::Unico, ShiftFilter::Um,
-                                      ShiftFilter::Dois, ShiftFilter::Tres};
 
 QString scaleText(Scale scale) {
     switch (scale) {
@@ -98,7 +96,7 @@ void CartaoPontoDadosBWindow::buildEmployees() {
     employees_ = new EmployeePicker(
         command_.list(),
         {.screen = QStringLiteral("rotation"),
-         .shifts = kShiftFilters,
+         .shifts = kAllShiftFilters,
          .details =
              [this](const Employee& employee) {
                  return toQt(command_.captionOf(*command_.list().positionOf(employee.code)));
