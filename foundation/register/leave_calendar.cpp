@@ -3,7 +3,6 @@
 #include "foundation/values/text.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace winvrx {
 
@@ -21,8 +20,8 @@ std::optional<LeavePeriod> daysAway(const Leave& leave, LeavePeriod period) {
 constexpr int kLongestNotice = 90;
 
 Date endOfContract(const std::vector<DatedLeave>& leaves, Date inactiveSince) {
-    for (const DatedLeave& one : leaves | std::views::reverse)
-        if (const auto worked = one.leave.lastDayWorked();
+    for (auto one = leaves.rbegin(); one != leaves.rend(); ++one)
+        if (const auto worked = one->leave.lastDayWorked();
             worked && plusDays(*worked, kLongestNotice) >= inactiveSince)
             return std::min(*worked, inactiveSince);
     return inactiveSince;

@@ -3,7 +3,6 @@
 #include "foundation/values/text.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace winvrx {
 

@@ -31,7 +31,7 @@ void addNumbered(std::vector<std::string>& names, const char* stem, std::size_t 
 /// Normal by day and by night, extra of each rate, missing.
 std::vector<HourColumn> hourColumns(const OvertimeRules& rules) {
     auto columns = summaryColumns(rules);
-    std::ranges::rotate(columns, columns.end() - 1);
+    std::rotate(columns.begin(), columns.end() - 1, columns.end());
     columns.erase(columns.begin() + 1);  // the standard hours, a month's figure
     std::rotate(columns.begin() + 1, columns.begin() + 3, columns.begin() + 4);
     return columns;
