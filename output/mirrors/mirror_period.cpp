@@ -73,6 +73,9 @@ MirrorSheet MirrorPeriod::of(const Employee& employee) const {
 
 std::vector<std::string> mirrorNotes(const MirrorSheet& sheet) {
     std::vector<std::string> notes;
+    for (const DatedLeave& one : sheet.leaves.leaves())
+        if (one.period.first <= sheet.period.last && one.period.last >= sheet.period.first)
+            notes.push_back("Afastamento: " + leaveText(one));
     for (const MirrorDay& day : sheet.days) {
         const auto say = [&](const std::string& what) {
             notes.push_back(day.line.label + ": " + what);

@@ -67,8 +67,9 @@ class MirrorPeriod {
     std::vector<MonthSettings> months_;
 };
 
-/// What stands under the hours, in date order: "05/ter/mar: variação de 4 min tolerada" where one
-/// was, what is doubtful about the day's times, and what was typed by hand in "Obs.".
+/// What stands under the hours: the leaves of the period, "Afastamento: FÉRIAS, 05/03/2024 a
+/// 06/03/2024", and in date order "05/ter/mar: variação de 4 min tolerada" where one was, what is
+/// doubtful about the day's times, and what was typed by hand in "Obs.".
 [[nodiscard]] std::vector<std::string> mirrorNotes(const MirrorSheet& sheet);
 
 }  // namespace winvrx

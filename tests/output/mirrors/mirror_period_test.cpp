@@ -66,10 +66,14 @@ TEST_F(MirrorPeriodTest, ARangeJoinsTheRecordsAndSettingsOfItsMonths) {
     EXPECT_EQ(sum, made.totals);
 }
 
-TEST_F(MirrorPeriodTest, NotesSayWhatWasToleratedDoubtfulAndTyped) {
+TEST_F(MirrorPeriodTest, NotesSayWhoWasAwayAndWhatWasToleratedDoubtfulAndTyped) {
+    file("01configAf001") =
+        "006 F\xC9RIAS                    01/03/2024  02/03/2024\r\n"
+        "006 F\xC9RIAS                    02/03/2024  03/03/2024\r\n**** \r\n";
     EXPECT_THAT(
         mirrorNotes(sheet("28/02/2024", "01/03/2024")),
-        ElementsAre("29/qui/fev: variação de 4 min tolerada", "29/qui/fev: observação \"visto\"",
+        ElementsAre("Afastamento: FÉRIAS, 01/03/2024 a 02/03/2024",
+                    "29/qui/fev: variação de 4 min tolerada", "29/qui/fev: observação \"visto\"",
                     "01/sex/mar: Tarde: falta a saída; o par não conta."));
 }
 
