@@ -37,12 +37,25 @@ Message confirmReopen(const OpenPayroll& payroll) {
                              "voltam a ser alterados livremente.");
 }
 
+Message noContractDays(const Employee& employee, WorkMonth month) {
+    Message message = incorrectData();
+    message.detail =
+        "O contrato de " + employee.name + " não tem dias em " + monthTitle(month) + ".";
+    return message;
+}
+
 bool hasAmounts(const PaySheet& sheet) {
     return std::ranges::any_of(sheet.lines,
                                [](const PayLine& line) { return line.amount.cents != 0; });
 }
 
 }  // namespace
+
+bool hasMovedOn(const OpenPayroll& payroll) {
+    if (!payroll.isRecorded || !payroll.now) return payroll.isRecorded;
+    const auto amount = [](const PayLine& line) { return std::pair(line.event.code, line.amount); };
+    return !std::ranges::equal(payroll.sheet.lines, payroll.now->lines, {}, amount, amount);
+}
 
 bool Folha::load(WorkMonth month) {
     shown_.reset();
@@ -70,13 +83,15 @@ std::optional<std::string> Folha::bytesOf(const Employee& employee) const {
     return store.files.read(store.folder.file(payrollFileName(keyOf(employee), month_.month)));
 }
 
-PaySheet Folha::sheetOf(const OpenPayroll& payroll, const TypedAmounts& typed) const {
+FileSystem::NewContent Folha::contentOf(const Employee& employee, const PaySheet& sheet) const {
+    return payrollContent(at_.store(), keyOf(employee), month_.month, sheet);
+}
+
+std::optional<PaySheet> Folha::sheetOf(const OpenPayroll& payroll,
+                                       const TypedAmounts& typed) const {
     const PayrollLaw law{tables_, settings_};
     const auto month = monthCase(law, payroll.month, lastDay(month_.month));
-    if (!month)
-        throw Fault("no day of the contract in " + monthKey(month_.month),
-                    "O contrato de " + payroll.month.employee.name + " não tem dias em " +
-                        monthTitle(month_.month) + ".");
+    if (!month) return std::nullopt;
     return paySheet(law, {.month = *month}, payroll.events, typed);
 }
 
@@ -90,32 +105,69 @@ OpenPayroll Folha::inputsOf(const Employee& employee, const FolderNames& names) 
     return payroll;
 }
 
-Folha::Opening Folha::open(const Employee& employee) {
-    shown_.reset();
-    Opening opening = Opening::Refused;
-    (void)attempt(at_, incorrectData(), [&] {
-        OpenPayroll payroll = inputsOf(employee, namesIn(at_.store()));
+PayrollGlance Folha::glance(const Employee& employee, const FolderNames& names) const {
+    using enum PayrollGlance::Lack;
+    OpenPayroll payroll = inputsOf(employee, names);
+    const bool canBePaid = payroll.month.hours && salaryOf(employee);
+    if (names.contains(payrollFileName(keyOf(employee), month_.month))) {
         payroll.bytes = bytesOf(employee);
         if (auto recorded = loadPayroll(at_.store(), keyOf(employee), month_.month)) {
             payroll.sheet = std::move(recorded->sheet);
             payroll.isRecorded = true;
-        } else if (!payroll.month.hours) {
-            if (at_.person.agrees(kNoCard)) opening = Opening::ToTimeCard;
-            return;
-        } else if (!salaryOf(employee)) {
-            at_.person.tell(noSalary(employee));
-            return;
-        } else {
-            payroll.sheet = sheetOf(payroll, {});
+            if (canBePaid) payroll.now = sheetOf(payroll, typedAmounts(payroll.sheet));
+            return {Nothing, std::move(payroll)};
         }
-        shown_ = std::move(payroll);
-        opening = Opening::Opened;
+    }
+    if (!payroll.month.hours) return {Card};
+    if (!canBePaid) return {Salary};
+    auto sheet = sheetOf(payroll, {});
+    if (!sheet) return {Contract};
+    payroll.sheet = *std::move(sheet);
+    return {Nothing, std::move(payroll)};
+}
+
+PayrollGlance::Lack Folha::show(const Employee& employee) {
+    shown_.reset();
+    auto lack = PayrollGlance::Lack::Nothing;
+    (void)attempt(at_, incorrectData(), [&] {
+        PayrollGlance seen = glance(employee, namesIn(at_.store()));
+        lack = seen.lack;
+        if (seen.payroll) asShown_ = contentOf(employee, seen.payroll->sheet).bytes;
+        shown_ = std::move(seen.payroll);
     });
-    return opening;
+    return lack;
+}
+
+Folha::Opening Folha::open(const Employee& employee) {
+    switch (show(employee)) {
+        case PayrollGlance::Lack::Nothing:
+            return shown_ ? Opening::Opened : Opening::Refused;
+        case PayrollGlance::Lack::Card:
+            return at_.person.agrees(kNoCard) ? Opening::ToTimeCard : Opening::Refused;
+        case PayrollGlance::Lack::Salary:
+            at_.person.tell(noSalary(employee));
+            return Opening::Refused;
+        case PayrollGlance::Lack::Contract:
+            at_.person.tell(noContractDays(employee, month_.month));
+            return Opening::Refused;
+    }
+    return Opening::Refused;
 }
 
 bool Folha::compute(const TypedAmounts& typed) {
-    return attempt(at_, incorrectData(), [&] { shown_->sheet = sheetOf(*shown_, typed); });
+    return attempt(at_, incorrectData(), [&] {
+        auto sheet = sheetOf(*shown_, typed);
+        if (!sheet) {
+            at_.person.tell(noContractDays(shown_->month.employee, month_.month));
+            return false;
+        }
+        shown_->sheet = *std::move(sheet);
+        return true;
+    });
+}
+
+bool Folha::isChanged() const {
+    return shown_ && contentOf(shown_->month.employee, shown_->sheet).bytes != asShown_;
 }
 
 void Folha::requireUnchanged() const {
@@ -130,9 +182,10 @@ bool Folha::save() {
     if (!at_.person.agrees(confirmSave(*shown_))) return false;
     return attemptWriting(at_, incorrectData(), [&] {
         requireUnchanged();
-        auto content =
-            payrollContent(at_.store(), keyOf(shown_->month.employee), month_.month, shown_->sheet);
+        auto content = contentOf(shown_->month.employee, shown_->sheet);
         at_.files.replaceAll({content});
+        asShown_ = content.bytes;
+        shown_->now = shown_->sheet;
         shown_->bytes = std::move(content.bytes);
         shown_->isRecorded = true;
     });
@@ -143,17 +196,12 @@ bool Folha::computeAll(const std::vector<Employee>& employees, const Progress& p
     int done = 0;
     const FolderNames names = namesIn(at_.store());
     for (const Employee& employee : employees) {
-        OpenPayroll payroll;
-        if (names.contains(payrollFileName(keyOf(employee), month_.month))) {
+        if (names.contains(payrollFileName(keyOf(employee), month_.month)))
             unsaved.recorded.push_back(employee.name);
-        } else if (payroll = inputsOf(employee, names);
-                   !payroll.month.hours || !salaryOf(employee) ||
-                   !monthCase({tables_, settings_}, payroll.month, lastDay(month_.month))) {
+        else if (const auto seen = glance(employee, names); seen.payroll)
+            batch.push_back(contentOf(employee, seen.payroll->sheet));
+        else
             unsaved.without.push_back(employee.name);
-        } else {
-            batch.push_back(
-                payrollContent(at_.store(), keyOf(employee), month_.month, sheetOf(payroll, {})));
-        }
         if (progress && !progress(++done, static_cast<int>(employees.size()))) return false;
     }
     return true;
@@ -203,6 +251,11 @@ bool Folha::reopen() {
         (void)reopenPayroll(at_.store(), keyOf(shown_->month.employee), month_.month);
         shown_->bytes.reset();
         shown_->isRecorded = false;
+        if (shown_->now) shown_->sheet = *std::move(shown_->now);
+        shown_->now.reset();
+        // What was typed is now on this screen only.
+        const bool isTyped = !typedAmounts(shown_->sheet).empty();
+        asShown_ = isTyped ? "" : contentOf(shown_->month.employee, shown_->sheet).bytes;
     });
 }
 

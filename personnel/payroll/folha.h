@@ -21,7 +21,20 @@ struct OpenPayroll {
     PaySheet sheet;
     bool isRecorded = false;
     std::optional<std::string> bytes;  ///< of the file as it was read; nullopt where none stood
+    /// Of a recorded month: what it comes to now; nullopt where it cannot be computed any more.
+    std::optional<PaySheet> now = {};
 };
+
+/// An employee's month, or what keeps it from being computed.
+struct PayrollGlance {
+    enum class Lack { Nothing, Card, Salary, Contract };
+
+    Lack lack = Lack::Nothing;  ///< of a recorded month nothing
+    std::optional<OpenPayroll> payroll = {};
+};
+
+/// Whether a recorded month, recorded again, would have other amounts, or could not be computed.
+[[nodiscard]] bool hasMovedOn(const OpenPayroll& payroll);
 
 /// The payroll screen: computes, records and reopens the months of a company's employees. A command
 /// that is refused or fails leaves every file as it was.
@@ -33,9 +46,15 @@ class Folha {
 
     /// Reads what all payrolls of a month need. False, and told, when something cannot be read.
     [[nodiscard]] bool load(WorkMonth month);
+    [[nodiscard]] const MonthSettings& month() const { return month_; }
     [[nodiscard]] const PayrollSettings& settings() const { return settings_; }
     /// Sentences on tables that have no line of the month's own.
     [[nodiscard]] std::vector<std::string> warnings() const;
+
+    /// The month of an employee; `names` are those in the folder. Throws FileFault.
+    [[nodiscard]] PayrollGlance glance(const Employee& employee, const FolderNames& names) const;
+    /// Shows it and asks nothing; what cannot be read is told, and then nothing is shown.
+    PayrollGlance::Lack show(const Employee& employee);
 
     enum class Opening { Opened, ToTimeCard, Refused };
     /// Computes the month of an employee, or takes it as it is recorded. Where no card is filled it
@@ -44,6 +63,8 @@ class Folha {
     [[nodiscard]] const std::optional<OpenPayroll>& shown() const { return shown_; }
     /// Computes the month that is shown anew, with these amounts typed over.
     [[nodiscard]] bool compute(const TypedAmounts& typed);
+    /// Whether amounts were typed since the month that is shown was computed or read.
+    [[nodiscard]] bool isChanged() const;
 
     /// "Gravar Selecionado": records what is shown and closes the month for the employee.
     [[nodiscard]] bool save();
@@ -61,8 +82,12 @@ class Folha {
     };
 
     [[nodiscard]] OpenPayroll inputsOf(const Employee& employee, const FolderNames& names) const;
-    [[nodiscard]] PaySheet sheetOf(const OpenPayroll& payroll, const TypedAmounts& typed) const;
+    /// nullopt where the contract has no day in the month.
+    [[nodiscard]] std::optional<PaySheet> sheetOf(const OpenPayroll& payroll,
+                                                  const TypedAmounts& typed) const;
     [[nodiscard]] std::optional<std::string> bytesOf(const Employee& employee) const;
+    [[nodiscard]] FileSystem::NewContent contentOf(const Employee& employee,
+                                                   const PaySheet& sheet) const;
     [[nodiscard]] EmployeeKey keyOf(const Employee& employee) const;
     void requireUnchanged() const;
     [[nodiscard]] bool computeAll(const std::vector<Employee>& employees, const Progress& progress,
@@ -77,6 +102,7 @@ class Folha {
     PayrollSettings settings_;
     PayrollEvents companyEvents_;
     std::optional<OpenPayroll> shown_;
+    std::string asShown_;  ///< what the file of the sheet would hold, before anything is typed
 };
 
 }  // namespace winvrx

@@ -76,7 +76,9 @@ TEST_F(FolhaTest, OpensInTheOrderOfItsChecks) {
 TEST_F(FolhaTest, RecordsReadsAndReopens) {
     EXPECT_FALSE(folha.save());
     EXPECT_EQ(folha.open(ana), Opened);
+    EXPECT_FALSE(folha.isChanged());
     EXPECT_TRUE(folha.compute({{EventCode::parse("025").value(), {5000}}}));
+    EXPECT_TRUE(folha.isChanged());
     EXPECT_FALSE(folha.save());
     EXPECT_FALSE(files.content.contains(kPayroll));
     person.answers = {Yes};
@@ -89,10 +91,19 @@ TEST_F(FolhaTest, RecordsReadsAndReopens) {
     EXPECT_EQ(other.open(ana), Opened);
     EXPECT_TRUE(other.shown()->isRecorded);
     EXPECT_EQ(other.shown()->sheet.net, net);
+    EXPECT_FALSE(hasMovedOn(*other.shown()));
+    Employee raised = ana;
+    raised.salary = "3.100,00";
+    EXPECT_EQ(other.show(raised), PayrollGlance::Lack::Nothing);
+    EXPECT_TRUE(hasMovedOn(*other.shown()));
+    EXPECT_EQ(other.shown()->sheet.net, net);
+    EXPECT_EQ(other.shown()->now->amountOf("001"), Money{310000});
+    EXPECT_EQ(other.show(ana), PayrollGlance::Lack::Nothing);
     EXPECT_EQ(typedAmounts(other.shown()->sheet).size(), 1U);
     EXPECT_FALSE(other.reopen());
     person.answers = {Yes};
     EXPECT_TRUE(other.reopen());
+    EXPECT_TRUE(other.isChanged()) << "what was typed is on the screen only";
     EXPECT_FALSE(files.content.contains(kPayroll));
 
     // The first screen shows what is gone: it writes nothing over it.
