@@ -62,6 +62,8 @@ TEST(DataFolder, NamesAreReadByPosition) {
                           {"01MedHorExtr001", true, true},
                           {"01configAf001", true, true},
                           {"01configAf010", true, false},
+                          {"01contrato001", true, true},
+                          {"01contrato002", true, false},
                           {"01TRTC001", true, true},
                           {"01THRTC002", true, false},
                           {"01AviTRTC001", true, true},

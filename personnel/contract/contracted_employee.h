@@ -1,0 +1,20 @@
+#pragma once
+
+#include "foundation/desk/command.h"
+#include "foundation/register/employee.h"
+
+namespace winvrx {
+
+/// Whether papers may be printed for the employee. Tells, where they may not, the first that holds:
+/// no company is selected; no employee (nullptr, or one without a code), in the words of
+/// `noEmployee`; the employee is inactive by his leave file; no contract has been generated. To be
+/// asked under `attempt`: throws FileFault.
+[[nodiscard]] bool requireContractedEmployee(const Workplace& at, const Employee* employee,
+                                             const Message& noEmployee);
+
+/// "Pesquise e Selecione um Funcionário na Lista! ", what the reports screen says.
+[[nodiscard]] Message searchAndSelectEmployee();
+/// "É necessário Selecioar um Funcionário na Lista!!", what the documents screen says.
+[[nodiscard]] Message employeeIsNeeded();
+
+}  // namespace winvrx
