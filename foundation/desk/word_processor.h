@@ -23,6 +23,7 @@ struct Paragraph {
     bool bold = false;
     int points = 11;
     bool startsPage = false;
+    int below = 0;  ///< millimetres to what follows
 };
 
 /// Rows of as many cells as there are columns. A table longer than a page has its first row on

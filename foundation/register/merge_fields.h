@@ -1,12 +1,8 @@
 #pragma once
 
+#include "foundation/desk/merge_words.h"
 #include "foundation/register/company.h"
 #include "foundation/register/employee.h"
-#include "foundation/values/faults.h"
-
-#include <map>
-#include <string>
-#include <string_view>
 
 // What company, employee and month give to a page. The names stand here once, for card headers,
 // mirrors, labels, contracts and documents alike:
@@ -16,29 +12,6 @@
 //   words.filled("{nome} trabalha desde {admissao}.")
 
 namespace winvrx {
-
-/// A text asks for a word that its page does not have, or leaves a brace open.
-class UnknownWord : public Fault {
-  public:
-    explicit UnknownWord(std::string_view word);
-};
-
-/// Words by name. Values are UTF-8 and may be empty.
-class MergeWords {
-  public:
-    /// In place of an earlier value of that name.
-    void put(std::string_view name, std::string value);
-
-    /// Throws UnknownWord.
-    [[nodiscard]] const std::string& at(std::string_view name) const;
-
-    /// `text` with the value in place of each name in braces. Braces within a value stay as they
-    /// are. Throws UnknownWord.
-    [[nodiscard]] std::string filled(std::string_view text) const;
-
-  private:
-    std::map<std::string, std::string, std::less<>> values_;
-};
 
 /// Every word that the two registers give. Those of the company that an employee has too end in
 /// "_empresa", those of its owner in "_proprietario".

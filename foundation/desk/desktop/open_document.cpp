@@ -40,7 +40,8 @@ std::string alignmentOf(const Paragraph& paragraph) {
 
 std::string styleOf(const Paragraph& paragraph) {
     return alignmentOf(paragraph) + std::to_string(paragraph.points) +
-           (paragraph.bold ? "bold" : "") + (paragraph.startsPage ? "page" : "");
+           (paragraph.bold ? "bold" : "") + (paragraph.startsPage ? "page" : "") +
+           (paragraph.below > 0 ? "below" + std::to_string(paragraph.below) : "");
 }
 
 std::string columnStyle(int width) {
@@ -167,9 +168,9 @@ void DocumentWriter::writeStyle(const Paragraph& paragraph) {
     const std::string name = styleOf(paragraph);
     if (!styles_.insert(name).second) return;
     open("style:style", {{"style:name", name}, {"style:family", "paragraph"}});
-    put("style:paragraph-properties",
-        {{"fo:text-align", alignmentOf(paragraph)},
-         {"fo:break-before", paragraph.startsPage ? "page" : "auto"}});
+    put("style:paragraph-properties", {{"fo:text-align", alignmentOf(paragraph)},
+                                       {"fo:break-before", paragraph.startsPage ? "page" : "auto"},
+                                       {"fo:margin-bottom", millimetres(paragraph.below)}});
     put("style:text-properties", {{"fo:font-size", std::to_string(paragraph.points) + "pt"},
                                   {"fo:font-weight", paragraph.bold ? "bold" : "normal"}});
     close();
