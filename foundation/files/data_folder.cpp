@@ -75,7 +75,7 @@ std::optional<std::string_view> stemOf(std::string_view name) {
 
 /// Where the name of an employee's file carries the employee code, counted from 1.
 std::size_t employeeCodeStart(std::string_view name) {
-    if (isPayrollFile(name)) return kPayrollEmployeeStart;
+    if (isFileOfAnyRun(name)) return kPayrollEmployeeStart;
     return 3 + stemOf(name).value_or(std::string_view()).size();
 }
 

@@ -1,7 +1,5 @@
 #include "personnel/payroll/folha.h"
 
-#include "timecard/month/holiday_offer.h"
-
 #include <algorithm>
 
 namespace winvrx {
@@ -14,6 +12,11 @@ constexpr std::string_view kSaveAllTitle = "GRAVAR TODOS";
 
 const Message kNoCard =
     question(kTitle, "Planilha de Ponto não Preenchida! Deseja ir para a Planilha de Ponto?");
+const Message kFirstBeforeSecond =
+    refusal(kTitle, "Antes de Gerar a 2º Parcela  DO 13º, grave a 1º PARCELA!!");
+constexpr std::string_view kNoFirstInstalment = "1º PARCELA DO 13º SALARIO NÃO GERADA!";
+const Message kSecondStands = refusal(
+    kTitle, "A 1º PARCELA não pode ser reaberta enquanto a 2º PARCELA do ano está gravada.");
 const Message kNothingToSave = refusal(kSaveTitle, "Não Há Dados para Gravação!");
 
 Message noSalary(const Employee& employee) {
@@ -30,11 +33,20 @@ Message confirmSave(const OpenPayroll& payroll) {
 
 Message confirmReopen(const OpenPayroll& payroll) {
     const Employee& employee = payroll.month.employee;
-    return riskyQuestion(kTitle, "Deseja Reabrir a Folha de Pagamento deste Mês?",
-                         "A folha de " + monthTitle(payroll.month.settings.month) + " de " +
-                             employee.code + " " + employee.name +
-                             " será excluída. Cadastro, cartão de ponto e afastamentos deste mês "
-                             "voltam a ser alterados livremente.");
+    const PayrollRun run = payroll.inputs.run;
+    std::string detail = "A folha de " + monthTitle(payroll.month.settings.month) + " de " +
+                         employee.code + " " + employee.name + " será excluída (" +
+                         std::string(captionOf(run)) + ").";
+    if (run == PayrollRun::Month)
+        detail +=
+            " Cadastro, cartão de ponto e afastamentos deste mês voltam a ser alterados "
+            "livremente.";
+    return riskyQuestion(kTitle, "Deseja Reabrir a Folha de Pagamento deste Mês?", detail);
+}
+
+std::string withoutText(PayrollRun run) {
+    return run == PayrollRun::Month ? "Sem cartão de ponto, salário ou contrato no mês: "
+                                    : "Sem salário ou contrato no mês: ";
 }
 
 Message noContractDays(const Employee& employee, WorkMonth month) {
@@ -42,6 +54,15 @@ Message noContractDays(const Employee& employee, WorkMonth month) {
     message.detail =
         "O contrato de " + employee.name + " não tem dias em " + monthTitle(month) + ".";
     return message;
+}
+
+/// What keeps the sheet from being computed; whether the contract has days, the sheet shows.
+PayrollGlance::Lack lackOf(const OpenPayroll& payroll) {
+    using enum PayrollGlance::Lack;
+    const RunInputs& inputs = payroll.inputs;
+    if (inputs.run == PayrollRun::Month && !payroll.month.hours) return Card;
+    if (inputs.run == PayrollRun::ThirteenthSecond && !inputs.firstPaid) return FirstInstalment;
+    return salaryOf(payroll.month.employee) ? Nothing : Salary;
 }
 
 bool hasAmounts(const PaySheet& sheet) {
@@ -57,21 +78,21 @@ bool hasMovedOn(const OpenPayroll& payroll) {
     return !std::ranges::equal(payroll.sheet.lines, payroll.now->lines, {}, amount, amount);
 }
 
-bool Folha::load(WorkMonth month) {
+bool Folha::load(WorkMonth month, PayrollRun run) {
     shown_.reset();
+    run_ = run;
     return attempt(at_, incorrectData(), [&] {
         const Store store = at_.store();
         tables_ = loadLegalTables(store, legalFolder_);
         companyEvents_ = companyEvents(store, at_.session.company.value()).load();
         settings_ = loadPayrollSettings(store, at_.session.company.value()).settings;
-        auto record = findMonthRecord(store, month);
-        month_ = record ? std::move(record->settings)
-                        : proposedSettings(month, offeredHolidays(store, month));
+        months_ = {};
+        month_ = months_.of(store, month);
     });
 }
 
 std::vector<std::string> Folha::warnings() const {
-    return tables_.warnings(month_.month, lastDay(month_.month));
+    return tables_.warnings(month_.month, paymentDay(run_, month_.month));
 }
 
 EmployeeKey Folha::keyOf(const Employee& employee) const {
@@ -80,25 +101,28 @@ EmployeeKey Folha::keyOf(const Employee& employee) const {
 
 std::optional<std::string> Folha::bytesOf(const Employee& employee) const {
     const Store store = at_.store();
-    return store.files.read(store.folder.file(payrollFileName(keyOf(employee), month_.month)));
+    return store.files.read(
+        store.folder.file(payrollFileName(keyOf(employee), month_.month, run_)));
 }
 
 FileSystem::NewContent Folha::contentOf(const Employee& employee, const PaySheet& sheet) const {
-    return payrollContent(at_.store(), keyOf(employee), month_.month, sheet);
+    return payrollContent(at_.store(), keyOf(employee), month_.month, sheet, run_);
 }
 
 std::optional<PaySheet> Folha::sheetOf(const OpenPayroll& payroll,
                                        const TypedAmounts& typed) const {
     const PayrollLaw law{tables_, settings_};
-    const auto month = monthCase(law, payroll.month, lastDay(month_.month));
-    if (!month) return std::nullopt;
-    return paySheet(law, {.month = *month}, payroll.events, typed);
+    const auto one = runCase(law, payroll.month, payroll.inputs, payroll.events);
+    if (!one) return std::nullopt;
+    return paySheet(law, *one, payroll.events, typed);
 }
 
 OpenPayroll Folha::inputsOf(const Employee& employee, const FolderNames& names) const {
     const Store store = at_.store();
+    const CompanyCode company = at_.session.company.value();
     OpenPayroll payroll;
-    payroll.month = loadEmployeeMonth(store, at_.session.company.value(), employee, month_, names);
+    payroll.month = loadEmployeeMonth(store, company, employee, month_, names);
+    payroll.inputs = loadRunInputs(store, company, payroll.month, run_, months_, names);
     payroll.events = loadEvents(
         store, keyOf(employee), companyEvents_,
         payroll.month.hours ? payroll.month.hours->terms.overtime : month_.overtime, names);
@@ -106,24 +130,23 @@ OpenPayroll Folha::inputsOf(const Employee& employee, const FolderNames& names) 
 }
 
 PayrollGlance Folha::glance(const Employee& employee, const FolderNames& names) const {
-    using enum PayrollGlance::Lack;
     OpenPayroll payroll = inputsOf(employee, names);
-    const bool canBePaid = payroll.month.hours && salaryOf(employee);
-    if (names.contains(payrollFileName(keyOf(employee), month_.month))) {
+    const auto lack = lackOf(payroll);
+    if (names.contains(payrollFileName(keyOf(employee), month_.month, run_))) {
         payroll.bytes = bytesOf(employee);
-        if (auto recorded = loadPayroll(at_.store(), keyOf(employee), month_.month)) {
+        if (auto recorded = loadPayroll(at_.store(), keyOf(employee), month_.month, run_)) {
             payroll.sheet = std::move(recorded->sheet);
             payroll.isRecorded = true;
-            if (canBePaid) payroll.now = sheetOf(payroll, typedAmounts(payroll.sheet));
-            return {Nothing, std::move(payroll)};
+            if (lack == PayrollGlance::Lack::Nothing)
+                payroll.now = sheetOf(payroll, typedAmounts(payroll.sheet));
+            return {PayrollGlance::Lack::Nothing, std::move(payroll)};
         }
     }
-    if (!payroll.month.hours) return {Card};
-    if (!canBePaid) return {Salary};
+    if (lack != PayrollGlance::Lack::Nothing) return {lack};
     auto sheet = sheetOf(payroll, {});
-    if (!sheet) return {Contract};
+    if (!sheet) return {PayrollGlance::Lack::Contract};
     payroll.sheet = *std::move(sheet);
-    return {Nothing, std::move(payroll)};
+    return {PayrollGlance::Lack::Nothing, std::move(payroll)};
 }
 
 PayrollGlance::Lack Folha::show(const Employee& employee) {
@@ -144,6 +167,9 @@ Folha::Opening Folha::open(const Employee& employee) {
             return shown_ ? Opening::Opened : Opening::Refused;
         case PayrollGlance::Lack::Card:
             return at_.person.agrees(kNoCard) ? Opening::ToTimeCard : Opening::Refused;
+        case PayrollGlance::Lack::FirstInstalment:
+            at_.person.tell(kFirstBeforeSecond);
+            return Opening::Refused;
         case PayrollGlance::Lack::Salary:
             at_.person.tell(noSalary(employee));
             return Opening::Refused;
@@ -174,6 +200,24 @@ void Folha::requireUnchanged() const {
     if (bytesOf(shown_->month.employee) != shown_->bytes) throw employeeChangedElsewhere("payroll");
 }
 
+bool Folha::requireFirstInstalment() const {
+    if (run_ != PayrollRun::ThirteenthSecond ||
+        recordedInYear(keyOf(shown_->month.employee), PayrollRun::ThirteenthFirst, month_.month,
+                       namesIn(at_.store())))
+        return true;
+    at_.person.tell(refusal(kSaveTitle, std::string(kNoFirstInstalment)));
+    return false;
+}
+
+bool Folha::requireNoSecondInstalment() const {
+    if (run_ != PayrollRun::ThirteenthFirst ||
+        !recordedInYear(keyOf(shown_->month.employee), PayrollRun::ThirteenthSecond, month_.month,
+                        namesIn(at_.store())))
+        return true;
+    at_.person.tell(kSecondStands);
+    return false;
+}
+
 bool Folha::save() {
     if (!shown_ || !hasAmounts(shown_->sheet)) {
         at_.person.tell(kNothingToSave);
@@ -182,12 +226,14 @@ bool Folha::save() {
     if (!at_.person.agrees(confirmSave(*shown_))) return false;
     return attemptWriting(at_, incorrectData(), [&] {
         requireUnchanged();
+        if (!requireFirstInstalment()) return false;
         auto content = contentOf(shown_->month.employee, shown_->sheet);
         at_.files.replaceAll({content});
         asShown_ = content.bytes;
         shown_->now = shown_->sheet;
         shown_->bytes = std::move(content.bytes);
         shown_->isRecorded = true;
+        return true;
     });
 }
 
@@ -196,10 +242,12 @@ bool Folha::computeAll(const std::vector<Employee>& employees, const Progress& p
     int done = 0;
     const FolderNames names = namesIn(at_.store());
     for (const Employee& employee : employees) {
-        if (names.contains(payrollFileName(keyOf(employee), month_.month)))
+        if (names.contains(payrollFileName(keyOf(employee), month_.month, run_)))
             unsaved.recorded.push_back(employee.name);
         else if (const auto seen = glance(employee, names); seen.payroll)
             batch.push_back(contentOf(employee, seen.payroll->sheet));
+        else if (seen.lack == PayrollGlance::Lack::FirstInstalment)
+            unsaved.withoutFirst.push_back(employee.name);
         else
             unsaved.without.push_back(employee.name);
         if (progress && !progress(++done, static_cast<int>(employees.size()))) return false;
@@ -209,8 +257,14 @@ bool Folha::computeAll(const std::vector<Employee>& employees, const Progress& p
 
 bool Folha::confirmLeftOut(const Unsaved& unsaved, bool hasBatch) const {
     std::string detail;
-    if (!unsaved.recorded.empty())
-        detail = "Já gravados, ficam como estão: " + namesText(unsaved.recorded, kMostNames);
+    const auto say = [&](const std::string& words, const std::vector<std::string>& names) {
+        if (names.empty()) return;
+        detail += (detail.empty() ? "" : "\n") + words + namesText(names, kMostNames);
+    };
+    say(std::string(kNoFirstInstalment) + " ", unsaved.withoutFirst);
+    say(withoutText(run_), unsaved.without);
+    const bool leavesOut = !detail.empty();
+    say("Já gravados, ficam como estão: ", unsaved.recorded);
     if (!hasBatch) {
         Message nothing = kNothingToSave;
         nothing.title = kSaveAllTitle;
@@ -218,11 +272,9 @@ bool Folha::confirmLeftOut(const Unsaved& unsaved, bool hasBatch) const {
         at_.person.tell(nothing);
         return false;
     }
-    if (unsaved.without.empty()) return true;
-    detail.insert(0, "Sem cartão de ponto, salário ou contrato no mês: " +
-                         namesText(unsaved.without, kMostNames) + (detail.empty() ? "" : "\n"));
-    return at_.person.agrees(question(
-        kSaveAllTitle, "Não Há Dados para Gravação! Deseja Prosseguir?", std::move(detail)));
+    return !leavesOut ||
+           at_.person.agrees(question(
+               kSaveAllTitle, "Não Há Dados para Gravação! Deseja Prosseguir?", std::move(detail)));
 }
 
 bool Folha::saveAll(const std::vector<Employee>& employees, const Progress& progress) {
@@ -248,7 +300,8 @@ bool Folha::reopen() {
     if (!shown_ || !shown_->isRecorded || !at_.person.agrees(confirmReopen(*shown_))) return false;
     return attemptWriting(at_, incorrectData(), [&] {
         requireUnchanged();
-        (void)reopenPayroll(at_.store(), keyOf(shown_->month.employee), month_.month);
+        if (!requireNoSecondInstalment()) return false;
+        (void)reopenPayroll(at_.store(), keyOf(shown_->month.employee), month_.month, run_);
         shown_->bytes.reset();
         shown_->isRecorded = false;
         if (shown_->now) shown_->sheet = *std::move(shown_->now);
@@ -256,6 +309,7 @@ bool Folha::reopen() {
         // What was typed is now on this screen only.
         const bool isTyped = !typedAmounts(shown_->sheet).empty();
         asShown_ = isTyped ? "" : contentOf(shown_->month.employee, shown_->sheet).bytes;
+        return true;
     });
 }
 

@@ -2,8 +2,8 @@
 
 #include "foundation/desk/command.h"
 #include "foundation/register/employee_list.h"
-#include "personnel/payroll/month_inputs.h"
 #include "personnel/payroll/payroll_record.h"
+#include "personnel/payroll/run_inputs.h"
 #include "personnel/payroll/settings_file.h"
 
 #include <filesystem>
@@ -17,6 +17,7 @@ namespace winvrx {
 /// The payroll of one employee and month as the screen holds it.
 struct OpenPayroll {
     EmployeeMonth month;
+    RunInputs inputs;
     PayrollEvents events;
     PaySheet sheet;
     bool isRecorded = false;
@@ -27,9 +28,9 @@ struct OpenPayroll {
 
 /// An employee's month, or what keeps it from being computed.
 struct PayrollGlance {
-    enum class Lack { Nothing, Card, Salary, Contract };
+    enum class Lack { Nothing, Card, FirstInstalment, Salary, Contract };
 
-    Lack lack = Lack::Nothing;  ///< of a recorded month nothing
+    Lack lack = Lack::Nothing;  ///< the first of them; of a recorded month nothing
     std::optional<OpenPayroll> payroll = {};
 };
 
@@ -44,8 +45,10 @@ class Folha {
     Folha(const Workplace& at, std::filesystem::path legalFolder)
         : at_(at), legalFolder_(std::move(legalFolder)) {}
 
-    /// Reads what all payrolls of a month need. False, and told, when something cannot be read.
-    [[nodiscard]] bool load(WorkMonth month);
+    /// Reads what all payrolls of a run and month need. False, and told, when something cannot be
+    /// read.
+    [[nodiscard]] bool load(WorkMonth month, PayrollRun run = PayrollRun::Month);
+    [[nodiscard]] PayrollRun run() const { return run_; }
     [[nodiscard]] const MonthSettings& month() const { return month_; }
     [[nodiscard]] const PayrollSettings& settings() const { return settings_; }
     /// Sentences on tables that have no line of the month's own.
@@ -57,29 +60,36 @@ class Folha {
     PayrollGlance::Lack show(const Employee& employee);
 
     enum class Opening { Opened, ToTimeCard, Refused };
-    /// Computes the month of an employee, or takes it as it is recorded. Where no card is filled it
-    /// asks whether to go there; without a salary it refuses.
+    /// Computes the run of an employee, or takes it as it is recorded. Where a month has no card it
+    /// asks whether to go there; without a salary, or the first instalment of a 13th for its
+    /// second, it refuses.
     [[nodiscard]] Opening open(const Employee& employee);
     [[nodiscard]] const std::optional<OpenPayroll>& shown() const { return shown_; }
-    /// Computes the month that is shown anew, with these amounts typed over.
+    /// Computes what is shown anew, with these amounts typed over.
     [[nodiscard]] bool compute(const TypedAmounts& typed);
     /// Whether amounts were typed since the month that is shown was computed or read.
     [[nodiscard]] bool isChanged() const;
 
-    /// "Gravar Selecionado": records what is shown and closes the month for the employee.
+    /// "Gravar Selecionado": records what is shown. The month's own run closes the month for the
+    /// employee.
     [[nodiscard]] bool save();
-    /// "GRAVAR TODOS": computes and records everyone whose month is open, in one batch. Told after
+    /// "GRAVAR TODOS": computes and records everyone whose run is open, in one batch. Told after
     /// each employee; false cancels, and nothing is recorded.
     using Progress = std::function<bool(int done, int total)>;
     [[nodiscard]] bool saveAll(const std::vector<Employee>& employees, const Progress& progress);
-    /// Deletes the recorded payroll that is shown: its month is open again.
+    /// Deletes the recorded payroll that is shown: it is open again.
     [[nodiscard]] bool reopen();
 
   private:
+    /// Names of those who are left out.
     struct Unsaved {
-        std::vector<std::string> without;  ///< names of those who cannot be computed
+        std::vector<std::string> without;
+        std::vector<std::string> withoutFirst;
         std::vector<std::string> recorded;
     };
+
+    [[nodiscard]] bool requireFirstInstalment() const;
+    [[nodiscard]] bool requireNoSecondInstalment() const;
 
     [[nodiscard]] OpenPayroll inputsOf(const Employee& employee, const FolderNames& names) const;
     /// nullopt where the contract has no day in the month.
@@ -97,7 +107,9 @@ class Folha {
 
     Workplace at_;
     std::filesystem::path legalFolder_;
+    PayrollRun run_ = PayrollRun::Month;
     MonthSettings month_;
+    mutable SettingsByMonth months_;  ///< of months that a glance looks back to
     LegalTables tables_;
     PayrollSettings settings_;
     PayrollEvents companyEvents_;

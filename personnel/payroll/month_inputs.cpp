@@ -3,8 +3,7 @@
 #include "foundation/values/text.h"
 #include "personnel/leaves/leave_types.h"
 #include "personnel/pay/absences.h"
-
-#include <algorithm>
+#include "personnel/pay/card_history.h"
 
 namespace winvrx {
 
@@ -34,17 +33,6 @@ bool isUnpaidOn(const DatedLeave& leave, Date date) {
             return true;
     }
     return false;
-}
-
-bool isMarkedAbsent(const std::vector<HourPart>& parts) {
-    return std::ranges::find(parts, HourRule::MarkedMissing, &HourPart::rule) != parts.end();
-}
-
-std::chrono::seconds missingIn(const std::vector<HourPart>& parts) {
-    std::chrono::seconds sum{};
-    for (const HourPart& part : parts)
-        if (part.category == HourCategory::Missing) sum += part.length;
-    return sum;
 }
 
 void takeHours(const PayrollLaw& law, const EmployeeMonth& of, MonthPayCase& month) {
@@ -98,23 +86,6 @@ int daysAwayUnpaid(const LeaveCalendar& leaves, const MonthPart& part) {
         if (const DatedLeave* leave = leaves.leaveOn(date); leave != nullptr)
             away += isUnpaidOn(*leave, date) ? 1 : 0;
     return away;
-}
-
-LostTime lostTime(const EmployeeHours& hours) {
-    LostTime lost;
-    Date date = hours.period.first;
-    for (const PunchLine& line : hours.lines) {
-        const auto parts = dayParts(line, date, hours.terms);
-        const auto missing = missingIn(parts);
-        if (isMarkedAbsent(parts)) {
-            lost.absences.push_back(date);
-        } else if (missing.count() > 0) {
-            lost.delays.push_back(date);
-            lost.missing += missing;
-        }
-        date = plusDays(date, 1);
-    }
-    return lost;
 }
 
 std::optional<MonthPayCase> monthCase(const PayrollLaw& law, const EmployeeMonth& of, Date paid) {

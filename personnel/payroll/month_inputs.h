@@ -36,14 +36,6 @@ struct EmployeeMonth {
 /// 8.213/1991, art. 60 par. 3). Maternity is paid and taken back from the INSS.
 [[nodiscard]] int daysAwayUnpaid(const LeaveCalendar& leaves, const MonthPart& part);
 
-/// Days marked as absences, and the time that other days lack.
-struct LostTime {
-    std::vector<Date> absences;
-    std::vector<Date> delays;
-    std::chrono::seconds missing{};
-};
-[[nodiscard]] LostTime lostTime(const EmployeeHours& hours);
-
 /// The month as the payroll computes it, paid on `paid`; nullopt where the contract has no day in
 /// it. What tolerance forgives is not missing: hours_pay has its hours from the time card.
 [[nodiscard]] std::optional<MonthPayCase> monthCase(const PayrollLaw& law, const EmployeeMonth& of,

@@ -30,25 +30,6 @@ std::size_t placeOf(const PayrollEvent& event) {
     return static_cast<std::size_t>(std::ranges::find(kOrder, event.code) - kOrder.begin());
 }
 
-/// What the reference numbers of the events say of the month.
-MonthPayCase withReferences(MonthPayCase month, std::span<const PayrollEventLine> events) {
-    for (const PayrollEventLine& line : events) {
-        const std::string& code = line.record.code;
-        const int number = line.record.referenceNumber();
-        if (code == "001" && number > 0) month.divisor = number;
-        if (code == "002") month.unhealthyPercent = number;
-        if (code == "003") month.isDangerous = number > 0;
-        if (code == "004") month.children = number;
-        if (code == "005") month.minimum.percent = number;
-        if (code == "006") month.maximum.percent = number;
-        if (code == "008") month.minimum.nightPercent = number;
-        if (code == "009") month.maximum.nightPercent = number;
-        if (code == "025") month.voucherPercent = number;
-        if (code == "031" && number != 1) month.advancePercent = number;
-    }
-    return month;
-}
-
 Reckoning togetherOf(std::initializer_list<const Reckoning*> parts) {
     Reckoning sum;
     for (const Reckoning* part : parts) {
@@ -171,6 +152,24 @@ Money thirteenthFgtsBase(const PaySheet& sheet) {
 
 }  // namespace
 
+MonthPayCase withReferences(MonthPayCase month, std::span<const PayrollEventLine> events) {
+    for (const PayrollEventLine& line : events) {
+        const std::string& code = line.record.code;
+        const int number = line.record.referenceNumber();
+        if (code == "001" && number > 0) month.divisor = number;
+        if (code == "002") month.unhealthyPercent = number;
+        if (code == "003") month.isDangerous = number > 0;
+        if (code == "004") month.children = number;
+        if (code == "005") month.minimum.percent = number;
+        if (code == "006") month.maximum.percent = number;
+        if (code == "008") month.minimum.nightPercent = number;
+        if (code == "009") month.maximum.nightPercent = number;
+        if (code == "025") month.voucherPercent = number;
+        if (code == "031" && number != 1) month.advancePercent = number;
+    }
+    return month;
+}
+
 const PayLine* PaySheet::find(std::string_view code) const {
     const auto found = std::ranges::find(
         lines, code, [](const PayLine& line) -> std::string_view { return line.event.code; });
@@ -208,7 +207,7 @@ PaySheet paySheet(const PayrollLaw& law, const PaySheetCase& one,
                   std::span<const PayrollEventLine> events, const TypedAmounts& typed) {
     SheetWriter writer(events, typed);
     const MonthPayCase month = withReferences(one.month, events);
-    writeMonth(law, month, writer);
+    if (one.hasMonth) writeMonth(law, month, writer);
     if (one.vacation) writeVacation(law, month, *one.vacation, writer);
     if (one.thirteenth) writeThirteenth(law, month, *one.thirteenth, writer);
     PaySheet sheet = std::move(writer).finished();

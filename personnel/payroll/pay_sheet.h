@@ -45,10 +45,15 @@ struct PaySheet {
 /// Bases and totals from the lines; FGTS and guide are not among them.
 void addUp(PaySheet& sheet);
 
-/// Which events of `events` the month, and a vacation and a 13th salary where there are, have, each
-/// with its amount. An event that nobody computes has what was typed, or nothing. Reference numbers
-/// speak: 001 hours a month, 002 per cent, 003 above zero where work is dangerous, 004 children,
-/// 005 to 009 rates, 025 per cent, 031 per cent of the salary or 1 for that of `month`.
+/// The month as the reference numbers of the events have it: 001 hours a month, 002 per cent, 003
+/// above zero where work is dangerous, 004 children, 005 to 009 rates, 025 per cent, 031 per cent
+/// of the salary or 1 for that of `month`.
+[[nodiscard]] MonthPayCase withReferences(MonthPayCase month,
+                                          std::span<const PayrollEventLine> events);
+
+/// Which events of `events` the month, a vacation and a 13th salary have, where there are such,
+/// each with its amount, by the reference numbers. An event that nobody computes has what was
+/// typed, or nothing.
 [[nodiscard]] PaySheet paySheet(const PayrollLaw& law, const PaySheetCase& one,
                                 std::span<const PayrollEventLine> events,
                                 const TypedAmounts& typed = {});

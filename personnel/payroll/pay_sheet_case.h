@@ -18,15 +18,18 @@ struct ThirteenthSheet {
     Money averages = {};
     Money firstPaid = {};  ///< of the second: what the first paid out
     Date paid{};
+    Memo averagesMemo = {};
 };
 
 struct VacationSheet {
     VacationCase pay;  ///< salary and additions apart: `pay.salary` is the base salary
     Date start{};
+    Memo averagesMemo = {};
 };
 
 struct PaySheetCase {
     MonthPayCase month;
+    bool hasMonth = true;  ///< whether the lines of the month itself stand on the sheet
     std::optional<VacationSheet> vacation = {};
     std::optional<ThirteenthSheet> thirteenth = {};
 };

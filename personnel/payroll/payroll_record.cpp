@@ -8,8 +8,8 @@ namespace winvrx {
 
 namespace {
 
-RecordFile fileOf(const Store& store, const EmployeeKey& key, WorkMonth month) {
-    return {store, payrollFileName(key, month)};
+RecordFile fileOf(const Store& store, const EmployeeKey& key, WorkMonth month, PayrollRun run) {
+    return {store, payrollFileName(key, month, run)};
 }
 
 std::string lineOfPay(const PayLine& line) {
@@ -32,8 +32,8 @@ constexpr std::size_t kMonthLength = 7;
 }  // namespace
 
 std::optional<RecordedPayroll> loadPayroll(const Store& store, const EmployeeKey& key,
-                                           WorkMonth month) {
-    const RecordFile file = fileOf(store, key, month);
+                                           WorkMonth month, PayrollRun run) {
+    const RecordFile file = fileOf(store, key, month, run);
     if (!file.exists()) return std::nullopt;
     RecordedPayroll payroll;
     for (const std::string& bytes : file.lines()) {
@@ -54,22 +54,23 @@ TypedAmounts typedAmounts(const PaySheet& sheet) {
 }
 
 FileSystem::NewContent payrollContent(const Store& store, const EmployeeKey& key, WorkMonth month,
-                                      const PaySheet& sheet) {
+                                      const PaySheet& sheet, PayrollRun run) {
     std::vector<std::string> lines;
     std::ranges::transform(sheet.lines, std::back_inserter(lines), lineOfPay);
-    return {store.folder.file(payrollFileName(key, month)), joinedLines(lines)};
+    return {store.folder.file(payrollFileName(key, month, run)), joinedLines(lines)};
 }
 
-bool reopenPayroll(const Store& store, const EmployeeKey& key, WorkMonth month) {
-    return fileOf(store, key, month).remove();
+bool reopenPayroll(const Store& store, const EmployeeKey& key, WorkMonth month, PayrollRun run) {
+    return fileOf(store, key, month, run).remove();
 }
 
-std::vector<WorkMonth> recordedMonths(const EmployeeKey& key, const FolderNames& names) {
+std::vector<WorkMonth> recordedMonths(const EmployeeKey& key, const FolderNames& names,
+                                      PayrollRun run) {
     std::vector<WorkMonth> months;
     for (const std::string& name : beginningWith(names, key.company.text())) {
-        if (!isPayrollOfEmployee(name, key) || name.size() < kMonthStart + kMonthLength) continue;
+        if (!isFileOfAnyRun(name) || name.size() < kMonthStart + kMonthLength) continue;
         const auto month = parseMonthKey(std::string_view(name).substr(kMonthStart, kMonthLength));
-        if (month && name == payrollFileName(key, *month)) months.push_back(*month);
+        if (month && name == payrollFileName(key, *month, run)) months.push_back(*month);
     }
     std::ranges::sort(months);
     return months;

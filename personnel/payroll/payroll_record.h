@@ -8,11 +8,12 @@
 #include <string>
 #include <vector>
 
-// The payroll file of an employee and month: a line an event with its amount,
+// The payroll files of an employee and month, one a run: a line an event with its amount,
 //
 //     005 HORA EXTRA 50%       1050,01111000 392,73         *
 //
-// "*" where the amount was typed over. While the file stands the month is closed for the employee.
+// "*" where the amount was typed over. While that of the month stands, the month is closed for the
+// employee.
 
 namespace winvrx {
 
@@ -45,9 +46,10 @@ struct RecordedPayroll {
     std::vector<std::string> unread;
 };
 
-/// nullopt where the month is open. Throws FileFault.
+/// nullopt where none is recorded. Throws FileFault.
 [[nodiscard]] std::optional<RecordedPayroll> loadPayroll(const Store& store, const EmployeeKey& key,
-                                                         WorkMonth month);
+                                                         WorkMonth month,
+                                                         PayrollRun run = PayrollRun::Month);
 
 /// The amounts that were typed over in a recorded payroll.
 [[nodiscard]] TypedAmounts typedAmounts(const PaySheet& sheet);
@@ -55,13 +57,17 @@ struct RecordedPayroll {
 /// What the file of a sheet holds, for a caller that writes many with one flush. Throws TextFault
 /// for a name that cannot be stored.
 [[nodiscard]] FileSystem::NewContent payrollContent(const Store& store, const EmployeeKey& key,
-                                                    WorkMonth month, const PaySheet& sheet);
+                                                    WorkMonth month, const PaySheet& sheet,
+                                                    PayrollRun run = PayrollRun::Month);
 
-/// Opens the month again: the file goes. False when it was open. Throws FileFault.
-bool reopenPayroll(const Store& store, const EmployeeKey& key, WorkMonth month);
+/// Opens it again: the file goes. False when it was open. Throws FileFault.
+bool reopenPayroll(const Store& store, const EmployeeKey& key, WorkMonth month,
+                   PayrollRun run = PayrollRun::Month);
 
-/// The months of an employee that are recorded, the earliest first, by the names in the folder.
+/// The months of an employee of which the run is recorded, the earliest first, by the names in the
+/// folder.
 [[nodiscard]] std::vector<WorkMonth> recordedMonths(const EmployeeKey& key,
-                                                    const FolderNames& names);
+                                                    const FolderNames& names,
+                                                    PayrollRun run = PayrollRun::Month);
 
 }  // namespace winvrx

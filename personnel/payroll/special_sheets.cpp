@@ -53,6 +53,14 @@ Reckoning halfOf(Money monthly, int twelfths, const std::string& words) {
     return {half.amount, whole.memo};
 }
 
+/// With the explanation of the averages before their line.
+Reckoning explained(const Memo& averages, const Reckoning& line) {
+    if (line.amount.cents == 0) return line;
+    Reckoning whole{line.amount, averages};
+    append(whole.memo, line.memo);
+    return whole;
+}
+
 }  // namespace
 
 Reckonings vacationEarnings(const PayrollLaw& law, const MonthPayCase& month,
@@ -62,7 +70,8 @@ Reckonings vacationEarnings(const PayrollLaw& law, const MonthPayCase& month,
     Reckonings events;
     events["011"] = daysOf(vacation.pay.salary, days, "Férias");
     events["012"] = daysOf(risk.unhealthy.amount, days, "Insalubridade das férias");
-    events["015"] = daysOf(vacation.pay.averages, days, "Médias das férias");
+    events["015"] =
+        explained(vacation.averagesMemo, daysOf(vacation.pay.averages, days, "Médias das férias"));
     events["016"] = daysOf(risk.danger.amount, days, "Periculosidade das férias");
     events["013"] = thirdOf(events["012"].amount, "1/3 da insalubridade");
     events["014"] = thirdOf(events["011"].amount + events["015"].amount + events["016"].amount,
@@ -93,12 +102,13 @@ Reckonings thirteenthEarnings(const PayrollLaw& law, const MonthPayCase& month,
     if (year.instalment == Instalment::Second)
         return {{"017", thirteenthOf(month.salary, risk.danger.amount, year.twelfths)},
                 {"020", twelfthsOf(unhealthy, year.twelfths, "Insalubridade no 13º")},
-                {"022", twelfthsOf(year.averages, year.twelfths, "Médias no 13º")}};
+                {"022", explained(year.averagesMemo,
+                                  twelfthsOf(year.averages, year.twelfths, "Médias no 13º"))}};
     const bool isSoFar = law.settings.firstInstalment == FirstInstalment::TwelfthsSoFar;
     const int twelfths = isSoFar ? year.twelfthsSoFar.value_or(year.twelfths) : year.twelfths;
     return {{"019", halfOf(month.salary, twelfths, "13º salário")},
             {"018", halfOf(unhealthy, twelfths, "Insalubridade no 13º")},
-            {"021", halfOf(year.averages, twelfths, "Médias no 13º")},
+            {"021", explained(year.averagesMemo, halfOf(year.averages, twelfths, "Médias no 13º"))},
             {"033", halfOf(risk.danger.amount, twelfths, "Periculosidade no 13º")}};
 }
 

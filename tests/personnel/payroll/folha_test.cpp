@@ -1,10 +1,4 @@
-#include "personnel/payroll/folha.h"
-
-#include "tests/support/employees.h"
-#include "tests/support/legal_tables.h"
-#include "tests/support/test_workplace.h"
-
-#include <gtest/gtest.h>
+#include "tests/personnel/payroll/folha_screen.h"
 
 namespace winvrx {
 namespace {
@@ -13,39 +7,7 @@ using namespace std::chrono_literals;
 using enum Answer;
 using enum Folha::Opening;
 
-constexpr WorkMonth kMonth = 2026y / 3;
-const std::filesystem::path kLegal = "/program/legal";
-
-class FolhaTest : public ::testing::Test, protected testing::TestWorkplace {
-  protected:
-    FolhaTest() {
-        for (const std::string_view name : kLegalFiles)
-            files.content[kLegal / name] =
-                systemFiles()->read(std::filesystem::path(WINVRX_LEGAL_FOLDER) / name).value();
-        fillCard("001");
-        EXPECT_TRUE(folha.load(kMonth));
-    }
-
-    /// A month of full days.
-    void fillCard(const std::string& code) {
-        std::string card = "  \r\n";
-        for (Date date = firstDay(kMonth); monthOf(date) == kMonth; date = plusDays(date, 1))
-            if (weekdayOf(date) != std::chrono::Sunday && weekdayOf(date) != std::chrono::Saturday)
-                card += dayLabel(date) + "08:0016:00\r\n";
-        file("01PadrHor" + code + ".pdx") = "08:0016:00";
-        file("01" + code + "-03-2026.bdx") = card;
-    }
-    static Employee employee(const char* code, const char* name, const char* salary) {
-        Employee one = testing::employee(code, name);
-        one.admission = "01/02/2020";
-        one.salary = salary;
-        return one;
-    }
-
-    static constexpr const char* kPayroll = "/data/01fp0000103-2026.bdx";
-    Employee ana = employee("001", "ANA", "3.000,00");
-    Folha folha{at, kLegal};
-};
+class FolhaTest : public testing::FolhaScreen {};
 
 TEST_F(FolhaTest, OpensInTheOrderOfItsChecks) {
     const Employee rui = employee("002", "RUI", "");
