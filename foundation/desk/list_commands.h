@@ -1,7 +1,6 @@
 #pragma once
 
-#include "foundation/desk/finding.h"
-#include "foundation/desk/list_screen.h"
+#include "foundation/desk/list_checks.h"
 #include "foundation/files/line_file.h"
 
 #include <cstddef>
@@ -10,13 +9,6 @@
 
 namespace winvrx {
 
-/// What is asked before each command.
-struct ListQuestions {
-    Message include = question("INCLUSÃO", "Confirma a Inclusão?");
-    Message change = question("ALTERAÇÃO", "Confirma a Alteração do Item Selecionado?");
-    Message remove = riskyQuestion("EXCLUSÃO", "Confirma a Exclusão do Item Selecionado?");
-};
-
 /// The commands of a list: include, change and delete.
 ///
 /// Holds the list as the screen shows it, and changes it only with a success. Each command asks
@@ -24,11 +16,10 @@ struct ListQuestions {
 /// writes: no other computer's change is lost, and a command that is refused or fails leaves list
 /// and file as they were. Each returns whether it was carried out.
 template <typename Record>
-class ListCommands : public ListScreen {
+class ListCommands : public ListChecks<Record> {
   public:
     using Line = StoredLine<Record>;
     using Lines = std::vector<Line>;
-    using Member = std::string Record::*;
 
     [[nodiscard]] const Lines& lines() const { return lines_; }
     [[nodiscard]] std::size_t count() const override { return lines_.size(); }
@@ -42,25 +33,13 @@ class ListCommands : public ListScreen {
     /// What the form of a new record begins with.
     [[nodiscard]] virtual Record freshRecord() const { return {}; }
 
-    /// What would be refused of the record as it is typed in the place of `before`.
-    [[nodiscard]] virtual Findings<Record> wrongIn(const Record&, const Record&) const {
-        return {};
-    }
-    /// What is asked about before it is recorded: only texts changed since `before`, so that old
-    /// records stay editable.
-    [[nodiscard]] virtual Findings<Record> doubtsAbout(const Record&, const Record&) const {
-        return {};
-    }
-    /// The text for which the last inclusion or change ended; nullptr when it was for none.
-    [[nodiscard]] Member blamed() const { return blamed_; }
-
     /// Appends a record.
     [[nodiscard]] virtual bool include(const Record& typed) {
-        blamed_ = nullptr;
-        return run(incorrectData(), [&] {
+        this->blamed_ = nullptr;
+        return this->run(incorrectData(), [&] {
             const Record record = completed(typed);
-            return requireAcceptable(record, nullptr) && requireNoDoubt(record, {}) &&
-                   at_.person.agrees(inclusionOf(record)) && rewrite([&](Lines& lines) {
+            return requireAcceptable(record, nullptr) && this->requireNoDoubt(record, {}) &&
+                   this->at_.person.agrees(inclusionOf(record)) && rewrite([&](Lines& lines) {
                        lines.push_back(newLine(record, lines));
                        clearFor(lines.back());
                    });
@@ -68,20 +47,20 @@ class ListCommands : public ListScreen {
     }
     /// Replaces the line at `position`; what no field covers stays.
     [[nodiscard]] virtual bool change(std::size_t position, const Record& typed) {
-        blamed_ = nullptr;
-        return run(incorrectData(), [&] {
+        this->blamed_ = nullptr;
+        return this->run(incorrectData(), [&] {
             const Record record = completed(typed);
             return requireAcceptable(record, &lines_.at(position)) &&
-                   requireNoDoubt(record, lines_.at(position).record) &&
-                   at_.person.agrees(questions_.change) && rewrite([&](Lines& lines) {
+                   this->requireNoDoubt(record, lines_.at(position).record) &&
+                   this->at_.person.agrees(questions_.change) && rewrite([&](Lines& lines) {
                        Line& line = knownLineAsShown(lines, position);
                        line = changedLine(record, line);
                    });
         });
     }
     [[nodiscard]] bool remove(std::size_t position) override {
-        return run(incorrectData(), [&] {
-            return at_.person.agrees(removalOf(position)) &&
+        return this->run(incorrectData(), [&] {
+            return this->at_.person.agrees(removalOf(position)) &&
                    erase(
                        position, [] {}, [](const Lines&) {});
         });
@@ -89,7 +68,7 @@ class ListCommands : public ListScreen {
 
   protected:
     explicit ListCommands(const Workplace& at, ListQuestions questions = {})
-        : ListScreen(at), questions_(std::move(questions)) {}
+        : ListChecks<Record>(at), questions_(std::move(questions)) {}
 
     [[nodiscard]] virtual Lines read() const = 0;
     virtual void write(const Lines& lines) = 0;
@@ -98,30 +77,6 @@ class ListCommands : public ListScreen {
     [[nodiscard]] virtual Record completed(const Record& typed) const { return typed; }
     /// Whether the record can be included, or replace the line shown. Says why not, or throws.
     [[nodiscard]] virtual bool requireAcceptable(const Record&, const Line*) { return true; }
-    /// Tells what is wrong with one text, and gives false.
-    [[nodiscard]] bool refuseFor(const Finding<Record>& wrong, const Message& message) {
-        blamed_ = wrong.member;
-        return refuse(message, captioned(wrong));
-    }
-    /// Tells with `message` which required fields are empty, if one is; else true.
-    [[nodiscard]] bool requireComplete(const Record& typed, const Message& message) {
-        const auto missing = missingIn(typed);
-        if (missing.empty()) return true;
-        blamed_ = missing.front().member;
-        return refuse(message, missingText(missing));
-    }
-    /// Refuses texts that no record holds, and asks once about all that is doubtful.
-    [[nodiscard]] bool requireNoDoubt(const Record& typed, const Record& before) {
-        const auto unstorable = unstorableIn(typed, before);
-        if (!unstorable.empty()) return refuseFor(unstorable.front(), incorrectData());
-        const auto doubts = doubtsAbout(typed, before);
-        std::string named;
-        for (const auto& doubt : doubts)
-            named.append(named.empty() ? "" : "\n").append(captioned(doubt));
-        if (doubts.empty() || at_.person.agrees(recordDespiteDoubts(named))) return true;
-        blamed_ = doubts.front().member;
-        return false;
-    }
     /// The question before a record is included; one may name it.
     [[nodiscard]] virtual Message inclusionOf(const Record&) const { return questions_.include; }
     /// The question before the line goes, which names it; `along` is what goes with it.
@@ -148,7 +103,7 @@ class ListCommands : public ListScreen {
     /// Lets `edit` change the list on disk while the folder is held, and records it.
     template <typename Edit>
     [[nodiscard]] bool rewrite(Edit&& edit) {
-        const auto hold = holdFolder(at_);
+        const auto hold = holdFolder(this->at_);
         Lines lines = read();
         // An empty folder in the place of the one shown, as an unmounted drive leaves it.
         if (lines.empty() && !lines_.empty()) throw changedElsewhere("list");
@@ -192,7 +147,6 @@ class ListCommands : public ListScreen {
 
     Lines lines_;
     const ListQuestions questions_;
-    Member blamed_ = nullptr;
 };
 
 }  // namespace winvrx
