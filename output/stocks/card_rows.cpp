@@ -105,6 +105,7 @@ PageNoun cardNoun() {
 
 std::string situationOf(const PunchLine& line, Date date, const WorkTerms& terms) {
     if (const auto stored = trimmed(line.situation); !stored.empty()) return std::string(stored);
+    if (meaningOn(line, date, terms) == DayMeaning::Leave) return std::string(kSituationLeave);
     if (terms.isHoliday(date)) return std::string(kSituationHoliday);
     const auto weekday = weekdayOf(date);
     if (weekday == std::chrono::Sunday || weekday == terms.restDay)

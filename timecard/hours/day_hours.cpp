@@ -34,17 +34,23 @@ DaySchedule scheduledOn(std::chrono::weekday weekday, const WorkTerms& terms) {
     return terms.saturdayIsNormal ? terms.saturday : DaySchedule();
 }
 
-DayTerms dayTerms(const PunchLine& line, Date date, const WorkTerms& terms) {
-    const DayMeaning meaning = meaningOf(line.situation);
+DayMeaning meaningFor(const PunchLine& line, Standing standing) {
+    const DayMeaning marked = meaningOf(line.situation);
+    if (marked != DayMeaning::Work || standing != Standing::OnLeave) return marked;
+    return line.hasTimes() ? DayMeaning::Excused : DayMeaning::Leave;
+}
+
+DayTerms dayTerms(const PunchLine& line, Date date, Standing standing, const WorkTerms& terms) {
+    const DayMeaning marked = meaningOf(line.situation);
     const std::chrono::weekday weekday = weekdayOf(date);
     DayTerms day;
-    day.meaning = meaning;
+    day.meaning = meaningFor(line, standing);
     day.paidRest = weekday == std::chrono::Sunday || terms.isHoliday(date);
-    if (day.paidRest || meaning == DayMeaning::Holiday || meaning == DayMeaning::WeeklyRest)
+    if (day.paidRest || marked == DayMeaning::Holiday || marked == DayMeaning::WeeklyRest)
         day.rest = HourRule::RestDay;
-    else if (weekday == terms.restDay && meaning == DayMeaning::Work)
+    else if (weekday == terms.restDay && marked == DayMeaning::Work)
         day.rest = HourRule::OwnRestDay;
-    if (!day.rest && meaning != DayMeaning::Leave) day.scheduled = scheduledOn(weekday, terms);
+    if (!day.rest && day.meaning != DayMeaning::Leave) day.scheduled = scheduledOn(weekday, terms);
     return day;
 }
 
@@ -161,17 +167,23 @@ class DayWalk {
 
 template <typename Visit>
 void walk(const PunchLine& line, Date date, const WorkTerms& terms, Visit visit) {
-    if (!isWithinContract(terms.leaves.standingOn(date))) return;
+    const Standing standing = terms.leaves.standingOn(date);
+    if (!isWithinContract(standing)) return;
     const DayPunches punches{{line.morning(), line.afternoon()}, line.extra()};
-    const DayTerms day = dayTerms(line, date, terms);
+    const DayTerms day = dayTerms(line, date, standing, terms);
     DayWalk(day, terms, visit).work(punches);
 }
 
 }  // namespace
 
+DayMeaning meaningOn(const PunchLine& line, Date date, const WorkTerms& terms) {
+    return meaningFor(line, terms.leaves.standingOn(date));
+}
+
 DaySchedule contractedTimes(const PunchLine& line, Date date, const WorkTerms& terms) {
-    if (!isWithinContract(terms.leaves.standingOn(date))) return {};
-    return dayTerms(line, date, terms).scheduled;
+    const Standing standing = terms.leaves.standingOn(date);
+    return isWithinContract(standing) ? dayTerms(line, date, standing, terms).scheduled
+                                      : DaySchedule();
 }
 
 HourTotals dayHours(const PunchLine& line, Date date, const WorkTerms& terms) {

@@ -86,6 +86,10 @@ struct WorkTerms {
                                   const StandardSchedule& schedule, const Employee& employee,
                                   LeaveCalendar leaves);
 
+/// What the line's mark makes of a day or, where it says nothing, the leave on record: a day
+/// without times is one of the leave, and of a day worked all the same nothing is missing.
+[[nodiscard]] DayMeaning meaningOn(const PunchLine& line, Date date, const WorkTerms& terms);
+
 /// The hours of one day. What was worked past midnight belongs to the line that it stands on.
 [[nodiscard]] HourTotals dayHours(const PunchLine& line, Date date, const WorkTerms& terms);
 

@@ -61,7 +61,7 @@ std::string wordsOf(HourRule rule, const OvertimeRules& rules) {
 
 /// Why a day away asks for no hours; empty for any other.
 std::string leaveReason(const PunchLine& line, Date date, const WorkTerms& terms) {
-    if (meaningOf(line.situation) != DayMeaning::Leave ||
+    if (meaningOn(line, date, terms) != DayMeaning::Leave ||
         !isWithinContract(terms.leaves.standingOn(date)))
         return {};
     const DatedLeave* leave = terms.leaves.leaveOn(date);

@@ -1,5 +1,6 @@
 // Reads hours_cases.txt, which says how its lines are written.
 #include "foundation/values/text.h"
+#include "tests/support/leave_files.h"
 #include "timecard/hours/hours.h"
 
 #include <gtest/gtest.h>
@@ -107,6 +108,10 @@ void putSettings(WorkTerms& terms, const std::string& text) {
                 terms.overtime.threshold = required(parseThreshold(value), value);
             else if (name == "adm")
                 terms.leaves = {"", dateOf(value)};
+            else if (name == "afa")
+                terms.leaves = {testing::leaveBytes({testing::vacation(
+                                    (value + "/2024").c_str(), (value + "/2024").c_str())}),
+                                {}};
             else if (name == "fim")
                 terms.leaves = {leaveStatusLine(dateOf(value)), {}};
             else if (name == "desc")
