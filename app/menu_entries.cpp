@@ -4,8 +4,8 @@
 #include "foundation/register/desktop/register_entries.h"
 #include "output/mirrors/desktop/hours_entry.h"
 #include "personnel/leaves/desktop/leaves_entry.h"
+#include "timecard/card/desktop/time_card_entry.h"
 #include "timecard/month/desktop/month_entry.h"
-#include "timecard/punches/desktop/time_card_entry.h"
 #include "timecard/rotation/desktop/rotation_entry.h"
 #include "timecard/rotation/rotation_records.h"
 

@@ -1,4 +1,4 @@
-#include "timecard/punches/cell_block.h"
+#include "timecard/card/cell_block.h"
 #include "fuzz/invariant.h"
 
 using namespace winvrx;

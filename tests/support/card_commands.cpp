@@ -3,7 +3,7 @@
 #include "tests/support/leave_files.h"
 #include "tests/support/test_punch_desk.h"
 #include "tests/support/writing_commands.h"
-#include "timecard/punches/cartao_ponto_dados.h"
+#include "timecard/card/cartao_ponto_dados.h"
 #include "timecard/punches/leave_marking.h"
 
 namespace winvrx::testing {

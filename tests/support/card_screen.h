@@ -4,8 +4,8 @@
 #include "tests/support/leave_files.h"
 #include "tests/support/test_punch_desk.h"
 #include "tests/support/test_workplace.h"
+#include "timecard/card/cartao_ponto_dados.h"
 #include "timecard/month/selected_month.h"
-#include "timecard/punches/cartao_ponto_dados.h"
 
 #include <gtest/gtest.h>
 

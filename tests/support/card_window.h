@@ -4,9 +4,9 @@
 #include "tests/support/test_punch_desk.h"
 #include "tests/support/test_workplace.h"
 #include "tests/support/window_driver.h"
+#include "timecard/card/desktop/cartao_ponto_dados_window.h"
+#include "timecard/card/desktop/punch_grid.h"
 #include "timecard/month/selected_month.h"
-#include "timecard/punches/desktop/cartao_ponto_dados_window.h"
-#include "timecard/punches/desktop/punch_grid.h"
 
 #include <QApplication>
 

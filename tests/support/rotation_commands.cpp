@@ -3,7 +3,7 @@
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_punch_desk.h"
 #include "tests/support/writing_commands.h"
-#include "timecard/punches/cartao_ponto_dados.h"
+#include "timecard/card/cartao_ponto_dados.h"
 #include "timecard/rotation/cartao_ponto_dados_b.h"
 #include "timecard/rotation/rotation_records.h"
 

@@ -6,7 +6,6 @@ namespace winvrx {
 
 namespace {
 
-constexpr std::string_view kClosingEnd = ".prd";
 constexpr std::chrono::months kOneMonth{1};
 
 std::vector<PunchLine> blankDays(const DayPeriod& period) {
@@ -87,11 +86,6 @@ std::optional<EmployeeHours> loadEmployeeHours(const Store& store, const Company
     if (!any) return std::nullopt;
     return EmployeeHours{period, std::move(places).lines(),
                          termsOf(store, key, employee, settings, period)};
-}
-
-std::string closingFileName(const EmployeeKey& key, WorkMonth month) {
-    std::string name = punchFileName(key, month);
-    return name.replace(name.rfind('.'), std::string::npos, kClosingEnd);
 }
 
 }  // namespace winvrx

@@ -38,7 +38,4 @@ struct EmployeeHours {
                                                              const MonthSettings& settings,
                                                              HoursPeriod which);
 
-/// "01001-03-2024.prd": the punch record's name with another end.
-[[nodiscard]] std::string closingFileName(const EmployeeKey& key, WorkMonth month);
-
 }  // namespace winvrx

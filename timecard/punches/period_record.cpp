@@ -1,7 +1,5 @@
 #include "timecard/punches/period_record.h"
 
-#include "timecard/hours/employee_hours.h"
-
 #include <chrono>
 
 namespace winvrx {

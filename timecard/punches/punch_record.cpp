@@ -101,6 +101,10 @@ std::string punchFileName(const EmployeeKey& key, WorkMonth month) {
     return key.company.text() + key.employee.text() + "-" + monthKey(month) + ".bdx";
 }
 
+std::string closingFileName(const EmployeeKey& key, WorkMonth month) {
+    return key.company.text() + key.employee.text() + "-" + monthKey(month) + ".prd";
+}
+
 std::vector<PunchLine> blankMonth(WorkMonth month) {
     std::vector<PunchLine> lines;
     for (int day = 0; day < daysIn(month); ++day)

@@ -68,6 +68,9 @@ static_assert(isContiguous(kPunchFields, kPunchWidth));
 /// "01001-03-2024.bdx": company in characters 1-2, employee in 3-5, ".bdx" in 14-17.
 [[nodiscard]] std::string punchFileName(const EmployeeKey& key, WorkMonth month);
 
+/// "01001-03-2024.prd", of the month's closing period.
+[[nodiscard]] std::string closingFileName(const EmployeeKey& key, WorkMonth month);
+
 /// One line for each day of the month with its label only.
 [[nodiscard]] std::vector<PunchLine> blankMonth(WorkMonth month);
 

@@ -1,6 +1,6 @@
 #include "tests/timecard/rotation/rotation_screen.h"
+#include "timecard/card/cartao_ponto_dados.h"
 #include "timecard/hours/employee_hours.h"
-#include "timecard/punches/cartao_ponto_dados.h"
 
 #include <gmock/gmock.h>
 

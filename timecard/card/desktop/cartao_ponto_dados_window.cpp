@@ -1,0 +1,398 @@
+#include "timecard/card/desktop/cartao_ponto_dados_window.h"
+
+#include "foundation/register/desktop/employee_picker.h"
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/elided_label.h"
+#include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/progress.h"
+#include "timecard/card/desktop/application_bar.h"
+#include "timecard/card/desktop/card_status.h"
+#include "timecard/card/desktop/half_month_panel.h"
+#include "timecard/card/desktop/punch_grid.h"
+#include "timecard/card/desktop/schedule_panel.h"
+#include "timecard/hours/desktop/hours_summary_panel.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QShortcut>
+#include <QToolButton>
+
+namespace winvrx {
+
+namespace {
+
+/// Of the side; both halves beside it bring one more column of hours.
+constexpr int kSideWidth = 288;
+constexpr int kWideSideWidth = 332;
+const QString kNoMonth = QStringLiteral(
+    "Escolha primeiro o mês de trabalho em \"Configurações Feriados e Horas extras\" (F7).");
+
+HalfMonth otherThan(HalfMonth half) {
+    return half == HalfMonth::First ? HalfMonth::Second : HalfMonth::First;
+}
+
+}  // namespace
+
+CartaoPontoDadosWindow::CartaoPontoDadosWindow(CartaoPontoDados& command, QWidget* parent)
+    : ScreenWindow(QStringLiteral("cartaoPontoDados"), QStringLiteral("Aplicação de Ponto"),
+                   parent),
+      command_(command) {
+    setBody(buildBody());
+    buildCommands();
+    connectEmployees();
+    addEmployeeKeys();
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (isAncestorOf(now)) showStatus();
+    });
+    refresh();
+    employees_->focusList();
+}
+
+CartaoPontoDadosWindow::~CartaoPontoDadosWindow() {
+    hide();
+}
+
+QWidget* CartaoPontoDadosWindow::buildBody() {
+    auto* body = new QWidget(this);
+    auto* row = new QHBoxLayout(body);
+    look::layOutBody(*row);
+    row->setSpacing(look::kMargin);
+    row->addWidget(buildSide());
+    row->addWidget(buildCard(), 1);
+    return body;
+}
+
+QWidget* CartaoPontoDadosWindow::buildSide() {
+    side_ = new QWidget(this);
+    auto* column = new QVBoxLayout(side_);
+    look::layOutPart(*column);
+    employees_ = new EmployeePicker(
+        command_.list(),
+        {.screen = QStringLiteral("card"), .shifts = kAllShiftFilters, .scales = true}, side_);
+    column->addWidget(employees_, 1);
+    column->addWidget(buildHours());
+    QRadioButton* enter = buildEntryMode(QStringLiteral("Usar Tecla &ENTER"),
+                                         QStringLiteral("card.useEnter"), Qt::Key_Return);
+    enter->setChecked(true);
+    column->addWidget(enter);
+    column->addWidget(buildEntryMode(QStringLiteral("Usar Tecla T&ABE"),
+                                     QStringLiteral("card.useTab"), Qt::Key_Tab));
+    return side_;
+}
+
+QWidget* CartaoPontoDadosWindow::buildHours() {
+    hours_ = new HoursSummaryPanel(this);
+    connect(hours_, &HoursSummaryPanel::percentTyped, this,
+            [this](HourCategory category, const QString& typed) {
+                (void)command_.changePercent(category, toUtf8(typed));
+                showState();
+            });
+    return hours_;
+}
+
+QRadioButton* CartaoPontoDadosWindow::buildEntryMode(const QString& text, const QString& objectName,
+                                                     Qt::Key key) {
+    auto* button = new QRadioButton(text, this);
+    button->setObjectName(objectName);
+    connect(button, &QRadioButton::toggled, this, [this, key](bool on) {
+        for (const HalfMonthPanel* panel : halves_)
+            if (on && panel) panel->grid().setNextCellKey(key);
+    });
+    return button;
+}
+
+QWidget* CartaoPontoDadosWindow::buildCard() {
+    auto* widget = new QWidget(this);
+    auto* column = new QVBoxLayout(widget);
+    look::layOutPart(*column);
+    schedule_ = new SchedulePanel(command_, widget);
+    connect(schedule_, &SchedulePanel::edited, this, &CartaoPontoDadosWindow::showState);
+    connect(schedule_, &SchedulePanel::saveRequested, this, [this] {
+        (void)command_.saveSchedule();
+        schedule_->refresh();
+        showState();
+    });
+    column->addWidget(schedule_);
+    application_ = new ApplicationBar(command_, widget);
+    column->addWidget(application_);
+    auto* row = new QHBoxLayout;
+    look::layOutPart(*row);
+    for (const HalfMonth one : {HalfMonth::First, HalfMonth::Second}) {
+        halves_[static_cast<std::size_t>(one)] = new HalfMonthPanel(command_, one, widget);
+        row->addWidget(&half(one), 1);
+        connectGrid(one);
+    }
+    column->addLayout(row, 1);
+    unread_ = look::label(QString(), look::TextSize::Hint, this);
+    unread_->setObjectName(QStringLiteral("card.unread"));
+    unread_->setWordWrap(true);
+    column->addWidget(unread_);
+    return widget;
+}
+
+void CartaoPontoDadosWindow::connectGrid(HalfMonth which) {
+    const PunchGrid* grid = &half(which).grid();
+    connect(&half(which).model(), &PunchModel::edited, this, &CartaoPontoDadosWindow::showState);
+    connect(grid, &PunchGrid::cellChanged, this, [this, which] { followCursor(which); });
+    connect(grid, &PunchGrid::said, this, [this](const QString& text) {
+        if (text.isEmpty())
+            showStatus();
+        else
+            setState(text);
+    });
+    connect(grid, &PunchGrid::changeRefused, this, [this] { (void)command_.requireEditable(); });
+    connect(grid, &PunchGrid::leftAtEnd, this, [this, which] {
+        showHalf(otherThan(which));
+        half(shown_).grid().goToStart();
+    });
+    connect(grid, &PunchGrid::undoRequested, this, [this] { showEdit(command_.sheet().undo()); });
+    connect(grid, &PunchGrid::redoRequested, this, [this] { showEdit(command_.sheet().redo()); });
+    connect(grid, &PunchGrid::pasteRequested, this,
+            [this](int day, PunchCell cell, const QString& text) {
+                if (command_.pasteCells(day, cell, toUtf8(text))) showSheet();
+            });
+}
+
+void CartaoPontoDadosWindow::buildCommands() {
+    QToolButton* one = addCommand(QStringLiteral("apply"), QStringLiteral("Aplicar Ponto"),
+                                  Qt::Key_F9, QStringLiteral("card.apply"));
+    one->setToolTip(QStringLiteral("Ctrl+F9 aplica e passa ao próximo funcionário."));
+    connect(one, &QToolButton::clicked, this, &CartaoPontoDadosWindow::apply);
+    QToolButton* all =
+        addCommand(QStringLiteral("employees"), QStringLiteral("Aplicar Ponto p/Todos"),
+                   Qt::SHIFT | Qt::Key_F9, QStringLiteral("card.applyToAll"));
+    connect(all, &QToolButton::clicked, this, &CartaoPontoDadosWindow::applyToAll);
+    QToolButton* record = addCommand(QStringLiteral("save"), QStringLiteral("Gravar"),
+                                     QKeySequence::Save, QStringLiteral("card.save"));
+    connect(record, &QToolButton::clicked, this, &CartaoPontoDadosWindow::save);
+    otherHalf_ = addCommand(QStringLiteral("right"), HalfMonthPanel::nameOf(HalfMonth::Second),
+                            Qt::Key_F6, QStringLiteral("card.otherHalf"));
+    connect(otherHalf_, &QToolButton::clicked, this, [this] {
+        showHalf(otherThan(shown_));
+        half(shown_).grid().goToStart();
+    });
+    QToolButton* month =
+        addCommand(QStringLiteral("month"), QStringLiteral("Configurações Feriados e Horas extras"),
+                   Qt::Key_F7, QStringLiteral("card.monthSettings"));
+    connect(month, &QToolButton::clicked, this,
+            [this] { leaveFor(&CartaoPontoDadosWindow::monthSettingsRequested); });
+    addWay(QStringLiteral("leave"), QStringLiteral("Afasta&mentos  F8"), Qt::Key_F8,
+           QStringLiteral("card.leaves"), &CartaoPontoDadosWindow::leavesRequested);
+    addWay(QStringLiteral("rotation"), QStringLiteral("+ Quadro Horário e Escala de Revezamento"),
+           Qt::CTRL | Qt::Key_E, QStringLiteral("card.rotation"),
+           &CartaoPontoDadosWindow::rotationRequested);
+    addWay(QStringLiteral("mirror"), QStringLiteral("Espelho do Ponto"), Qt::CTRL | Qt::Key_I,
+           QStringLiteral("card.mirror"), &CartaoPontoDadosWindow::mirrorRequested);
+    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("card.close"));
+    connect(close, &QPushButton::clicked, this, &CartaoPontoDadosWindow::reject);
+}
+
+void CartaoPontoDadosWindow::addWay(const QString& icon, const QString& text,
+                                    const QKeySequence& key, const QString& objectName,
+                                    void (CartaoPontoDadosWindow::*requested)()) {
+    QPushButton* button = addClosingButton(text, objectName);
+    button->setIcon(look::icon(icon));
+    button->setToolTip(key.toString(QKeySequence::NativeText));
+    connect(button, &QPushButton::clicked, this, [this, requested] { leaveFor(requested); });
+    connect(new QShortcut(key, this), &QShortcut::activated, button, &QPushButton::click);
+}
+
+void CartaoPontoDadosWindow::connectEmployees() {
+    const auto narrow = [this](auto filter) {
+        commitEditors();
+        (void)command_.filterBy(filter);
+        refresh();
+    };
+    connect(employees_, &EmployeePicker::shiftChosen, this, narrow);
+    connect(employees_, &EmployeePicker::scaleChosen, this, narrow);
+    connect(employees_, &EmployeePicker::employeeChosen, this,
+            &CartaoPontoDadosWindow::chooseEmployee);
+    connect(employees_, &EmployeePicker::opened, this, [this] { half(shown_).grid().goToStart(); });
+}
+
+void CartaoPontoDadosWindow::addEmployeeKeys() {
+    const auto add = [this](int key, int step) {
+        auto* shortcut = new QShortcut(key, this);
+        connect(shortcut, &QShortcut::activated, employees_,
+                [this, step] { employees_->step(step); });
+    };
+    add(Qt::Key_PageUp, -1);
+    add(Qt::Key_PageDown, 1);
+    auto* applyAndGoOn = new QShortcut(Qt::CTRL | Qt::Key_F9, this);
+    connect(applyAndGoOn, &QShortcut::activated, this, [this] {
+        if (apply()) employees_->step(1);
+    });
+}
+
+HalfMonthPanel& CartaoPontoDadosWindow::half(HalfMonth half) const {
+    return *halves_[static_cast<std::size_t>(half)];
+}
+
+bool CartaoPontoDadosWindow::isWide() const {
+    const int grids = 2 * half(HalfMonth::First).grid().comfortableWidth();
+    return width() >= kWideSideWidth + grids + 3 * look::kMargin + look::kGap;
+}
+
+void CartaoPontoDadosWindow::showHalf(HalfMonth half) {
+    commitEditors();
+    shown_ = half;
+    layOutHalves();
+}
+
+void CartaoPontoDadosWindow::followCursor(HalfMonth which) {
+    if (which != shown_ && half(which).isAncestorOf(QApplication::focusWidget())) {
+        shown_ = which;
+        layOutHalves();
+    }
+    showStatus();
+}
+
+void CartaoPontoDadosWindow::layOutHalves() {
+    for (const HalfMonth one : {HalfMonth::First, HalfMonth::Second})
+        half(one).setVisible(isWide() || one == shown_);
+    side_->setFixedWidth(isWide() ? kWideSideWidth : kSideWidth);
+    hours_->showOnly(isWide() ? std::nullopt : std::optional(shown_));
+    const HalfMonth other = otherThan(shown_);
+    otherHalf_->setText(HalfMonthPanel::nameOf(other) + QStringLiteral("  F6"));
+    otherHalf_->setToolTip(otherHalf_->text());
+    otherHalf_->setAccessibleName(HalfMonthPanel::nameOf(other));
+    otherHalf_->setIcon(
+        look::icon(other == HalfMonth::Second ? QStringLiteral("right") : QStringLiteral("left")));
+}
+
+void CartaoPontoDadosWindow::resizeEvent(QResizeEvent* event) {
+    ScreenWindow::resizeEvent(event);
+    layOutHalves();
+}
+
+void CartaoPontoDadosWindow::refresh() {
+    if (!command_.selected() && !command_.list().employees().empty()) (void)command_.select(0);
+    if (command_.company())
+        setChips({toQt(command_.company()->text() + " " + command_.companyName()),
+                  toQt(monthTitle(command_.settings().month)),
+                  QStringLiteral("Turno: ") + toQt(codeOf(command_.list().shift()))});
+    employees_->setHint(command_.company() ? QString() : kNoMonth);
+    employees_->refresh();
+    application_->refresh();
+    showCard();
+}
+
+void CartaoPontoDadosWindow::chooseEmployee(std::size_t position) {
+    commitEditors();
+    if (command_.selectedPosition() != position) (void)command_.select(position);
+    showCard();
+}
+
+void CartaoPontoDadosWindow::showCard() {
+    employees_->select(command_.selectedPosition());
+    schedule_->refresh();
+    showUnread();
+    layOutHalves();
+    showSheet();
+}
+
+void CartaoPontoDadosWindow::showSheet() {
+    for (HalfMonthPanel* panel : halves_)
+        panel->showSheet();
+    showState();
+}
+
+void CartaoPontoDadosWindow::showEdit(std::optional<int> day) {
+    if (!day) return;
+    showSheet();
+    const HalfMonth place = halfOf(plusDays(firstDay(command_.settings().month), *day - 1));
+    if (place == shown_) return;
+    showHalf(place);
+    half(place).grid().setCurrentIndex(half(place).model().indexOfDay(*day));
+    half(place).grid().setFocus();
+}
+
+void CartaoPontoDadosWindow::showUnread() {
+    const auto& lines = command_.unreadLines();
+    QStringList texts;
+    for (const std::string& line : lines)
+        texts << toQt(line);
+    unread_->setToolTip(tipOf(texts.join(QLatin1Char('\n'))));
+    unread_->setVisible(!lines.empty());
+    if (lines.empty())
+        unread_->clear();
+    else if (lines.size() == 1)
+        unread_->setText(QStringLiteral("⚠ Linha não entendida, mantida no registro: ") + texts[0]);
+    else
+        unread_->setText(QStringLiteral("⚠ %1 linhas não entendidas, mantidas no registro: %2 …")
+                             .arg(lines.size())
+                             .arg(texts[0]));
+}
+
+void CartaoPontoDadosWindow::showHours() {
+    const Employee* one = command_.selected();
+    hours_->showHours(command_.days().hours(), one ? toQt(one->code + " " + one->name + " · " +
+                                                          monthTitle(command_.settings().month))
+                                                   : QString());
+}
+
+void CartaoPontoDadosWindow::showState() {
+    showHours();
+    for (HalfMonthPanel* panel : halves_)
+        panel->showHeading();
+    showStatus();
+}
+
+void CartaoPontoDadosWindow::showStatus() {
+    setState(cardStatus(command_, half(shown_).grid(),
+                        employees_->isAncestorOf(QApplication::focusWidget())));
+}
+
+void CartaoPontoDadosWindow::commitEditors() {
+    for (HalfMonthPanel* panel : halves_)
+        panel->grid().commitEditor();
+}
+
+bool CartaoPontoDadosWindow::apply() {
+    commitEditors();
+    const bool applied = command_.applyPunches();
+    showCard();
+    return applied;
+}
+
+void CartaoPontoDadosWindow::applyToAll() {
+    commitEditors();
+    const std::size_t listed = command_.list().shown().size();
+    bool applied = false;
+    {
+        Progress progress(
+            {QStringLiteral("card.progress"), QStringLiteral("Aplicação de Pontos"),
+             QStringLiteral("Cartão %1 de %2"), QStringLiteral("Gravando %1 cartões…")},
+            this);
+        applied = command_.applyToAll(application_->sameHours(), [&progress](int done, int total) {
+            return progress.show(done, total);
+        });
+    }
+    employees_->refresh();
+    showCard();
+    if (applied)
+        setState(QStringLiteral("Ponto aplicado: %1 de %2 da lista")
+                     .arg(command_.filledCards())
+                     .arg(listed));
+}
+
+void CartaoPontoDadosWindow::save() {
+    commitEditors();
+    (void)command_.saveChanges();
+    showCard();
+}
+
+void CartaoPontoDadosWindow::leaveFor(void (CartaoPontoDadosWindow::*requested)()) {
+    commitEditors();
+    if (command_.confirmLeaving()) emit(this->*requested)();
+}
+
+bool CartaoPontoDadosWindow::mayClose() {
+    commitEditors();
+    return command_.confirmLeaving();
+}
+
+}  // namespace winvrx
