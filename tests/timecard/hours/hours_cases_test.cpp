@@ -109,8 +109,8 @@ void putSettings(WorkTerms& terms, const std::string& text) {
             else if (name == "adm")
                 terms.leaves = {"", dateOf(value)};
             else if (name == "afa")
-                terms.leaves = {testing::leaveBytes({testing::vacation(
-                                    (value + "/2024").c_str(), (value + "/2024").c_str())}),
+                terms.leaves = {testing::leaveBytes({testing::vacation((value + "/2024").c_str(),
+                                                                       (value + "/2024").c_str())}),
                                 {}};
             else if (name == "fim")
                 terms.leaves = {leaveStatusLine(dateOf(value)), {}};
