@@ -36,14 +36,22 @@ int main(int argc, char** argv) {
     winvrx::setUpDesktop(application);
 
     const QString own = writableFolder(QStandardPaths::AppLocalDataLocation);
-    winvrx::FileLog log(own + QStringLiteral("/winvrx.log"));
+    const QString logFile = own + QStringLiteral("/winvrx.log");
+    winvrx::FileLog log(logFile);
     const winvrx::SystemDrives drives;
     winvrx::LockFileInstance instance(claimPath(drives, own));
     const winvrx::SystemClock clock;
     winvrx::FileUserSettings settings(own + QStringLiteral("/winvrx.ini"));
-    winvrx::Program program(
-        {drives, clock, log, instance, settings,
-         QDir::toNativeSeparators(QApplication::applicationDirPath()).toStdString()});
+    const auto native = [](const QString& path) {
+        return QDir::toNativeSeparators(path).toStdString();
+    };
+    winvrx::Program program({.drives = drives,
+                             .clock = clock,
+                             .log = log,
+                             .instance = instance,
+                             .settings = settings,
+                             .programFolder = native(QApplication::applicationDirPath()),
+                             .logFile = native(logFile)});
     if (!program.start()) return 0;
     return QApplication::exec();
 }

@@ -1,6 +1,7 @@
 #include "app/menu_entries.h"
 
 #include "foundation/copies/desktop/restore_entry.h"
+#include "foundation/menu/desktop/about_window.h"
 #include "foundation/register/desktop/register_entries.h"
 #include "output/mirrors/desktop/hours_entry.h"
 #include "personnel/leaves/desktop/leaves_entry.h"
@@ -35,7 +36,7 @@ MenuEntry help(const Workplace& at, Browser& browser) {
 }  // namespace
 
 MenuEntries menuEntries(const Workplace& at, const CardPrintingDesk& desk, TextEditor& editor,
-                        SafetyCopies& copies) {
+                        SafetyCopies& copies, const std::string& logFile) {
     MenuEntries all;
     const auto add = [&all](const MenuEntries& some) {
         all.insert(all.end(), some.begin(), some.end());
@@ -65,6 +66,7 @@ MenuEntries menuEntries(const Workplace& at, const CardPrintingDesk& desk, TextE
     add({planned("Ferramentas", "backup", "backup", "Cópia de Segurança")});
     add({restoreEntry(at, copies)});
     add({help(at, desk.browser)});
+    add({aboutEntry(at, desk.browser, logFile)});
     return all;
 }
 

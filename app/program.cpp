@@ -41,7 +41,8 @@ Program::Program(const ProgramDesk& desk)
           QString::fromStdString((desk.programFolder / "help").string()))),
       editor_(makeEditor()),
       copies_(*files_, archiver_, desk.log, copyProgress),
-      copiedFiles_(*files_, copies_, session_, desk.clock, desk.log),
+      versionedFiles_(*files_, session_),
+      copiedFiles_(versionedFiles_, copies_, session_, desk.clock, desk.log),
       disk_(systemDisk()),
       host_(systemHost()),
       lock_(*disk_, *host_),
@@ -61,7 +62,7 @@ Program::Program(const ProgramDesk& desk)
       window_(std::make_unique<MenuWindow>(
           menu_, at_, calendar_,
           menuEntries(at_, {*browser_, *engine_, *printers_, [this] { return layoutPlaces(); }},
-                      *editor_, copies_),
+                      *editor_, copies_, desk.logFile),
           [this](std::optional<WorkMonth> month) { return progress(month); })) {
     ScreenWindow::setHelp([this] { openHelp(at_, *browser_); });
 }

@@ -3,6 +3,7 @@
 #include "foundation/copies/daily_copy_files.h"
 #include "foundation/copies/desktop/zip_archiver.h"
 #include "foundation/desk/command.h"
+#include "foundation/desk/data_version.h"
 #include "foundation/desk/desktop/message_box_operator.h"
 #include "foundation/desk/month_progress.h"
 #include "foundation/desk/text_editor.h"
@@ -38,6 +39,7 @@ struct ProgramDesk {
     std::function<std::unique_ptr<Printers>()> printers = nullptr;
     /// The disk: takes the program's own files and may put others before them.
     std::function<std::unique_ptr<FileSystem>(std::unique_ptr<FileSystem>)> files = nullptr;
+    std::string logFile = {};  ///< path of the log, to be shown
 };
 
 /// Joins rules, adapters and windows into the running program.
@@ -66,6 +68,7 @@ class Program {
     Session session_;
     ZipArchiver archiver_;
     SafetyCopies copies_;
+    VersionedFiles versionedFiles_;
     DailyCopyFiles copiedFiles_;
     std::unique_ptr<Disk> disk_;
     std::unique_ptr<Host> host_;

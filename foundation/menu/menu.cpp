@@ -1,5 +1,6 @@
 #include "foundation/menu/menu.h"
 
+#include "foundation/desk/data_version.h"
 #include "foundation/register/employee_register.h"
 #include "foundation/values/text.h"
 
@@ -37,6 +38,14 @@ const Message kConfirmDiscard =
 Message driveMissing(char letter) {
     return refusal("Aviso", std::string("O drive ") + letter + " não está disponível.",
                    std::string("Os dados do drive ") + kDefaultDrive + " serão usados.");
+}
+
+Message writtenByNewer(const ProgramVersion& version) {
+    return refusal("Aviso",
+                   "Os dados desta pasta foram gravados por uma versão mais nova do programa, a " +
+                       version.text() + ".",
+                   "Esta é a versão " + programVersion().text() +
+                       ". Atualize o programa antes de alterar estes dados.");
 }
 
 bool isDealtWith(const Store& store, std::string_view earlierFolder) {
@@ -146,7 +155,9 @@ void Menu::useFolder(const DataFolder& folder) {
     at_.session.folder = folder;
     at_.files.makeFolder(folder.path());
     removeLeftovers(folder.path());
-    usedFolders_.insert(folder.path());
+    if (!usedFolders_.insert(folder.path()).second) return;
+    const auto version = dataVersion(at_.files, folder);
+    if (version && *version > programVersion()) at_.person.tell(writtenByNewer(*version));
 }
 
 void Menu::removeLeftovers(const std::filesystem::path& folder) {

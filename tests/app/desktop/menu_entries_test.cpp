@@ -26,7 +26,7 @@ TEST(MenuEntries, NoTwoTilesShareAKeyALetterOrAName) {
     testing::TestPrinters printers;
     std::map<std::string, std::vector<std::string>> owners;
     for (const MenuEntry& entry :
-         menuEntries(desk.at, {browser, engine, printers, {}}, editor, copies)) {
+         menuEntries(desk.at, {browser, engine, printers, {}}, editor, copies, "")) {
         const std::string name = toUtf8(entry.objectName);
         owners["name " + name].push_back(name);
         if (!entry.key.isEmpty()) owners["key " + toUtf8(entry.key.toString())].push_back(name);

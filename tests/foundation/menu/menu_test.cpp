@@ -87,6 +87,15 @@ TEST_F(MenuTest, DriveLetterIsReadBack) {
     }
 }
 
+TEST_F(MenuTest, DataOfANewerProgramIsTold) {
+    desk.files.content = {{kOnC + "VersaoDados", "99.0.0\r\n"}};
+    menu().load();
+    const auto told = desk.person.takeTexts();
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_THAT(told[0], ::testing::HasSubstr("versão mais nova do programa, a 99.0.0."));
+    EXPECT_EQ(contentOf(kOnC + "VersaoDados"), "99.0.0\r\n");
+}
+
 TEST_F(MenuTest, ShareInUseOrNotFound) {
     desk.files.folders = {"//server/office"};
     Menu onShare = menu("\\\\server\\office");
