@@ -70,6 +70,7 @@ std::optional<std::string_view> stemOf(std::string_view name) {
         if (standsAt(name, 3, stem)) return stem;
     for (const std::string_view stem : kTerminationStems)
         if (standsAt(name, 3, stem)) return stem;
+    if (standsAt(name, 3, kPayrollFactsStem)) return kPayrollFactsStem;
     return std::nullopt;
 }
 

@@ -39,10 +39,23 @@ void endAtOnce(TerminationDates& dates, TerminationType type) {
     dates.lastDayWorked = {given, rule};
 }
 
+int workedDays(const TerminationDates& dates, NoticeType notice) {
+    return notice == NoticeType::Worked ? std::min(dates.noticeDays.value, kMostWorkedDays) : 0;
+}
+
+/// By agreement the days that are paid and not worked count half.
+void halvePaidDays(Explained<int>& notice, int worked) {
+    const int half = (notice.value - worked + 1) / 2;
+    if (half == 0) return;
+    notice.value = worked + half;
+    notice.rule += "; por acordo, metade do que é indenizado = " + days(half) + ", CLT art. 484-A";
+}
+
 void runNotice(TerminationDates& dates, TerminationType type, NoticeType notice) {
+    const int worked = workedDays(dates, notice);
+    if (type == TerminationType::Agreement) halvePaidDays(dates.noticeDays, worked);
     const Date given = dates.noticeGiven.value;
     const int owed = dates.noticeDays.value;
-    const int worked = notice == NoticeType::Worked ? std::min(owed, kMostWorkedDays) : 0;
     dates.noticeBegins = {plusDays(given, 1), "Dia seguinte ao da comunicação, que não se conta"};
     dates.noticeEnds = {plusDays(given, owed), after("Comunicação", given, owed)};
     dates.lastDayWorked = {plusDays(given, worked), after("Comunicação", given, worked)};
@@ -87,6 +100,7 @@ Explained<int> noticeDays(TerminationType type, Date admission, Date given) {
         }
         case TerminationType::WithoutCause:
         case TerminationType::EmployersFault:
+        case TerminationType::Agreement:
             break;
     }
     return fullNotice(admission, given);

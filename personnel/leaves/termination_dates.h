@@ -9,9 +9,9 @@
 // the final account is paid. Pure arithmetic on calendar dates; what was typed over stands outside.
 //
 // Sources: CLT 477 par. 6 (payment), 482 (just cause), 483 (employer's fault), 484 (mutual fault),
-// 487 and 488 (notice, its shorter days); Lei 12.506/2011 with the labour ministry's technical note
-// 184/2012 (30 days and 3 more for each full year, in the employee's favour only, at most 30 of
-// them worked); TST Súmula 14 (half the notice by mutual fault).
+// 484-A (agreement), 487 and 488 (notice, its shorter days); Lei 12.506/2011 with the labour
+// ministry's technical note 184/2012 (30 days and 3 more for each full year, in the employee's
+// favour only, at most 30 of them worked); TST Súmula 14 (half the notice by mutual fault).
 
 namespace winvrx {
 
@@ -20,7 +20,8 @@ enum class TerminationType {
     JustCause,
     Resignation,
     EmployersFault,
-    MutualFault
+    MutualFault,
+    Agreement  ///< no entry of the leave screen's list: it is said beside the record
 };
 
 enum class NoticeType {

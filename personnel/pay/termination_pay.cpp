@@ -12,7 +12,7 @@ namespace {
 constexpr int kDaysAMonth = 30;
 constexpr int kMonthsAYear = 12;
 constexpr int kUsualFine = 40;
-constexpr int kMutualFine = 20;
+constexpr int kHalfFine = 20;
 
 bool isResignation(const TerminationCase& end) {
     return end.type == TerminationType::Resignation;
@@ -20,6 +20,11 @@ bool isResignation(const TerminationCase& end) {
 
 bool isMutual(const TerminationCase& end) {
     return end.type == TerminationType::MutualFault;
+}
+
+/// Half of the usual one by mutual fault and by agreement (Lei 8.036/1990, art. 18; CLT, 484-A).
+int finePercent(const TerminationCase& end) {
+    return isMutual(end) || end.type == TerminationType::Agreement ? kHalfFine : kUsualFine;
 }
 
 /// By mutual fault half of it is due (CLT, art. 484; Súmula 14 of the TST).
@@ -32,9 +37,9 @@ Reckoning halved(const TerminationCase& end, Reckoning whole) {
 
 int daysOfNoticePaid(const TerminationCase& end, const TerminationDates& dates) {
     if (isResignation(end)) return 0;
-    const auto worked = std::chrono::sys_days(dates.lastDayWorked.value) -
-                        std::chrono::sys_days(dates.noticeGiven.value);
-    return dates.noticeDays.value - static_cast<int>(worked.count());
+    const auto paid = std::chrono::sys_days(dates.noticeEnds.value) -
+                      std::chrono::sys_days(dates.lastDayWorked.value);
+    return static_cast<int>(paid.count());
 }
 
 Reckoning noticePay(const TerminationCase& end, int days, std::string words) {
@@ -42,7 +47,8 @@ Reckoning noticePay(const TerminationCase& end, int days, std::string words) {
 }
 
 void reckonNotice(const TerminationCase& end, TerminationPay& pay) {
-    pay.dates = terminationDates(end.type, end.notice, end.admission, end.given);
+    pay.dates =
+        end.dates ? *end.dates : terminationDates(end.type, end.notice, end.admission, end.given);
     if (const int days = daysOfNoticePaid(end, pay.dates); days > 0)
         pay.notice = noticePay(end, days, "Aviso prévio indenizado");
     if (!pay.notice.memo.empty()) pay.notice.memo.push_back({pay.dates.noticeDays.rule});
@@ -53,14 +59,15 @@ void reckonNotice(const TerminationCase& end, TerminationPay& pay) {
 
 void reckonBalance(const PayrollLaw& law, const TerminationCase& end, TerminationPay& pay) {
     const Date last = pay.dates.lastDayWorked.value;
-    if (const auto part = employedPart(monthOf(last), end.admission, last))
-        pay.balance =
-            partialSalary(end.salary, *part, law.settings.partialMonth, "Saldo de salário");
+    auto part = employedPart(monthOf(last), end.admission, last);
+    if (!part) return;
+    part->daysAway = end.daysAway;
+    pay.balance = partialSalary(end.salary, *part, law.settings.partialMonth, "Saldo de salário");
 }
 
 /// Twelfths of the year of `last`, and of the next where the projected notice reaches it.
 int twelfthsUntil(const TerminationCase& end, Date lastWorked, Date last) {
-    int twelfths = thirteenthTwelfths(lastWorked.year(), end.admission, last);
+    int twelfths = thirteenthTwelfths(lastWorked.year(), end.admission, last, end.absentDays);
     if (last.year() > lastWorked.year())
         twelfths += thirteenthTwelfths(last.year(), end.admission, last);
     return twelfths;
@@ -111,12 +118,15 @@ void reckonDeductions(const PayrollLaw& law, const TerminationCase& end, Termina
     const WorkMonth month = monthOf(pay.dates.lastDayWorked.value);
     const Date paid = end.paid.value_or(pay.dates.paymentDue.value);
     const Money notice = law.settings.inssOnPaidNotice ? pay.notice.amount : Money{};
-    pay.inssBalance = inss(law, pay.balance.amount + notice, month, "INSS sobre o saldo");
+    const Money income = atLeastZero(pay.balance.amount + end.monthsPay);
+    pay.inssBalance = inss(law, income + notice, month, "INSS sobre o saldo");
     pay.inssThirteenth = inss(law, thirteenthForInss(law, end, pay), month, "INSS sobre o 13º");
     pay.taxBalance = incomeTax(law, {.kind = TaxedIncome::Month,
-                                     .income = pay.balance.amount,
+                                     .income = income,
                                      .inss = pay.inssBalance.amount,
                                      .dependants = end.dependants,
+                                     .alimony = end.alimony,
+                                     .privatePension = end.privatePension,
                                      .paid = paid});
     pay.taxThirteenth = incomeTax(law, {.kind = TaxedIncome::Thirteenth,
                                         .income = pay.thirteenth.amount,
@@ -126,11 +136,16 @@ void reckonDeductions(const PayrollLaw& law, const TerminationCase& end, Termina
 }
 
 void reckonFgts(const PayrollLaw& law, const TerminationCase& end, TerminationPay& pay) {
-    const Money base = pay.balance.amount + pay.notice.amount + pay.thirteenth.amount;
-    pay.fgts = fgts(law, base, end.fgtsRate, "FGTS da rescisão");
+    pay.fgtsBase = atLeastZero(pay.balance.amount + end.monthsPay) + pay.notice.amount +
+                   atLeastZero(pay.thirteenth.amount - end.thirteenthPaid);
+    pay.fgts = fgts(law, pay.fgtsBase, end.fgtsRate, "FGTS da rescisão");
     if (end.type == TerminationType::JustCause || isResignation(end)) return;
-    pay.fgtsFine =
-        fgtsFine(end.fgtsAccount + pay.fgts.amount, isMutual(end) ? kMutualFine : kUsualFine);
+    if (law.settings.isDomesticEmployer)
+        pay.fgtsFine.memo = {
+            {"Sem multa: a reserva de 3,2% de cada mês fica no lugar dela (LC "
+             "150/2015, art. 22)"}};
+    else
+        pay.fgtsFine = fgtsFine(end.fgtsAccount + pay.fgts.amount, finePercent(end));
 }
 
 }  // namespace
@@ -138,17 +153,19 @@ void reckonFgts(const PayrollLaw& law, const TerminationCase& end, TerminationPa
 TerminationPay terminationPay(const PayrollLaw& law, const TerminationCase& end) {
     TerminationPay pay;
     reckonNotice(end, pay);
-    if (law.settings.paymentTerm == PaymentTerm::FromProjectedEnd)
+    if (!end.dates && law.settings.paymentTerm == PaymentTerm::FromProjectedEnd)
         pay.dates.paymentDue = paymentDue(pay.dates.noticeEnds.value);
     reckonBalance(law, end, pay);
     reckonThirteenth(end, pay);
     reckonVacation(end, pay);
     reckonDeductions(law, end, pay);
     reckonFgts(law, end, pay);
-    pay.gross = pay.balance.amount + pay.notice.amount + pay.thirteenth.amount +
+    if (end.thirteenthPaid.cents > 0)
+        pay.thirteenthPaid = Sum(end.thirteenthPaid).rounded("1ª parcela do 13º, já paga");
+    pay.gross = pay.balance.amount + end.monthsPay + pay.notice.amount + pay.thirteenth.amount +
                 pay.vacation.amount + pay.vacationThird.amount + pay.overdue.amount;
-    pay.deductions = pay.noticeDeducted.amount + pay.inssBalance.amount +
-                     pay.inssThirteenth.amount + pay.taxBalance.withheld +
+    pay.deductions = pay.noticeDeducted.amount + pay.thirteenthPaid.amount +
+                     pay.inssBalance.amount + pay.inssThirteenth.amount + pay.taxBalance.withheld +
                      pay.taxThirteenth.withheld;
     pay.net = pay.gross - pay.deductions;
     return pay;

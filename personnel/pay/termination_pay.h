@@ -16,13 +16,21 @@ struct TerminationCase {
     NoticeType notice = NoticeType::Paid;
     Date admission{};
     Date given{};  ///< the day on which notice is given
+    /// As recorded; worked out of type, notice, admission and the day it is given where not said.
+    std::optional<TerminationDates> dates = {};
     Money salary = {};
-    Money averages = {};     ///< of variable pay, in notice, 13th and vacation
-    int overduePeriods = 0;  ///< vacations earned and not taken
-    int doubledPeriods = 0;  ///< of these, past the limit of the concession
-    int absences = 0;        ///< unjustified, in the vacation period that runs
-    Money fgtsAccount = {};  ///< its balance before this account
+    Money averages = {};        ///< of variable and risk pay, in notice, 13th and vacation
+    Money monthsPay = {};       ///< of the last month besides the balance, taxed; below zero too
+    int daysAway = 0;           ///< of the last month, without pay
+    Money thirteenthPaid = {};  ///< this year's first instalment
+    std::vector<Date> absentDays = {};  ///< unjustified: no service in the year's twelfths
+    int overduePeriods = 0;             ///< vacations earned and not taken
+    int doubledPeriods = 0;             ///< of these, past the limit of the concession
+    int absences = 0;                   ///< unjustified, in the vacation period that runs
+    Money fgtsAccount = {};             ///< its balance before this account
     int dependants = 0;
+    Money alimony = {};
+    Money privatePension = {};
     std::optional<Date> paid = {};  ///< the day on which it is due where not said
     FgtsRate fgtsRate = FgtsRate::Usual;
 };
@@ -39,13 +47,15 @@ struct TerminationPay {
     Reckoning vacation;  ///< in twelfths
     Reckoning vacationThird;
     Reckoning overdue;  ///< whole periods, with their third
+    Reckoning thirteenthPaid;
     Reckoning inssBalance;
     Reckoning inssThirteenth;
     IncomeTax taxBalance;
     IncomeTax taxThirteenth;
     Reckoning fgts;  ///< of this account
     Reckoning fgtsFine;
-    Money gross;
+    Money fgtsBase;
+    Money gross;  ///< with what the last month pays besides the balance
     Money deductions;
     Money net;  ///< without FGTS and fine, which go to the account; may be below zero
 };

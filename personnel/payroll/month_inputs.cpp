@@ -52,6 +52,16 @@ void takeHours(const PayrollLaw& law, const EmployeeMonth& of, MonthPayCase& mon
     month.days = countPayDays(law, of.settings);
 }
 
+void takeFacts(const EmployeeMonth& of, MonthPayCase& month) {
+    month.alimony = of.facts.alimony;
+    month.privatePension = of.facts.privatePension;
+    if (of.facts.isApprentice) month.fgtsRate = FgtsRate::Apprentice;
+    month.voucherCost = std::nullopt;
+    if (!of.facts.voucherPerDay) return;
+    const int days = of.hours ? daysWorked(*of.hours) : 0;
+    month.voucherCost = Money{of.facts.voucherPerDay->cents * days};
+}
+
 HoursRow rowOf(std::string_view label, std::chrono::seconds hours) {
     std::string text = decimalHours(hours, Decimals::One);
     // The mask "000,0".
@@ -66,7 +76,8 @@ EmployeeMonth loadEmployeeMonth(const Store& store, const CompanyCode& company,
                                 const FolderNames& names) {
     const EmployeeKey key{company, employee.employeeCode().value()};
     const auto has = [&](const std::string& name) { return names.contains(name); };
-    EmployeeMonth month{employee, settings, LeaveCalendar({}, employee.admissionDate()), {}};
+    EmployeeMonth month{employee, settings, LeaveCalendar({}, employee.admissionDate()), {}, {}};
+    if (has(payrollFactsName(key))) month.facts = loadPayrollFacts(store, key).facts;
     if (has(company.text() + leaveFileName(key.employee)))
         month.leaves = loadLeaveCalendar(store, key, employee.admissionDate());
     if (has(punchFileName(key, settings.month)))
@@ -88,6 +99,16 @@ int daysAwayUnpaid(const LeaveCalendar& leaves, const MonthPart& part) {
     return away;
 }
 
+int daysWorked(const EmployeeHours& hours) {
+    int days = 0;
+    Date date = hours.period.first;
+    for (const PunchLine& line : hours.lines) {
+        if (dayHours(line, date, hours.terms).worked().count() > 0) ++days;
+        date = plusDays(date, 1);
+    }
+    return days;
+}
+
 std::optional<MonthPayCase> monthCase(const PayrollLaw& law, const EmployeeMonth& of, Date paid) {
     const WorkMonth when = of.settings.month;
     const Date admission = of.employee.admissionDate().value_or(firstDay(when));
@@ -96,7 +117,7 @@ std::optional<MonthPayCase> monthCase(const PayrollLaw& law, const EmployeeMonth
     part->daysAway = daysAwayUnpaid(of.leaves, *part);
     MonthPayCase month{.part = *part, .paid = paid};
     month.salary = salaryOf(of.employee).value_or(Money{});
-    month.voucherCost = std::nullopt;
+    takeFacts(of, month);
     month.dependants = parseWholeNumber(of.employee.dependants, 0, kMostDependants).value_or(0);
     if (of.hours) takeHours(law, of, month);
     return month;

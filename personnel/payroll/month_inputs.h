@@ -4,6 +4,7 @@
 #include "foundation/register/leave_calendar.h"
 #include "personnel/pay/payroll_law.h"
 #include "personnel/payroll/pay_sheet_case.h"
+#include "personnel/payroll/payroll_facts.h"
 #include "timecard/hours/employee_hours.h"
 
 #include <array>
@@ -19,6 +20,7 @@ struct EmployeeMonth {
     Employee employee;
     MonthSettings settings;
     LeaveCalendar leaves;
+    PayrollFacts facts;
     std::optional<EmployeeHours> hours;  ///< of the calendar month; none, no card is filled
 };
 
@@ -35,6 +37,9 @@ struct EmployeeMonth {
 /// paid by itself, military service, and illness or accident from the sixteenth day on (Lei
 /// 8.213/1991, art. 60 par. 3). Maternity is paid and taken back from the INSS.
 [[nodiscard]] int daysAwayUnpaid(const LeaveCalendar& leaves, const MonthPart& part);
+
+/// Days of the card on which something was worked: for those tickets are bought.
+[[nodiscard]] int daysWorked(const EmployeeHours& hours);
 
 /// The month as the payroll computes it, paid on `paid`; nullopt where the contract has no day in
 /// it. What tolerance forgives is not missing: hours_pay has its hours from the time card.

@@ -60,6 +60,15 @@ Reckonings deductionsByCode(const MonthDeductions& pay) {
             {"031", pay.advance}};
 }
 
+Reckoning monthly(Money amount, std::string words) {
+    return amount.cents == 0 ? Reckoning{} : Sum(amount).rounded(std::move(words));
+}
+
+Reckonings factsByCode(const MonthPayCase& month) {
+    return {{"097", monthly(month.alimony, "Pensão alimentícia")},
+            {"098", monthly(month.privatePension, "Previdência privada")}};
+}
+
 class SheetWriter {
   public:
     SheetWriter(std::span<const PayrollEventLine> events, const TypedAmounts& typed)
@@ -115,7 +124,11 @@ class SheetWriter {
 };
 
 void writeMonth(const PayrollLaw& law, const MonthPayCase& month, SheetWriter& writer) {
+    const Reckonings facts = factsByCode(month);
+    for (const PayrollEventLine& line : factEvents())
+        if (facts.at(line.record.code).amount.cents > 0) writer.addMissing({&line, 1});
     writer.open(PayrollKind::Month);
+    writer.take(facts);
     writer.take(earningsByCode(monthEarnings(law, month)));
     const Money base = taxedPay(writer.sheet(), PayrollKind::Month);
     const MonthDeductions deductions = monthDeductions(law, month, base);

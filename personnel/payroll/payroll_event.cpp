@@ -4,6 +4,7 @@
 #include "timecard/hours/hours_summary.h"
 
 #include <algorithm>
+#include <span>
 
 namespace winvrx {
 
@@ -63,6 +64,13 @@ std::string ownEventsName(const EmployeeKey& key) {
     return key.company.text() + key.employee.text() + std::string(kEmployeeEventListStem);
 }
 
+PayrollEvents linesOf(std::span<const std::string_view> texts) {
+    PayrollEvents events;
+    for (const std::string_view text : texts)
+        events.push_back(lineFrom<PayrollEvent>(encodeWindows1252(text)));
+    return events;
+}
+
 }  // namespace
 
 int PayrollEvent::referenceNumber() const {
@@ -92,6 +100,7 @@ std::optional<PayrollEvent> newEvent(const NewEvent& said, const PayrollEvents& 
     std::set<EventCode> taken = keysOf(existing);
     taken.merge(keysOf(defaultEvents({})));
     taken.merge(keysOf(vacationExtras()));
+    taken.merge(keysOf(factEvents()));
     const auto code = lowestFreeCode(taken);
     if (!code) return std::nullopt;
     return PayrollEvent{.code = code->text(),
@@ -113,10 +122,11 @@ PayrollEvents defaultEvents(const OvertimeRules& rates) {
 }
 
 PayrollEvents vacationExtras() {
-    PayrollEvents events;
-    for (const std::string_view line : kVacationExtras)
-        events.push_back(lineFrom<PayrollEvent>(encodeWindows1252(line)));
-    return events;
+    return linesOf(kVacationExtras);
+}
+
+PayrollEvents factEvents() {
+    return linesOf(kFactEvents);
 }
 
 LineFile<PayrollEvent> companyEvents(const Store& store, const CompanyCode& company) {

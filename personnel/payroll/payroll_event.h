@@ -98,6 +98,11 @@ inline constexpr std::array<std::string_view, 3> kVacationExtras = {
     "036 DOBRA DE FÉRIAS      1000,00000100"};
 [[nodiscard]] PayrollEvents vacationExtras();
 
+/// What is taken off by court decision and for a private pension, where the employee has them.
+inline constexpr std::array<std::string_view, 2> kFactEvents = {
+    "097 PENSAO ALIMENTICIA   0000,00001000", "098 PREVIDENCIA PRIVADA  0000,00001000"};
+[[nodiscard]] PayrollEvents factEvents();
+
 /// The company's catalogue, and that of one employee. No file stands for the default one.
 [[nodiscard]] LineFile<PayrollEvent> companyEvents(const Store& store, const CompanyCode& company);
 [[nodiscard]] LineFile<PayrollEvent> employeeEvents(const Store& store, const EmployeeKey& key);

@@ -104,6 +104,7 @@ TerminationType typeIn(In in) {
     if (!in.has("tipo") && !in.has("motivo")) return TerminationType::WithoutCause;
     const std::string& word = in.text({"tipo", "motivo"});
     const auto names = [&](std::string_view part) { return word.find(part) != std::string::npos; };
+    if (names("acordo") || names("484-a") || names("484-A")) return TerminationType::Agreement;
     if (names("sem_justa") || names("sem justa") || names("dispensa"))
         return TerminationType::WithoutCause;
     if (names("justa")) return TerminationType::JustCause;

@@ -19,9 +19,7 @@ class FolhaScreen : public ::testing::Test, protected TestWorkplace {
     static inline const std::filesystem::path kLegal = "/program/legal";
 
     FolhaScreen() {
-        for (const std::string_view name : kLegalFiles)
-            files.content[kLegal / name] =
-                systemFiles()->read(std::filesystem::path(WINVRX_LEGAL_FOLDER) / name).value();
+        deliverLegalTables(files, kLegal, WINVRX_LEGAL_FOLDER);
         fillCard("001");
         EXPECT_TRUE(folha.load(kMonth));
     }

@@ -1,0 +1,110 @@
+#include "foundation/register/leave_file.h"
+#include "personnel/payroll/payroll_record.h"
+#include "personnel/payroll/run_inputs.h"
+#include "personnel/payroll/settings_file.h"
+#include "personnel/termination/termination_sheet.h"
+#include "personnel/vacation/vacation_rules.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+/// Fractions and days sold aside, so many days of vacation make a period's: a third may be sold.
+constexpr int kDaysThatFillAPeriod = 20;
+constexpr int kMonthsLookedBack = 12;
+
+Leave recordedLeave(const Store& store, const EmployeeKey& key, const Employee& employee) {
+    LeaveFile file = loadLeaveFile(store, key);
+    const auto place = file.termination();
+    if (!place)
+        throw Fault("no termination on record", "Registre primeiro a rescisão de " + employee.name +
+                                                    " na tela de Afastamentos, com o tipo 008.");
+    return std::move(file.leaves[*place].record);
+}
+
+/// Vacations that the leaves on record have given.
+int periodsTaken(const LeaveCalendar& leaves) {
+    int periods = 0;
+    int days = 0;
+    for (const DatedLeave& leave : leaves.leaves()) {
+        if (!leave.leave.type.starts_with("006")) continue;
+        const auto length =
+            std::chrono::sys_days(leave.period.last) - std::chrono::sys_days(leave.period.first);
+        days += static_cast<int>(length.count()) + 1;
+        if (days < kDaysThatFillAPeriod) continue;
+        ++periods;
+        days = 0;
+    }
+    return periods;
+}
+
+/// What is said holds; else the periods that the leaves have not given.
+void takePeriods(TerminationInputs& inputs) {
+    const Date last = inputs.record.dates.lastDayWorked.value;
+    const PayrollFacts& facts = inputs.lastMonth.facts;
+    auto periods = acquisitionPeriods(inputs.record.admission, last);
+    periods.pop_back();
+    const auto taken = static_cast<std::size_t>(periodsTaken(inputs.lastMonth.leaves));
+    periods.erase(periods.begin(),
+                  periods.begin() + static_cast<std::ptrdiff_t>(std::min(taken, periods.size())));
+    const auto isPast = [&](const AcquisitionPeriod& period) { return period.limit < last; };
+    inputs.overduePeriods = facts.overduePeriods.value_or(static_cast<int>(periods.size()));
+    inputs.doubledPeriods = std::min(
+        inputs.overduePeriods,
+        facts.doubledPeriods.value_or(static_cast<int>(std::ranges::count_if(periods, isPast))));
+}
+
+/// What the first instalment of the year has paid.
+Money thirteenthPaid(const Store& store, const EmployeeKey& key, WorkMonth month,
+                     const FolderNames& names) {
+    constexpr PayrollRun kFirst = PayrollRun::ThirteenthFirst;
+    const auto paid = recordedInYear(key, kFirst, month, names);
+    const auto payroll = paid ? loadPayroll(store, key, *paid, kFirst) : std::nullopt;
+    return payroll ? payroll->sheet.net : Money{};
+}
+
+TerminationInputs loadInputs(const Store& store, const CompanyCode& company,
+                             const Employee& employee, const FolderNames& names) {
+    const EmployeeKey key{company, employee.employeeCode().value()};
+    const auto admission = employee.admissionDate();
+    if (!admission)
+        throw Fault("no admission",
+                    "O cadastro de " + employee.name + " não tem uma data de admissão válida.");
+    const PayrollFacts facts = loadPayrollFacts(store, key).facts;
+    TerminationInputs inputs{.record = terminationRecord(recordedLeave(store, key, employee),
+                                                         *admission, facts.endsByAgreement)};
+    const WorkMonth month = monthOf(inputs.record.dates.lastDayWorked.value);
+    SettingsByMonth months;
+    inputs.lastMonth = loadEmployeeMonth(store, company, employee, months.of(store, month), names);
+    const OvertimeRules& rates = inputs.lastMonth.hours ? inputs.lastMonth.hours->terms.overtime
+                                                        : inputs.lastMonth.settings.overtime;
+    inputs.events = loadEvents(store, key, companyEvents(store, company).load(), rates, names);
+    if (const auto recorded = loadPayroll(store, key, month))
+        inputs.typed = typedAmounts(recorded->sheet);
+    inputs.thirteenthPaid = thirteenthPaid(store, key, month, names);
+    const LeavePeriod span{firstDay(month - std::chrono::months{kMonthsLookedBack}),
+                           inputs.record.dates.lastDayWorked.value};
+    inputs.history = loadCardHistory(store, company, employee, span, months, names);
+    takePeriods(inputs);
+    return inputs;
+}
+
+}  // namespace
+
+TerminationSheet loadTerminationSheet(const Store& store, const std::filesystem::path& legalFolder,
+                                      const CompanyCode& company, const Employee& employee) {
+    const LegalTables tables = loadLegalTables(store, legalFolder);
+    const PayrollSettings settings = loadPayrollSettings(store, company).settings;
+    const PayrollLaw law{tables, settings};
+    TerminationInputs inputs = loadInputs(store, company, employee, namesIn(store));
+    const Explained<Date>& end = inputs.record.dates.noticeEnds;
+    Explained<Date>& due = inputs.record.dates.paymentDue;
+    const Explained<Date> byRule = paymentDue(inputs.record.dates.lastDayWorked.value);
+    if (settings.paymentTerm == PaymentTerm::FromProjectedEnd && due.value == byRule.value)
+        due = paymentDue(end.value);
+    return terminationSheet(law, inputs);
+}
+
+}  // namespace winvrx

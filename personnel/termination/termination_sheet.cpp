@@ -1,0 +1,193 @@
+#include "personnel/termination/termination_sheet.h"
+
+#include "personnel/pay/partial_month.h"
+#include "personnel/vacation/vacation_rules.h"
+
+#include <algorithm>
+
+namespace winvrx {
+
+namespace {
+
+/// Of the last month's sheet, what the termination works out by itself.
+constexpr std::array<std::string_view, 3> kWorkedOut = {"001", "091", "092"};
+
+std::string counted(int count, const std::string& one, const std::string& many) {
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+std::string twelfthsText(int twelfths) {
+    return std::to_string(twelfths) + "/12";
+}
+
+/// The last month with what its events say.
+MonthPayCase lastMonthOf(const PayrollLaw& law, const TerminationInputs& inputs) {
+    const Date last = inputs.record.dates.lastDayWorked.value;
+    const Date paid = inputs.record.dates.paymentDue.value;
+    auto month = monthCase(law, inputs.lastMonth, paid);
+    const auto part = employedPart(monthOf(last), inputs.record.admission, last);
+    if (!month || !part)
+        throw Fault("no day of the contract in its last month",
+                    "O contrato não tem dias em " + monthTitle(monthOf(last)) + ".");
+    month->part = *part;
+    month->part.daysAway = daysAwayUnpaid(inputs.lastMonth.leaves, *part);
+    return *month;
+}
+
+Reckoning averagesOf(const PayrollLaw& law, const TerminationInputs& inputs,
+                     const MonthPayCase& month) {
+    if (const auto said = inputs.lastMonth.facts.averages)
+        return Sum(*said).rounded("Média mensal de variáveis, de Dados para a Folha");
+    return variablePayAverage(law, month, inputs.history.recorded);
+}
+
+int absencesInRunningPeriod(const TerminationInputs& inputs) {
+    const auto periods =
+        acquisitionPeriods(inputs.record.admission, inputs.record.dates.lastDayWorked.value);
+    return static_cast<int>(std::ranges::count_if(
+        inputs.history.absences, [&](Date date) { return date >= periods.back().first; }));
+}
+
+TerminationCase caseOf(const PayrollLaw& law, const TerminationInputs& inputs,
+                       const MonthPayCase& month, const PaySheet& sheet, Money averages) {
+    const TerminationRecord& record = inputs.record;
+    const Money risk = wholeRiskPay(law, month).total();
+    TerminationCase end{.type = record.type,
+                        .notice = record.notice,
+                        .admission = record.admission,
+                        .given = record.dates.noticeGiven.value,
+                        .dates = record.dates,
+                        .salary = month.salary};
+    end.averages = averages + risk;
+    end.monthsPay = sheet.base - sheet.amountOf("001");
+    end.daysAway = month.part.daysAway;
+    end.thirteenthPaid = inputs.thirteenthPaid;
+    end.absentDays = inputs.history.absences;
+    end.overduePeriods = inputs.overduePeriods;
+    end.doubledPeriods = inputs.doubledPeriods;
+    end.absences = absencesInRunningPeriod(inputs);
+    end.fgtsAccount = inputs.lastMonth.facts.fgtsAccount;
+    end.dependants = month.dependants;
+    end.alimony = month.alimony;
+    end.privatePension = month.privatePension;
+    end.fgtsRate = month.fgtsRate;
+    return end;
+}
+
+class SheetLines {
+  public:
+    SheetLines(const TerminationInputs& inputs, TerminationSheet& sheet)
+        : inputs_(inputs), sheet_(sheet), pay_(sheet.pay) {}
+
+    void write(const MonthPayCase& month, const PaySheet& lastMonth) {
+        writePay(month);
+        for (const PayLine& line : lastMonth.lines)
+            if (std::ranges::find(kWorkedOut, line.event.code) == kWorkedOut.end())
+                add(line.event.isEarning() ? sheet_.credits : sheet_.debits, line.event.name, {},
+                    {line.amount, line.memo});
+        writeRest();
+        writeDeductions();
+        writeDeposits();
+    }
+
+  private:
+    using Lines = std::vector<TerminationLine>;
+
+    static void add(Lines& lines, std::string words, std::string quantity,
+                    const Reckoning& reckoning) {
+        if (reckoning.amount.cents == 0) return;
+        lines.push_back({std::move(words), std::move(quantity), reckoning.amount, reckoning.memo});
+    }
+
+    void writePay(const MonthPayCase& month) {
+        add(sheet_.credits, "Saldo de salário", counted(month.part.calendarDays(), "dia", "dias"),
+            pay_.balance);
+    }
+
+    void writeRest() {
+        Lines& credits = sheet_.credits;
+        add(credits, "Aviso prévio indenizado", paidNoticeText(), pay_.notice);
+        add(credits, "13º salário proporcional", twelfthsText(pay_.thirteenthTwelfths),
+            pay_.thirteenth);
+        add(credits, "Férias vencidas, com 1/3",
+            counted(inputs_.overduePeriods, "período", "períodos"), pay_.overdue);
+        add(credits, "Férias proporcionais", twelfthsText(pay_.vacationTwelfths), pay_.vacation);
+        add(credits, "1/3 das férias proporcionais", {}, pay_.vacationThird);
+    }
+
+    void writeDeductions() {
+        Lines& debits = sheet_.debits;
+        add(debits, "Aviso prévio não cumprido",
+            counted(pay_.dates.noticeDays.value, "dia", "dias"), pay_.noticeDeducted);
+        add(debits, "1ª parcela do 13º salário", {}, pay_.thirteenthPaid);
+        add(debits, "INSS", {}, pay_.inssBalance);
+        add(debits, "INSS sobre o 13º salário", {}, pay_.inssThirteenth);
+        add(debits, "IRRF", {}, {pay_.taxBalance.withheld, pay_.taxBalance.memo});
+        add(debits, "IRRF sobre o 13º salário", {},
+            {pay_.taxThirteenth.withheld, pay_.taxThirteenth.memo});
+    }
+
+    void writeDeposits() {
+        add(sheet_.deposits, "FGTS da rescisão", {}, pay_.fgts);
+        add(sheet_.deposits, "Multa do FGTS", {}, pay_.fgtsFine);
+    }
+
+    [[nodiscard]] std::string paidNoticeText() const {
+        const auto days = std::chrono::sys_days(pay_.dates.noticeEnds.value) -
+                          std::chrono::sys_days(pay_.dates.lastDayWorked.value);
+        return counted(static_cast<int>(days.count()), "dia", "dias");
+    }
+
+    const TerminationInputs& inputs_;
+    TerminationSheet& sheet_;
+    const TerminationPay& pay_;
+};
+
+Money sumOf(const std::vector<TerminationLine>& lines) {
+    Money sum;
+    for (const TerminationLine& line : lines)
+        sum = sum + line.amount;
+    return sum;
+}
+
+void addRemarks(const PayrollLaw& law, const TerminationInputs& inputs, TerminationSheet& sheet) {
+    const PayrollFacts& facts = inputs.lastMonth.facts;
+    const Date last = inputs.record.dates.lastDayWorked.value;
+    if (!inputs.lastMonth.hours)
+        sheet.remarks.push_back("Não há cartão de ponto em " + monthTitle(monthOf(last)) +
+                                ": horas extras e faltas do mês não estão no cálculo.");
+    if (sheet.pay.fgtsFine.amount.cents > 0 && facts.fgtsAccount.cents == 0)
+        sheet.remarks.push_back(
+            "O saldo do FGTS não está em Dados para a Folha: a multa é só "
+            "sobre o depósito da rescisão.");
+    for (const MemoLine& line : sheet.pay.fgtsFine.memo)
+        if (line.figures.empty()) sheet.remarks.push_back(line.words + ".");
+    const Date due = sheet.record.dates.paymentDue.value;
+    for (std::string& warning : law.tables.warnings(monthOf(last), due))
+        sheet.remarks.push_back(std::move(warning));
+}
+
+}  // namespace
+
+TerminationSheet terminationSheet(const PayrollLaw& law, const TerminationInputs& inputs) {
+    if (!salaryOf(inputs.lastMonth.employee))
+        throw Fault("no salary", "O cadastro do funcionário não tem o valor do salário.");
+    const MonthPayCase month = withReferences(lastMonthOf(law, inputs), inputs.events);
+    const Reckoning averages = averagesOf(law, inputs, month);
+    const PaySheet lastMonth = paySheet(law, {.month = month}, inputs.events, inputs.typed);
+    TerminationSheet sheet{
+        .record = inputs.record,
+        .employee = inputs.lastMonth.employee,
+        .salary = month.salary,
+        .pay = terminationPay(law, caseOf(law, inputs, month, lastMonth, averages.amount))};
+    for (Reckoning* line : {&sheet.pay.notice, &sheet.pay.thirteenth, &sheet.pay.vacation})
+        if (line->amount.cents > 0) append(line->memo, averages.memo);
+    SheetLines(inputs, sheet).write(month, lastMonth);
+    sheet.gross = sumOf(sheet.credits);
+    sheet.deductions = sumOf(sheet.debits);
+    sheet.net = sheet.gross - sheet.deductions;
+    addRemarks(law, inputs, sheet);
+    return sheet;
+}
+
+}  // namespace winvrx
