@@ -2,7 +2,9 @@
 
 #include "foundation/desk/operator.h"
 
+#include <filesystem>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -43,8 +45,10 @@ struct Document {
 /// Millimetres between the margins of a sheet.
 inline constexpr int kTextWidth = 170;
 
-/// Neither function waits until the document is seen or printed. Both throw Fault with the reason
-/// when the word processor cannot be started.
+inline constexpr std::string_view kDocumentSuffix = ".fodt";
+
+/// No function waits until the document is seen or printed. Those that show or print throw Fault
+/// with the reason when the word processor cannot be started.
 class WordProcessor {
   public:
     virtual ~WordProcessor() = default;
@@ -54,6 +58,12 @@ class WordProcessor {
     /// On the default printer for an empty name. Throws Fault as well when there is no such
     /// printer.
     virtual void print(const Document& document, const std::string& printer) = 0;
+
+    /// The document as the bytes of a file, to be kept and shown or printed by its name, which ends
+    /// with kDocumentSuffix.
+    [[nodiscard]] virtual std::string fileOf(const Document& document) const = 0;
+    virtual void showFile(const std::filesystem::path& file) = 0;
+    virtual void printFile(const std::filesystem::path& file, const std::string& printer) = 0;
 };
 
 /// "Não foi possível Imprimir! O Microsoft Word pode não estar Instalado neste PC.", what a command

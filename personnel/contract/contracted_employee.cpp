@@ -24,7 +24,7 @@ Message withoutContract(const Employee& employee) {
 }  // namespace
 
 bool requireContractedEmployee(const Workplace& at, const Employee* employee,
-                               const Message& noEmployee) {
+                               const Message& noEmployee, bool evenInactive) {
     const auto refuse = [&](const Message& message) {
         at.person.tell(message);
         return false;
@@ -33,8 +33,8 @@ bool requireContractedEmployee(const Workplace& at, const Employee* employee,
     const auto code = employee ? employee->employeeCode() : std::nullopt;
     if (!code) return refuse(noEmployee);
     const EmployeeKey key{*at.session.company, *code};
-    if (const auto since = loadLeaveFile(at.store(), key).inactiveSince)
-        return refuse(inactive(*employee, *since));
+    const auto since = loadLeaveFile(at.store(), key).inactiveSince;
+    if (since && !evenInactive) return refuse(inactive(*employee, *since));
     return hasContract(at.store(), key) || refuse(withoutContract(*employee));
 }
 

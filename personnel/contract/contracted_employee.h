@@ -7,10 +7,11 @@ namespace winvrx {
 
 /// Whether papers may be printed for the employee. Tells, where they may not, the first that holds:
 /// no company is selected; no employee (nullptr, or one without a code), in the words of
-/// `noEmployee`; the employee is inactive by his leave file; no contract has been generated. To be
-/// asked under `attempt`: throws FileFault.
+/// `noEmployee`; the employee is inactive by his leave file, which the papers of the contract's end
+/// take (`evenInactive`); no contract has been generated. To be asked under `attempt`: throws
+/// FileFault.
 [[nodiscard]] bool requireContractedEmployee(const Workplace& at, const Employee* employee,
-                                             const Message& noEmployee);
+                                             const Message& noEmployee, bool evenInactive = false);
 
 /// "Pesquise e Selecione um Funcionário na Lista! ", what the reports screen says.
 [[nodiscard]] Message searchAndSelectEmployee();

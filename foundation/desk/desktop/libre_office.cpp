@@ -76,19 +76,38 @@ QString LibreOffice::save(const Document& document) {
 }
 
 void LibreOffice::show(const Document& document) {
-    const QString program = installedProgram();
-    if (!QProcess::startDetached(program, {QStringLiteral("--nologo"), save(document)}))
-        throw notStarted();
+    open(save(document));
 }
 
 void LibreOffice::print(const Document& document, const std::string& printer) {
+    queue(save(document), printer);
+}
+
+std::string LibreOffice::fileOf(const Document& document) const {
+    return openDocument(document).toStdString();
+}
+
+void LibreOffice::showFile(const std::filesystem::path& file) {
+    open(toQt(file.string()));
+}
+
+void LibreOffice::printFile(const std::filesystem::path& file, const std::string& printer) {
+    queue(toQt(file.string()), printer);
+}
+
+void LibreOffice::open(const QString& path) {
+    if (!QProcess::startDetached(installedProgram(), {QStringLiteral("--nologo"), path}))
+        throw notStarted();
+}
+
+void LibreOffice::queue(const QString& path, const std::string& printer) {
     program_ = installedProgram();
     // A profile of its own: a window that the operator has open would take the job over, and its
     // end could not be told.
     const QUrl profile = QUrl::fromLocalFile(folder_.filePath(QStringLiteral("perfil")));
     jobs_.append({QStringLiteral("--headless"), QStringLiteral("--norestore"),
                   QStringLiteral("-env:UserInstallation=") + profile.toString(QUrl::FullyEncoded),
-                  QStringLiteral("--pt"), installedPrinter(printer), save(document)});
+                  QStringLiteral("--pt"), installedPrinter(printer), path});
     if (printing_.state() == QProcess::NotRunning && !startNextJob()) throw notStarted();
 }
 

@@ -25,10 +25,15 @@ class LibreOffice final : public WordProcessor {
 
     void show(const Document& document) override;
     void print(const Document& document, const std::string& printer) override;
+    [[nodiscard]] std::string fileOf(const Document& document) const override;
+    void showFile(const std::filesystem::path& file) override;
+    void printFile(const std::filesystem::path& file, const std::string& printer) override;
 
   private:
     /// In a file of the document's title, which the window and the print queue show.
     [[nodiscard]] QString save(const Document& document);
+    void open(const QString& path);
+    void queue(const QString& path, const std::string& printer);
     [[nodiscard]] bool startNextJob();
     void endJob(int exitCode, QProcess::ExitStatus status);
 

@@ -1,0 +1,190 @@
+#include "personnel/documents/paper_subject.h"
+
+#include "foundation/register/company_register.h"
+#include "foundation/register/leave_file.h"
+#include "foundation/values/tax_id.h"
+#include "foundation/values/text.h"
+#include "personnel/leaves/leave_form.h"
+#include "personnel/leaves/leave_types.h"
+#include "personnel/leaves/termination_dates.h"
+#include "timecard/month/selected_month.h"
+
+#include <array>
+
+namespace winvrx {
+
+namespace {
+
+using Subject = PaperSubject;
+
+struct Offer {
+    std::string_view input;
+    std::string (*text)(const Subject& subject);
+};
+
+/// A text that is the same for everyone.
+struct Usual {
+    std::string_view input;
+    std::string_view text;
+};
+
+TerminationDates reckonedNotice(const Subject& subject) {
+    const auto admission = subject.employee.admissionDate();
+    const Date start = admission && *admission <= subject.today ? *admission : subject.today;
+    return terminationDates(TerminationType::WithoutCause, NoticeType::Worked, start,
+                            subject.today);
+}
+
+std::string optionalDate(const std::optional<Date>& date) {
+    return date ? dateText(*date) : std::string();
+}
+
+/// A day that the termination on record says, else one reckoned from a notice given today.
+template <std::string Leave::*Member>
+std::string recordedOr(const Subject& subject, std::optional<Date> reckoned) {
+    return subject.termination ? *subject.termination.*Member : optionalDate(reckoned);
+}
+
+std::string timeOf(const Subject& subject, TimePair DaySchedule::*half,
+                   std::optional<TimeOfDay> TimePair::*end) {
+    if (!subject.schedule) return {};
+    const auto& time = (*subject.schedule).*half.*end;
+    return time ? timeText(*time) : std::string();
+}
+
+std::string lastExit(const Subject& subject) {
+    const std::string evening = timeOf(subject, &DaySchedule::afternoon, &TimePair::exit);
+    return evening.empty() ? timeOf(subject, &DaySchedule::morning, &TimePair::exit) : evening;
+}
+
+std::string dismissalOf(const Subject& subject) {
+    const bool justCause =
+        subject.termination &&
+        terminationTypeOf(subject.termination->terminationType) == TerminationType::JustCause;
+    return justCause ? "justa_causa" : "sem_justa_causa";
+}
+
+std::string noticeOf(const Subject& subject) {
+    const bool paid =
+        subject.termination && noticeTypeOf(subject.termination->noticeType) == NoticeType::Paid;
+    return paid ? "indenizado" : "trabalhado";
+}
+
+std::string noticeDaysOf(const Subject& subject) {
+    if (!subject.termination) return std::to_string(reckonedNotice(subject).noticeDays.value);
+    const auto type = terminationTypeOf(subject.termination->terminationType);
+    const auto admission = subject.employee.admissionDate();
+    const auto given = parseDate(subject.termination->noticeGiven);
+    if (!type || !admission || !given || *given < *admission) return {};
+    return std::to_string(noticeDays(*type, *admission, *given).value);
+}
+
+std::string hourOfRatification(const Subject& subject) {
+    const bool isSaid = subject.termination && !subject.termination->homologation.empty();
+    return isSaid ? subject.termination->homologation : std::string(kHomologationHour);
+}
+
+/// To be written beside by hand.
+constexpr std::array kUsualItems = {"Saldo de salário",
+                                    "Aviso prévio indenizado",
+                                    "13º salário proporcional",
+                                    "Férias vencidas",
+                                    "Férias proporcionais",
+                                    "1/3 constitucional de férias",
+                                    "Horas extras",
+                                    "Contribuição previdenciária",
+                                    "Imposto de renda",
+                                    "Outros"};
+
+constexpr std::array kUsual = {Usual{"reducao", "a_escolher"},
+                               Usual{"cumprimento", "cumprir"},
+                               Usual{"entrada_12x36", "07:00"},
+                               Usual{"saida_12x36", "19:00"},
+                               Usual{"intervalo", "usufruido"},
+                               Usual{"modalidade_compensacao", "semanal"},
+                               Usual{"horas_extras", "2"},
+                               Usual{"percentual", "50"},
+                               Usual{"percentual_viagem", "25"},
+                               Usual{"pagamento_viagem", "dinheiro"},
+                               Usual{"dias_semana", "de segunda a sexta-feira"},
+                               Usual{"ausencia", "sem_desconto"},
+                               Usual{"nacionalidade", "brasileira"},
+                               Usual{"forma_pagamento", "depósito em conta bancária"},
+                               Usual{"minutos_refeicao", "60"},
+                               Usual{"minutos_intervalo", "30"}};
+
+const std::array kOffers = {
+    Offer{"regime",
+          [](const Subject& s) -> std::string {
+              // A company has a CNPJ; who employs at home has a CPF.
+              const bool isPerson = checkCpf(s.company.taxId) == IdCheck::Valid;
+              return isPerson ? "domestico" : "clt";
+          }},
+    Offer{"data", [](const Subject& s) { return dateText(s.today); }},
+    Offer{"vigencia", [](const Subject& s) { return dateText(s.today); }},
+    Offer{"dia_saida", [](const Subject& s) { return dateText(s.today); }},
+    Offer{"modalidade", dismissalOf},
+    Offer{"tipo_aviso", noticeOf},
+    Offer{"dias_aviso", noticeDaysOf},
+    Offer{"inicio_aviso",
+          [](const Subject& s) {
+              return recordedOr<&Leave::noticeBegins>(s, reckonedNotice(s).noticeBegins.value);
+          }},
+    Offer{"fim_aviso",
+          [](const Subject& s) {
+              return recordedOr<&Leave::noticeEnds>(s, reckonedNotice(s).noticeEnds.value);
+          }},
+    Offer{"ultimo_dia",
+          [](const Subject& s) {
+              return recordedOr<&Leave::lastWorked>(s, reckonedNotice(s).lastDayWorked.value);
+          }},
+    Offer{"pagamento_ate",
+          [](const Subject& s) {
+              return recordedOr<&Leave::paymentDue>(s, reckonedNotice(s).paymentDue.value);
+          }},
+    Offer{"pago_em", [](const Subject& s) { return recordedOr<&Leave::paymentDue>(s, {}); }},
+    Offer{"hora_homologacao", hourOfRatification},
+    Offer{"entrada",
+          [](const Subject& s) { return timeOf(s, &DaySchedule::morning, &TimePair::entry); }},
+    Offer{"intervalo_inicio",
+          [](const Subject& s) {
+              const bool hasMeal = !timeOf(s, &DaySchedule::afternoon, &TimePair::exit).empty();
+              return hasMeal ? timeOf(s, &DaySchedule::morning, &TimePair::exit) : std::string();
+          }},
+    Offer{"intervalo_fim",
+          [](const Subject& s) { return timeOf(s, &DaySchedule::afternoon, &TimePair::entry); }},
+    Offer{"saida", lastExit},
+    Offer{"vales_inicio", [](const Subject& s) { return dateText(firstDay(s.month)); }},
+    Offer{"vales_fim", [](const Subject& s) { return dateText(lastDay(s.month)); }},
+    Offer{"periodo_inicio", [](const Subject& s) { return dateText(firstDay(s.month)); }},
+    Offer{"periodo_fim", [](const Subject& s) { return dateText(lastDay(s.month)); }},
+    Offer{"desconto_em", [](const Subject& s) { return dateText(lastDay(s.month)); }},
+    Offer{"ano", [](const Subject& s) { return padded(int{s.today.year()}, 4); }},
+    Offer{"fgts_opcao", [](const Subject& s) { return s.employee.admission; }},
+};
+
+}  // namespace
+
+PaperSubject loadSubject(const Store& store, const EmployeeKey& key, const Employee& employee,
+                         Date today) {
+    PaperSubject subject{loadCompany(store, key.company), employee, today, monthOf(today)};
+    if (const auto selected = loadSelectedMonth(store)) subject.month = selected->month;
+    if (const auto schedule = loadSchedule(store, key)) subject.schedule = schedule->weekday;
+    const LeaveFile leaves = loadLeaveFile(store, key);
+    if (const auto place = leaves.termination()) {
+        subject.termination = leaves.leaves[*place].record;
+        for (const char* item : kUsualItems)
+            subject.account.items.push_back({item});
+    }
+    return subject;
+}
+
+std::string offeredText(const PaperSubject& subject, std::string_view input) {
+    for (const Offer& offer : kOffers)
+        if (offer.input == input) return offer.text(subject);
+    for (const Usual& usual : kUsual)
+        if (usual.input == input) return std::string(usual.text);
+    return {};
+}
+
+}  // namespace winvrx
