@@ -5,6 +5,7 @@
 #include "foundation/register/desktop/register_entries.h"
 #include "output/mirrors/desktop/hours_entry.h"
 #include "personnel/leaves/desktop/leaves_entry.h"
+#include "personnel/payroll/desktop/folha_entry.h"
 #include "timecard/card/desktop/time_card_entry.h"
 #include "timecard/month/desktop/month_entry.h"
 #include "timecard/rotation/desktop/rotation_entry.h"
@@ -35,38 +36,42 @@ MenuEntry help(const Workplace& at, Browser& browser) {
 
 }  // namespace
 
-MenuEntries menuEntries(const Workplace& at, const CardPrintingDesk& desk, TextEditor& editor,
-                        SafetyCopies& copies, const std::string& logFile) {
+MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
     MenuEntries all;
     const auto add = [&all](const MenuEntries& some) {
         all.insert(all.end(), some.begin(), some.end());
     };
     const auto rotation = std::make_shared<RotationRecords>(at.store(), at.clock);
-    const auto openRotation = [at, &engine = desk.engine, &editor](QWidget* parent) {
-        openRotations(at, engine, editor, parent);
-    };
-    add(registerEntries(at, editor, rotation));
+    const auto openRotation = [at, &engine = desk.printing.engine, &editor = desk.editor](
+                                  QWidget* parent) { openRotations(at, engine, editor, parent); };
+    add(registerEntries(at, desk.editor, rotation));
     add({monthEntry(at)});
-    const HoursEntryDesk hours{editor, desk.browser, desk.engine, desk.printers, rotation};
+    const CardPrintingDesk& printing = desk.printing;
+    const HoursEntryDesk hours{desk.editor, printing.browser, printing.engine, printing.printers,
+                               rotation};
     const auto openHours = [at, hours](QWidget* parent) { openHoursReports(at, hours, parent); };
-    const LeavesDesk leaves{desk.engine, editor};
-    add({timeCardEntry(
-        at, rotation,
+    const LeavesDesk leaves{printing.engine, desk.editor};
+    const TimeCardDesk timeCard{
+        rotation,
         [leaves](const Workplace& office, QWidget* parent, const auto& inHand) {
             openLeaves(office, leaves, parent, inHand);
         },
-        openRotation, openHours)});
-    add(cardEntries(at, desk));
+        openRotation, openHours};
+    add({timeCardEntry(at, timeCard)});
+    add(cardEntries(at, printing));
     add(hoursEntries(at, hours));
     add({rotationEntry(at, openRotation)});
     add({leavesEntry(at, leaves)});
-    add({planned("Pessoal", "payroll", "payroll", "Folha de Pagamento")});
+    add({payrollEntry(
+        at, {desk.programFolder / "legal", [at, timeCard](QWidget* parent, const auto& one) {
+                 openTimeCard(at, timeCard, parent, one);
+             }})});
     add({planned("Pessoal", "documents", "documents", "Documentos")});
     add({planned("Ferramentas", "labels", "labels", "Etiquetas")});
     add({planned("Ferramentas", "backup", "backup", "Cópia de Segurança")});
-    add({restoreEntry(at, copies)});
-    add({help(at, desk.browser)});
-    add({aboutEntry(at, desk.browser, logFile)});
+    add({restoreEntry(at, desk.copies)});
+    add({help(at, printing.browser)});
+    add({aboutEntry(at, printing.browser, desk.logFile)});
     return all;
 }
 

@@ -3,17 +3,27 @@
 #include "foundation/desk/desktop/menu_entry.h"
 #include "output/cards/desktop/card_entries.h"
 
+#include <filesystem>
 #include <string>
 
 namespace winvrx {
 
 class SafetyCopies;
 class TextEditor;
+class WordProcessor;
+
+/// What the main window's commands open things with. All outlive them.
+struct MenuDesk {
+    CardPrintingDesk printing;
+    TextEditor& editor;
+    WordProcessor& writer;
+    SafetyCopies& copies;
+    std::string logFile;
+    std::filesystem::path programFolder;  ///< has the delivered legal tables
+};
 
 /// The main window's commands, in the order of their tiles: each written in the room that owns its
-/// screen. The arguments outlive the entries.
-[[nodiscard]] MenuEntries menuEntries(const Workplace& at, const CardPrintingDesk& desk,
-                                      TextEditor& editor, SafetyCopies& copies,
-                                      const std::string& logFile);
+/// screen.
+[[nodiscard]] MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk);
 
 }  // namespace winvrx

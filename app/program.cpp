@@ -3,6 +3,7 @@
 #include "app/menu_entries.h"
 #include "foundation/desk/desktop/desktop_browser.h"
 #include "foundation/desk/desktop/desktop_text_editor.h"
+#include "foundation/desk/desktop/libre_office.h"
 #include "foundation/menu/desktop/menu_window.h"
 #include "foundation/widgets/desktop/progress.h"
 #include "foundation/widgets/desktop/screen_window.h"
@@ -57,12 +58,17 @@ Program::Program(const ProgramDesk& desk)
           }},
       calendar_(at_),
       engine_(makeEngine()),
+      writer_(makeWriter()),
       printers_(desk.printers ? desk.printers() : std::make_unique<SystemPrinters>()),
       menu_(at_, desk.drives, desk.instance, desk.settings, nativePath(desk.programFolder)),
       window_(std::make_unique<MenuWindow>(
           menu_, at_, calendar_,
-          menuEntries(at_, {*browser_, *engine_, *printers_, [this] { return layoutPlaces(); }},
-                      *editor_, copies_, desk.logFile),
+          menuEntries(at_, {{*browser_, *engine_, *printers_, [this] { return layoutPlaces(); }},
+                            *editor_,
+                            *writer_,
+                            copies_,
+                            desk.logFile,
+                            desk.programFolder}),
           [this](std::optional<WorkMonth> month) { return progress(month); })) {
     ScreenWindow::setHelp([this] { openHelp(at_, *browser_); });
 }
@@ -83,6 +89,12 @@ std::optional<MonthProgress> Program::progress(std::optional<WorkMonth> month) c
 std::unique_ptr<TextEditor> Program::makeEditor() {
     if (desk_.editor) return desk_.editor(*files_);
     return std::make_unique<DesktopTextEditor>(*files_);
+}
+
+std::unique_ptr<WordProcessor> Program::makeWriter() {
+    if (desk_.writer) return desk_.writer();
+    return std::make_unique<LibreOffice>(
+        [this](const Fault& fault) { reportFailure(at_, documentNotPrinted(), fault); });
 }
 
 std::vector<std::filesystem::path> Program::layoutPlaces() const {

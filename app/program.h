@@ -8,6 +8,7 @@
 #include "foundation/desk/month_progress.h"
 #include "foundation/desk/text_editor.h"
 #include "foundation/desk/user_settings.h"
+#include "foundation/desk/word_processor.h"
 #include "foundation/menu/menu.h"
 #include "report/printers.h"
 #include "report/report_engine.h"
@@ -40,6 +41,8 @@ struct ProgramDesk {
     /// The disk: takes the program's own files and may put others before them.
     std::function<std::unique_ptr<FileSystem>(std::unique_ptr<FileSystem>)> files = nullptr;
     std::string logFile = {};  ///< path of the log, to be shown
+    /// Where documents are written; the system's word processor when nullptr.
+    std::function<std::unique_ptr<WordProcessor>()> writer = nullptr;
 };
 
 /// Joins rules, adapters and windows into the running program.
@@ -57,6 +60,7 @@ class Program {
   private:
     [[nodiscard]] std::unique_ptr<TextEditor> makeEditor();
     [[nodiscard]] std::unique_ptr<ReportEngine> makeEngine();
+    [[nodiscard]] std::unique_ptr<WordProcessor> makeWriter();
     [[nodiscard]] std::vector<std::filesystem::path> layoutPlaces() const;
     [[nodiscard]] std::optional<MonthProgress> progress(std::optional<WorkMonth> month) const;
 
@@ -76,6 +80,7 @@ class Program {
     Workplace at_;
     TimecardCalendar calendar_;
     std::unique_ptr<ReportEngine> engine_;
+    std::unique_ptr<WordProcessor> writer_;
     std::unique_ptr<Printers> printers_;
     Menu menu_;
     std::unique_ptr<MenuWindow> window_;

@@ -35,6 +35,7 @@ constexpr std::array<std::string_view, 2> kUnhealthy = {"Salário mínimo", "Sal
 constexpr std::array<std::string_view, 2> kNight = {"Urbano, 20%", "Rural, 25%"};
 constexpr std::array<std::string_view, 2> kInstalment = {"Avos do ano todo",
                                                          "Avos até o pagamento"};
+constexpr std::array<std::string_view, 2> kEmployerInss = {"Simples Nacional, sem", "20% da folha"};
 constexpr std::array<std::string_view, 2> kTerm = {"Do último dia trabalhado",
                                                    "Do fim projetado do contrato"};
 
@@ -44,6 +45,10 @@ constexpr std::array kSettings = {
     setting<&S::isDomesticEmployer>("domestico", "Empregador doméstico",
                                     "Guia única (DAE) com 8%, 0,8%, 8% e 3,2% no lugar do FGTS.",
                                     kNoYes),
+    setting<&S::employerInss>("inss-patronal", "INSS do empregador",
+                              "Só o custo mostrado na visão do mês, sem seguro de acidentes e "
+                              "terceiros; nada do que se paga.",
+                              kEmployerInss),
     setting<&S::partialMonth>("mes-parcial", "Salário de mês parcial",
                               "Muda o saldo de salário em meses de 28, 29 e 31 dias.", kPartial),
     setting<&S::unhealthyBase>("base-insalubridade", "Base da insalubridade",

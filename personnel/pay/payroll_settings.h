@@ -41,6 +41,10 @@ enum class FirstInstalment {
     YearsTwelfths,  ///< half of what the year will give
     TwelfthsSoFar   ///< half of the twelfths that are full by then
 };
+enum class EmployerInss {
+    None,    ///< in the Simples Nacional it is in the one tax of the company
+    Percent  ///< 20% of the payroll (Lei 8.212/1991, art. 22 I)
+};
 enum class PaymentTerm { FromLastDayWorked, FromProjectedEnd };
 
 struct PayrollSettings {
@@ -66,6 +70,7 @@ struct PayrollSettings {
     PaymentTerm paymentTerm = PaymentTerm::FromLastDayWorked;
     CentsRounding fgtsRounding = CentsRounding::HalfUp;
     bool isDomesticEmployer = false;
+    EmployerInss employerInss = EmployerInss::None;
 
     [[nodiscard]] bool operator==(const PayrollSettings&) const = default;
 };

@@ -111,10 +111,9 @@ FileSystem::NewContent Folha::contentOf(const Employee& employee, const PaySheet
 
 std::optional<PaySheet> Folha::sheetOf(const OpenPayroll& payroll,
                                        const TypedAmounts& typed) const {
-    const PayrollLaw law{tables_, settings_};
-    const auto one = runCase(law, payroll.month, payroll.inputs, payroll.events);
+    const auto one = runCase(law(), payroll.month, payroll.inputs, payroll.events);
     if (!one) return std::nullopt;
-    return paySheet(law, *one, payroll.events, typed);
+    return paySheet(law(), *one, payroll.events, typed);
 }
 
 OpenPayroll Folha::inputsOf(const Employee& employee, const FolderNames& names) const {

@@ -51,6 +51,8 @@ class Folha {
     [[nodiscard]] PayrollRun run() const { return run_; }
     [[nodiscard]] const MonthSettings& month() const { return month_; }
     [[nodiscard]] const PayrollSettings& settings() const { return settings_; }
+    /// What it computes by; lives as long as this object, until it loads again.
+    [[nodiscard]] PayrollLaw law() const { return {tables_, settings_}; }
     /// Sentences on tables that have no line of the month's own.
     [[nodiscard]] std::vector<std::string> warnings() const;
 

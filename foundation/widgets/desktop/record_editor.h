@@ -23,7 +23,7 @@ class RecordEditor : public QObject {
 
     /// What stands in the window.
     [[nodiscard]] QWidget* widget() const { return widget_; }
-    [[nodiscard]] bool isDirty() const;
+    [[nodiscard]] virtual bool isDirty() const;
     virtual void focusFirst();
     /// From the last field of a page to the first of the next; false from any other place.
     bool moveToNextPage(const QWidget* from);

@@ -28,18 +28,17 @@ RegisterWindow::RegisterWindow(ListScreen& list, const Texts& texts, QWidget* pa
     connect(list_, &RegisterList::chosen, this, &RegisterWindow::choose);
     connect(list_, &RegisterList::entered, this, [this] { form_->focusFirst(); });
     connect(list_, &RegisterList::firstRequested, this, &RegisterWindow::startNew);
-    addCommands();
+    addCommands(texts);
 }
 
-void RegisterWindow::addCommands() {
+void RegisterWindow::addCommands(const Texts& texts) {
     const auto named = [this](const char* thing) {
         return objectName() + QLatin1Char('.') + QLatin1String(thing);
     };
-    auto* include = addCommand(QStringLiteral("add"), QStringLiteral("Incluir"), Qt::Key_Insert,
-                               named("include"));
+    auto* include =
+        addCommand(QStringLiteral("add"), texts.include, Qt::Key_Insert, named("include"));
     connect(include, &QToolButton::clicked, this, &RegisterWindow::include);
-    change_ =
-        addCommand(QStringLiteral("edit"), QStringLiteral("Alterar"), Qt::Key_F2, named("change"));
+    change_ = addCommand(QStringLiteral("edit"), texts.change, Qt::Key_F2, named("change"));
     connect(change_, &QToolButton::clicked, this, &RegisterWindow::change);
     remove_ = addCommand(QStringLiteral("delete"), QStringLiteral("Excluir"), Qt::Key_Delete,
                          named("delete"), list_);

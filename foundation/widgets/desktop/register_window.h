@@ -31,6 +31,8 @@ class RegisterWindow : public ScreenWindow {
         QString emptyList;
         QString emptyAction;
         QStringList headings;
+        QString include = QStringLiteral("Incluir");
+        QString change = QStringLiteral("Alterar");
     };
 
     /// `list` outlives the window.
@@ -54,7 +56,7 @@ class RegisterWindow : public ScreenWindow {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    void addCommands();
+    void addCommands(const Texts& texts);
     /// Fills the list and shows the record at `position`.
     void refresh(std::optional<std::size_t> position);
     /// After a command: the record is still `shown`, or the one in its place.

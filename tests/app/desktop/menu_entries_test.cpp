@@ -5,6 +5,7 @@
 #include "tests/support/employee_desk.h"
 #include "tests/support/plain_archiver.h"
 #include "tests/support/recording_engine.h"
+#include "tests/support/recording_word_processor.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
 #include "tests/support/writing_commands.h"
@@ -24,9 +25,10 @@ TEST(MenuEntries, NoTwoTilesShareAKeyALetterOrAName) {
     const testing::PlainArchiver archiver;
     SafetyCopies copies(desk.files, archiver, desk.log);
     testing::TestPrinters printers;
+    testing::RecordingWordProcessor writer;
     std::map<std::string, std::vector<std::string>> owners;
     for (const MenuEntry& entry :
-         menuEntries(desk.at, {browser, engine, printers, {}}, editor, copies, "")) {
+         menuEntries(desk.at, {{browser, engine, printers, {}}, editor, writer, copies, "", {}})) {
         const std::string name = toUtf8(entry.objectName);
         owners["name " + name].push_back(name);
         if (!entry.key.isEmpty()) owners["key " + toUtf8(entry.key.toString())].push_back(name);

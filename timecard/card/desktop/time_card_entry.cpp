@@ -9,12 +9,19 @@ namespace winvrx {
 
 namespace {
 
-void openTimeCard(const Workplace& at, const RotationCalendar& rotation,
-                  const LeavesOpener& openLeaves, const RotationOpener& openRotation,
-                  const MirrorOpener& openMirrors, QWidget* parent) {
+/// Shows the card of the one in hand, whatever the list is narrowed to.
+void turnTo(CartaoPontoDados& card, const EmployeeCode& inHand) {
+    if (!card.list().positionOf(inHand.text())) (void)card.filterBy(ShiftFilter::Todos);
+    if (const auto position = card.list().positionOf(inHand.text())) (void)card.select(*position);
+}
+
+}  // namespace
+
+void openTimeCard(const Workplace& at, const TimeCardDesk& desk, QWidget* parent,
+                  const std::optional<EmployeeCode>& inHand) {
     const RecordedAnswers records(at.store());
-    CartaoPontoDados card(at, {rotation, records});
-    (void)card.open();
+    CartaoPontoDados card(at, {*desk.rotation, records});
+    if (card.open() && inHand) turnTo(card, *inHand);
     CartaoPontoDadosWindow window(card, parent);
     const auto comeBack = [&] {
         (void)card.open();
@@ -25,36 +32,29 @@ void openTimeCard(const Workplace& at, const RotationCalendar& rotation,
         comeBack();
     });
     QObject::connect(&window, &CartaoPontoDadosWindow::leavesRequested, &window, [&] {
-        const Employee* inHand = card.selected();
-        openLeaves(at, &window, inHand ? inHand->employeeCode() : std::nullopt);
+        const Employee* one = card.selected();
+        desk.openLeaves(at, &window, one ? one->employeeCode() : std::nullopt);
         comeBack();
     });
     QObject::connect(&window, &CartaoPontoDadosWindow::rotationRequested, &window, [&] {
-        openRotation(&window);
+        desk.openRotation(&window);
         comeBack();
     });
     QObject::connect(&window, &CartaoPontoDadosWindow::mirrorRequested, &window, [&] {
-        openMirrors(&window);
+        desk.openMirrors(&window);
         comeBack();
     });
     window.exec();
 }
 
-}  // namespace
-
-MenuEntry timeCardEntry(const Workplace& at, std::shared_ptr<const RotationCalendar> rotation,
-                        LeavesOpener openLeaves, RotationOpener openRotation,
-                        MirrorOpener openMirrors) {
+MenuEntry timeCardEntry(const Workplace& at, const TimeCardDesk& desk) {
     return {.group = QStringLiteral("Cartão de Ponto"),
             .objectName = QStringLiteral("menu.timecard.open"),
             .icon = QStringLiteral("card"),
             .title = QStringLiteral("&Dados"),
             .key = Qt::Key_F5,
             .needs = MenuNeeds::Employees,
-            .open =
-                [at, rotation, openLeaves, openRotation, openMirrors](QWidget* parent) {
-                    openTimeCard(at, *rotation, openLeaves, openRotation, openMirrors, parent);
-                },
+            .open = [at, desk](QWidget* parent) { openTimeCard(at, desk, parent); },
             .state =
                 [](const MonthProgress* progress) {
                     return progress && progress->month ? QStringLiteral("%1 de %2 preenchidos")

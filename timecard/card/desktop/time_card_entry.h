@@ -21,11 +21,19 @@ using RotationOpener = std::function<void(QWidget* parent)>;
 /// Opens the mirrors and the summary of the hours over a window.
 using MirrorOpener = std::function<void(QWidget* parent)>;
 
-/// The time card's command of the main window. Its window leads on to the leaves, the rotations and
-/// the mirrors.
-[[nodiscard]] MenuEntry timeCardEntry(const Workplace& at,
-                                      std::shared_ptr<const RotationCalendar> rotation,
-                                      LeavesOpener openLeaves, RotationOpener openRotation,
-                                      MirrorOpener openMirrors);
+/// What the time card's window leads on to.
+struct TimeCardDesk {
+    std::shared_ptr<const RotationCalendar> rotation;
+    LeavesOpener openLeaves;
+    RotationOpener openRotation;
+    MirrorOpener openMirrors;
+};
+
+/// Opens the time card, on `inHand` where an employee is chosen, and returns when it is closed.
+void openTimeCard(const Workplace& at, const TimeCardDesk& desk, QWidget* parent,
+                  const std::optional<EmployeeCode>& inHand = std::nullopt);
+
+/// The time card's command of the main window.
+[[nodiscard]] MenuEntry timeCardEntry(const Workplace& at, const TimeCardDesk& desk);
 
 }  // namespace winvrx

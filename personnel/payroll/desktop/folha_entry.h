@@ -1,0 +1,25 @@
+#pragma once
+
+#include "foundation/desk/command.h"
+#include "foundation/desk/desktop/menu_entry.h"
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+
+namespace winvrx {
+
+/// What the payroll works with beside the workplace. All outlive the entry.
+struct PayrollDesk {
+    std::filesystem::path legalFolder;  ///< of the delivered tables
+    /// Returns when the time card of the employee is closed.
+    std::function<void(QWidget* parent, const std::optional<EmployeeCode>& inHand)> openTimeCard;
+};
+
+/// Opens the payroll's screen and returns when it is closed.
+void openPayroll(const Workplace& at, const PayrollDesk& desk, QWidget* parent);
+
+/// The payroll's command of the main window.
+[[nodiscard]] MenuEntry payrollEntry(const Workplace& at, const PayrollDesk& desk);
+
+}  // namespace winvrx
