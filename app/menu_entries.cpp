@@ -4,8 +4,10 @@
 #include "foundation/menu/desktop/about_window.h"
 #include "foundation/register/desktop/register_entries.h"
 #include "output/mirrors/desktop/hours_entry.h"
+#include "personnel/employer/desktop/employer_entry.h"
 #include "personnel/leaves/desktop/leaves_entry.h"
 #include "personnel/payroll/desktop/folha_entry.h"
+#include "personnel/termination/desktop/termination_entry.h"
 #include "timecard/card/desktop/time_card_entry.h"
 #include "timecard/month/desktop/month_entry.h"
 #include "timecard/rotation/desktop/rotation_entry.h"
@@ -50,7 +52,13 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
     const HoursEntryDesk hours{desk.editor, printing.browser, printing.engine, printing.printers,
                                rotation};
     const auto openHours = [at, hours](QWidget* parent) { openHoursReports(at, hours, parent); };
-    const LeavesDesk leaves{printing.engine, desk.editor};
+    const std::filesystem::path legal = desk.programFolder / "legal";
+    const auto openEnd = [at, legal, &engine = printing.engine](QWidget* parent,
+                                                                const Employee& one) {
+        openTermination(at, engine, legal, one, parent);
+    };
+    const LeavesDesk leaves{printing.engine, desk.editor, openEnd};
+    const EmployerDesk employer{legal, printing.browser, printing.engine, openEnd};
     const TimeCardDesk timeCard{
         rotation,
         [leaves](const Workplace& office, QWidget* parent, const auto& inHand) {
@@ -63,9 +71,15 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
     add({rotationEntry(at, openRotation)});
     add({leavesEntry(at, leaves)});
     add({payrollEntry(
-        at, {desk.programFolder / "legal", [at, timeCard](QWidget* parent, const auto& one) {
+        at, {legal,
+             [at, timeCard](QWidget* parent, const auto& one) {
                  openTimeCard(at, timeCard, parent, one);
+             },
+             [at, employer](QWidget* parent) { openPayrollOptions(at, employer, parent); },
+             [at, employer](QWidget* parent, const auto& one) {
+                 openPayrollFacts(at, employer, parent, one);
              }})});
+    add(employerEntries(at, employer));
     add({planned("Pessoal", "documents", "documents", "Documentos")});
     add({planned("Ferramentas", "labels", "labels", "Etiquetas")});
     add({planned("Ferramentas", "backup", "backup", "Cópia de Segurança")});

@@ -15,6 +15,8 @@ class Browser {
     /// Opens the file or folder of this path with what the desktop has for it. False when it could
     /// not be opened.
     [[nodiscard]] virtual bool open(const std::string& path) = 0;
+    /// Opens the page of this address. False when it could not be opened.
+    [[nodiscard]] virtual bool openPage(const std::string& address) = 0;
 };
 
 }  // namespace winvrx

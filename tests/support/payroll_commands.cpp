@@ -1,4 +1,7 @@
 // What the payroll and its catalogue of events write.
+#include "personnel/employer/folha_dados.h"
+#include "personnel/employer/folha_opcoes.h"
+#include "personnel/employer/tabelas_legais.h"
 #include "personnel/payroll/eventos.h"
 #include "personnel/payroll/folha.h"
 #include "tests/support/employees.h"
@@ -69,6 +72,29 @@ auto inEvents(std::optional<EmployeeCode> employee, Give give) {
     };
 }
 
+/// The user's tables stand for the delivered ones too.
+template <typename Give>
+auto inTables(Give give) {
+    return [give](const Workplace& at, const Drives&) {
+        TabelasLegais screen(at, at.session.folder.path());
+        return screen.load() && give(screen);
+    };
+}
+
+bool recordOptions(const Workplace& at, const Drives&) {
+    FolhaOpcoes screen(at);
+    if (!screen.load()) return false;
+    screen.choose(0, 1);
+    return screen.save();
+}
+
+bool recordFacts(const Workplace& at, const Drives&) {
+    FolhaDados screen(at);
+    std::vector<std::string> typed(payrollFactTable().size());
+    typed.front() = "12,00";
+    return screen.load() && screen.select(1) && screen.save(typed);
+}
+
 }  // namespace
 
 std::vector<WritingCommand> payrollCommands() {
@@ -87,6 +113,13 @@ std::vector<WritingCommand> payrollCommands() {
          inEvents({}, [](Eventos& screen) { return screen.remove(0); })},
         {"restore events", payingOffice(),
          inEvents({}, [](Eventos& screen) { return screen.restoreDefault(); })},
+        {"record legal line", payingOffice(), inTables([](TabelasLegais& screen) {
+             return screen.save(0, {"01/2025", "1.518,00", "B"});
+         })},
+        {"delete legal line", payingOffice(),
+         inTables([](TabelasLegais& screen) { return screen.remove(1, 0); })},
+        {"record payroll options", payingOffice(), recordOptions},
+        {"record payroll facts", payingOffice(), recordFacts},
         {"restore events of one", payingOffice(),
          inEvents(EmployeeCode::parse("002"),
                   [](Eventos& screen) { return screen.restoreDefault(); })},

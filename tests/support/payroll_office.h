@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/register/company.h"
-#include "personnel/pay/legal_tables.h"
 #include "tests/support/employees.h"
+#include "tests/support/legal_tables.h"
 #include "tests/support/test_workplace.h"
 #include "timecard/month/selected_month.h"
 
@@ -20,8 +20,7 @@ struct PayrollOffice : TestWorkplace {
 
     /// `delivered` has the tables of the law.
     explicit PayrollOffice(const std::filesystem::path& delivered) {
-        for (const std::string_view name : kLegalFiles)
-            files.content[kLegal / name] = systemFiles()->read(delivered / name).value();
+        deliverLegalTables(files, kLegal, delivered);
         Company company = sampleCompany(*parseDate("01/01/2026"));
         company.code = "01";
         company.name = "PADARIA SÃO JOÃO LTDA";

@@ -22,6 +22,7 @@ class TestBrowser final : public Browser {
         files.push_back(path);
         return works;
     }
+    bool openPage(const std::string& address) override { return open(address); }
 };
 
 }  // namespace winvrx::testing

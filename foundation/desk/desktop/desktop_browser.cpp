@@ -38,6 +38,10 @@ bool DesktopBrowser::open(const std::string& path) {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(path)));
 }
 
+bool DesktopBrowser::openPage(const std::string& address) {
+    return QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
+}
+
 #ifdef Q_OS_WIN
 
 bool hasHandlerOf(const QString&) {

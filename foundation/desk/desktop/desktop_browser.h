@@ -15,6 +15,7 @@ class DesktopBrowser final : public Browser {
     /// of our own where the desktop has no browser.
     [[nodiscard]] bool openHelp() override;
     [[nodiscard]] bool open(const std::string& path) override;
+    [[nodiscard]] bool openPage(const std::string& address) override;
 
   private:
     QString helpFolder_;

@@ -178,6 +178,11 @@ void AfastamentoWindow::buildCommands() {
     const auto record = [this] { command_.chosen() ? change() : beginOrAdd(); };
     connect(save, &QPushButton::clicked, this, record);
     connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, record);
+    QPushButton* figures = addClosingButton(QStringLiteral("Cálculo da Rescisão"),
+                                            QStringLiteral("leaves.termination"));
+    figures->setIcon(look::icon(QStringLiteral("payroll")));
+    figures->setShortcut(Qt::CTRL | Qt::Key_R);
+    connect(figures, &QPushButton::clicked, this, &AfastamentoWindow::terminationRequested);
     QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("leaves.close"));
     connect(close, &QPushButton::clicked, this, &AfastamentoWindow::reject);
 }

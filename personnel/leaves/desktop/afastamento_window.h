@@ -33,6 +33,8 @@ class AfastamentoWindow : public ScreenWindow {
     void monthRequested();
     /// Whoever listens shows the absences of the company's month, on a sheet or as text.
     void absencesRequested(bool asText);
+    /// Whoever listens shows the figures of the end of the contract of the employee chosen.
+    void terminationRequested();
 
   protected:
     bool mayClose() override;

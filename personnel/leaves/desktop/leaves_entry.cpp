@@ -28,6 +28,12 @@ void openLeaves(const Workplace& at, const LeavesDesk& desk, QWidget* parent,
         else
             (void)previewAbsences({at, desk.engine}, *leaves.month());
     });
+    QObject::connect(&window, &AfastamentoWindow::terminationRequested, &window, [&] {
+        if (const Employee* one = leaves.selected())
+            desk.openTermination(&window, *one);
+        else
+            at.person.tell(noEmployeeSelected());
+    });
     window.exec();
 }
 

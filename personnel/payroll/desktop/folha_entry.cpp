@@ -39,6 +39,15 @@ void openPayroll(const Workplace& at, const PayrollDesk& desk, QWidget* parent) 
         desk.openTimeCard(&window, one ? one->employeeCode() : std::nullopt);
         comeBack();
     });
+    QObject::connect(&window, &FolhaWindow::optionsRequested, &window, [&] {
+        desk.openOptions(&window);
+        comeBack();
+    });
+    QObject::connect(&window, &FolhaWindow::factsRequested, &window, [&] {
+        const Employee* one = screen.selected();
+        desk.openFacts(&window, one ? one->employeeCode() : std::nullopt);
+        comeBack();
+    });
     QObject::connect(&window, &FolhaWindow::eventsRequested, &window, [&](bool own) {
         openEvents(at, screen, own, &window);
         comeBack();

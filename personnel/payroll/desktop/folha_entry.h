@@ -14,6 +14,9 @@ struct PayrollDesk {
     std::filesystem::path legalFolder;  ///< of the delivered tables
     /// Returns when the time card of the employee is closed.
     std::function<void(QWidget* parent, const std::optional<EmployeeCode>& inHand)> openTimeCard;
+    /// Return when the company's options, and what the payroll needs of the employee, are closed.
+    std::function<void(QWidget* parent)> openOptions;
+    std::function<void(QWidget* parent, const std::optional<EmployeeCode>& inHand)> openFacts;
 };
 
 /// Opens the payroll's screen and returns when it is closed.

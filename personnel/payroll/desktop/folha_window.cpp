@@ -159,6 +159,14 @@ void FolhaWindow::buildCommands() {
     connect(command("employees", QStringLiteral("Eventos do Funcionário"), Qt::SHIFT | Qt::Key_F8,
                     "ownCatalogue"),
             &QToolButton::clicked, this, [this] { requestEvents(true); });
+    connect(command("apply", QStringLiteral("Opções"), Qt::Key_F6, "options"),
+            &QToolButton::clicked, this, [this] {
+                if (screen_.confirmLeaving()) emit optionsRequested();
+            });
+    connect(command("edit", QStringLiteral("Dados"), Qt::SHIFT | Qt::Key_F6, "facts"),
+            &QToolButton::clicked, this, [this] {
+                if (screen_.confirmLeaving()) emit factsRequested();
+            });
     connect(command("search", QStringLiteral("Memória"), Qt::Key_F3, "explain"),
             &QToolButton::clicked, this, [this] { sheet_->focusMemo(); });
     reopen_ = command("restore", QStringLiteral("Reabrir Mês"), Qt::Key_F9, "reopen");

@@ -29,6 +29,9 @@ class FolhaWindow : public ScreenWindow {
     void monthRequested();
     /// The same, for the employee in hand.
     void timeCardRequested();
+    /// How the company computes; the facts of the employee in hand.
+    void optionsRequested();
+    void factsRequested();
     /// The events of the company or, with `own`, of the employee in hand.
     void eventsRequested(bool own);
 
