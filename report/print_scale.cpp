@@ -33,10 +33,12 @@ bool isOf(const PrintScaleKey& key, std::string_view lineBytes) {
     return line && line->key == key;
 }
 
-/// A name is stored as far as its column goes.
+/// Name and paper are stored as far as their columns go.
 PrintScaleKey storedKey(const PrintScaleKey& key) {
-    return {std::string(trimmed(firstCharacters(trimmed(key.printer), kScalePrinter.width))),
-            key.paper};
+    const auto stored = [](const std::string& text, Column column) {
+        return std::string(trimmed(firstCharacters(trimmed(text), column.width)));
+    };
+    return {stored(key.printer, kScalePrinter), stored(key.paper, kScalePaper)};
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include "foundation/register/company_register.h"
 #include "foundation/values/text.h"
 #include "output/stocks/sample_card.h"
-#include "report/calibration.h"
 #include "report/print_pages.h"
 
 #include <algorithm>
@@ -17,18 +16,6 @@ const Message kConfirmReset =
     riskyQuestion("EXCLUSÃO", "Confirma a Volta de Todos os Alinhamentos ao Padrão?",
                   "Os ajustes de todos os tipos de cartão voltam a 10 e 10, e a impressão "
                   "deixa de descer em linhas.");
-const Message kConfirmCalibration = question(
-    "Imprimir Folha de Calibração",
-    "Coloque uma Folha A4 em Branco na Impressora! Pressione SIM para Imprimir ou NÃO para "
-    "Cancelar Impressão.");
-const Message kScaleOutOfBounds =
-    refusal(kCartaoPontosTitle, "Dados incorretos!",
-            "A escala vai de 90,00 a 110,00 por cento e o deslocamento de -50,00 a 50,00 mm.");
-const Message kImpossibleDistances = refusal(
-    kCartaoPontosTitle, "Dados incorretos!",
-    "As distâncias medidas não combinam com a folha de calibração. Meça de novo, a partir da borda "
-    "do papel.");
-
 /// What is said to have changed.
 constexpr auto kAlignmentChanged = "O alinhamento foi alterado";
 
@@ -55,7 +42,7 @@ std::string lineOffsetText(int lines) {
 }
 
 CartaoPontos::CartaoPontos(const Workplace& at, const CartaoPontosDesk& desk)
-    : at_(at), desk_(desk) {}
+    : at_(at), desk_(desk), calibration_(at, desk.engine, std::string(kCartaoPontosTitle)) {}
 
 void CartaoPontos::load() {
     (void)attempt(at_, incorrectData(), [this] {
@@ -84,7 +71,7 @@ bool CartaoPontos::select(std::size_t entry) {
 
 void CartaoPontos::readSelected() {
     std::vector<Offsets> alignments = loadOffsets(at_.store());
-    scale_ = loadPrintScale(at_.store(), scaleKey());
+    calibration_.load({printer(), std::string(stock().code)}, {printer_, feed_.trays});
     alignments_ = std::move(alignments);
 }
 
@@ -96,7 +83,7 @@ Alignment CartaoPontos::alignment() const {
     return {.horizontalTwips = offsets().horizontal,
             .verticalTwips = offsets().vertical,
             .lines = desk_.memory.lines,
-            .scale = scale_};
+            .scale = calibration_.scale()};
 }
 
 bool CartaoPontos::move(Direction direction) {
@@ -133,53 +120,6 @@ std::string CartaoPontos::printer() const {
     return printer_.empty() ? desk_.printers.defaultName() : printer_;
 }
 
-PrintScaleKey CartaoPontos::scaleKey() const {
-    return {printer(), std::string(stock().code)};
-}
-
-bool CartaoPontos::typeScale(const std::array<std::string, 4>& figures) {
-    PrintScale scale;
-    bool numbers = true;
-    for (std::size_t i = 0; i < figures.size(); ++i) {
-        const auto value = parseHundredths(figures[i]);
-        numbers = numbers && value;
-        scale.*kPrintScaleFields[i].member = value.value_or(0);
-    }
-    if (numbers && isUsable(scale)) return saveScale(scale);
-    at_.person.tell(kScaleOutOfBounds);
-    return false;
-}
-
-bool CartaoPontos::saveScale(const PrintScale& scale) {
-    return attemptWriting(at_, incorrectData(), [&] {
-        const PrintScaleKey key = scaleKey();
-        if (key.printer.empty())
-            throw Fault("no printer to keep a scale for", "Não há uma impressora escolhida.");
-        if (loadPrintScale(at_.store(), key) != scale_)
-            throw changedElsewhere("print scale", kAlignmentChanged);
-        savePrintScale(at_.store(), {key, scale});
-        scale_ = scale;
-    });
-}
-
-bool CartaoPontos::typeDistances(const std::array<std::string, 4>& distances) {
-    MeasuredSheet sheet;
-    bool numbers = true;
-    for (std::size_t i = 0; i < distances.size(); ++i) {
-        const auto value = parseHundredths(distances[i]);
-        numbers = numbers && value;
-        sheet.*kMeasuredDistances[i] = value.value_or(0);
-    }
-    const auto scale = numbers ? scaleFrom(sheet) : std::nullopt;
-    if (scale) return saveScale(*scale);
-    at_.person.tell(kImpossibleDistances);
-    return false;
-}
-
-bool CartaoPontos::confirmDiscarding() {
-    return at_.person.agrees(discardTyped());
-}
-
 bool CartaoPontos::printTest() {
     if (!at_.person.agrees(confirmTest(stock()))) return false;
     return print({.layoutName = layoutName(),
@@ -190,14 +130,6 @@ bool CartaoPontos::printTest() {
                   .exit = feed_.exit,
                   .noun = cardNoun()},
                  sampleRows());
-}
-
-bool CartaoPontos::printCalibrationSheet() {
-    if (!at_.person.agrees(kConfirmCalibration)) return false;
-    return print({.layoutName = std::string(kCalibrationLayout),
-                  .title = "Imprimir Folha de Calibração",
-                  .columns = {std::string(kCalibrationColumn)}},
-                 {{printer()}});
 }
 
 bool CartaoPontos::print(ReportRequest request, const ReportRows& rows) {

@@ -4,10 +4,9 @@
 #include "foundation/register/company.h"
 #include "output/stocks/card_alignment.h"
 #include "output/stocks/printer_memory.h"
-#include "report/calibration.h"
+#include "report/print_calibration.h"
 #include "report/printers.h"
 
-#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -67,18 +66,11 @@ class CartaoPontos {
 
     /// The printer whose scale is shown; empty when none is installed.
     [[nodiscard]] std::string printer() const;
-    [[nodiscard]] const PrintScale& scale() const { return scale_; }
-    /// Records typed figures, in the order of kPrintScaleFields. False when told why not.
-    bool typeScale(const std::array<std::string, 4>& figures);
-    /// Works the scale out of what was measured on the calibration sheet, in millimetres and in the
-    /// order of kMeasuredDistances, and records it. False when told why not.
-    bool typeDistances(const std::array<std::string, 4>& distances);
-    /// Asks before typed but unrecorded figures are left behind. True when they may go.
-    [[nodiscard]] bool confirmDiscarding();
+    /// Of that printer and the selected stock.
+    [[nodiscard]] PrintCalibration& calibration() { return calibration_; }
 
     /// "Imprimir Teste". True when the card was printed.
     bool printTest();
-    bool printCalibrationSheet();
 
     /// The layout of the selected stock, and the card that the sample on the screen shows.
     [[nodiscard]] std::string layoutName() const;
@@ -88,15 +80,13 @@ class CartaoPontos {
 
   private:
     void readSelected();
-    [[nodiscard]] bool saveScale(const PrintScale& scale);
-    [[nodiscard]] PrintScaleKey scaleKey() const;
     [[nodiscard]] bool print(ReportRequest request, const ReportRows& rows);
 
     Workplace at_;
     CartaoPontosDesk desk_;
     std::size_t entry_ = 0;
     std::vector<Offsets> alignments_ = std::vector<Offsets>(kAlignmentEntries);
-    PrintScale scale_;
+    PrintCalibration calibration_;
     PrinterMemory feed_;
     std::string printer_;
     Company company_;

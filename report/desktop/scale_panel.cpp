@@ -32,7 +32,8 @@ Hint numberHint(std::string_view text, Entry) {
 
 }  // namespace
 
-ScalePanel::ScalePanel(QWidget* parent) : QWidget(parent) {
+ScalePanel::ScalePanel(PrintCalibration& calibration, QString paper, QWidget* parent)
+    : QWidget(parent), calibration_(calibration), paper_(std::move(paper)) {
     auto* column = new QVBoxLayout(this);
     look::layOutPart(*column);
     printer_ = look::label(QString(), look::TextSize::Hint, this);
@@ -40,17 +41,17 @@ ScalePanel::ScalePanel(QWidget* parent) : QWidget(parent) {
     printer_->setWordWrap(true);
     column->addWidget(printer_);
     addFields(*column, figures_, kFigures, "escala.figure");
-    addButton(*column, QStringLiteral("&Gravar Escala"), "escala.save", &ScalePanel::giveScale);
+    addButton(*column, QStringLiteral("&Gravar Escala"), "escala.save", &ScalePanel::saveScale);
     column->addSpacing(look::kGap);
     column->addWidget(look::heading(QStringLiteral("Folha de calibração"), this));
     addButton(*column, QStringLiteral("Imprimir &Folha de Calibração"), "escala.sheet",
-              &ScalePanel::giveSheet);
+              &ScalePanel::printSheet);
     addFields(*column, distances_, kDistances, "escala.distance");
     distances_.back()->input()->setProperty("lastField", true);
     addButton(*column, QStringLiteral("Ca&lcular e Gravar"), "escala.calibrate",
-              &ScalePanel::giveDistances);
+              &ScalePanel::saveDistances);
     column->addStretch();
-    clearDistances();
+    refresh();
 }
 
 void ScalePanel::addFields(QVBoxLayout& column, Fields& fields,
@@ -71,30 +72,31 @@ void ScalePanel::addFields(QVBoxLayout& column, Fields& fields,
 }
 
 void ScalePanel::addButton(QVBoxLayout& column, const QString& text, const char* name,
-                           void (ScalePanel::*give)()) {
+                           void (ScalePanel::*act)()) {
     auto* button = new QPushButton(text, this);
     look::name(*button, QLatin1String(name), text);
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, give);
+    connect(button, &QPushButton::clicked, this, act);
     column.addWidget(button, 0, Qt::AlignLeft);
 }
 
-void ScalePanel::showScale(const QString& printer, const PrintScale& scale) {
-    printer_->setText(printer.isEmpty()
-                          ? QStringLiteral("⚠ Nenhuma impressora instalada.")
-                          : QStringLiteral("Impressora %1, neste tipo de cartão").arg(printer));
+void ScalePanel::showScale() {
+    const QString printer = toQt(calibration_.printer());
+    printer_->setText(printer.isEmpty() ? QStringLiteral("⚠ Nenhuma impressora instalada.")
+                                        : QStringLiteral("Impressora %1, %2").arg(printer, paper_));
     for (std::size_t i = 0; i < figures_.size(); ++i) {
-        shown_[i] = hundredthsText(scale.*kPrintScaleFields[i].member);
+        shown_[i] = hundredthsText(calibration_.scale().*kPrintScaleFields[i].member);
         figures_[i]->setStored(shown_[i]);
     }
 }
 
-void ScalePanel::clearDistances() {
+void ScalePanel::refresh() {
     const MeasuredSheet sheet;
     for (std::size_t i = 0; i < distances_.size(); ++i) {
         distances_[i]->setStored({});
         distances_[i]->setPlaceholder(toQt(hundredthsText(sheet.*kMeasuredDistances[i])));
     }
+    showScale();
 }
 
 bool ScalePanel::hasTyped() const {
@@ -110,16 +112,21 @@ ScalePanel::Texts ScalePanel::textsOf(const Fields& fields) {
     return texts;
 }
 
-void ScalePanel::giveScale() {
-    emit scaleTyped(textsOf(figures_));
+void ScalePanel::saveScale() {
+    if (!calibration_.type(textsOf(figures_))) return;
+    showScale();
+    emit done(QStringLiteral("Escala gravada."));
 }
 
-void ScalePanel::giveDistances() {
-    emit distancesTyped(textsOf(distances_));
+void ScalePanel::saveDistances() {
+    if (!calibration_.typeDistances(textsOf(distances_))) return;
+    refresh();
+    emit done(QStringLiteral("Escala calculada e gravada."));
 }
 
-void ScalePanel::giveSheet() {
-    emit sheetRequested();
+void ScalePanel::printSheet() {
+    if (calibration_.printSheet())
+        emit done(QStringLiteral("Folha de calibração enviada à impressora."));
 }
 
 }  // namespace winvrx

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "report/print_scale.h"
+#include "report/print_calibration.h"
 
 #include <QString>
 #include <QWidget>
@@ -21,33 +21,35 @@ class ScalePanel : public QWidget {
     Q_OBJECT
 
   public:
-    using Texts = std::array<std::string, 4>;
+    /// `paper` ends the line that names the printer: "neste tipo de cartão". The calibration
+    /// outlives the panel.
+    ScalePanel(PrintCalibration& calibration, QString paper, QWidget* parent = nullptr);
 
-    explicit ScalePanel(QWidget* parent = nullptr);
-
-    /// An empty printer disables what would need one.
-    void showScale(const QString& printer, const PrintScale& scale);
-    void clearDistances();
+    /// Shows the scale on record; what is typed and not recorded gives way.
+    void refresh();
     /// Figures typed and not recorded.
     [[nodiscard]] bool hasTyped() const;
 
   signals:
-    void scaleTyped(const winvrx::ScalePanel::Texts& figures);
-    void distancesTyped(const winvrx::ScalePanel::Texts& distances);
-    void sheetRequested();
+    /// A command was carried out, and what is said of it.
+    void done(const QString& text);
 
   private:
     using Fields = std::array<Field*, 4>;
+    using Texts = std::array<std::string, 4>;
 
     void addFields(QVBoxLayout& column, Fields& fields, const std::array<const char*, 4>& captions,
                    const char* name);
     void addButton(QVBoxLayout& column, const QString& text, const char* name,
-                   void (ScalePanel::*give)());
-    void giveScale();
-    void giveDistances();
-    void giveSheet();
+                   void (ScalePanel::*act)());
+    void saveScale();
+    void saveDistances();
+    void printSheet();
+    void showScale();
     [[nodiscard]] static Texts textsOf(const Fields& fields);
 
+    PrintCalibration& calibration_;
+    QString paper_;
     QLabel* printer_ = nullptr;
     Fields figures_{};
     Fields distances_{};

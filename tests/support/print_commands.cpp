@@ -80,7 +80,8 @@ std::vector<WritingCommand> printCommands() {
         {"reset alignment", officeWithAPrinter(),
          inAlignment([](CartaoPontos& screen) { return screen.reset(); })},
         {"type scale", officeWithAPrinter(), inAlignment([](CartaoPontos& screen) {
-             return screen.stock().code == "05" && screen.typeScale({"99", "101", "1", "-1"});
+             return screen.stock().code == "05" &&
+                    screen.calibration().type({"99", "101", "1", "-1"});
          })},
         {"choose printer", officeWithAPrinter(), choosePrinter},
         {"remember printing", officeWithAPrinter(), rememberChoices},

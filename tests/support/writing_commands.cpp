@@ -43,9 +43,9 @@ void PrintTo(const WritingCommand& command, std::ostream* out) {
 const std::vector<WritingCommand>& writingCommands() {
     static const std::vector<WritingCommand> commands = [] {
         std::vector<WritingCommand> all;
-        for (const auto& part :
-             {registerCommands(), listCommands(), menuCommands(), monthCommands(), cardCommands(),
-              printCommands(), leaveCommands(), rotationCommands(), payrollCommands()})
+        for (const auto& part : {registerCommands(), listCommands(), menuCommands(),
+                                 monthCommands(), cardCommands(), printCommands(), leaveCommands(),
+                                 rotationCommands(), payrollCommands(), contractCommands()})
             all.insert(all.end(), part.begin(), part.end());
         return all;
     }();

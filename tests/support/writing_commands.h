@@ -37,6 +37,7 @@ void PrintTo(const WritingCommand& command, std::ostream* out);
 [[nodiscard]] std::vector<WritingCommand> leaveCommands();
 [[nodiscard]] std::vector<WritingCommand> rotationCommands();
 [[nodiscard]] std::vector<WritingCommand> payrollCommands();
+[[nodiscard]] std::vector<WritingCommand> contractCommands();
 
 [[nodiscard]] const std::vector<WritingCommand>& writingCommands();
 [[nodiscard]] const WritingCommand& writingCommand(const std::string& name);

@@ -98,7 +98,7 @@ QWidget* CartaoPontosWindow::buildAdjustments(QWidget* parent) {
     look::name(*tabs, QStringLiteral("cartaoPontos.tabs"), QStringLiteral("Ajustes"));
     pad_ = new AlignmentPad;
     tabs->addTab(framed(pad_), QStringLiteral("Alinha&mento"));
-    scale_ = new ScalePanel;
+    scale_ = new ScalePanel(screen_.calibration(), QStringLiteral("neste tipo de cartão"));
     tabs->addTab(framed(scale_), QStringLiteral("E&scala e calibração"));
     return tabs;
 }
@@ -111,26 +111,15 @@ void CartaoPontosWindow::connectAll() {
         screen_.typeLineOffset(toUtf8(text));
         showAlignment();
     });
-    connect(scale_, &ScalePanel::scaleTyped, this, [this](const ScalePanel::Texts& figures) {
-        if (!screen_.typeScale(figures)) return;
-        showScale();
-        setState(QStringLiteral("Escala gravada."));
-    });
-    connect(scale_, &ScalePanel::distancesTyped, this, [this](const ScalePanel::Texts& distances) {
-        if (!screen_.typeDistances(distances)) return;
-        scale_->clearDistances();
-        showScale();
-        setState(QStringLiteral("Escala calculada e gravada."));
-    });
-    connect(scale_, &ScalePanel::sheetRequested, this, [this] {
-        if (screen_.printCalibrationSheet())
-            setState(QStringLiteral("Folha de calibração enviada à impressora."));
+    connect(scale_, &ScalePanel::done, this, [this](const QString& text) {
+        sample_->align(screen_.alignment());
+        setState(text);
     });
 }
 
 void CartaoPontosWindow::select(int entry) {
     if (entry < 0 || static_cast<std::size_t>(entry) == screen_.selected()) return;
-    if (!scale_->hasTyped() || screen_.confirmDiscarding())
+    if (!scale_->hasTyped() || screen_.calibration().confirmDiscarding())
         (void)screen_.select(static_cast<std::size_t>(entry));
     showEntries();
     showEntry();
@@ -155,7 +144,7 @@ void CartaoPontosWindow::printTest() {
 }
 
 bool CartaoPontosWindow::mayClose() {
-    return !scale_->hasTyped() || screen_.confirmDiscarding();
+    return !scale_->hasTyped() || screen_.calibration().confirmDiscarding();
 }
 
 void CartaoPontosWindow::showEntry() {
@@ -164,21 +153,14 @@ void CartaoPontosWindow::showEntry() {
     setSubtitle(QStringLiteral("Cartão ") + toQt(trimmed(screen_.stock().displayName)));
     sample_->showCard(screen_.layoutName(), screen_.sampleRows(), screen_.alignment(),
                       screen_.printsHeader());
-    scale_->clearDistances();
+    scale_->refresh();
     showAlignment();
-    showScale();
     setState(QStringLiteral("Cada passo é gravado na hora."));
 }
 
 void CartaoPontosWindow::showAlignment() {
     pad_->showOffsets(screen_.offsets());
     pad_->showLineOffset(toQt(screen_.lineOffset()));
-    sample_->align(screen_.alignment());
-}
-
-/// What is typed and not recorded gives way.
-void CartaoPontosWindow::showScale() {
-    scale_->showScale(toQt(screen_.printer()), screen_.scale());
     sample_->align(screen_.alignment());
 }
 

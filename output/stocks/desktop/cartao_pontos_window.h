@@ -37,7 +37,6 @@ class CartaoPontosWindow : public ScreenWindow {
     void printTest();
     void showEntry();
     void showAlignment();
-    void showScale();
     void showEntries();
 
     CartaoPontos& screen_;

@@ -161,10 +161,10 @@ TEST_F(CartaoPontosTest, TestPrintAsksForTheCardAndTakesTheAlignmentAlong) {
 
 TEST_F(CartaoPontosTest, CalibrationSheetIsPrintedUntouched) {
     EXPECT_TRUE(screen.move(Direction::Down));
-    EXPECT_TRUE(screen.typeScale({"101", "99", "1", "2"}));
+    EXPECT_TRUE(screen.calibration().type({"101", "99", "1", "2"}));
     screen.typeLineOffset("2 Linhas");
     desk.person.answers = {Answer::Yes};
-    EXPECT_TRUE(screen.printCalibrationSheet());
+    EXPECT_TRUE(screen.calibration().printSheet());
     EXPECT_EQ(engine.jobs.at(0).request.alignment, Alignment());
     EXPECT_EQ(engine.jobs.at(0).request.layoutName, "calibracao.rpt");
     EXPECT_EQ(engine.jobs.at(0).cards.at(0), (ReportRows{{"HP-Balcao"}}));
@@ -192,29 +192,29 @@ TEST_F(CartaoPontosTest, FailedPrintsAreTold) {
 }
 
 TEST_F(CartaoPontosTest, ScaleIsTypedOrMeasuredAndKeptForPrinterAndStock) {
-    EXPECT_TRUE(screen.typeScale({"100,5", "99,75", "-1,2", "0"}));
-    EXPECT_EQ(screen.scale(), (PrintScale{10050, 9975, -120, 0}));
-    EXPECT_EQ(loadPrintScale(desk.store(), {"HP-Balcao", "05"}), screen.scale());
-    EXPECT_TRUE(screen.typeDistances({"31", "181", "30", "260"}));
-    EXPECT_EQ(screen.scale(), (PrintScale{10000, 10000, -100, 0}));
+    EXPECT_TRUE(screen.calibration().type({"100,5", "99,75", "-1,2", "0"}));
+    EXPECT_EQ(screen.calibration().scale(), (PrintScale{10050, 9975, -120, 0}));
+    EXPECT_EQ(loadPrintScale(desk.store(), {"HP-Balcao", "05"}), screen.calibration().scale());
+    EXPECT_TRUE(screen.calibration().typeDistances({"31", "181", "30", "260"}));
+    EXPECT_EQ(screen.calibration().scale(), (PrintScale{10000, 10000, -100, 0}));
 
     const std::string before = desk.file("EscalaImpressao");
     for (const auto& figures : {std::array<std::string, 4>{"", "100", "0", "0"},
                                 {"111", "100", "0", "0"},
                                 {"100", "100", "50,01", "0"},
                                 {"100", "100", "0", "x"}}) {
-        EXPECT_FALSE(screen.typeScale(figures));
+        EXPECT_FALSE(screen.calibration().type(figures));
         EXPECT_EQ(desk.person.takeTexts(), Texts{"Dados incorretos!"});
     }
-    EXPECT_FALSE(screen.typeDistances({"30", "18", "30", "260"}));
-    EXPECT_FALSE(screen.typeDistances({"30", "180", "", "260"}));
+    EXPECT_FALSE(screen.calibration().typeDistances({"30", "18", "30", "260"}));
+    EXPECT_FALSE(screen.calibration().typeDistances({"30", "180", "", "260"}));
     EXPECT_EQ(desk.file("EscalaImpressao"), before);
 
     desk.file("ConfigX") = "Padrao\r\n";
     printers.usual = "";
     screen.load();
     desk.person.takeTexts();
-    EXPECT_FALSE(screen.typeScale({"100", "100", "0", "1"}));
+    EXPECT_FALSE(screen.calibration().type({"100", "100", "0", "1"}));
     EXPECT_EQ(desk.person.shown.at(0).detail, "Não há uma impressora escolhida.");
 }
 

@@ -149,7 +149,7 @@ TEST_F(AlignmentWindow, TypedScaleStaysUntilItIsRecorded) {
     EXPECT_EQ(typed(), "101,5");
     tabs.setCurrentIndex(1);
     driven.click("escala.save");
-    EXPECT_EQ(screen.scale().horizontalScale, 10150);
+    EXPECT_EQ(screen.calibration().scale().horizontalScale, 10150);
     EXPECT_EQ(typed(), "101,50");
 }
 
@@ -180,13 +180,13 @@ TEST_F(AlignmentWindow, ScaleIsTypedMeasuredAndNotLostByLeaving) {
     driven.press(Qt::Key_Escape);
     EXPECT_TRUE(driven.window.isVisible()) << "asked before the figure is left behind";
     driven.click("escala.save");
-    EXPECT_EQ(screen.scale().horizontalScale, 9950);
+    EXPECT_EQ(screen.calibration().scale().horizontalScale, 9950);
     for (const auto& [field, text] :
          {std::pair("escala.distance1", "30,5"), std::pair("escala.distance2", "180,5"),
           std::pair("escala.distance3", "30"), std::pair("escala.distance4", "260")})
         driven.type(field, text);
     driven.click("escala.calibrate");
-    EXPECT_EQ(screen.scale(), (PrintScale{.horizontalOffset = -50}));
+    EXPECT_EQ(screen.calibration().scale(), (PrintScale{.horizontalOffset = -50}));
     EXPECT_EQ(driven.find<QLineEdit>("escala.figure3").text(), QStringLiteral("-0,50"));
     EXPECT_EQ(driven.find<QLineEdit>("escala.distance1").text(), QString());
     desk.person.answers = {Answer::Yes};
