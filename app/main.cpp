@@ -6,6 +6,7 @@
 #include "foundation/files/data_folder.h"
 #include "foundation/files/desktop/system_drives.h"
 #include "foundation/menu/desktop/lock_file_instance.h"
+#include "tools/internet/desktop/system_browser_settings.h"
 
 #include <QApplication>
 #include <QDir>
@@ -42,6 +43,7 @@ int main(int argc, char** argv) {
     winvrx::LockFileInstance instance(claimPath(drives, own));
     const winvrx::SystemClock clock;
     winvrx::FileUserSettings settings(own + QStringLiteral("/winvrx.ini"));
+    const auto browserFiles = winvrx::systemFiles();
     const auto native = [](const QString& path) {
         return QDir::toNativeSeparators(path).toStdString();
     };
@@ -51,7 +53,9 @@ int main(int argc, char** argv) {
                              .instance = instance,
                              .settings = settings,
                              .programFolder = native(QApplication::applicationDirPath()),
-                             .logFile = native(logFile)});
+                             .logFile = native(logFile),
+                             .browsers = winvrx::systemBrowserSettings(
+                                 {*browserFiles, own, QApplication::applicationDirPath()})});
     if (!program.start()) return 0;
     return QApplication::exec();
 }

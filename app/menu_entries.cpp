@@ -12,6 +12,7 @@
 #include "timecard/month/desktop/month_entry.h"
 #include "timecard/rotation/desktop/rotation_entry.h"
 #include "timecard/rotation/rotation_records.h"
+#include "tools/internet/desktop/web_ni_window.h"
 
 namespace winvrx {
 
@@ -84,6 +85,7 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
     add({planned("Ferramentas", "labels", "labels", "Etiquetas")});
     add({planned("Ferramentas", "backup", "backup", "Cópia de Segurança")});
     add({restoreEntry(at, desk.copies)});
+    if (desk.browsers) add({internetEntry(at, desk.browsers)});
     add({help(at, printing.browser)});
     add({aboutEntry(at, printing.browser, desk.logFile)});
     return all;

@@ -4,10 +4,12 @@
 #include "output/cards/desktop/card_entries.h"
 
 #include <filesystem>
+#include <memory>
 #include <string>
 
 namespace winvrx {
 
+class BrowserSettings;
 class SafetyCopies;
 class TextEditor;
 class WordProcessor;
@@ -19,7 +21,8 @@ struct MenuDesk {
     WordProcessor& writer;
     SafetyCopies& copies;
     std::string logFile;
-    std::filesystem::path programFolder;  ///< has the delivered legal tables
+    std::filesystem::path programFolder;                  ///< has the delivered legal tables
+    std::shared_ptr<BrowserSettings> browsers = nullptr;  ///< no screen for them without
 };
 
 /// The main window's commands, in the order of their tiles: each written in the room that owns its

@@ -10,6 +10,7 @@
 #include "report/desktop/qt_report_engine.h"
 #include "report/desktop/system_printers.h"
 #include "timecard/punches/month_progress.h"
+#include "tools/internet/web_ni.h"
 
 #include <QApplication>
 
@@ -68,7 +69,8 @@ Program::Program(const ProgramDesk& desk)
                             *writer_,
                             copies_,
                             desk.logFile,
-                            desk.programFolder}),
+                            desk.programFolder,
+                            desk.browsers}),
           [this](std::optional<WorkMonth> month) { return progress(month); })) {
     ScreenWindow::setHelp([this] { openHelp(at_, *browser_); });
 }
@@ -78,7 +80,9 @@ Program::~Program() {
 }
 
 bool Program::start() {
-    return window_->start();
+    if (!window_->start()) return false;
+    if (desk_.browsers) WebNi(at_, *desk_.browsers).applyAgain();
+    return true;
 }
 
 std::optional<MonthProgress> Program::progress(std::optional<WorkMonth> month) const {

@@ -13,6 +13,7 @@
 #include "report/printers.h"
 #include "report/report_engine.h"
 #include "timecard/month/month_overview.h"
+#include "tools/internet/browser_settings.h"
 
 #include <filesystem>
 #include <functional>
@@ -43,6 +44,8 @@ struct ProgramDesk {
     std::string logFile = {};  ///< path of the log, to be shown
     /// Where documents are written; the system's word processor when nullptr.
     std::function<std::unique_ptr<WordProcessor>()> writer = nullptr;
+    /// The settings of this computer's browsers; without them the screen for them is not offered.
+    std::shared_ptr<BrowserSettings> browsers = nullptr;
 };
 
 /// Joins rules, adapters and windows into the running program.

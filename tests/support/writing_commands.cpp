@@ -43,9 +43,10 @@ void PrintTo(const WritingCommand& command, std::ostream* out) {
 const std::vector<WritingCommand>& writingCommands() {
     static const std::vector<WritingCommand> commands = [] {
         std::vector<WritingCommand> all;
-        for (const auto& part : {registerCommands(), listCommands(), menuCommands(),
-                                 monthCommands(), cardCommands(), printCommands(), leaveCommands(),
-                                 rotationCommands(), payrollCommands(), contractCommands()})
+        for (const auto& part :
+             {registerCommands(), listCommands(), menuCommands(), monthCommands(), cardCommands(),
+              printCommands(), leaveCommands(), rotationCommands(), payrollCommands(),
+              contractCommands(), internetCommands()})
             all.insert(all.end(), part.begin(), part.end());
         return all;
     }();

@@ -38,6 +38,7 @@ void PrintTo(const WritingCommand& command, std::ostream* out);
 [[nodiscard]] std::vector<WritingCommand> rotationCommands();
 [[nodiscard]] std::vector<WritingCommand> payrollCommands();
 [[nodiscard]] std::vector<WritingCommand> contractCommands();
+[[nodiscard]] std::vector<WritingCommand> internetCommands();
 
 [[nodiscard]] const std::vector<WritingCommand>& writingCommands();
 [[nodiscard]] const WritingCommand& writingCommand(const std::string& name);

@@ -35,6 +35,7 @@ SobreWindow::SobreWindow(const Workplace& at, Browser& browser, std::string log,
       log_(std::move(log)) {
     setSubtitle(versionLine());
     setBody(buildBody());
+    resize(look::kSmallWindowSize);
     setState(QStringLiteral("ESC fecha"));
     connect(addClosingButton(QStringLiteral("&Sair"), QStringLiteral("sobre.close")),
             &QPushButton::clicked, this, &SobreWindow::reject);
@@ -57,7 +58,6 @@ QWidget* SobreWindow::buildBody() {
     text->setFont(look::fixedFont());
     text->setLineWrapMode(QPlainTextEdit::NoWrap);
     column->addWidget(text, 1);
-    body->setMinimumSize(look::kSmallWindowSize);
     return body;
 }
 
