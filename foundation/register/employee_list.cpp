@@ -36,11 +36,6 @@ MarkedLeaves markedLeaves(const Store& store, const EmployeeKey& key,
     }
 }
 
-bool belongsTo(WorkMonth month, const Employee& employee, const EmployeeMarks& marks) {
-    const auto admission = employee.admissionDate();
-    return !marks.isInactiveBefore(month) && !(admission && *admission > lastDay(month));
-}
-
 std::string namesText(const std::vector<std::string>& names, std::size_t most) {
     std::string text;
     for (std::size_t i = 0; i < std::min(names.size(), most); ++i)
@@ -61,6 +56,12 @@ EmployeeList::Marks EmployeeList::leaveMarks(const Store& store, const CompanyCo
 EmployeeMarks EmployeeList::marksOf(const Marks& marks, const EmployeeCode& code) {
     const auto found = marks.find(code);
     return found == marks.end() ? EmployeeMarks() : found->second;
+}
+
+void EmployeeList::load(const Store& store, const CompanyCode& company,
+                        std::optional<WorkMonth> month) {
+    fill(EmployeeRegister(store, company).load(),
+         leaveMarks(store, company, namesIn(store), month));
 }
 
 void EmployeeList::fill(const std::vector<EmployeeLine>& lines, Marks marks) {
@@ -106,6 +107,24 @@ std::vector<std::size_t> EmployeeList::shown() const {
     for (std::size_t position = 0; position < employees_.size(); ++position)
         if (isShown(position)) positions.push_back(position);
     return positions;
+}
+
+std::vector<Employee> EmployeeList::people(
+    Date first, Date last,
+    const std::function<bool(const std::vector<std::string>& names)>& areMeant) const {
+    std::vector<Employee> everyone;
+    std::vector<Employee> within;
+    std::vector<std::string> others;
+    for (const std::size_t position : shown()) {
+        const Employee& one = everyone.emplace_back(employees_[position]);
+        const auto end = marks(position).contractEnd;
+        const auto admission = one.admissionDate();
+        if ((end && *end < first) || (admission && *admission > last))
+            others.push_back(one.name);
+        else
+            within.push_back(one);
+    }
+    return others.empty() || areMeant(others) ? everyone : within;
 }
 
 std::optional<std::size_t> EmployeeList::positionOf(std::string_view code) const {

@@ -4,6 +4,7 @@
 #include "foundation/register/employee_register.h"
 #include "foundation/register/leave_calendar.h"
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -42,9 +43,6 @@ struct MarkedLeaves {
                                         std::optional<WorkMonth> month,
                                         std::optional<Date> admission = std::nullopt);
 
-/// False for who was inactive before the month or is admitted after it.
-[[nodiscard]] bool belongsTo(WorkMonth month, const Employee& employee, const EmployeeMarks& marks);
-
 /// "ANA, JOSÉ e mais 9": the first `most` of the names.
 [[nodiscard]] std::string namesText(const std::vector<std::string>& names, std::size_t most);
 
@@ -65,7 +63,11 @@ class EmployeeList {
 
     explicit EmployeeList(ShiftFilter shift) : shift_(shift) {}
 
-    /// Takes a register; shift, scale and search stay.
+    /// Reads a company's register and what its leaves say; shift, scale and search stay. Throws
+    /// FileFault.
+    void load(const Store& store, const CompanyCode& company,
+              std::optional<WorkMonth> month = std::nullopt);
+    /// Takes a register that has been read.
     void fill(const std::vector<EmployeeLine>& lines, Marks marks = {});
     [[nodiscard]] ShiftFilter shift() const { return shift_; }
     void filterBy(ShiftFilter shift);
@@ -84,6 +86,11 @@ class EmployeeList {
     [[nodiscard]] bool isShown(std::size_t position) const;
     /// The positions that the search shows.
     [[nodiscard]] std::vector<std::size_t> shown() const;
+    /// Those whom the search shows, in file order. Who was inactive before `first` or is admitted
+    /// after `last` is among them only if `areMeant`, told the names of all such, says so.
+    [[nodiscard]] std::vector<Employee> people(
+        Date first, Date last,
+        const std::function<bool(const std::vector<std::string>& names)>& areMeant) const;
     /// The first who bears the code.
     [[nodiscard]] std::optional<std::size_t> positionOf(std::string_view code) const;
 

@@ -26,18 +26,10 @@ Message noShiftChosen(const Employee& employee) {
 
 }  // namespace
 
-void Turnos::show(const std::vector<EmployeeLine>& lines) {
-    list_.fill(lines, lines.empty() ? EmployeeList::Marks()
-                                    : EmployeeList::leaveMarks(at_.store(), *at_.session.company,
-                                                               namesIn(at_.store()), std::nullopt));
-}
-
 void Turnos::load() {
     (void)attempt(at_, incorrectData(), [this] {
         companyTitle_ = titleOf(loadCompanies(at_.store()), at_.session.company);
-        std::vector<EmployeeLine> lines;
-        if (at_.session.company) lines = EmployeeRegister(at_.store(), *at_.session.company).load();
-        show(lines);
+        if (at_.session.company) list_.load(at_.store(), *at_.session.company);
     });
 }
 
@@ -69,7 +61,7 @@ bool Turnos::change(const Employee& employee, std::optional<Shift> shift) {
         changed.shift = codeOf(*shift);
         line = lineOf(changed, line.bytes);
         stored.save(lines, at_.clock.now());
-        show(lines);
+        list_.load(at_.store(), company);
         return true;
     });
 }

@@ -32,7 +32,6 @@ class Turnos {
     void askForEmployee();
 
   private:
-    void show(const std::vector<EmployeeLine>& lines);
     /// The employee's place in the list; throws Fault when he is no longer there as he was shown.
     [[nodiscard]] static EmployeeLine& lineOfEmployee(std::vector<EmployeeLine>& lines,
                                                       const Employee& employee);

@@ -1,7 +1,6 @@
 #include "output/cards/cartao.h"
 
 #include "foundation/register/company_register.h"
-#include "foundation/register/employee_register.h"
 #include "foundation/values/text.h"
 #include "report/print_pages.h"
 #include "timecard/month/overtime_record.h"
@@ -56,10 +55,7 @@ void Cartao::load() {
         const bool hasUnwritten = choices_.printer != remembered_;
         remembered_ = loadPrinterMemory(at_.store(), *at_.session.company);
         if (!hasUnwritten) choices_.printer = remembered_;
-        const CompanyCode& company = *at_.session.company;
-        list_.fill(
-            EmployeeRegister(at_.store(), company).load(),
-            EmployeeList::leaveMarks(at_.store(), company, namesIn(at_.store()), std::nullopt));
+        list_.load(at_.store(), *at_.session.company);
     });
 }
 
@@ -93,23 +89,10 @@ bool Cartao::printOne(std::optional<std::size_t> position, const PrintRun& run) 
 
 bool Cartao::printAll(const PrintRun& run) {
     if (!requireChoices(!list_.shown().empty(), run) || !requirePrintingDrive()) return false;
-    const auto people = confirmPeople();
+    const auto people = list_.people(
+        firstDay(*month_), lastDay(*month_),
+        [this](const auto& outsiders) { return at_.person.agrees(confirmOutsiders(outsiders)); });
     return !people.empty() && print(people, run);
-}
-
-std::vector<Employee> Cartao::confirmPeople() {
-    std::vector<Employee> everyone;
-    std::vector<Employee> ofMonth;
-    std::vector<std::string> others;
-    for (const std::size_t position : list_.shown()) {
-        const Employee& one = list_.employees()[position];
-        everyone.push_back(one);
-        if (belongsTo(month_.value(), one, list_.marks(position)))
-            ofMonth.push_back(one);
-        else
-            others.push_back(one.name);
-    }
-    return others.empty() || at_.person.agrees(confirmOutsiders(others)) ? everyone : ofMonth;
 }
 
 bool Cartao::requireChoices(bool anyEmployee, const PrintRun& run) {

@@ -68,7 +68,6 @@ class Cartao {
     [[nodiscard]] bool isShown(std::optional<std::size_t> position) const {
         return position && list_.isShown(*position);
     }
-    [[nodiscard]] std::vector<Employee> confirmPeople();
     [[nodiscard]] bool requireChoices(bool anyEmployee, const PrintRun& run);
     [[nodiscard]] bool requirePrintingDrive();
     [[nodiscard]] bool print(const std::vector<Employee>& people, const PrintRun& run);
