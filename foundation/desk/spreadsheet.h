@@ -3,6 +3,7 @@
 #include "foundation/values/date.h"
 
 #include <chrono>
+#include <functional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -42,8 +43,12 @@ class Spreadsheet {
   public:
     virtual ~Spreadsheet() = default;
 
-    /// The bytes of an XLSX file. Throws Fault.
-    [[nodiscard]] virtual std::string workbookOf(const std::vector<Sheet>& sheets) = 0;
+    /// Asked now and then whether to go on.
+    using GoesOn = std::function<bool()>;
+
+    /// The bytes of an XLSX file; none once `goesOn` says no. Throws Fault.
+    [[nodiscard]] virtual std::string workbookOf(const std::vector<Sheet>& sheets,
+                                                 const GoesOn& goesOn = {}) = 0;
 };
 
 }  // namespace winvrx

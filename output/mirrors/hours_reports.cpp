@@ -2,7 +2,6 @@
 
 #include "foundation/desk/text_report.h"
 #include "foundation/register/company_register.h"
-#include "foundation/register/employee_register.h"
 #include "foundation/values/csv.h"
 #include "foundation/values/text.h"
 #include "output/mirrors/hours_report.h"
@@ -45,12 +44,6 @@ Message leftOut(const std::vector<std::string>& names) {
                     namesText(names, kMostNames));
 }
 
-bool isWithin(const DayPeriod& period, const Employee& employee, const EmployeeMarks& marks) {
-    const auto admission = employee.admissionDate();
-    return (!marks.contractEnd || *marks.contractEnd >= period.first) &&
-           (!admission || *admission <= period.last);
-}
-
 }  // namespace
 
 HoursReports::HoursReports(const Workplace& at, const HoursReportsDesk& desk)
@@ -63,9 +56,7 @@ void HoursReports::load() {
         const auto selected = loadSelectedMonth(at_.store());
         month_ = selected ? std::optional(selected->month) : std::nullopt;
         if (!period_ && month_) period_ = DayPeriod{firstDay(*month_), lastDay(*month_)};
-        list_.fill(
-            EmployeeRegister(at_.store(), company).load(),
-            EmployeeList::leaveMarks(at_.store(), company, namesIn(at_.store()), std::nullopt));
+        list_.load(at_.store(), company);
     });
 }
 
@@ -104,20 +95,10 @@ bool HoursReports::requirePeriod() {
 }
 
 HoursReports::People HoursReports::confirmPeople() {
-    People everyone;
-    People within;
-    std::vector<std::string> others;
-    for (const std::size_t position : list_.shown()) {
-        const Employee& one = list_.employees()[position];
-        everyone.push_back(one);
-        if (isWithin(period_.value(), one, list_.marks(position)))
-            within.push_back(one);
-        else
-            others.push_back(one.name);
-    }
-    if (everyone.empty()) at_.person.tell(noEmployeeSelected());
-    return withoutMissingGroups(others.empty() || at_.person.agrees(leftOut(others)) ? everyone
-                                                                                     : within);
+    if (list_.shown().empty()) at_.person.tell(noEmployeeSelected());
+    return withoutMissingGroups(list_.people(
+        period_->first, period_->last,
+        [this](const auto& outsiders) { return at_.person.agrees(leftOut(outsiders)); }));
 }
 
 HoursReports::People HoursReports::withoutMissingGroups(const People& people) {
@@ -181,7 +162,7 @@ bool HoursReports::writeText(const PageProgress& progress) {
     HoursReport report(*period_, mirrorPeriod().lastMonth().overtime);
     if (!forEachSheet(progress, [&](const MirrorSheet& sheet) { report.add(sheet); })) return false;
     const auto path = at_.session.folder.file(kHoursReportName);
-    if (showReports(at_, desk_.editor, {{path, report.lines()}})) return true;
+    if (showReports(at_, desk_.editor, {{path, std::move(report).lines()}})) return true;
     at_.person.tell(notShown(path.string()));
     return false;
 }
@@ -190,7 +171,10 @@ bool HoursReports::writeWorkbook(const PageProgress& progress) {
     HoursSheets sheets(mirrorPeriod().lastMonth().overtime);
     if (!forEachSheet(progress, [&](const MirrorSheet& sheet) { sheets.add(sheet); })) return false;
     const auto path = at_.session.folder.file(kHoursWorkbookName);
-    const std::string bytes = desk_.spreadsheet.workbookOf(std::move(sheets).sheets());
+    const int people = static_cast<int>(list_.shown().size());
+    const std::string bytes = desk_.spreadsheet.workbookOf(
+        std::move(sheets).sheets(), [&] { return !progress || progress(people, people); });
+    if (bytes.empty()) return false;
     {
         const auto hold = holdFolder(at_);
         at_.files.replace(path, bytes);

@@ -47,9 +47,11 @@ bool HoursReports::printSides(const PrintChoices& choices, const PrintRun& run,
             return printed;
         }
         batch.request.output = ReportOutput::Printer;
+        int done = 0;
         return std::ranges::all_of(batch.people, [&](const Employee& one) {
             if (tellLine) tellLine("Imprimindo Cartão do Funcionário:  " + one.name);
-            return printBothSides(batch, one);
+            return printBothSides(batch, one) &&
+                   (!run.progress || run.progress(++done, static_cast<int>(batch.people.size())));
         });
     });
 }

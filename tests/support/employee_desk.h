@@ -20,14 +20,14 @@ class TestEditor final : public TextEditor {
     }
 };
 
-/// Remembers the sheets; the workbook is a word.
+/// Remembers the sheets; the workbook is a word, once it was asked whether to go on.
 class TestSpreadsheet final : public Spreadsheet {
   public:
     std::vector<Sheet> sheets;
 
-    std::string workbookOf(const std::vector<Sheet>& written) override {
+    std::string workbookOf(const std::vector<Sheet>& written, const GoesOn& goesOn) override {
         sheets = written;
-        return "workbook";
+        return goesOn && !goesOn() ? "" : "workbook";
     }
 };
 

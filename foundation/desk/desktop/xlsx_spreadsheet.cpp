@@ -17,6 +17,7 @@ namespace {
 constexpr const char* kExplanation = "A planilha não pôde ser montada.";
 constexpr std::size_t kWidestColumn = 50;  // characters
 constexpr std::size_t kValueWidth = 10;    // of a date, the widest of what is no text
+constexpr lxw_row_t kRowsBetween = 1000;   // two questions whether to go on
 
 /// The day that spreadsheets count as 0.
 constexpr std::chrono::sys_days kDayZero{std::chrono::December / 30 / 1899};
@@ -62,13 +63,16 @@ class SheetWriter {
     SheetWriter(lxw_worksheet& to, const Sheet& sheet, const Formats& formats)
         : to_(to), sheet_(sheet), formats_(formats) {}
 
-    void write() {
+    /// False when it was not to go on.
+    [[nodiscard]] bool write(const Spreadsheet::GoesOn& goesOn) {
         for (lxw_col_t at = 0; at < columns(); ++at)
             require(
                 worksheet_write_string(&to_, 0, at, columnAt(at).title.c_str(), &formats_.bold));
         worksheet_freeze_panes(&to_, 1, 0);
-        for (lxw_row_t at = 0; at < rows(); ++at)
+        for (lxw_row_t at = 0; at < rows(); ++at) {
+            if (at % kRowsBetween == 0 && goesOn && !goesOn()) return false;
             writeRow(at);
+        }
         if (sheet_.filtered)
             require(
                 worksheet_autofilter(&to_, 0, 0, rows(), static_cast<lxw_col_t>(columns() - 1)));
@@ -76,6 +80,7 @@ class SheetWriter {
             if (columnAt(at).summed && rows() > 0) writeSum(at);
             fit(at);
         }
+        return true;
     }
 
   private:
@@ -141,28 +146,34 @@ class SheetWriter {
     const Formats& formats_;
 };
 
-void write(lxw_workbook& book, const Sheet& sheet) {
+bool write(lxw_workbook& book, const Sheet& sheet, const Spreadsheet::GoesOn& goesOn) {
     lxw_worksheet* to = workbook_add_worksheet(&book, sheet.name.c_str());
     if (!to) throw Fault("libxlsxwriter: no worksheet", kExplanation);
     const Formats formats(book, sheet.decimalHours);
-    SheetWriter(*to, sheet, formats).write();
+    return SheetWriter(*to, sheet, formats).write(goesOn);
 }
 
 }  // namespace
 
-std::string XlsxSpreadsheet::workbookOf(const std::vector<Sheet>& sheets) {
+std::string XlsxSpreadsheet::workbookOf(const std::vector<Sheet>& sheets, const GoesOn& goesOn) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("planilha.xlsx"));
     lxw_workbook* book = workbook_new(QFile::encodeName(path).constData());
     if (!book) throw Fault("libxlsxwriter: no workbook", kExplanation);
+    bool whole = true;
     try {
-        for (const Sheet& sheet : sheets)
-            write(*book, sheet);
+        whole = std::ranges::all_of(
+            sheets, [&](const Sheet& sheet) { return write(*book, sheet, goesOn); });
     } catch (...) {
-        (void)workbook_close(book);
+        lxw_workbook_free(book);
         throw;
     }
+    if (!whole) {
+        lxw_workbook_free(book);
+        return {};
+    }
     require(workbook_close(book));
+    if (goesOn && !goesOn()) return {};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) throw Fault("workbook cannot be read back", kExplanation);
     return file.readAll().toStdString();

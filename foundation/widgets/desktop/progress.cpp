@@ -1,5 +1,6 @@
 #include "foundation/widgets/desktop/progress.h"
 
+#include <QCoreApplication>
 #include <QProgressDialog>
 
 #include <utility>
@@ -25,7 +26,10 @@ bool Progress::show(int done, int total) {
     dialog_->setLabelText(finishing ? words_.finishing.arg(total)
                                     : words_.step.arg(done).arg(total));
     if (dialog_->isHidden()) dialog_->show();
-    dialog_->setValue(done);
+    if (dialog_->value() != done)
+        dialog_->setValue(done);
+    else
+        QCoreApplication::processEvents();  // the dialog itself looks only at other values
     return !dialog_->wasCanceled();
 }
 

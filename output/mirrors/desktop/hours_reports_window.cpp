@@ -225,7 +225,8 @@ template <typename Make>
 void HoursReportsWindow::make(Make&& make) {
     if (!requireTakenPeriod()) return;
     Progress progress({QStringLiteral("horas.progress"), QStringLiteral("GERANDO RELATÓRIO"),
-                       QStringLiteral("Funcionário %1 de %2")},
+                       QStringLiteral("Funcionário %1 de %2"),
+                       QStringLiteral("Gravando os dados de %1 funcionários…")},
                       this);
     (void)make([&progress](int done, int total) { return progress.show(done, total); });
 }
@@ -251,9 +252,14 @@ void HoursReportsWindow::printManualSheet() {
 }
 
 void HoursReportsWindow::printSides() {
+    Progress progress({QStringLiteral("horas.progress"), QStringLiteral("Imprimindo Ponto"),
+                       QStringLiteral("Cartão %1 de %2")},
+                      this);
+    PrintRun run = pdfAsking(this);
+    run.progress = [&progress](int done, int total) { return progress.show(done, total); };
     PrintChoices choices;
     output_->takeInto(choices);
-    (void)reports_.printSides(choices, pdfAsking(this),
+    (void)reports_.printSides(choices, run,
                               [this](const std::string& line) { setState(toQt(line)); });
     showPeriod();
     showContext();

@@ -80,9 +80,12 @@ TEST_F(HoursReportsTest, SaysWhatStandsInTheWay) {
 
 TEST_F(HoursReportsTest, CancellingWritesNothing) {
     const auto cancel = [](int, int) { return false; };
-    desk.person.answers = {Answer::No, Answer::Yes, Answer::Cancel};
+    int employees = 0;
+    const auto cancelWorkbook = [&](int, int) { return ++employees <= 2; };
+    desk.person.answers = {Answer::No, Answer::Yes, Answer::Yes, Answer::Cancel};
     EXPECT_FALSE(reports.report(cancel));
     EXPECT_FALSE(reports.report(cancel));
+    EXPECT_FALSE(reports.report(cancelWorkbook));
     EXPECT_FALSE(reports.report());
     EXPECT_FALSE(reports.exportSums("/out/horas.csv", cancel));
     EXPECT_FALSE(reports.showOverview(cancel));
@@ -297,6 +300,11 @@ TEST_F(HoursReportsTest, CardSidesArePromptedOneByOne) {
         }
         EXPECT_EQ(sides, one.printed);
     }
+    desk.person.answers = {Answer::Yes, Answer::Yes};
+    EXPECT_FALSE(reports.printSides({.output = ReportOutput::Printer},
+                                    {.progress = [](int, int) { return false; }}))
+        << "cancelled behind a whole card";
+    EXPECT_EQ(desk.person.takeTexts(), (Texts{ready("1"), ready("2")}));
     EXPECT_TRUE(reports.printSides({}, {}));
     EXPECT_EQ(office.engine.jobs.back().request.sides, Both);
 }

@@ -45,7 +45,7 @@ TEST(XlsxSpreadsheet, KeepsEveryCellAsText) {
     XlsxSpreadsheet spreadsheet;
     const Table table{{"Código", "Nome", "Salário"},
                       {{"001", "ANA D'ÁVILA", "1.850,00"}, {"010", "JOSÉ <&> \"ZÉ\"", "=1+1"}}};
-    const auto rows = cellsOf(spreadsheet.workbookOf({textSheet("Funcionários", table)}));
+    const auto rows = cellsOf(spreadsheet.workbookOf({textSheet("Funcionários", table)}, {}));
     ASSERT_EQ(rows.size(), 3U);
     EXPECT_EQ(rows[0], QStringList({QStringLiteral("Código"), QStringLiteral("Nome"),
                                     QStringLiteral("Salário")}));
@@ -53,7 +53,11 @@ TEST(XlsxSpreadsheet, KeepsEveryCellAsText) {
                                     QStringLiteral("1.850,00")}));
     EXPECT_EQ(rows[2], QStringList({QStringLiteral("010"), QStringLiteral("JOSÉ <&> \"ZÉ\""),
                                     QStringLiteral("=1+1")}));
-    EXPECT_THROW((void)spreadsheet.workbookOf({textSheet("nome/inválido", table)}), Fault);
+    EXPECT_THROW((void)spreadsheet.workbookOf({textSheet("nome/inválido", table)}, {}), Fault);
+    for (int goingOn : {0, 1}) {
+        const auto goesOn = [&goingOn] { return goingOn-- > 0; };
+        EXPECT_EQ(spreadsheet.workbookOf({textSheet("Funcionários", table)}, goesOn), "");
+    }
 }
 
 }  // namespace

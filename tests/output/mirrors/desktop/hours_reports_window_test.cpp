@@ -73,7 +73,7 @@ TEST(HoursWorkbook, LibreOfficeReckonsItsSums) {
         sheets.add(period.of(one));
     const QTemporaryDir folder;
     XlsxSpreadsheet spreadsheet;
-    const std::string bytes = spreadsheet.workbookOf(std::move(sheets).sheets());
+    const std::string bytes = spreadsheet.workbookOf(std::move(sheets).sheets(), {});
     write(folder.filePath(QStringLiteral("horas.xlsx")), QByteArray::fromStdString(bytes));
     takeValuesAway(folder.path(), folder.filePath(QStringLiteral("horas.xlsx")),
                    folder.filePath(QStringLiteral("bare.xlsx")));
