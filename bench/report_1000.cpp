@@ -97,13 +97,13 @@ int main(int argc, char** argv) {
             HoursReport report(days, settings.overtime);
             for (const Employee& one : people)
                 report.add(period.of(one));
-            lines += report.lines().size();
+            lines += std::move(report).lines().size();
         }));
         for (const Employee& one : people)
             sheets.add(period.of(one));
         const std::vector<Sheet> made = std::move(sheets).sheets();
         XlsxSpreadsheet spreadsheet;
-        books.push_back(milliseconds([&] { lines += spreadsheet.workbookOf(made).size(); }));
+        books.push_back(milliseconds([&] { lines += spreadsheet.workbookOf(made, {}).size(); }));
         bareBooks.push_back(
             milliseconds([&] { writeBare(made, scratch.filePath(QStringLiteral("bare.xlsx"))); }));
     }

@@ -12,19 +12,23 @@ namespace winvrx {
 
 namespace {
 
-std::string fittedIn(const TextColumn& column, std::string_view text) {
-    if (column.side == TextColumn::Side::Left) return fitted(text, column.width);
+constexpr std::size_t kAccents = 8;  // a line of more takes its room when it comes to it
+
+void appendCell(std::string& line, const TextColumn& column, std::string_view text) {
+    if (column.side == TextColumn::Side::Left) return appendFitted(line, text, column.width);
     const std::string_view cut = firstCharacters(text, column.width);
-    return std::string(column.width - characterCount(cut), ' ').append(cut);
+    line.append(column.width - characterCount(cut), ' ').append(cut);
 }
 
 }  // namespace
 
-void TextReport::addHeading(std::string_view heading) {
-    std::size_t width = 0;
+TextReport::TextReport(std::vector<TextColumn> columns) : columns_(std::move(columns)) {
     for (const TextColumn& column : columns_)
-        width += column.width + 1;
-    lines_.push_back(fitted(heading, width - 1) + "|");
+        width_ += column.width + 1;
+}
+
+void TextReport::addHeading(std::string_view heading) {
+    lines_.push_back(fitted(heading, width_ - 1) + "|");
 }
 
 void TextReport::addRule(char end) {
@@ -44,10 +48,12 @@ void TextReport::addTitles() {
 
 void TextReport::addRow(const std::vector<std::string>& cells) {
     if (cells.size() != columns_.size()) throw std::logic_error("a cell for each column");
-    std::string line;
-    for (std::size_t at = 0; at < cells.size(); ++at)
-        line += fittedIn(columns_[at], cells[at]) + "|";
-    lines_.push_back(std::move(line));
+    std::string& line = lines_.emplace_back();
+    line.reserve(width_ + kAccents);
+    for (std::size_t at = 0; at < cells.size(); ++at) {
+        appendCell(line, columns_[at], cells[at]);
+        line += '|';
+    }
 }
 
 bool showReports(const Workplace& at, TextEditor& editor, const std::vector<ReportFile>& reports) {

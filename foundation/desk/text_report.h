@@ -30,7 +30,7 @@ struct TextColumn {
 /// The lines of a report, or of one table of it, as UTF-8. Each column is closed by "|".
 class TextReport {
   public:
-    explicit TextReport(std::vector<TextColumn> columns) : columns_(std::move(columns)) {}
+    explicit TextReport(std::vector<TextColumn> columns);
 
     /// A line as it stands.
     void addLine(std::string line) { lines_.push_back(std::move(line)); }
@@ -42,10 +42,12 @@ class TextReport {
     /// One text a column; throws std::logic_error for another number of them.
     void addRow(const std::vector<std::string>& cells);
 
-    [[nodiscard]] const std::vector<std::string>& lines() const { return lines_; }
+    [[nodiscard]] const std::vector<std::string>& lines() const& { return lines_; }
+    [[nodiscard]] std::vector<std::string> lines() && { return std::move(lines_); }
 
   private:
     std::vector<TextColumn> columns_;
+    std::size_t width_ = 0;  ///< with what closes the columns
     std::vector<std::string> lines_;
 };
 

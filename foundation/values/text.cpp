@@ -159,6 +159,7 @@ std::size_t characterCount(std::string_view utf8) {
 }
 
 std::string_view firstCharacters(std::string_view utf8, std::size_t count) {
+    if (utf8.size() <= count) return utf8;
     std::size_t position = 0;
     for (; position < utf8.size(); ++position)
         if (!isContinuation(utf8[position]) && count-- == 0) break;
@@ -172,15 +173,21 @@ std::string_view trimmed(std::string_view text) {
 }
 
 std::string fitted(std::string_view utf8, std::size_t width) {
-    std::string result(firstCharacters(utf8, width));
-    result.append(width - characterCount(result), ' ');
+    std::string result;
+    appendFitted(result, utf8, width);
     return result;
+}
+
+void appendFitted(std::string& line, std::string_view utf8, std::size_t width) {
+    const std::string_view shown = firstCharacters(utf8, width);
+    line.append(shown).append(width - characterCount(shown), ' ');
 }
 
 std::string padded(int number, int digits) {
     std::string text = std::to_string(number);
     const auto wanted = static_cast<std::size_t>(digits);
-    return text.size() < wanted ? std::string(wanted - text.size(), '0') + text : text;
+    if (text.size() < wanted) text.insert(0, wanted - text.size(), '0');
+    return text;
 }
 
 std::optional<int> parseWholeNumber(std::string_view text, int lowest, int highest) {

@@ -40,6 +40,8 @@ namespace winvrx {
 
 /// `text` padded with blanks on the right to `width` characters, or cut to it.
 [[nodiscard]] std::string fitted(std::string_view utf8, std::size_t width);
+/// The same behind what `line` holds.
+void appendFitted(std::string& line, std::string_view utf8, std::size_t width);
 
 /// `number` in decimal with at least `digits` digits, zeros in front.
 [[nodiscard]] std::string padded(int number, int digits);

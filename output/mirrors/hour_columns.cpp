@@ -3,7 +3,6 @@
 #include "foundation/values/text.h"
 #include "timecard/hours/hours_summary.h"
 
-#include <algorithm>
 #include <array>
 
 namespace winvrx {
@@ -71,15 +70,12 @@ std::string workedTimes(const MirrorDay& day) {
                                                      &line.extraEntry,     &line.extraExit};
     constexpr std::size_t kTimeWidth = 5;
     std::string text;
-    for (const std::string* time : times)
-        text += (text.empty() ? "" : " ") + fitted(*time, kTimeWidth);
+    text.reserve(times.size() * (kTimeWidth + 1));
+    for (const std::string* time : times) {
+        if (!text.empty()) text += ' ';
+        appendFitted(text, *time, kTimeWidth);
+    }
     return text;
-}
-
-std::string dashedLabel(Date date) {
-    std::string label = dayLabel(date);
-    std::ranges::replace(label, '/', '-');
-    return label;
 }
 
 }  // namespace winvrx

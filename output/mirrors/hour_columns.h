@@ -27,7 +27,4 @@ struct HourColumn {
 /// "08:00 12:00 13:00 17:00": what was punched, or why nothing was.
 [[nodiscard]] std::string workedTimes(const MirrorDay& day);
 
-/// "05-ter-mar".
-[[nodiscard]] std::string dashedLabel(Date date);
-
 }  // namespace winvrx

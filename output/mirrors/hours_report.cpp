@@ -1,7 +1,6 @@
 #include "output/mirrors/hours_report.h"
 
 #include "foundation/values/text.h"
-#include "output/mirrors/hour_columns.h"
 #include "timecard/hours/hours_format.h"
 
 #include <algorithm>
@@ -26,15 +25,10 @@ std::vector<TextColumn> withHours(std::vector<TextColumn> columns,
     return columns;
 }
 
-std::vector<TextColumn> detailColumns(const OvertimeRules& rules) {
-    return withHours(
-        {{"Nome do Funcionário", 32}, {" Data", 11}, {"         HORARIO TRABALHADO", 35}},
-        dayColumns(rules));
-}
+const std::vector<TextColumn> kDetailColumns = {
+    {"Nome do Funcionário", 32}, {" Data", 11}, {"         HORARIO TRABALHADO", 35}};
 
-std::vector<TextColumn> summaryTextColumns(const OvertimeRules& rules) {
-    return withHours({{" Nome do Funcionário", 31}, {" Função", 20}}, summaryColumns(rules));
-}
+const std::vector<TextColumn> kSummaryColumns = {{" Nome do Funcionário", 31}, {" Função", 20}};
 
 const std::vector<TextColumn> kLeaveColumns = {{"Nome do Funcionário", 32},
                                                {" Descrição do Afastamento", 47},
@@ -42,18 +36,24 @@ const std::vector<TextColumn> kLeaveColumns = {{"Nome do Funcionário", 32},
                                                {"       Data de Término", 30}};
 
 /// Right-aligned, with a blank before the rule where there is room.
-std::string figure(std::chrono::seconds duration, const HourColumn& column,
-                   const OvertimeRules& rules) {
-    const std::string text = formatted(duration, rules.totalsFormat);
-    return text.size() < column.width ? text + " " : text;
+std::string figure(const HourTotals& totals, const HourColumn& column, TotalsFormat format) {
+    std::string text = formatted(column.of(totals), format);
+    if (text.size() < column.width) text += ' ';
+    return text;
 }
 
-std::vector<std::string> withFigures(std::vector<std::string> cells, const HourTotals& totals,
-                                     const std::vector<HourColumn>& columns,
-                                     const OvertimeRules& rules) {
-    for (const HourColumn& column : columns)
-        cells.push_back(figure(column.of(totals), column, rules));
-    return cells;
+/// The last cells of a row.
+void putFigures(std::vector<std::string>& cells, const HourTotals& totals,
+                const std::vector<HourColumn>& columns, TotalsFormat format) {
+    std::ranges::transform(columns, cells.end() - std::ssize(columns),
+                           [&](const HourColumn& one) { return figure(totals, one, format); });
+}
+
+/// " 05-ter-mar".
+std::string dashed(const std::string& dayLabel) {
+    std::string text = " " + dayLabel;
+    std::ranges::replace(text, '/', '-');
+    return text;
 }
 
 std::string closingRule() {
@@ -76,11 +76,18 @@ std::vector<ReportedLeave> reportedLeaves(const MirrorSheet& sheet) {
 }
 
 HoursReport::HoursReport(const DayPeriod& period, const OvertimeRules& rules)
-    : period_(period),
-      rules_(rules),
-      days_(detailColumns(rules)),
-      summary_(summaryTextColumns(rules)),
+    : rules_(rules),
+      dayColumns_(dayColumns(rules)),
+      summaryColumns_(summaryColumns(rules)),
+      days_(withHours(kDetailColumns, dayColumns_)),
+      summary_(withHours(kSummaryColumns, summaryColumns_)),
       leaves_(kLeaveColumns) {
+    days_.addLine("            ARQUIVO DE PONTO                  ");
+    days_.addLine("             Período: " + dateText(period.first) + " a " +
+                  dateText(period.last));
+    days_.addLine("            ================     ");
+    days_.addLine("           (Usar Fonte: Courier New, Tamanho: 8 / Configurar Pagina: Paisagem)");
+    days_.addLine({});
     days_.addHeading("RELATÓRIO DE HORAS EXTRAS/FALTAS");
     days_.addRule();
     days_.addTitles();
@@ -96,13 +103,19 @@ HoursReport::HoursReport(const DayPeriod& period, const OvertimeRules& rules)
 }
 
 void HoursReport::add(const MirrorSheet& sheet) {
-    const auto columns = dayColumns(rules_);
     const std::string& name = sheet.employee.name;
-    for (const MirrorDay& day : sheet.days)
-        days_.addRow(withFigures({name, " " + dashedLabel(day.date), workedTimes(day)}, day.hours,
-                                 columns, rules_));
-    summary_.addRow(
-        withFigures({name, sheet.employee.function}, sheet.totals, summaryColumns(rules_), rules_));
+    std::vector<std::string> cells = {name, {}, {}};
+    cells.resize(cells.size() + dayColumns_.size());
+    for (const MirrorDay& day : sheet.days) {
+        cells[1] = dashed(day.line.label);
+        cells[2] = workedTimes(day);
+        putFigures(cells, day.hours, dayColumns_, rules_.totalsFormat);
+        days_.addRow(cells);
+    }
+    cells = {name, sheet.employee.function};
+    cells.resize(cells.size() + summaryColumns_.size());
+    putFigures(cells, sheet.totals, summaryColumns_, rules_.totalsFormat);
+    summary_.addRow(cells);
     for (const ReportedLeave& leave : reportedLeaves(sheet)) {
         const auto day = [&leave](Date LeavePeriod::*which, std::size_t indent) {
             return std::string(indent, ' ') +
@@ -113,25 +126,14 @@ void HoursReport::add(const MirrorSheet& sheet) {
     }
 }
 
-std::vector<std::string> HoursReport::heading() const {
-    return {"            ARQUIVO DE PONTO                  ",
-            "             Período: " + dateText(period_.first) + " a " + dateText(period_.last),
-            "            ================     ",
-            "           (Usar Fonte: Courier New, Tamanho: 8 / Configurar Pagina: Paisagem)"};
-}
-
-std::vector<std::string> HoursReport::lines() const {
-    std::vector<std::string> all = heading();
-    const auto add = [&all](const std::vector<std::string>& lines) {
+std::vector<std::string> HoursReport::lines() && {
+    std::vector<std::string> all = std::move(days_).lines();
+    all.push_back(closingRule());
+    for (const TextReport* block : {&summary_, &leaves_}) {
         all.emplace_back();
-        all.insert(all.end(), lines.begin(), lines.end());
-    };
-    add(days_.lines());
-    all.push_back(closingRule());
-    add(summary_.lines());
-    all.push_back(closingRule());
-    add(leaves_.lines());
-    all.push_back(closingRule());
+        all.insert(all.end(), block->lines().begin(), block->lines().end());
+        all.push_back(closingRule());
+    }
     return all;
 }
 

@@ -2,7 +2,7 @@
 
 #include "foundation/desk/text_report.h"
 #include "foundation/register/company.h"
-#include "output/mirrors/mirror_period.h"
+#include "output/mirrors/hour_columns.h"
 
 #include <optional>
 #include <string>
@@ -28,13 +28,12 @@ class HoursReport {
 
     void add(const MirrorSheet& sheet);
     /// The whole file.
-    [[nodiscard]] std::vector<std::string> lines() const;
+    [[nodiscard]] std::vector<std::string> lines() &&;
 
   private:
-    [[nodiscard]] std::vector<std::string> heading() const;
-
-    DayPeriod period_;
     OvertimeRules rules_;
+    std::vector<HourColumn> dayColumns_;
+    std::vector<HourColumn> summaryColumns_;
     TextReport days_;
     TextReport summary_;
     TextReport leaves_;

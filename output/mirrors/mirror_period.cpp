@@ -8,7 +8,6 @@
 #include "timecard/punches/day_check.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace winvrx {
@@ -23,17 +22,15 @@ struct MirrorPeriod::Piece {
 
 namespace {
 
-MirrorDay dayOf(PunchLine line, Date date, const WorkTerms& terms, bool recorded) {
-    MirrorDay day;
+void putDay(MirrorDay& day, PunchLine&& line, Date date, const WorkTerms& terms, bool recorded) {
     day.date = date;
     day.standing = terms.leaves.standingOn(date);
     if (isWithinContract(day.standing)) day.line = std::move(line);
     day.line.label = dayLabel(date);
-    if (!isWithinContract(day.standing)) return day;
+    if (!isWithinContract(day.standing)) return;
     day.contracted = contractedTimes(day.line, date, terms);
     if (!day.line.hasTimes()) day.situation = situationOf(day.line, date, terms);
     if (recorded) day.hours = dayHours(day.line, date, terms);
-    return day;
 }
 
 }  // namespace
@@ -60,9 +57,11 @@ MirrorSheet MirrorPeriod::of(const Employee& employee) const {
                       .totals = {}};
     for (Piece& piece : piecesOf(sheet, key)) {
         Date date = piece.first;
+        sheet.days.reserve(sheet.days.size() + piece.lines.size());
         for (PunchLine& line : piece.lines) {
-            sheet.days.push_back(dayOf(std::move(line), date, piece.terms, piece.recorded));
-            sheet.totals += sheet.days.back().hours;
+            MirrorDay& day = sheet.days.emplace_back();
+            putDay(day, std::move(line), date, piece.terms, piece.recorded);
+            sheet.totals += day.hours;
             date = plusDays(date, 1);
         }
         sheet.overtime = piece.terms.overtime;
@@ -113,9 +112,9 @@ MirrorPeriod::Piece MirrorPeriod::pieceOf(const MirrorSheet& sheet, const Employ
                                    sheet.leaves),
                 .recorded = punches.has_value()};
     const Date last = std::min(period_.last, lastDay(settings.month));
-    std::vector<PunchLine> lines = punches ? std::move(*punches) : blankMonth(settings.month);
-    piece.lines.assign(std::make_move_iterator(lines.begin() + dayNumber(piece.first) - 1),
-                       std::make_move_iterator(lines.begin() + dayNumber(last)));
+    piece.lines = punches ? std::move(*punches) : blankMonth(settings.month);
+    piece.lines.erase(piece.lines.begin() + dayNumber(last), piece.lines.end());
+    piece.lines.erase(piece.lines.begin(), piece.lines.begin() + dayNumber(piece.first) - 1);
     return piece;
 }
 

@@ -33,7 +33,7 @@ struct HoursReportTest : ::testing::Test {
         HoursReport made(period.days(), period.lastMonth().overtime);
         for (const Employee& one : people())
             made.add(period.of(one));
-        return made.lines();
+        return std::move(made).lines();
     }
 };
 
