@@ -4,6 +4,7 @@
 #include "foundation/menu/desktop/about_window.h"
 #include "foundation/register/desktop/register_entries.h"
 #include "output/mirrors/desktop/hours_entry.h"
+#include "personnel/documents/desktop/documents_entry.h"
 #include "personnel/employer/desktop/employer_entry.h"
 #include "personnel/leaves/desktop/leaves_entry.h"
 #include "personnel/payroll/desktop/folha_entry.h"
@@ -81,7 +82,11 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
                  openPayrollFacts(at, employer, parent, one);
              }})});
     add(employerEntries(at, employer));
-    add({planned("Pessoal", "documents", "documents", "Documentos")});
+    add({documentsEntry(at, {desk.writer,
+                             [at, folder = desk.programFolder] {
+                                 return templateFolders(at.session.folder, folder);
+                             },
+                             legal})});
     add({planned("Ferramentas", "labels", "labels", "Etiquetas")});
     add({planned("Ferramentas", "backup", "backup", "Cópia de Segurança")});
     add({restoreEntry(at, desk.copies)});

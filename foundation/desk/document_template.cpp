@@ -17,7 +17,7 @@ constexpr int kSmallestPoints = 6;
 constexpr int kLargestPoints = 40;
 constexpr int kUnderTitle = 6;  // millimetres
 constexpr int kUnderHeading = 1;
-constexpr int kUnderText = 2;
+constexpr int kUnderText = 3;
 constexpr int kSignatureMargin = 8;
 /// Tenths of a millimetre that an underscore of eleven points is wide.
 constexpr int kUnderscore = 22;
@@ -41,8 +41,9 @@ std::vector<std::string_view> cellsOf(std::string_view text) {
     return cells;
 }
 
+constexpr std::string_view kBreak = " // ";
+
 std::string withLineBreaks(std::string text) {
-    static constexpr std::string_view kBreak = " // ";
     for (std::size_t at = text.find(kBreak); at != std::string::npos; at = text.find(kBreak, at))
         text.replace(at, kBreak.size(), "\n");
     return text;
@@ -224,8 +225,10 @@ void Composer::put(std::variant<Paragraph, DocumentTable> block) {
 
 void Composer::endParagraph() {
     if (paragraph_.empty()) return;
-    add(std::exchange(paragraph_, {}),
-        {{}, Paragraph::Side::Justified, false, points_, false, kUnderText});
+    // A justified line would be stretched to its break.
+    const bool hasBreaks = paragraph_.find(kBreak) != std::string::npos;
+    const auto side = hasBreaks ? Paragraph::Side::Left : Paragraph::Side::Justified;
+    add(std::exchange(paragraph_, {}), {{}, side, false, points_, false, kUnderText});
 }
 
 void Composer::endTable() {

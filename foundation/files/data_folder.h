@@ -92,6 +92,8 @@ inline constexpr std::array<std::string_view, 3> kTerminationStems = {"TRTC", "T
 inline constexpr std::string_view kContractStem = "contrato";
 /// Stem of what the payroll needs of an employee besides.
 inline constexpr std::string_view kPayrollFactsStem = "FolhaDados";
+/// The papers of the employees, in the data folder.
+inline constexpr std::string_view kDocumentsSubfolder = "documentos";
 /// Stem of what was typed for an employee's papers.
 inline constexpr std::string_view kPaperInputsStem = "DadosDoc";
 /// Stem of a company's rotation groups.

@@ -5,6 +5,7 @@
 #include "foundation/values/text.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace winvrx {
@@ -161,11 +162,14 @@ void Menu::useFolder(const DataFolder& folder) {
 }
 
 void Menu::removeLeftovers(const std::filesystem::path& folder) {
-    if (!at_.files.hasLeftovers(folder)) return;
+    const std::array places = {folder, folder / kDocumentsSubfolder};
+    const auto hasLeftovers = [this](const auto& place) { return at_.files.hasLeftovers(place); };
+    if (std::none_of(places.begin(), places.end(), hasLeftovers)) return;
     try {
         const auto notNow = [](const LockHolder&) { return false; };
         const auto hold = at_.lock.take(folder, at_.clock.now(), notNow);
-        at_.files.removeLeftovers(folder);
+        for (const auto& place : places)
+            at_.files.removeLeftovers(place);
     } catch (const FolderInUse&) {
         // Another computer is writing these files; a later start looks again.
         return;

@@ -54,6 +54,20 @@ void Documentos::fill() {
                                     isFresh ? offered : memory.text(input.name).value_or(offered));
         }
     key_ = key;
+    loadAccountIfDue();
+}
+
+/// The figures take the cards of a year: only for a paper that names them.
+void Documentos::loadAccountIfDue() {
+    const bool isDue = kindOf(paper_).isOfTerminated && key_ && subject_.termination;
+    if (isDue && subject_.account.items.empty())
+        subject_.account =
+            loadAccount(at_.store(), desk_.legalFolder, key_->company, subject_.employee);
+}
+
+void Documentos::choose(Paper paper) {
+    paper_ = paper;
+    (void)attempt(at_, incorrectData(), [this] { loadAccountIfDue(); });
 }
 
 std::string Documentos::text(std::string_view input) const {
@@ -80,7 +94,9 @@ std::string Documentos::remark() const {
     if (paper_ == Paper::SalarioFamilia) return childrenRemark(texts_, today());
     const PaperKind& kind = kindOf(paper_);
     if (kind.terminationStem.empty() || !subject_.termination) return {};
-    return "Depois de impresso, o funcionário não pode mais ser reativado.";
+    const std::string bars = "Depois de impresso, o funcionário não pode mais ser reativado.";
+    const std::string& unknown = subject_.account.remark;
+    return kind.isOfTerminated && !unknown.empty() ? bars + " " + unknown : bars;
 }
 
 Document Documentos::composedPaper() const {
@@ -95,7 +111,7 @@ bool Documentos::confirmLeaving() {
 }
 
 std::filesystem::path documentsFolder(const DataFolder& folder) {
-    return folder.path() / "documentos";
+    return folder.path() / kDocumentsSubfolder;
 }
 
 std::vector<std::filesystem::path> templateFolders(const DataFolder& folder,

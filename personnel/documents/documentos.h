@@ -21,6 +21,7 @@ struct DocumentsDesk {
     WordProcessor& writer;
     /// Where the texts of the papers lie, the office's own first.
     std::function<std::vector<std::filesystem::path>()> templateFolders;
+    std::filesystem::path legalFolder;  ///< has the delivered tables, for a termination's figures
 };
 
 /// The documents screen: papers of the employees of the selected company, composed from the
@@ -45,7 +46,7 @@ class Documentos {
     [[nodiscard]] const Employee* selected() const;  ///< nullptr when there is none
     [[nodiscard]] std::optional<std::size_t> selectedPosition() const { return position_; }
 
-    void choose(Paper paper) { paper_ = paper; }
+    void choose(Paper paper);
     [[nodiscard]] Paper paper() const { return paper_; }
 
     [[nodiscard]] std::string text(std::string_view input) const;
@@ -74,6 +75,7 @@ class Documentos {
     using Send = void (Documentos::*)(const std::filesystem::path& file);
 
     void fill();
+    void loadAccountIfDue();
     [[nodiscard]] bool send(Send act);
     [[nodiscard]] bool requireSubject();
     [[nodiscard]] bool requireSoundInputs();

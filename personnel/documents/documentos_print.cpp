@@ -82,6 +82,7 @@ bool Documentos::requireSubject() {
         return false;
     // The records may have changed since the employee was selected.
     subject_ = loadSubject(at_.store(), key_.value(), *selected(), today());
+    loadAccountIfDue();
     if (!isOfTerminated || subject_.termination) return true;
     at_.person.tell(kNoTermination);
     return false;

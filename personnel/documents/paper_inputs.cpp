@@ -30,6 +30,11 @@ constexpr PaperInput number(std::string_view name, std::string_view caption, int
 constexpr PaperInput choice(std::string_view name, std::string_view caption, Choices (*choices)()) {
     return {name, caption, InputType::Choice, 40, choices};
 }
+/// One whose texts are short, and which stands beside another.
+constexpr PaperInput shortChoice(std::string_view name, std::string_view caption,
+                                 Choices (*choices)()) {
+    return {name, caption, InputType::Choice, 14, choices};
+}
 
 constexpr PaperInput kEntry = time("entrada", "Entrada");
 constexpr PaperInput kMealBegins = time("intervalo_inicio", "Início do intervalo");
@@ -40,10 +45,10 @@ constexpr PaperInput kFrom = date("vigencia", "Vale a partir de");
 constexpr PaperInput kUntil = date("vigencia_fim", "Vale até (em branco: sem prazo)");
 
 Choices forms() {
-    return {{"", "Não informado: o(a)"}, {"M", "Masculino"}, {"F", "Feminino"}};
+    return {{"", "Não informado"}, {"M", "Masculino"}, {"F", "Feminino"}};
 }
 Choices regimes() {
-    return {{"clt", "CLT"}, {"domestico", "Doméstico (LC 150/2015)"}};
+    return {{"clt", "CLT"}, {"domestico", "Doméstico (LC 150)"}};
 }
 Choices dismissals() {
     return {{"sem_justa_causa", "Dispensa sem justa causa"},
@@ -77,13 +82,13 @@ Choices absences() {
             {"desconto", "Com desconto das horas"}};
 }
 
-constexpr std::array kCommon = {choice("tratamento", "Tratamento", forms),
-                                choice("regime", "Regime", regimes),
+constexpr std::array kCommon = {shortChoice("tratamento", "Tratamento", forms),
+                                shortChoice("regime", "Regime", regimes),
                                 date("data", "Data do documento")};
 
 constexpr std::array kNotice = {
     choice("modalidade", "Modalidade", dismissals),
-    choice("tipo_aviso", "Tipo de aviso", notices),
+    shortChoice("tipo_aviso", "Tipo de aviso", notices),
     number("dias_aviso", "Dias de aviso", 0, 90),
     date("inicio_aviso", "Início do aviso"),
     date("fim_aviso", "Fim do aviso"),
@@ -99,7 +104,7 @@ constexpr std::array kTwelve = {kFrom,
                                 kUntil,
                                 time("entrada_12x36", "Entrada"),
                                 time("saida_12x36", "Saída"),
-                                choice("intervalo", "Intervalo para refeição", meals),
+                                shortChoice("intervalo", "Intervalo para refeição", meals),
                                 number("minutos_refeicao", "Minutos de intervalo", 30, 120)};
 constexpr std::array kCompensation = {choice("modalidade_compensacao", "Forma", compensations),
                                       kFrom,

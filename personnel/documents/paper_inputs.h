@@ -10,8 +10,8 @@
 #include <vector>
 
 // What each paper asks for beside the registers: its form. An input's name is its word in the
-// paper's text; a date has "<name>_extenso" too, and a choice a word "<name>_<code>" for each of
-// its codes, which holds "sim" for the one chosen.
+// paper's text; a date and an amount have "<name>_extenso" too, and a choice a word "<name>_<code>"
+// for each of its codes, which holds "sim" for the one chosen.
 
 namespace winvrx {
 

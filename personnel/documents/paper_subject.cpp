@@ -7,6 +7,7 @@
 #include "personnel/leaves/leave_form.h"
 #include "personnel/leaves/leave_types.h"
 #include "personnel/leaves/termination_dates.h"
+#include "personnel/payroll/settings_file.h"
 #include "timecard/month/selected_month.h"
 
 #include <array>
@@ -84,18 +85,6 @@ std::string hourOfRatification(const Subject& subject) {
     return isSaid ? subject.termination->homologation : std::string(kHomologationHour);
 }
 
-/// To be written beside by hand.
-constexpr std::array kUsualItems = {"Saldo de salário",
-                                    "Aviso prévio indenizado",
-                                    "13º salário proporcional",
-                                    "Férias vencidas",
-                                    "Férias proporcionais",
-                                    "1/3 constitucional de férias",
-                                    "Horas extras",
-                                    "Contribuição previdenciária",
-                                    "Imposto de renda",
-                                    "Outros"};
-
 constexpr std::array kUsual = {Usual{"reducao", "a_escolher"},
                                Usual{"cumprimento", "cumprir"},
                                Usual{"entrada_12x36", "07:00"},
@@ -115,11 +104,7 @@ constexpr std::array kUsual = {Usual{"reducao", "a_escolher"},
 
 const std::array kOffers = {
     Offer{"regime",
-          [](const Subject& s) -> std::string {
-              // A company has a CNPJ; who employs at home has a CPF.
-              const bool isPerson = checkCpf(s.company.taxId) == IdCheck::Valid;
-              return isPerson ? "domestico" : "clt";
-          }},
+          [](const Subject& s) { return std::string(s.isDomestic ? "domestico" : "clt"); }},
     Offer{"data", [](const Subject& s) { return dateText(s.today); }},
     Offer{"vigencia", [](const Subject& s) { return dateText(s.today); }},
     Offer{"dia_saida", [](const Subject& s) { return dateText(s.today); }},
@@ -168,14 +153,13 @@ const std::array kOffers = {
 PaperSubject loadSubject(const Store& store, const EmployeeKey& key, const Employee& employee,
                          Date today) {
     PaperSubject subject{loadCompany(store, key.company), employee, today, monthOf(today)};
+    // A company has a CNPJ; who employs at home has a CPF.
+    subject.isDomestic = loadPayrollSettings(store, key.company).settings.isDomesticEmployer ||
+                         checkCpf(subject.company.taxId) == IdCheck::Valid;
     if (const auto selected = loadSelectedMonth(store)) subject.month = selected->month;
     if (const auto schedule = loadSchedule(store, key)) subject.schedule = schedule->weekday;
     const LeaveFile leaves = loadLeaveFile(store, key);
-    if (const auto place = leaves.termination()) {
-        subject.termination = leaves.leaves[*place].record;
-        for (const char* item : kUsualItems)
-            subject.account.items.push_back({item});
-    }
+    if (const auto place = leaves.termination()) subject.termination = leaves.leaves[*place].record;
     return subject;
 }
 

@@ -6,6 +6,7 @@
 #include "foundation/register/leave_record.h"
 #include "timecard/schedule/standard_schedule.h"
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,10 +24,11 @@ struct PaidItem {
 
 /// What is paid at the end of a contract.
 struct FinalAccount {
-    std::vector<PaidItem> items;
+    std::vector<PaidItem> items = {};
     std::string credits = {};
     std::string debits = {};
     std::string net = {};
+    std::string remark = {};  ///< why the amounts are not known
 };
 
 /// What the records say of the employee whom a paper is about.
@@ -34,16 +36,21 @@ struct PaperSubject {
     Company company;
     Employee employee;
     Date today;
-    WorkMonth month;  ///< the one selected, else today's
+    WorkMonth month;          ///< the one selected, else today's
+    bool isDomestic = false;  ///< by the payroll's settings, or an employer with a CPF
     std::optional<DaySchedule> schedule = {};
     std::optional<Leave> termination = {};  ///< the last one on record
-    /// Of a termination; where the amounts are not known, to be written in by hand.
-    FinalAccount account = {};
+    FinalAccount account = {};              ///< of a termination, once it is loaded
 };
 
 /// Throws FileFault, and Fault when the company has no line.
 [[nodiscard]] PaperSubject loadSubject(const Store& store, const EmployeeKey& key,
                                        const Employee& employee, Date today);
+
+/// The termination's figures; where they cannot be computed, the usual items with nothing beside
+/// them, to be written in by hand. `legalFolder` has the delivered tables. Throws FileFault.
+[[nodiscard]] FinalAccount loadAccount(const Store& store, const std::filesystem::path& legalFolder,
+                                       const CompanyCode& company, const Employee& employee);
 
 /// What an input offers before anything is remembered: worked out from the records and from the
 /// law; empty where they say nothing. Dates of a recorded termination go before reckoned ones.

@@ -3,6 +3,7 @@
 #include "foundation/register/merge_fields.h"
 #include "foundation/values/money.h"
 #include "foundation/values/text.h"
+#include "personnel/contract/amount_in_words.h"
 #include "personnel/leaves/leave_types.h"
 
 #include <algorithm>
@@ -28,6 +29,10 @@ void putInput(MergeWords& words, const PaperInput& input, const std::string& tex
     if (input.type == InputType::Date) {
         const auto date = parseDate(text);
         words.put(name + "_extenso", date ? writtenDate(*date) : std::string());
+    }
+    if (input.type == InputType::Money) {
+        const auto amount = parseAmountForWords(text);
+        words.put(name + "_extenso", amount ? amountInProse(*amount) : std::string());
     }
     if (!input.choices) return;
     for (const Choice& choice : input.choices()) {

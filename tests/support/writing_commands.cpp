@@ -46,7 +46,7 @@ const std::vector<WritingCommand>& writingCommands() {
         for (const auto& part :
              {registerCommands(), listCommands(), menuCommands(), monthCommands(), cardCommands(),
               printCommands(), leaveCommands(), rotationCommands(), payrollCommands(),
-              contractCommands(), internetCommands()})
+              contractCommands(), internetCommands(), documentCommands()})
             all.insert(all.end(), part.begin(), part.end());
         return all;
     }();

@@ -39,6 +39,7 @@ void PrintTo(const WritingCommand& command, std::ostream* out);
 [[nodiscard]] std::vector<WritingCommand> payrollCommands();
 [[nodiscard]] std::vector<WritingCommand> contractCommands();
 [[nodiscard]] std::vector<WritingCommand> internetCommands();
+[[nodiscard]] std::vector<WritingCommand> documentCommands();
 
 [[nodiscard]] const std::vector<WritingCommand>& writingCommands();
 [[nodiscard]] const WritingCommand& writingCommand(const std::string& name);

@@ -75,7 +75,7 @@ TEST(DocumentTemplate, ComposesEachKindOfLine) {
                                   "Outra\n"};
     EXPECT_EQ(outline(composed(source, "T", someWords())),
               "C14b TÍTULO Vitória\nJ11 Eu, ANA {x} [y], declaro.\nL11b Um\nJ11 Sem RG\n"
-              "J11 Fim\nda linha\nC11 meio\nR11 direita\n"
+              "L11 Fim\nda linha\nC11 meio\nR11 direita\n"
               "|*Filho |*De |\n| BIA | ANA {x} [y] |\n| CAIO | ANA {x} [y] |\n| o(a) |  |\nL6 \n"
               "|. livre |\nL6 \nJ9p Outra\n");
     const Document signedBy = composed({"a.txt", "_ {nome} // EMPREGADA | B"}, "T", someWords());

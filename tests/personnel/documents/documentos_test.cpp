@@ -1,88 +1,21 @@
-#include "personnel/documents/documentos.h"
-
-#include "foundation/register/company_register.h"
-#include "personnel/leaves/leave_types.h"
-#include "tests/support/employees.h"
-#include "tests/support/leave_files.h"
-#include "tests/support/recording_word_processor.h"
-#include "tests/support/test_workplace.h"
+#include "tests/support/papers_desk.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
-
 namespace winvrx {
 namespace {
+
+using testing::PapersDesk;
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
-Leave dismissal() {
-    Leave leave = testing::leave(kLeaveTypes[7].data(), "15/03/2024", "14/04/2024");
-    leave.noticeGiven = "15/03/2024";
-    leave.noticeBegins = "16/03/2024";
-    leave.noticeEnds = "14/04/2024";
-    leave.lastWorked = "14/04/2024";
-    leave.paymentDue = "24/04/2024";
-    leave.terminationType = kTerminationTypes[0];
-    leave.noticeType = kNoticeTypes[0];
-    return leave;
-}
-
-/// A company with two employees: 001 with contract, and 002 with nothing in the register.
-struct PapersDesk : testing::TestWorkplace {
-    testing::RecordingWordProcessor writer;
-    Documentos screen{at, {writer, [] {
-                               return std::vector<std::filesystem::path>{"/data/documentos/modelos",
-                                                                         WINVRX_DOCUMENT_FOLDER};
-                           }}};
-
-    PapersDesk() {
-        for (const PaperKind& kind : paperKinds())
-            shipTemplate(std::string(kind.key) + ".txt");
-        Company company = sampleCompany(at.clock.today());
-        file(std::string(kCompanyRegisterName)) = encode(company) + "\r\n";
-        Employee one = testing::employee("001", "ANA MARIA DE SOUSA");
-        one.function = "PADEIRA";
-        one.taxId = "529.982.247-25";
-        one.workBooklet = "12345/001";
-        one.admission = "01/02/2020";
-        file("01CartaPonto") =
-            testing::employeeList({one, testing::employee("002", "JOSÉ DA SILVA")});
-        file("01contrato001") = "x";
-        file("01contrato002") = "x";
-        screen.load();
-        (void)screen.select(0);
-        person.shown.clear();
-    }
-
-    void shipTemplate(const std::string& name) {
-        std::ifstream source(std::string(WINVRX_DOCUMENT_FOLDER) + "/" + name);
-        files.content[std::string(WINVRX_DOCUMENT_FOLDER) + "/" + name] =
-            std::string(std::istreambuf_iterator<char>(source), {});
-    }
-    /// The text of the paper, cells and paragraphs in lines.
-    std::string textOf(Paper paper) {
-        screen.choose(paper);
-        return writer.fileOf(screen.composedPaper());
-    }
-    bool print(Paper paper, std::deque<Answer> answers = {Answer::Yes}) {
-        screen.choose(paper);
-        person.answers = std::move(answers);
-        return screen.print();
-    }
-    [[nodiscard]] std::string printed() const {
-        return files.content.at(writer.printedFiles.back());
-    }
-};
-
 TEST(Papers, AreWholeForEveryoneAndEveryRegime) {
     PapersDesk desk;
-    desk.file("01configAf001") = testing::leaveBytes({dismissal()});
-    desk.file("01configAf002") = testing::leaveBytes({dismissal()});
+    desk.file("01configAf001") = testing::leaveBytes({PapersDesk::dismissal()});
+    desk.file("01configAf002") = testing::leaveBytes({PapersDesk::dismissal()});
     for (const std::size_t employee : {1U, 0U})
         for (const char* form : {"", "M", "F"})
             for (const char* regime : {"clt", "domestico"})
@@ -153,7 +86,7 @@ TEST(Documentos, OffersWhatTheRecordsSay) {
     EXPECT_EQ(desk.screen.text("data"), "15/03/2024");
     EXPECT_EQ(desk.screen.text("dias_aviso"), "42");
     EXPECT_EQ(desk.screen.text("regime"), "clt");
-    desk.file("01configAf001") = testing::leaveBytes({dismissal()});
+    desk.file("01configAf001") = testing::leaveBytes({PapersDesk::dismissal()});
     desk.screen.load();
     EXPECT_EQ(desk.screen.text("fim_aviso"), "14/04/2024");
     EXPECT_EQ(desk.screen.text("pago_em"), "24/04/2024");
@@ -197,7 +130,8 @@ TEST(Documentos, RefusesAndLeavesEverythingAsItWas) {
     for (const Case& one : std::vector<Case>{
              {"inactive",
               [](PapersDesk& desk) {
-                  desk.file("01configAf001") = testing::leaveBytes({dismissal()}, "14/04/2024");
+                  desk.file("01configAf001") =
+                      testing::leaveBytes({PapersDesk::dismissal()}, "14/04/2024");
               },
               Paper::AvisoPrevio, "Este Funcionário Encontra-se Inativo!!"},
              {"contract", [](PapersDesk& desk) { desk.files.content.erase("/data/01contrato001"); },
@@ -242,9 +176,9 @@ TEST(Documentos, TerminationPapersBarTheReactivation) {
     PapersDesk desk;
     EXPECT_TRUE(desk.print(Paper::AvisoPrevio));
     EXPECT_FALSE(desk.files.exists("/data/01AviTRTC001")) << "no termination is on record";
-    desk.file("01configAf001") = testing::leaveBytes({dismissal()});
+    desk.file("01configAf001") = testing::leaveBytes({PapersDesk::dismissal()});
     EXPECT_TRUE(desk.print(Paper::AvisoPrevio, {Answer::Yes, Answer::No}));
-    desk.file("01configAf001") = testing::leaveBytes({dismissal()}, "14/04/2024");
+    desk.file("01configAf001") = testing::leaveBytes({PapersDesk::dismissal()}, "14/04/2024");
     EXPECT_TRUE(desk.print(Paper::TermoRescisao));
     EXPECT_TRUE(desk.print(Paper::TermoHomologacao));
     for (const char* name : {"01AviTRTC001", "01TRTC001", "01THRTC001"})

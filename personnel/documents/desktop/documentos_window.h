@@ -1,0 +1,63 @@
+#pragma once
+
+#include "foundation/widgets/desktop/screen_window.h"
+
+#include <QTimer>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+class QLabel;
+class QListWidget;
+class QTextBrowser;
+
+namespace winvrx {
+
+class Documentos;
+class EmployeePicker;
+class PaperForm;
+
+/// The window of the documents screen: employees at the left, the papers with the form of the one
+/// chosen, and its text as it will be printed at the right. `screen` outlives it.
+class DocumentosWindow : public ScreenWindow {
+    Q_OBJECT
+
+  public:
+    /// A screen that is opened from this one.
+    struct Neighbour {
+        QString icon;
+        QString text;
+        QKeySequence key;
+        QString objectName;
+        std::function<void(QWidget* parent)> open;
+    };
+
+    DocumentosWindow(Documentos& screen, const std::vector<Neighbour>& neighbours,
+                     QWidget* parent = nullptr);
+
+  protected:
+    bool mayClose() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void buildCommands(const std::vector<Neighbour>& neighbours);
+    [[nodiscard]] QWidget* buildEmployees();
+    [[nodiscard]] QWidget* buildPapers();
+    [[nodiscard]] QWidget* buildText();
+    void chooseEmployee(std::optional<std::size_t> position);
+    void choosePaper(int row);
+    void send(bool (Documentos::*command)());
+    void showEmployee();
+    void showText();
+
+    Documentos& screen_;
+    EmployeePicker* employees_ = nullptr;
+    QListWidget* papers_ = nullptr;
+    PaperForm* form_ = nullptr;
+    QTextBrowser* text_ = nullptr;
+    QLabel* remark_ = nullptr;
+    QTimer textDue_;  ///< the text follows the typing, at a pause
+};
+
+}  // namespace winvrx

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "personnel/documents/paper_inputs.h"
+
+#include <QWidget>
+
+#include <map>
+#include <string>
+
+class QVBoxLayout;
+
+namespace winvrx {
+
+class Documentos;
+class Field;
+
+/// The inputs of the paper chosen, one below the other; dates, times and numbers side by side.
+/// `screen` outlives the form.
+class PaperForm : public QWidget {
+    Q_OBJECT
+
+  public:
+    PaperForm(Documentos& screen, QWidget* parent);
+
+    /// Shows the inputs of the paper that the screen is on.
+    void showPaper();
+    /// Shows what the screen holds of them.
+    void refresh();
+    void focus(const std::string& input);
+    void focusFirst();
+    /// Takes what stands in the field with the focus as if it were left.
+    void finishTyping();
+
+  signals:
+    void edited();
+
+  private:
+    [[nodiscard]] Field* make(const PaperInput& input, QWidget* parent);
+
+    Documentos& screen_;
+    QVBoxLayout* column_;
+    QWidget* inputs_ = nullptr;
+    std::map<std::string, Field*> fields_;
+    std::string first_;
+};
+
+}  // namespace winvrx
