@@ -7,7 +7,7 @@
 #include "personnel/documents/desktop/documents_entry.h"
 #include "personnel/employer/desktop/employer_entry.h"
 #include "personnel/leaves/desktop/leaves_entry.h"
-#include "personnel/payroll/desktop/folha_entry.h"
+#include "personnel/payslips/desktop/payroll_entry.h"
 #include "personnel/termination/desktop/termination_entry.h"
 #include "timecard/card/desktop/time_card_entry.h"
 #include "timecard/month/desktop/month_entry.h"
@@ -73,7 +73,7 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
     add({rotationEntry(at, openRotation)});
     add({leavesEntry(at, leaves)});
     add({payrollEntry(
-        at, {legal,
+        at, {printing.engine, desk.writer, legal,
              [at, timeCard](QWidget* parent, const auto& one) {
                  openTimeCard(at, timeCard, parent, one);
              },

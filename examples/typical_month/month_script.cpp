@@ -28,6 +28,7 @@ struct Person {
     Text admission;
     Text shift;
     Text scale = "Normal"_t;
+    Text salary = {};
 };
 
 void registerCompany(Player& player) {
@@ -57,6 +58,7 @@ void registerPerson(Player& player, const Person& person) {
     player.type("empregados.admission"_t, person.admission);
     player.choose("empregados.shift"_t, person.shift);
     player.choose("empregados.scale"_t, person.scale);
+    if (!person.salary.isEmpty()) player.type("empregados.salary"_t, person.salary);
     player.openTab("empregados.tabs"_t, "Documentos"_t);
     player.type("empregados.workBooklet"_t, person.workBooklet);
     player.type("empregados.registration"_t, person.registration);
@@ -95,10 +97,10 @@ void registerEmployees(Player& player) {
     player.press(Qt::Key_F3);
     player.picture("funcionarios-vazio"_t);
     registerPerson(player, {"001"_t, "JOSÉ DA CONCEIÇÃO"_t, "PADEIRO"_t, "12345/00010-SP"_t,
-                            "00001"_t, "02/05/2019"_t, "Comercial"_t});
+                            "00001"_t, "02/05/2019"_t, "Comercial"_t, "Normal"_t, "2.640,00"_t});
     player.press(Qt::Key_Insert);
     registerPerson(player, {"002"_t, "ANA PAULA D'ÁVILA"_t, "BALCONISTA"_t, "67890/00022-SP"_t,
-                            "00002"_t, "12/03/2024"_t, "Comercial"_t});
+                            "00002"_t, "12/03/2024"_t, "Comercial"_t, "Normal"_t, "1.980,00"_t});
     player.press(Qt::Key_Insert);
     registerPerson(player, {"003"_t, "JOÃO BATISTA LIMA"_t, "VIGIA NOTURNO"_t, "24680/00031-SP"_t,
                             "00003"_t, "10/01/2022"_t, "Noite"_t});
@@ -335,6 +337,27 @@ void applyRotation(Player& player) {
     player.click("card.close"_t);
 }
 
+/// The month's pay of 001, then of everyone who can be paid.
+void recordPayroll(Player& player) {
+    player.click("menu.payroll.open"_t);
+    player.choose("folha.employees"_t, "001"_t);
+    player.choose("folha.events"_t, "DSR"_t);
+    player.picture("folha"_t);
+    player.press(Qt::CTRL | Qt::Key_S);
+    player.answer("Deseja Gravar Somente o FUNCIONARIO SELECIONADO?"_t, Answer::Yes);
+    player.picture("folha-gravada"_t);
+    player.click("folha.saveAll"_t);
+    player.answer("Confirma Gravar TODOS OS FUNCIONARIOS DA LISTA?"_t, Answer::Yes);
+    player.answer("Não Há Dados para Gravação! Deseja Prosseguir?"_t, Answer::Yes);
+    player.click("folha.overview"_t);
+    player.picture("visao-do-mes"_t);
+    player.click("visao.close"_t);
+    player.click("folha.catalogue"_t);
+    player.picture("eventos"_t);
+    player.click("eventos.close"_t);
+    player.click("folha.close"_t);
+}
+
 }  // namespace
 
 void writeMonth(Player& player) {
@@ -350,6 +373,7 @@ void writeMonth(Player& player) {
     registerPorters(player);
     planRotation(player);
     applyRotation(player);
+    recordPayroll(player);
 }
 
 }  // namespace winvrx

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/values/date.h"
+#include "foundation/values/money.h"
 
 #include <chrono>
 #include <functional>
@@ -19,11 +20,12 @@ struct Table {
 };
 
 /// A text, or a value that a spreadsheet can sort and reckon with. An empty text is a blank cell.
-using SheetCell = std::variant<std::string, Date, TimeOfDay, std::chrono::seconds>;
+using SheetCell = std::variant<std::string, Date, TimeOfDay, std::chrono::seconds, Money>;
 
 struct SheetColumn {
     std::string title;
-    bool summed = false;  ///< of durations: their sum stands below the last row, as a formula
+    bool summed =
+        false;  ///< of durations or amounts: their sum stands below the last row, as a formula
 };
 
 /// One sheet of a workbook: titles that stay in sight above rows of one cell a column.

@@ -1,6 +1,27 @@
 #include "foundation/register/company.h"
 
+#include "foundation/values/text.h"
+
 namespace winvrx {
+
+namespace {
+
+void putPart(std::string& text, std::string_view opening, std::string_view part) {
+    const auto shown = trimmed(part);
+    if (!shown.empty()) text.append(text.empty() ? "" : opening).append(shown);
+}
+
+}  // namespace
+
+std::string addressText(const Company& company) {
+    std::string text;
+    putPart(text, "", company.address);
+    putPart(text, " - ", company.district);
+    putPart(text, " - ", company.city);
+    putPart(text, "/", company.state);
+    putPart(text, " - CEP ", company.postalCode);
+    return text;
+}
 
 Company sampleCompany(Date today) {
     return {.code = "01",

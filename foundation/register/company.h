@@ -82,6 +82,9 @@ struct RecordLayout<Company> : LineLayout<kCompanyFields, kCompanyWidth> {};
     return CompanyCode::parse(company.code);
 }
 
+/// "RUA DAS FLORES, 10 - CENTRO - SÃO PAULO/SP - CEP 01310-100", without what is not on record.
+[[nodiscard]] std::string addressText(const Company& company);
+
 /// The company that a fresh register begins with; `today` becomes its record date.
 [[nodiscard]] Company sampleCompany(Date today);
 

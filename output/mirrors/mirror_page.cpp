@@ -37,21 +37,6 @@ std::vector<HourColumn> hourColumns(const OvertimeRules& rules) {
     return columns;
 }
 
-void putPart(std::string& text, std::string_view opening, std::string_view part) {
-    const auto shown = trimmed(part);
-    if (!shown.empty()) text.append(text.empty() ? "" : opening).append(shown);
-}
-
-std::string addressOf(const Company& company) {
-    std::string text;
-    putPart(text, "", company.address);
-    putPart(text, " - ", company.district);
-    putPart(text, " - ", company.city);
-    putPart(text, "/", company.state);
-    putPart(text, " - CEP ", company.postalCode);
-    return text;
-}
-
 std::string workingTimes(const MirrorSheet& sheet) {
     MergeWords words;
     putSchedule(words, sheet.schedule ? sheet.schedule->weekday : DaySchedule());
@@ -60,7 +45,7 @@ std::string workingTimes(const MirrorSheet& sheet) {
 
 ReportRow headerCells(const Company& company, const MirrorSheet& sheet) {
     MergeWords words = mergeWords(company, sheet.employee);
-    words.put("empresa_endereco", addressOf(company));
+    words.put("empresa_endereco", addressText(company));
     words.put("periodo", dateText(sheet.period.first) + " a " + dateText(sheet.period.last));
     words.put("jornada", workingTimes(sheet));
     ReportRow cells;

@@ -28,7 +28,10 @@ Message noSalary(const Employee& employee) {
 Message confirmSave(const OpenPayroll& payroll) {
     constexpr std::string_view kText = "Deseja Gravar Somente o FUNCIONARIO SELECIONADO?";
     if (!payroll.isRecorded) return question(kSaveTitle, std::string(kText));
-    return riskyQuestion(kSaveTitle, std::string(kText), "A folha já gravada será substituída.");
+    std::string detail = "A folha já gravada será substituída.";
+    for (const std::string& line : payroll.unread)
+        detail += "\nLinha não entendida, que se perde: " + line;
+    return riskyQuestion(kSaveTitle, std::string(kText), detail);
 }
 
 Message confirmReopen(const OpenPayroll& payroll) {
@@ -135,6 +138,7 @@ PayrollGlance Folha::glance(const Employee& employee, const FolderNames& names) 
         payroll.bytes = bytesOf(employee);
         if (auto recorded = loadPayroll(at_.store(), keyOf(employee), month_.month, run_)) {
             payroll.sheet = std::move(recorded->sheet);
+            payroll.unread = std::move(recorded->unread);
             payroll.isRecorded = true;
             if (lack == PayrollGlance::Lack::Nothing)
                 payroll.now = sheetOf(payroll, typedAmounts(payroll.sheet));

@@ -21,7 +21,8 @@ struct OpenPayroll {
     PayrollEvents events;
     PaySheet sheet;
     bool isRecorded = false;
-    std::optional<std::string> bytes;  ///< of the file as it was read; nullopt where none stood
+    std::optional<std::string> bytes;      ///< of the file as it was read; nullopt where none stood
+    std::vector<std::string> unread = {};  ///< its lines that say no event; recording drops them
     /// Of a recorded month: what it comes to now; nullopt where it cannot be computed any more.
     std::optional<PaySheet> now = {};
 };

@@ -110,6 +110,7 @@ std::string FolhaScreen::standing() const {
     if (!position_) return {};
     if (!shown) return std::string(textOf(lack_));
     if (folha_.isChanged()) return "Alterações não gravadas";
+    if (!shown->unread.empty()) return "⚠ Gravada com linhas não entendidas: " + shown->unread[0];
     if (!shown->isRecorded) return "Aberta: ainda não gravada";
     if (!hasMovedOn(*shown))
         return folha_.run() == PayrollRun::Month ? "Gravada: mês fechado para este funcionário"
@@ -137,8 +138,9 @@ std::vector<std::string> FolhaScreen::memo(std::size_t line) const {
 
 NamedAmounts FolhaScreen::figures() const {
     if (!folha_.shown()) return {};
-    const PaySheet& sheet = folha_.shown()->sheet;
-    return namedAmounts(sheet, sheetDues(folha_.law(), sheet, folha_.month().month));
+    const OpenPayroll& shown = *folha_.shown();
+    return namedAmounts(
+        shown.sheet, sheetDues(folha_.law(), shown.sheet, folha_.month().month, shown.month.facts));
 }
 
 Folha::Opening FolhaScreen::compute() {

@@ -14,13 +14,15 @@ Reckoning together(const Reckoning& one, const Reckoning& other) {
 
 }  // namespace
 
-SheetDues sheetDues(const PayrollLaw& law, const PaySheet& sheet, WorkMonth month) {
+SheetDues sheetDues(const PayrollLaw& law, const PaySheet& sheet, WorkMonth month,
+                    const PayrollFacts& facts) {
     if (law.settings.isDomesticEmployer) {
         DomesticGuide guide = domesticGuide(law, sheet.base, month);
         return {together(guide.fgts, guide.reserve), together(guide.employer, guide.accident),
                 std::move(guide)};
     }
-    SheetDues dues{fgts(law, sheet.fgtsBase), {}};
+    const FgtsRate rate = facts.isApprentice ? FgtsRate::Apprentice : FgtsRate::Usual;
+    SheetDues dues{fgts(law, sheet.fgtsBase, rate), {}};
     if (law.settings.employerInss == EmployerInss::Percent)
         dues.employerInss =
             Sum(sheet.fgtsBase).percent(kEmployerPercent).rounded("INSS do empregador");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "personnel/payroll/pay_sheet.h"
+#include "personnel/payroll/payroll_facts.h"
 
 #include <string>
 #include <utility>
@@ -15,7 +16,8 @@ struct SheetDues {
     Reckoning employerInss;  ///< of a domestic employer with the insurance of 0,8%
     std::optional<DomesticGuide> guide = {};
 };
-[[nodiscard]] SheetDues sheetDues(const PayrollLaw& law, const PaySheet& sheet, WorkMonth month);
+[[nodiscard]] SheetDues sheetDues(const PayrollLaw& law, const PaySheet& sheet, WorkMonth month,
+                                  const PayrollFacts& facts);
 
 /// Bases and dues under their names, for a list.
 using NamedAmounts = std::vector<std::pair<std::string, Money>>;

@@ -109,6 +109,13 @@ std::vector<WritingCommand> payrollCommands() {
          ofSecond([](Folha& screen) { return screen.reopen(); })},
         {"include event", payingOffice(),
          inEvents({}, [=](Eventos& screen) { return screen.includeNew(commission); })},
+        {"change event", payingOffice(),
+         inEvents({},
+                  [](Eventos& screen) {
+                      PayrollEvent salary = screen.lines().at(0).record;
+                      salary.reference = "200";
+                      return screen.change(0, salary);
+                  })},
         {"delete event", payingOffice(),
          inEvents({}, [](Eventos& screen) { return screen.remove(0); })},
         {"restore events", payingOffice(),

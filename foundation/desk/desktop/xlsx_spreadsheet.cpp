@@ -19,6 +19,9 @@ constexpr std::size_t kWidestColumn = 50;  // characters
 constexpr std::size_t kValueWidth = 10;    // of a date, the widest of what is no text
 constexpr lxw_row_t kRowsBetween = 1000;   // two questions whether to go on
 
+constexpr double kCents = 100;  // of a real
+constexpr const char* kAmount = "#,##0.00";
+
 /// The day that spreadsheets count as 0.
 constexpr std::chrono::sys_days kDayZero{std::chrono::December / 30 / 1899};
 
@@ -45,17 +48,21 @@ struct Formats {
           date(formatOf(book, "dd/mm/yyyy", false)),
           time(formatOf(book, "hh:mm", false)),
           duration(formatOf(book, durationPattern(decimalHours), false)),
-          sum(formatOf(book, durationPattern(decimalHours), true)) {}
+          durationSum(formatOf(book, durationPattern(decimalHours), true)),
+          money(formatOf(book, kAmount, false)),
+          moneySum(formatOf(book, kAmount, true)) {}
 
     static const char* durationPattern(bool decimalHours) {
-        return decimalHours ? "#,##0.00" : "[hh]:mm";
+        return decimalHours ? kAmount : "[hh]:mm";
     }
 
     lxw_format& bold;
     lxw_format& date;
     lxw_format& time;
     lxw_format& duration;
-    lxw_format& sum;
+    lxw_format& durationSum;
+    lxw_format& money;
+    lxw_format& moneySum;
 };
 
 class SheetWriter {
@@ -111,6 +118,8 @@ class SheetWriter {
             number(Days(std::chrono::sys_days(*date) - kDayZero).count(), formats_.date);
         } else if (const auto* time = std::get_if<TimeOfDay>(&cell)) {
             number(Days(time->sinceMidnight).count(), formats_.time);
+        } else if (const auto* money = std::get_if<Money>(&cell)) {
+            number(static_cast<double>(money->cents) / kCents, formats_.money);
         } else {
             number(numberOf(std::get<std::chrono::seconds>(cell)), formats_.duration);
         }
@@ -119,15 +128,23 @@ class SheetWriter {
     /// With its value, for programs that do not reckon before they are asked.
     void writeSum(lxw_col_t column) {
         std::chrono::seconds sum{0};
+        Money total;
+        bool isMoney = false;
         for (const auto& row : sheet_.rows)
-            if (const auto* duration = std::get_if<std::chrono::seconds>(&row[column]))
+            if (const auto* duration = std::get_if<std::chrono::seconds>(&row[column])) {
                 sum += *duration;
+            } else if (const auto* money = std::get_if<Money>(&row[column])) {
+                total.cents += money->cents;
+                isMoney = true;
+            }
         std::array<char, LXW_MAX_CELL_RANGE_LENGTH> range{};
         lxw_rowcol_to_range(range.data(), 1, column, rows(), column);
         // 109: the sum of what the filter shows.
         const std::string formula = "=SUBTOTAL(109," + std::string(range.data()) + ")";
-        require(worksheet_write_formula_num(&to_, rows() + 1, column, formula.c_str(),
-                                            &formats_.sum, numberOf(sum)));
+        require(worksheet_write_formula_num(
+            &to_, rows() + 1, column, formula.c_str(),
+            isMoney ? &formats_.moneySum : &formats_.durationSum,
+            isMoney ? static_cast<double>(total.cents) / kCents : numberOf(sum)));
     }
 
     void fit(lxw_col_t column) {

@@ -10,6 +10,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
 #include <QToolButton>
@@ -167,12 +168,43 @@ void FolhaWindow::buildCommands() {
             &QToolButton::clicked, this, [this] {
                 if (screen_.confirmLeaving()) emit factsRequested();
             });
+    connect(command("month", QStringLiteral("Visão do Mês"), Qt::Key_F4, "overview"),
+            &QToolButton::clicked, this, [this] {
+                if (screen_.isOpen() && screen_.confirmLeaving()) emit overviewRequested();
+            });
+    buildPapers();
     connect(command("search", QStringLiteral("Memória"), Qt::Key_F3, "explain"),
             &QToolButton::clicked, this, [this] { sheet_->focusMemo(); });
     reopen_ = command("restore", QStringLiteral("Reabrir Mês"), Qt::Key_F9, "reopen");
     connect(reopen_, &QToolButton::clicked, this, [this] {
         if (screen_.reopen()) refresh();
     });
+}
+
+void FolhaWindow::buildPapers() {
+    QToolButton* print = command("print", QStringLiteral("Imprimir"), QKeySequence::Print, "print");
+    auto* papers = new QMenu(print);
+    const auto add = [&](const char* text, const QKeySequence& key, const char* name,
+                         FolhaPaper paper) {
+        QAction* action = papers->addAction(QString::fromUtf8(text));
+        action->setObjectName(QStringLiteral("folha.print.") + QLatin1String(name));
+        action->setShortcut(key);
+        addAction(action);
+        connect(action, &QAction::triggered, this, [this, paper] {
+            if (screen_.isOpen()) emit paperRequested(paper);
+        });
+    };
+    add("&Folha de Pagamento", {}, "payroll", FolhaPaper::Payroll);
+    add("Recibos de &Todos (dois por folha)", Qt::CTRL | Qt::Key_T, "slips", FolhaPaper::PaySlips);
+    add("&Recibo de Pagamento", Qt::CTRL | Qt::Key_R, "receipt", FolhaPaper::Receipt);
+    add("Recibo com &Memória de Cálculo", {}, "memos", FolhaPaper::ReceiptWithMemos);
+    add("Recibo de &Adiantamento", {}, "advance", FolhaPaper::Advance);
+    connect(print, &QToolButton::clicked, this,
+            [print, papers] { papers->popup(print->mapToGlobal(QPoint(0, print->height()))); });
+}
+
+void FolhaWindow::turnTo(const std::string& code) {
+    if (const auto position = screen_.list().positionOf(code)) choose(*position);
 }
 
 void FolhaWindow::buildClosingButtons() {

@@ -13,6 +13,9 @@ namespace winvrx {
 class EmployeePicker;
 class PaySheetPanel;
 
+/// What the payroll's window asks to be printed.
+enum class FolhaPaper { Payroll, PaySlips, Receipt, ReceiptWithMemos, Advance };
+
 /// The payroll's window: employees at the left, the events of the one in hand in the middle, hours
 /// and bases at the right. `screen` outlives it.
 class FolhaWindow : public ScreenWindow {
@@ -23,6 +26,8 @@ class FolhaWindow : public ScreenWindow {
 
     /// Shows again what the screen holds.
     void refresh();
+    /// Turns to the employee, where the list has him.
+    void turnTo(const std::string& code);
 
   signals:
     /// Whoever listens shows it, opens the screen again and refreshes this window.
@@ -34,6 +39,9 @@ class FolhaWindow : public ScreenWindow {
     void factsRequested();
     /// The events of the company or, with `own`, of the employee in hand.
     void eventsRequested(bool own);
+    /// The whole month in one view.
+    void overviewRequested();
+    void paperRequested(winvrx::FolhaPaper paper);
 
   protected:
     bool mayClose() override;
@@ -44,6 +52,7 @@ class FolhaWindow : public ScreenWindow {
     [[nodiscard]] QWidget* buildRuns(QWidget* parent);
     [[nodiscard]] QWidget* buildFigures();
     void buildCommands();
+    void buildPapers();
     void buildClosingButtons();
     QToolButton* command(const char* icon, const QString& text, const QKeySequence& key,
                          const char* name);

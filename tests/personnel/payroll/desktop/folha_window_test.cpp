@@ -1,6 +1,7 @@
 #include "personnel/payroll/desktop/folha_window.h"
 
 #include "foundation/values/text.h"
+#include "personnel/leaves/afastamento.h"
 #include "personnel/payroll/desktop/eventos_window.h"
 #include "personnel/payroll/eventos.h"
 #include "tests/support/payroll_office.h"
@@ -126,6 +127,27 @@ TEST_F(FolhaWindowTest, SaysWhatKeepsAMonthFromBeingComputed) {
     press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(office.isRecorded("001") && office.isRecorded("002"));
     EXPECT_FALSE(office.isRecorded("003") || office.isRecorded("004"));
+}
+
+TEST_F(FolhaWindowTest, APayrollRecordedElsewhereClosesTheLeavesThatAreOpenHere) {
+    const RecordedAnswers records(office.store());
+    Afastamento leaves(office.at, records);
+    ASSERT_TRUE(leaves.open() && leaves.select(0));
+    for (const auto& [input, text] :
+         {std::pair(LeaveInput::Type, "007"), std::pair(LeaveInput::FirstDay, "11/03/2026"),
+          std::pair(LeaveInput::Days, "1")})
+        leaves.form().type(input, text);
+    FolhaScreen elsewhere(office.at, PayrollOffice::kLegal);
+    ASSERT_TRUE(elsewhere.open() && elsewhere.select(0));
+    office.person.answers = {Yes, Yes, Yes};
+    ASSERT_TRUE(elsewhere.save());
+    const auto before = office.files.content;
+    EXPECT_FALSE(leaves.add());
+    EXPECT_THAT(office.person.takeTexts().back(), HasSubstr("Já Foi Gerada a Folha de Pagamento"));
+    EXPECT_EQ(office.files.content, before);
+    office.person.answers = {Yes, Yes};
+    ASSERT_TRUE(elsewhere.reopen());
+    EXPECT_TRUE(leaves.add());
 }
 
 TEST_F(FolhaWindowTest, AsksForTheMonthFirst) {

@@ -9,8 +9,13 @@
 
 namespace winvrx {
 
+class ReportEngine;
+class WordProcessor;
+
 /// What the payroll works with beside the workplace. All outlive the entry.
 struct PayrollDesk {
+    ReportEngine& engine;
+    WordProcessor& writer;
     std::filesystem::path legalFolder;  ///< of the delivered tables
     /// Returns when the time card of the employee is closed.
     std::function<void(QWidget* parent, const std::optional<EmployeeCode>& inHand)> openTimeCard;

@@ -1,9 +1,14 @@
-#include "personnel/payroll/desktop/folha_entry.h"
+#include "personnel/payslips/desktop/payroll_entry.h"
 
+#include "foundation/desk/desktop/xlsx_spreadsheet.h"
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/progress.h"
 #include "personnel/payroll/desktop/eventos_window.h"
+#include "personnel/payroll/desktop/folha_visao_window.h"
 #include "personnel/payroll/desktop/folha_window.h"
 #include "personnel/payroll/eventos.h"
+#include "personnel/payroll/payroll_overview.h"
+#include "personnel/payslips/folha_papers.h"
 #include "timecard/month/desktop/month_entry.h"
 
 namespace winvrx {
@@ -18,6 +23,44 @@ void openEvents(const Workplace& at, const FolhaScreen& screen, bool own, QWidge
                   one ? toQt(one->code + " " + one->name) : toQt(company.code + " " + company.name),
                   parent)
         .exec();
+}
+
+void openOverview(const Workplace& at, const FolhaScreen& screen, FolhaWindow& window) {
+    XlsxSpreadsheet spreadsheet;
+    FolhaVisao view(at, screen, spreadsheet);
+    {
+        Progress progress({.objectName = QStringLiteral("visao.progress"),
+                           .title = QStringLiteral("Visão do Mês"),
+                           .step = QStringLiteral("Funcionário %1 de %2")},
+                          &window);
+        if (!view.load([&](int done, int total) { return progress.show(done, total); })) return;
+    }
+    const Company& company = screen.company();
+    FolhaVisaoWindow shown(
+        view,
+        {toQt(company.code + " " + company.name), toQt(monthTitle(screen.folha().month().month))},
+        &window);
+    shown.exec();
+    if (shown.chosen()) window.turnTo(*shown.chosen());
+}
+
+void print(FolhaPapers& papers, FolhaPaper paper, QWidget* over) {
+    Progress shown({.objectName = QStringLiteral("folha.printing"),
+                    .title = QStringLiteral("IMPRIMINDO"),
+                    .step = QStringLiteral("Folha %1 de %2")},
+                   over);
+    const PageProgress progress = [&](int done, int total) { return shown.show(done, total); };
+    switch (paper) {
+        case FolhaPaper::Payroll:
+            return (void)papers.printPayroll(progress);
+        case FolhaPaper::PaySlips:
+            return (void)papers.printSlips(progress);
+        case FolhaPaper::Receipt:
+        case FolhaPaper::ReceiptWithMemos:
+            return (void)papers.showReceipt(paper == FolhaPaper::ReceiptWithMemos);
+        case FolhaPaper::Advance:
+            return (void)papers.showAdvance();
+    }
 }
 
 }  // namespace
@@ -52,6 +95,11 @@ void openPayroll(const Workplace& at, const PayrollDesk& desk, QWidget* parent) 
         openEvents(at, screen, own, &window);
         comeBack();
     });
+    QObject::connect(&window, &FolhaWindow::overviewRequested, &window,
+                     [&] { openOverview(at, screen, window); });
+    FolhaPapers papers(at, {desk.engine, desk.writer}, screen);
+    QObject::connect(&window, &FolhaWindow::paperRequested, &window,
+                     [&](FolhaPaper paper) { print(papers, paper, &window); });
     window.exec();
 }
 
