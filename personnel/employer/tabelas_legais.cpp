@@ -177,12 +177,9 @@ bool TabelasLegais::save(std::size_t kind, const std::vector<std::string>& cells
         at_.person.tell(refused("Aspas, ponto e vírgula e tabulação não entram em uma coluna."));
         return false;
     }
-    return attempt(at_, refused({}), [&] {
-        const std::string heading = lineText(headings(kind), ';') + "\r\n";
-        const std::string bytes = withLine(tables_.at(kind).own.value_or(heading),
-                                           typed.from.value_or(Date{}), typed.cells);
-        LegalTables tried;
-        addLegalLines(tried, kKinds[kind].file, bytes);
+    return attempt(at_, incorrectData(), [&] {
+        const auto bytes = understood(kind, typed);
+        if (!bytes) return false;
         std::string detail = lineText(typed.cells, ';');
         for (const std::string& doubt : doubts(kind, typed))
             detail += "\n" + doubt;
@@ -190,9 +187,24 @@ bool TabelasLegais::save(std::size_t kind, const std::vector<std::string>& cells
                 question(kLegalTitle, "Confirma Gravar esta Linha da Tabela?", std::move(detail))))
             return false;
         const auto hold = holdFolder(at_);
-        replaceOwn(kind, bytes);
+        replaceOwn(kind, *bytes);
         return true;
     });
+}
+
+std::optional<std::string> TabelasLegais::understood(std::size_t kind,
+                                                     const LegalRow& typed) const {
+    try {
+        const std::string heading = lineText(headings(kind), ';') + "\r\n";
+        std::string bytes =
+            withLine(tables_[kind].own.value_or(heading), typed.from.value_or(Date{}), typed.cells);
+        LegalTables tried;
+        addLegalLines(tried, kKinds[kind].file, bytes);
+        return bytes;
+    } catch (const Fault& fault) {
+        at_.person.tell(refused(fault.explanation()));
+        return std::nullopt;
+    }
 }
 
 bool TabelasLegais::remove(std::size_t kind, std::size_t row) {

@@ -78,6 +78,9 @@ class TabelasLegais {
     void read();
     [[nodiscard]] std::filesystem::path ownFile(std::size_t kind) const;
     [[nodiscard]] std::vector<std::string> doubts(std::size_t kind, const LegalRow& typed) const;
+    /// The user's file with the line; nullopt, and told, where it is none of the kind.
+    [[nodiscard]] std::optional<std::string> understood(std::size_t kind,
+                                                        const LegalRow& typed) const;
     void replaceOwn(std::size_t kind, const std::string& bytes);
 
     Workplace at_;

@@ -33,7 +33,9 @@ FileTable payingOffice() {
     file("01003-03-2024.bdx") = file("01002-03-2024.bdx");
     file("01confgger") = "001 SALARIO BASE         1220,01111000\r\nnota\r\n";
     file("salario-minimo.txt") = "desde; valor\n01/2024; 1.412,00; A\n";
-    file("inss.txt") = "desde; até\n01/2024; 1.412,00; 7,5; 7.786,02; 9; A\n";
+    file("inss.txt") =
+        "desde; até\n01/2023; 1.302,00; 7,5; 7.507,49; 9; A\n01/2024; 1.412,00; 7,5; 7.786,02; 9; "
+        "A\n";
     file("salario-familia.txt") = "desde; cota\n01/2024; 62,04; 1.819,26; A\n";
     file("irrf-tabela.txt") = "desde; isento\n01/01/2024; 2.259,20; 27,5; 621,28; A\n";
     file("irrf-dependente.txt") = "desde; valor\n01/01/2024; 189,59; A\n";

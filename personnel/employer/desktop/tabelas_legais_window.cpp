@@ -23,8 +23,8 @@ namespace {
 constexpr int kFieldsARow = 5;
 constexpr std::size_t kFigureWidth = 14;
 constexpr std::size_t kSourceWidth = 120;
-/// The source takes a row of its own.
-constexpr int kKindCharacters = 34;
+constexpr int kKindCharacters = 36;
+constexpr int kLinesInSight = 12;
 
 QString capitalised(const std::string& heading) {
     QString text = toQt(heading);
@@ -59,7 +59,7 @@ QWidget* TabelasLegaisWindow::buildKinds(QWidget* parent) {
     look::name(*kinds_, QStringLiteral("tabelas.kinds"), QStringLiteral("Tabelas"));
     for (const LegalKind& one : legalKinds())
         kinds_->addItem(toQt(one.title));
-    kinds_->setMinimumWidth(kinds_->fontMetrics().averageCharWidth() * kKindCharacters);
+    part->setFixedWidth(kinds_->fontMetrics().averageCharWidth() * kKindCharacters);
     column->addWidget(kinds_, 1);
     connect(kinds_, &QListWidget::currentRowChanged, this, &TabelasLegaisWindow::chooseKind);
     warnings_ = look::label(QString(), look::TextSize::Hint, part);
@@ -79,6 +79,7 @@ QWidget* TabelasLegaisWindow::buildLines(QWidget* parent) {
     column->addWidget(validity_);
     lines_ =
         look::table(QStringLiteral("tabelas.lines"), QStringLiteral("Linhas da tabela"), {}, part);
+    lines_->setMinimumHeight(lines_->fontMetrics().height() * kLinesInSight);
     column->addWidget(lines_, 1);
     connect(lines_, &QTreeWidget::itemSelectionChanged, this, &TabelasLegaisWindow::chooseLine);
     column->addWidget(look::heading(QStringLiteral("Linha"), part));
@@ -184,6 +185,8 @@ void TabelasLegaisWindow::buildFields() {
         else
             cells_->addWidget(field, place / kFieldsARow, place % kFieldsARow);
         field->input()->setProperty("lastField", isSource);
+        field->input()->setMinimumWidth(fontMetrics().averageCharWidth() *
+                                        static_cast<int>(kFigureWidth));
         fields_.push_back(field);
     }
 }

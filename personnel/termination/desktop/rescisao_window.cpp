@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -17,6 +18,9 @@ namespace {
 
 enum Column { kWords, kQuantity, kCredit, kDebit, kColumns };
 constexpr int kTermCharacters = 44;
+constexpr int kLinesInSight = 12;
+constexpr int kLineCharacters = 80;
+constexpr int kMemoLines = 6;
 
 QString amountText(Money amount) {
     return toQt(moneyText(amount));
@@ -30,7 +34,10 @@ RescisaoWindow::RescisaoWindow(const Rescisao& command, QWidget* parent)
     auto* row = new QHBoxLayout(body);
     look::layOutBody(*row);
     row->setSpacing(look::kGroupGap);
-    row->addWidget(look::scrolled(buildTerms(body), body));
+    auto* terms = look::scrolled(buildTerms(body), body);
+    terms->setFixedWidth(fontMetrics().averageCharWidth() * kTermCharacters);
+    terms->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    row->addWidget(terms);
     row->addWidget(buildLines(body), 1);
     setBody(body);
     buildCommands();
@@ -46,7 +53,6 @@ QWidget* RescisaoWindow::buildTerms(QWidget* parent) {
     auto* part = new QWidget(parent);
     auto* column = new QVBoxLayout(part);
     look::layOutPart(*column);
-    part->setMinimumWidth(part->fontMetrics().averageCharWidth() * kTermCharacters);
     column->addWidget(look::heading(QStringLiteral("Rescisão registrada"), part));
     const auto add = [&](const std::string& text, look::TextSize size) {
         QLabel* label = look::label(toQt(text), size, part);
@@ -73,6 +79,8 @@ QWidget* RescisaoWindow::buildLines(QWidget* parent) {
                           QStringLiteral("Créditos (R$)"), QStringLiteral("Descontos (R$)")},
                          part);
     lines_->header()->setSectionResizeMode(kWords, QHeaderView::Stretch);
+    lines_->setMinimumSize(lines_->fontMetrics().averageCharWidth() * kLineCharacters,
+                           lines_->fontMetrics().height() * kLinesInSight);
     addLines(command_.sheet()->credits, "", kCredit);
     addLines(command_.sheet()->debits, "", kDebit);
     addTotals();
@@ -85,7 +93,7 @@ QWidget* RescisaoWindow::buildLines(QWidget* parent) {
     look::name(*memo_, QStringLiteral("rescisao.memo"), QStringLiteral("Memória de cálculo"));
     memo_->setWordWrap(true);
     memo_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    memo_->setMinimumHeight(memo_->fontMetrics().height() * 6);
+    memo_->setMinimumHeight(memo_->fontMetrics().height() * kMemoLines);
     memo_->setAlignment(Qt::AlignTop);
     column->addWidget(memo_);
     connect(lines_, &QTreeWidget::currentItemChanged, this, &RescisaoWindow::showMemo);

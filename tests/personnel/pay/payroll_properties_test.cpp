@@ -1,6 +1,8 @@
 // What holds of every payroll, tried on random figures; the seed is printed with each run.
 #include "personnel/pay/inss.h"
 #include "personnel/pay/month_pay.h"
+#include "personnel/pay/risk_pay.h"
+#include "personnel/pay/termination_pay.h"
 #include "personnel/vacation/vacation_pay.h"
 #include "tests/support/legal_tables.h"
 
@@ -123,6 +125,73 @@ TEST_F(PayrollProperties, AMonthSplitByAnAdmissionNeverExceedsTheWhole) {
         EXPECT_EQ(
             partialSalary(salary, {firstDay(when), lastDay(when), daysIn(when)}, method).amount,
             Money{});
+    }
+}
+
+TEST_F(PayrollProperties, TheEndOfAContractAddsUpHoweverItComes) {
+    for (int i = 0; i < kTries; ++i) {
+        const PayrollSettings chosen = settings();
+        const PayrollLaw law{tables_, chosen};
+        TerminationCase end{.type = static_cast<TerminationType>(1 + upTo(5)),
+                            .notice = static_cast<NoticeType>(1 + upTo(1)),
+                            .admission = plusDays(2015y / 1 / 1, upTo(3000)),
+                            .given = plusDays(2023y / 6 / 1, upTo(1200))};
+        end.salary = pay();
+        end.monthsPay = {upTo(1) == 0 ? upTo(200000) : -upTo(2000000)};
+        end.thirteenthPaid = {upTo(100000)};
+        end.overduePeriods = upTo(2);
+        end.fgtsAccount = pay();
+        const TerminationPay once = terminationPay(law, end);
+        SCOPED_TRACE(std::to_string(static_cast<int>(end.type)) + " " + dateText(end.admission) +
+                     " " + dateText(end.given) + " " + moneyText(end.salary));
+        EXPECT_EQ(once.net, once.gross - once.deductions);
+        EXPECT_EQ(once.net, terminationPay(law, end).net);
+        EXPECT_LE(once.balance.amount, end.salary);
+        EXPECT_GE(once.inssBalance.amount, Money{});
+        EXPECT_LE(once.dates.lastDayWorked.value, once.dates.noticeEnds.value);
+        // An agreement never gives more than the employer's decision alone.
+        if (end.type != TerminationType::WithoutCause) continue;
+        end.type = TerminationType::Agreement;
+        const TerminationPay agreed = terminationPay(law, end);
+        EXPECT_LE(agreed.gross, once.gross);
+        EXPECT_LE(agreed.fgtsFine.amount, once.fgtsFine.amount);
+    }
+}
+
+TEST_F(PayrollProperties, EachTableHoldsFromItsDayOn) {
+    const PayrollSettings usual;
+    const PayrollLaw law{tables_, usual};
+    const auto& wages = tables_.minimumWage.lines();
+    for (std::size_t at = 1; at < wages.size(); ++at) {
+        const WorkMonth month = monthOf(wages[at].from);
+        const WorkMonth before = month - std::chrono::months{1};
+        SCOPED_TRACE(monthKey(month));
+        EXPECT_EQ(unhealthyPay(law, 100, {}, month).amount, wages[at].amount);
+        EXPECT_EQ(unhealthyPay(law, 100, {}, before).amount, wages[at - 1].amount);
+    }
+    const auto& contributions = tables_.inss.lines();
+    for (std::size_t at = 1; at < contributions.size(); ++at) {
+        const auto most = [&](std::size_t table, WorkMonth month) {
+            SCOPED_TRACE(monthKey(month));
+            const Money ceiling = contributions[table].ceiling();
+            EXPECT_EQ(inss(law, {kHighestPay}, month).amount, inss(law, ceiling, month).amount);
+            EXPECT_LT(inss(law, ceiling - Money{100}, month).amount,
+                      inss(law, ceiling, month).amount);
+        };
+        const WorkMonth month = monthOf(contributions[at].from);
+        most(at, month);
+        most(at - 1, month - std::chrono::months{1});
+    }
+    const auto& taxes = tables_.incomeTax.lines();
+    for (std::size_t at = 1; at < taxes.size(); ++at) {
+        // One real past what the later table exempts is taxed by it, and by no table before it.
+        const auto due = [&](Date paid, std::size_t table) {
+            return incomeTax(law, {.income = taxes[table].brackets.front().top, .paid = paid}).due;
+        };
+        SCOPED_TRACE(dateText(taxes[at].from));
+        EXPECT_EQ(due(taxes[at].from, at), Money{});
+        EXPECT_EQ(due(plusDays(taxes[at].from, -1), at - 1), Money{});
+        EXPECT_LE(due(taxes[at].from, at - 1), due(plusDays(taxes[at].from, -1), at));
     }
 }
 

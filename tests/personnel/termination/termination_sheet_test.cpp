@@ -141,6 +141,31 @@ TEST_F(TerminationSheetTest, TakesWhatTheRecordsSay) {
     EXPECT_EQ(computed.remarks.size(), 2U);
 }
 
+TEST_F(TerminationSheetTest, TakesTheLastMonthsCardAndTheAveragesOfTheYear) {
+    record(1, 2);
+    say({"ferias-vencidas = 0", "vale-dia = 10,00"});
+    file("01PadrHor001.pdx") = "08:0016:00";
+    // Two hours of overtime on one day of each month, the last days of June after the end.
+    for (const WorkMonth month : {std::chrono::year{2026} / 4, std::chrono::year{2026} / 6}) {
+        file("01001-" + monthKey(month) + ".bdx") = "  \r\n" + dayLabel(month / 8) +
+                                                    "08:0018:00\r\n" + dayLabel(month / 9) +
+                                                    "08:0016:00\r\n";
+    }
+    file("01fp0000104-2026.bdx") = "001 SALARIO BASE         1220,01111000 3.000,00\r\n";
+    const TerminationSheet computed = sheet();
+    const auto amountOf = [&](std::string_view words) {
+        for (const auto* lines : {&computed.credits, &computed.debits})
+            for (const TerminationLine& line : *lines)
+                if (line.words == words) return line.amount;
+        return Money{};
+    };
+    EXPECT_EQ(amountOf("VALE TRANSPORTES"), Money{2000});
+    EXPECT_EQ(amountOf("HORA EXTRA 50%"), Money{4091});
+    // (3.000,00 + 40,91) ÷ 30 × 39
+    EXPECT_EQ(amountOf("Aviso prévio indenizado"), Money{395318});
+    EXPECT_TRUE(computed.remarks.size() == 1U) << "the FGTS account alone";
+}
+
 TEST_F(TerminationSheetTest, SaysWhatIsMissing) {
     EXPECT_EQ(refusal(),
               "Registre primeiro a rescisão de ANA na tela de Afastamentos, com o tipo 008.");
