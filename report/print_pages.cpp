@@ -1,11 +1,14 @@
 #include "report/print_pages.h"
 
+#include "foundation/values/text.h"
+
 namespace winvrx {
 
 namespace {
 
 constexpr auto kTitle = "IMPRESSÃO";
 constexpr auto kPrinting = "IMPRIMINDO";
+constexpr std::string_view kPrintingDrive = "C";
 
 const Message kNoPrinter =
     failure(kTitle,
@@ -78,6 +81,18 @@ PrintEnd printPages(const PrintDesk& desk, const ReportRequest& request, ReportP
         reportFailure(desk.at, messageOf(fault), fault);
         return PrintEnd::Failed;
     }
+}
+
+bool requirePrintingDrive(const Workplace& at, const Message& wrongDrive) {
+    if (upperCase(std::string(1, at.session.folder.driveLetter())) == kPrintingDrive) return true;
+    at.person.tell(wrongDrive);
+    return false;
+}
+
+Message wrongDrive() {
+    return failure("Imprimir",
+                   "Diretório Inválido p/ Impressão! Transfira os dados do diretório atual para o "
+                   "Diretório 'C'.");
 }
 
 std::string sheetsBackInstruction(SheetExit exit, std::size_t sheets) {

@@ -23,6 +23,11 @@ struct PrintDesk {
 [[nodiscard]] PrintEnd printPages(const PrintDesk& desk, const ReportRequest& request,
                                   ReportPages& pages);
 
+/// Pages are printed from a data folder on drive "C" only: "Diretório Inválido p/ Impressão! …",
+/// or the screen's own words for it.
+[[nodiscard]] bool requirePrintingDrive(const Workplace& at, const Message& wrongDrive);
+[[nodiscard]] Message wrongDrive();
+
 /// What the operator does with the sheets between their two sides, be they one or many. The rule
 /// is worked out in docs/layout-files.md.
 [[nodiscard]] std::string sheetsBackInstruction(SheetExit exit, std::size_t sheets);

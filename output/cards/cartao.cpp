@@ -1,7 +1,6 @@
 #include "output/cards/cartao.h"
 
 #include "foundation/register/company_register.h"
-#include "foundation/values/text.h"
 #include "report/print_pages.h"
 #include "timecard/month/overtime_record.h"
 #include "timecard/month/selected_month.h"
@@ -12,16 +11,10 @@ namespace winvrx {
 
 namespace {
 
-constexpr std::string_view kPrintingDrive = "C";
-
 const Message kNoStock = refusal("IMPRIMIR CARTÃO PONTO", "Selecione um Tipo de Cartão na Lista! ");
 const Message kNoEmployee = refusal("IMPRIMIR CARTÃO PONTO", "Selecione um Funcionário na Lista! ");
 const Message kNoMonth = refusal("IMPRIMIR CARTÃO PONTO", "Informe um Mês de Trabalho!!",
                                  "Escolha-o em \"Mês Trabalho (Todos)\" (Ctrl+M).");
-const Message kWrongDrive =
-    failure("Imprimir",
-            "Diretório Inválido p/ Impressão! Transfira os dados do diretório atual "
-            "para o Diretório 'C'.");
 
 Message confirmOne(ReportOutput output) {
     Message message = question("IMPRIMIR CARTÃO PONTO",
@@ -83,12 +76,13 @@ std::string Cartao::headerPreview(std::optional<std::size_t> position) const {
 
 bool Cartao::printOne(std::optional<std::size_t> position, const PrintRun& run) {
     if (!at_.person.agrees(confirmOne(choices_.output))) return false;
-    return requireChoices(isShown(position), run) && requirePrintingDrive() &&
+    return requireChoices(isShown(position), run) && requirePrintingDrive(at_, wrongDrive()) &&
            print({list_.employees()[*position]}, run);
 }
 
 bool Cartao::printAll(const PrintRun& run) {
-    if (!requireChoices(!list_.shown().empty(), run) || !requirePrintingDrive()) return false;
+    if (!requireChoices(!list_.shown().empty(), run) || !requirePrintingDrive(at_, wrongDrive()))
+        return false;
     const auto people = list_.people(
         firstDay(*month_), lastDay(*month_),
         [this](const auto& outsiders) { return at_.person.agrees(confirmOutsiders(outsiders)); });
@@ -106,13 +100,6 @@ bool Cartao::requireChoices(bool anyEmployee, const PrintRun& run) {
     if (refusal) at_.person.tell(*refusal);
     if (refusal == &kNoStock && run.chooseStock) run.chooseStock();
     return !refusal;
-}
-
-bool Cartao::requirePrintingDrive() {
-    const char letter = at_.session.folder.driveLetter();
-    if (upperCase(std::string(1, letter)) == kPrintingDrive) return true;
-    at_.person.tell(kWrongDrive);
-    return false;
 }
 
 bool Cartao::print(const std::vector<Employee>& people, const PrintRun& run) {

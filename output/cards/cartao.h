@@ -69,7 +69,6 @@ class Cartao {
         return position && list_.isShown(*position);
     }
     [[nodiscard]] bool requireChoices(bool anyEmployee, const PrintRun& run);
-    [[nodiscard]] bool requirePrintingDrive();
     [[nodiscard]] bool print(const std::vector<Employee>& people, const PrintRun& run);
     [[nodiscard]] CardBatch batchOf(const std::vector<Employee>& people) const;
     /// What the cards of a run have in common.

@@ -1,6 +1,5 @@
 #include "output/mirrors/hours_overview.h"
 
-#include "foundation/values/text.h"
 #include "output/mirrors/hours_reports.h"
 #include "report/print_pages.h"
 #include "report/printers.h"
@@ -16,7 +15,6 @@ using std::chrono::seconds;
 
 constexpr std::size_t kLinesOnPage = 32;
 constexpr int kWholeBar = 1000;
-constexpr std::string_view kPrintingDrive = "C";
 
 const std::vector<std::string> kColumns = {"razao",   "cnpj",    "periodo", "pagina", "totais",
                                            "codigo",  "nome",    "falta",   "extra",  "normal",
@@ -102,10 +100,7 @@ ReportRequest overviewRequest() {
 }
 
 bool HoursReports::requirePrintingDrive() {
-    const char letter = at_.session.folder.driveLetter();
-    if (upperCase(std::string(1, letter)) == kPrintingDrive) return true;
-    at_.person.tell(kWrongDrive);
-    return false;
+    return winvrx::requirePrintingDrive(at_, kWrongDrive);
 }
 
 bool HoursReports::showOverview(const PageProgress& progress) {

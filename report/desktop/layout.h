@@ -52,11 +52,20 @@ struct LayoutText {
         std::optional<std::size_t> column;
     };
 
-    QPointF baseline;
+    /// A text of several lines. A line break in it begins a paragraph, half a line further down.
+    struct Wrap {
+        double pitch = 0;  ///< from one line down to the next
+        int lines = 0;     ///< the room for them: what is longer is squeezed, then cut
+        bool justified = false;
+    };
+
+    QPointF baseline;  ///< of the first line
     Anchor anchor = Anchor::Start;
     std::size_t ink = 0;
     std::optional<double> width;  ///< what is longer is squeezed, then cut
+    std::optional<Wrap> wrap;     ///< broken into lines of this width instead
     std::vector<Piece> pieces;
+    QString blank;                    ///< written in place of a column that is blank
     std::vector<std::size_t> unless;  ///< drawn only where these columns are blank
     std::vector<std::size_t> when;    ///< and only where one of these is not; none: always
 };

@@ -1,5 +1,7 @@
 #include "report/desktop/layout_painter.h"
 
+#include "report/desktop/text_lines.h"
+
 #include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QPainter>
@@ -28,21 +30,16 @@ QTransform transformOf(const Alignment& alignment, double rowPitch) {
 void compose(const LayoutText& text, const PageRow& row, QString& into) {
     into.clear();
     for (const LayoutText::Piece& piece : text.pieces)
-        into += piece.column ? row[*piece.column] : piece.literal;
+        if (!piece.column)
+            into += piece.literal;
+        else
+            into += row[*piece.column].isEmpty() ? text.blank : row[*piece.column];
 }
 
 bool isLeftOut(const LayoutText& text, const PageRow& row) {
     const auto isBlank = [&](std::size_t column) { return row[column].isEmpty(); };
     return !std::ranges::all_of(text.unless, isBlank) ||
            (!text.when.empty() && std::ranges::all_of(text.when, isBlank));
-}
-
-/// Cuts `text`, an ellipsis at its end, until `widthOf` it is at most `width`.
-template <typename Measure>
-void cut(QString& text, double width, Measure widthOf) {
-    while (!text.isEmpty() && widthOf(text + u'…') > width)
-        text.chop(1);
-    text += u'…';
 }
 
 /// Thousandths as a part of one; what is no number of them is nothing.
@@ -130,44 +127,76 @@ void LayoutPainter::write(QPainter& painter, const LayoutText& text, const PageR
     if (!layout_.inks[text.ink].colour.isValid() || isLeftOut(text, row)) return;
     compose(text, row, written_);
     if (written_.isEmpty()) return;
-    GlyphFont& font = *fonts_[text.ink];
-    const bool covered = font.covers(written_);
-    const auto widthOf = [&](const QString& part) {
-        return covered ? font.widthOf(part) : QFontMetricsF(font.font()).horizontalAdvance(part);
-    };
-    double width = widthOf(written_);
-    const double room = text.width.value_or(width);
-    if (width * kNarrowest > room) {
-        cut(written_, room / kNarrowest, widthOf);
-        width = widthOf(written_);
-    }
-    const double squeeze = width > room ? room / width : 1.0;
-    const QPointF start = text.baseline + shift + QPointF(startOf(text.anchor, width * squeeze), 0);
-    if (covered && squeeze == 1.0)
-        writeGlyphs(text.ink, written_, start);
+    if (text.wrap)
+        writeWrapped(painter, text, shift);
     else
-        writeTransformed(painter, text.ink, written_, start, squeeze);
+        writeLine(painter, text, shift);
 }
 
-void LayoutPainter::writeGlyphs(std::size_t ink, const QString& text, QPointF start) {
+double LayoutPainter::widthOf(std::size_t ink, const QString& text) {
+    GlyphFont& font = *fonts_[ink];
+    return font.covers(text) ? font.widthOf(text)
+                             : QFontMetricsF(font.font()).horizontalAdvance(text);
+}
+
+void LayoutPainter::writeLine(QPainter& painter, const LayoutText& text, QPointF shift) {
+    const auto measure = [&](const QString& part) { return widthOf(text.ink, part); };
+    Spread spread{.width = measure(written_)};
+    const double room = text.width.value_or(spread.width);
+    if (spread.width * kNarrowest > room) {
+        cutToWidth(written_, room / kNarrowest, measure);
+        spread.width = measure(written_);
+    }
+    if (spread.width > room) spread.squeeze = room / spread.width;
+    writeAt(painter, text, written_, text.baseline + shift, spread);
+}
+
+void LayoutPainter::writeWrapped(QPainter& painter, const LayoutText& text, QPointF shift) {
+    const auto measure = [&](const QString& part) { return widthOf(text.ink, part); };
+    const LayoutText::Wrap& wrap = *text.wrap;
+    const auto fitted = fittedLines(written_, *text.width, wrap.lines, kNarrowest, measure);
+    for (const TextLine& line : fitted.lines) {
+        Spread spread{.width = measure(line.text), .squeeze = fitted.squeeze};
+        const auto blanks = line.text.count(u' ');
+        if (wrap.justified && !line.endsParagraph && blanks > 0) {
+            const double room = *text.width / fitted.squeeze;
+            spread.blank = (room - spread.width) / static_cast<double>(blanks);
+            spread.width = room;
+        }
+        writeAt(painter, text, line.text,
+                text.baseline + shift + QPointF(0, line.down * wrap.pitch), spread);
+    }
+}
+
+void LayoutPainter::writeAt(QPainter& painter, const LayoutText& text, const QString& line,
+                            QPointF baseline, const Spread& spread) {
+    const QPointF start =
+        baseline + QPointF(startOf(text.anchor, spread.width * spread.squeeze), 0);
+    if (spread.squeeze == 1.0 && fonts_[text.ink]->covers(line))
+        writeGlyphs(text.ink, line, start, spread.blank);
+    else
+        writeTransformed(painter, text.ink, line, start, spread);
+}
+
+void LayoutPainter::writeGlyphs(std::size_t ink, const QString& text, QPointF start, double blank) {
     GlyphFont& font = *fonts_[ink];
     Run& run = runs_[ink];
     for (const QChar character : text) {
         const GlyphFont::Glyph& glyph = font.glyphOf(character);
         run.glyphs.push_back(glyph.index);
         run.positions.push_back(start);
-        start.rx() += glyph.advance;
+        start.rx() += glyph.advance + (character == u' ' ? blank : 0);
     }
 }
 
 void LayoutPainter::writeTransformed(QPainter& painter, std::size_t ink, const QString& text,
-                                     QPointF start, double squeeze) {
+                                     QPointF start, const Spread& spread) {
     flush(painter);
     painter.save();
     painter.translate(start);
-    painter.scale(squeeze, 1);
+    painter.scale(spread.squeeze, 1);
     if (fonts_[ink]->covers(text)) {
-        writeGlyphs(ink, text, QPointF());
+        writeGlyphs(ink, text, QPointF(), spread.blank);
         flush(painter);
     } else {
         painter.setFont(fonts_[ink]->font());

@@ -43,9 +43,21 @@ class LayoutPainter {
     void paintSection(QPainter& painter, const LayoutSection& section, const PageText& rows);
     void paintMark(QPainter& painter, const LayoutMark& mark, const PageRow& row, QPointF shift);
     void write(QPainter& painter, const LayoutText& text, const PageRow& row, QPointF shift);
-    void writeGlyphs(std::size_t ink, const QString& text, QPointF start);
+    /// How a line is drawn out or together to its place.
+    struct Spread {
+        double width = 0;    ///< before it is squeezed
+        double squeeze = 1;  ///< of the letters
+        double blank = 0;    ///< more for each blank
+    };
+
+    [[nodiscard]] double widthOf(std::size_t ink, const QString& text);
+    void writeLine(QPainter& painter, const LayoutText& text, QPointF shift);
+    void writeWrapped(QPainter& painter, const LayoutText& text, QPointF shift);
+    void writeAt(QPainter& painter, const LayoutText& text, const QString& line, QPointF baseline,
+                 const Spread& spread);
+    void writeGlyphs(std::size_t ink, const QString& text, QPointF start, double blank);
     void writeTransformed(QPainter& painter, std::size_t ink, const QString& text, QPointF start,
-                          double squeeze);
+                          const Spread& spread);
     void flush(QPainter& painter);
 
     Layout layout_;

@@ -43,6 +43,8 @@ struct Context {
     int fontWeight = 400;
     bool italic = false;
     Anchor anchor = Anchor::Start;
+    double lineHeight = 1.25;  // of the letter's size
+    bool justified = false;
 };
 
 class LayoutReader {
@@ -174,6 +176,10 @@ class LayoutReader {
             context.italic = *style != QStringLiteral("normal");
         if (const auto anchor = values.text(QStringLiteral("text-anchor")))
             context.anchor = anchorNamed(*anchor);
+        if (const auto height = values.number(QStringLiteral("line-height")))
+            context.lineHeight = positive(*height, QStringLiteral("line-height"));
+        if (const auto align = values.text(QStringLiteral("text-align")))
+            context.justified = isJustified(*align);
     }
 
     void readGroup(const ElementValues& values, Context& context) {
@@ -231,23 +237,36 @@ class LayoutReader {
         text.ink = inkOf(context);
         if (const auto width = values.number(QStringLiteral("data-width")))
             text.width = positive(*width, QStringLiteral("data-width")) * scale_;
+        if (const auto width = values.number(QStringLiteral("inline-size")))
+            wrapInto(text, *width, values, context);
         if (const auto unless = values.text(QStringLiteral("data-unless")))
             text.unless = columnsNamed(*unless, columns_);
         if (const auto when = values.text(QStringLiteral("data-when")))
             text.when = columnsNamed(*when, columns_);
+        text.blank = values.text(QStringLiteral("data-blank")).value_or(QString());
         const auto field = values.text(QStringLiteral("data-field"));
         const auto pattern = values.text(QStringLiteral("data-template"));
         if (field && pattern)
             throw BadValue(QStringLiteral("data-field e data-template no mesmo text"));
         if (field) text.pieces.push_back({QString(), columnNamed(*field, columns_)});
         if (pattern) text.pieces = templatePieces(*pattern, columns_);
-        const QString sample = readSample();
+        const QString sample = readSample(text.wrap ? kMostRows : 1);
         if (!field && !pattern) text.pieces.push_back({sample, std::nullopt});
         add(std::move(text), context);
     }
 
-    /// What stands in the element: drawing programs put a tspan around it.
-    QString readSample() {
+    void wrapInto(LayoutText& text, double width, const ElementValues& values,
+                  const Context& context) const {
+        const auto lines = values.count(QStringLiteral("data-lines"), kMostRows);
+        if (!lines) throw BadValue(QStringLiteral("inline-size sem data-lines"));
+        text.width = positive(width, QStringLiteral("inline-size")) * scale_;
+        text.wrap = LayoutText::Wrap{.pitch = context.fontSize * context.lineHeight * scale_,
+                                     .lines = *lines,
+                                     .justified = context.justified};
+    }
+
+    /// What stands in the element: drawing programs put a tspan around each line.
+    QString readSample(int mostLines) {
         QString sample;
         int tspans = 0;
         while (!xml_.hasError() && !(xml_.readNext() == QXmlStreamReader::EndElement &&
@@ -256,7 +275,8 @@ class LayoutReader {
             if (!xml_.isStartElement()) continue;
             if (xml_.name() != QStringLiteral("tspan"))
                 throw BadValue(QStringLiteral("<%1> dentro de um text").arg(xml_.name()));
-            if (++tspans > 1)
+            if (tspans > 0) sample += u' ';
+            if (++tspans > mostLines)
                 throw BadValue(
                     QStringLiteral("um text de várias linhas; use um text para cada uma"));
         }

@@ -179,6 +179,12 @@ LayoutText::Anchor anchorNamed(const QString& text) {
     throw BadValue(QStringLiteral("text-anchor=\"%1\" não é start, middle nem end").arg(text));
 }
 
+bool isJustified(const QString& text) {
+    if (text != QStringLiteral("justify") && text != QStringLiteral("start"))
+        throw BadValue(QStringLiteral("text-align=\"%1\" não é start nem justify").arg(text));
+    return text == QStringLiteral("justify");
+}
+
 LayoutBlock blockNamed(const QString& text) {
     if (text == QStringLiteral("header")) return LayoutBlock::Header;
     if (text == QStringLiteral("stock")) return LayoutBlock::Stock;

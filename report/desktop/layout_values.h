@@ -58,6 +58,8 @@ class ElementValues {
 [[nodiscard]] QStringList fontFamilies(const QString& text);
 [[nodiscard]] int fontWeight(const QString& text);
 [[nodiscard]] LayoutText::Anchor anchorNamed(const QString& text);
+/// "justify"; the other values of `text-align` leave the lines ragged.
+[[nodiscard]] bool isJustified(const QString& text);
 [[nodiscard]] LayoutBlock blockNamed(const QString& text);
 
 }  // namespace winvrx

@@ -11,6 +11,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <map>
 
 #ifndef _WIN32
 #include <sys/resource.h>
@@ -65,6 +66,33 @@ TEST_F(PrintedCard, WritesCharactersThatTheFontLacks) {
     desk_.request.layoutName = "own.rpt";
     for (const PrintedWord& word : words())
         EXPECT_LE(word.right, 25.5 * kPointsPerMillimetre);
+}
+
+TEST_F(PrintedCard, WrapsATextIntoItsBoxBothEdgesStraight) {
+    desk_.writeLayout("own.rpt",
+                      R"(<svg width="100mm" height="90mm" viewBox="0 0 100 90" data-pitch="4">
+                         <text x="10" y="20" font-size="4" font-family="Liberation Sans"
+                               inline-size="40" line-height="1.5" text-align="justify"
+                               data-lines="9" data-blank="____"
+                               data-template="A empresa {razao} e {horas}{situacao} {nome}.&#10;Fim"
+                               ><tspan>A empresa</tspan><tspan>e</tspan></text></svg>)");
+    desk_.request.layoutName = "own.rpt";
+    const auto all = words();
+    std::map<int, std::pair<double, double>> edges;  // of each line, in millimetres
+    for (const PrintedWord& word : all) {
+        auto& [left, right] = edges.try_emplace(qRound(word.top), 1000.0, 0.0).first->second;
+        left = std::min(left, word.left / kPointsPerMillimetre);
+        right = std::max(right, word.right / kPointsPerMillimetre);
+    }
+    ASSERT_EQ(edges.size(), 5U);
+    int line = 0;
+    for (const auto& [top, edge] : edges) {
+        EXPECT_NEAR(edge.first, 10, 0.5) << top;
+        EXPECT_NEAR(edge.second, ++line < 3 ? 50 : edge.second, 0.2) << top;
+    }
+    EXPECT_NEAR(wordOf(all, QStringLiteral("Fim")).top - wordOf(all, QStringLiteral("A")).top,
+                4.5 * 6 * kPointsPerMillimetre, 0.2);
+    EXPECT_EQ(wordOf(all, QStringLiteral("08:00____")).page, 1);
 }
 
 TEST(ReportEngine, PrintsNothingWithoutASoundLayout) {
