@@ -23,6 +23,9 @@ class MergeWords {
     /// Throws UnknownWord.
     [[nodiscard]] const std::string& at(std::string_view name) const;
 
+    /// Every word with its value, by name.
+    [[nodiscard]] const auto& all() const { return values_; }
+
     /// `text` with the value in place of each name in braces. Braces within a value stay as they
     /// are. Throws UnknownWord.
     [[nodiscard]] std::string filled(std::string_view text) const;

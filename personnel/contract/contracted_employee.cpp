@@ -23,19 +23,23 @@ Message withoutContract(const Employee& employee) {
 
 }  // namespace
 
-bool requireContractedEmployee(const Workplace& at, const Employee* employee,
-                               const Message& noEmployee, bool evenInactive) {
-    const auto refuse = [&](const Message& message) {
-        at.person.tell(message);
-        return false;
-    };
-    if (!at.session.company) return refuse(noCompany(at));
+std::optional<Message> paperRefusal(const Workplace& at, const Employee* employee,
+                                    const Message& noEmployee, bool evenInactive) {
+    if (!at.session.company) return noCompany(at);
     const auto code = employee ? employee->employeeCode() : std::nullopt;
-    if (!code) return refuse(noEmployee);
+    if (!code) return noEmployee;
     const EmployeeKey key{*at.session.company, *code};
     const auto since = loadLeaveFile(at.store(), key).inactiveSince;
-    if (since && !evenInactive) return refuse(inactive(*employee, *since));
-    return hasContract(at.store(), key) || refuse(withoutContract(*employee));
+    if (since && !evenInactive) return inactive(*employee, *since);
+    if (!hasContract(at.store(), key)) return withoutContract(*employee);
+    return std::nullopt;
+}
+
+bool requireContractedEmployee(const Workplace& at, const Employee* employee,
+                               const Message& noEmployee, bool evenInactive) {
+    const auto refusal = paperRefusal(at, employee, noEmployee, evenInactive);
+    if (refusal) at.person.tell(*refusal);
+    return !refusal;
 }
 
 Message searchAndSelectEmployee() {
