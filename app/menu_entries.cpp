@@ -6,6 +6,7 @@
 #include "output/mirrors/desktop/hours_entry.h"
 #include "personnel/documents/desktop/documents_entry.h"
 #include "personnel/employer/desktop/employer_entry.h"
+#include "personnel/forms/desktop/forms_entry.h"
 #include "personnel/leaves/desktop/leaves_entry.h"
 #include "personnel/payslips/desktop/payroll_entry.h"
 #include "personnel/termination/desktop/termination_entry.h"
@@ -87,6 +88,7 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
                                  return templateFolders(at.session.folder, folder);
                              },
                              legal})});
+    add({formsEntry(at, printing.engine)});
     add({planned("Ferramentas", "labels", "labels", "Etiquetas")});
     add({planned("Ferramentas", "backup", "backup", "Cópia de Segurança")});
     add({restoreEntry(at, desk.copies)});
