@@ -10,7 +10,8 @@ MenuEntry formsEntry(const Workplace& at, ReportEngine& engine) {
         .group = QStringLiteral("Pessoal"),
         .objectName = QStringLiteral("menu.forms.open"),
         .icon = QStringLiteral("forms"),
-        .title = QStringLiteral("Relatóri&os"),
+        .title = QStringLiteral("Relatórios"),
+        .key = Qt::CTRL | Qt::Key_R,
         .needs = MenuNeeds::Company,
         .open =
             [at, &engine](QWidget* parent) {
