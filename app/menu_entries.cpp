@@ -4,9 +4,11 @@
 #include "foundation/menu/desktop/about_window.h"
 #include "foundation/register/desktop/register_entries.h"
 #include "output/mirrors/desktop/hours_entry.h"
+#include "personnel/contract/desktop/contract_entry.h"
 #include "personnel/documents/desktop/documents_entry.h"
 #include "personnel/employer/desktop/employer_entry.h"
 #include "personnel/forms/desktop/forms_entry.h"
+#include "personnel/invoice_letter/desktop/letter_entry.h"
 #include "personnel/leaves/desktop/leaves_entry.h"
 #include "personnel/payslips/desktop/payroll_entry.h"
 #include "personnel/termination/desktop/termination_entry.h"
@@ -83,11 +85,14 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
                  openPayrollFacts(at, employer, parent, one);
              }})});
     add(employerEntries(at, employer));
-    add({documentsEntry(at, {desk.writer,
-                             [at, folder = desk.programFolder] {
-                                 return templateFolders(at.session.folder, folder);
-                             },
-                             legal})});
+    const auto templates = [at, folder = desk.programFolder] {
+        return templateFolders(at.session.folder, folder);
+    };
+    const ContractDesk contracts{printing.engine, printing.printers, desk.writer, templates};
+    add({contractEntry(at, contracts, [at, &engine = printing.engine](QWidget* parent) {
+        openCorrectionLetters(at, engine, parent);
+    })});
+    add({documentsEntry(at, {desk.writer, templates, legal})});
     add({formsEntry(at, printing.engine)});
     add({planned("Ferramentas", "labels", "labels", "Etiquetas")});
     add({planned("Ferramentas", "backup", "backup", "Cópia de Segurança")});

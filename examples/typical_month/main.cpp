@@ -9,6 +9,7 @@
 #include "foundation/menu/desktop/menu_window.h"
 #include "foundation/widgets/desktop/look.h"
 #include "month_script.h"
+#include "personnel/contract/booklet_box.h"
 #include "player.h"
 
 #include <QApplication>
@@ -22,7 +23,8 @@ struct OnlyCopy final : SingleInstance {
     bool claim() override { return true; }
 };
 
-/// A printer whose paper is a PDF file: what the operator prints lands in `path`.
+/// A printer whose paper is a PDF file: what the operator prints lands in `path`, a
+/// page of the work booklet in `carteira.pdf` beside it.
 class PaperInAFile final : public ReportEngine {
   public:
     PaperInAFile(std::unique_ptr<ReportEngine> engine, std::string path)
@@ -33,7 +35,7 @@ class PaperInAFile final : public ReportEngine {
         ReportRequest toFile = request;
         if (toFile.output == ReportOutput::Printer) {
             toFile.output = ReportOutput::PdfFile;
-            toFile.pdfPath = path_;
+            toFile.pdfPath = request.layoutName == kBookletLayout ? bookletPath() : path_;
         }
         return engine_->print(toFile, pages, progress);
     }
@@ -47,6 +49,10 @@ class PaperInAFile final : public ReportEngine {
     }
 
   private:
+    [[nodiscard]] std::string bookletPath() const {
+        return std::filesystem::path(path_).replace_filename("carteira.pdf").string();
+    }
+
     std::unique_ptr<ReportEngine> engine_;
     std::string path_;
 };

@@ -358,6 +358,27 @@ void recordPayroll(Player& player) {
     player.click("folha.close"_t);
 }
 
+/// The newly admitted one, on trial: the contract is recorded and its box printed.
+void recordContract(Player& player) {
+    player.click("menu.contract.open"_t);
+    player.choose("contrato.employees"_t, "002"_t);
+    player.choose("contrato.kind"_t, "Experiência"_t);
+    player.type("contrato.trialDays"_t, "45"_t);
+    player.type("contrato.extensionDays"_t, "45"_t);
+    player.type("contrato.salary"_t, "1.850,00"_t);
+    player.type("contrato.establishment"_t, "Padaria"_t);
+    player.picture("contrato"_t);
+    player.press(Qt::CTRL | Qt::Key_S);
+    player.answer("Confirma Gravar o Contrato de Trabalho do Funcionário Selecionado?"_t,
+                  Answer::Yes);
+    player.click("contrato.preview"_t);
+    player.picture("carteira"_t);
+    player.click("preview.close"_t);
+    player.click("contrato.print"_t);
+    player.answer("Imprimir Página esquerda, quadro de cima?"_t, Answer::Yes);
+    player.click("contrato.close"_t);
+}
+
 }  // namespace
 
 void writeMonth(Player& player) {
@@ -373,6 +394,7 @@ void writeMonth(Player& player) {
     registerPorters(player);
     planRotation(player);
     applyRotation(player);
+    recordContract(player);
     recordPayroll(player);
 }
 

@@ -34,7 +34,8 @@ void check(const Layout&, const LayoutLine& line) {
         require(isNear(end.x()) && isNear(end.y()), "a line is on some paper");
 }
 
-void check(const Layout&, const LayoutRect& rect) {
+void check(const Layout& layout, const LayoutRect& rect) {
+    require(rect.barcode.value_or(0) < layout.columns, "a column exists");
     require(isNear(rect.area.x()) && isNear(rect.area.y()), "a rect is on some paper");
     require(rect.area.width() >= 0 && rect.area.height() >= 0, "a rect has a size");
 }

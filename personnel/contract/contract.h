@@ -59,14 +59,14 @@ inline constexpr std::array kContractFields = {
     ContractField{&Contract::ends, {35, 10}, "Término"},
     ContractField{&Contract::reason, {45, 80}, "Motivo do prazo"},
     ContractField{&Contract::workplace, {125, 60}, "Local de trabalho", true},
-    ContractField{&Contract::schedule, {185, 80}, "Horário de trabalho", true},
-    ContractField{&Contract::salary, {265, 14}, "Remuneração", true},
-    ContractField{&Contract::establishment, {279, 30}, "Esp. do estabelecimento"},
-    ContractField{&Contract::registration, {309, 5}, "Registro n."},
-    ContractField{&Contract::sheet, {314, 4}, "Fls./Ficha"},
-    ContractField{&Contract::signedOn, {318, 10}, "Data da assinatura", true},
+    ContractField{&Contract::schedule, {185, 120}, "Horário de trabalho", true},
+    ContractField{&Contract::salary, {305, 14}, "Remuneração", true},
+    ContractField{&Contract::establishment, {319, 30}, "Esp. do estabelecimento"},
+    ContractField{&Contract::registration, {349, 5}, "Registro n."},
+    ContractField{&Contract::sheet, {354, 4}, "Fls./Ficha"},
+    ContractField{&Contract::signedOn, {358, 10}, "Data da assinatura", true},
 };
-inline constexpr std::size_t kContractWidth = 327;
+inline constexpr std::size_t kContractWidth = 367;
 static_assert(isContiguous(kContractFields, kContractWidth));
 
 template <>

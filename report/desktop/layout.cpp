@@ -15,6 +15,11 @@ void collect(const LayoutText& text, std::vector<std::size_t>& columns) {
     columns.insert(columns.end(), text.when.begin(), text.when.end());
 }
 
+void collect(const LayoutRect& rect, std::vector<std::size_t>& columns) {
+    if (rect.share) columns.push_back(*rect.share);
+    if (rect.barcode) columns.push_back(*rect.barcode);
+}
+
 void makeUnique(std::vector<std::size_t>& columns) {
     std::sort(columns.begin(), columns.end());
     columns.erase(std::unique(columns.begin(), columns.end()), columns.end());
@@ -50,8 +55,8 @@ DrawnColumns drawnColumns(const Layout& layout) {
             auto& into = isOfFirstRow(section) ? columns.once : columns.inRows;
             if (const auto* text = std::get_if<LayoutText>(&mark))
                 collect(*text, into);
-            else if (const auto* rect = std::get_if<LayoutRect>(&mark); rect && rect->share)
-                into.push_back(*rect->share);
+            else if (const auto* rect = std::get_if<LayoutRect>(&mark))
+                collect(*rect, into);
         }
     makeUnique(columns.once);
     makeUnique(columns.inRows);

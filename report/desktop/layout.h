@@ -83,6 +83,7 @@ struct LayoutRect {
     QColor stroke;
     double strokeWidth = 0;
     std::optional<std::size_t> share;  ///< so many thousandths of its width, a column of the table
+    std::optional<std::size_t> barcode;  ///< a column, drawn within it as Code 128 in its fill
 };
 
 using LayoutMark = std::variant<LayoutText, LayoutLine, LayoutRect>;

@@ -1,5 +1,6 @@
 #include "report/desktop/layout_painter.h"
 
+#include "report/code128.h"
 #include "report/desktop/text_lines.h"
 
 #include <QFontMetricsF>
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace winvrx {
 
@@ -40,6 +42,30 @@ bool isLeftOut(const LayoutText& text, const PageRow& row) {
     const auto isBlank = [&](std::size_t column) { return row[column].isEmpty(); };
     return !std::ranges::all_of(text.unless, isBlank) ||
            (!text.when.empty() && std::ranges::all_of(text.when, isBlank));
+}
+
+/// Takes away the blanks in front: they place a text, and only what is behind them is squeezed.
+QString takeIndent(QString& text) {
+    qsizetype count = 0;
+    while (count < text.size() && text[count] == u' ')
+        ++count;
+    const QString indent = text.first(count);
+    text.remove(0, count);
+    return indent;
+}
+
+/// The text's bars, the quiet zones within the area; nothing of a text that has none.
+void drawBars(QPainter& painter, const QRectF& area, const QColor& ink, const QString& text) {
+    const std::vector<int> bars = code128Bars(text.toStdString());
+    if (bars.empty() || !ink.isValid()) return;
+    const int modules = std::accumulate(bars.begin(), bars.end(), 2 * kQuietModules);
+    const double module = area.width() / modules;
+    double x = area.left() + kQuietModules * module;
+    for (std::size_t place = 0; place < bars.size(); ++place) {
+        const double width = bars[place] * module;
+        if (place % 2 == 0) painter.fillRect(QRectF(x, area.top(), width, area.height()), ink);
+        x += width;
+    }
 }
 
 /// Thousandths as a part of one; what is no number of them is nothing.
@@ -113,7 +139,9 @@ void LayoutPainter::paintMark(QPainter& painter, const LayoutMark& mark, const P
     if (const auto* line = std::get_if<LayoutLine>(&mark)) {
         painter.setPen(penOf(line->stroke, line->strokeWidth));
         painter.drawLine(line->line.translated(shift));
-    } else if (const auto* rect = std::get_if<LayoutRect>(&mark)) {
+    } else if (const auto* rect = std::get_if<LayoutRect>(&mark); rect && rect->barcode) {
+        drawBars(painter, rect->area.translated(shift), rect->fill, row[*rect->barcode]);
+    } else if (rect) {
         painter.setPen(penOf(rect->stroke, rect->strokeWidth));
         painter.setBrush(rect->fill.isValid() ? QBrush(rect->fill) : QBrush(Qt::NoBrush));
         QRectF area = rect->area.translated(shift);
@@ -142,13 +170,19 @@ double LayoutPainter::widthOf(std::size_t ink, const QString& text) {
 void LayoutPainter::writeLine(QPainter& painter, const LayoutText& text, QPointF shift) {
     const auto measure = [&](const QString& part) { return widthOf(text.ink, part); };
     Spread spread{.width = measure(written_)};
-    const double room = text.width.value_or(spread.width);
+    double room = text.width.value_or(spread.width);
+    double indent = 0;
+    if (spread.width > room && text.anchor == LayoutText::Anchor::Start) {
+        indent = measure(takeIndent(written_));
+        spread.width -= indent;
+        room -= indent;
+    }
     if (spread.width * kNarrowest > room) {
         cutToWidth(written_, room / kNarrowest, measure);
         spread.width = measure(written_);
     }
     if (spread.width > room) spread.squeeze = room / spread.width;
-    writeAt(painter, text, written_, text.baseline + shift, spread);
+    writeAt(painter, text, written_, text.baseline + shift + QPointF(indent, 0), spread);
 }
 
 void LayoutPainter::writeWrapped(QPainter& painter, const LayoutText& text, QPointF shift) {

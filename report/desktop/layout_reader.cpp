@@ -215,10 +215,12 @@ class LayoutReader {
                               scale_);
         if (area.width() < 0 || area.height() < 0)
             throw BadValue(QStringLiteral("um rect de tamanho negativo"));
-        LayoutRect rect{area, context.fill, context.stroke, context.strokeWidth * scale_,
-                        std::nullopt};
+        LayoutRect rect{area,         context.fill, context.stroke, context.strokeWidth * scale_,
+                        std::nullopt, std::nullopt};
         if (const auto share = values.text(QStringLiteral("data-share")))
             rect.share = columnNamed(*share, columns_);
+        if (const auto barcode = values.text(QStringLiteral("data-barcode")))
+            rect.barcode = columnNamed(*barcode, columns_);
         add(std::move(rect), context);
         xml_.skipCurrentElement();
     }

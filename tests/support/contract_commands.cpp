@@ -1,4 +1,5 @@
-// What the contract screen writes.
+// What the contract screen and the correction letters write.
+#include "personnel/invoice_letter/carta_correcao_imprime.h"
 #include "tests/support/contract_office.h"
 #include "tests/support/writing_commands.h"
 
@@ -21,6 +22,32 @@ bool inContracts(const Workplace& at, const char* employee, bool (*give)(Contrat
     return screen.load() && screen.select(screen.list().positionOf(employee)) && give(screen);
 }
 
+/// Every element of an event, each with its name for a text.
+struct AnyLetter final : XmlReader {
+    void read(const std::string&,
+              const std::function<void(const XmlElement&)>& take) const override {
+        for (const LetterElement& element : kLetterElements)
+            take({std::string(element.name), "ID1",
+                  element.member == &CorrectionLetter::accessKey ? std::string(44, '1')
+                                                                 : std::string(element.name)});
+    }
+};
+
+bool printLetter(const Workplace& at, const Drives&) {
+    RecordingEngine engine;
+    const AnyLetter reader;
+    CartaCorrecaoImprime screen(at, {engine, reader});
+    if (!screen.openFolder(at.session.folder.path())) return false;
+    screen.select(0);
+    return screen.print(ReportOutput::Printer);
+}
+
+FileTable officeWithAnEvent() {
+    FileTable files = filledOffice();
+    files[inDataFolder("evento.xml")] = "<procEventoNFe/>";
+    return files;
+}
+
 }  // namespace
 
 std::vector<WritingCommand> contractCommands() {
@@ -40,6 +67,7 @@ std::vector<WritingCommand> contractCommands() {
             })},
         {"delete a contract", contractedOffice(),
          on("002", [](ContratoTrabalho& screen) { return screen.remove(); })},
+        {"keep a correction letter", officeWithAnEvent(), printLetter},
     };
 }
 

@@ -109,7 +109,7 @@ TEST_F(ContratoTrabalhoTest, RefusesAndLeavesTheFile) {
     EXPECT_TRUE(engine.jobs.empty());
     desk.file("01contrato001") += "another machine's\r\n";
     desk.file("01contrato001").replace(0, 4, "Expe");
-    desk.file("01contrato001")[264] = '9';
+    desk.file("01contrato001")[304] = '9';
     desk.person.answers = {Answer::Yes};
     EXPECT_FALSE(screen.save(trialOfAna())) << "changed elsewhere";
     EXPECT_NE(desk.file("01contrato001"), before);
