@@ -10,8 +10,10 @@
 #include "personnel/forms/desktop/forms_entry.h"
 #include "personnel/invoice_letter/desktop/letter_entry.h"
 #include "personnel/leaves/desktop/leaves_entry.h"
+#include "personnel/payroll/payroll_record.h"
 #include "personnel/payslips/desktop/payroll_entry.h"
 #include "personnel/termination/desktop/termination_entry.h"
+#include "personnel/vacation/desktop/ferias_entry.h"
 #include "timecard/card/desktop/time_card_entry.h"
 #include "timecard/month/desktop/month_entry.h"
 #include "timecard/rotation/desktop/rotation_entry.h"
@@ -64,6 +66,12 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
     };
     const LeavesDesk leaves{printing.engine, desk.editor, openEnd};
     const EmployerDesk employer{legal, printing.browser, printing.engine, openEnd};
+    const PaperDesk papers{desk.writer, [at, folder = desk.programFolder] {
+                               return templateFolders(at.session.folder, folder);
+                           }};
+    const FeriasEntryDesk vacations{papers, [at](const EmployeeKey& key, WorkMonth month) {
+                                        return vacationNetPaid(at.store(), key, month);
+                                    }};
     const TimeCardDesk timeCard{
         rotation,
         [leaves](const Workplace& office, QWidget* parent, const auto& inHand) {
@@ -75,24 +83,26 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
     add(hoursEntries(at, hours));
     add({rotationEntry(at, openRotation)});
     add({leavesEntry(at, leaves)});
+    add({vacationsEntry(at, vacations)});
     add({payrollEntry(
-        at, {printing.engine, desk.writer, legal,
+        at, {printing.engine, papers, legal,
              [at, timeCard](QWidget* parent, const auto& one) {
                  openTimeCard(at, timeCard, parent, one);
              },
              [at, employer](QWidget* parent) { openPayrollOptions(at, employer, parent); },
              [at, employer](QWidget* parent, const auto& one) {
                  openPayrollFacts(at, employer, parent, one);
+             },
+             [at, vacations](QWidget* parent, const auto& one) {
+                 openVacations(at, vacations, parent, one);
              }})});
     add(employerEntries(at, employer));
-    const auto templates = [at, folder = desk.programFolder] {
-        return templateFolders(at.session.folder, folder);
-    };
-    const ContractDesk contracts{printing.engine, printing.printers, desk.writer, templates};
+    const ContractDesk contracts{printing.engine, printing.printers, papers.writer,
+                                 papers.templateFolders};
     add({contractEntry(at, contracts, [at, &engine = printing.engine](QWidget* parent) {
         openCorrectionLetters(at, engine, parent);
     })});
-    add({documentsEntry(at, {desk.writer, templates, legal})});
+    add({documentsEntry(at, {papers.writer, papers.templateFolders, legal})});
     add({formsEntry(at, printing.engine)});
     add({planned("Ferramentas", "labels", "labels", "Etiquetas")});
     add({planned("Ferramentas", "backup", "backup", "Cópia de Segurança")});

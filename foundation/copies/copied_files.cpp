@@ -58,6 +58,7 @@ std::string subjectWithinCompany(std::string_view name) {
     if (rest.find(kLeaveStem) != std::string_view::npos) return "afastamentos";
     if (rest.starts_with(kContractStem)) return "contratos de trabalho";
     if (rest.starts_with(kPaperInputsStem)) return "dados dos documentos";
+    if (rest.starts_with(kVacationStem)) return "férias";
     if (rest.starts_with(kGroupStem)) return "grupos de revezamento";
     if (const auto month = monthIn(name)) {
         const bool card = name.ends_with(".bdx");

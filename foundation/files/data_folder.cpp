@@ -65,8 +65,8 @@ bool isEventList(std::string_view name) {
 }
 
 std::optional<std::string_view> stemOf(std::string_view name) {
-    for (const std::string_view stem :
-         {kScheduleStem, kOvertimeStem, kLeaveStem, kContractStem, kPaperInputsStem, kTransferStem})
+    for (const std::string_view stem : {kScheduleStem, kOvertimeStem, kLeaveStem, kContractStem,
+                                        kPaperInputsStem, kVacationStem, kTransferStem})
         if (standsAt(name, 3, stem)) return stem;
     for (const std::string_view stem : kTerminationStems)
         if (standsAt(name, 3, stem)) return stem;

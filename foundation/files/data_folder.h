@@ -96,6 +96,8 @@ inline constexpr std::string_view kPayrollFactsStem = "FolhaDados";
 inline constexpr std::string_view kDocumentsSubfolder = "documentos";
 /// Stem of what was typed for an employee's papers.
 inline constexpr std::string_view kPaperInputsStem = "DadosDoc";
+/// Stem of an employee's vacations.
+inline constexpr std::string_view kVacationStem = "Ferias";
 /// Stem of a company's rotation groups.
 inline constexpr std::string_view kGroupStem = "GRUPO-";
 /// Ends of the names of a company's list of payroll events and of an employee's own.
@@ -123,9 +125,9 @@ inline constexpr std::string_view kSelectedMonthName = "DataIde.ivc";
 inline constexpr std::string_view kReportDatabaseName = "qdb.mdb";
 
 /// True for the names of the files that go when the company goes: its schedules, overtime figures,
-/// leaves, contracts, termination documents, payroll facts, punches, month files, rotation groups,
-/// employee list and settings. Names are read by position: company code in characters 1-2, then the
-/// stem.
+/// leaves, contracts, vacations, termination documents, payroll facts, punches, month files,
+/// groups, employee list and settings. Names are read by position: company code in characters 1-2,
+/// then the stem.
 [[nodiscard]] bool isRecordOfCompany(std::string_view name, const CompanyCode& company);
 
 /// The employee of the company to whom the record belongs; nullopt for a name that is no record of

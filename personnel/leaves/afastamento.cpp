@@ -5,6 +5,7 @@
 #include "foundation/register/dismissal.h"
 #include "foundation/register/employee_register.h"
 #include "personnel/leaves/leave_findings.h"
+#include "personnel/leaves/marking_offer.h"
 #include "timecard/month/selected_month.h"
 #include "timecard/punches/leave_marking.h"
 
@@ -18,21 +19,11 @@ namespace {
 
 constexpr std::string_view kTitle = "Afastamento";
 const Message kInactive = notice(kTitle, "Funcionário Inativo.!");
-constexpr std::string_view kMarkDays =
-    "Há dias preenchidos no cartão que este afastamento muda. Deseja marcá-los agora?";
-constexpr std::size_t kMostDays = 12;
-
-/// "20/03/2024, 21/03/2024 e mais 3".
-std::string datesText(const std::vector<Date>& dates) {
-    std::vector<std::string> texts;
-    std::ranges::transform(dates, std::back_inserter(texts), dateText);
-    return namesText(texts, kMostDays);
-}
-
-std::vector<Date> datesOf(const std::vector<UnmarkedDay>& days, bool UnmarkedDay::*kind) {
+/// Those with times.
+std::vector<Date> timedOf(const std::vector<UnmarkedDay>& days) {
     std::vector<Date> dates;
     for (const UnmarkedDay& day : days)
-        if (day.*kind) dates.push_back(day.date);
+        if (day.hasTimes) dates.push_back(day.date);
     return dates;
 }
 
@@ -177,9 +168,8 @@ void Afastamento::lookForPunches() {
     LeaveFile planned{.inactiveSince = file_.inactiveSince};
     planned.leaves.push_back(leaveLine(form_.leave()));
     try {
-        const auto days = datesOf(
-            unmarkedDays(at_.store(), payroll_, keyAt(*position_), calendarOf(planned), *period),
-            &UnmarkedDay::hasTimes);
+        const auto days = timedOf(
+            unmarkedDays(at_.store(), payroll_, keyAt(*position_), calendarOf(planned), *period));
         if (!days.empty()) punches_ = "Já há horas no cartão em " + datesText(days) + ".";
     } catch (const std::exception& fault) {
         at_.log.write(std::string("punches of a leave not looked up: ") + fault.what());
@@ -193,25 +183,8 @@ std::string Afastamento::finding(LeaveInput input) const {
     return found;
 }
 
-void Afastamento::offerMarking(LeavePeriod days) {
-    const EmployeeKey key = keyAt(*position_);
-    (void)attempt(at_, incorrectData(), [&] {
-        const auto unmarked = unmarkedDays(at_.store(), payroll_, key, calendar(), days);
-        const auto closed = datesOf(unmarked, &UnmarkedDay::closed);
-        if (unmarked.size() == closed.size()) return;
-        // Those that a termination marked, and that are blank now, were asked about then.
-        const auto asks = std::ranges::count_if(
-            unmarked, [](const UnmarkedDay& day) { return !day.onLeave && !day.closed; });
-        const auto timed = datesOf(unmarked, &UnmarkedDay::hasTimes);
-        std::string detail = countOf(static_cast<std::size_t>(asks), "dia") + ".";
-        if (!timed.empty()) detail += " Perdem as horas: " + datesText(timed) + ".";
-        if (!closed.empty()) detail += " De mês fechado, não são marcados: " + datesText(closed);
-        const Message asked = timed.empty() ? question(kTitle, std::string(kMarkDays), detail)
-                                            : warning(kTitle, std::string(kMarkDays), detail);
-        if (asks > 0 && !at_.person.agrees(asked)) return;
-        const auto hold = holdFolder(at_);
-        (void)markDays(at_.store(), payroll_, key, calendar(), days);
-    });
+void Afastamento::offerToMark(LeavePeriod days) {
+    offerMarking(at_, payroll_, keyAt(*position_), calendar(), days);
 }
 
 bool Afastamento::confirmLeaving() {

@@ -92,8 +92,8 @@ class Afastamento {
     void show(std::optional<std::size_t> position, LeaveFile file);
     void fill(std::optional<std::size_t> place);
     [[nodiscard]] LeaveCalendar calendarOf(const LeaveFile& file) const;
-    /// Asks whether the days of cards that stand otherwise are to be marked now, and marks them.
-    void offerMarking(LeavePeriod days);
+    /// For the employee chosen, with the leaves as they stand now.
+    void offerToMark(LeavePeriod days);
     [[nodiscard]] EmployeeKey keyAt(std::size_t position) const;
     [[nodiscard]] EmployeeMarks marksOf(const EmployeeKey& key) const;
     void requireEmployeeOnRecord() const;

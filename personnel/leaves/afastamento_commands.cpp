@@ -168,7 +168,7 @@ bool Afastamento::add() {
                      [&] { return !ofMonth || requireOpenMonth(); }))
             return false;
         fill(file_.leaves.size() - 1);
-        offerMarking(*form_.period());
+        offerToMark(*form_.period());
         return true;
     });
 }
@@ -186,7 +186,7 @@ bool Afastamento::change() {
                      [this] { return requireOpenMonth(); }))
             return false;
         fill(place);
-        offerMarking(*form_.period());
+        offerToMark(*form_.period());
         return true;
     });
 }
@@ -229,8 +229,7 @@ bool Afastamento::changeActivation() {
         const auto place = chosen_;
         loadList(at_.session.company.value(), month_.value());
         if (position_) fill(place);
-        if (const auto end = calendar().contractEnd())
-            offerMarking({plusDays(*end, 1), kLastOfAll});
+        if (const auto end = calendar().contractEnd()) offerToMark({plusDays(*end, 1), kLastOfAll});
         return true;
     });
 }

@@ -15,6 +15,8 @@ inline constexpr std::array<std::string_view, 8> kLeaveTypes = {
     "004 SERVIÇO_MILITAR",     "005 LICENÇA_ESPECIAL",          "006 FÉRIAS",
     "007 ATESTADO_DECALRAÇÃO", "008 RESCISÃO_CONTRATO_TRABALHO"};
 
+inline constexpr std::string_view kVacationLeave = kLeaveTypes[5];
+
 /// In the order of TerminationType.
 inline constexpr std::array<std::string_view, 5> kTerminationTypes = {
     "01. Dispensa sem Justa Causa", "02. Dispensa por Justa Causa Causada pelo Empregado",

@@ -7,49 +7,36 @@ namespace winvrx {
 namespace {
 
 constexpr std::string_view kTitle = "Folha";
-constexpr std::string_view kSaveTitle = "GRAVAR";
-constexpr std::string_view kSaveAllTitle = "GRAVAR TODOS";
 
 const Message kNoCard =
     question(kTitle, "Planilha de Ponto não Preenchida! Deseja ir para a Planilha de Ponto?");
 const Message kFirstBeforeSecond =
     refusal(kTitle, "Antes de Gerar a 2º Parcela  DO 13º, grave a 1º PARCELA!!");
-constexpr std::string_view kNoFirstInstalment = "1º PARCELA DO 13º SALARIO NÃO GERADA!";
-const Message kSecondStands = refusal(
-    kTitle, "A 1º PARCELA não pode ser reaberta enquanto a 2º PARCELA do ano está gravada.");
-const Message kNothingToSave = refusal(kSaveTitle, "Não Há Dados para Gravação!");
+const Message kNoPeriod =
+    refusal(kTitle, "Ainda Não Existe um Período Aquisitivo de Férias Selecionado!");
+const Message kSelectPeriod =
+    refusal(kTitle, "Selecione e Grave um Período Aquisitivo de Férias Desejado!");
+const Message kSettledSave =
+    refusal(kTitle,
+            "Não é Possível Alterar ou Gravar a Folha de Pagamento de um Período de Aquisição de "
+            "Férias Já Quitado!");
+const Message kUnsettleToSave = question(
+    kTitle,
+    "Para Alterar ou Gravar, é Necessário 'Restaurar Quitação' na Tela de Período de Aquisição de "
+    "Férias! Deseja Fazer Isso Agora?");
+const Message kSettledRestore = refusal(
+    kTitle,
+    "Não é Possível 'Restaurar' a Folha de Pagamento de um Período de Aquisição de Férias Já "
+    "Quitado!");
+const Message kUnsettleToRestore = question(
+    kTitle,
+    "Para 'Restaurar' é Necessário 'Restaurar Quitação' na Tela de Período de Aquisição de Férias! "
+    "Deseja Fazer Isso Agora?");
 
 Message noSalary(const Employee& employee) {
     const std::string salary = employee.salary.empty() ? moneyText({}) : employee.salary;
     return refusal(kTitle, "Erro! Valor do Salário deste Funcionário = R$ " + salary +
                                "!     Clique no Botão Funcionário e Altere o Valor do Salário.");
-}
-
-Message confirmSave(const OpenPayroll& payroll) {
-    constexpr std::string_view kText = "Deseja Gravar Somente o FUNCIONARIO SELECIONADO?";
-    if (!payroll.isRecorded) return question(kSaveTitle, std::string(kText));
-    std::string detail = "A folha já gravada será substituída.";
-    for (const std::string& line : payroll.unread)
-        detail += "\nLinha não entendida, que se perde: " + line;
-    return riskyQuestion(kSaveTitle, std::string(kText), detail);
-}
-
-Message confirmReopen(const OpenPayroll& payroll) {
-    const Employee& employee = payroll.month.employee;
-    const PayrollRun run = payroll.inputs.run;
-    std::string detail = "A folha de " + monthTitle(payroll.month.settings.month) + " de " +
-                         employee.code + " " + employee.name + " será excluída (" +
-                         std::string(captionOf(run)) + ").";
-    if (run == PayrollRun::Month)
-        detail +=
-            " Cadastro, cartão de ponto e afastamentos deste mês voltam a ser alterados "
-            "livremente.";
-    return riskyQuestion(kTitle, "Deseja Reabrir a Folha de Pagamento deste Mês?", detail);
-}
-
-std::string withoutText(PayrollRun run) {
-    return run == PayrollRun::Month ? "Sem cartão de ponto, salário ou contrato no mês: "
-                                    : "Sem salário ou contrato no mês: ";
 }
 
 Message noContractDays(const Employee& employee, WorkMonth month) {
@@ -65,12 +52,8 @@ PayrollGlance::Lack lackOf(const OpenPayroll& payroll) {
     const RunInputs& inputs = payroll.inputs;
     if (inputs.run == PayrollRun::Month && !payroll.month.hours) return Card;
     if (inputs.run == PayrollRun::ThirteenthSecond && !inputs.firstPaid) return FirstInstalment;
+    if (inputs.run == PayrollRun::Vacation && !inputs.vacation) return Period;
     return salaryOf(payroll.month.employee) ? Nothing : Salary;
-}
-
-bool hasAmounts(const PaySheet& sheet) {
-    return std::ranges::any_of(sheet.lines,
-                               [](const PayLine& line) { return line.amount.cents != 0; });
 }
 
 }  // namespace
@@ -170,6 +153,8 @@ Folha::Opening Folha::open(const Employee& employee) {
             return shown_ ? Opening::Opened : Opening::Refused;
         case PayrollGlance::Lack::Card:
             return at_.person.agrees(kNoCard) ? Opening::ToTimeCard : Opening::Refused;
+        case PayrollGlance::Lack::Period:
+            return openPeriods(employee);
         case PayrollGlance::Lack::FirstInstalment:
             at_.person.tell(kFirstBeforeSecond);
             return Opening::Refused;
@@ -183,7 +168,29 @@ Folha::Opening Folha::open(const Employee& employee) {
     return Opening::Refused;
 }
 
+Folha::Opening Folha::openPeriods(const Employee& employee) {
+    at_.person.tell(kNoPeriod);
+    at_.person.tell(kSelectPeriod);
+    desk_.showPeriods(employee);
+    const auto lack = show(employee);
+    return lack == PayrollGlance::Lack::Nothing && shown_ ? Opening::Opened : Opening::Refused;
+}
+
+bool Folha::requireNotSettled(Change change) {
+    const auto& vacation = shown_->inputs.vacation;
+    if (!vacation || !vacation->isSettled()) return true;
+    const bool restores = change == Change::Restore;
+    at_.person.tell(restores ? kSettledRestore : kSettledSave);
+    if (at_.person.agrees(restores ? kUnsettleToRestore : kUnsettleToSave)) {
+        const Employee employee = shown_->month.employee;
+        desk_.showPeriods(employee);
+        (void)show(employee);
+    }
+    return false;
+}
+
 bool Folha::compute(const TypedAmounts& typed) {
+    if (!requireNotSettled(Change::Record)) return false;
     return attempt(at_, incorrectData(), [&] {
         auto sheet = sheetOf(*shown_, typed);
         if (!sheet) {
@@ -197,123 +204,6 @@ bool Folha::compute(const TypedAmounts& typed) {
 
 bool Folha::isChanged() const {
     return shown_ && contentOf(shown_->month.employee, shown_->sheet).bytes != asShown_;
-}
-
-void Folha::requireUnchanged() const {
-    if (bytesOf(shown_->month.employee) != shown_->bytes) throw employeeChangedElsewhere("payroll");
-}
-
-bool Folha::requireFirstInstalment() const {
-    if (run_ != PayrollRun::ThirteenthSecond ||
-        recordedInYear(keyOf(shown_->month.employee), PayrollRun::ThirteenthFirst, month_.month,
-                       namesIn(at_.store())))
-        return true;
-    at_.person.tell(refusal(kSaveTitle, std::string(kNoFirstInstalment)));
-    return false;
-}
-
-bool Folha::requireNoSecondInstalment() const {
-    if (run_ != PayrollRun::ThirteenthFirst ||
-        !recordedInYear(keyOf(shown_->month.employee), PayrollRun::ThirteenthSecond, month_.month,
-                        namesIn(at_.store())))
-        return true;
-    at_.person.tell(kSecondStands);
-    return false;
-}
-
-bool Folha::save() {
-    if (!shown_ || !hasAmounts(shown_->sheet)) {
-        at_.person.tell(kNothingToSave);
-        return false;
-    }
-    if (!at_.person.agrees(confirmSave(*shown_))) return false;
-    return attemptWriting(at_, incorrectData(), [&] {
-        requireUnchanged();
-        if (!requireFirstInstalment()) return false;
-        auto content = contentOf(shown_->month.employee, shown_->sheet);
-        at_.files.replaceAll({content});
-        asShown_ = content.bytes;
-        shown_->now = shown_->sheet;
-        shown_->bytes = std::move(content.bytes);
-        shown_->isRecorded = true;
-        return true;
-    });
-}
-
-bool Folha::computeAll(const std::vector<Employee>& employees, const Progress& progress,
-                       std::vector<FileSystem::NewContent>& batch, Unsaved& unsaved) const {
-    int done = 0;
-    const FolderNames names = namesIn(at_.store());
-    for (const Employee& employee : employees) {
-        if (names.contains(payrollFileName(keyOf(employee), month_.month, run_)))
-            unsaved.recorded.push_back(employee.name);
-        else if (const auto seen = glance(employee, names); seen.payroll)
-            batch.push_back(contentOf(employee, seen.payroll->sheet));
-        else if (seen.lack == PayrollGlance::Lack::FirstInstalment)
-            unsaved.withoutFirst.push_back(employee.name);
-        else
-            unsaved.without.push_back(employee.name);
-        if (progress && !progress(++done, static_cast<int>(employees.size()))) return false;
-    }
-    return true;
-}
-
-bool Folha::confirmLeftOut(const Unsaved& unsaved, bool hasBatch) const {
-    std::string detail;
-    const auto say = [&](const std::string& words, const std::vector<std::string>& names) {
-        if (names.empty()) return;
-        detail += (detail.empty() ? "" : "\n") + words + namesText(names, kMostNames);
-    };
-    say(std::string(kNoFirstInstalment) + " ", unsaved.withoutFirst);
-    say(withoutText(run_), unsaved.without);
-    const bool leavesOut = !detail.empty();
-    say("Já gravados, ficam como estão: ", unsaved.recorded);
-    if (!hasBatch) {
-        Message nothing = kNothingToSave;
-        nothing.title = kSaveAllTitle;
-        nothing.detail = detail;
-        at_.person.tell(nothing);
-        return false;
-    }
-    return !leavesOut ||
-           at_.person.agrees(question(
-               kSaveAllTitle, "Não Há Dados para Gravação! Deseja Prosseguir?", std::move(detail)));
-}
-
-bool Folha::saveAll(const std::vector<Employee>& employees, const Progress& progress) {
-    if (!at_.person.agrees(
-            question(kSaveAllTitle, "Confirma Gravar TODOS OS FUNCIONARIOS DA LISTA?")))
-        return false;
-    return attempt(at_, incorrectData(), [&] {
-        std::vector<FileSystem::NewContent> batch;
-        Unsaved unsaved;
-        if (!computeAll(employees, progress, batch, unsaved) ||
-            !confirmLeftOut(unsaved, !batch.empty()))
-            return false;
-        const auto hold = holdFolder(at_);
-        const FolderNames names = namesIn(at_.store());
-        for (const auto& content : batch)
-            if (names.contains(content.file.filename().string())) throw changedElsewhere("payroll");
-        at_.files.replaceAll(batch);
-        return true;
-    });
-}
-
-bool Folha::reopen() {
-    if (!shown_ || !shown_->isRecorded || !at_.person.agrees(confirmReopen(*shown_))) return false;
-    return attemptWriting(at_, incorrectData(), [&] {
-        requireUnchanged();
-        if (!requireNoSecondInstalment()) return false;
-        (void)reopenPayroll(at_.store(), keyOf(shown_->month.employee), month_.month, run_);
-        shown_->bytes.reset();
-        shown_->isRecorded = false;
-        if (shown_->now) shown_->sheet = *std::move(shown_->now);
-        shown_->now.reset();
-        // What was typed is now on this screen only.
-        const bool isTyped = !typedAmounts(shown_->sheet).empty();
-        asShown_ = isTyped ? "" : contentOf(shown_->month.employee, shown_->sheet).bytes;
-        return true;
-    });
 }
 
 }  // namespace winvrx

@@ -29,7 +29,7 @@ struct OpenPayroll {
 
 /// An employee's month, or what keeps it from being computed.
 struct PayrollGlance {
-    enum class Lack { Nothing, Card, FirstInstalment, Salary, Contract };
+    enum class Lack { Nothing, Card, FirstInstalment, Period, Salary, Contract };
 
     Lack lack = Lack::Nothing;  ///< the first of them; of a recorded month nothing
     std::optional<OpenPayroll> payroll = {};
@@ -38,13 +38,19 @@ struct PayrollGlance {
 /// Whether a recorded month, recorded again, would have other amounts, or could not be computed.
 [[nodiscard]] bool hasMovedOn(const OpenPayroll& payroll);
 
+/// What opens beside the payroll screen: the vacation periods of an employee. Returns when it is
+/// closed.
+struct FolhaDesk {
+    std::function<void(const Employee&)> showPeriods = [](const Employee&) {};
+};
+
 /// The payroll screen: computes, records and reopens the months of a company's employees. A command
 /// that is refused or fails leaves every file as it was.
 class Folha {
   public:
     /// `legalFolder` has the delivered tables.
-    Folha(const Workplace& at, std::filesystem::path legalFolder)
-        : at_(at), legalFolder_(std::move(legalFolder)) {}
+    Folha(const Workplace& at, std::filesystem::path legalFolder, FolhaDesk desk = {})
+        : at_(at), legalFolder_(std::move(legalFolder)), desk_(std::move(desk)) {}
 
     /// Reads what all payrolls of a run and month need. False, and told, when something cannot be
     /// read.
@@ -88,9 +94,14 @@ class Folha {
     struct Unsaved {
         std::vector<std::string> without;
         std::vector<std::string> withoutFirst;
+        std::vector<std::string> withoutPeriod;
         std::vector<std::string> recorded;
     };
 
+    [[nodiscard]] Opening openPeriods(const Employee& employee);
+    enum class Change { Record, Restore };
+    [[nodiscard]] bool requireNotSettled(Change change);
+    void requireSameVacation() const;
     [[nodiscard]] bool requireFirstInstalment() const;
     [[nodiscard]] bool requireNoSecondInstalment() const;
 
@@ -101,6 +112,9 @@ class Folha {
     [[nodiscard]] std::optional<std::string> bytesOf(const Employee& employee) const;
     [[nodiscard]] FileSystem::NewContent contentOf(const Employee& employee,
                                                    const PaySheet& sheet) const;
+    /// The payroll, and the first instalment of a 13th where it is paid with a vacation.
+    [[nodiscard]] std::vector<FileSystem::NewContent> contentsOf(const OpenPayroll& payroll,
+                                                                 const FolderNames& names) const;
     [[nodiscard]] EmployeeKey keyOf(const Employee& employee) const;
     void requireUnchanged() const;
     [[nodiscard]] bool computeAll(const std::vector<Employee>& employees, const Progress& progress,
@@ -110,6 +124,7 @@ class Folha {
 
     Workplace at_;
     std::filesystem::path legalFolder_;
+    FolhaDesk desk_;
     PayrollRun run_ = PayrollRun::Month;
     MonthSettings month_;
     mutable SettingsByMonth months_;  ///< of months that a glance looks back to

@@ -25,6 +25,8 @@ std::string_view textOf(PayrollGlance::Lack lack) {
             return "Planilha de Ponto não preenchida neste mês.";
         case PayrollGlance::Lack::FirstInstalment:
             return "1º parcela do 13º salário ainda não gravada neste ano.";
+        case PayrollGlance::Lack::Period:
+            return "Sem férias gravadas para este mês.";
         case PayrollGlance::Lack::Salary:
             return "Sem salário no cadastro.";
         case PayrollGlance::Lack::Contract:

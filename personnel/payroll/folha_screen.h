@@ -16,8 +16,11 @@ namespace winvrx {
 class FolhaScreen {
   public:
     /// `legalFolder` has the delivered tables.
-    FolhaScreen(const Workplace& at, const std::filesystem::path& legalFolder)
-        : at_(at), locks_(at.store()), folha_(at, legalFolder), list_(at.session.shiftFilter) {}
+    FolhaScreen(const Workplace& at, const std::filesystem::path& legalFolder, FolhaDesk desk = {})
+        : at_(at),
+          locks_(at.store()),
+          folha_(at, legalFolder, std::move(desk)),
+          list_(at.session.shiftFilter) {}
 
     /// Reads month, company and employees again; whoever was in hand stays so. False, and told,
     /// when no company or month is chosen, or something cannot be read.

@@ -19,6 +19,8 @@ std::string_view textOf(PayrollGlance::Lack lack) {
             return "Sem cartão de ponto";
         case PayrollGlance::Lack::FirstInstalment:
             return "Sem a 1º parcela";
+        case PayrollGlance::Lack::Period:
+            return "Sem férias gravadas";
         case PayrollGlance::Lack::Salary:
             return "Sem salário";
         case PayrollGlance::Lack::Contract:

@@ -46,6 +46,11 @@ std::optional<RecordedPayroll> loadPayroll(const Store& store, const EmployeeKey
     return payroll;
 }
 
+std::optional<Money> vacationNetPaid(const Store& store, const EmployeeKey& key, WorkMonth month) {
+    const auto recorded = loadPayroll(store, key, month, PayrollRun::Vacation);
+    return recorded ? std::optional(recorded->sheet.net) : std::nullopt;
+}
+
 TypedAmounts typedAmounts(const PaySheet& sheet) {
     TypedAmounts typed;
     for (const PayLine& line : sheet.lines)

@@ -51,6 +51,11 @@ struct RecordedPayroll {
                                                          WorkMonth month,
                                                          PayrollRun run = PayrollRun::Month);
 
+/// The net total of the vacation pay that is recorded in a month; nullopt where none is. Throws
+/// FileFault.
+[[nodiscard]] std::optional<Money> vacationNetPaid(const Store& store, const EmployeeKey& key,
+                                                   WorkMonth month);
+
 /// The amounts that were typed over in a recorded payroll.
 [[nodiscard]] TypedAmounts typedAmounts(const PaySheet& sheet);
 

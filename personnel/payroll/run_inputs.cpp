@@ -1,8 +1,10 @@
 #include "personnel/payroll/run_inputs.h"
 
+#include "personnel/pay/inss.h"
 #include "personnel/pay/thirteenth.h"
 #include "personnel/payroll/pay_sheet.h"
 #include "personnel/payroll/payroll_record.h"
+#include "personnel/vacation/vacation_periods.h"
 
 #include <algorithm>
 
@@ -43,20 +45,99 @@ ThirteenthSheet thirteenthSheet(const PayrollLaw& law, const EmployeeMonth& of,
             .averagesMemo = averages.memo};
 }
 
+VacationSheet vacationSheet(const PayrollLaw& law, const EmployeeMonth& of, const RunInputs& inputs,
+                            const MonthPayCase& month) {
+    const VacationItem& item = inputs.vacation.value();
+    const LeavePeriod away = item.away().value();
+    const Reckoning averages = variablePayAverage(law, month, inputs.history.recorded);
+    const auto period = periodOf(of.employee.admissionDate(), item);
+    const bool isTogether = law.settings.vacationReduction == VacationReduction::WithMonth;
+    return {.pay = {.salary = month.salary,
+                    .averages = averages.amount,
+                    .days = item.days(),
+                    .soldDays = item.soldDays(),
+                    .doubledDays = daysPastLimit(period, away.first, item.days()),
+                    .dependants = month.dependants,
+                    .competence = monthOf(away.first),
+                    .paid = vacationPaymentDue(away.first),
+                    .monthsIncome = isTogether ? month.salary : Money{}},
+            .start = away.first,
+            .averagesMemo = averages.memo};
+}
+
+/// What the month's INSS takes of vacations: the pay of their days in it, and what was withheld of
+/// that. The last month of a vacation has what the months before left of its INSS.
+void takePaid(const PayrollLaw& law, const std::vector<PaidVacation>& vacations,
+              MonthPayCase& month) {
+    for (const PaidVacation& one : vacations) {
+        Money left = one.inss;
+        const auto shares = sharesByMonth(one.taxable, one.away.first, one.days);
+        for (const VacationShare& share : shares) {
+            Money withheld = left;
+            if (share.month != shares.back().month)
+                withheld = std::min(left, inss(law, share.amount, share.month, "").amount);
+            left = left - withheld;
+            if (share.month != month.part.month()) continue;
+            month.vacationBase = month.vacationBase + share.amount;
+            month.vacationInss = month.vacationInss + withheld;
+        }
+    }
+}
+
+std::vector<PaidVacation> paidIn(const Store& store, const EmployeeKey& key, WorkMonth month,
+                                 const VacationLines& lines, const FolderNames& names) {
+    std::vector<PaidVacation> paid;
+    for (const VacationLine& line : lines) {
+        const auto away = line.record.away();
+        const auto when = line.record.workMonth();
+        if (!line.key() || !away || !away->touches(month) ||
+            !names.contains(payrollFileName(key, *when, PayrollRun::Vacation)))
+            continue;
+        if (const auto recorded = loadPayroll(store, key, *when, PayrollRun::Vacation))
+            paid.push_back({*away, line.record.days(),
+                            taxedPay(recorded->sheet, PayrollKind::Vacation),
+                            recorded->sheet.amountOf("093")});
+    }
+    return paid;
+}
+
+void loadThirteenth(const Store& store, const CompanyCode& company, const EmployeeMonth& of,
+                    SettingsByMonth& settings, const FolderNames& names, RunInputs& inputs) {
+    const WorkMonth month = of.settings.month;
+    inputs.history = loadCardHistory(store, company, of.employee,
+                                     {firstOfYear(month), lastDay(month)}, settings, names);
+    if (inputs.run == PayrollRun::ThirteenthFirst) return;
+    const EmployeeKey key{company, of.employee.employeeCode().value()};
+    if (const auto first = recordedInYear(key, PayrollRun::ThirteenthFirst, month, names))
+        if (const auto paid = loadPayroll(store, key, *first, PayrollRun::ThirteenthFirst))
+            inputs.firstPaid = paid->sheet.net;
+}
+
+void loadVacation(const Store& store, const CompanyCode& company, const EmployeeMonth& of,
+                  SettingsByMonth& settings, const FolderNames& names, RunInputs& inputs) {
+    const EmployeeKey key{company, of.employee.employeeCode().value()};
+    const VacationLines lines = loadVacations(store, key, names);
+    if (inputs.run == PayrollRun::Month) {
+        inputs.paid = paidIn(store, key, of.settings.month, lines, names);
+        return;
+    }
+    const VacationItem* item = vacationOf(lines, of.settings.month);
+    if (item == nullptr) return;
+    inputs.vacation = *item;
+    const AcquisitionPeriod period = periodOf(of.employee.admissionDate(), *item);
+    inputs.history =
+        loadCardHistory(store, company, of.employee, {period.first, period.last}, settings, names);
+}
+
 }  // namespace
 
 RunInputs loadRunInputs(const Store& store, const CompanyCode& company, const EmployeeMonth& of,
                         PayrollRun run, SettingsByMonth& settings, const FolderNames& names) {
     RunInputs inputs{.run = run};
-    if (!isThirteenth(run)) return inputs;
-    const WorkMonth month = of.settings.month;
-    const EmployeeKey key{company, of.employee.employeeCode().value()};
-    inputs.history = loadCardHistory(store, company, of.employee,
-                                     {firstOfYear(month), lastDay(month)}, settings, names);
-    if (run == PayrollRun::ThirteenthFirst) return inputs;
-    if (const auto first = recordedInYear(key, PayrollRun::ThirteenthFirst, month, names))
-        if (const auto paid = loadPayroll(store, key, *first, PayrollRun::ThirteenthFirst))
-            inputs.firstPaid = paid->sheet.net;
+    if (isThirteenth(run))
+        loadThirteenth(store, company, of, settings, names, inputs);
+    else
+        loadVacation(store, company, of, settings, names, inputs);
     return inputs;
 }
 
@@ -79,8 +160,10 @@ std::optional<PaySheetCase> runCase(const PayrollLaw& law, const EmployeeMonth& 
     auto month = monthCase(law, of, paymentDay(inputs.run, of.settings.month));
     if (!month) return std::nullopt;
     PaySheetCase one{.month = *std::move(month), .hasMonth = inputs.run == PayrollRun::Month};
-    if (isThirteenth(inputs.run))
-        one.thirteenth = thirteenthSheet(law, of, inputs, withReferences(one.month, events));
+    takePaid(law, inputs.paid, one.month);
+    const MonthPayCase referenced = withReferences(one.month, events);
+    if (isThirteenth(inputs.run)) one.thirteenth = thirteenthSheet(law, of, inputs, referenced);
+    if (inputs.vacation) one.vacation = vacationSheet(law, of, inputs, referenced);
     return one;
 }
 

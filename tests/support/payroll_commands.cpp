@@ -50,19 +50,37 @@ FileTable recordedOffice() {
     return files;
 }
 
+/// A vacation of the second, with the first instalment of the 13th.
+FileTable vacationOffice() {
+    FileTable files = payingOffice();
+    files[inDataFolder("01Ferias002")] = encode(VacationItem{.acquisitionFirst = "12/03/2024",
+                                                             .acquisitionLast = "11/03/2025",
+                                                             .kind = "FERIAS",
+                                                             .granted = "30",
+                                                             .first = "06/05/2024",
+                                                             .last = "25/05/2024",
+                                                             .sold = "10",
+                                                             .thirteenth = "S",
+                                                             .month = "03-2024"}) +
+                                         "\r\n";
+    return files;
+}
+
 template <typename Give>
-auto inPayroll(Give give) {
-    return [give](const Workplace& at, const Drives&) {
+auto inPayroll(Give give, PayrollRun run = PayrollRun::Month) {
+    return [give, run](const Workplace& at, const Drives&) {
         Folha screen(at, at.session.folder.path());
-        return screen.load(2024y / 3) && give(screen);
+        return screen.load(2024y / 3, run) && give(screen);
     };
 }
 
 template <typename Give>
-auto ofSecond(Give give) {
-    return inPayroll([give](Folha& screen) {
-        return screen.open(paidEmployees().at(1)) == Folha::Opening::Opened && give(screen);
-    });
+auto ofSecond(Give give, PayrollRun run = PayrollRun::Month) {
+    return inPayroll(
+        [give](Folha& screen) {
+            return screen.open(paidEmployees().at(1)) == Folha::Opening::Opened && give(screen);
+        },
+        run);
 }
 
 template <typename Give>
@@ -109,6 +127,11 @@ std::vector<WritingCommand> payrollCommands() {
          inPayroll([](Folha& screen) { return screen.saveAll(paidEmployees(), {}); })},
         {"reopen payroll", recordedOffice(),
          ofSecond([](Folha& screen) { return screen.reopen(); })},
+        {"record vacation pay", vacationOffice(),
+         ofSecond([](Folha& screen) { return screen.save(); }, PayrollRun::Vacation)},
+        {"record all first instalments", payingOffice(),
+         inPayroll([](Folha& screen) { return screen.saveAll(paidEmployees(), {}); },
+                   PayrollRun::ThirteenthFirst)},
         {"include event", payingOffice(),
          inEvents({}, [=](Eventos& screen) { return screen.includeNew(commission); })},
         {"change event", payingOffice(),

@@ -46,7 +46,7 @@ const std::vector<WritingCommand>& writingCommands() {
         for (const auto& part :
              {registerCommands(), listCommands(), menuCommands(), monthCommands(), cardCommands(),
               printCommands(), leaveCommands(), rotationCommands(), payrollCommands(),
-              contractCommands(), internetCommands(), documentCommands()})
+              contractCommands(), internetCommands(), documentCommands(), vacationCommands()})
             all.insert(all.end(), part.begin(), part.end());
         return all;
     }();

@@ -40,6 +40,7 @@ void PrintTo(const WritingCommand& command, std::ostream* out);
 [[nodiscard]] std::vector<WritingCommand> contractCommands();
 [[nodiscard]] std::vector<WritingCommand> internetCommands();
 [[nodiscard]] std::vector<WritingCommand> documentCommands();
+[[nodiscard]] std::vector<WritingCommand> vacationCommands();
 
 [[nodiscard]] const std::vector<WritingCommand>& writingCommands();
 [[nodiscard]] const WritingCommand& writingCommand(const std::string& name);

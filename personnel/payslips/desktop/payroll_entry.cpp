@@ -9,6 +9,7 @@
 #include "personnel/payroll/eventos.h"
 #include "personnel/payroll/payroll_overview.h"
 #include "personnel/payslips/folha_papers.h"
+#include "personnel/payslips/run_receipt.h"
 #include "timecard/month/desktop/month_entry.h"
 
 namespace winvrx {
@@ -63,12 +64,22 @@ void print(FolhaPapers& papers, FolhaPaper paper, QWidget* over) {
     }
 }
 
+/// A vacation's and a 13th's have words of their own.
+bool showReceiptOf(const Workplace& at, const PaperDesk& desk, const FolhaScreen& screen) {
+    const auto& shown = screen.folha().shown();
+    return showRunReceipt(at, desk, shown ? &*shown : nullptr);
+}
+
 }  // namespace
 
 void openPayroll(const Workplace& at, const PayrollDesk& desk, QWidget* parent) {
-    FolhaScreen screen(at, desk.legalFolder);
+    QWidget* front = parent;
+    FolhaScreen screen(at, desk.legalFolder, {[&](const Employee& one) {
+                           desk.openVacations(front, one.employeeCode());
+                       }});
     (void)screen.open();
     FolhaWindow window(screen, parent);
+    front = &window;
     const auto comeBack = [&] {
         (void)screen.open();
         window.refresh();
@@ -97,9 +108,12 @@ void openPayroll(const Workplace& at, const PayrollDesk& desk, QWidget* parent) 
     });
     QObject::connect(&window, &FolhaWindow::overviewRequested, &window,
                      [&] { openOverview(at, screen, window); });
-    FolhaPapers papers(at, {desk.engine, desk.writer}, screen);
-    QObject::connect(&window, &FolhaWindow::paperRequested, &window,
-                     [&](FolhaPaper paper) { print(papers, paper, &window); });
+    FolhaPapers papers(at, {desk.engine, desk.papers.writer}, screen);
+    QObject::connect(&window, &FolhaWindow::paperRequested, &window, [&](FolhaPaper paper) {
+        if (paper == FolhaPaper::Receipt && screen.folha().run() != PayrollRun::Month)
+            return (void)showReceiptOf(at, desk.papers, screen);
+        print(papers, paper, &window);
+    });
     window.exec();
 }
 

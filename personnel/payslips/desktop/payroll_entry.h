@@ -2,6 +2,7 @@
 
 #include "foundation/desk/command.h"
 #include "foundation/desk/desktop/menu_entry.h"
+#include "personnel/vacation/vacation_notice.h"
 
 #include <filesystem>
 #include <functional>
@@ -10,18 +11,19 @@
 namespace winvrx {
 
 class ReportEngine;
-class WordProcessor;
 
 /// What the payroll works with beside the workplace. All outlive the entry.
 struct PayrollDesk {
     ReportEngine& engine;
-    WordProcessor& writer;
+    PaperDesk papers;
     std::filesystem::path legalFolder;  ///< of the delivered tables
     /// Returns when the time card of the employee is closed.
     std::function<void(QWidget* parent, const std::optional<EmployeeCode>& inHand)> openTimeCard;
     /// Return when the company's options, and what the payroll needs of the employee, are closed.
     std::function<void(QWidget* parent)> openOptions;
     std::function<void(QWidget* parent, const std::optional<EmployeeCode>& inHand)> openFacts;
+    /// Returns when the vacation periods of the employee are closed.
+    std::function<void(QWidget* parent, const std::optional<EmployeeCode>& inHand)> openVacations;
 };
 
 /// Opens the payroll's screen and returns when it is closed.

@@ -36,6 +36,7 @@ TEST(CopiedFilesTest, NamesTellTheirSubject) {
         {"02MedHorExtr001", "Empresa 02: horas extras"},
         {"02configAf001", "Empresa 02: afastamentos"},
         {"02contrato001", "Empresa 02: contratos de trabalho"},
+        {"02Ferias001", "Empresa 02: férias"},
         {"02GRUPO-032024.rdx", "Empresa 02: grupos de revezamento"},
         {"02001-03-2024.bdx", "Empresa 02: cartões de março/2024"},
         {"02001032024.pdx", "Empresa 02: arquivos de março/2024"},

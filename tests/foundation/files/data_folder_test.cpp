@@ -64,6 +64,8 @@ TEST(DataFolder, NamesAreReadByPosition) {
                           {"01configAf010", true, false},
                           {"01contrato001", true, true},
                           {"01contrato002", true, false},
+                          {"01Ferias001", true, true},
+                          {"01Ferias002", true, false},
                           {"01TRTC001", true, true},
                           {"01THRTC002", true, false},
                           {"01AviTRTC001", true, true},

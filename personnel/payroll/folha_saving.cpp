@@ -1,0 +1,203 @@
+#include "personnel/payroll/folha.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::string_view kTitle = "Folha";
+constexpr std::string_view kSaveTitle = "GRAVAR";
+constexpr std::string_view kSaveAllTitle = "GRAVAR TODOS";
+
+constexpr std::string_view kNoFirstInstalment = "1º PARCELA DO 13º SALARIO NÃO GERADA!";
+const Message kSecondStands = refusal(
+    kTitle, "A 1º PARCELA não pode ser reaberta enquanto a 2º PARCELA do ano está gravada.");
+const Message kNothingToSave = refusal(kSaveTitle, "Não Há Dados para Gravação!");
+
+Message confirmSave(const OpenPayroll& payroll) {
+    constexpr std::string_view kText = "Deseja Gravar Somente o FUNCIONARIO SELECIONADO?";
+    if (!payroll.isRecorded) return question(kSaveTitle, std::string(kText));
+    std::string detail = "A folha já gravada será substituída.";
+    for (const std::string& line : payroll.unread)
+        detail += "\nLinha não entendida, que se perde: " + line;
+    return riskyQuestion(kSaveTitle, std::string(kText), detail);
+}
+
+Message confirmReopen(const OpenPayroll& payroll) {
+    const Employee& employee = payroll.month.employee;
+    const PayrollRun run = payroll.inputs.run;
+    std::string detail = "A folha de " + monthTitle(payroll.month.settings.month) + " de " +
+                         employee.code + " " + employee.name + " será excluída (" +
+                         std::string(captionOf(run)) + ").";
+    if (run == PayrollRun::Month)
+        detail +=
+            " Cadastro, cartão de ponto e afastamentos deste mês voltam a ser alterados "
+            "livremente.";
+    return riskyQuestion(kTitle, "Deseja Reabrir a Folha de Pagamento deste Mês?", detail);
+}
+
+std::string withoutText(PayrollRun run) {
+    return run == PayrollRun::Month ? "Sem cartão de ponto, salário ou contrato no mês: "
+                                    : "Sem salário ou contrato no mês: ";
+}
+
+bool hasAmounts(const PaySheet& sheet) {
+    return std::ranges::any_of(sheet.lines,
+                               [](const PayLine& line) { return line.amount.cents != 0; });
+}
+
+}  // namespace
+
+void Folha::requireUnchanged() const {
+    if (bytesOf(shown_->month.employee) != shown_->bytes) throw employeeChangedElsewhere("payroll");
+}
+
+void Folha::requireSameVacation() const {
+    const auto& vacation = shown_->inputs.vacation;
+    if (!vacation) return;
+    const auto lines = vacationFile(at_.store(), keyOf(shown_->month.employee)).load();
+    const VacationItem* now = vacationOf(lines, month_.month);
+    if (now == nullptr || *now != *vacation) throw employeeChangedElsewhere("vacation");
+}
+
+std::vector<FileSystem::NewContent> Folha::contentsOf(const OpenPayroll& payroll,
+                                                      const FolderNames& names) const {
+    const Employee& employee = payroll.month.employee;
+    std::vector<FileSystem::NewContent> contents{contentOf(employee, payroll.sheet)};
+    constexpr auto kFirst = PayrollRun::ThirteenthFirst;
+    if (!payroll.inputs.vacation || !payroll.inputs.vacation->hasThirteenth() ||
+        recordedInYear(keyOf(employee), kFirst, month_.month, names))
+        return contents;
+    OpenPayroll first = payroll;
+    first.inputs = loadRunInputs(at_.store(), at_.session.company.value(), payroll.month, kFirst,
+                                 months_, names);
+    if (const auto sheet = sheetOf(first, {}))
+        contents.push_back(
+            payrollContent(at_.store(), keyOf(employee), month_.month, *sheet, kFirst));
+    return contents;
+}
+
+bool Folha::requireFirstInstalment() const {
+    if (run_ != PayrollRun::ThirteenthSecond ||
+        recordedInYear(keyOf(shown_->month.employee), PayrollRun::ThirteenthFirst, month_.month,
+                       namesIn(at_.store())))
+        return true;
+    at_.person.tell(refusal(kSaveTitle, std::string(kNoFirstInstalment)));
+    return false;
+}
+
+bool Folha::requireNoSecondInstalment() const {
+    if (run_ != PayrollRun::ThirteenthFirst ||
+        !recordedInYear(keyOf(shown_->month.employee), PayrollRun::ThirteenthSecond, month_.month,
+                        namesIn(at_.store())))
+        return true;
+    at_.person.tell(kSecondStands);
+    return false;
+}
+
+bool Folha::save() {
+    if (!shown_ || !hasAmounts(shown_->sheet)) {
+        at_.person.tell(kNothingToSave);
+        return false;
+    }
+    if (!requireNotSettled(Change::Record) || !at_.person.agrees(confirmSave(*shown_)))
+        return false;
+    return attemptWriting(at_, incorrectData(), [&] {
+        requireUnchanged();
+        requireSameVacation();
+        if (!requireFirstInstalment()) return false;
+        const auto contents = contentsOf(*shown_, namesIn(at_.store()));
+        at_.files.replaceAll(contents);
+        asShown_ = contents.front().bytes;
+        shown_->now = shown_->sheet;
+        shown_->bytes = contents.front().bytes;
+        shown_->isRecorded = true;
+        return true;
+    });
+}
+
+bool Folha::computeAll(const std::vector<Employee>& employees, const Progress& progress,
+                       std::vector<FileSystem::NewContent>& batch, Unsaved& unsaved) const {
+    int done = 0;
+    const FolderNames names = namesIn(at_.store());
+    for (const Employee& employee : employees) {
+        if (names.contains(payrollFileName(keyOf(employee), month_.month, run_)))
+            unsaved.recorded.push_back(employee.name);
+        else if (const auto seen = glance(employee, names); seen.payroll)
+            std::ranges::move(contentsOf(*seen.payroll, names), std::back_inserter(batch));
+        else if (seen.lack == PayrollGlance::Lack::FirstInstalment)
+            unsaved.withoutFirst.push_back(employee.name);
+        else if (seen.lack == PayrollGlance::Lack::Period)
+            unsaved.withoutPeriod.push_back(employee.name);
+        else
+            unsaved.without.push_back(employee.name);
+        if (progress && !progress(++done, static_cast<int>(employees.size()))) return false;
+    }
+    return true;
+}
+
+bool Folha::confirmLeftOut(const Unsaved& unsaved, bool hasBatch) const {
+    std::string detail;
+    const auto say = [&](const std::string& words, const std::vector<std::string>& names) {
+        if (names.empty()) return;
+        detail += (detail.empty() ? "" : "\n") + words + namesText(names, kMostNames);
+    };
+    say(std::string(kNoFirstInstalment) + " ", unsaved.withoutFirst);
+    say("Sem férias gravadas para este mês: ", unsaved.withoutPeriod);
+    say(withoutText(run_), unsaved.without);
+    const bool leavesOut = !detail.empty();
+    say("Já gravados, ficam como estão: ", unsaved.recorded);
+    if (!hasBatch) {
+        Message nothing = kNothingToSave;
+        nothing.title = kSaveAllTitle;
+        nothing.detail = detail;
+        at_.person.tell(nothing);
+        return false;
+    }
+    return !leavesOut ||
+           at_.person.agrees(question(
+               kSaveAllTitle, "Não Há Dados para Gravação! Deseja Prosseguir?", std::move(detail)));
+}
+
+bool Folha::saveAll(const std::vector<Employee>& employees, const Progress& progress) {
+    if (!at_.person.agrees(
+            question(kSaveAllTitle, "Confirma Gravar TODOS OS FUNCIONARIOS DA LISTA?")))
+        return false;
+    return attempt(at_, incorrectData(), [&] {
+        std::vector<FileSystem::NewContent> batch;
+        Unsaved unsaved;
+        if (!computeAll(employees, progress, batch, unsaved) ||
+            !confirmLeftOut(unsaved, !batch.empty()))
+            return false;
+        const auto hold = holdFolder(at_);
+        const FolderNames names = namesIn(at_.store());
+        for (const auto& content : batch)
+            if (names.contains(content.file.filename().string())) throw changedElsewhere("payroll");
+        at_.files.replaceAll(batch);
+        return true;
+    });
+}
+
+bool Folha::reopen() {
+    if (!shown_ || !shown_->isRecorded || !requireNotSettled(Change::Restore) ||
+        !at_.person.agrees(confirmReopen(*shown_)))
+        return false;
+    return attemptWriting(at_, incorrectData(), [&] {
+        requireUnchanged();
+        requireSameVacation();
+        if (!requireNoSecondInstalment()) return false;
+        (void)reopenPayroll(at_.store(), keyOf(shown_->month.employee), month_.month, run_);
+        shown_->bytes.reset();
+        shown_->isRecorded = false;
+        if (shown_->now) shown_->sheet = *std::move(shown_->now);
+        shown_->now.reset();
+        // What was typed is now on this screen only.
+        const bool isTyped = !typedAmounts(shown_->sheet).empty();
+        asShown_ = isTyped ? "" : contentOf(shown_->month.employee, shown_->sheet).bytes;
+        return true;
+    });
+}
+
+}  // namespace winvrx

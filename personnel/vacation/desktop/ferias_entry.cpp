@@ -1,0 +1,55 @@
+#include "personnel/vacation/desktop/ferias_entry.h"
+
+#include "foundation/register/employee_queries.h"
+#include "foundation/values/desktop/qt_text.h"
+#include "personnel/vacation/desktop/ferias_window.h"
+#include "personnel/vacation/due_vacations.h"
+#include "personnel/vacation/ferias.h"
+#include "timecard/month/desktop/month_entry.h"
+
+namespace winvrx {
+
+namespace {
+
+QString stateOf(const Workplace& at) {
+    if (!at.session.company) return QStringLiteral("Períodos e vencimentos");
+    try {
+        return toQt(dueState(at.store(), *at.session.company, at.clock.today()));
+    } catch (const std::exception& fault) {
+        at.log.write(std::string("due vacations not looked up: ") + fault.what());
+        return QStringLiteral("Períodos e vencimentos");
+    }
+}
+
+}  // namespace
+
+void openVacations(const Workplace& at, const FeriasEntryDesk& desk, QWidget* parent,
+                   const std::optional<EmployeeCode>& inHand) {
+    const RecordedAnswers records(at.store());
+    Ferias vacations(at, {records, desk.netPaid});
+    if (vacations.open() && inHand) (void)vacations.select(*inHand);
+    FeriasWindow window(vacations, parent);
+    QObject::connect(&window, &FeriasWindow::monthRequested, &window, [&] {
+        openWorkMonth(at, &window);
+        (void)vacations.open();
+        window.refresh();
+    });
+    QObject::connect(&window, &FeriasWindow::noticeRequested, &window, [&] {
+        const PeriodRow* row = vacations.chosenRow();
+        (void)printVacationNotice(at, desk.papers, vacations.selected(),
+                                  row ? vacations.itemOf(*row) : nullptr);
+    });
+    window.exec();
+}
+
+MenuEntry vacationsEntry(const Workplace& at, const FeriasEntryDesk& desk) {
+    return {.group = QStringLiteral("Pessoal"),
+            .objectName = QStringLiteral("menu.vacations.open"),
+            .icon = QStringLiteral("leave"),
+            .title = QStringLiteral("Féria&s"),
+            .needs = MenuNeeds::Employees,
+            .open = [at, desk](QWidget* parent) { openVacations(at, desk, parent); },
+            .state = [at](const MonthProgress*) { return stateOf(at); }};
+}
+
+}  // namespace winvrx
