@@ -77,7 +77,8 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
         [leaves](const Workplace& office, QWidget* parent, const auto& inHand) {
             openLeaves(office, leaves, parent, inHand);
         },
-        openRotation, openHours};
+        openRotation, openHours,
+        [at, hours](QWidget* parent) { showHoursSummary(at, hours, parent); }};
     add({timeCardEntry(at, timeCard)});
     add(cardEntries(at, printing));
     add(hoursEntries(at, hours));

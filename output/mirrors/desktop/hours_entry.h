@@ -26,6 +26,9 @@ struct HoursEntryDesk {
 /// Opens the screen of the hours reports.
 void openHoursReports(const Workplace& at, const HoursEntryDesk& desk, QWidget* parent);
 
+/// Shows the work month at a glance: bars of everyone's hours.
+void showHoursSummary(const Workplace& at, const HoursEntryDesk& desk, QWidget* parent);
+
 /// The commands of the main window: the reports, and the mirror, which the same screen prints.
 [[nodiscard]] MenuEntries hoursEntries(const Workplace& at, const HoursEntryDesk& desk);
 

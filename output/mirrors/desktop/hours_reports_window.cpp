@@ -32,6 +32,13 @@ QString countText(std::size_t people) {
 
 }  // namespace
 
+Progress hoursProgress(QWidget* parent) {
+    return Progress({QStringLiteral("horas.progress"), QStringLiteral("GERANDO RELATÓRIO"),
+                     QStringLiteral("Funcionário %1 de %2"),
+                     QStringLiteral("Gravando os dados de %1 funcionários…")},
+                    parent);
+}
+
 HoursReportsWindow::HoursReportsWindow(HoursReports& reports,
                                        std::function<void(QWidget* parent)> openWorkMonth,
                                        QWidget* parent)
@@ -224,10 +231,7 @@ bool HoursReportsWindow::requireTakenPeriod() {
 template <typename Make>
 void HoursReportsWindow::make(Make&& make) {
     if (!requireTakenPeriod()) return;
-    Progress progress({QStringLiteral("horas.progress"), QStringLiteral("GERANDO RELATÓRIO"),
-                       QStringLiteral("Funcionário %1 de %2"),
-                       QStringLiteral("Gravando os dados de %1 funcionários…")},
-                      this);
+    Progress progress = hoursProgress(this);
     (void)make([&progress](int done, int total) { return progress.show(done, total); });
 }
 

@@ -10,6 +10,10 @@ namespace winvrx {
 class EmployeePicker;
 class Field;
 class OutputChoice;
+class Progress;
+
+/// How far a report is.
+[[nodiscard]] Progress hoursProgress(QWidget* parent);
 
 /// The hours reports: employees at the left, the period and what to make of it at the right.
 class HoursReportsWindow : public ScreenWindow {

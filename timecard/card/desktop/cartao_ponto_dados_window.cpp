@@ -74,6 +74,12 @@ QWidget* CartaoPontoDadosWindow::buildSide() {
         {.screen = QStringLiteral("card"), .shifts = kAllShiftFilters, .scales = true}, side_);
     column->addWidget(employees_, 1);
     column->addWidget(buildHours());
+    auto* summary = new QPushButton(QStringLiteral("Resumo Folha de Ponto"), side_);
+    look::name(*summary, QStringLiteral("card.summary"), summary->text());
+    summary->setAutoDefault(false);
+    leadOn(*summary, QStringLiteral("preview"), Qt::CTRL | Qt::Key_R,
+           &CartaoPontoDadosWindow::summaryRequested);
+    column->addWidget(summary);
     QRadioButton* enter = buildEntryMode(QStringLiteral("Usar Tecla &ENTER"),
                                          QStringLiteral("card.useEnter"), Qt::Key_Return);
     enter->setChecked(true);
@@ -179,25 +185,26 @@ void CartaoPontoDadosWindow::buildCommands() {
                    Qt::Key_F7, QStringLiteral("card.monthSettings"));
     connect(month, &QToolButton::clicked, this,
             [this] { leaveFor(&CartaoPontoDadosWindow::monthSettingsRequested); });
-    addWay(QStringLiteral("leave"), QStringLiteral("Afasta&mentos  F8"), Qt::Key_F8,
-           QStringLiteral("card.leaves"), &CartaoPontoDadosWindow::leavesRequested);
-    addWay(QStringLiteral("rotation"), QStringLiteral("+ Quadro Horário e Escala de Revezamento"),
-           Qt::CTRL | Qt::Key_E, QStringLiteral("card.rotation"),
+    leadOn(*addClosingButton(QStringLiteral("Afasta&mentos  F8"), QStringLiteral("card.leaves")),
+           QStringLiteral("leave"), Qt::Key_F8, &CartaoPontoDadosWindow::leavesRequested);
+    leadOn(*addClosingButton(QStringLiteral("+ Quadro Horário e Escala de Revezamento"),
+                             QStringLiteral("card.rotation")),
+           QStringLiteral("rotation"), Qt::CTRL | Qt::Key_E,
            &CartaoPontoDadosWindow::rotationRequested);
-    addWay(QStringLiteral("mirror"), QStringLiteral("Espelho do Ponto"), Qt::CTRL | Qt::Key_I,
-           QStringLiteral("card.mirror"), &CartaoPontoDadosWindow::mirrorRequested);
+    leadOn(*addClosingButton(QStringLiteral("Espelho do Ponto"), QStringLiteral("card.mirror")),
+           QStringLiteral("mirror"), Qt::CTRL | Qt::Key_I,
+           &CartaoPontoDadosWindow::mirrorRequested);
     QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("card.close"));
     connect(close, &QPushButton::clicked, this, &CartaoPontoDadosWindow::reject);
 }
 
-void CartaoPontoDadosWindow::addWay(const QString& icon, const QString& text,
-                                    const QKeySequence& key, const QString& objectName,
+void CartaoPontoDadosWindow::leadOn(QPushButton& button, const QString& icon,
+                                    const QKeySequence& key,
                                     void (CartaoPontoDadosWindow::*requested)()) {
-    QPushButton* button = addClosingButton(text, objectName);
-    button->setIcon(look::icon(icon));
-    button->setToolTip(key.toString(QKeySequence::NativeText));
-    connect(button, &QPushButton::clicked, this, [this, requested] { leaveFor(requested); });
-    connect(new QShortcut(key, this), &QShortcut::activated, button, &QPushButton::click);
+    button.setIcon(look::icon(icon));
+    button.setToolTip(key.toString(QKeySequence::NativeText));
+    connect(&button, &QPushButton::clicked, this, [this, requested] { leaveFor(requested); });
+    connect(new QShortcut(key, this), &QShortcut::activated, &button, &QPushButton::click);
 }
 
 void CartaoPontoDadosWindow::connectEmployees() {

@@ -42,6 +42,8 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     void rotationRequested();
     /// "Espelho do Ponto": the same for the mirrors and the hours reports.
     void mirrorRequested();
+    /// "Resumo Folha de Ponto": the same for the month's hours at a glance.
+    void summaryRequested();
 
   protected:
     bool mayClose() override;
@@ -55,9 +57,9 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     [[nodiscard]] QRadioButton* buildEntryMode(const QString& text, const QString& objectName,
                                                Qt::Key key);
     void buildCommands();
-    /// A command that leads to another screen; the command bar has no room left.
-    void addWay(const QString& icon, const QString& text, const QKeySequence& key,
-                const QString& objectName, void (CartaoPontoDadosWindow::*requested)());
+    /// A button that leads to another screen; the command bar has no room left.
+    void leadOn(QPushButton& button, const QString& icon, const QKeySequence& key,
+                void (CartaoPontoDadosWindow::*requested)());
     void connectEmployees();
     void connectGrid(HalfMonth half);
     void addEmployeeKeys();

@@ -44,6 +44,8 @@ void openTimeCard(const Workplace& at, const TimeCardDesk& desk, QWidget* parent
         desk.openMirrors(&window);
         comeBack();
     });
+    QObject::connect(&window, &CartaoPontoDadosWindow::summaryRequested, &window,
+                     [&] { desk.openSummary(&window); });
     window.exec();
 }
 

@@ -18,7 +18,7 @@ using LeavesOpener = std::function<void(const Workplace& at, QWidget* parent,
 /// Opens the rotations over a window.
 using RotationOpener = std::function<void(QWidget* parent)>;
 
-/// Opens the mirrors and the summary of the hours over a window.
+/// Opens the mirrors, or the summary of the hours, over a window.
 using MirrorOpener = std::function<void(QWidget* parent)>;
 
 /// What the time card's window leads on to.
@@ -27,6 +27,7 @@ struct TimeCardDesk {
     LeavesOpener openLeaves;
     RotationOpener openRotation;
     MirrorOpener openMirrors;
+    MirrorOpener openSummary;
 };
 
 /// Opens the time card, on `inHand` where an employee is chosen, and returns when it is closed.
