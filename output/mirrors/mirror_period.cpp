@@ -1,11 +1,8 @@
 #include "output/mirrors/mirror_period.h"
 
-#include "foundation/values/text.h"
 #include "output/stocks/card_rows.h"
 #include "timecard/hours/employee_hours.h"
-#include "timecard/hours/tolerance.h"
 #include "timecard/month/overtime_record.h"
-#include "timecard/punches/day_check.h"
 
 #include <algorithm>
 #include <utility>
@@ -68,26 +65,6 @@ MirrorSheet MirrorPeriod::of(const Employee& employee) const {
         sheet.recorded = sheet.recorded || piece.recorded;
     }
     return sheet;
-}
-
-std::vector<std::string> mirrorNotes(const MirrorSheet& sheet) {
-    std::vector<std::string> notes;
-    for (const DatedLeave& one : sheet.leaves.leaves())
-        if (one.period.first <= sheet.period.last && one.period.last >= sheet.period.first)
-            notes.push_back("Afastamento: " + leaveText(one));
-    for (const MirrorDay& day : sheet.days) {
-        const auto say = [&](const std::string& what) {
-            notes.push_back(day.line.label + ": " + what);
-        };
-        const auto varied =
-            toleratedVariation({day.line.morning(), day.line.afternoon()}, day.contracted);
-        if (varied && varied->count() > 0)
-            say("variação de " + std::to_string(varied->count()) + " min tolerada");
-        if (const std::string doubt = doubtAbout(day.line); !doubt.empty()) say(doubt);
-        if (const auto typed = trimmed(day.line.shortField); !typed.empty())
-            say("observação \"" + std::string(typed) + "\"");
-    }
-    return notes;
 }
 
 std::vector<MirrorPeriod::Piece> MirrorPeriod::piecesOf(const MirrorSheet& sheet,

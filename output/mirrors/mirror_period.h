@@ -68,7 +68,8 @@ class MirrorPeriod {
 };
 
 /// What stands under the hours: the leaves of the period, "Afastamento: FÉRIAS, 05/03/2024 a
-/// 06/03/2024", and in date order "05/ter/mar: variação de 4 min tolerada" where one was, what is
+/// 06/03/2024", the days whose times "Aplicar Ponto" would not have given, and in date order
+/// "05/ter/mar: variação de 4 min tolerada" where one was, that there are times on a leave, what is
 /// doubtful about the day's times, and what was typed by hand in "Obs.".
 [[nodiscard]] std::vector<std::string> mirrorNotes(const MirrorSheet& sheet);
 

@@ -72,9 +72,45 @@ TEST_F(MirrorPeriodTest, NotesSayWhoWasAwayAndWhatWasToleratedDoubtfulAndTyped) 
         "006 F\xC9RIAS                    02/03/2024  03/03/2024\r\n**** \r\n";
     EXPECT_THAT(
         mirrorNotes(sheet("28/02/2024", "01/03/2024")),
-        ElementsAre("Afastamento: FÉRIAS, 01/03/2024 a 02/03/2024",
+        ElementsAre("Afastamento: FÉRIAS, 01/03/2024 a 02/03/2024", "Corrigido à mão: 28/02, 01/03",
                     "29/qui/fev: variação de 4 min tolerada", "29/qui/fev: observação \"visto\"",
+                    "01/sex/mar: horas em dia de afastamento",
                     "01/sex/mar: Tarde: falta a saída; o par não conta."));
+}
+
+/// As filled or as somebody typed it, by the schedule and what the calendar makes of the day.
+TEST_F(MirrorPeriodTest, ADayIsByHandWhereFillingWouldNotHaveGivenItsTimes) {
+    struct Case {
+        const char* what;
+        const char* day;
+        const char* line;
+        bool byHand;
+    };
+    file("01PadrHor001.pdx") = "08:0012:0013:0017:000008:0012:00";
+    for (const char* scale : {"Norma", "12x36"})
+        for (const Case& one :
+             {Case{"as scheduled", "05", "05/ter/mar08:0012:0013:0017:00", false},
+              Case{"minutes varied", "05", "05/ter/mar08:0311:5813:0217:00", false},
+              Case{"an hour more", "05", "05/ter/mar08:0012:0013:0018:00", true},
+              Case{"an extra pair", "05", "05/ter/mar08:0012:0013:0017:0018:0019:00", true},
+              Case{"no times", "05", "05/ter/mar                                   Falta", false},
+              Case{"a Saturday of extra time", "02",
+                   "02/s\xE1"
+                   "b/mar08:0012:00",
+                   false},
+              Case{"an afternoon on it", "02",
+                   "02/s\xE1"
+                   "b/mar08:0012:0013:0014:00",
+                   true},
+              Case{"a Sunday", "03", "03/dom/mar08:0012:0013:0017:00", scale[0] == 'N'}}) {
+            ana.scale = scale;
+            file("01001-03-2024.bdx") = std::string("  \r\n") + one.line + "\r\n";
+            const std::string date = std::string(one.day) + "/03/2024";
+            EXPECT_EQ(!mirrorNotes(sheet(date.c_str(), date.c_str())).empty() &&
+                          mirrorNotes(sheet(date.c_str(), date.c_str()))[0].starts_with("Corr"),
+                      one.byHand)
+                << scale << ": " << one.what;
+        }
 }
 
 TEST_F(MirrorPeriodTest, NothingIsCountedWithoutARecordOrOutsideTheContract) {
