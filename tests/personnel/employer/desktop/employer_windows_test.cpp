@@ -7,11 +7,14 @@
 #include "personnel/termination/desktop/rescisao_window.h"
 #include "tests/support/employees.h"
 #include "tests/support/legal_tables.h"
-#include "tests/support/test_workplace.h"
+#include "tests/support/printed_text.h"
+#include "tests/support/saving_engine.h"
 #include "tests/support/window_driver.h"
 
 #include <QComboBox>
 #include <QTreeWidget>
+
+#include <algorithm>
 
 namespace winvrx {
 namespace {
@@ -112,7 +115,19 @@ TEST_F(EmployerWindows, TerminationAndGuideShowEachSum) {
     screen.press(Qt::Key_Down);
     EXPECT_TRUE(screen.label("rescisao.memo").starts_with("Aviso prévio indenizado: 3.000,00"));
     const Statement page = statementOf(*end.sheet(), end.terms());
-    EXPECT_LE(page.lines.size(), kLinesOnAStatement) << "one page with its memo";
+    ReportDesk printing;
+    SavingEngine engine(printing);
+    ASSERT_TRUE(previewStatement({printing.office.at, engine}, page));
+    const auto words = printedWords(printing.pdf());
+    EXPECT_EQ(words.back().page, 1) << "one page with its memo";
+    const auto isPrinted = [&](const std::string& text) {
+        return std::ranges::any_of(
+            words, [&](const PrintedWord& word) { return word.text == toQt(text); });
+    };
+    for (const auto* lines : {&end.sheet()->credits, &end.sheet()->debits})
+        for (const TerminationLine& line : *lines)
+            EXPECT_TRUE(isPrinted(moneyText(line.amount))) << line.words;
+    EXPECT_TRUE(isPrinted(moneyText(end.sheet()->net)));
 
     file("01FolhaOpcoes") = "domestico = 1\r\n";
     file("DataIde.ivc") = "03-2026\r\nTodos\r\n";

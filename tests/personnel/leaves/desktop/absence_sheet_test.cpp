@@ -2,7 +2,7 @@
 #include "tests/support/employees.h"
 #include "tests/support/leave_files.h"
 #include "tests/support/printed_text.h"
-#include "tests/support/report_desk.h"
+#include "tests/support/saving_engine.h"
 
 #include <gtest/gtest.h>
 
@@ -10,28 +10,6 @@ namespace winvrx {
 namespace {
 
 using namespace testing;
-
-/// Saves what would be previewed.
-class SavingEngine final : public ReportEngine {
-  public:
-    explicit SavingEngine(ReportDesk& desk) : desk_(desk) {}
-
-    PrintEnd print(const ReportRequest& request, ReportPages& pages,
-                   const PageProgress& progress) override {
-        return desk_.engine.print(request, pages, progress);
-    }
-    PrintEnd preview(const ReportRequest& request, ReportPages& pages, const PageProgress& progress,
-                     const PrintShown&) override {
-        ReportRequest saved = request;
-        saved.output = ReportOutput::PdfFile;
-        saved.pdfPath = desk_.request.pdfPath;
-        return print(saved, pages, progress);
-    }
-    int sidesOf(const ReportRequest& request) override { return desk_.engine.sidesOf(request); }
-
-  private:
-    ReportDesk& desk_;
-};
 
 TEST(AbsenceSheet, ShowsEachLeaveBesideTheDaysOfItsMonth) {
     ReportDesk desk;
