@@ -81,13 +81,23 @@ void reckonThirteenth(const TerminationCase& end, TerminationPay& pay) {
         end, thirteenthOf(end.salary, end.averages, pay.thirteenthTwelfths, "13º proporcional"));
 }
 
+/// Whole periods and the days left of others, with their third.
 Reckoning overdueVacation(const TerminationCase& end) {
     const int count = end.overduePeriods + end.doubledPeriods;
-    if (count <= 0) return {};
-    Reckoning pay = Sum({end.salary, end.averages}).times(count).rounded("Férias vencidas");
+    Reckoning pay;
+    if (count > 0) pay = Sum({end.salary, end.averages}).times(count).rounded("Férias vencidas");
     if (end.doubledPeriods > 0)
         pay.memo.push_back(
             {"Em dobro (CLT, art. 137)", std::to_string(end.doubledPeriods) + " período(s)"});
+    if (end.overdueDays > 0) {
+        const Reckoning days = Sum({end.salary, end.averages})
+                                   .over(kDaysAMonth)
+                                   .times(end.overdueDays)
+                                   .rounded("Férias vencidas, dias restantes");
+        append(pay.memo, days.memo);
+        pay.amount = pay.amount + days.amount;
+    }
+    if (pay.amount.cents == 0) return {};
     const Reckoning third = Sum(pay.amount).over(3).rounded("1/3 das férias vencidas");
     append(pay.memo, third.memo);
     return {pay.amount + third.amount, pay.memo};

@@ -26,8 +26,9 @@ struct TerminationCase {
     std::vector<Date> absentDays = {};  ///< unjustified: no service in the year's twelfths
     int overduePeriods = 0;             ///< vacations earned and not taken
     int doubledPeriods = 0;             ///< of these, past the limit of the concession
-    int absences = 0;                   ///< unjustified, in the vacation period that runs
-    Money fgtsAccount = {};             ///< its balance before this account
+    int overdueDays = 0;     ///< left of periods partly taken; past the limit counted twice
+    int absences = 0;        ///< unjustified, in the vacation period that runs
+    Money fgtsAccount = {};  ///< its balance before this account
     int dependants = 0;
     Money alimony = {};
     Money privatePension = {};

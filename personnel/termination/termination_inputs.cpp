@@ -3,7 +3,8 @@
 #include "personnel/payroll/run_inputs.h"
 #include "personnel/payroll/settings_file.h"
 #include "personnel/termination/termination_sheet.h"
-#include "personnel/vacation/vacation_rules.h"
+#include "personnel/vacation/vacation_periods.h"
+#include "personnel/vacation/vacation_record.h"
 
 #include <algorithm>
 
@@ -14,6 +15,7 @@ namespace {
 /// Fractions and days sold aside, so many days of vacation make a period's: a third may be sold.
 constexpr int kDaysThatFillAPeriod = 20;
 constexpr int kMonthsLookedBack = 12;
+constexpr int kFullVacation = 30;
 
 Leave recordedLeave(const Store& store, const EmployeeKey& key, const Employee& employee) {
     LeaveFile file = loadLeaveFile(store, key);
@@ -40,20 +42,51 @@ int periodsTaken(const LeaveCalendar& leaves) {
     return periods;
 }
 
-/// What is said holds; else the periods that the leaves have not given.
-void takePeriods(TerminationInputs& inputs) {
-    const Date last = inputs.record.dates.lastDayWorked.value;
-    const PayrollFacts& facts = inputs.lastMonth.facts;
+/// What the leaves have not given, of an employee whose vacations are not recorded apart.
+void takePeriodsByLeaves(TerminationInputs& inputs, Date last) {
     auto periods = acquisitionPeriods(inputs.record.admission, last);
     periods.pop_back();
     const auto taken = static_cast<std::size_t>(periodsTaken(inputs.lastMonth.leaves));
     periods.erase(periods.begin(),
                   periods.begin() + static_cast<std::ptrdiff_t>(std::min(taken, periods.size())));
-    const auto isPast = [&](const AcquisitionPeriod& period) { return period.limit < last; };
-    inputs.overduePeriods = facts.overduePeriods.value_or(static_cast<int>(periods.size()));
-    inputs.doubledPeriods = std::min(
-        inputs.overduePeriods,
-        facts.doubledPeriods.value_or(static_cast<int>(std::ranges::count_if(periods, isPast))));
+    inputs.overduePeriods = static_cast<int>(periods.size());
+    inputs.doubledPeriods = static_cast<int>(std::ranges::count_if(
+        periods, [&](const AcquisitionPeriod& period) { return period.limit < last; }));
+}
+
+/// What is left of the periods of the vacation screen; a vacation after the last day is not taken.
+void takePeriodsByRecord(TerminationInputs& inputs, VacationLines vacations, Date last) {
+    std::erase_if(vacations, [&](const VacationLine& line) {
+        const auto away = line.record.away();
+        return away && away->first > last;
+    });
+    const auto whole = [](const AcquisitionPeriod&) { return kFullVacation; };
+    for (const PeriodRow& row : periodRows(inputs.record.admission, last, vacations, whole)) {
+        if (row.status != PeriodStatus::Pending || !row.isAcquiredOn(last)) continue;
+        const bool isPast = row.period.limit < last;
+        if (row.days == kFullVacation) {
+            ++inputs.overduePeriods;
+            inputs.doubledPeriods += isPast ? 1 : 0;
+        } else {
+            inputs.overdueDays += row.days * (isPast ? 2 : 1);
+        }
+    }
+}
+
+/// What is said holds, over what the records give.
+void takePeriods(TerminationInputs& inputs, VacationLines vacations) {
+    const Date last = inputs.record.dates.lastDayWorked.value;
+    const PayrollFacts& facts = inputs.lastMonth.facts;
+    if (vacations.empty())
+        takePeriodsByLeaves(inputs, last);
+    else
+        takePeriodsByRecord(inputs, std::move(vacations), last);
+    if (facts.overduePeriods) {
+        inputs.overduePeriods = *facts.overduePeriods;
+        inputs.overdueDays = 0;
+    }
+    inputs.doubledPeriods =
+        std::min(inputs.overduePeriods, facts.doubledPeriods.value_or(inputs.doubledPeriods));
 }
 
 /// What the first instalment of the year has paid.
@@ -87,7 +120,7 @@ TerminationInputs loadInputs(const Store& store, const CompanyCode& company,
     const LeavePeriod span{firstDay(month - std::chrono::months{kMonthsLookedBack}),
                            inputs.record.dates.lastDayWorked.value};
     inputs.history = loadCardHistory(store, company, employee, span, months, names);
-    takePeriods(inputs);
+    takePeriods(inputs, loadVacations(store, key, names));
     return inputs;
 }
 

@@ -65,6 +65,7 @@ TerminationCase caseOf(const PayrollLaw& law, const TerminationInputs& inputs,
     end.absentDays = inputs.history.absences;
     end.overduePeriods = inputs.overduePeriods;
     end.doubledPeriods = inputs.doubledPeriods;
+    end.overdueDays = inputs.overdueDays;
     end.absences = absencesInRunningPeriod(inputs);
     end.fgtsAccount = inputs.lastMonth.facts.fgtsAccount;
     end.dependants = month.dependants;
@@ -109,8 +110,7 @@ class SheetLines {
         add(credits, "Aviso prévio indenizado", paidNoticeText(), pay_.notice);
         add(credits, "13º salário proporcional", twelfthsText(pay_.thirteenthTwelfths),
             pay_.thirteenth);
-        add(credits, "Férias vencidas, com 1/3",
-            counted(inputs_.overduePeriods, "período", "períodos"), pay_.overdue);
+        add(credits, "Férias vencidas, com 1/3", overdueText(), pay_.overdue);
         add(credits, "Férias proporcionais", twelfthsText(pay_.vacationTwelfths), pay_.vacation);
         add(credits, "1/3 das férias proporcionais", {}, pay_.vacationThird);
     }
@@ -130,6 +130,14 @@ class SheetLines {
     void writeDeposits() {
         add(sheet_.deposits, "FGTS da rescisão", {}, pay_.fgts);
         add(sheet_.deposits, "Multa do FGTS", {}, pay_.fgtsFine);
+    }
+
+    [[nodiscard]] std::string overdueText() const {
+        std::string text;
+        if (inputs_.overduePeriods > 0)
+            text = counted(inputs_.overduePeriods, "período", "períodos");
+        if (inputs_.overdueDays == 0) return text;
+        return text + (text.empty() ? "" : " e ") + counted(inputs_.overdueDays, "dia", "dias");
     }
 
     [[nodiscard]] std::string paidNoticeText() const {

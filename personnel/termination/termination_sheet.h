@@ -25,6 +25,7 @@ struct TerminationInputs {
     CardHistory history = {};   ///< of the last twelve months
     int overduePeriods = 0;     ///< vacations earned and not taken
     int doubledPeriods = 0;     ///< of these, past the limit of the concession
+    int overdueDays = 0;        ///< left of periods partly taken; past the limit counted twice
     Money thirteenthPaid = {};  ///< the year's first instalment
 };
 

@@ -166,6 +166,21 @@ TEST_F(TerminationSheetTest, TakesTheLastMonthsCardAndTheAveragesOfTheYear) {
     EXPECT_TRUE(computed.remarks.size() == 1U) << "the FGTS account alone";
 }
 
+TEST_F(TerminationSheetTest, TakesWhatTheVacationScreenRecorded) {
+    // Of the first period twelve days are left, past its limit; the second is taken, of the third
+    // nothing is recorded but a vacation after the end.
+    record(1, 2);
+    file("01Ferias001") =
+        "10/01/2023  09/01/2024  FERIAS    30  01/04/2024  18/04/2024      N  03-2024\r\n"
+        "10/01/2024  09/01/2025  FERIAS    30  01/04/2025  20/04/2025  10  N  03-2025\r\n"
+        "10/01/2025  09/01/2026  FERIAS    30  01/07/2026  30/07/2026      N  06-2026\r\n";
+    const TerminationSheet computed = sheet();
+    // (3.000,00 + 3.000,00 ÷ 30 × 24) × 4 ÷ 3
+    EXPECT_NE(textOf(computed.credits).find("com 1/3 1 período e 24 dias 7.200,00"),
+              std::string::npos)
+        << textOf(computed.credits);
+}
+
 TEST_F(TerminationSheetTest, SaysWhatIsMissing) {
     EXPECT_EQ(refusal(),
               "Registre primeiro a rescisão de ANA na tela de Afastamentos, com o tipo 008.");
