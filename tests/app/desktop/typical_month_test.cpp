@@ -136,6 +136,8 @@ TEST_F(TypicalMonth, LeavesRecordsOfTheirLayout) {
     EXPECT_EQ(record("02001-03-2024.bdx").split('\n')[29].mid(45, 15),
               QByteArray("FERIADO").leftJustified(15));
     EXPECT_THAT(record("02configAf003").toStdString(), ::testing::EndsWith("**** 25/04/2024\r\n"));
+    EXPECT_TRUE(record("02contrato002").startsWith("Experi\xEAncia         12/03/20244545"));
+    EXPECT_TRUE(QFile::exists(file("carteira.pdf")));
     const QList<QByteArray> porter = record("02004-03-2024.bdx").split('\n');
     ASSERT_EQ(porter.size(), 33);
     EXPECT_EQ(porter[3].left(30), "03/dom/mar09:0012:0013:0017:20") << "a Sunday at work";
@@ -148,9 +150,9 @@ TEST_F(TypicalMonth, KeepsPicturesInBothPalettesTheConversationAndNothingUntold)
     std::vector<std::string> names;
     for (const QString& name : pictures)
         names.push_back(name.mid(3).toStdString());
-    for (const char* window :
-         {"janela-principal", "empresas", "funcionarios", "mes-carnaval", "feriados", "mes",
-          "dados", "afastamentos", "tipo", "imprimir", "previa", "escalas", "quadro"}) {
+    for (const char* window : {"janela-principal", "empresas", "funcionarios", "mes-carnaval",
+                               "feriados", "mes", "dados", "afastamentos", "tipo", "imprimir",
+                               "previa", "escalas", "quadro", "contrato", "carteira"}) {
         EXPECT_THAT(names, Contains(std::string(window) + "-claro.png"));
         EXPECT_THAT(names, Contains(std::string(window) + "-escuro.png"));
     }
