@@ -108,14 +108,17 @@ inline constexpr std::string_view kTransferStem = "Transf";
 inline constexpr std::string_view kEmployeeListStem = "CartaPonto";
 
 /// Settings of one company, behind its code: card stock, how cards come out, trays and header,
-/// the work-time tables of the rotations, and how its payroll is computed.
+/// the work-time tables of the rotations, how its payroll is computed, and the texts of its labels.
 inline constexpr std::string_view kStockSettingName = "CartaoDePontoTipo";
 inline constexpr std::string_view kPrinterKindName = "ImpressoraTipo";
 inline constexpr std::string_view kFeedName = "Impresstec";
 inline constexpr std::string_view kWorkTableName = "er.rdx";
 inline constexpr std::string_view kPayrollSettingsName = "FolhaOpcoes";
-inline constexpr std::array<std::string_view, 5> kCompanySettings = {
-    kStockSettingName, kPrinterKindName, kFeedName, kWorkTableName, kPayrollSettingsName};
+inline constexpr std::string_view kLabelCatalogueName = "confgctps";
+inline constexpr std::string_view kFormerLabelCatalogueName = "confgctpsBB";
+inline constexpr std::array<std::string_view, 7> kCompanySettings = {
+    kStockSettingName,   kPrinterKindName,         kFeedName, kWorkTableName, kPayrollSettingsName,
+    kLabelCatalogueName, kFormerLabelCatalogueName};
 
 /// Files of the run: both go when the program ends.
 inline constexpr std::string_view kStartMemoryName = "LocMen.lvc";

@@ -133,6 +133,29 @@ std::optional<std::size_t> EmployeeList::positionOf(std::string_view code) const
     return static_cast<std::size_t>(found - employees_.begin());
 }
 
+bool EmployeeList::isTicked(std::size_t position) const {
+    return ticked_.contains(employees_.at(position).code);
+}
+
+void EmployeeList::tick(std::size_t position, bool on) {
+    if (on)
+        ticked_.insert(employees_.at(position).code);
+    else
+        ticked_.erase(employees_.at(position).code);
+}
+
+void EmployeeList::tickShown(bool on) {
+    for (const std::size_t position : shown())
+        tick(position, on);
+}
+
+std::vector<Employee> EmployeeList::ticked() const {
+    std::vector<Employee> people;
+    std::ranges::copy_if(employees_, std::back_inserter(people),
+                         [this](const Employee& one) { return ticked_.contains(one.code); });
+    return people;
+}
+
 EmployeeMarks EmployeeList::marks(std::size_t position) const {
     return marksOf(marks_, employees_.at(position).employeeCode().value());
 }

@@ -94,6 +94,14 @@ class EmployeeList {
     /// The first who bears the code.
     [[nodiscard]] std::optional<std::size_t> positionOf(std::string_view code) const;
 
+    /// Ticks last while the list is filtered, searched and filled again.
+    [[nodiscard]] bool isTicked(std::size_t position) const;
+    void tick(std::size_t position, bool on);
+    /// Everyone that the list shows, or nobody of them.
+    void tickShown(bool on);
+    /// Those ticked of shift and scale, whatever is searched for, in file order.
+    [[nodiscard]] std::vector<Employee> ticked() const;
+
     [[nodiscard]] EmployeeMarks marks(std::size_t position) const;
     void mark(std::size_t position, const EmployeeMarks& marks);
 
@@ -104,6 +112,7 @@ class EmployeeList {
     std::optional<Scale> scale_;
     std::optional<std::set<EmployeeCode>> only_;
     std::string search_;
+    std::set<std::string> ticked_;  ///< codes
     std::vector<Employee> everyone_;
     Marks marks_;
     std::vector<Employee> employees_;

@@ -1,5 +1,6 @@
 // What the screens of alignment, printers and printing write.
 #include "output/cards/cartao.h"
+#include "output/labels/criar_etiqueta.h"
 #include "output/mirrors/hours_reports.h"
 #include "output/stocks/cartao_pontos.h"
 #include "report/impressorar.h"
@@ -60,6 +61,25 @@ auto inHoursReports(Give give) {
     };
 }
 
+template <typename Give>
+auto inLabels(Give give) {
+    return [give](const Workplace& at, const Drives&) {
+        CriarEtiqueta screen(at);
+        screen.load();
+        return give(screen);
+    };
+}
+
+/// A catalogue of two texts, and the one of three that it was before.
+FileTable officeWithLabels() {
+    FileTable files = filledOffice();
+    const std::string two = encode(LabelText{"01", "UM", "01  um "}) + "\r\n" +
+                            encode(LabelText{"02", "DOIS", "02"}) + "\r\n";
+    files[inDataFolder("01confgctps")] = two;
+    files[inDataFolder("01confgctpsBB")] = two + "nota\r\n";
+    return files;
+}
+
 FileTable officeWithAPrinter() {
     FileTable files = filledOffice();
     files[inDataFolder("Config")] = "30         50\r\n";
@@ -85,6 +105,16 @@ std::vector<WritingCommand> printCommands() {
          })},
         {"choose printer", officeWithAPrinter(), choosePrinter},
         {"remember printing", officeWithAPrinter(), rememberChoices},
+        {"include the first label", filledOffice(), inLabels([](CriarEtiqueta& screen) {
+             return screen.include({"09", "NOVA", "09 texto"});
+         })},
+        {"change label", officeWithLabels(), inLabels([](CriarEtiqueta& screen) {
+             return screen.change(1, {"02", "DOIS", "  02"});
+         })},
+        {"delete label", officeWithLabels(),
+         inLabels([](CriarEtiqueta& screen) { return screen.remove(0); })},
+        {"undo labels", officeWithLabels(),
+         inLabels([](CriarEtiqueta& screen) { return screen.undo(); })},
         {"report hours",
          filledOffice(),
          inHoursReports([](HoursReports& screen) { return screen.report(); }),
