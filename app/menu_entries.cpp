@@ -3,6 +3,7 @@
 #include "foundation/copies/desktop/restore_entry.h"
 #include "foundation/menu/desktop/about_window.h"
 #include "foundation/register/desktop/register_entries.h"
+#include "output/labels/desktop/labels_entry.h"
 #include "output/mirrors/desktop/hours_entry.h"
 #include "personnel/contract/desktop/contract_entry.h"
 #include "personnel/documents/desktop/documents_entry.h"
@@ -105,7 +106,7 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
     })});
     add({documentsEntry(at, {papers.writer, papers.templateFolders, legal})});
     add({formsEntry(at, printing.engine)});
-    add({planned("Ferramentas", "labels", "labels", "Etiquetas")});
+    add({labelsEntry(at, printing)});
     add({planned("Ferramentas", "backup", "backup", "Cópia de Segurança")});
     add({restoreEntry(at, desk.copies)});
     if (desk.browsers) add({internetEntry(at, desk.browsers)});

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QTest>
 #include <QUrl>
 
 #include <array>
@@ -379,6 +380,40 @@ void recordContract(Player& player) {
     player.click("contrato.close"_t);
 }
 
+/// A note for the work booklet of two, from the third label of a sheet that is begun.
+void printLabels(Player& player) {
+    player.click("menu.labels.open"_t);
+    player.choose("etiquetas.employees"_t, "001"_t);
+    player.press(Qt::Key_Space);
+    player.choose("etiquetas.employees"_t, "003"_t);
+    player.press(Qt::Key_Space);
+    player.choose("etiquetas.texts"_t, "01 Contrato"_t);
+    player.press(Qt::Key_Space);
+    player.choose("etiquetas.texts"_t, "07 Altera"_t);
+    player.press(Qt::Key_Space);
+    player.press(Qt::ALT | Qt::Key_A);
+    for (int step = 0; step < 2; ++step)
+        player.then([] {
+            for (QWidget* widget : QApplication::allWidgets())
+                if (widget->objectName() == "etiquetas.first"_t && widget->isVisible())
+                    QTest::keyClick(widget, Qt::Key_Right);
+        });
+    player.picture("etiquetas"_t);
+    player.press(Qt::CTRL | Qt::Key_E);
+    player.picture("textos"_t);
+    player.press(Qt::Key_Escape);
+    player.press(Qt::CTRL | Qt::Key_K);
+    player.picture("estoque"_t);
+    player.press(Qt::Key_Escape);
+    player.press(Qt::CTRL | Qt::Key_J);
+    player.picture("calibracao-etiquetas"_t);
+    player.press(Qt::Key_Escape);
+    player.click("etiquetas.print"_t);
+    player.picture("previa-etiquetas"_t);
+    player.click("preview.close"_t);
+    player.click("etiquetas.close"_t);
+}
+
 }  // namespace
 
 void writeMonth(Player& player) {
@@ -396,6 +431,7 @@ void writeMonth(Player& player) {
     applyRotation(player);
     recordContract(player);
     recordPayroll(player);
+    printLabels(player);
 }
 
 }  // namespace winvrx

@@ -84,7 +84,8 @@ struct FieldKind {
     /// What the record holds, where a field shows more than that.
     std::string (*stored)(std::string_view shown) = nullptr;
     std::vector<Choice> (*choices)() = nullptr;
-    bool isNotes = false;          ///< wrapped over several lines
+    bool isNotes = false;       ///< wrapped over several lines
+    std::size_t lineWidth = 0;  ///< of notes that are lines of so many characters; ENTER ends one
     bool completesTyping = false;  ///< the full form is given with every key, as far as it goes
     enum class Shape { Text, Number, Time } shape = Shape::Text;
 };

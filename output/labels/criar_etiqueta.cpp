@@ -11,6 +11,8 @@ const Message kConfirmUndo =
     riskyQuestion("DESFAZER", "Confirma Desfazer a Última Alteração da Lista? ",
                   "A lista volta ao que era antes dela; o que foi alterado por último se perde.");
 
+const Message kNothingToUndo = notice("DESFAZER", "Não há Alteração a Desfazer!");
+
 std::string completedNumber(std::string_view typed) {
     const auto number = parseWholeNumber(typed, 1, LabelNumber::kHighest);
     return number ? padded(*number, static_cast<int>(LabelNumber::kDigits)) : std::string(typed);
@@ -54,7 +56,8 @@ bool CriarEtiqueta::requireAcceptable(const LabelText& typed, const Line* before
 
 bool CriarEtiqueta::undo() {
     return run(incorrectData(), [&] {
-        if (!canUndo() || !at_.person.agrees(kConfirmUndo)) return false;
+        if (!canUndo()) return refuse(kNothingToUndo);
+        if (!at_.person.agrees(kConfirmUndo)) return false;
         const auto hold = holdFolder(at_);
         if (read() != lines_) throw changedElsewhere("list");
         restoreFormerLabels(at_.store(), at_.session.company.value());

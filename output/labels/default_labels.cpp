@@ -68,8 +68,8 @@ constexpr DefaultLabel kLabels[] = {
      "          Assinatura do empregador"},
     {"07", "Alteração de Função",
      "07 No contrato da página ____, a função\n"
-     "fica alterada para ____________________, a\n"
-     "partir de __/__/____.\n"
+     "fica alterada para ____________________\n"
+     "a partir de __/__/____.\n"
      "\n"
      "\n"
      "\n"

@@ -6,7 +6,6 @@
 #include "foundation/values/text.h"
 #include "output/labels/label_blanks.h"
 #include "report/print_pages.h"
-#include "report/print_scale.h"
 
 #include <algorithm>
 #include <utility>
@@ -185,28 +184,28 @@ bool Etiquetas::printFrames(const PrintRun& run) {
     });
 }
 
-bool Etiquetas::printStockSheets(StockForm form, const std::string& subject, const PrintRun& run) {
+bool Etiquetas::printStockSheets(const StockChoices& chosen, const PrintRun& run) {
     return requirePrintingDrive(at_, wrongDrive()) && attempt(at_, printFailed(), [&] {
-               return send(
-                   stockSheetRequest(form),
-                   stockSheets(company_, subject, static_cast<std::size_t>(choices_.copies)), run);
+               return send(stockSheetRequest(chosen), stockSheets(company_, chosen), run);
            });
 }
 
+PrintScaleKey Etiquetas::scaleKey() const {
+    return {printer_.empty() ? desk_.printers.defaultName() : printer_, std::string(sheet().paper)};
+}
+
 ReportRequest Etiquetas::labelRequest() const {
-    const PrintScaleKey key{printer_.empty() ? desk_.printers.defaultName() : printer_,
-                            std::string(sheet().paper)};
     return {.layoutName = std::string(sheet().layout),
             .title = std::string(kEtiquetasTitle),
             .columns = labelColumns(),
-            .alignment = {.scale = loadPrintScale(at_.store(), key)}};
+            .alignment = {.scale = loadPrintScale(at_.store(), scaleKey())},
+            .output = choices_.output};
 }
 
 bool Etiquetas::send(ReportRequest request, ReportPages pages, const PrintRun& run) {
-    request.output = choices_.output;
     request.printerName = printer_;
     request.pdfPath = pdfNameOf(company_.name, {request.title, dayInNames(at_.clock.today())});
-    const bool toPdf = choices_.output == ReportOutput::PdfFile;
+    const bool toPdf = request.output == ReportOutput::PdfFile;
     if (toPdf) request.pdfPath = run.choosePdf ? run.choosePdf(request.pdfPath) : std::string();
     if (request.pdfPath.empty()) return false;
     if (printPages({at_, desk_.engine, run.progress}, request, pages) != PrintEnd::Done)

@@ -7,6 +7,7 @@
 #include "output/cards/card_run.h"
 #include "output/labels/label_pages.h"
 #include "output/labels/stock_sheet.h"
+#include "report/print_scale.h"
 #include "report/printers.h"
 
 #include <optional>
@@ -73,9 +74,10 @@ class Etiquetas {
     [[nodiscard]] bool print(const PrintRun& run);
     /// Frames on plain paper, to be held against a sheet of labels.
     [[nodiscard]] bool printFrames(const PrintRun& run);
-    /// As many sheets of stock control as there are copies chosen.
-    [[nodiscard]] bool printStockSheets(StockForm form, const std::string& subject,
-                                        const PrintRun& run);
+    [[nodiscard]] bool printStockSheets(const StockChoices& chosen, const PrintRun& run);
+
+    /// For which printer and paper the sheet in use is calibrated.
+    [[nodiscard]] PrintScaleKey scaleKey() const;
 
   private:
     [[nodiscard]] bool requireTicks();

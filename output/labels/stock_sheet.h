@@ -16,11 +16,17 @@ enum class StockForm {
     Count,     ///< what was counted of many products on each of a few days
 };
 
-/// The request of a run of such sheets, without where they go.
-[[nodiscard]] ReportRequest stockSheetRequest(StockForm form);
+struct StockChoices {
+    StockForm form = StockForm::Movement;
+    std::string subject = {};  ///< the product, or the place where is counted; may be empty
+    std::size_t sheets = 1;
+    ReportOutput output = ReportOutput::Preview;
+};
 
-/// So many sheets, numbered, all for the same product or place; `subject` may be empty.
-[[nodiscard]] ReportPages stockSheets(const Company& company, const std::string& subject,
-                                      std::size_t sheets);
+/// The request of a run of such sheets.
+[[nodiscard]] ReportRequest stockSheetRequest(const StockChoices& chosen);
+
+/// The sheets, numbered.
+[[nodiscard]] ReportPages stockSheets(const Company& company, const StockChoices& chosen);
 
 }  // namespace winvrx

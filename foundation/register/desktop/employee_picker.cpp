@@ -92,6 +92,11 @@ void EmployeePicker::buildList(QBoxLayout& column) {
     connect(rows_, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0) emit employeeChosen(static_cast<std::size_t>(row));
     });
+    connect(rows_, &QListWidget::itemChanged, this, [this](const QListWidgetItem* row) {
+        if (!traits_.ticks) return;
+        list_.tick(static_cast<std::size_t>(rows_->row(row)), row->checkState() == Qt::Checked);
+        emit ticked();
+    });
     connect(rows_, &QListWidget::itemDoubleClicked, this, &EmployeePicker::opened);
     rows_->installEventFilter(this);
     column.addWidget(rows_, 1);
@@ -128,6 +133,8 @@ void EmployeePicker::refresh() {
         for (std::size_t position = 0; position < list_.employees().size(); ++position) {
             auto* row = new QListWidgetItem(textOf(position), rows_);
             row->setData(Qt::UserRole, toQt(list_.employees()[position].code));
+            if (traits_.ticks)
+                row->setCheckState(list_.isTicked(position) ? Qt::Checked : Qt::Unchecked);
         }
     }
     showFilters();

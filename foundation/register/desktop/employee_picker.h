@@ -32,6 +32,7 @@ class EmployeePicker : public QWidget {
         QString screen;  ///< the prefix of the object names: "card.employees", "card.search"
         std::span<const ShiftFilter> shifts = kMenuShiftFilters;
         bool scales = false;  ///< offers the scales as a filter too
+        bool ticks = false;   ///< each employee can be ticked, with the mouse or SPACE
         /// A second line; none when empty.
         std::function<QString(const Employee&)> details = {};
     };
@@ -58,6 +59,8 @@ class EmployeePicker : public QWidget {
     void shiftChosen(winvrx::ShiftFilter shift);
     void scaleChosen(std::optional<winvrx::Scale> scale);
     void employeeChosen(std::size_t position);
+    /// An employee was ticked or is no longer.
+    void ticked();
     /// Another text is searched for.
     void searched();
     /// ENTER or a double click on an employee.

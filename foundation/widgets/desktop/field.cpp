@@ -7,14 +7,17 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QFontMetricsF>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTextDocument>
 #include <QVBoxLayout>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -26,6 +29,8 @@ namespace {
 constexpr int kTimeInDigits = 11;
 constexpr int kNumberInDigits = 8;
 constexpr int kLongestCutShown = 20;
+constexpr double kRoomBehindLine = 0.5;  // of a letter
+constexpr int kNoteLines = 13;
 
 /// What a number is without its punctuation, in whatever case.
 QString lettersOf(const QString& text) {
@@ -62,20 +67,31 @@ Field::Field(const QString& caption, QWidget* input, QWidget* parent)
 
 QWidget* Field::makeInput() {
     if (kind_.choices) return makeList();
-    if (kind_.isNotes) {
-        notes_ = new QPlainTextEdit;
-        notes_->setTabChangesFocus(true);
-        notes_->installEventFilter(this);
-        connect(notes_, &QPlainTextEdit::textChanged, this, [this] {
-            limitNotes();
-            emit edited();
-        });
-        return notes_;
-    }
+    if (kind_.isNotes) return makeNotes();
     line_ = new QLineEdit;
     connectLine();
     shapeLine();
     return line_;
+}
+
+QWidget* Field::makeNotes() {
+    notes_ = new QPlainTextEdit;
+    notes_->setTabChangesFocus(true);
+    notes_->installEventFilter(this);
+    connect(notes_, &QPlainTextEdit::textChanged, this, [this] {
+        limitNotes();
+        emit edited();
+    });
+    if (kind_.lineWidth == 0) return notes_;
+    notes_->setFont(look::reportFont());
+    notes_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    const QFontMetricsF metrics(notes_->font());
+    const double around = 2 * (notes_->document()->documentMargin() + notes_->frameWidth()) +
+                          notes_->verticalScrollBar()->sizeHint().width();
+    const double letters = static_cast<double>(kind_.lineWidth) + kRoomBehindLine;
+    notes_->setFixedWidth(qCeil(metrics.horizontalAdvance(QLatin1Char('0')) * letters + around));
+    notes_->setMinimumHeight(qCeil(metrics.lineSpacing() * kNoteLines));
+    return notes_;
 }
 
 QWidget* Field::makeList() {
@@ -191,6 +207,7 @@ void Field::setStored(const std::string& text) {
 
 std::string Field::stored() const {
     if (!isChanged()) return stored_;
+    if (kind_.lineWidth > 0) return kind_.stored(toUtf8(text()));
     const std::string typed(trimmed(toUtf8(text())));
     return kind_.stored ? kind_.stored(typed) : typed;
 }
@@ -337,18 +354,21 @@ void Field::limitNotes() {
         cursor.removeSelectedText();
     });
     typed_ = text();
-    const Hint hint = textHint(toUtf8(typed_));
-    setWarning(hint.tone == Hint::Tone::Warning ? toQt(hint.text) : cut_);
+    const std::string typed = toUtf8(typed_);
+    const Hint hint = kind_.hint ? kind_.hint(typed, Entry::Typing) : textHint(typed);
+    setWarning(hint.tone == Hint::Tone::Warning && cut_.isEmpty() ? toQt(hint.text) : cut_);
     if (!hint_->text().isEmpty()) return;
-    hint_->setText(QStringLiteral("%1 de %2 caracteres").arg(typed_.size()).arg(width_));
+    hint_->setText(kind_.hint
+                       ? toQt(hint.text)
+                       : QStringLiteral("%1 de %2 caracteres").arg(typed_.size()).arg(width_));
     look::setTint(*hint_, look::Tint::Quiet);
 }
 
-/// Enter leaves the notes, as every other field. A list without a choice opens with its first row
-/// marked, from where the keys go on.
+/// Enter leaves the notes, as every other field, unless they are lines. A list without a choice
+/// opens with its first row marked, from where the keys go on.
 bool Field::eventFilter(QObject* watched, QEvent* event) {
     if (list_ && watched == list_->view() && event->type() == QEvent::Show) markRow();
-    if (watched == notes_ && event->type() == QEvent::KeyPress) {
+    if (watched == notes_ && event->type() == QEvent::KeyPress && kind_.lineWidth == 0) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
             QCoreApplication::sendEvent(this, event);

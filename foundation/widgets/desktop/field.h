@@ -86,6 +86,7 @@ class Field : public QWidget {
     [[nodiscard]] QWidget* makeInput();
     void frame(const QString& caption);
     [[nodiscard]] QWidget* makeList();
+    [[nodiscard]] QWidget* makeNotes();
     void connectLine();
     void shapeLine();
     void takeTyping();

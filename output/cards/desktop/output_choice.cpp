@@ -18,12 +18,13 @@ constexpr int idOf(ReportOutput output) {
 
 }  // namespace
 
-OutputChoice::OutputChoice(const QString& objectName, QWidget* parent)
-    : OptionGroup(QStringLiteral("Saída:"), objectName, 2, parent) {
+OutputChoice::OutputChoice(const QString& objectName, QWidget* parent, Pdf pdf)
+    : OptionGroup(QStringLiteral("Saída:"), objectName, pdf == Pdf::OneFile ? 3 : 2, parent) {
     addOption(idOf(ReportOutput::Preview), QStringLiteral("&Visualizar"),
               QStringLiteral("preview"));
     addOption(idOf(ReportOutput::Printer), QStringLiteral("I&mprimir"), QStringLiteral("printer"));
     addOption(idOf(ReportOutput::PdfFile), QStringLiteral("Gravar em P&DF"), QStringLiteral("pdf"));
+    if (pdf == Pdf::OneFile) return;
     addOption(kPdfForEach, QStringLiteral("Um PDF por &funcionário"), QStringLiteral("pdfForEach"));
 }
 

@@ -5,12 +5,15 @@
 
 namespace winvrx {
 
-/// Where pages go: the preview, a printer, one PDF file or one for each employee.
+/// Where pages go: the preview, a printer, one PDF file or, where that is offered, one for each
+/// employee.
 class OutputChoice : public OptionGroup {
     Q_OBJECT
 
   public:
-    OutputChoice(const QString& objectName, QWidget* parent);
+    enum class Pdf { OneFile, ForEachToo };
+
+    OutputChoice(const QString& objectName, QWidget* parent, Pdf pdf = Pdf::ForEachToo);
 
     void showOutput(const PrintChoices& choices);
     /// Puts the choice into `choices`.

@@ -150,9 +150,10 @@ TEST_F(TypicalMonth, KeepsPicturesInBothPalettesTheConversationAndNothingUntold)
     std::vector<std::string> names;
     for (const QString& name : pictures)
         names.push_back(name.mid(3).toStdString());
-    for (const char* window : {"janela-principal", "empresas", "funcionarios", "mes-carnaval",
-                               "feriados", "mes", "dados", "afastamentos", "tipo", "imprimir",
-                               "previa", "escalas", "quadro", "contrato", "carteira"}) {
+    for (const char* window :
+         {"janela-principal", "empresas", "funcionarios", "mes-carnaval", "feriados", "mes",
+          "dados", "afastamentos", "tipo", "imprimir", "previa", "escalas", "quadro", "contrato",
+          "carteira", "etiquetas", "textos", "estoque", "previa-etiquetas"}) {
         EXPECT_THAT(names, Contains(std::string(window) + "-claro.png"));
         EXPECT_THAT(names, Contains(std::string(window) + "-escuro.png"));
     }

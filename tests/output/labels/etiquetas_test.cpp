@@ -133,7 +133,7 @@ TEST_F(LabelScreen, WhatCannotBePrintedIsToldFirst) {
     desk.session.folder = DataFolder('D', "/data");
     EXPECT_FALSE(screen.print({}));
     EXPECT_FALSE(screen.printFrames({}));
-    EXPECT_FALSE(screen.printStockSheets(StockForm::Count, {}, {}));
+    EXPECT_FALSE(screen.printStockSheets({}, {}));
     EXPECT_THAT(desk.person.takeTexts(),
                 ::testing::Each("Diretório Inválido p/ Impressão! Transfira os dados do diretório "
                                 "atual para o Diretório 'C'."));
@@ -146,10 +146,9 @@ TEST_F(LabelScreen, FramesAndStockSheetsArePrintedToo) {
     ASSERT_TRUE(screen.printFrames({}));
     EXPECT_EQ(label(13), LabelLines{"14"});
     EXPECT_EQ(engine.jobs.back().cards.at(0).at(6).back(), "1000");
-    screen.choices().copies = 2;
     for (const auto& [form, layout] : {std::pair(StockForm::Movement, "estoquesa.rpt"),
                                        std::pair(StockForm::Count, "estoquesb.rpt")}) {
-        ASSERT_TRUE(screen.printStockSheets(form, "FARINHA", {}));
+        ASSERT_TRUE(screen.printStockSheets({.form = form, .subject = "FARINHA", .sheets = 2}, {}));
         const auto& job = engine.jobs.back();
         EXPECT_EQ(job.request.layoutName, layout);
         EXPECT_EQ(job.request.title, "CONTROLE DE ESTOQUE");

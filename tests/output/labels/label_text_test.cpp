@@ -50,7 +50,7 @@ TEST(DefaultLabels, EachSaysItsPointsAndFitsEverySheet) {
          {"médico próprio", "faltas por doença", "Portaria 39 do MPAS", "art. 32 da CLPS"}},
         {"07",
          "Alteração de Função",
-         {"contrato da página ____", "alterada para ____", "partir de __/__/____"}},
+         {"contrato da página ____", "alterada para ____", "a partir de __/__/____"}},
         {"08",
          "Dispensa do Ponto",
          {"A partir de __/__/____", "externo", "horário fixo", "art. 62, inciso I, da CLT"}},

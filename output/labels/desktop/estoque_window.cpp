@@ -1,0 +1,94 @@
+#include "output/labels/desktop/estoque_window.h"
+
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
+#include "foundation/widgets/desktop/field.h"
+#include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/option_group.h"
+#include "foundation/widgets/desktop/progress.h"
+#include "output/cards/desktop/output_choice.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::size_t kSubjectWidth = 40;
+constexpr std::size_t kSheetsWidth = 2;
+
+}  // namespace
+
+EstoqueWindow::EstoqueWindow(Etiquetas& labels, QWidget* parent)
+    : ScreenWindow(QStringLiteral("estoque"), QStringLiteral("CONTROLE DE ESTOQUE"), parent),
+      labels_(labels) {
+    setBody(buildBody());
+    setSubtitle(QStringLiteral("Folhas para preencher à mão"));
+    setChips({toQt(labels_.company().code) + QLatin1Char(' ') + toQt(labels_.company().name)});
+    QPushButton* go =
+        addClosingButton(QStringLiteral("&Imprimir"), QStringLiteral("estoque.print"));
+    go->setIcon(look::icon(QStringLiteral("print")));
+    go->setDefault(true);
+    connect(go, &QPushButton::clicked, this, &EstoqueWindow::print);
+    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, go,
+            &QPushButton::click);
+    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("estoque.close"));
+    connect(close, &QPushButton::clicked, this, &EstoqueWindow::reject);
+    resize(look::kSmallWindowSize);
+    form_->setFocus();
+}
+
+QWidget* EstoqueWindow::buildBody() {
+    auto* body = new QWidget(this);
+    auto* column = new QVBoxLayout(body);
+    look::layOutBody(*column);
+    form_ = new OptionGroup(QStringLiteral("Folha:"), QStringLiteral("estoque.form"), 2, body);
+    form_->addOption(static_cast<int>(StockForm::Movement),
+                     QStringLiteral("&Entradas e saídas de um produto, com saldo"),
+                     QStringLiteral("movement"));
+    form_->addOption(static_cast<int>(StockForm::Count),
+                     QStringLiteral("&Contagem de produtos por data"), QStringLiteral("count"));
+    form_->choose(static_cast<int>(StockForm::Movement));
+    column->addWidget(form_);
+    subject_ = new Field({.caption = QStringLiteral("Produto, &local ou grupo"),
+                          .objectName = QStringLiteral("estoque.subject"),
+                          .width = kSubjectWidth},
+                         body);
+    column->addWidget(subject_);
+    sheets_ = new Field({.caption = QStringLiteral("Quantas &folhas"),
+                         .objectName = QStringLiteral("estoque.sheets"),
+                         .width = kSheetsWidth,
+                         .kind = kNumberField},
+                        body);
+    sheets_->setStored("1");
+    sheets_->input()->setProperty("lastField", true);
+    column->addWidget(sheets_);
+    output_ = new OutputChoice(QStringLiteral("estoque.output"), body, OutputChoice::Pdf::OneFile);
+    output_->showOutput({});
+    column->addWidget(output_);
+    column->addStretch();
+    return body;
+}
+
+void EstoqueWindow::print() {
+    const auto sheets = parseWholeNumber(toUtf8(sheets_->text()), 1, kMostLabelCopies);
+    sheets_->setFinding(sheets ? QString() : QStringLiteral("De 1 a 99."));
+    if (!sheets) return sheets_->takeFocus();
+    PrintChoices chosen;
+    output_->takeInto(chosen);
+    Progress progress({QStringLiteral("estoque.progress"), QStringLiteral("IMPRIMINDO"),
+                       QStringLiteral("Folha %1 de %2")},
+                      this);
+    PrintRun run = pdfAsking(this);
+    run.progress = [&progress](int done, int total) { return progress.show(done, total); };
+    (void)labels_.printStockSheets({.form = static_cast<StockForm>(form_->chosen()),
+                                    .subject = subject_->stored(),
+                                    .sheets = static_cast<std::size_t>(*sheets),
+                                    .output = chosen.output},
+                                   run);
+}
+
+}  // namespace winvrx

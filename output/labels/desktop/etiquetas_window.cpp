@@ -1,0 +1,303 @@
+#include "output/labels/desktop/etiquetas_window.h"
+
+#include "foundation/desk/list_screen.h"
+#include "foundation/register/desktop/employee_picker.h"
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
+#include "foundation/widgets/desktop/field.h"
+#include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/option_group.h"
+#include "foundation/widgets/desktop/progress.h"
+#include "output/cards/desktop/output_choice.h"
+#include "output/labels/desktop/sheet_view.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace winvrx {
+
+namespace {
+
+constexpr std::size_t kDateWidth = 10;
+constexpr std::size_t kCopiesWidth = 2;
+constexpr int kListCharacters = 38;
+
+constexpr FieldKind kDayField{.hint = dateHint, .completed = completedDate};
+
+template <typename Choice>
+constexpr int idOf(Choice choice) {
+    return static_cast<int>(choice);
+}
+
+}  // namespace
+
+EtiquetasWindow::EtiquetasWindow(Etiquetas& labels, EtiquetasWindowDesk desk, QWidget* parent)
+    : ScreenWindow(QStringLiteral("etiquetas"), toQt(kEtiquetasTitle), parent),
+      labels_(labels),
+      desk_(std::move(desk)) {
+    labels_.load();
+    buildCommands();
+    setBody(buildBody());
+    buildClosingButtons();
+    connectAll();
+    people_->refresh();
+    showTexts();
+    showContext();
+    resize(look::kWindowSize);
+    texts_->setFocus();
+}
+
+void EtiquetasWindow::buildCommands() {
+    struct Command {
+        const char* icon;
+        QString text;
+        QKeySequence key;
+        const char* name;
+        const std::function<void(QWidget*)>& screen;
+    };
+    const Command commands[] = {{"edit", QStringLiteral("Textos das Etiquetas"),
+                                 Qt::CTRL | Qt::Key_E, "edit", desk_.openTexts},
+                                {"printer-settings", QStringLiteral("Selecionar Impressora"),
+                                 Qt::CTRL | Qt::Key_R, "printer", desk_.openPrinters},
+                                {"ruler", QStringLiteral("Escala e Calibração"),
+                                 Qt::CTRL | Qt::Key_J, "calibration", desk_.openCalibration},
+                                {"stock", QStringLiteral("Controle de Estoque"),
+                                 Qt::CTRL | Qt::Key_K, "stock", desk_.openStock}};
+    for (const Command& one : commands) {
+        QToolButton* button = addCommand(QLatin1String(one.icon), one.text, one.key,
+                                         QStringLiteral("etiquetas.") + QLatin1String(one.name));
+        connect(button, &QToolButton::clicked, this,
+                [this, &screen = one.screen] { visit(screen); });
+    }
+    QToolButton* frames = addCommand(QStringLiteral("align"), QStringLiteral("Imprimir Teste"),
+                                     Qt::CTRL | Qt::Key_T, QStringLiteral("etiquetas.frames"));
+    frames->setToolTip(QStringLiteral("Molduras em papel comum, para comparar contra a luz"));
+    connect(frames, &QToolButton::clicked, this, [this] { print(&Etiquetas::printFrames); });
+}
+
+void EtiquetasWindow::buildClosingButtons() {
+    QPushButton* go =
+        addClosingButton(QStringLiteral("&Imprimir"), QStringLiteral("etiquetas.print"));
+    go->setIcon(look::icon(QStringLiteral("print")));
+    go->setDefault(true);
+    connect(go, &QPushButton::clicked, this, [this] { print(&Etiquetas::print); });
+    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, go,
+            &QPushButton::click);
+    QPushButton* close =
+        addClosingButton(QStringLiteral("&Sair"), QStringLiteral("etiquetas.close"));
+    connect(close, &QPushButton::clicked, this, &EtiquetasWindow::reject);
+}
+
+QWidget* EtiquetasWindow::buildBody() {
+    auto* body = new QWidget(this);
+    auto* row = new QHBoxLayout(body);
+    look::layOutBody(*row);
+    row->setSpacing(look::kGroupGap);
+    row->addWidget(buildPeople(body), 3);
+    row->addWidget(buildTexts(body), 3);
+    row->addWidget(buildSheet(body), 4);
+    return body;
+}
+
+QWidget* EtiquetasWindow::buildPeople(QWidget* parent) {
+    auto* part = new QWidget(parent);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    people_ = new EmployeePicker(labels_.list(),
+                                 {.screen = QStringLiteral("etiquetas"), .ticks = true}, part);
+    people_->setMinimumWidth(people_->fontMetrics().averageCharWidth() * kListCharacters);
+    column->addWidget(people_, 1);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(look::kGap);
+    for (const bool on : {true, false}) {
+        const QString text =
+            on ? QStringLiteral("Marcar &todos") : QStringLiteral("Desmarca&r todos");
+        auto* button = new QPushButton(text, part);
+        look::name(*button,
+                   on ? QStringLiteral("etiquetas.tickAll") : QStringLiteral("etiquetas.untickAll"),
+                   text);
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, [this, on] {
+            labels_.list().tickShown(on);
+            people_->refresh();
+            showContext();
+        });
+        row->addWidget(button);
+    }
+    column->addLayout(row);
+    return part;
+}
+
+QWidget* EtiquetasWindow::buildTexts(QWidget* parent) {
+    auto* part = new QWidget(parent);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    kind_ =
+        new OptionGroup(QStringLiteral("Etiquetas:"), QStringLiteral("etiquetas.kind"), 2, part);
+    kind_->addOption(idOf(LabelKind::Annotations), QStringLiteral("Anotações da &CTPS"),
+                     QStringLiteral("annotations"));
+    kind_->addOption(idOf(LabelKind::Addresses), QStringLiteral("&Nome e endereço"),
+                     QStringLiteral("addresses"));
+    kind_->choose(idOf(labels_.choices().kind));
+    column->addWidget(kind_);
+    QLabel* heading = look::heading(QStringLiteral("Te&xtos"), part);
+    column->addWidget(heading);
+    texts_ = new QListWidget(part);
+    look::name(*texts_, QStringLiteral("etiquetas.texts"), QStringLiteral("Textos"));
+    heading->setBuddy(texts_);
+    column->addWidget(texts_, 1);
+    QLabel* note = look::label(
+        QStringLiteral("ESPAÇO marca. Sem funcionário marcado, a anotação sai com os espaços em "
+                       "branco; com funcionários, uma para cada um."),
+        look::TextSize::Hint, part);
+    note->setWordWrap(true);
+    column->addWidget(note);
+    return part;
+}
+
+QWidget* EtiquetasWindow::buildSheet(QWidget* parent) {
+    auto* part = new QWidget(parent);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    sheets_ =
+        new OptionGroup(QStringLiteral("Folha de etiquetas:"), QStringLiteral("etiquetas.sheet"),
+                        static_cast<int>(kLabelSheets.size()), part);
+    for (std::size_t at = 0; at < kLabelSheets.size(); ++at)
+        sheets_->addOption(static_cast<int>(at), toQt(kLabelSheets[at].name),
+                           QString::number(static_cast<qulonglong>(at + 1)));
+    sheets_->choose(static_cast<int>(labels_.choices().sheet));
+    column->addWidget(sheets_);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(look::kGroupGap);
+    auto* drawn = new QVBoxLayout;
+    drawn->addWidget(look::heading(QStringLiteral("Primeira etiqueta livre"), part));
+    sheet_ = new SheetView(QStringLiteral("etiquetas.first"), part);
+    drawn->addWidget(sheet_, 1);
+    row->addLayout(drawn, 1);
+    row->addWidget(buildNumbers(part));
+    column->addLayout(row, 1);
+    return part;
+}
+
+QWidget* EtiquetasWindow::buildNumbers(QWidget* parent) {
+    auto* part = new QWidget(parent);
+    auto* column = new QVBoxLayout(part);
+    look::layOutPart(*column);
+    copies_ = new Field({.caption = QStringLiteral("Có&pias de cada"),
+                         .objectName = QStringLiteral("etiquetas.copies"),
+                         .width = kCopiesWidth,
+                         .kind = kNumberField},
+                        part);
+    copies_->setStored(std::to_string(labels_.choices().copies));
+    column->addWidget(copies_);
+    day_ = new Field({.caption = QStringLiteral("D&ata das anotações"),
+                      .objectName = QStringLiteral("etiquetas.day"),
+                      .width = kDateWidth,
+                      .kind = kDayField},
+                     part);
+    day_->setStored(labels_.choices().day);
+    day_->input()->setProperty("lastField", true);
+    column->addWidget(day_);
+    output_ =
+        new OutputChoice(QStringLiteral("etiquetas.output"), part, OutputChoice::Pdf::OneFile);
+    output_->showOutput({.output = labels_.choices().output});
+    column->addWidget(output_);
+    column->addStretch();
+    return part;
+}
+
+void EtiquetasWindow::connectAll() {
+    connect(people_, &EmployeePicker::shiftChosen, this, [this](ShiftFilter shift) {
+        labels_.list().filterBy(shift);
+        people_->refresh();
+        showContext();
+    });
+    connect(people_, &EmployeePicker::searched, this, [this] { people_->selectShown(); });
+    connect(people_, &EmployeePicker::ticked, this, &EtiquetasWindow::showContext);
+    connect(texts_, &QListWidget::itemChanged, this, [this](const QListWidgetItem* item) {
+        labels_.tick(static_cast<std::size_t>(texts_->row(item)),
+                     item->checkState() == Qt::Checked);
+        showContext();
+    });
+    connect(kind_, &OptionGroup::picked, this, [this](int kind) {
+        labels_.choices().kind = static_cast<LabelKind>(kind);
+        showContext();
+    });
+    connect(sheets_, &OptionGroup::picked, this, [this](int sheet) {
+        labels_.choices().sheet = static_cast<std::size_t>(sheet);
+        labels_.choices().first = 0;
+        showContext();
+    });
+    connect(sheet_, &SheetView::picked, this, [this](std::size_t place) {
+        labels_.choices().first = place;
+        showContext();
+    });
+    connect(copies_, &Field::edited, this, &EtiquetasWindow::takeNumbers);
+    connect(day_, &Field::edited, this, &EtiquetasWindow::takeNumbers);
+    connect(day_, &Field::finished, this, &EtiquetasWindow::takeNumbers);
+}
+
+void EtiquetasWindow::takeNumbers() {
+    const auto copies = parseWholeNumber(toUtf8(copies_->text()), 1, kMostLabelCopies);
+    labels_.choices().copies = copies.value_or(1);
+    copies_->setFinding(copies ? QString() : QStringLiteral("De 1 a 99; sem número sai uma."));
+    labels_.choices().day = parseDate(day_->stored()) ? day_->stored() : std::string();
+    showContext();
+}
+
+void EtiquetasWindow::visit(const std::function<void(QWidget*)>& screen) {
+    if (screen) screen(this);
+    labels_.load();
+    people_->refresh();
+    showTexts();
+    showContext();
+}
+
+void EtiquetasWindow::print(bool (Etiquetas::*give)(const PrintRun& run)) {
+    PrintChoices chosen;
+    output_->takeInto(chosen);
+    labels_.choices().output = chosen.output;
+    Progress progress({QStringLiteral("etiquetas.progress"), toQt(kLabelProgressTitle),
+                       QStringLiteral("Folha %1 de %2")},
+                      this);
+    PrintRun run = pdfAsking(this);
+    run.progress = [&progress](int done, int total) { return progress.show(done, total); };
+    (void)(labels_.*give)(run);
+}
+
+void EtiquetasWindow::showTexts() {
+    const QSignalBlocker quiet(texts_);
+    const int row = texts_->currentRow();
+    texts_->clear();
+    for (std::size_t at = 0; at < labels_.texts().size(); ++at) {
+        const LabelText& text = labels_.texts()[at];
+        auto* item = new QListWidgetItem(toQt(text.number + " " + text.title), texts_);
+        item->setToolTip(toQt(shownLabelText(text.text)));
+        item->setCheckState(labels_.isTicked(at) ? Qt::Checked : Qt::Unchecked);
+    }
+    texts_->setCurrentRow(std::clamp(row, 0, std::max(texts_->count() - 1, 0)));
+}
+
+void EtiquetasWindow::showContext() {
+    const LabelRun run = labels_.labels();
+    const std::size_t count = run.labels * run.copies;
+    texts_->setEnabled(labels_.choices().kind == LabelKind::Annotations);
+    sheet_->showSheet(run.sheet, run.first, count);
+    setSubtitle(toQt(run.sheet.name));
+    setChips({toQt(labels_.company().code) + QLatin1Char(' ') + toQt(labels_.company().name),
+              toQt(codeOf(labels_.list().shift()))});
+    setState(QStringList{toQt(countOf(count, "etiqueta")),
+                         toQt(countOf(count == 0 ? 0 : run.sheets(), "folha")),
+                         labels_.printerName().empty() ? QStringLiteral("impressora padrão")
+                                                       : toQt(labels_.printerName())}
+                 .join(QStringLiteral(" · ")));
+}
+
+}  // namespace winvrx
