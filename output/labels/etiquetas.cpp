@@ -2,7 +2,6 @@
 
 #include "foundation/desk/list_screen.h"
 #include "foundation/register/company_register.h"
-#include "foundation/register/employee_register.h"
 #include "foundation/values/text.h"
 #include "output/labels/label_blanks.h"
 #include "report/print_pages.h"
@@ -81,9 +80,7 @@ void Etiquetas::load() {
         texts_.clear();
         for (const auto& line : loadLabels(at_.store(), company))
             if (line.key()) texts_.push_back(line.record);
-        list_.fill(
-            EmployeeRegister(at_.store(), company).load(),
-            EmployeeList::leaveMarks(at_.store(), company, namesIn(at_.store()), std::nullopt));
+        list_.load(at_.store(), company);
     });
 }
 
