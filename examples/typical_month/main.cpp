@@ -5,8 +5,11 @@
 #include "foundation/desk/desktop/desktop_text_editor.h"
 #include "foundation/desk/desktop/file_log.h"
 #include "foundation/desk/desktop/file_user_settings.h"
+#include "foundation/desk/desktop/open_document.h"
 #include "foundation/files/desktop/system_drives.h"
 #include "foundation/menu/desktop/menu_window.h"
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/faults.h"
 #include "foundation/widgets/desktop/look.h"
 #include "month_script.h"
 #include "personnel/contract/booklet_box.h"
@@ -14,6 +17,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 
 namespace winvrx {
 
@@ -21,6 +25,24 @@ namespace {
 
 struct OnlyCopy final : SingleInstance {
     bool claim() override { return true; }
+};
+
+/// In the place of the word processor: a file for each document, of its title.
+class DocumentsInFiles final : public WordProcessor {
+  public:
+    explicit DocumentsInFiles(QString folder) : folder_(std::move(folder)) {}
+
+    void show(const Document& document) override {
+        QDir().mkpath(folder_);
+        QFile file(folder_ + QLatin1Char('/') + toQt(document.title) + QStringLiteral(".fodt"));
+        if (!file.open(QIODevice::WriteOnly))
+            throw Fault("no file", "O documento não foi gravado.");
+        file.write(openDocument(document));
+    }
+    void print(const Document& document, const std::string&) override { show(document); }
+
+  private:
+    QString folder_;
 };
 
 /// A printer whose paper is a PDF file: what the operator prints lands in `path`, a
@@ -99,7 +121,12 @@ int main(int argc, char** argv) {
     OnlyCopy instance;
     FileUserSettings settings(folder + QStringLiteral("/winvrx.ini"));
     Program program(
-        {drives, clock, log, instance, settings, QApplication::applicationDirPath().toStdString(),
+        {drives,
+         clock,
+         log,
+         instance,
+         settings,
+         QApplication::applicationDirPath().toStdString(),
          [&](std::unique_ptr<ReportEngine> engine) -> std::unique_ptr<ReportEngine> {
              return std::make_unique<PaperInAFile>(
                  std::move(engine), (folder + QStringLiteral("/cartoes.pdf")).toStdString());
@@ -107,7 +134,12 @@ int main(int argc, char** argv) {
          [](const FileSystem& files) -> std::unique_ptr<TextEditor> {
              return std::make_unique<TextViewer>(files);
          },
-         [] { return std::make_unique<TwoPrinters>(); }});
+         [] { return std::make_unique<TwoPrinters>(); },
+         nullptr,
+         {},
+         [&] {
+             return std::make_unique<DocumentsInFiles>(folder + QStringLiteral("/documentos"));
+         }});
     if (!program.start()) return 1;
     Player player(folder);
     writeMonth(player);

@@ -101,7 +101,7 @@ void registerEmployees(Player& player) {
                             "00001"_t, "02/05/2019"_t, "Comercial"_t, "Normal"_t, "2.640,00"_t});
     player.press(Qt::Key_Insert);
     registerPerson(player, {"002"_t, "ANA PAULA D'ÁVILA"_t, "BALCONISTA"_t, "67890/00022-SP"_t,
-                            "00002"_t, "12/03/2024"_t, "Comercial"_t, "Normal"_t, "1.980,00"_t});
+                            "00002"_t, "12/03/2024"_t, "Comercial"_t, "Normal"_t, "1.850,00"_t});
     player.press(Qt::Key_Insert);
     registerPerson(player, {"003"_t, "JOÃO BATISTA LIMA"_t, "VIGIA NOTURNO"_t, "24680/00031-SP"_t,
                             "00003"_t, "10/01/2022"_t, "Noite"_t});
@@ -338,11 +338,11 @@ void applyRotation(Player& player) {
     player.click("card.close"_t);
 }
 
-/// The month's pay of 001, then of everyone who can be paid.
+/// The month's pay of 001, then of everyone who can be paid; the papers of 002, who has a contract.
 void recordPayroll(Player& player) {
     player.click("menu.payroll.open"_t);
     player.choose("folha.employees"_t, "001"_t);
-    player.choose("folha.events"_t, "DSR"_t);
+    player.choose("folha.events"_t, "010"_t);
     player.picture("folha"_t);
     player.press(Qt::CTRL | Qt::Key_S);
     player.answer("Deseja Gravar Somente o FUNCIONARIO SELECIONADO?"_t, Answer::Yes);
@@ -356,6 +356,17 @@ void recordPayroll(Player& player) {
     player.click("folha.catalogue"_t);
     player.picture("eventos"_t);
     player.click("eventos.close"_t);
+    player.choose("folha.employees"_t, "002"_t);
+    player.trigger("folha.print.payroll"_t);
+    player.answer("Confirma Impressão da FOLHA DE PAGAMENTO?"_t, Answer::Yes);
+    player.picture("folha-de-pagamento"_t);
+    player.click("preview.close"_t);
+    player.trigger("folha.print.slips"_t);
+    player.answer("Confirma Impressão dos RECIBOS DE PAGAMENTO"_t, Answer::Yes);
+    player.picture("recibos"_t);
+    player.click("preview.close"_t);
+    player.trigger("folha.print.memos"_t);
+    player.answer("Confirma Impressão do RECIBO DE PAGAMENTO?"_t, Answer::Yes);
     player.click("folha.close"_t);
 }
 

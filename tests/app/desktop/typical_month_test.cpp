@@ -150,14 +150,39 @@ TEST_F(TypicalMonth, KeepsPicturesInBothPalettesTheConversationAndNothingUntold)
     std::vector<std::string> names;
     for (const QString& name : pictures)
         names.push_back(name.mid(3).toStdString());
-    for (const char* window :
-         {"janela-principal", "empresas", "funcionarios", "mes-carnaval", "feriados", "mes",
-          "dados", "afastamentos", "tipo", "imprimir", "previa", "escalas", "quadro", "contrato",
-          "carteira", "etiquetas", "textos", "estoque", "previa-etiquetas"}) {
+    for (const char* window : {"janela-principal",
+                               "empresas",
+                               "funcionarios",
+                               "mes-carnaval",
+                               "feriados",
+                               "mes",
+                               "dados",
+                               "afastamentos",
+                               "tipo",
+                               "imprimir",
+                               "previa",
+                               "escalas",
+                               "quadro",
+                               "contrato",
+                               "carteira",
+                               "etiquetas",
+                               "textos",
+                               "estoque",
+                               "previa-etiquetas",
+                               "folha",
+                               "visao-do-mes",
+                               "eventos",
+                               "folha-de-pagamento",
+                               "recibos"}) {
         EXPECT_THAT(names, Contains(std::string(window) + "-claro.png"));
         EXPECT_THAT(names, Contains(std::string(window) + "-escuro.png"));
     }
     EXPECT_EQ(bytesOf(file("leitor-de-tela.txt")).toStdString(), "");
+    EXPECT_THAT(
+        bytesOf(file("documentos/RECIBO DE PAGAMENTO - ANA PAULA D'ÁVILA.fodt")).toStdString(),
+        AllOf(HasSubstr("(Assinatura do Sócio)"), HasSubstr("MEMÓRIA DE CÁLCULO")));
+    EXPECT_TRUE(
+        record("02fp0000203-2024.bdx").startsWith("001 SALARIO BASE         1220,01111000"));
     const std::string conversation = bytesOf(file("conversa.txt")).toStdString();
     EXPECT_THAT(conversation, HasSubstr("Título: INCLUSÃO\n"
                                         "Texto: Confirma a Inclusão na LISTA DE FUNCIONARIOS?\n"
