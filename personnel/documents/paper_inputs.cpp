@@ -97,8 +97,8 @@ constexpr std::array kNotice = {
     date("pagamento_ate", "Pagamento até"),
     text("fundamento", "Fatos e alínea do art. 482 (justa causa)", 160)};
 constexpr std::array kResignation = {
-    choice("cumprimento", "Aviso prévio", servings), number("dias_aviso", "Dias de aviso", 0, 90),
-    date("inicio_aviso", "Início do aviso"), date("ultimo_dia", "Último dia de trabalho"),
+    choice("cumprimento", "Aviso prévio", servings), number("dias_pedido", "Dias de aviso", 0, 30),
+    date("inicio_pedido", "Início do aviso"), date("ultimo_pedido", "Último dia de trabalho"),
     text("motivo", "Motivo (se quiser dizer)", 120)};
 constexpr std::array kTwelve = {kFrom,
                                 kUntil,

@@ -29,11 +29,15 @@ struct Usual {
     std::string_view text;
 };
 
-TerminationDates reckonedNotice(const Subject& subject) {
+TerminationDates reckonedNotice(const Subject& subject,
+                                TerminationType type = TerminationType::WithoutCause) {
     const auto admission = subject.employee.admissionDate();
     const Date start = admission && *admission <= subject.today ? *admission : subject.today;
-    return terminationDates(TerminationType::WithoutCause, NoticeType::Worked, start,
-                            subject.today);
+    return terminationDates(type, NoticeType::Worked, start, subject.today);
+}
+
+TerminationDates resigned(const Subject& subject) {
+    return reckonedNotice(subject, TerminationType::Resignation);
 }
 
 std::string optionalDate(const std::optional<Date>& date) {
@@ -122,6 +126,16 @@ const std::array kOffers = {
     Offer{"ultimo_dia",
           [](const Subject& s) {
               return recordedOr<&Leave::lastWorked>(s, reckonedNotice(s).lastDayWorked.value);
+          }},
+    Offer{"dias_pedido",
+          [](const Subject& s) { return std::to_string(resigned(s).noticeDays.value); }},
+    Offer{"inicio_pedido",
+          [](const Subject& s) {
+              return recordedOr<&Leave::noticeBegins>(s, resigned(s).noticeBegins.value);
+          }},
+    Offer{"ultimo_pedido",
+          [](const Subject& s) {
+              return recordedOr<&Leave::lastWorked>(s, resigned(s).lastDayWorked.value);
           }},
     Offer{"pagamento_ate",
           [](const Subject& s) {

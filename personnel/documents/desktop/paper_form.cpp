@@ -82,6 +82,8 @@ Field* PaperForm::make(const PaperInput& input, QWidget* parent) {
                              .kind = kindFor(input),
                              .today = screen_.today()},
                             parent);
+    // The scrolled form takes its full height.
+    field->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     fields_[name] = field;
     connect(field, &Field::edited, this, [this, name, field] {
         screen_.type(name, field->stored());

@@ -85,6 +85,7 @@ TEST(Documentos, OffersWhatTheRecordsSay) {
     PapersDesk desk;
     EXPECT_EQ(desk.screen.text("data"), "15/03/2024");
     EXPECT_EQ(desk.screen.text("dias_aviso"), "42");
+    EXPECT_EQ(desk.screen.text("dias_pedido"), "30") << "of a resignation, whatever the years";
     EXPECT_EQ(desk.screen.text("regime"), "clt");
     desk.file("01configAf001") = testing::leaveBytes({PapersDesk::dismissal()});
     desk.screen.load();
