@@ -101,11 +101,21 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
     add(employerEntries(at, employer));
     const ContractDesk contracts{printing.engine, printing.printers, papers.writer,
                                  papers.templateFolders};
-    add({contractEntry(at, contracts, [at, &engine = printing.engine](QWidget* parent) {
+    const auto openLetters = [at, &engine = printing.engine](QWidget* parent) {
         openCorrectionLetters(at, engine, parent);
-    })});
-    add({documentsEntry(at, {papers.writer, papers.templateFolders, legal})});
-    add({formsEntry(at, printing.engine)});
+    };
+    const MenuEntry contract = contractEntry(at, contracts, openLetters);
+    const MenuEntry forms = formsEntry(at, printing.engine);
+    using Neighbour = DocumentosWindow::Neighbour;
+    add({contract,
+         documentsEntry(at, {papers.writer, papers.templateFolders, legal},
+                        {Neighbour{contract.icon, QStringLiteral("Contrato"), Qt::Key_F6,
+                                   QStringLiteral("documents.contract"), contract.open},
+                         Neighbour{forms.icon, QStringLiteral("Relatórios"), Qt::Key_F7,
+                                   QStringLiteral("documents.forms"), forms.open},
+                         Neighbour{QStringLiteral("mirror"), QStringLiteral("Carta de Correção"),
+                                   Qt::Key_F8, QStringLiteral("documents.letters"), openLetters}}),
+         forms});
     add({labelsEntry(at, printing)});
     add({planned("Ferramentas", "backup", "backup", "Cópia de Segurança")});
     add({restoreEntry(at, desk.copies)});
