@@ -80,9 +80,11 @@ class Documentos {
     [[nodiscard]] bool requireSubject();
     [[nodiscard]] bool requireSoundInputs();
     [[nodiscard]] bool confirm();
-    [[nodiscard]] bool writeAndSend(Send act);
+    /// Who calls holds the folder.
+    [[nodiscard]] bool writeAndSend(Send act, const std::vector<FileSystem::NewContent>& files);
     [[nodiscard]] bool start(Send act);
     [[nodiscard]] std::vector<FileSystem::NewContent> newFiles() const;
+    [[nodiscard]] std::vector<FileSystem::NewContent> terminationFiles() const;
     [[nodiscard]] std::filesystem::path paperFile() const;
     void printFile(const std::filesystem::path& file) { desk_.writer.printFile(file, {}); }
     void showFile(const std::filesystem::path& file) { desk_.writer.showFile(file); }

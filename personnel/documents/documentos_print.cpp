@@ -67,12 +67,15 @@ bool Documentos::send(Send act) {
     blamed_.clear();
     return attempt(at_, kNotComposed, [&] {
         if (!requireSubject() || !requireSoundInputs() || !confirm()) return false;
-        if (at_.files.exists(paperFile())) {
-            const Answer answer = at_.person.ask(kEarlier);
-            if (answer == Answer::Yes) return start(act);
-            if (answer != Answer::No) return false;
-        }
-        return writeAndSend(act);
+        const bool isThere = at_.files.exists(paperFile());
+        const Answer answer = isThere ? at_.person.ask(kEarlier) : Answer::No;
+        if (answer == Answer::Cancel) return false;
+        const FolderLock::Hold hold = holdFolder(at_);
+        if (answer == Answer::Yes) return writeAndSend(act, terminationFiles());
+        if (!writeAndSend(act, newFiles())) return false;
+        for (const PaperInput& input : allInputsOf(paper_))
+            typed_.erase(std::string(input.name));
+        return true;
     });
 }
 
@@ -104,24 +107,21 @@ bool Documentos::confirm() {
     return at_.person.agrees(question(kTitle, std::string(kindOf(paper_).confirmation), remark()));
 }
 
-bool Documentos::writeAndSend(Send act) {
-    const FolderLock::Hold hold = holdFolder(at_);
-    const auto files = newFiles();
+bool Documentos::writeAndSend(Send act, const std::vector<FileSystem::NewContent>& files) {
     FormerFiles former(at_.files, files);
     at_.files.makeFolder(documentsFolder(at_.session.folder));
     try {
-        at_.files.replaceAll(files);
+        // One lasts before the next is written: given again after a power cut, the command finds
+        // what was typed beside the paper, and writes what follows it.
+        for (const auto& one : files)
+            at_.files.replace(one.file, one.bytes);
     } catch (...) {
         former.putBack();
         throw;
     }
-    if (!start(act)) {
-        former.putBack();
-        return false;
-    }
-    for (const PaperInput& input : allInputsOf(paper_))
-        typed_.erase(std::string(input.name));
-    return true;
+    if (start(act)) return true;
+    former.putBack();
+    return false;
 }
 
 bool Documentos::start(Send act) {
@@ -129,7 +129,6 @@ bool Documentos::start(Send act) {
 }
 
 std::vector<FileSystem::NewContent> Documentos::newFiles() const {
-    const PaperKind& kind = kindOf(paper_);
     std::vector<FileSystem::NewContent> files;
     PaperMemory memory(at_.store(), key_.value());
     bool isNew = false;
@@ -142,9 +141,16 @@ std::vector<FileSystem::NewContent> Documentos::newFiles() const {
     }
     if (isNew) files.push_back(memory.content());
     files.push_back({paperFile(), desk_.writer.fileOf(composedPaper())});
-    if (!kind.terminationStem.empty() && subject_.termination)
-        files.push_back(terminationFile(at_.store(), *key_, kind, subject_));
+    for (auto& one : terminationFiles())
+        files.push_back(std::move(one));
     return files;
+}
+
+/// An earlier paper needs it as well: it may have been printed before the termination was recorded.
+std::vector<FileSystem::NewContent> Documentos::terminationFiles() const {
+    const PaperKind& kind = kindOf(paper_);
+    if (kind.terminationStem.empty() || !subject_.termination) return {};
+    return {terminationFile(at_.store(), key_.value(), kind, subject_)};
 }
 
 std::filesystem::path Documentos::paperFile() const {

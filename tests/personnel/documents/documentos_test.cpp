@@ -178,7 +178,7 @@ TEST(Documentos, TerminationPapersBarTheReactivation) {
     EXPECT_TRUE(desk.print(Paper::AvisoPrevio));
     EXPECT_FALSE(desk.files.exists("/data/01AviTRTC001")) << "no termination is on record";
     desk.file("01configAf001") = testing::leaveBytes({PapersDesk::dismissal()});
-    EXPECT_TRUE(desk.print(Paper::AvisoPrevio, {Answer::Yes, Answer::No}));
+    EXPECT_TRUE(desk.print(Paper::AvisoPrevio, {Answer::Yes, Answer::Yes}));
     desk.file("01configAf001") = testing::leaveBytes({PapersDesk::dismissal()}, "14/04/2024");
     EXPECT_TRUE(desk.print(Paper::TermoRescisao));
     EXPECT_TRUE(desk.print(Paper::TermoHomologacao));
