@@ -25,15 +25,6 @@ namespace winvrx {
 
 namespace {
 
-/// A screen that does not exist yet.
-MenuEntry planned(const char* group, const char* name, const char* icon, const char* title) {
-    return {.group = QString::fromUtf8(group),
-            .objectName = QStringLiteral("menu.%1.open").arg(QLatin1String(name)),
-            .icon = QString::fromLatin1(icon),
-            .title = QString::fromUtf8(title),
-            .state = [](const MonthProgress*) { return QStringLiteral("Em uma próxima versão"); }};
-}
-
 MenuEntry help(const Workplace& at, Browser& browser) {
     return {.group = QStringLiteral("Ferramentas"),
             .objectName = QStringLiteral("menu.help.open"),
@@ -117,7 +108,6 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
                                    Qt::Key_F8, QStringLiteral("documents.letters"), openLetters}}),
          forms});
     add({labelsEntry(at, printing)});
-    add({planned("Ferramentas", "backup", "backup", "Cópia de Segurança")});
     add({restoreEntry(at, desk.copies)});
     if (desk.browsers) add({internetEntry(at, desk.browsers)});
     add({help(at, printing.browser)});

@@ -11,6 +11,7 @@
 #include "report/desktop/system_printers.h"
 #include "timecard/punches/month_progress.h"
 #include "tools/internet/web_ni.h"
+#include "tools/transfer/desktop/transfer_frame.h"
 
 #include <QApplication>
 
@@ -72,6 +73,9 @@ Program::Program(const ProgramDesk& desk)
                             desk.programFolder,
                             desk.browsers}),
           [this](std::optional<WorkMonth> month) { return progress(month); })) {
+    window_->addToSide(*new TransferFrame(
+        at_, systemTransferDesk(*disk_, desk_.drives, copies_, archiver_),
+        [this] { window_->reload(); }, window_.get()));
     ScreenWindow::setHelp([this] { openHelp(at_, *browser_); });
 }
 

@@ -179,8 +179,8 @@ QWidget* MenuWindow::buildOverview() {
     notices_ = addLines(*column, "menu.notices", look::TextSize::Hint);
     column->addStretch(1);
     column->addWidget(buildDataFolder());
-    column->addWidget(buildBackup());
     fixWidth(*side);
+    side_ = side;
     return side;
 }
 
@@ -206,19 +206,9 @@ QWidget* MenuWindow::buildDataFolder() {
     return part;
 }
 
-QWidget* MenuWindow::buildBackup() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
-    auto* title = look::heading(QStringLiteral("Cópia de Segurança da Base de Dados:"), part);
-    title->setWordWrap(true);
-    column->addWidget(title);
-    auto* note = look::label(QStringLiteral("Disponível em uma próxima versão."),
-                             look::TextSize::Hint, part);
-    note->setWordWrap(true);
-    column->addWidget(note);
-    part->setEnabled(false);
-    return part;
+void MenuWindow::addToSide(QWidget& part) {
+    side_->layout()->addWidget(&part);
+    fixWidth(*side_);
 }
 
 bool MenuWindow::start() {
@@ -360,6 +350,10 @@ void MenuWindow::open(const MenuEntry& entry) {
     if (!menu_.require(entry.needs)) return;
     entry.open(this);
     menu_.remember();
+    reload();
+}
+
+void MenuWindow::reload() {
     menu_.reloadCompanies();
     fillCompanies();
     refresh();

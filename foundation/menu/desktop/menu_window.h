@@ -11,6 +11,7 @@
 #include <vector>
 
 class QComboBox;
+class QFrame;
 class QLabel;
 class QListWidget;
 class QPushButton;
@@ -40,6 +41,11 @@ class MenuWindow : public QWidget {
 
     /// Shows the rules' present state again.
     void refresh();
+    /// Reads the companies again and shows all anew: for whoever brings other records into the
+    /// folder.
+    void reload();
+    /// Puts a part of another room below the data folder in use.
+    void addToSide(QWidget& part);
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -50,7 +56,6 @@ class MenuWindow : public QWidget {
     [[nodiscard]] QWidget* buildCommands();
     [[nodiscard]] QWidget* buildOverview();
     [[nodiscard]] QWidget* buildDataFolder();
-    [[nodiscard]] QWidget* buildBackup();
 
     void fillCompanies();
     void showCompany();
@@ -85,6 +90,7 @@ class MenuWindow : public QWidget {
     QLabel* notices_ = nullptr;
     QComboBox* drive_ = nullptr;
     QLabel* folder_ = nullptr;
+    QFrame* side_ = nullptr;
 };
 
 }  // namespace winvrx

@@ -1,0 +1,168 @@
+#include "tools/transfer/desktop/transfer_frame.h"
+
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/look.h"
+#include "foundation/widgets/desktop/progress.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QEvent>
+#include <QLabel>
+#include <QLocale>
+#include <QProcess>
+#include <QPushButton>
+#include <QStorageInfo>
+
+#include <filesystem>
+
+namespace winvrx {
+
+namespace {
+
+QString roomText(const std::filesystem::path& root) {
+    const QStorageInfo volume(toQt(root.string()));
+    if (!volume.isValid()) return {};
+    const QString name = volume.name().isEmpty() ? QString() : u' ' + volume.name();
+    return name + QStringLiteral(", %1 livres")
+                      .arg(QLocale(QLocale::Portuguese, QLocale::Brazil)
+                               .formattedDataSize(volume.bytesAvailable(), 1,
+                                                  QLocale::DataSizeTraditionalFormat));
+}
+
+/// The letter before the volume's name, or what was typed.
+std::string letterIn(const QString& text) {
+    return toUtf8(text.section(QStringLiteral(" "), 0, 0));
+}
+
+TransferProgress progressOf(std::string_view step) {
+    const auto shown = std::make_shared<Progress>(
+        Progress::Words{.objectName = QStringLiteral("transfer.progress"),
+                        .title = QStringLiteral("Cópia de Segurança da Base de Dados"),
+                        .step = toQt(step) + QStringLiteral(": arquivo %1 de %2")},
+        QApplication::activeWindow());
+    return [shown](std::size_t done, std::size_t all) {
+        return shown->show(static_cast<int>(done), static_cast<int>(all));
+    };
+}
+
+std::optional<std::uint64_t> freeSpaceAt(const std::filesystem::path& folder) {
+    std::error_code fault;
+    const auto room = std::filesystem::space(folder, fault);
+    if (fault) return std::nullopt;
+    return room.available;
+}
+
+}  // namespace
+
+TransferDesk systemTransferDesk(Disk& disk, const Drives& drives, SafetyCopies& copies,
+                                const Archiver& archiver) {
+    return {disk, drives, copies, archiver, freeSpaceAt, progressOf};
+}
+
+TransferFrame::TransferFrame(const Workplace& at, const TransferDesk& desk,
+                             std::function<void()> imported, QWidget* parent)
+    : QWidget(parent), at_(at), desk_(desk), screen_(at, desk), imported_(std::move(imported)) {
+    build();
+    fillDrives();
+}
+
+void TransferFrame::build() {
+    auto* column = new QVBoxLayout(this);
+    look::layOutPart(*column);
+    auto* title = look::heading(QStringLiteral("Cópia de Segurança da Base de Dados:"), this);
+    title->setWordWrap(true);
+    column->addWidget(title);
+    direction_ = new QComboBox(this);
+    look::name(*direction_, QStringLiteral("transfer.direction"), QStringLiteral("Direção"));
+    for (const std::string_view direction : kTransferDirections)
+        direction_->addItem(toQt(direction));
+    direction_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    direction_->setMinimumContentsLength(1);
+    column->addWidget(direction_);
+    column->addWidget(buildTarget());
+    auto* first = new QHBoxLayout;
+    addButton(*first, QStringLiteral("Transferir"), QStringLiteral("transfer.run"),
+              QStringLiteral("Copia todos os dados para a outra unidade, ou de lá para cá"),
+              [this] { transfer(); });
+    addButton(*first, QStringLiteral("Ejetar"), QStringLiteral("transfer.eject"),
+              QStringLiteral("Prepara a unidade para ser removida"), [this] { eject(); });
+    column->addLayout(first);
+    auto* second = new QHBoxLayout;
+    addButton(*second, QStringLiteral("Backup"), QStringLiteral("transfer.backup"),
+              QStringLiteral("Copia os dados para a pasta Backup deste mesmo drive"),
+              [this] { (void)screen_.backUp(); });
+    addButton(*second, QStringLiteral("Backup Zip"), QStringLiteral("transfer.archive"),
+              QStringLiteral("Copia os dados para um só arquivo, conferido depois de gravado"),
+              [this] { (void)screen_.backUpAsArchive(); });
+    column->addLayout(second);
+}
+
+QWidget* TransferFrame::buildTarget() {
+    auto* part = new QWidget(this);
+    auto* row = new QHBoxLayout(part);
+    row->setContentsMargins({});
+    source_ = look::label(QString(), look::TextSize::Hint, part);
+    target_ = new QComboBox(part);
+    look::name(*target_, QStringLiteral("transfer.target"),
+               QStringLiteral("Diretório de Destino ou da mídia"));
+    target_->setEditable(true);
+    target_->setInsertPolicy(QComboBox::NoInsert);
+    target_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    target_->setMinimumContentsLength(1);
+    target_->installEventFilter(this);
+    row->addWidget(source_);
+    row->addWidget(target_, 1);
+    return part;
+}
+
+void TransferFrame::addButton(QBoxLayout& row, const QString& caption, const QString& name,
+                              const QString& tip, std::function<void()> act) {
+    auto* button = new QPushButton(caption, this);
+    look::name(*button, name, caption);
+    button->setToolTip(tip);
+    connect(button, &QPushButton::clicked, this, std::move(act));
+    row.addWidget(button);
+}
+
+void TransferFrame::fillDrives() {
+    const QString typed = target_->currentText();
+    const char inUse = at_.session.folder.driveLetter();
+    source_->setText(QStringLiteral("Diretório de Origem: %1").arg(QLatin1Char(inUse)));
+    target_->clear();
+    for (const char letter : desk_.drives.letters())
+        if (letter != inUse && letter != kDefaultDrive)
+            target_->addItem(QLatin1Char(letter) + roomText(desk_.drives.root(letter)));
+    if (!typed.isEmpty()) target_->setEditText(typed);
+}
+
+/// What is plugged in meanwhile is offered when the list is asked for.
+bool TransferFrame::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) fillDrives();
+    return QWidget::eventFilter(watched, event);
+}
+
+void TransferFrame::transfer() {
+    const auto direction = static_cast<TransferDirection>(direction_->currentIndex());
+    const bool done = screen_.transfer(direction, letterIn(target_->currentText()));
+    fillDrives();
+    if (done && direction == TransferDirection::Import) imported_();
+}
+
+void TransferFrame::eject() {
+    const std::string letter = letterIn(target_->currentText());
+    const auto root = letter.size() == 1 ? desk_.drives.root(letter[0]) : std::filesystem::path();
+    constexpr int kPatience = 30'000;  // milliseconds
+    QProcess command;
+    command.start(QStringLiteral("udisksctl"),
+                  {QStringLiteral("unmount"), QStringLiteral("--block-device"),
+                   QString::fromUtf8(QStorageInfo(toQt(root.string())).device())});
+    const bool done = !root.empty() && command.waitForFinished(kPatience) &&
+                      command.exitStatus() == QProcess::NormalExit && command.exitCode() == 0;
+    at_.person.tell(done ? notice("Ejetar", "É seguro remover a unidade.")
+                         : refusal("Ejetar", "A unidade não pôde ser ejetada por aqui.",
+                                   "Use o gerenciador de arquivos do sistema."));
+    fillDrives();
+}
+
+}  // namespace winvrx
