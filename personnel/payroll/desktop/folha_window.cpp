@@ -115,7 +115,7 @@ QWidget* FolhaWindow::buildRuns(QWidget* parent) {
     runs_ = new QComboBox(parent);
     look::name(*runs_, QStringLiteral("folha.run"), QStringLiteral("Folha de"));
     for (const PayrollRun run : kPayrollRuns)
-        if (run != PayrollRun::Vacation) runs_->addItem(toQt(captionOf(run)));
+        runs_->addItem(toQt(captionOf(run)));
     connect(runs_, &QComboBox::activated, this, [this](int place) {
         (void)screen_.chooseRun(kPayrollRuns.at(static_cast<std::size_t>(place)));
         refresh();
