@@ -12,12 +12,15 @@
 #include "foundation/values/faults.h"
 #include "foundation/widgets/desktop/look.h"
 #include "month_script.h"
+#include "output/cards/cartao.h"
 #include "personnel/contract/booklet_box.h"
 #include "player.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+
+#include <filesystem>
 
 namespace winvrx {
 
@@ -45,19 +48,19 @@ class DocumentsInFiles final : public WordProcessor {
     QString folder_;
 };
 
-/// A printer whose paper is a PDF file: what the operator prints lands in `path`, a
-/// page of the work booklet in `carteira.pdf` beside it.
+/// A printer whose paper is PDF files of `folder`: the cards lie in "cartoes.pdf", a page of the
+/// work booklet in "carteira.pdf", other pages in a file of their layout's name.
 class PaperInAFile final : public ReportEngine {
   public:
-    PaperInAFile(std::unique_ptr<ReportEngine> engine, std::string path)
-        : engine_(std::move(engine)), path_(std::move(path)) {}
+    PaperInAFile(std::unique_ptr<ReportEngine> engine, std::filesystem::path folder)
+        : engine_(std::move(engine)), folder_(std::move(folder)) {}
 
     [[nodiscard]] PrintEnd print(const ReportRequest& request, ReportPages& pages,
                                  const PageProgress& progress) override {
         ReportRequest toFile = request;
         if (toFile.output == ReportOutput::Printer) {
             toFile.output = ReportOutput::PdfFile;
-            toFile.pdfPath = request.layoutName == kBookletLayout ? bookletPath() : path_;
+            toFile.pdfPath = (folder_ / (nameOf(request) + ".pdf")).string();
         }
         return engine_->print(toFile, pages, progress);
     }
@@ -71,12 +74,14 @@ class PaperInAFile final : public ReportEngine {
     }
 
   private:
-    [[nodiscard]] std::string bookletPath() const {
-        return std::filesystem::path(path_).replace_filename("carteira.pdf").string();
+    static std::string nameOf(const ReportRequest& request) {
+        if (request.title == kCartaoTitle) return "cartoes";
+        if (request.layoutName == kBookletLayout) return "carteira";
+        return std::filesystem::path(request.layoutName).stem().string();
     }
 
     std::unique_ptr<ReportEngine> engine_;
-    std::string path_;
+    std::filesystem::path folder_;
 };
 
 /// Two printers, of which the second is the default one.
@@ -128,8 +133,7 @@ int main(int argc, char** argv) {
          settings,
          QApplication::applicationDirPath().toStdString(),
          [&](std::unique_ptr<ReportEngine> engine) -> std::unique_ptr<ReportEngine> {
-             return std::make_unique<PaperInAFile>(
-                 std::move(engine), (folder + QStringLiteral("/cartoes.pdf")).toStdString());
+             return std::make_unique<PaperInAFile>(std::move(engine), folder.toStdString());
          },
          [](const FileSystem& files) -> std::unique_ptr<TextEditor> {
              return std::make_unique<TextViewer>(files);

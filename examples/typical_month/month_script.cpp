@@ -270,6 +270,26 @@ void printCards(Player& player) {
     player.press(Qt::Key_Escape);
 }
 
+void printMirrors(Player& player) {
+    player.press(Qt::Key_F12);
+    player.choose("horas.employees"_t, "001"_t);
+    player.picture("espelhos"_t);
+    player.click("horas.overview"_t);
+    player.picture("resumo-do-mes"_t);
+    player.press(Qt::Key_Escape);
+    player.click("horas.mirrors"_t);
+    player.answer("Confirma a Impressão do ESPELHO DE PONTO"_t, Answer::Yes);
+    player.picture("espelho-na-tela"_t);
+    player.press(Qt::Key_Escape);
+    player.tick("horas.output.printer"_t, true);
+    player.click("horas.mirrors"_t);
+    player.answer("Confirma a Impressão do ESPELHO DE PONTO"_t, Answer::Yes);
+    player.click("horas.report"_t);
+    player.answer("Deseja Gerar o Relatório Em EXCEL ou ARQUIVO TEXTO ?"_t, Answer::No);
+    player.pictureBeside("relatorio"_t, "relatorio-de-horas"_t);
+    player.press(Qt::Key_Escape);
+}
+
 /// The page as it is shown where the desktop has no browser.
 void lookAtHelp(Player& player) {
     player.then([] {
@@ -434,6 +454,7 @@ void writeMonth(Player& player) {
     chooseMonth(player);
     applyCards(player);
     printCards(player);
+    printMirrors(player);
     lookAtCopies(player);
     lookAtHelp(player);
     player.picture("janela-principal"_t);

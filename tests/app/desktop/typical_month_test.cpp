@@ -42,10 +42,10 @@ class TypicalMonth : public ::testing::Test {
     }
 
     /// The text of each printed page.
-    static QStringList pages() {
+    static QStringList pages(const char* name = "cartoes.pdf") {
         QProcess reader;
         reader.start(QStringLiteral("pdftotext"),
-                     {QStringLiteral("-layout"), file("cartoes.pdf"), QStringLiteral("-")});
+                     {QStringLiteral("-layout"), file(name), QStringLiteral("-")});
         EXPECT_TRUE(reader.waitForFinished(30'000));
         return QString::fromUtf8(reader.readAllStandardOutput())
             .split(QLatin1Char('\f'), Qt::SkipEmptyParts);
@@ -74,6 +74,14 @@ TEST_F(TypicalMonth, PrintsOnePageAnEmployeeWithTheHeaderBlock) {
               " - Descanso Semanal: ", "Ent:", " Saí:", " - Inter.Refei.: "})
             EXPECT_THAT(card.toStdString(), HasSubstr(caption));
     EXPECT_THAT(cards[1].toStdString(), HasSubstr("ANA PAULA D'ÁVILA"));
+}
+
+TEST_F(TypicalMonth, PrintsAMirrorOfEachAndTheHoursReport) {
+    const QStringList mirrors = pages("espelhos.pdf");
+    ASSERT_EQ(mirrors.size(), 3);
+    EXPECT_THAT(mirrors[0].toStdString(), HasSubstr("Corrigido à mão: 04/03, 05/03"));
+    EXPECT_THAT(record("RelHorasExtras").toStdString(),
+                HasSubstr("|08:12 12:00 13:00 17:30             |"));
 }
 
 TEST_F(TypicalMonth, KeepsOneCopyOfTheFolderAsTheDayFoundIt) {
@@ -150,47 +158,26 @@ TEST_F(TypicalMonth, KeepsPicturesInBothPalettesTheConversationAndNothingUntold)
     std::vector<std::string> names;
     for (const QString& name : pictures)
         names.push_back(name.mid(3).toStdString());
-    for (const char* window : {"janela-principal",
-                               "empresas",
-                               "funcionarios",
-                               "mes-carnaval",
-                               "feriados",
-                               "mes",
-                               "dados",
-                               "afastamentos",
-                               "tipo",
-                               "imprimir",
-                               "previa",
-                               "escalas",
-                               "quadro",
-                               "contrato",
-                               "carteira",
-                               "etiquetas",
-                               "textos",
-                               "estoque",
-                               "previa-etiquetas",
-                               "folha",
-                               "visao-do-mes",
-                               "eventos",
-                               "folha-de-pagamento",
-                               "recibos"}) {
-        EXPECT_THAT(names, Contains(std::string(window) + "-claro.png"));
-        EXPECT_THAT(names, Contains(std::string(window) + "-escuro.png"));
-    }
-    EXPECT_EQ(bytesOf(file("leitor-de-tela.txt")).toStdString(), "");
-    EXPECT_THAT(
-        bytesOf(file("documentos/RECIBO DE PAGAMENTO - ANA PAULA D'ÁVILA.fodt")).toStdString(),
-        AllOf(HasSubstr("(Assinatura do Sócio)"), HasSubstr("MEMÓRIA DE CÁLCULO")));
-    EXPECT_TRUE(
-        record("02fp0000203-2024.bdx").startsWith("001 SALARIO BASE         1220,01111000"));
-    const std::string conversation = bytesOf(file("conversa.txt")).toStdString();
-    EXPECT_THAT(conversation, HasSubstr("Título: INCLUSÃO\n"
-                                        "Texto: Confirma a Inclusão na LISTA DE FUNCIONARIOS?\n"
-                                        "Ícone: pergunta\n"
-                                        "Resposta: Sim\n"));
-    EXPECT_THAT(conversation,
-                HasSubstr("Texto: Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão "
-                          "para Todos os Itens do Turno: Todos da Lista?\n"));
+    "janela-principal", "empresas", "funcionarios", "mes-carnaval", "feriados", "mes", "dados",
+        "afastamentos", "tipo", "imprimir", "previa", "escalas", "quadro", "contrato", "carteira",
+        "etiquetas", "textos", "estoque", "previa-etiquetas", "folha", "visao-do-mes", "eventos",
+        "folha-de-pagamento", "recibos", "espelhos", "resumo-do-mes"
+}) {
+    EXPECT_THAT(names, Contains(std::string(window) + "-claro.png"));
+    EXPECT_THAT(names, Contains(std::string(window) + "-escuro.png"));
+}
+EXPECT_EQ(bytesOf(file("leitor-de-tela.txt")).toStdString(), "");
+EXPECT_THAT(bytesOf(file("documentos/RECIBO DE PAGAMENTO - ANA PAULA D'ÁVILA.fodt")).toStdString(),
+            AllOf(HasSubstr("(Assinatura do Sócio)"), HasSubstr("MEMÓRIA DE CÁLCULO")));
+EXPECT_TRUE(record("02fp0000203-2024.bdx").startsWith("001 SALARIO BASE         1220,01111000"));
+const std::string conversation = bytesOf(file("conversa.txt")).toStdString();
+EXPECT_THAT(conversation, HasSubstr("Título: INCLUSÃO\n"
+                                    "Texto: Confirma a Inclusão na LISTA DE FUNCIONARIOS?\n"
+                                    "Ícone: pergunta\n"
+                                    "Resposta: Sim\n"));
+EXPECT_THAT(conversation,
+            HasSubstr("Texto: Confirma Aplicação de Ponto de ENTRADA e SAÍDA conforme o Padrão "
+                      "para Todos os Itens do Turno: Todos da Lista?\n"));
 }
 
 }  // namespace

@@ -83,9 +83,11 @@ QWidget* CartaoPontoDadosWindow::buildSide() {
     QRadioButton* enter = buildEntryMode(QStringLiteral("Usar Tecla &ENTER"),
                                          QStringLiteral("card.useEnter"), Qt::Key_Return);
     enter->setChecked(true);
-    column->addWidget(enter);
-    column->addWidget(buildEntryMode(QStringLiteral("Usar Tecla T&ABE"),
-                                     QStringLiteral("card.useTab"), Qt::Key_Tab));
+    auto* modes = new QHBoxLayout;
+    modes->addWidget(enter);
+    modes->addWidget(buildEntryMode(QStringLiteral("Usar Tecla T&ABE"),
+                                    QStringLiteral("card.useTab"), Qt::Key_Tab));
+    column->addLayout(modes);
     return side_;
 }
 
