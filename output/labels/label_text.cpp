@@ -71,11 +71,13 @@ LabelLines wrappedLine(std::string_view line) {
 }
 
 std::string shownLabelText(std::string_view text) {
+    const LabelLines lines = labelLines(text);
     std::string shown;
-    for (const std::string& line : labelLines(text))
-        shown += line + "\n";
-    if (!shown.empty()) shown.pop_back();
-    return shown;
+    for (const std::string& line : lines)
+        shown += (&line == lines.data() ? "" : "\n") + line;
+    // Whoever goes on typing goes on behind the blanks of the last line.
+    const std::size_t room = kLabelLineWidth - (lines.empty() ? 0 : characterCount(lines.back()));
+    return shown.append(std::min(text.size() - withoutBlanksBehind(text).size(), room), ' ');
 }
 
 std::string storedLabelText(std::string_view shown) {

@@ -86,11 +86,11 @@ TEST_F(LabelWindows, ATextIsTypedLineByLine) {
     EXPECT_EQ(screen.hint("criarEtiqueta.text"), "8 linhas: cabe em todas as folhas");
     screen.press(Qt::Key_Insert);
     EXPECT_EQ(screen.text("criarEtiqueta.number"), "09");
-    screen.type("criarEtiqueta.title", "Férias");
+    screen.type("criarEtiqueta.title", "FÉRIAS");
     auto& text = screen.find<QPlainTextEdit>("criarEtiqueta.text");
     text.setFocus();
     text.moveCursor(QTextCursor::End);
-    for (const char* line : {"Gozou férias de", "   __/__/____ a __/__/____", ""}) {
+    for (const char* line : {"GOZOU FÉRIAS DE", "   __/__/____ a __/__/____", ""}) {
         screen.typeHere(line);
         screen.press(Qt::Key_Return);
     }
@@ -99,7 +99,7 @@ TEST_F(LabelWindows, ATextIsTypedLineByLine) {
     desk.person.answers = {Answer::Yes};
     screen.press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_THAT(labelLines(loadLabels(desk.store(), *desk.session.company).at(8).record.text),
-                ElementsAre("09 Gozou férias de", "   __/__/____ a __/__/____", "", "Assinatura"));
+                ElementsAre("09 GOZOU FÉRIAS DE", "   __/__/____ a __/__/____", "", "Assinatura"));
     desk.person.answers = {Answer::Yes};
     screen.click("criarEtiqueta.undo");
     EXPECT_EQ(texts.count(), 8U);
