@@ -9,6 +9,7 @@
 #include <QGridLayout>
 #include <QMenu>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QToolButton>

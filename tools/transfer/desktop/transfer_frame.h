@@ -6,6 +6,7 @@
 
 #include <functional>
 
+class QBoxLayout;
 class QComboBox;
 class QLabel;
 
@@ -23,8 +24,8 @@ class TransferFrame final : public QWidget {
   private:
     void build();
     [[nodiscard]] QWidget* buildTarget();
-    void addButton(class QBoxLayout& row, const QString& caption, const QString& name,
-                   const QString& tip, std::function<void()> act);
+    void addButton(QBoxLayout& row, const QString& caption, const QString& name, const QString& tip,
+                   std::function<void()> act);
     /// The drives that are there now, with the room that they have.
     void fillDrives();
     void transfer();
