@@ -81,7 +81,7 @@ TEST_F(TypicalMonth, PrintsAMirrorOfEachAndTheHoursReport) {
     ASSERT_EQ(mirrors.size(), 3);
     EXPECT_THAT(mirrors[0].toStdString(), HasSubstr("Corrigido à mão: 04/03, 05/03"));
     EXPECT_THAT(record("RelHorasExtras").toStdString(),
-                HasSubstr("|08:12 12:00 13:00 17:30             |"));
+                HasSubstr("|08:12 12:00 13:00 17:30            |"));
 }
 
 TEST_F(TypicalMonth, KeepsOneCopyOfTheFolderAsTheDayFoundIt) {
