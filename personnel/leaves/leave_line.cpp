@@ -42,7 +42,9 @@ FileSystem::NewContent replacedLeave(const Store& store, const EmployeeKey& key,
                                      const std::optional<Leave>& out,
                                      const std::optional<Leave>& in) {
     auto lines = linesOf(store, key);
-    if (out) std::erase_if(lines, [&](const std::string& line) { return isSame(line, *out); });
+    for (const auto& leave : {out, in})
+        if (leave)
+            std::erase_if(lines, [&](const std::string& line) { return isSame(line, *leave); });
     auto status = std::ranges::find_if(
         lines, [](const std::string& line) { return line.starts_with(kStatusMark); });
     if (status == lines.end()) status = lines.insert(status, leaveStatusLine(std::nullopt));

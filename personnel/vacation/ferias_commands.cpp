@@ -234,13 +234,13 @@ void Ferias::write(const std::optional<VacationItem>& item, bool withLeave) {
         lines[*place] = lineOf(*item, lines[*place].bytes);
     else
         lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(*place));
-    std::vector<FileSystem::NewContent> batch{file.contentOf(lines)};
-    const auto leaveOf = [](LeavePeriod period) { return vacationLeave(period); };
+    // The leave comes first: cut short between both files, the command can be given again.
+    const auto leaveOf = [](const std::optional<LeavePeriod>& period) {
+        return period ? std::optional(vacationLeave(*period)) : std::nullopt;
+    };
     if (withLeave)
-        batch.push_back(replacedLeave(at_.store(), of,
-                                      out ? std::optional(leaveOf(*out)) : std::nullopt,
-                                      in ? std::optional(leaveOf(*in)) : std::nullopt));
-    at_.files.replaceAll(batch);
+        at_.files.replaceAll({replacedLeave(at_.store(), of, leaveOf(out), leaveOf(in))});
+    file.save(lines);
 }
 
 void Ferias::offerToMark(LeavePeriod days) {

@@ -136,7 +136,6 @@ QWidget* FeriasWindow::buildPeriods() {
     column->addWidget(name_);
     dueText_ = look::label(QString(), look::TextSize::Hint, part);
     dueText_->setObjectName(QStringLiteral("vacations.dueText"));
-    dueText_->setWordWrap(true);
     look::setTint(*dueText_, look::Tint::Warning);
     column->addWidget(dueText_);
     rows_ =
@@ -182,7 +181,6 @@ QWidget* FeriasWindow::buildForm(QWidget* part) {
     column->addWidget(thirteenth_);
     notes_ = look::label(QString(), look::TextSize::Hint, form);
     notes_->setObjectName(QStringLiteral("vacations.notes"));
-    notes_->setWordWrap(true);
     column->addWidget(notes_);
     return form;
 }
