@@ -445,6 +445,19 @@ void printLabels(Player& player) {
     player.click("etiquetas.close"_t);
 }
 
+/// The registration card of who has a contract.
+void printForm(Player& player) {
+    player.click("menu.forms.open"_t);
+    player.choose("relatorios.keywords"_t, "FICHA"_t);
+    player.choose("relatorios.forms.list"_t, "13"_t);
+    player.choose("relatorios.employees"_t, "002"_t);
+    player.picture("relatorios"_t);
+    player.click("relatorios.printOne"_t);
+    player.picture("formulario"_t);
+    player.click("preview.close"_t);
+    player.click("relatorios.close"_t);
+}
+
 }  // namespace
 
 void writeMonth(Player& player) {
@@ -462,6 +475,7 @@ void writeMonth(Player& player) {
     planRotation(player);
     applyRotation(player);
     recordContract(player);
+    printForm(player);
     recordPayroll(player);
     printLabels(player);
 }

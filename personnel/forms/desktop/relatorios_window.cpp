@@ -183,7 +183,7 @@ QWidget* RelatoriosWindow::buildEmployees(QWidget* parent) {
     face_->choose(idOf(FormFace::Sheet));
     column->addWidget(face_);
     output_ =
-        new OptionGroup(QStringLiteral("Saí&da:"), QStringLiteral("relatorios.output"), 1, part);
+        new OptionGroup(QStringLiteral("Saí&da:"), QStringLiteral("relatorios.output"), 2, part);
     output_->addOption(idOf(ReportOutput::Preview), QStringLiteral("&Visualizar"),
                        QStringLiteral("preview"));
     output_->addOption(idOf(ReportOutput::Printer), QStringLiteral("I&mprimir"),
@@ -208,7 +208,7 @@ void RelatoriosWindow::showChosen() {
     const CatalogueForm* form = reports_.chosen();
     purpose_->setText(form ? purposeOf(*form) : kNoneChosen);
     face_->setVisible(form && hasFaces(*form));
-    setState(form ? toQt(trimmed(form->line())) : kNoneChosen);
+    setState(form ? toQt(padded(form->number, 2) + "-" + std::string(form->title)) : kNoneChosen);
 }
 
 void RelatoriosWindow::showContext() {
