@@ -36,15 +36,30 @@ class DocumentsInFiles final : public WordProcessor {
     explicit DocumentsInFiles(QString folder) : folder_(std::move(folder)) {}
 
     void show(const Document& document) override {
-        QDir().mkpath(folder_);
-        QFile file(folder_ + QLatin1Char('/') + toQt(document.title) + QStringLiteral(".fodt"));
-        if (!file.open(QIODevice::WriteOnly))
-            throw Fault("no file", "O documento não foi gravado.");
-        file.write(openDocument(document));
+        write(toQt(document.title), openDocument(document));
     }
     void print(const Document& document, const std::string&) override { show(document); }
+    [[nodiscard]] std::string fileOf(const Document& document) const override {
+        return openDocument(document).toStdString();
+    }
+    void showFile(const std::filesystem::path& file) override {
+        QFile kept(toQt(file.string()));
+        if (!kept.open(QIODevice::ReadOnly)) throw Fault("no file", "O documento não foi lido.");
+        write(toQt(file.stem().string()), kept.readAll());
+    }
+    void printFile(const std::filesystem::path& file, const std::string&) override {
+        showFile(file);
+    }
 
   private:
+    void write(const QString& name, const QByteArray& bytes) const {
+        QDir().mkpath(folder_);
+        QFile file(folder_ + QLatin1Char('/') + name + QStringLiteral(".fodt"));
+        if (!file.open(QIODevice::WriteOnly))
+            throw Fault("no file", "O documento não foi gravado.");
+        file.write(bytes);
+    }
+
     QString folder_;
 };
 

@@ -411,6 +411,20 @@ void recordContract(Player& player) {
     player.click("contrato.close"_t);
 }
 
+/// Two papers for the newly admitted one.
+void printPapers(Player& player) {
+    player.click("menu.documents.open"_t);
+    player.choose("documents.employees"_t, "002"_t);
+    player.choose("documents.papers"_t, "DECLARAÇÃO PARA FINS ESCOLARES"_t);
+    player.picture("documentos"_t);
+    player.click("documents.print"_t);
+    player.answer("Confirma Impressão do DECLARAÇÃO PARA FINS ESCOLARES?"_t, Answer::Yes);
+    player.choose("documents.papers"_t, "ACORDO DE PRORROGAÇÃO DE JORNADA"_t);
+    player.click("documents.print"_t);
+    player.answer("Confirma Impressão do ACORDO DE PRORROGAÇÃO DE JORNADA?"_t, Answer::Yes);
+    player.click("documents.close"_t);
+}
+
 /// A note for the work booklet of two, from the third label of a sheet that is begun.
 void printLabels(Player& player) {
     player.click("menu.labels.open"_t);
@@ -476,6 +490,7 @@ void writeMonth(Player& player) {
     applyRotation(player);
     recordContract(player);
     printForm(player);
+    printPapers(player);
     recordPayroll(player);
     printLabels(player);
 }

@@ -80,6 +80,15 @@ void requireWhole(const Archiver& archiver, std::string_view archive, const Tran
     if (!std::ranges::equal(held, files, isSame)) throw DamagedArchive("not what was packed");
 }
 
+/// False, too, for a drive that was pulled out.
+bool hasFiles(const FileSystem& files, const std::filesystem::path& folder) {
+    try {
+        return !files.names(folder).empty();
+    } catch (const FileFault&) {
+        return false;
+    }
+}
+
 TransferFiles noteIn(const Disk& disk, const DataFolder& folder) {
     return decodeNote(disk.read(folder.file(kTransferNoteName)).value_or(""));
 }
@@ -121,7 +130,7 @@ std::optional<Transferencia::Sides> Transferencia::requireSides(TransferDirectio
     const DataFolder removable(letter, pathOnDrive(desk_.drives, letter, kDataFolder));
     const DataFolder inUse = at_.session.folder;
     if (removable.path().empty() ||
-        (direction == TransferDirection::Import && at_.files.names(removable.path()).empty())) {
+        (direction == TransferDirection::Import && !hasFiles(at_.files, removable.path()))) {
         at_.person.tell(kNotFound);
         return std::nullopt;
     }

@@ -1,6 +1,7 @@
 #include "report/desktop/text_lines.h"
 
 #include <gmock/gmock.h>
+#include <QStringList>
 
 #include <algorithm>
 

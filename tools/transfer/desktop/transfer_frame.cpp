@@ -9,6 +9,7 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLocale>
 #include <QProcess>
 #include <QPushButton>
@@ -108,6 +109,7 @@ QWidget* TransferFrame::buildTarget() {
                QStringLiteral("Diretório de Destino ou da mídia"));
     target_->setEditable(true);
     target_->setInsertPolicy(QComboBox::NoInsert);
+    look::name(*target_->lineEdit(), QStringLiteral("transfer.letter"), target_->accessibleName());
     target_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     target_->setMinimumContentsLength(1);
     target_->installEventFilter(this);

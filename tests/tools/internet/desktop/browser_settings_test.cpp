@@ -5,6 +5,7 @@
 #include "foundation/values/desktop/qt_text.h"
 
 #include <gmock/gmock.h>
+#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
