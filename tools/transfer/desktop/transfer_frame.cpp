@@ -14,6 +14,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QStorageInfo>
+#include <QToolButton>
 
 #include <filesystem>
 
@@ -86,17 +87,10 @@ void TransferFrame::build() {
     addButton(*first, QStringLiteral("Transferir"), QStringLiteral("transfer.run"),
               QStringLiteral("Copia todos os dados para a outra unidade, ou de lá para cá"),
               [this] { transfer(); });
-    addButton(*first, QStringLiteral("Ejetar"), QStringLiteral("transfer.eject"),
-              QStringLiteral("Prepara a unidade para ser removida"), [this] { eject(); });
-    column->addLayout(first);
-    auto* second = new QHBoxLayout;
-    addButton(*second, QStringLiteral("Backup"), QStringLiteral("transfer.backup"),
+    addButton(*first, QStringLiteral("Backup"), QStringLiteral("transfer.backup"),
               QStringLiteral("Copia os dados para a pasta Backup deste mesmo drive"),
               [this] { (void)screen_.backUp(); });
-    addButton(*second, QStringLiteral("Backup Zip"), QStringLiteral("transfer.archive"),
-              QStringLiteral("Copia os dados para um só arquivo, conferido depois de gravado"),
-              [this] { (void)screen_.backUpAsArchive(); });
-    column->addLayout(second);
+    column->addLayout(first);
 }
 
 QWidget* TransferFrame::buildTarget() {
@@ -115,6 +109,12 @@ QWidget* TransferFrame::buildTarget() {
     target_->installEventFilter(this);
     row->addWidget(source_);
     row->addWidget(target_, 1);
+    addTool(*row, "drive", QStringLiteral("Ejetar"), QStringLiteral("transfer.eject"),
+            QStringLiteral("Ejetar: prepara a unidade para ser removida"), [this] { eject(); });
+    addTool(*row, "backup", QStringLiteral("Backup Zip"), QStringLiteral("transfer.archive"),
+            QStringLiteral(
+                "Backup Zip: copia os dados para um só arquivo, conferido depois de gravado"),
+            [this] { (void)screen_.backUpAsArchive(); });
     return part;
 }
 
@@ -127,10 +127,21 @@ void TransferFrame::addButton(QBoxLayout& row, const QString& caption, const QSt
     row.addWidget(button);
 }
 
+void TransferFrame::addTool(QBoxLayout& row, const char* icon, const QString& spoken,
+                            const QString& name, const QString& tip, std::function<void()> act) {
+    auto* tool = new QToolButton(this);
+    tool->setIcon(look::icon(QLatin1String(icon)));
+    look::name(*tool, name, spoken);
+    tool->setToolTip(tip);
+    tool->setFocusPolicy(Qt::StrongFocus);
+    connect(tool, &QToolButton::clicked, this, std::move(act));
+    row.addWidget(tool);
+}
+
 void TransferFrame::fillDrives() {
     const QString typed = target_->currentText();
     const char inUse = at_.session.folder.driveLetter();
-    source_->setText(QStringLiteral("Diretório de Origem: %1").arg(QLatin1Char(inUse)));
+    source_->setText(QStringLiteral("Diretório de Origem %1").arg(QLatin1Char(inUse)));
     target_->clear();
     for (const char letter : desk_.drives.letters())
         if (letter != inUse && letter != kDefaultDrive)

@@ -26,6 +26,8 @@ class TransferFrame final : public QWidget {
     [[nodiscard]] QWidget* buildTarget();
     void addButton(QBoxLayout& row, const QString& caption, const QString& name, const QString& tip,
                    std::function<void()> act);
+    void addTool(QBoxLayout& row, const char* icon, const QString& spoken, const QString& name,
+                 const QString& tip, std::function<void()> act);
     /// The drives that are there now, with the room that they have.
     void fillDrives();
     void transfer();
