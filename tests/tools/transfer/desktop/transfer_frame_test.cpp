@@ -1,0 +1,141 @@
+#include "tools/transfer/desktop/transfer_frame.h"
+
+#include "foundation/copies/desktop/zip_archiver.h"
+#include "foundation/files/durable_files.h"
+#include "foundation/register/company.h"
+#include "foundation/values/desktop/qt_text.h"
+#include "tests/support/test_workplace.h"
+#include "tools/internet/desktop/web_ni_window.h"
+
+#include <gmock/gmock.h>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QToolButton>
+
+namespace winvrx {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+/// Two folders of this computer for drives.
+class FoldersForDrives final : public Drives {
+  public:
+    explicit FoldersForDrives(std::filesystem::path root) : root_(std::move(root)) {}
+    [[nodiscard]] std::filesystem::path root(char letter) const override {
+        return letter == 'C' || letter == 'E' ? root_ / std::string(1, letter)
+                                              : std::filesystem::path();
+    }
+    [[nodiscard]] std::vector<char> letters() const override { return {'C', 'E'}; }
+
+  private:
+    std::filesystem::path root_;
+};
+
+/// The real disk and the real zip files below the frame.
+struct TransferFrameTest : ::testing::Test {
+    QTemporaryDir folder;
+    FoldersForDrives drives{folder.path().toStdString()};
+    std::unique_ptr<Disk> disk = systemDisk();
+    std::unique_ptr<FileSystem> files = systemFiles();
+    testing::TestWorkplace desk;
+    testing::TestHost host;
+    FolderLock lock{*disk, host};
+    Workplace at{*files, desk.person, desk.clock, desk.log, desk.session, lock};
+    ZipArchiver archiver;
+    SafetyCopies copies{*files, archiver, desk.log};
+    int imports = 0;
+
+    void SetUp() override {
+        desk.session.folder = DataFolder('C', pathOnDrive(drives, 'C', kDataFolder));
+        files->makeFolder(desk.session.folder.path());
+        files->makeFolder(drives.root('E'));
+        Company company;
+        company.code = "01";
+        company.name = "PADARIA PÃO DE MEL";
+        files->replace(desk.session.folder.file("01Empresa"), encode(company) + "\r\n");
+    }
+    void press(TransferFrame& frame, const char* name) {
+        auto* button = frame.findChild<QAbstractButton*>(QLatin1String(name));
+        ASSERT_NE(button, nullptr) << name;
+        button->click();
+    }
+};
+
+TEST_F(TransferFrameTest, TakesTheRecordsThereAndBack) {
+    TransferFrame frame(
+        at, systemTransferDesk(*disk, drives, copies, archiver), [this] { ++imports; }, nullptr);
+    auto* target = frame.findChild<QComboBox*>(QStringLiteral("transfer.target"));
+    auto* direction = frame.findChild<QComboBox*>(QStringLiteral("transfer.direction"));
+    ASSERT_TRUE(target && direction);
+    EXPECT_TRUE(target->currentText().startsWith(QStringLiteral("E")));
+    EXPECT_THAT(toUtf8(target->currentText()), HasSubstr("livres"));
+    desk.person.answers = {Answer::Ok, Answer::Ok};
+    press(frame, "transfer.run");
+    EXPECT_EQ(desk.person.takeTexts().back(), "Transferência Concluída com Sucesso!");
+    const DataFolder there('E', pathOnDrive(drives, 'E', kDataFolder));
+    const auto records = files->read(desk.session.folder.file("01Empresa"));
+    EXPECT_EQ(files->read(there.file("01Empresa")), records);
+    EXPECT_EQ(imports, 0);
+    files->remove(desk.session.folder.file("01Empresa"));
+    direction->setCurrentIndex(1);
+    desk.person.answers = {Answer::Ok, Answer::Ok};
+    press(frame, "transfer.run");
+    EXPECT_EQ(files->read(desk.session.folder.file("01Empresa")), records);
+    EXPECT_EQ(imports, 1);
+    desk.person.shown.clear();
+    press(frame, "transfer.backup");
+    press(frame, "transfer.archive");
+    EXPECT_THAT(desk.person.takeTexts(), ElementsAre("Backup Concluído!", "Backup Concluído!"));
+}
+
+/// Reaches one browser, and has no right to its videos.
+struct OneBrowser final : BrowserSettings {
+    bool blocked = false;
+
+    Outcome apply(WebSwitch which, bool on) override {
+        if (which == WebSwitch::Videos) return {{}, {"Falta o direito."}};
+        blocked = on;
+        return {{"Chromium"}, {}};
+    }
+    [[nodiscard]] std::vector<std::string> blockedIn(WebSwitch which) const override {
+        if (which == WebSwitch::Internet && blocked) return {"Chromium"};
+        return {};
+    }
+    [[nodiscard]] bool openBrowser() override { return true; }
+};
+
+TEST(WebNiWindow, SaysWhatIsBlockedAndWhatCouldNotBeDone) {
+    testing::TestWorkplace desk;
+    OneBrowser browser;
+    WebNi screen(desk.at, browser);
+    WebNiWindow window(screen, nullptr);
+    const auto press = [&](const char* name) {
+        window.findChild<QPushButton*>(QLatin1String(name))->click();
+    };
+    const auto says = [&](const char* text) {
+        const auto labels = window.findChildren<QLabel*>();
+        return std::ranges::any_of(labels, [&](const QLabel* label) {
+            return !label->isHidden() && label->text().contains(QString::fromUtf8(text));
+        });
+    };
+    EXPECT_TRUE(says("Liberado."));
+    press("webNi.internet.block");
+    EXPECT_TRUE(says(" em: Chromium."));
+    EXPECT_TRUE(says("Feche e abra de novo os navegadores abertos."));
+    press("webNi.videos.block");
+    EXPECT_TRUE(says("Falta o direito."));
+    EXPECT_TRUE(says("mas sem efeito em nenhum navegador"));
+    window.findChild<QCheckBox*>(QStringLiteral("webNi.keep"))->click();
+    EXPECT_TRUE(desk.files.content.contains("/data/Wbse.pdx"));
+    desk.person.answers = {Answer::Yes};
+    press("webNi.internet.release");
+    EXPECT_FALSE(browser.blocked);
+    EXPECT_FALSE(desk.files.content.contains("/data/Wblc.pdx"));
+}
+
+}  // namespace
+}  // namespace winvrx
