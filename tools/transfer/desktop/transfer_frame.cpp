@@ -25,11 +25,12 @@ namespace {
 QString roomText(const std::filesystem::path& root) {
     const QStorageInfo volume(toQt(root.string()));
     if (!volume.isValid()) return {};
-    const QString name = volume.name().isEmpty() ? QString() : u' ' + volume.name();
-    return name + QStringLiteral(", %1 livres")
-                      .arg(QLocale(QLocale::Portuguese, QLocale::Brazil)
-                               .formattedDataSize(volume.bytesAvailable(), 1,
-                                                  QLocale::DataSizeTraditionalFormat));
+    const QString name = volume.name().isEmpty() ? QString() : volume.name() + QStringLiteral(", ");
+    return u' ' + name +
+           QStringLiteral("%1 livres")
+               .arg(QLocale(QLocale::Portuguese, QLocale::Brazil)
+                        .formattedDataSize(volume.bytesAvailable(), 1,
+                                           QLocale::DataSizeTraditionalFormat));
 }
 
 /// The letter before the volume's name, or what was typed.
