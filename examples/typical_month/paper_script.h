@@ -1,0 +1,11 @@
+#pragma once
+
+namespace winvrx {
+
+class Player;
+
+/// Gives the player the steps that leave papers of the people: contract, form, documents, payroll
+/// and labels. The month is chosen and its cards are filled.
+void writePapers(Player& player);
+
+}  // namespace winvrx
