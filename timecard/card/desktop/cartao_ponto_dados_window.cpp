@@ -13,10 +13,8 @@
 #include "timecard/hours/desktop/hours_summary_panel.h"
 
 #include <QApplication>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QShortcut>
 #include <QToolButton>
 
@@ -53,92 +51,6 @@ CartaoPontoDadosWindow::CartaoPontoDadosWindow(CartaoPontoDados& command, QWidge
 
 CartaoPontoDadosWindow::~CartaoPontoDadosWindow() {
     hide();
-}
-
-QWidget* CartaoPontoDadosWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kMargin);
-    row->addWidget(buildSide());
-    row->addWidget(buildCard(), 1);
-    return body;
-}
-
-QWidget* CartaoPontoDadosWindow::buildSide() {
-    side_ = new QWidget(this);
-    auto* column = new QVBoxLayout(side_);
-    look::layOutPart(*column);
-    employees_ = new EmployeePicker(
-        command_.list(),
-        {.screen = QStringLiteral("card"), .shifts = kAllShiftFilters, .scales = true}, side_);
-    column->addWidget(employees_, 1);
-    column->addWidget(buildHours());
-    auto* summary = new QPushButton(QStringLiteral("Resumo Folha de Ponto"), side_);
-    look::name(*summary, QStringLiteral("card.summary"), summary->text());
-    summary->setAutoDefault(false);
-    leadOn(*summary, QStringLiteral("preview"), Qt::CTRL | Qt::Key_R,
-           &CartaoPontoDadosWindow::summaryRequested);
-    column->addWidget(summary);
-    QRadioButton* enter = buildEntryMode(QStringLiteral("Usar Tecla &ENTER"),
-                                         QStringLiteral("card.useEnter"), Qt::Key_Return);
-    enter->setChecked(true);
-    auto* modes = new QHBoxLayout;
-    modes->addWidget(enter);
-    modes->addWidget(buildEntryMode(QStringLiteral("Usar Tecla T&ABE"),
-                                    QStringLiteral("card.useTab"), Qt::Key_Tab));
-    column->addLayout(modes);
-    return side_;
-}
-
-QWidget* CartaoPontoDadosWindow::buildHours() {
-    hours_ = new HoursSummaryPanel(this);
-    connect(hours_, &HoursSummaryPanel::percentTyped, this,
-            [this](HourCategory category, const QString& typed) {
-                (void)command_.changePercent(category, toUtf8(typed));
-                showState();
-            });
-    return hours_;
-}
-
-QRadioButton* CartaoPontoDadosWindow::buildEntryMode(const QString& text, const QString& objectName,
-                                                     Qt::Key key) {
-    auto* button = new QRadioButton(text, this);
-    button->setObjectName(objectName);
-    connect(button, &QRadioButton::toggled, this, [this, key](bool on) {
-        for (const HalfMonthPanel* panel : halves_)
-            if (on && panel) panel->grid().setNextCellKey(key);
-    });
-    return button;
-}
-
-QWidget* CartaoPontoDadosWindow::buildCard() {
-    auto* widget = new QWidget(this);
-    auto* column = new QVBoxLayout(widget);
-    look::layOutPart(*column);
-    schedule_ = new SchedulePanel(command_, widget);
-    connect(schedule_, &SchedulePanel::edited, this, &CartaoPontoDadosWindow::showState);
-    connect(schedule_, &SchedulePanel::saveRequested, this, [this] {
-        (void)command_.saveSchedule();
-        schedule_->refresh();
-        showState();
-    });
-    column->addWidget(schedule_);
-    application_ = new ApplicationBar(command_, widget);
-    column->addWidget(application_);
-    auto* row = new QHBoxLayout;
-    look::layOutPart(*row);
-    for (const HalfMonth one : {HalfMonth::First, HalfMonth::Second}) {
-        halves_[static_cast<std::size_t>(one)] = new HalfMonthPanel(command_, one, widget);
-        row->addWidget(&half(one), 1);
-        connectGrid(one);
-    }
-    column->addLayout(row, 1);
-    unread_ = look::label(QString(), look::TextSize::Hint, this);
-    unread_->setObjectName(QStringLiteral("card.unread"));
-    unread_->setWordWrap(true);
-    column->addWidget(unread_);
-    return widget;
 }
 
 void CartaoPontoDadosWindow::connectGrid(HalfMonth which) {
