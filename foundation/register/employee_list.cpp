@@ -4,6 +4,7 @@
 #include "foundation/values/text.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 
 namespace winvrx {
@@ -80,17 +81,33 @@ void EmployeeList::filterBy(std::optional<Scale> scale) {
     filter();
 }
 
-void EmployeeList::narrowTo(std::optional<std::set<EmployeeCode>> codes) {
-    only_ = std::move(codes);
+void EmployeeList::setSubset(std::set<EmployeeCode> codes) {
+    subset_ = std::move(codes);
     filter();
+}
+
+void EmployeeList::addToSubset(const EmployeeCode& code) {
+    if (subset_.insert(code).second && positionOf(code.text())) ++inSubset_;
+}
+
+void EmployeeList::showOnlySubset(bool only) {
+    onlySubset_ = only;
+    filter();
+}
+
+bool EmployeeList::isInSubset(const Employee& one) const {
+    return subset_.contains(one.employeeCode().value());
 }
 
 void EmployeeList::filter() {
     employees_.clear();
     std::ranges::copy_if(everyone_, std::back_inserter(employees_), [this](const Employee& one) {
-        return passes(shift_, one.shiftOr()) && (!scale_ || one.scaleOr() == *scale_) &&
-               (!only_ || only_->contains(one.employeeCode().value()));
+        return passes(shift_, one.shiftOr()) && (!scale_ || one.scaleOr() == *scale_);
     });
+    const auto isIn = [this](const Employee& one) { return isInSubset(one); };
+    inAll_ = employees_.size();
+    inSubset_ = static_cast<std::size_t>(std::ranges::count_if(employees_, isIn));
+    if (onlySubset_) std::erase_if(employees_, std::not_fn(isIn));
 }
 
 bool EmployeeList::isShown(std::size_t position) const {

@@ -74,8 +74,14 @@ class EmployeeList {
     /// nullopt stands for every scale.
     [[nodiscard]] std::optional<Scale> scale() const { return scale_; }
     void filterBy(std::optional<Scale> scale);
-    /// Only those of these codes; nullopt stands for everyone.
-    void narrowTo(std::optional<std::set<EmployeeCode>> codes);
+    /// Those to whom a screen can be narrowed, as the ones with leaves; no others are shown then.
+    void setSubset(std::set<EmployeeCode> codes);
+    /// One who is listed; the list stays as it is.
+    void addToSubset(const EmployeeCode& code);
+    void showOnlySubset(bool only);
+    [[nodiscard]] bool showsOnlySubset() const { return onlySubset_; }
+    /// How many shift and scale pass: of everyone, or of the subset.
+    [[nodiscard]] std::size_t count(bool ofSubset) const { return ofSubset ? inSubset_ : inAll_; }
     /// Code, name, function, CPF and marks are searched, letter case and accents aside.
     void searchFor(std::string text) { search_ = std::move(text); }
     [[nodiscard]] const std::string& search() const { return search_; }
@@ -107,10 +113,14 @@ class EmployeeList {
 
   private:
     void filter();
+    [[nodiscard]] bool isInSubset(const Employee& one) const;
 
     ShiftFilter shift_;
     std::optional<Scale> scale_;
-    std::optional<std::set<EmployeeCode>> only_;
+    std::set<EmployeeCode> subset_;
+    bool onlySubset_ = false;
+    std::size_t inAll_ = 0;
+    std::size_t inSubset_ = 0;
     std::string search_;
     std::set<std::string> ticked_;  ///< codes
     std::vector<Employee> everyone_;

@@ -49,19 +49,10 @@ void Afastamento::loadList(const CompanyCode& company, WorkMonth month) {
     const std::string chosen = selected() ? selected()->code : "";
     companyTitle_ = std::move(title);
     month_ = month;
-    withLeaves_ = employeesWithLeaveFile(company, names);
     list_.fill(lines, std::move(marks));
-    narrowList();
+    list_.setSubset(employeesWithLeaveFile(company, names));
     const auto position = list_.positionOf(chosen);
     show(position, position ? loadLeaveFile(at_.store(), keyAt(*position)) : LeaveFile());
-}
-
-void Afastamento::narrowList() {
-    list_.narrowTo(withLeaves_);
-    some_ = list_.employees().size();
-    list_.narrowTo(std::nullopt);
-    all_ = list_.employees().size();
-    if (onlyWithLeaves_) list_.narrowTo(withLeaves_);
 }
 
 bool Afastamento::narrow(const std::function<void()>& filter) {
@@ -70,7 +61,6 @@ bool Afastamento::narrow(const std::function<void()>& filter) {
         const std::string code = selected() ? selected()->code : "";
         LeaveFile file = std::move(file_);
         filter();
-        narrowList();
         const auto position = list_.positionOf(code);
         show(position, position ? std::move(file) : LeaveFile());
     });
@@ -81,7 +71,7 @@ bool Afastamento::filterBy(ShiftFilter shift) {
 }
 
 bool Afastamento::showOnlyWithLeaves(bool only) {
-    return narrow([&] { onlyWithLeaves_ = only; });
+    return narrow([&] { list_.showOnlySubset(only); });
 }
 
 std::string Afastamento::periodCaption() const {

@@ -36,10 +36,8 @@ class Afastamento {
 
     [[nodiscard]] EmployeeList& list() { return list_; }
     [[nodiscard]] const EmployeeList& list() const { return list_; }
-    /// Those whom the shift filter passes, or of these the ones with a leave file.
-    [[nodiscard]] std::size_t count(bool withLeaves) const { return withLeaves ? some_ : all_; }
-    [[nodiscard]] bool showsOnlyWithLeaves() const { return onlyWithLeaves_; }
-    /// Each is false when the operator stays with what is typed.
+    /// The list can be narrowed to those with a leave file. Each is false when the operator stays
+    /// with what is typed.
     [[nodiscard]] bool showOnlyWithLeaves(bool only);
     [[nodiscard]] bool filterBy(ShiftFilter shift);
 
@@ -87,7 +85,6 @@ class Afastamento {
 
   private:
     void loadList(const CompanyCode& company, WorkMonth month);
-    void narrowList();
     [[nodiscard]] bool narrow(const std::function<void()>& filter);
     void show(std::optional<std::size_t> position, LeaveFile file);
     void fill(std::optional<std::size_t> place);
@@ -121,10 +118,6 @@ class Afastamento {
     std::string companyTitle_;
     std::optional<WorkMonth> month_;
     EmployeeList list_;
-    std::set<EmployeeCode> withLeaves_;
-    bool onlyWithLeaves_ = false;
-    std::size_t all_ = 0;
-    std::size_t some_ = 0;
     std::optional<std::size_t> position_;
     LeaveFile file_;
     std::optional<std::size_t> chosen_;

@@ -309,7 +309,7 @@ bool Afastamento::rewrite(const std::function<void(LeaveFile&)>& edit,
     saveLeaveFile(at_.store(), key, encode(changed), at_.clock.now());
     file_ = std::move(changed);
     list_.mark(*position_, marksOf(key));
-    if (withLeaves_.insert(key.employee).second) ++some_;
+    list_.addToSubset(key.employee);
     return true;
 }
 

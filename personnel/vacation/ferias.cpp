@@ -34,20 +34,12 @@ void Ferias::loadList(const CompanyCode& company, WorkMonth month) {
     companyTitle_ = std::move(title);
     month_ = month;
     months_ = {};
-    due_.clear();
+    std::set<EmployeeCode> subset;
     for (const EmployeeDue& one : due)
-        due_.insert(one.employee);
+        subset.insert(one.employee);
     list_.fill(lines, std::move(marks));
-    narrowList();
+    list_.setSubset(std::move(subset));
     show(list_.positionOf(chosen));
-}
-
-void Ferias::narrowList() {
-    list_.narrowTo(due_);
-    some_ = list_.employees().size();
-    list_.narrowTo(std::nullopt);
-    all_ = list_.employees().size();
-    if (onlyDue_) list_.narrowTo(due_);
 }
 
 bool Ferias::narrow(const std::function<void()>& filter) {
@@ -56,7 +48,6 @@ bool Ferias::narrow(const std::function<void()>& filter) {
         const std::string code = selected() ? selected()->code : "";
         position_.reset();
         filter();
-        narrowList();
         show(list_.positionOf(code));
     });
 }
@@ -66,7 +57,7 @@ bool Ferias::filterBy(ShiftFilter shift) {
 }
 
 bool Ferias::showOnlyDue(bool only) {
-    return narrow([&] { onlyDue_ = only; });
+    return narrow([&] { list_.showOnlySubset(only); });
 }
 
 const Employee* Ferias::selected() const {
@@ -87,7 +78,8 @@ bool Ferias::select(std::size_t position) {
 }
 
 bool Ferias::select(const EmployeeCode& employee) {
-    if (!list_.positionOf(employee.text()) && onlyDue_ && !showOnlyDue(false)) return false;
+    if (!list_.positionOf(employee.text()) && list_.showsOnlySubset() && !showOnlyDue(false))
+        return false;
     if (!list_.positionOf(employee.text()) && !filterBy(ShiftFilter::Todos)) return false;
     const auto position = list_.positionOf(employee.text());
     return position && select(*position);

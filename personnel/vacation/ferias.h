@@ -39,10 +39,8 @@ class Ferias {
 
     [[nodiscard]] EmployeeList& list() { return list_; }
     [[nodiscard]] const EmployeeList& list() const { return list_; }
-    /// Those whom the shift filter passes, or of these the ones whose vacation is due soon.
-    [[nodiscard]] std::size_t count(bool due) const { return due ? some_ : all_; }
-    [[nodiscard]] bool showsOnlyDue() const { return onlyDue_; }
-    /// Each is false when the operator stays with what is typed.
+    /// The list can be narrowed to those whose vacation is due soon. Each is false when the
+    /// operator stays with what is typed.
     [[nodiscard]] bool showOnlyDue(bool only);
     [[nodiscard]] bool filterBy(ShiftFilter shift);
 
@@ -96,7 +94,6 @@ class Ferias {
 
   private:
     void loadList(const CompanyCode& company, WorkMonth month);
-    void narrowList();
     [[nodiscard]] bool narrow(const std::function<void()>& filter);
     [[nodiscard]] EmployeeKey keyAt(std::size_t position) const;
     void show(std::optional<std::size_t> position);
@@ -131,10 +128,6 @@ class Ferias {
     std::string companyTitle_;
     std::optional<WorkMonth> month_;
     EmployeeList list_;
-    std::set<EmployeeCode> due_;
-    bool onlyDue_ = false;
-    std::size_t all_ = 0;
-    std::size_t some_ = 0;
     SettingsByMonth months_;
     std::optional<std::size_t> position_;
     VacationLines lines_;  ///< of the employee, as they were read

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -31,6 +32,12 @@ EmployeePicker::EmployeePicker(EmployeeList& list, Traits traits, QWidget* paren
     : QWidget(parent), list_(list), traits_(std::move(traits)) {
     auto* column = new QVBoxLayout(this);
     look::layOutPart(*column);
+    if (!traits_.subsetCaption.isEmpty()) {
+        everyone_ = buildSubset(QStringLiteral("everyone"), false);
+        subset_ = buildSubset(traits_.subsetName, true);
+        column->addWidget(everyone_);
+        column->addWidget(subset_);
+    }
     buildFilters(*column);
     search_ = new SearchBox(traits_.screen + QStringLiteral(".search"),
                             QStringLiteral("Pesquisa Funcionário ..."), this);
@@ -62,6 +69,13 @@ void EmployeePicker::buildFilters(QBoxLayout& column) {
     row->addWidget(shift_, 1);
     if (traits_.scales) row->addWidget(buildScale(), 1);
     column.addLayout(row);
+}
+
+QRadioButton* EmployeePicker::buildSubset(const QString& name, bool only) {
+    auto* button = new QRadioButton(this);
+    button->setObjectName(traits_.screen + QLatin1Char('.') + name);
+    connect(button, &QRadioButton::clicked, this, [this, only] { emit subsetChosen(only); });
+    return button;
 }
 
 QComboBox* EmployeePicker::buildScale() {
@@ -144,6 +158,11 @@ void EmployeePicker::refresh() {
 }
 
 void EmployeePicker::showFilters() {
+    if (subset_) {
+        everyone_->setText(QStringLiteral("Funcionários (%1)").arg(list_.count(false)));
+        subset_->setText(traits_.subsetCaption.arg(list_.count(true)));
+        (list_.showsOnlySubset() ? subset_ : everyone_)->setChecked(true);
+    }
     const auto place = std::ranges::find(traits_.shifts, list_.shift());
     shift_->setCurrentIndex(static_cast<int>(place - traits_.shifts.begin()));
     shift_->setEnabled(hint_.isEmpty());

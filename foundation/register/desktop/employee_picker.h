@@ -13,6 +13,7 @@ class QComboBox;
 class QLabel;
 class QListWidget;
 class QPushButton;
+class QRadioButton;
 
 namespace winvrx {
 
@@ -33,6 +34,10 @@ class EmployeePicker : public QWidget {
         std::span<const ShiftFilter> shifts = kMenuShiftFilters;
         bool scales = false;  ///< offers the scales as a filter too
         bool ticks = false;   ///< each employee can be ticked, with the mouse or SPACE
+        /// Offers everyone or only the list's subset: its object name and its caption, where "%1"
+        /// is how many they are. Not offered without a caption.
+        QString subsetName = {};
+        QString subsetCaption = {};
         /// A second line; none when empty.
         std::function<QString(const Employee&)> details = {};
     };
@@ -57,6 +62,7 @@ class EmployeePicker : public QWidget {
 
   signals:
     void shiftChosen(winvrx::ShiftFilter shift);
+    void subsetChosen(bool only);
     void scaleChosen(std::optional<winvrx::Scale> scale);
     void employeeChosen(std::size_t position);
     /// An employee was ticked or is no longer.
@@ -73,6 +79,7 @@ class EmployeePicker : public QWidget {
     void buildFilters(QBoxLayout& column);
     [[nodiscard]] QComboBox* buildFilter(const QString& name, const QString& spokenName);
     [[nodiscard]] QComboBox* buildScale();
+    [[nodiscard]] QRadioButton* buildSubset(const QString& name, bool only);
     void buildList(QBoxLayout& column);
     void buildEmptyHint(QBoxLayout& column);
     [[nodiscard]] QString textOf(std::size_t position) const;
@@ -83,6 +90,8 @@ class EmployeePicker : public QWidget {
     EmployeeList& list_;
     Traits traits_;
     QString hint_;
+    QRadioButton* everyone_ = nullptr;
+    QRadioButton* subset_ = nullptr;
     QComboBox* shift_ = nullptr;
     QComboBox* scale_ = nullptr;
     SearchBox* search_ = nullptr;

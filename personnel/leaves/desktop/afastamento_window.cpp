@@ -13,7 +13,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QToolButton>
@@ -71,26 +70,18 @@ AfastamentoWindow::AfastamentoWindow(Afastamento& command, QWidget* parent)
     employees_->focusList();
 }
 
-QRadioButton* AfastamentoWindow::buildFilter(bool onlyWithLeaves, const char* name) {
-    auto* button = new QRadioButton(this);
-    button->setObjectName(QStringLiteral("leaves.") + QLatin1String(name));
-    connect(button, &QRadioButton::clicked, this, [this, onlyWithLeaves] {
-        (void)command_.showOnlyWithLeaves(onlyWithLeaves);
+QWidget* AfastamentoWindow::buildEmployees() {
+    employees_ = new EmployeePicker(
+        command_.list(),
+        {.screen = QStringLiteral("leaves"),
+         .subsetName = QStringLiteral("withLeaves"),
+         .subsetCaption = QStringLiteral("Todos com Registro de Afastamento (%1)")},
+        this);
+    employees_->setFixedWidth(kSideWidth);
+    connect(employees_, &EmployeePicker::subsetChosen, this, [this](bool only) {
+        (void)command_.showOnlyWithLeaves(only);
         refresh();
     });
-    return button;
-}
-
-QWidget* AfastamentoWindow::buildEmployees() {
-    auto* side = new QWidget(this);
-    side->setFixedWidth(kSideWidth);
-    auto* column = new QVBoxLayout(side);
-    look::layOutPart(*column);
-    everyone_ = buildFilter(false, "everyone");
-    withLeaves_ = buildFilter(true, "withLeaves");
-    column->addWidget(everyone_);
-    column->addWidget(withLeaves_);
-    employees_ = new EmployeePicker(command_.list(), {.screen = QStringLiteral("leaves")}, side);
     connect(employees_, &EmployeePicker::shiftChosen, this, [this](ShiftFilter shift) {
         (void)command_.filterBy(shift);
         refresh();
@@ -102,8 +93,7 @@ QWidget* AfastamentoWindow::buildEmployees() {
         else
             leaves_->setFocus(Qt::TabFocusReason);
     });
-    column->addWidget(employees_, 1);
-    return side;
+    return employees_;
 }
 
 QWidget* AfastamentoWindow::buildLeaves() {
@@ -200,10 +190,6 @@ void AfastamentoWindow::refresh() {
     if (command_.month())
         setChips({toQt(command_.companyTitle()), toQt(command_.periodCaption()),
                   toQt(monthTitle(*command_.month()))});
-    everyone_->setText(QStringLiteral("Funcionários (%1)").arg(command_.count(false)));
-    withLeaves_->setText(
-        QStringLiteral("Todos com Registro de Afastamento (%1)").arg(command_.count(true)));
-    (command_.showsOnlyWithLeaves() ? withLeaves_ : everyone_)->setChecked(true);
     employees_->setHint(command_.month() ? QString() : kNoMonth);
     employees_->refresh();
     showEmployee();

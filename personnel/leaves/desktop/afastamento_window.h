@@ -6,7 +6,6 @@
 
 class QLabel;
 class QLayout;
-class QRadioButton;
 class QToolButton;
 class QTreeWidget;
 
@@ -42,7 +41,6 @@ class AfastamentoWindow : public ScreenWindow {
 
   private:
     [[nodiscard]] QWidget* buildEmployees();
-    [[nodiscard]] QRadioButton* buildFilter(bool onlyWithLeaves, const char* name);
     [[nodiscard]] QWidget* buildLeaves();
     [[nodiscard]] QLayout* buildList(QWidget* part);
     void buildCommands();
@@ -60,8 +58,6 @@ class AfastamentoWindow : public ScreenWindow {
 
     Afastamento& command_;
     EmployeePicker* employees_ = nullptr;
-    QRadioButton* everyone_ = nullptr;
-    QRadioButton* withLeaves_ = nullptr;
     QLabel* name_ = nullptr;
     QLabel* contradiction_ = nullptr;
     QTreeWidget* leaves_ = nullptr;

@@ -11,7 +11,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QToolButton>
@@ -96,26 +95,20 @@ FeriasWindow::FeriasWindow(Ferias& command, QWidget* parent)
     employees_->focusList();
 }
 
-QRadioButton* FeriasWindow::buildFilter(bool onlyDue, const char* name) {
-    auto* button = new QRadioButton(this);
-    button->setObjectName(QStringLiteral("vacations.") + QLatin1String(name));
-    connect(button, &QRadioButton::clicked, this, [this, onlyDue] {
-        (void)command_.showOnlyDue(onlyDue);
+QWidget* FeriasWindow::buildEmployees() {
+    employees_ =
+        new EmployeePicker(command_.list(),
+                           {.screen = QStringLiteral("vacations"),
+                            .subsetName = QStringLiteral("due"),
+                            .subsetCaption = QStringLiteral("Férias a vencer em %2 dias (%1)")
+                                                 .arg(QStringLiteral("%1"))
+                                                 .arg(kDueWithinDays)},
+                           this);
+    employees_->setFixedWidth(kSideWidth);
+    connect(employees_, &EmployeePicker::subsetChosen, this, [this](bool only) {
+        (void)command_.showOnlyDue(only);
         refresh();
     });
-    return button;
-}
-
-QWidget* FeriasWindow::buildEmployees() {
-    auto* side = new QWidget(this);
-    side->setFixedWidth(kSideWidth);
-    auto* column = new QVBoxLayout(side);
-    look::layOutPart(*column);
-    everyone_ = buildFilter(false, "everyone");
-    due_ = buildFilter(true, "due");
-    column->addWidget(everyone_);
-    column->addWidget(due_);
-    employees_ = new EmployeePicker(command_.list(), {.screen = QStringLiteral("vacations")}, side);
     connect(employees_, &EmployeePicker::shiftChosen, this, [this](ShiftFilter shift) {
         (void)command_.filterBy(shift);
         refresh();
@@ -123,8 +116,7 @@ QWidget* FeriasWindow::buildEmployees() {
     connect(employees_, &EmployeePicker::employeeChosen, this, &FeriasWindow::chooseEmployee);
     connect(employees_, &EmployeePicker::opened, this,
             [this] { rows_->setFocus(Qt::TabFocusReason); });
-    column->addWidget(employees_, 1);
-    return side;
+    return employees_;
 }
 
 QWidget* FeriasWindow::buildPeriods() {
@@ -231,11 +223,6 @@ void FeriasWindow::refresh() {
     if (!command_.selected() && !command_.list().employees().empty()) (void)command_.select(0);
     if (command_.month())
         setChips({toQt(command_.companyTitle()), toQt(monthTitle(*command_.month()))});
-    everyone_->setText(QStringLiteral("Funcionários (%1)").arg(command_.count(false)));
-    due_->setText(QStringLiteral("Férias a vencer em %1 dias (%2)")
-                      .arg(kDueWithinDays)
-                      .arg(command_.count(true)));
-    (command_.showsOnlyDue() ? due_ : everyone_)->setChecked(true);
     employees_->setHint(command_.month() ? QString() : kNoMonth);
     employees_->refresh();
     showEmployee();

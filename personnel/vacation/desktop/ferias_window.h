@@ -7,7 +7,6 @@
 
 class QCheckBox;
 class QLabel;
-class QRadioButton;
 class QTreeWidget;
 
 namespace winvrx {
@@ -39,7 +38,6 @@ class FeriasWindow : public ScreenWindow {
 
   private:
     [[nodiscard]] QWidget* buildEmployees();
-    [[nodiscard]] QRadioButton* buildFilter(bool onlyDue, const char* name);
     [[nodiscard]] QWidget* buildPeriods();
     [[nodiscard]] QWidget* buildForm(QWidget* part);
     void buildCommands();
@@ -58,8 +56,6 @@ class FeriasWindow : public ScreenWindow {
 
     Ferias& command_;
     EmployeePicker* employees_ = nullptr;
-    QRadioButton* everyone_ = nullptr;
-    QRadioButton* due_ = nullptr;
     QLabel* name_ = nullptr;
     QLabel* dueText_ = nullptr;
     QTreeWidget* rows_ = nullptr;

@@ -64,7 +64,7 @@ TEST_F(AfastamentoTest, EachObstacleEndsAnInclusionInItsOrder) {
 
 TEST_F(AfastamentoTest, RecordsALeaveAndChoosesIt) {
     start();
-    EXPECT_EQ(screen_.count(true), 0U);
+    EXPECT_EQ(screen_.list().count(true), 0U);
     type(kCertificate);
     desk_.person.answers = {kYes};
     EXPECT_TRUE(screen_.add());
@@ -73,7 +73,7 @@ TEST_F(AfastamentoTest, RecordsALeaveAndChoosesIt) {
     EXPECT_EQ(file(), line + std::string(211 - line.size(), ' ') + "\r\n**** \r\n");
     EXPECT_EQ(screen_.chosen(), 0U);
     EXPECT_FALSE(screen_.form().isChanged());
-    EXPECT_EQ(screen_.count(true), 1U);
+    EXPECT_EQ(screen_.list().count(true), 1U);
     EXPECT_TRUE(screen_.list().marks(0).onLeave);
 
     type({{Days, "5"}});
@@ -250,8 +250,8 @@ TEST_F(AfastamentoTest, RefusesWhenAnotherComputerChangedTheFile) {
 TEST_F(AfastamentoTest, ListsEveryoneOrThoseWithAFile) {
     record({}, "**** ");
     start();
-    EXPECT_EQ(screen_.count(false), 2U);
-    EXPECT_EQ(screen_.count(true), 1U);
+    EXPECT_EQ(screen_.list().count(false), 2U);
+    EXPECT_EQ(screen_.list().count(true), 1U);
     EXPECT_THAT(screen_.file().leaves, IsEmpty());
     EXPECT_FALSE(screen_.isInactive());
     EXPECT_EQ(screen_.periodCaption(), "Período : 01/03/2024 á 31/03/2024");

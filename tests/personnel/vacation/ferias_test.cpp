@@ -295,7 +295,7 @@ TEST(DueVacationTest, IsDueSixtyDaysBeforeItsLastStart) {
 
 TEST_F(FeriasTest, ListsWhatIsDue) {
     start(2);
-    EXPECT_EQ(screen_.count(true), 1U);
+    EXPECT_EQ(screen_.list().count(true), 1U);
     EXPECT_EQ(screen_.dueText(),
               "Vencem em 60 dias: 30 dias do período de 20/04/2022 a 19/04/2023, com início até "
               "21/03/2024 para não pagar em dobro.");
