@@ -44,6 +44,7 @@ DocumentosWindow::DocumentosWindow(Documentos& screen, const std::vector<Neighbo
     row->addWidget(buildText(), 1);
     setBody(body);
     buildCommands(neighbours);
+    form_->showPaper();
     textDue_.setSingleShot(true);
     textDue_.setInterval(kPause);
     connect(&textDue_, &QTimer::timeout, this, &DocumentosWindow::showText);

@@ -6,7 +6,10 @@
 #include "personnel/documents/documentos.h"
 #include "timecard/schedule/typed_time.h"
 
+#include <QAbstractButton>
 #include <QGridLayout>
+#include <QKeySequence>
+#include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
@@ -39,12 +42,36 @@ std::size_t shownWidth(const PaperInput& input) {
     return input.width + (input.type == InputType::Money ? 3 : 0);
 }
 
+/// Those of the window's buttons and labels.
+QString altLetters(const QWidget& window) {
+    QString letters;
+    const auto take = [&letters](const QString& caption) {
+        const QString key = QKeySequence::mnemonic(caption).toString();
+        if (!key.isEmpty()) letters += key.back();
+    };
+    for (const auto* button : window.findChildren<QAbstractButton*>())
+        take(button->text());
+    for (const auto* label : window.findChildren<QLabel*>())
+        if (label->buddy()) take(label->text());
+    return letters;
+}
+
+/// With the first of its letters that is free, which is then taken; as it is where none is.
+QString captionOf(const PaperInput& input, QString& taken) {
+    for (const char letter : input.caption) {
+        const QChar key = QChar::fromLatin1(letter).toUpper();
+        if (key < QLatin1Char('A') || key > QLatin1Char('Z') || taken.contains(key)) continue;
+        taken += key;
+        return withMnemonic(input.caption, letter);
+    }
+    return toQt(std::string(input.caption));
+}
+
 }  // namespace
 
 PaperForm::PaperForm(Documentos& screen, QWidget* parent) : QWidget(parent), screen_(screen) {
     column_ = new QVBoxLayout(this);
     look::layOutPart(*column_);
-    showPaper();
 }
 
 void PaperForm::showPaper() {
@@ -58,11 +85,12 @@ void PaperForm::showPaper() {
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
     int cell = 0;
+    QString taken = altLetters(*window());
     Field* last = nullptr;
     for (const PaperInput& input : allInputsOf(screen_.paper())) {
         const bool narrow = input.width <= kNarrow;
         if (!narrow && cell % 2 == 1) ++cell;
-        last = make(input, inputs_);
+        last = make(input, captionOf(input, taken), inputs_);
         grid->addWidget(last, cell / 2, cell % 2, 1, narrow ? 1 : 2, Qt::AlignTop);
         cell += narrow ? 1 : 2;
     }
@@ -74,9 +102,9 @@ void PaperForm::showPaper() {
     refresh();
 }
 
-Field* PaperForm::make(const PaperInput& input, QWidget* parent) {
+Field* PaperForm::make(const PaperInput& input, const QString& caption, QWidget* parent) {
     const std::string name(input.name);
-    auto* field = new Field({.caption = toQt(std::string(input.caption)),
+    auto* field = new Field({.caption = caption,
                              .objectName = QStringLiteral("documents.") + toQt(name),
                              .width = shownWidth(input),
                              .kind = kindFor(input),

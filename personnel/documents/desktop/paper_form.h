@@ -22,7 +22,8 @@ class PaperForm : public QWidget {
   public:
     PaperForm(Documentos& screen, QWidget* parent);
 
-    /// Shows the inputs of the paper that the screen is on.
+    /// Shows the inputs of the paper that the screen is on, each with an Alt letter that its window
+    /// has left for it. Once at least before the form is shown, when the window has its commands.
     void showPaper();
     /// Shows what the screen holds of them.
     void refresh();
@@ -35,7 +36,7 @@ class PaperForm : public QWidget {
     void edited();
 
   private:
-    [[nodiscard]] Field* make(const PaperInput& input, QWidget* parent);
+    [[nodiscard]] Field* make(const PaperInput& input, const QString& caption, QWidget* parent);
 
     Documentos& screen_;
     QVBoxLayout* column_;

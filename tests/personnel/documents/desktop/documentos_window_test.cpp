@@ -3,6 +3,7 @@
 #include "tests/support/papers_desk.h"
 #include "tests/support/window_driver.h"
 
+#include <QLabel>
 #include <QListWidget>
 #include <QTextBrowser>
 
@@ -44,6 +45,12 @@ TEST_F(PapersWindow, PrintsAPaperWithTheKeyboardAlone) {
         screen->press(Qt::Key_Down);
     screen->press(Qt::Key_Return);
     EXPECT_EQ(screen->focusName(), "documents.dia_saida");
+    EXPECT_EQ(screen->sharedAltLetters(), "");
+    int letters = 0;
+    for (const auto* label : screen->window.findChildren<QLabel*>())
+        if (label->isVisible() && label->buddy())
+            letters += QKeySequence::mnemonic(label->text()).isEmpty() ? 0 : 1;
+    EXPECT_GE(letters, 7) << "three fields of every paper, four of this one";
     for (const char* typed : {"", "830", "1000"}) {
         screen->typeHere(typed);
         screen->press(Qt::Key_Return);
