@@ -13,6 +13,7 @@
 #include "personnel/leaves/desktop/leaves_entry.h"
 #include "personnel/payroll/payroll_record.h"
 #include "personnel/payslips/desktop/payroll_entry.h"
+#include "personnel/payslips/provision_report.h"
 #include "personnel/termination/desktop/termination_entry.h"
 #include "personnel/vacation/desktop/ferias_entry.h"
 #include "timecard/card/desktop/time_card_entry.h"
@@ -61,8 +62,12 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
     const PaperDesk papers{desk.writer, [at, folder = desk.programFolder] {
                                return templateFolders(at.session.folder, folder);
                            }};
-    const FeriasEntryDesk vacations{papers, [at](const EmployeeKey& key, WorkMonth month) {
+    const FeriasEntryDesk vacations{papers,
+                                    [at](const EmployeeKey& key, WorkMonth month) {
                                         return vacationNetPaid(at.store(), key, month);
+                                    },
+                                    [at, &engine = printing.engine](WorkMonth month) {
+                                        (void)previewProvisions({at, engine}, month);
                                     }};
     const TimeCardDesk timeCard{
         rotation,

@@ -39,6 +39,9 @@ void openVacations(const Workplace& at, const FeriasEntryDesk& desk, QWidget* pa
         (void)printVacationNotice(at, desk.papers, vacations.selected(),
                                   row ? vacations.itemOf(*row) : nullptr);
     });
+    QObject::connect(&window, &FeriasWindow::provisionsRequested, &window, [&] {
+        if (vacations.month()) desk.showProvisions(*vacations.month());
+    });
     window.exec();
 }
 

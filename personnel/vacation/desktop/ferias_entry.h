@@ -13,6 +13,8 @@ struct FeriasEntryDesk {
     PaperDesk papers;
     /// The net total of the vacation pay recorded in a month; nullopt where none is.
     std::function<std::optional<Money>(const EmployeeKey& key, WorkMonth month)> netPaid;
+    /// Shows what is provided for in a month.
+    std::function<void(WorkMonth month)> showProvisions;
 };
 
 /// Opens the vacation periods, on `inHand` where an employee is chosen, and returns when the window

@@ -191,6 +191,8 @@ void FeriasWindow::buildCommands() {
         [this] { showOutcome(command_.restoreSettlement()); });
     add("sheet", QStringLiteral("Provisão"), Qt::Key_F6, "provide",
         [this] { showOutcome(command_.provide()); });
+    add("print", QStringLiteral("Provisões do Mês"), QKeySequence(Qt::SHIFT | Qt::Key_F6),
+        "provisions", [this] { emit provisionsRequested(); });
     add(
         "delete", QStringLiteral("Excluir"), Qt::Key_Delete, "remove",
         [this] { showOutcome(command_.remove()); }, rows_);

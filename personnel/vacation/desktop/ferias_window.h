@@ -31,6 +31,7 @@ class FeriasWindow : public ScreenWindow {
     void monthRequested();
     /// Whoever listens prints the notice of the vacation that is chosen.
     void noticeRequested();
+    void provisionsRequested();
 
   protected:
     bool mayClose() override;

@@ -5,6 +5,9 @@
 #include "personnel/payroll/desktop/folha_visao_window.h"
 #include "personnel/payroll/payroll_overview.h"
 #include "personnel/payslips/pay_receipt.h"
+#include "personnel/payslips/provision_report.h"
+#include "personnel/payslips/run_receipt.h"
+#include "personnel/vacation/vacation_record.h"
 #include "report/desktop/qt_report_engine.h"
 #include "tests/support/employee_desk.h"
 #include "tests/support/payroll_office.h"
@@ -150,6 +153,25 @@ struct PdfPapers : Papers {
     [[nodiscard]] QString path(const char* name) const {
         return folder.filePath(QLatin1String(name));
     }
+    [[nodiscard]] static bool canConvert() {
+        return !QStandardPaths::findExecutable(QStringLiteral("soffice")).isEmpty() && canReadPdf();
+    }
+    /// The documents that were shown, into "0.pdf", "1.pdf" and so on.
+    void convert() {
+        QStringList arguments{QStringLiteral("-env:UserInstallation=file://") + path("user"),
+                              QStringLiteral("--headless"),
+                              QStringLiteral("--convert-to"),
+                              QStringLiteral("pdf"),
+                              QStringLiteral("--outdir"),
+                              folder.path()};
+        for (std::size_t at = 0; at < writer.shown.size(); ++at) {
+            QFile file(path((std::to_string(at) + ".fodt").c_str()));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(openDocument(writer.shown[at]));
+            arguments << file.fileName();
+        }
+        (void)outputOf(QStringLiteral("soffice"), arguments);
+    }
     [[nodiscard]] QString printed(ReportRequest request, const std::vector<ReportRows>& sheets) {
         request.output = ReportOutput::PdfFile;
         request.pdfPath = path("folha.pdf").toStdString();
@@ -158,6 +180,88 @@ struct PdfPapers : Papers {
         return path("folha.pdf");
     }
 };
+
+TEST_F(PdfPapers, ReceiptsOfVacationAndThirteenthReadBackFromTheirPages) {
+    if (!canConvert()) GTEST_SKIP() << "LibreOffice is not installed";
+    contract();
+    office.file("01Ferias001") = encode(VacationItem{.acquisitionFirst = "01/02/2025",
+                                                     .acquisitionLast = "31/01/2026",
+                                                     .kind = std::string(kVacationKind),
+                                                     .granted = "30",
+                                                     .first = "09/03/2026",
+                                                     .last = "28/03/2026",
+                                                     .sold = "10",
+                                                     .thirteenth = "N",
+                                                     .month = "03-2026"}) +
+                                 "\r\n";
+    const PaperDesk desk{writer,
+                         [] { return std::vector<std::filesystem::path>{"/program/documents"}; }};
+    for (const char* name : {"recibo-ferias.txt", "recibo-13.txt"}) {
+        QFile text(QStringLiteral(WINVRX_SOURCES "/resources/documents/") + QLatin1String(name));
+        ASSERT_TRUE(text.open(QIODevice::ReadOnly));
+        office.files.content[std::string("/program/documents/") + name] =
+            text.readAll().toStdString();
+    }
+    struct Case {
+        PayrollRun run;
+        std::vector<const char*> texts;
+    };
+    const std::array cases = {
+        Case{PayrollRun::Vacation,
+             {"RECIBO DE FÉRIAS", "01/02/2025 a 31/01/2026", "09/03/2026 a 28/03/2026, 20 dias",
+              "011 SALARIO BASE FERIAS R$ 2.000,00", "014 1/3 FÉRIAS R$ 666,67", "R$ 1.000,00",
+              "R$ 333,33", "TOTAL R$ 4.000,00 R$ 215,68", "LÍQUIDO R$ 3.784,32",
+              "importância líquida de R$ 3.784,32", "ANA DA CONCEIÇÃO"}},
+        Case{PayrollRun::ThirteenthFirst,
+             {"RECIBO DO 13º SALÁRIO - 1º PARCELA", "Ano de 2026, paga em março",
+              "019 13ºSALAR ADIANTADO R$ 1.500,00", "LÍQUIDO R$ 1.500,00"}},
+        Case{PayrollRun::ThirteenthSecond,
+             {"RECIBO DO 13º SALÁRIO - 2º PARCELA", "017 13ºSALARIO INTEGRAL R$ 3.000,00",
+              "095 INSS S/13ºSAL R$ 248,58", "032 DESC 13ºSALAR ADIANT R$ 1.500,00",
+              "TOTAL R$ 3.000,00 R$ 1.748,58", "LÍQUIDO R$ 1.251,42"}}};
+    for (const Case& one : cases) {
+        ASSERT_TRUE(screen.chooseRun(one.run));
+        record();
+        office.person.answers = {Yes};
+        const auto& shown = screen.folha().shown();
+        ASSERT_TRUE(showRunReceipt(office.at, desk, shown ? &*shown : nullptr));
+    }
+    convert();
+    for (std::size_t at = 0; at < cases.size(); ++at) {
+        const QString pdf = path((std::to_string(at) + ".pdf").c_str());
+        const std::string text = printedText(pdf).toStdString();
+        for (const char* expected : cases[at].texts)
+            EXPECT_THAT(text, HasSubstr(expected));
+        EXPECT_EQ(printedWords(pdf).back().page, 1);
+    }
+}
+
+TEST_F(PdfPapers, ProvisionsOfTheMonthReadBackFromTheirPage) {
+    const PrintDesk desk{office.at, engine};
+    EXPECT_FALSE(previewProvisions(desk, PayrollOffice::kMonth));
+    EXPECT_EQ(office.person.takeTexts().back(), "Não há provisão de férias gravada neste mês.");
+    for (const auto& [name, month, net] : {std::tuple("01Ferias001", "03-2026", "4.000,00"),
+                                           std::tuple("01Ferias002", "03-2026", "8.266,67"),
+                                           std::tuple("01Ferias004", "02-2026", "3.333,33")})
+        office.file(name) = encode(VacationItem{.acquisitionFirst = "01/02/2025",
+                                                .acquisitionLast = "31/01/2026",
+                                                .kind = std::string(kProvisionKind),
+                                                .granted = "30",
+                                                .thirteenth = "N",
+                                                .month = month,
+                                                .net = net}) +
+                            "\r\n";
+    ASSERT_TRUE(previewProvisions(desk, PayrollOffice::kMonth));
+    if (!canReadPdf()) GTEST_SKIP() << "pdftotext is not installed";
+    const auto& job = engine.jobs.at(0);
+    const std::string text = printedText(printed(job.request, job.cards)).toStdString();
+    for (const char* expected : {"Provisão de férias", "PADARIA SÃO JOÃO LTDA", "março/2026",
+                                 "001 ANA DA CONCEIÇÃO, 01/02/2025 a 31/01/2026 30 dias 4.000,00",
+                                 "Férias 3.000,00 + 1/3 1.000,00", "Férias 6.200,00 + 1/3 2.066,67",
+                                 "Total da provisão 12.266,67"})
+        EXPECT_THAT(text, HasSubstr(expected));
+    EXPECT_EQ(text.find("EVA"), std::string::npos);
+}
 
 TEST_F(PdfPapers, PayrollAndSlipsReadBackFromTheirPages) {
     contract();
@@ -183,22 +287,13 @@ TEST_F(PdfPapers, PayrollAndSlipsReadBackFromTheirPages) {
 }
 
 TEST_F(PdfPapers, TheReceiptReadsBackFromTheWordProcessorsPages) {
-    if (QStandardPaths::findExecutable(QStringLiteral("soffice")).isEmpty() || !canReadPdf())
-        GTEST_SKIP() << "LibreOffice is not installed";
+    if (!canConvert()) GTEST_SKIP() << "LibreOffice is not installed";
     contract();
     record();
     office.person.answers = {Yes};
     ASSERT_TRUE(papers.showReceipt(true));
-    QFile file(path("recibo.fodt"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(openDocument(writer.shown.at(0)));
-    file.close();
-    (void)outputOf(
-        QStringLiteral("soffice"),
-        {QStringLiteral("-env:UserInstallation=file://") + path("user"),
-         QStringLiteral("--headless"), QStringLiteral("--convert-to"), QStringLiteral("pdf"),
-         QStringLiteral("--outdir"), folder.path(), file.fileName()});
-    const auto words = printedWords(path("recibo.pdf"));
+    convert();
+    const auto words = printedWords(path("0.pdf"));
     EXPECT_EQ(wordOf(words, QStringLiteral("(Assinatura")).page, 1);
     EXPECT_EQ(wordOf(words, QStringLiteral("MEMÓRIA")).page, 2);
     EXPECT_EQ(wordOf(words, QStringLiteral("2.614,34")).page, 1);
