@@ -4,6 +4,16 @@
 
 namespace winvrx {
 
+namespace {
+
+const char* demandOf(FactKind kind) {
+    if (kind == FactKind::Count) return "não é um número de 0 a 9.";
+    return kind == FactKind::Percent ? "não é um percentual de 0 a 100, como 33,33."
+                                     : "não é um valor em reais.";
+}
+
+}  // namespace
+
 bool FolhaDados::load() {
     selected_.reset();
     return attempt(at_, incorrectData(), [this] {
@@ -49,9 +59,7 @@ bool FolhaDados::save(const std::vector<std::string>& typed) {
         blamed_ = place;
         at_.person.tell(
             refusal(kFactsTitle, "Dado Incorreto!",
-                    std::string(fact.title) + ": \"" + typed[place] +
-                        (fact.kind == FactKind::Count ? "\" não é um número de 0 a 9."
-                                                      : "\" não é um valor em reais.")));
+                    std::string(fact.title) + ": \"" + typed[place] + "\" " + demandOf(fact.kind)));
         return false;
     }
     if (!at_.person.agrees(question(

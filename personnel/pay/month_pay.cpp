@@ -63,13 +63,13 @@ bool isAdvanceTaxedApart(const PayrollLaw& law, const MonthPayCase& month) {
 }
 
 IncomeTax taxOf(const PayrollLaw& law, const MonthPayCase& month, Money base,
-                const MonthDeductions& pay) {
+                const MonthDeductions& pay, Money alimony) {
     const Money apart = isAdvanceTaxedApart(law, month) ? pay.advance.amount : Money{};
     IncomeTax tax = incomeTax(law, {.kind = TaxedIncome::Month,
                                     .income = atLeastZero(base - apart) + month.earlier.income,
                                     .inss = pay.inss.amount + month.earlier.inss,
                                     .dependants = month.dependants,
-                                    .alimony = month.alimony,
+                                    .alimony = alimony,
                                     .privatePension = month.privatePension,
                                     .paid = month.paid});
     if (month.earlier.withheld.cents == 0) return tax;
@@ -79,6 +79,39 @@ IncomeTax taxOf(const PayrollLaw& law, const MonthPayCase& month, Money base,
     append(tax.memo, rest.memo);
     tax.withheld = atLeastZero(rest.amount);
     return tax;
+}
+
+/// The IRRF falls by the alimony and the alimony by the IRRF: from that without any tax downwards
+/// both come to rest, since a real of alimony takes less than a real off the tax.
+Reckoning alimonyOfNet(const PayrollLaw& law, const MonthPayCase& month, Money base,
+                       const MonthDeductions& pay, Money fixed) {
+    const auto after = [&](Money tax) {
+        return Sum(base)
+            .minus(pay.inss.amount)
+            .minus(tax)
+            .percent(month.alimonyOfNet)
+            .rounded("Pensão alimentícia sobre o líquido");
+    };
+    Reckoning share = after({});
+    for (;;) {
+        Reckoning next = after(taxOf(law, month, base, pay, fixed + share.amount).withheld);
+        if (next.amount >= share.amount) return next;
+        share = std::move(next);
+    }
+}
+
+Reckoning alimonyOf(const PayrollLaw& law, const MonthPayCase& month, Money base,
+                    const MonthDeductions& pay) {
+    Reckoning all;
+    const auto add = [&all](const Reckoning& part) {
+        all.amount = all.amount + part.amount;
+        append(all.memo, part.memo);
+    };
+    if (month.alimony.cents > 0) add(Sum(month.alimony).rounded("Pensão alimentícia"));
+    if (month.alimonyOfGross > Fraction(0))
+        add(Sum(base).percent(month.alimonyOfGross).rounded("Pensão alimentícia sobre o bruto"));
+    if (month.alimonyOfNet > Fraction(0)) add(alimonyOfNet(law, month, base, pay, all.amount));
+    return all;
 }
 
 }  // namespace
@@ -130,7 +163,8 @@ MonthDeductions monthDeductions(const PayrollLaw& law, const MonthPayCase& month
         familyQuota(law, base + month.vacationBase, month.children, month.part.month(), share);
     pay.inss = inssOf(law, month, base);
     pay.advance = salaryAdvance(month.salary, month.advancePercent);
-    pay.tax = taxOf(law, month, base, pay);
+    pay.alimony = alimonyOf(law, month, base, pay);
+    pay.tax = taxOf(law, month, base, pay, pay.alimony.amount);
     pay.voucher = transportVoucher(month.salary, month.voucherCost, month.voucherPercent,
                                    law.settings.voucherFollowsDaysWorked ? share : Fraction(1));
     pay.fgts = fgts(law, base, month.fgtsRate);

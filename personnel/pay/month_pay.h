@@ -49,9 +49,11 @@ struct MonthPayCase {
     std::optional<Money> voucherCost = Money{};
     Fraction advancePercent = 0;
     std::optional<Date> advancePaid = {};
-    int children = 0;    ///< with a right to the salary-family
-    int dependants = 0;  ///< of the IRRF
-    Money alimony = {};
+    int children = 0;             ///< with a right to the salary-family
+    int dependants = 0;           ///< of the IRRF
+    Money alimony = {};           ///< by court decision; what a share of the pay gives comes on top
+    Fraction alimonyOfGross = 0;  ///< per cent of what INSS and IRRF fall on
+    Fraction alimonyOfNet = 0;    ///< per cent of that less both, the IRRF less the alimony
     Money privatePension = {};
     EarlierPayments earlier = {};
     /// Of a vacation in the month: what falls in its INSS, and what is withheld of it already.
@@ -82,6 +84,7 @@ struct MonthEarnings {
 struct MonthDeductions {
     Reckoning familyQuota;  ///< paid, not taken off, but by the same base
     Reckoning inss;
+    Reckoning alimony;
     IncomeTax tax;
     Reckoning voucher;
     Reckoning advance;

@@ -54,6 +54,8 @@ void takeHours(const PayrollLaw& law, const EmployeeMonth& of, MonthPayCase& mon
 
 void takeFacts(const EmployeeMonth& of, MonthPayCase& month) {
     month.alimony = of.facts.alimony;
+    month.alimonyOfGross = of.facts.alimonyOfGross;
+    month.alimonyOfNet = of.facts.alimonyOfNet;
     month.privatePension = of.facts.privatePension;
     if (of.facts.isApprentice) month.fgtsRate = FgtsRate::Apprentice;
     month.voucherCost = std::nullopt;

@@ -53,20 +53,18 @@ Reckonings earningsByCode(const MonthEarnings& pay) {
 }
 
 Reckonings deductionsByCode(const MonthDeductions& pay) {
-    return {{"004", pay.familyQuota},
-            {"091", pay.inss},
-            {"092", {pay.tax.withheld, pay.tax.memo}},
-            {"025", pay.voucher},
-            {"031", pay.advance}};
+    return {
+        {"004", pay.familyQuota}, {"091", pay.inss},    {"092", {pay.tax.withheld, pay.tax.memo}},
+        {"097", pay.alimony},     {"025", pay.voucher}, {"031", pay.advance}};
 }
 
 Reckoning monthly(Money amount, std::string words) {
     return amount.cents == 0 ? Reckoning{} : Sum(amount).rounded(std::move(words));
 }
 
-Reckonings factsByCode(const MonthPayCase& month) {
-    return {{"097", monthly(month.alimony, "Pensão alimentícia")},
-            {"098", monthly(month.privatePension, "Previdência privada")}};
+bool hasAlimony(const MonthPayCase& month) {
+    return month.alimony.cents > 0 || month.alimonyOfGross > Fraction(0) ||
+           month.alimonyOfNet > Fraction(0);
 }
 
 class SheetWriter {
@@ -124,11 +122,12 @@ class SheetWriter {
 };
 
 void writeMonth(const PayrollLaw& law, const MonthPayCase& month, SheetWriter& writer) {
-    const Reckonings facts = factsByCode(month);
+    const Reckoning pension = monthly(month.privatePension, "Previdência privada");
     for (const PayrollEventLine& line : factEvents())
-        if (facts.at(line.record.code).amount.cents > 0) writer.addMissing({&line, 1});
+        if (line.record.code == "097" ? hasAlimony(month) : pension.amount.cents > 0)
+            writer.addMissing({&line, 1});
     writer.open(PayrollKind::Month);
-    writer.take(facts);
+    writer.take({{"098", pension}});
     writer.take(earningsByCode(monthEarnings(law, month)));
     const Money base = taxedPay(writer.sheet(), PayrollKind::Month);
     const MonthDeductions deductions = monthDeductions(law, month, base);

@@ -10,6 +10,7 @@ namespace winvrx {
 namespace {
 
 constexpr int kMostPeriods = 9;
+constexpr int kWhole = 100;  // per cent
 
 template <typename Value>
 struct Inner {
@@ -26,6 +27,9 @@ std::string textOf(const std::optional<Money>& amount) {
 std::string textOf(Money amount) {
     return amount.cents == 0 ? std::string() : moneyText(amount);
 }
+std::string textOf(const Fraction& percent) {
+    return percent == Fraction(0) ? std::string() : decimalText(percent, 2);
+}
 std::string textOf(std::optional<int> count) {
     return count ? std::to_string(*count) : std::string();
 }
@@ -38,6 +42,12 @@ std::optional<Value> read(std::string_view text);
 template <>
 std::optional<Money> read(std::string_view text) {
     return parseMoney(text);
+}
+template <>
+std::optional<Fraction> read(std::string_view text) {
+    const auto percent = parseDecimal(text);
+    if (!percent || *percent < Fraction(0) || *percent > Fraction(kWhole)) return std::nullopt;
+    return percent;
 }
 template <>
 std::optional<int> read(std::string_view text) {
@@ -76,6 +86,11 @@ constexpr std::array kFacts = {
                             Amount),
     fact<&F::alimony>("pensao", "Pensão alimentícia por mês (R$)",
                       "Por decisão judicial: é descontada e reduz a base do IRRF.", Amount),
+    fact<&F::alimonyOfGross>("pensao-bruto", "Pensão alimentícia (% do bruto)",
+                             "Dos créditos tributáveis, menos faltas; soma-se ao valor por mês.",
+                             Percent),
+    fact<&F::alimonyOfNet>("pensao-liquido", "Pensão alimentícia (% do líquido)",
+                           "Do bruto menos INSS e IRRF, e este já sem a própria pensão.", Percent),
     fact<&F::privatePension>("previdencia", "Previdência privada por mês (R$)",
                              "É descontada e reduz a base do IRRF.", Amount),
     fact<&F::isApprentice>("aprendiz", "Aprendiz", "FGTS de 2% no lugar de 8%.", YesNo),

@@ -3,6 +3,7 @@
 #include "foundation/files/data_folder.h"
 #include "foundation/files/file_system.h"
 #include "foundation/values/money.h"
+#include "personnel/pay/fraction.h"
 
 #include <optional>
 #include <span>
@@ -18,6 +19,8 @@ namespace winvrx {
 struct PayrollFacts {
     std::optional<Money> voucherPerDay = {};  ///< what a day's tickets cost; not said, not known
     Money alimony = {};                       ///< a month, by court decision
+    Fraction alimonyOfGross = {};             ///< the same in per cent of the taxed pay
+    Fraction alimonyOfNet = {};               ///< in per cent of that less INSS and IRRF
     Money privatePension = {};                ///< a month
     bool isApprentice = false;
     std::optional<Money> averages = {};      ///< a month's variable pay; not said, from the cards
@@ -29,7 +32,7 @@ struct PayrollFacts {
     [[nodiscard]] bool operator==(const PayrollFacts&) const = default;
 };
 
-enum class FactKind { Amount, Count, YesNo };
+enum class FactKind { Amount, Percent, Count, YesNo };
 
 /// A fact as the screen and the record see it: a text, empty where it is not said.
 struct PayrollFact {

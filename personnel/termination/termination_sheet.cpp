@@ -69,7 +69,7 @@ TerminationCase caseOf(const PayrollLaw& law, const TerminationInputs& inputs,
     end.absences = absencesInRunningPeriod(inputs);
     end.fgtsAccount = inputs.lastMonth.facts.fgtsAccount;
     end.dependants = month.dependants;
-    end.alimony = month.alimony;
+    end.alimony = sheet.amountOf("097");
     end.privatePension = month.privatePension;
     end.fgtsRate = month.fgtsRate;
     return end;

@@ -20,6 +20,7 @@ namespace {
 constexpr int kListCharacters = 40;
 constexpr std::size_t kAmountWidth = 14;
 constexpr std::size_t kYesNoWidth = 3;
+constexpr std::size_t kPercentWidth = 6;  // "100,00"
 
 std::vector<Choice> yesOrNo() {
     return {{"", std::string(kNo)}, {std::string(kYes), std::string(kYes)}};
@@ -27,16 +28,31 @@ std::vector<Choice> yesOrNo() {
 
 constexpr FieldKind kYesNoField{.choices = yesOrNo};
 
+struct Input {
+    std::size_t width;
+    FieldKind kind;
+};
+
+Input inputFor(FactKind kind) {
+    switch (kind) {
+        case FactKind::Amount:
+            return {kAmountWidth, kMoneyField};
+        case FactKind::Percent:
+            return {kPercentWidth, kTextField};
+        case FactKind::YesNo:
+            return {kYesNoWidth, kYesNoField};
+        case FactKind::Count:
+            break;
+    }
+    return {1, kNumberField};
+}
+
 Field* fieldOf(const PayrollFact& fact, QWidget* parent) {
-    const bool isYesNo = fact.kind == FactKind::YesNo;
+    const Input input = inputFor(fact.kind);
     auto* field = new Field({.caption = toQt(fact.title),
                              .objectName = QStringLiteral("dados.") + toQt(fact.key),
-                             .width = isYesNo                         ? kYesNoWidth
-                                      : fact.kind == FactKind::Amount ? kAmountWidth
-                                                                      : 1,
-                             .kind = isYesNo                         ? kYesNoField
-                                     : fact.kind == FactKind::Amount ? kMoneyField
-                                                                     : kNumberField},
+                             .width = input.width,
+                             .kind = input.kind},
                             parent);
     field->setNote(toQt(fact.effect));
     return field;

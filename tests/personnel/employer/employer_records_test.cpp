@@ -80,12 +80,17 @@ TEST_F(EmployerTest, FactsAreCheckedAndRecordedForOneEmployee) {
         const char* why;
     };
     for (const Case& c : {Case{"pensao", "trezentos", "não é um valor em reais."},
+                          Case{"pensao-liquido", "100,01", "não é um percentual de 0 a 100"},
                           Case{"ferias-vencidas", "12", "não é um número de 0 a 9."}}) {
         EXPECT_FALSE(screen.save(facts(c.key, c.text)));
         EXPECT_NE(person.shown.back().detail.find(c.why), std::string::npos);
         EXPECT_EQ(payrollFactTable()[screen.blamed().value()].key, c.key);
     }
     EXPECT_FALSE(screen.confirmDiscard(facts("pensao", "300")));
+    person.answers = {Yes};
+    EXPECT_TRUE(screen.save(facts("pensao-bruto", "33,3")));
+    EXPECT_EQ(file("01FolhaDados001"),
+              "pensao-bruto = 33,30\r\nfutura = 7\r\nferias-vencidas = x\r\n");
     person.answers = {Yes};
     EXPECT_TRUE(screen.save(facts("pensao", "300")));
     EXPECT_EQ(file("01FolhaDados001"), "pensao = 300,00\r\nfutura = 7\r\nferias-vencidas = x\r\n");

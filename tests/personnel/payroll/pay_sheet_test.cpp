@@ -182,6 +182,28 @@ TEST_F(PaySheetTest, FollowsReferencesTypedAmountsAndNewEvents) {
     EXPECT_EQ(month.net, month.credits - month.debits);
 }
 
+TEST_F(PaySheetTest, TakesAlimonyAsAShareOfThePay) {
+    one_.month = {.part = wholeMonth(2026y / 11), .paid = 2026y / 11 / 30, .salary = {1000000}};
+    struct Case {
+        Money fixed;
+        Fraction ofGross;
+        Fraction ofNet;
+        std::int64_t alimony;
+        std::int64_t tax;
+    };
+    // INSS 988,07; of the net both follow from each other: 30% of 9.011,93 − 900,34.
+    for (const Case& c : {Case{{}, 20, 0, 200000, 101955}, Case{{}, 0, 30, 243348, 90034},
+                          Case{{50000}, 0, 30, 297844, 75048}}) {
+        one_.month.alimony = c.fixed;
+        one_.month.alimonyOfGross = c.ofGross;
+        one_.month.alimonyOfNet = c.ofNet;
+        const PaySheet month = sheet();
+        EXPECT_EQ(centsOf(month, "097"), c.alimony);
+        EXPECT_EQ(centsOf(month, "092"), c.tax);
+        EXPECT_EQ(month.net, month.credits - month.debits);
+    }
+}
+
 TEST_F(PaySheetTest, IsReadBackFromItsFile) {
     testing::MemoryFiles files;
     const DataFolder folder('C', "/data");
