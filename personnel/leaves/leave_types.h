@@ -17,6 +17,10 @@ inline constexpr std::array<std::string_view, 8> kLeaveTypes = {
 
 inline constexpr std::string_view kVacationLeave = kLeaveTypes[5];
 
+/// Days of illness or accident that the company pays; the social security pays those that follow
+/// (Lei 8.213/1991, art. 60 par. 3).
+inline constexpr int kIllnessDaysPaid = 15;
+
 /// In the order of TerminationType.
 inline constexpr std::array<std::string_view, 5> kTerminationTypes = {
     "01. Dispensa sem Justa Causa", "02. Dispensa por Justa Causa Causada pelo Empregado",

@@ -3,7 +3,6 @@
 #include "personnel/pay/inss.h"
 #include "personnel/pay/partial_month.h"
 #include "personnel/pay/thirteenth.h"
-#include "personnel/vacation/vacation_rules.h"
 
 namespace winvrx {
 
@@ -106,8 +105,10 @@ Reckoning overdueVacation(const TerminationCase& end) {
 void reckonVacation(const TerminationCase& end, TerminationPay& pay) {
     pay.overdue = overdueVacation(end);
     if (end.type == TerminationType::JustCause) return;
-    const Date runs = acquisitionPeriods(end.admission, pay.dates.lastDayWorked.value).back().first;
-    pay.vacationTwelfths = vacationTwelfths(runs, pay.dates.noticeEnds.value);
+    const auto runs = runningPeriod(end.periods.value_or(AcquisitionCount{end.admission}),
+                                    pay.dates.lastDayWorked.value);
+    if (!runs) return;
+    pay.vacationTwelfths = vacationTwelfths(runs->first, pay.dates.noticeEnds.value);
     const int days = vacationDays(end.absences);
     Sum sum = Sum({end.salary, end.averages}).over(kMonthsAYear).times(pay.vacationTwelfths);
     if (days != kDaysAMonth) sum = std::move(sum).times({days, kDaysAMonth});

@@ -3,6 +3,7 @@
 #include "personnel/leaves/termination_dates.h"
 #include "personnel/pay/employer_dues.h"
 #include "personnel/pay/income_tax.h"
+#include "personnel/vacation/vacation_rules.h"
 
 #include <optional>
 
@@ -19,6 +20,8 @@ struct TerminationCase {
     /// As recorded; worked out of type, notice, admission and the day it is given where not said.
     std::optional<TerminationDates> dates = {};
     Money salary = {};
+    /// Of the vacations; counted from the admission alone where not said.
+    std::optional<AcquisitionCount> periods = {};
     Money averages = {};        ///< of variable and risk pay, in notice, 13th and vacation
     Money monthsPay = {};       ///< of the last month besides the balance, taxed; below zero too
     int daysAway = 0;           ///< of the last month, without pay

@@ -9,7 +9,6 @@ namespace winvrx {
 
 namespace {
 
-constexpr int kIllnessDaysPaid = 15;
 constexpr int kMostDependants = 99;
 constexpr std::size_t kLabelWidth = 25;
 

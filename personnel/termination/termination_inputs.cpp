@@ -44,8 +44,10 @@ int periodsTaken(const LeaveCalendar& leaves) {
 
 /// What the leaves have not given, of an employee whose vacations are not recorded apart.
 void takePeriodsByLeaves(TerminationInputs& inputs, Date last) {
-    auto periods = acquisitionPeriods(inputs.record.admission, last);
-    periods.pop_back();
+    auto periods = acquisitionPeriods(inputs.periods, last);
+    std::erase_if(periods, [last](const AcquisitionPeriod& period) {
+        return period.forfeit || period.last >= last;
+    });
     const auto taken = static_cast<std::size_t>(periodsTaken(inputs.lastMonth.leaves));
     periods.erase(periods.begin(),
                   periods.begin() + static_cast<std::ptrdiff_t>(std::min(taken, periods.size())));
@@ -61,7 +63,7 @@ void takePeriodsByRecord(TerminationInputs& inputs, VacationLines vacations, Dat
         return away && away->first > last;
     });
     const auto whole = [](const AcquisitionPeriod&) { return kFullVacation; };
-    for (const PeriodRow& row : periodRows(inputs.record.admission, last, vacations, whole)) {
+    for (const PeriodRow& row : periodRows(inputs.periods, last, vacations, whole)) {
         if (row.status != PeriodStatus::Pending || !row.isAcquiredOn(last)) continue;
         const bool isPast = row.period.limit < last;
         if (row.days == kFullVacation) {
@@ -77,6 +79,7 @@ void takePeriodsByRecord(TerminationInputs& inputs, VacationLines vacations, Dat
 void takePeriods(TerminationInputs& inputs, VacationLines vacations) {
     const Date last = inputs.record.dates.lastDayWorked.value;
     const PayrollFacts& facts = inputs.lastMonth.facts;
+    inputs.periods = acquisitionCount(inputs.record.admission, inputs.lastMonth.leaves, vacations);
     if (vacations.empty())
         takePeriodsByLeaves(inputs, last);
     else

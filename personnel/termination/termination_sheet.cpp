@@ -42,10 +42,9 @@ Reckoning averagesOf(const PayrollLaw& law, const TerminationInputs& inputs,
 }
 
 int absencesInRunningPeriod(const TerminationInputs& inputs) {
-    const auto periods =
-        acquisitionPeriods(inputs.record.admission, inputs.record.dates.lastDayWorked.value);
+    const auto runs = runningPeriod(inputs.periods, inputs.record.dates.lastDayWorked.value);
     return static_cast<int>(std::ranges::count_if(
-        inputs.history.absences, [&](Date date) { return date >= periods.back().first; }));
+        inputs.history.absences, [&](Date date) { return runs && date >= runs->first; }));
 }
 
 TerminationCase caseOf(const PayrollLaw& law, const TerminationInputs& inputs,
@@ -62,6 +61,7 @@ TerminationCase caseOf(const PayrollLaw& law, const TerminationInputs& inputs,
     end.monthsPay = sheet.base - sheet.amountOf("001");
     end.daysAway = month.part.daysAway;
     end.thirteenthPaid = inputs.thirteenthPaid;
+    end.periods = inputs.periods;
     end.absentDays = inputs.history.absences;
     end.overduePeriods = inputs.overduePeriods;
     end.doubledPeriods = inputs.doubledPeriods;

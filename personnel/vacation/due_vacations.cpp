@@ -1,10 +1,18 @@
 #include "personnel/vacation/due_vacations.h"
 
-#include "foundation/register/employee_list.h"
-
 #include <algorithm>
 
 namespace winvrx {
+
+namespace {
+
+/// Whatever is recorded: who is not among these needs no look at his vacations.
+bool mayBeDue(Date admission, const LeaveCalendar& leaves, Date today) {
+    return dueVacation({admission}, today, {}) ||
+           dueVacation(acquisitionCount(admission, leaves, {}), today, {});
+}
+
+}  // namespace
 
 std::vector<EmployeeDue> dueVacations(const Store& store, const CompanyCode& company,
                                       const std::vector<EmployeeLine>& employees,
@@ -13,12 +21,14 @@ std::vector<EmployeeDue> dueVacations(const Store& store, const CompanyCode& com
     for (const EmployeeLine& line : employees) {
         const auto code = line.record.employeeCode();
         const auto admission = line.record.admissionDate();
-        if (!code || !admission || !mayBeDue(*admission, today)) continue;
+        if (!code || !admission) continue;
         const EmployeeKey key{company, *code};
-        if (names.contains(company.text() + leaveFileName(*code)) &&
-            markedLeaves(store, key, std::nullopt).marks.inactiveSince)
-            continue;
-        if (const auto due = dueVacation(*admission, today, loadVacations(store, key, names)))
+        LeaveCalendar leaves;
+        if (names.contains(company.text() + leaveFileName(*code)))
+            leaves = loadLeaveCalendar(store, key, admission);
+        if (leaves.inactiveSince() || !mayBeDue(*admission, leaves, today)) continue;
+        const VacationLines lines = loadVacations(store, key, names);
+        if (const auto due = dueVacation(acquisitionCount(*admission, leaves, lines), today, lines))
             found.push_back({*code, line.record.name, *due});
     }
     return found;

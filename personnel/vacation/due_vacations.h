@@ -16,7 +16,8 @@ struct EmployeeDue {
 };
 
 /// Those of a company whose vacation must begin soon, in the order of the list; who is inactive is
-/// not among them. Reads files only of whom the admission brings near a limit. Throws FileFault.
+/// not among them. Of whom the admission brings to no limit only leaves are read: time away may
+/// have moved his periods. Throws FileFault.
 [[nodiscard]] std::vector<EmployeeDue> dueVacations(const Store& store, const CompanyCode& company,
                                                     const std::vector<EmployeeLine>& employees,
                                                     const FolderNames& names, Date today);

@@ -97,9 +97,9 @@ void Ferias::reload() {
         const FolderNames names = namesIn(at_.store());
         lines_ = loadVacations(at_.store(), key(), names);
         leaves_ = loadLeaveCalendar(at_.store(), key(), admission);
-        rows_ =
-            periodRows(*admission, lastDay(month_.value()), lines_,
-                       [&](const AcquisitionPeriod& period) { return grantedDays(period, names); });
+        rows_ = periodRows(
+            acquisitionCount(*admission, leaves_, lines_), lastDay(month_.value()), lines_,
+            [&](const AcquisitionPeriod& period) { return grantedDays(period, names); });
     }
     const auto pending =
         std::ranges::find(rows_, PeriodStatus::Pending, &PeriodRow::status) - rows_.begin();
@@ -147,7 +147,8 @@ bool Ferias::hasLeaveOf(const PeriodRow& row) const {
 
 std::string Ferias::dueText() const {
     const auto admission = selected() ? selected()->admissionDate() : std::nullopt;
-    const auto due = admission ? dueVacation(*admission, today(), lines_) : std::nullopt;
+    if (!admission) return {};
+    const auto due = dueVacation(acquisitionCount(*admission, leaves_, lines_), today(), lines_);
     if (!due) return {};
     return "Vencem em " + std::to_string(kDueWithinDays) + " dias: " + std::to_string(due->days) +
            " dias do período de " + dateText(due->period.first) + " a " +
@@ -173,6 +174,7 @@ std::vector<std::string> Ferias::planNotes() {
     std::vector<std::string> notes;
     const PeriodRow* row = chosenRow();
     if (!row) return notes;
+    if (row->period.forfeit) return {forfeitText(row->period)};
     notes.push_back("Limite da concessão: " + dateText(row->period.limit) +
                     ". Último início sem dobra: " + dateText(row->period.lastStart(row->days)) +
                     ".");

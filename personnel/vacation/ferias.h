@@ -106,6 +106,7 @@ class Ferias {
                               std::optional<VacationInput> blamed = {}, std::string detail = {});
     [[nodiscard]] bool requirePeriod();
     [[nodiscard]] bool requireItem();
+    [[nodiscard]] bool requireNotForfeit();
     [[nodiscard]] bool requireNotSettled();
     [[nodiscard]] bool requireNotPaid();
     [[nodiscard]] bool requireFilled();

@@ -81,6 +81,12 @@ bool Ferias::requireItem() {
     return (item && !item->isProvision()) || refuse(kScreen, kSelectPeriod);
 }
 
+bool Ferias::requireNotForfeit() {
+    const AcquisitionPeriod& period = chosenRow()->period;
+    return !period.forfeit ||
+           refuse(kScreen, "Este período não dá direito a férias.", {}, forfeitText(period));
+}
+
 bool Ferias::requireNotSettled() {
     const VacationItem* item = itemOf(*chosenRow());
     return !item || !item->isSettled() ||
@@ -251,9 +257,9 @@ void Ferias::offerToMark(LeavePeriod days) {
 
 bool Ferias::record() {
     return attempt(at_, incorrectData(), [&] {
-        if (!requirePeriod() || !requireNotSettled() || !requireNotPaid() || !requireFilled() ||
-            !confirmRecording() || !confirmPending() || !requireDates() || !requireFractions() ||
-            !requireFreeMonth())
+        if (!requirePeriod() || !requireNotForfeit() || !requireNotSettled() || !requireNotPaid() ||
+            !requireFilled() || !confirmRecording() || !confirmPending() || !requireDates() ||
+            !requireFractions() || !requireFreeMonth())
             return false;
         const VacationItem item = typedItem();
         const LeavePeriod away = item.away().value();
@@ -312,7 +318,8 @@ bool Ferias::restoreSettlement() {
 
 bool Ferias::provide() {
     return attempt(at_, incorrectData(), [&] {
-        if (!requirePeriod() || !confirmRecording() || !confirmPending() || !requireProvision())
+        if (!requirePeriod() || !requireNotForfeit() || !confirmRecording() || !confirmPending() ||
+            !requireProvision())
             return false;
         const PeriodRow row = *chosenRow();
         const VacationItem item = provision();

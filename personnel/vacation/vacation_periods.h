@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/register/leave_calendar.h"
 #include "personnel/vacation/vacation_record.h"
 #include "personnel/vacation/vacation_rules.h"
 
@@ -13,9 +14,10 @@
 
 namespace winvrx {
 
-enum class PeriodStatus { Pending, ToSettle, Settled, Provision };
+enum class PeriodStatus { Pending, ToSettle, Settled, Provision, Forfeit };
 
-/// "30Dias  - Pendente", "30Dias  -  Quitar ", "30Dias  -  Quitada"; "30Dias  -  Provisão".
+/// "30Dias  - Pendente", "30Dias  -  Quitar ", "30Dias  -  Quitada"; "30Dias  -  Provisão",
+/// "0Dias  -  Perdidas".
 [[nodiscard]] std::string statusText(int days, PeriodStatus status);
 
 /// A vacation or a provision on record, or the days of an acquisition period of which nothing is.
@@ -34,9 +36,14 @@ struct PeriodRow {
 /// The days that a period gives; asked only of periods that no vacation is recorded of.
 using GrantedDays = std::function<int(const AcquisitionPeriod& period)>;
 
+/// What the periods are counted from by leaves and vacations on record. A leave that goes on where
+/// another of its type ends is one with it.
+[[nodiscard]] AcquisitionCount acquisitionCount(Date admission, const LeaveCalendar& leaves,
+                                                const VacationLines& lines);
+
 /// The periods that have begun by `date`, the oldest first, each with its vacations and then what
 /// is left of it. Vacations of other periods, as before another admission, stand in no row.
-[[nodiscard]] std::vector<PeriodRow> periodRows(Date admission, Date date,
+[[nodiscard]] std::vector<PeriodRow> periodRows(const AcquisitionCount& of, Date date,
                                                 const VacationLines& lines,
                                                 const GrantedDays& granted);
 
@@ -59,9 +66,7 @@ struct DueVacation {
 inline constexpr int kDueWithinDays = 60;
 /// Of the period whose last start lies within sixty days, or has passed while its limit has not;
 /// nullopt where no days of it are left. At most one period is due at a time.
-[[nodiscard]] std::optional<DueVacation> dueVacation(Date admission, Date today,
+[[nodiscard]] std::optional<DueVacation> dueVacation(const AcquisitionCount& of, Date today,
                                                      const VacationLines& lines);
-/// The same whatever is recorded: who is not among these needs no look at his file.
-[[nodiscard]] bool mayBeDue(Date admission, Date today);
 
 }  // namespace winvrx

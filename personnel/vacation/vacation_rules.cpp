@@ -1,5 +1,7 @@
 #include "personnel/vacation/vacation_rules.h"
 
+#include "personnel/leaves/leave_types.h"
+
 #include <algorithm>
 #include <array>
 #include <numeric>
@@ -9,6 +11,9 @@ namespace winvrx {
 namespace {
 
 constexpr int kMonthsAYear = 12;
+constexpr int kDaysAMonth = 30;
+constexpr int kMostPaidLeave = 30;
+constexpr int kMostIllness = 6 * kDaysAMonth;
 constexpr int kDaysThatCount = 15;
 constexpr int kNoticeDays = 30;
 constexpr int kPaymentDays = 2;
@@ -23,6 +28,83 @@ struct DaysByAbsences {
 };
 constexpr std::array kDaysByAbsences = {DaysByAbsences{5, 30}, DaysByAbsences{14, 24},
                                         DaysByAbsences{23, 18}, DaysByAbsences{32, 12}};
+
+/// Whole months and the days behind them.
+struct Span {
+    int months = 0;
+    int days = 0;
+};
+
+Span spanOf(Date first, Date last) {
+    Span span;
+    while (plusDays(plusMonths(first, span.months + 1), -1) <= last)
+        ++span.months;
+    const auto rest =
+        std::chrono::sys_days(last) - std::chrono::sys_days(plusMonths(first, span.months));
+    span.days = static_cast<int>(rest.count()) + 1;
+    return span;
+}
+
+/// A month counts thirty days, whatever its length: six whole ones are no more than six.
+int daysByMonths(Date first, Date last) {
+    const Span span = spanOf(first, last);
+    return span.months * kDaysAMonth + span.days;
+}
+
+/// The days that count against the period; nullopt where none do.
+std::optional<LeavePeriod> countedIn(const TimeAway& away, const AcquisitionPeriod& period) {
+    if (away.kind == TimeAway::Kind::Other) return std::nullopt;
+    Date first = away.days.first;
+    if (away.kind == TimeAway::Kind::Illness) first = plusDays(first, kIllnessDaysPaid);
+    const LeavePeriod in{std::max(first, period.first), std::min(away.days.last, period.last)};
+    return in.first <= in.last ? std::optional(in) : std::nullopt;
+}
+
+struct Loss {
+    Forfeit cause = Forfeit::Illness;
+    Date day{};  ///< the first that is too many
+};
+
+std::optional<Loss> lossIn(const AcquisitionPeriod& period, const std::vector<TimeAway>& away) {
+    int ill = 0;
+    for (const TimeAway& one : away) {
+        const auto in = countedIn(one, period);
+        if (!in) continue;
+        if (one.kind == TimeAway::Kind::PaidLeave) {
+            const Date day = plusDays(in->first, kMostPaidLeave);
+            if (day <= in->last) return Loss{Forfeit::PaidLeave, day};
+            continue;
+        }
+        for (Date day = in->first; day <= in->last; day = plusDays(day, 1))
+            if (ill + daysByMonths(in->first, day) > kMostIllness)
+                return Loss{Forfeit::Illness, day};
+        ill += daysByMonths(in->first, in->last);
+    }
+    return std::nullopt;
+}
+
+Date returnAfter(Date day, const std::vector<TimeAway>& away) {
+    Date back = plusDays(day, 1);
+    for (bool isAway = true; isAway;) {
+        isAway = false;
+        for (const TimeAway& one : away) {
+            if (!one.days.contains(back)) continue;
+            back = plusDays(one.days.last, 1);
+            isAway = true;
+        }
+    }
+    return back;
+}
+
+/// Whether a vacation is on record of the `year`-th year from `start`, or of one that follows.
+bool isOnRecord(const std::vector<Date>& recorded, Date start, int year) {
+    return std::ranges::any_of(recorded, [&](Date first) {
+        Date of{};
+        for (int at = year; (of = acquisitionPeriod(start, at).first) < first;)
+            ++at;
+        return of == first;
+    });
+}
 
 }  // namespace
 
@@ -43,21 +125,43 @@ AcquisitionPeriod acquisitionPeriod(Date admission, int number) {
             plusDays(boundary(number + 1), -1)};
 }
 
-std::vector<AcquisitionPeriod> acquisitionPeriods(Date admission, Date date) {
+std::vector<AcquisitionPeriod> acquisitionPeriods(const AcquisitionCount& of, Date date) {
     std::vector<AcquisitionPeriod> periods;
-    for (int number = 1;; ++number) {
-        const AcquisitionPeriod period = acquisitionPeriod(admission, number);
+    Date start = of.admission;
+    for (int number = 1, year = 1;; ++number, ++year) {
+        AcquisitionPeriod period = acquisitionPeriod(start, year);
+        period.number = number;
         if (period.first > date) return periods;
+        const auto loss = lossIn(period, of.away);
+        if (loss && loss->day <= date && !isOnRecord(of.recorded, start, year)) {
+            start = returnAfter(loss->day, of.away);
+            year = 0;
+            period.forfeit = loss->cause;
+            period.last = period.limit = plusDays(start, -1);
+        }
         periods.push_back(period);
     }
 }
 
+std::optional<AcquisitionPeriod> runningPeriod(const AcquisitionCount& of, Date date) {
+    const auto periods = acquisitionPeriods(of, date);
+    if (periods.empty() || periods.back().forfeit) return std::nullopt;
+    return periods.back();
+}
+
+std::string forfeitText(const AcquisitionPeriod& period) {
+    if (!period.forfeit) return {};
+    const std::string cause =
+        *period.forfeit == Forfeit::PaidLeave
+            ? "mais de 30 dias seguidos de licença remunerada no período (CLT, art. 133, II e III)"
+            : "mais de 6 meses de auxílio-doença ou acidente no período (CLT, art. 133, IV)";
+    return "Férias perdidas: " + cause + ". O novo período começa na volta ao trabalho, em " +
+           dateText(plusDays(period.last, 1)) + ".";
+}
+
 int vacationTwelfths(Date first, Date last) {
-    int whole = 0;
-    while (plusDays(plusMonths(first, whole + 1), -1) <= last)
-        ++whole;
-    const auto rest = std::chrono::sys_days(last) - std::chrono::sys_days(plusMonths(first, whole));
-    return whole + (rest.count() + 1 >= kDaysThatCount ? 1 : 0);
+    const Span span = spanOf(first, last);
+    return span.months + (span.days >= kDaysThatCount ? 1 : 0);
 }
 
 int daysPastLimit(const AcquisitionPeriod& period, Date start, int days) {

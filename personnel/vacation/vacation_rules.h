@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/register/leave_record.h"
 #include "foundation/values/date.h"
 
 #include <optional>
@@ -17,22 +18,56 @@ namespace winvrx {
 /// Days of vacation that so many unjustified absences leave (CLT, art. 130): 30, 24, 18, 12 or 0.
 [[nodiscard]] int vacationDays(int absences);
 
+/// Whole days away from work.
+struct TimeAway {
+    enum class Kind {
+        PaidLeave,  ///< the company pays
+        Illness,    ///< the social security pays from the sixteenth day on
+        Other       ///< does nothing to a vacation
+    };
+    Kind kind = Kind::Other;
+    LeavePeriod days;
+};
+
+/// What costs a period its vacation (CLT, art. 133).
+enum class Forfeit {
+    PaidLeave,  ///< II and III: more than thirty days on end
+    Illness     ///< IV: paid by the social security for more than six months in all
+};
+
 /// A year of work that gives a vacation, and the year in which it is to be taken.
 struct AcquisitionPeriod {
     int number = 1;  ///< counted from 1 at the admission
     Date first{};
-    Date last{};
+    Date last{};   ///< of one that is forfeit, the day before the return to work
     Date limit{};  ///< of the concession: a day of vacation after it is paid double
+    std::optional<Forfeit> forfeit = {};
 
     /// The last day on which a vacation of so many days can begin without double pay.
     [[nodiscard]] Date lastStart(int days) const { return plusDays(limit, 1 - days); }
 };
 
-/// Requires number >= 1.
+/// As no time away changes it. Requires number >= 1.
 [[nodiscard]] AcquisitionPeriod acquisitionPeriod(Date admission, int number);
-/// Those that have begun by `date`, the oldest first; the last is the one that runs. None before
-/// the admission.
-[[nodiscard]] std::vector<AcquisitionPeriod> acquisitionPeriods(Date admission, Date date);
+
+/// What an employee's periods are counted from.
+struct AcquisitionCount {
+    Date admission{};
+    std::vector<TimeAway> away = {};  ///< in order of their first days
+    /// First days of the periods of recorded vacations. A period is not forfeit where one of it is
+    /// on record, or one of a later year as if nothing had been lost: what is recorded stands.
+    std::vector<Date> recorded = {};
+};
+/// Those that have begun by `date`, the oldest first. Where time away by `date` makes one forfeit,
+/// the next begins on the return to work (CLT, art. 133 par. 2). None before the admission.
+[[nodiscard]] std::vector<AcquisitionPeriod> acquisitionPeriods(const AcquisitionCount& of,
+                                                                Date date);
+/// The period that runs on `date`; nullopt before the admission and where it is forfeit.
+[[nodiscard]] std::optional<AcquisitionPeriod> runningPeriod(const AcquisitionCount& of, Date date);
+
+/// "Férias perdidas: …, e o novo período começa em 31/05/2025.", with the law; empty of a period
+/// that is not forfeit.
+[[nodiscard]] std::string forfeitText(const AcquisitionPeriod& period);
 
 /// Twelfths of a vacation from `first` to `last`, both included: whole months and a rest of more
 /// than fourteen days (CLT, art. 146). May pass twelve.

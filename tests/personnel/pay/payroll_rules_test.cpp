@@ -191,17 +191,71 @@ TEST(VacationRules, KnowTwelfthsFractionsAndDates) {
           Refused{30, {10, 10, 10}, 0}, Refused{30, {26, 4}, 0}})
         EXPECT_TRUE(fractionsProblem(c.granted, c.fractions, c.sold)) << c.fractions.size();
 
-    const auto periods = acquisitionPeriods(2024y / 3 / 10, 2026y / 3 / 9);
+    const auto periods = acquisitionPeriods({2024y / 3 / 10}, 2026y / 3 / 9);
     ASSERT_EQ(periods.size(), 2U);
     EXPECT_EQ(periods[1].last, Date(2026y / 3 / 9));
-    EXPECT_EQ(acquisitionPeriods(2024y / 3 / 10, 2026y / 3 / 10).size(), 3U);
-    EXPECT_TRUE(acquisitionPeriods(2024y / 3 / 10, 2024y / 3 / 9).empty());
+    EXPECT_EQ(acquisitionPeriods({2024y / 3 / 10}, 2026y / 3 / 10).size(), 3U);
+    EXPECT_TRUE(acquisitionPeriods({2024y / 3 / 10}, 2024y / 3 / 9).empty());
     EXPECT_EQ(daysPastLimit(periods[0], periods[0].lastStart(30), 30), 0);
     EXPECT_EQ(daysPastLimit(periods[0], plusDays(periods[0].lastStart(30), 1), 30), 1);
     EXPECT_EQ(daysPastLimit(periods[0], 2026y / 5 / 1, 30), 30);
     EXPECT_EQ(vacationNoticeDue(2026y / 3 / 31), Date(2026y / 3 / 1));
     EXPECT_EQ(vacationPaymentDue(2026y / 3 / 2), Date(2026y / 2 / 28));
     EXPECT_EQ(saleRequestDue(periods[0]), Date(2025y / 2 / 22));
+}
+
+TEST(VacationRules, LoseAPeriodByTimeAway) {
+    using enum TimeAway::Kind;
+    const auto away = [](TimeAway::Kind kind, Date first, Date last) {
+        return TimeAway{kind, {first, last}};
+    };
+    struct Case {
+        std::vector<TimeAway> away;
+        std::vector<Date> recorded;
+        Date date;
+        const char* periods;  ///< the day on which each ends, "!" behind one that is forfeit
+    };
+    // The social security pays from 16/06 on: six months end on 15/12.
+    const TimeAway sixMonths = away(Illness, 2024y / 6 / 1, 2024y / 12 / 15);
+    const TimeAway more = away(Illness, 2024y / 6 / 1, 2024y / 12 / 16);
+    const Date later = 2025y / 3 / 10;
+    const char* const kept = "09/03/2025 09/03/2026 ";
+    const char* const lost = "16/12/2024! 16/12/2025 ";
+    for (const Case& c :
+         {Case{{sixMonths}, {}, later, kept}, Case{{more}, {}, later, lost},
+          Case{{more}, {}, 2024y / 12 / 15, "09/03/2025 "},
+          Case{{more}, {}, 2024y / 12 / 16, "16/12/2024! "},
+          Case{{away(Other, 2024y / 6 / 1, 2024y / 12 / 31)}, {}, later, kept},
+          // In two parts, each with its fifteen days; then a leave that delays the return.
+          Case{{away(Illness, 2024y / 4 / 1, 2024y / 8 / 15),
+                away(Illness, 2024y / 10 / 1, 2024y / 12 / 16),
+                away(Other, 2024y / 12 / 17, 2024y / 12 / 31)},
+               {},
+               later,
+               "31/12/2024! 31/12/2025 "},
+          // More than six months, but in two periods.
+          Case{{away(Illness, 2024y / 12 / 1, 2025y / 7 / 31)}, {}, 2025y / 7 / 31, kept},
+          Case{{away(PaidLeave, 2024y / 6 / 1, 2024y / 6 / 30),
+                away(PaidLeave, 2024y / 8 / 1, 2024y / 8 / 30)},
+               {},
+               later,
+               kept},
+          Case{{away(PaidLeave, 2024y / 6 / 1, 2024y / 7 / 1)},
+               {},
+               later,
+               "01/07/2024! 01/07/2025 "},
+          // What is recorded of the period, or of a later one counted without the loss, stands.
+          Case{{more}, {2024y / 3 / 10}, later, kept}, Case{{more}, {2026y / 3 / 10}, later, kept},
+          Case{{more}, {2024y / 12 / 17}, later, lost}}) {
+        std::string ends;
+        const AcquisitionCount count{2024y / 3 / 10, c.away, c.recorded};
+        for (const AcquisitionPeriod& period : acquisitionPeriods(count, c.date)) {
+            ends += dateText(period.last) + (period.forfeit ? "! " : " ");
+            EXPECT_EQ(forfeitText(period).empty(), !period.forfeit);
+        }
+        EXPECT_EQ(ends, c.periods) << dateText(c.date);
+        EXPECT_EQ(runningPeriod(count, c.date).has_value(), !ends.ends_with("! "));
+    }
 }
 
 }  // namespace

@@ -251,6 +251,35 @@ TEST_F(FeriasTest, WritesNothingOverAnotherScreensWork) {
     EXPECT_FALSE(desk_.files.content.contains("/data/01configAf002"));
 }
 
+TEST_F(FeriasTest, ShowsThePeriodThatLeavesHaveCost) {
+    Leave illness;
+    illness.type = "003 AUXILIO_DOENÇA";
+    for (const auto& [first, last] :
+         {std::pair("01/05/2023", "31/08/2023"), std::pair("01/09/2023", "31/12/2023")}) {
+        illness.firstDay = first;
+        illness.lastDay = last;
+        desk_.file("01configAf002") += encode(illness) + "\r\n";
+    }
+    start(1);
+    EXPECT_EQ(rowTexts(), (Texts{"0Dias  -  Perdidas", "30Dias  - Pendente"}));
+    ASSERT_TRUE(screen_.choose(0));
+    const std::string words =
+        "Férias perdidas: mais de 6 meses de auxílio-doença ou acidente no período (CLT, art. 133, "
+        "IV). O novo período começa na volta ao trabalho, em 01/01/2024.";
+    EXPECT_EQ(screen_.planNotes(), Texts{words});
+    type("10/04/2024", "30");
+    EXPECT_FALSE(screen_.record());
+    EXPECT_FALSE(screen_.provide());
+    EXPECT_EQ(told(), Texts(2, "Este período não dá direito a férias."));
+    EXPECT_EQ(desk_.person.shown.size(), 0U);
+    // A vacation of the period on record stands.
+    desk_.file("01Ferias002") =
+        "01/02/2023  31/01/2024  FERIAS    30  01/03/2024  30/03/2024      N  02-2024\r\n";
+    answer({Yes});
+    start(1);
+    EXPECT_EQ(rowTexts(), (Texts{"30Dias  -  Quitar ", "30Dias  - Pendente"}));
+}
+
 TEST_F(FeriasTest, AbsencesOfThePeriodTakeDaysAway) {
     std::string card = "  \r\n";
     for (Date date = 2023y / 5 / 1; monthOf(date) == WorkMonth(2023y / 5); date = plusDays(date, 1))
@@ -288,7 +317,7 @@ TEST(DueVacationTest, IsDueSixtyDaysBeforeItsLastStart) {
                             Case{2024y / 11 / 3, taken("30", "06/05/2024", "20/05/2024"), 0},
                             Case{2024y / 11 / 18, taken("30", "06/05/2024", "20/05/2024"), 15},
                             Case{2024y / 12 / 31, taken("24", "06/05/2024", "29/05/2024"), 0}}) {
-        const auto due = dueVacation(admission, one.today, one.lines);
+        const auto due = dueVacation({admission}, one.today, one.lines);
         EXPECT_EQ(due ? due->days : 0, one.days) << dateText(one.today);
     }
 }
