@@ -91,8 +91,9 @@ std::optional<std::string> Folha::bytesOf(const Employee& employee) const {
         store.folder.file(payrollFileName(keyOf(employee), month_.month, run_)));
 }
 
-FileSystem::NewContent Folha::contentOf(const Employee& employee, const PaySheet& sheet) const {
-    return payrollContent(at_.store(), keyOf(employee), month_.month, sheet, run_);
+FileSystem::NewContent Folha::contentOf(const OpenPayroll& payroll) const {
+    return payrollContent(at_.store(), keyOf(payroll.month.employee), month_.month, payroll.sheet,
+                          run_, payroll.bytes.value_or(std::string()));
 }
 
 std::optional<PaySheet> Folha::sheetOf(const OpenPayroll& payroll,
@@ -141,7 +142,7 @@ PayrollGlance::Lack Folha::show(const Employee& employee) {
     (void)attempt(at_, incorrectData(), [&] {
         PayrollGlance seen = glance(employee, namesIn(at_.store()));
         lack = seen.lack;
-        if (seen.payroll) asShown_ = contentOf(employee, seen.payroll->sheet).bytes;
+        if (seen.payroll) asShown_ = contentOf(*seen.payroll).bytes;
         shown_ = std::move(seen.payroll);
     });
     return lack;
@@ -203,7 +204,7 @@ bool Folha::compute(const TypedAmounts& typed) {
 }
 
 bool Folha::isChanged() const {
-    return shown_ && contentOf(shown_->month.employee, shown_->sheet).bytes != asShown_;
+    return shown_ && contentOf(*shown_).bytes != asShown_;
 }
 
 }  // namespace winvrx

@@ -22,7 +22,7 @@ struct OpenPayroll {
     PaySheet sheet;
     bool isRecorded = false;
     std::optional<std::string> bytes;      ///< of the file as it was read; nullopt where none stood
-    std::vector<std::string> unread = {};  ///< its lines that say no event; recording drops them
+    std::vector<std::string> unread = {};  ///< its lines that say no event; recording keeps them
     /// Of a recorded month: what it comes to now; nullopt where it cannot be computed any more.
     std::optional<PaySheet> now = {};
 };
@@ -110,8 +110,7 @@ class Folha {
     [[nodiscard]] std::optional<PaySheet> sheetOf(const OpenPayroll& payroll,
                                                   const TypedAmounts& typed) const;
     [[nodiscard]] std::optional<std::string> bytesOf(const Employee& employee) const;
-    [[nodiscard]] FileSystem::NewContent contentOf(const Employee& employee,
-                                                   const PaySheet& sheet) const;
+    [[nodiscard]] FileSystem::NewContent contentOf(const OpenPayroll& payroll) const;
     /// The payroll, and the first instalment of a 13th where it is paid with a vacation.
     [[nodiscard]] std::vector<FileSystem::NewContent> contentsOf(const OpenPayroll& payroll,
                                                                  const FolderNames& names) const;

@@ -16,13 +16,20 @@ const Message kSecondStands = refusal(
     kTitle, "A 1º PARCELA não pode ser reaberta enquanto a 2º PARCELA do ano está gravada.");
 const Message kNothingToSave = refusal(kSaveTitle, "Não Há Dados para Gravação!");
 
+/// "\n" and the words before each line that says no event.
+std::string unreadText(const OpenPayroll& payroll, std::string_view words) {
+    std::string text;
+    for (const std::string& line : payroll.unread)
+        text += "\n" + std::string(words) + line;
+    return text;
+}
+
 Message confirmSave(const OpenPayroll& payroll) {
     constexpr std::string_view kText = "Deseja Gravar Somente o FUNCIONARIO SELECIONADO?";
     if (!payroll.isRecorded) return question(kSaveTitle, std::string(kText));
-    std::string detail = "A folha já gravada será substituída.";
-    for (const std::string& line : payroll.unread)
-        detail += "\nLinha não entendida, que se perde: " + line;
-    return riskyQuestion(kSaveTitle, std::string(kText), detail);
+    return riskyQuestion(kSaveTitle, std::string(kText),
+                         "A folha já gravada será substituída." +
+                             unreadText(payroll, "Linha não entendida, que fica como está: "));
 }
 
 Message confirmReopen(const OpenPayroll& payroll) {
@@ -35,6 +42,7 @@ Message confirmReopen(const OpenPayroll& payroll) {
         detail +=
             " Cadastro, cartão de ponto e afastamentos deste mês voltam a ser alterados "
             "livremente.";
+    detail += unreadText(payroll, "Linha não entendida, que se perde com ela: ");
     return riskyQuestion(kTitle, "Deseja Reabrir a Folha de Pagamento deste Mês?", detail);
 }
 
@@ -65,7 +73,7 @@ void Folha::requireSameVacation() const {
 std::vector<FileSystem::NewContent> Folha::contentsOf(const OpenPayroll& payroll,
                                                       const FolderNames& names) const {
     const Employee& employee = payroll.month.employee;
-    std::vector<FileSystem::NewContent> contents{contentOf(employee, payroll.sheet)};
+    std::vector<FileSystem::NewContent> contents{contentOf(payroll)};
     constexpr auto kFirst = PayrollRun::ThirteenthFirst;
     if (!payroll.inputs.vacation || !payroll.inputs.vacation->hasThirteenth() ||
         recordedInYear(keyOf(employee), kFirst, month_.month, names))
@@ -190,12 +198,13 @@ bool Folha::reopen() {
         if (!requireNoSecondInstalment()) return false;
         (void)reopenPayroll(at_.store(), keyOf(shown_->month.employee), month_.month, run_);
         shown_->bytes.reset();
+        shown_->unread.clear();
         shown_->isRecorded = false;
         if (shown_->now) shown_->sheet = *std::move(shown_->now);
         shown_->now.reset();
         // What was typed is now on this screen only.
         const bool isTyped = !typedAmounts(shown_->sheet).empty();
-        asShown_ = isTyped ? "" : contentOf(shown_->month.employee, shown_->sheet).bytes;
+        asShown_ = isTyped ? "" : contentOf(*shown_).bytes;
         return true;
     });
 }

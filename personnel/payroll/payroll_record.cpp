@@ -25,6 +25,22 @@ std::optional<PayLine> payLineFrom(std::string_view bytes) {
     return PayLine{record, *amount, record.typed == kTypedMark};
 }
 
+bool isUnread(std::string_view bytes) {
+    return !trimmed(bytes).empty() && !payLineFrom(bytes);
+}
+
+/// The lines of the sheet, among them, at the places where they stood, those that nobody
+/// understands.
+std::vector<std::string> linesOf(const PaySheet& sheet, const std::vector<std::string>& before) {
+    std::vector<std::string> lines;
+    std::ranges::transform(sheet.lines, std::back_inserter(lines), lineOfPay);
+    for (std::size_t at = 0; at < before.size(); ++at)
+        if (isUnread(before[at]))
+            lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(std::min(at, lines.size())),
+                         before[at]);
+    return lines;
+}
+
 /// Where the month stands in the name: behind company, "fp" and the five digits of the employee.
 constexpr std::size_t kMonthStart = 9;
 constexpr std::size_t kMonthLength = 7;
@@ -37,10 +53,8 @@ std::optional<RecordedPayroll> loadPayroll(const Store& store, const EmployeeKey
     if (!file.exists()) return std::nullopt;
     RecordedPayroll payroll;
     for (const std::string& bytes : file.lines()) {
-        if (auto line = payLineFrom(bytes))
-            payroll.sheet.lines.push_back(*std::move(line));
-        else if (!trimmed(bytes).empty())
-            payroll.unread.push_back(readableText(bytes));
+        if (auto line = payLineFrom(bytes)) payroll.sheet.lines.push_back(*std::move(line));
+        if (isUnread(bytes)) payroll.unread.push_back(readableText(bytes));
     }
     addUp(payroll.sheet);
     return payroll;
@@ -59,10 +73,10 @@ TypedAmounts typedAmounts(const PaySheet& sheet) {
 }
 
 FileSystem::NewContent payrollContent(const Store& store, const EmployeeKey& key, WorkMonth month,
-                                      const PaySheet& sheet, PayrollRun run) {
-    std::vector<std::string> lines;
-    std::ranges::transform(sheet.lines, std::back_inserter(lines), lineOfPay);
-    return {store.folder.file(payrollFileName(key, month, run)), joinedLines(lines)};
+                                      const PaySheet& sheet, PayrollRun run,
+                                      std::string_view before) {
+    return {store.folder.file(payrollFileName(key, month, run)),
+            joinedLines(linesOf(sheet, splitLines(before)))};
 }
 
 bool reopenPayroll(const Store& store, const EmployeeKey& key, WorkMonth month, PayrollRun run) {

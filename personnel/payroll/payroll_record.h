@@ -40,7 +40,7 @@ template <>
 struct RecordLayout<RecordedPayLine> : LineLayout<kRecordedPayFields, kRecordedPayWidth> {};
 
 /// A payroll as it was recorded: without memos, which are computed anew. Lines that cannot be
-/// understood are told, and counted nowhere.
+/// understood are told, counted nowhere and kept where they stand.
 struct RecordedPayroll {
     PaySheet sheet;
     std::vector<std::string> unread;
@@ -59,11 +59,13 @@ struct RecordedPayroll {
 /// The amounts that were typed over in a recorded payroll.
 [[nodiscard]] TypedAmounts typedAmounts(const PaySheet& sheet);
 
-/// What the file of a sheet holds, for a caller that writes many with one flush. Throws TextFault
+/// What the file of a sheet holds, for a caller that writes many with one flush. Of `before`, the
+/// bytes that it replaces, the lines that nobody understands stay as they stand. Throws TextFault
 /// for a name that cannot be stored.
 [[nodiscard]] FileSystem::NewContent payrollContent(const Store& store, const EmployeeKey& key,
                                                     WorkMonth month, const PaySheet& sheet,
-                                                    PayrollRun run = PayrollRun::Month);
+                                                    PayrollRun run = PayrollRun::Month,
+                                                    std::string_view before = {});
 
 /// Opens it again: the file goes. False when it was open. Throws FileFault.
 bool reopenPayroll(const Store& store, const EmployeeKey& key, WorkMonth month,

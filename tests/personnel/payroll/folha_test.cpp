@@ -77,6 +77,34 @@ TEST_F(FolhaTest, RecordsReadsAndReopens) {
     EXPECT_EQ(texts[1], "Deseja Gravar Somente o FUNCIONARIO SELECIONADO?");
 }
 
+TEST_F(FolhaTest, KeepsTheLinesThatNobodyUnderstands) {
+    EXPECT_EQ(folha.open(ana), Opened);
+    person.answers = {Yes};
+    EXPECT_TRUE(folha.save());
+    const std::string recorded = files.content.at(kPayroll);
+    const auto second = recorded.find('\n') + 1;
+    const std::string stray = "nota do escrit\xf3rio  \r\n";
+    const std::string kept = recorded.substr(0, second) + stray + recorded.substr(second) + stray;
+    files.content[kPayroll] = kept;
+    EXPECT_EQ(folha.open(ana), Opened);
+    EXPECT_FALSE(folha.isChanged());
+    EXPECT_EQ(folha.shown()->unread.size(), 2U);
+    EXPECT_TRUE(folha.compute({{EventCode::parse("025").value(), {18000}}}));
+    person.answers = {Yes};
+    EXPECT_TRUE(folha.save());
+    std::string typed = kept;
+    const auto amount = typed.find("180,00");
+    typed.replace(typed.find('\r', amount) - 1, 1, "*");
+    EXPECT_EQ(files.content.at(kPayroll), typed);
+    EXPECT_EQ(person.shown.back().detail,
+              "A folha já gravada será substituída.\nLinha não entendida, que fica como está: nota "
+              "do escritório\nLinha não entendida, que fica como está: nota do escritório");
+    EXPECT_FALSE(folha.reopen());
+    EXPECT_NE(person.shown.back().detail.find("\nLinha não entendida, que se perde com ela: nota"),
+              std::string::npos);
+    EXPECT_EQ(files.content.at(kPayroll), typed);
+}
+
 TEST_F(FolhaTest, RecordsEveryoneInOneBatch) {
     const Employee rui = employee("002", "RUI", "2.000,00");
     const Employee eva = employee("003", "EVA", "2.500,00");
