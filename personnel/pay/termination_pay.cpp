@@ -147,8 +147,10 @@ void reckonDeductions(const PayrollLaw& law, const TerminationCase& end, Termina
 }
 
 void reckonFgts(const PayrollLaw& law, const TerminationCase& end, TerminationPay& pay) {
-    pay.fgtsBase = atLeastZero(pay.balance.amount + end.monthsPay) + pay.notice.amount +
-                   atLeastZero(pay.thirteenth.amount - end.thirteenthPaid);
+    const PaidBeforeTheEnd& paid = end.before;
+    const Money thirteenth = paid.firstInstalment.fgtsBase + paid.secondInstalment.fgtsBase;
+    pay.fgtsBase = atLeastZero(pay.balance.amount + end.monthsPay - paid.month.fgtsBase) +
+                   pay.notice.amount + atLeastZero(pay.thirteenth.amount - thirteenth);
     pay.fgts = fgts(law, pay.fgtsBase, end.fgtsRate, "FGTS da rescisão");
     if (end.type == TerminationType::JustCause || isResignation(end)) return;
     if (law.settings.isDomesticEmployer)
@@ -157,6 +159,17 @@ void reckonFgts(const PayrollLaw& law, const TerminationCase& end, TerminationPa
              "150/2015, art. 22)"}};
     else
         pay.fgtsFine = fgtsFine(end.fgtsAccount + pay.fgts.amount, finePercent(end));
+}
+
+Reckoning alreadyPaid(const PaidAlready& paid, std::string words) {
+    return paid.net.cents == 0 ? Reckoning{} : Sum(paid.net).rounded(std::move(words));
+}
+
+void takeOffPaid(const PaidBeforeTheEnd& paid, TerminationPay& pay) {
+    pay.firstPaid = alreadyPaid(paid.firstInstalment, "1ª parcela do 13º, já paga");
+    pay.secondPaid = alreadyPaid(paid.secondInstalment, "2ª parcela do 13º, já paga");
+    pay.monthPaid = alreadyPaid(paid.month, "Líquido da folha gravada do mês");
+    pay.vacationsPaid = alreadyPaid(paid.vacations, "Líquido das férias gravadas na folha");
 }
 
 }  // namespace
@@ -171,12 +184,12 @@ TerminationPay terminationPay(const PayrollLaw& law, const TerminationCase& end)
     reckonVacation(end, pay);
     reckonDeductions(law, end, pay);
     reckonFgts(law, end, pay);
-    if (end.thirteenthPaid.cents > 0)
-        pay.thirteenthPaid = Sum(end.thirteenthPaid).rounded("1ª parcela do 13º, já paga");
+    takeOffPaid(end.before, pay);
     pay.gross = pay.balance.amount + end.monthsPay + pay.notice.amount + pay.thirteenth.amount +
                 pay.vacation.amount + pay.vacationThird.amount + pay.overdue.amount;
-    pay.deductions = pay.noticeDeducted.amount + pay.thirteenthPaid.amount +
-                     pay.inssBalance.amount + pay.inssThirteenth.amount + pay.taxBalance.withheld +
+    pay.deductions = pay.noticeDeducted.amount + pay.firstPaid.amount + pay.secondPaid.amount +
+                     pay.monthPaid.amount + pay.vacationsPaid.amount + pay.inssBalance.amount +
+                     pay.inssThirteenth.amount + pay.taxBalance.withheld +
                      pay.taxThirteenth.withheld;
     pay.net = pay.gross - pay.deductions;
     return pay;

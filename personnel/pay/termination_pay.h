@@ -12,6 +12,21 @@
 
 namespace winvrx {
 
+/// What payrolls on record paid out, and what FGTS fell on in them.
+struct PaidAlready {
+    Money net = {};
+    Money fgtsBase = {};
+};
+
+/// What they paid of what the end of the contract pays: each net of what was withheld, so that
+/// INSS and IRRF of the whole, less the net, leave what is still due of both.
+struct PaidBeforeTheEnd {
+    PaidAlready month = {};            ///< of the last day
+    PaidAlready firstInstalment = {};  ///< of the year's 13th
+    PaidAlready secondInstalment = {};
+    PaidAlready vacations = {};  ///< that would begin after the last day
+};
+
 struct TerminationCase {
     TerminationType type = TerminationType::WithoutCause;
     NoticeType notice = NoticeType::Paid;
@@ -22,10 +37,10 @@ struct TerminationCase {
     Money salary = {};
     /// Of the vacations; counted from the admission alone where not said.
     std::optional<AcquisitionCount> periods = {};
-    Money averages = {};        ///< of variable and risk pay, in notice, 13th and vacation
-    Money monthsPay = {};       ///< of the last month besides the balance, taxed; below zero too
-    int daysAway = 0;           ///< of the last month, without pay
-    Money thirteenthPaid = {};  ///< this year's first instalment
+    Money averages = {};   ///< of variable and risk pay, in notice, 13th and vacation
+    Money monthsPay = {};  ///< of the last month besides the balance, taxed; below zero too
+    int daysAway = 0;      ///< of the last month, without pay
+    PaidBeforeTheEnd before = {};
     std::vector<Date> absentDays = {};  ///< unjustified: no service in the year's twelfths
     int overduePeriods = 0;             ///< vacations earned and not taken
     int doubledPeriods = 0;             ///< of these, past the limit of the concession
@@ -50,8 +65,11 @@ struct TerminationPay {
     int vacationTwelfths = 0;
     Reckoning vacation;  ///< in twelfths
     Reckoning vacationThird;
-    Reckoning overdue;  ///< whole periods, with their third
-    Reckoning thirteenthPaid;
+    Reckoning overdue;    ///< whole periods, with their third
+    Reckoning firstPaid;  ///< instalment of the 13th
+    Reckoning secondPaid;
+    Reckoning monthPaid;
+    Reckoning vacationsPaid;
     Reckoning inssBalance;
     Reckoning inssThirteenth;
     IncomeTax taxBalance;

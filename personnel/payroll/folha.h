@@ -95,6 +95,7 @@ class Folha {
         std::vector<std::string> without;
         std::vector<std::string> withoutFirst;
         std::vector<std::string> withoutPeriod;
+        std::vector<std::string> paidByTheEnd;  ///< of their contract
         std::vector<std::string> recorded;
     };
 
@@ -102,6 +103,7 @@ class Folha {
     enum class Change { Record, Restore };
     [[nodiscard]] bool requireNotSettled(Change change);
     void requireSameVacation() const;
+    [[nodiscard]] bool confirmSaving() const;
     [[nodiscard]] bool requireFirstInstalment() const;
     [[nodiscard]] bool requireNoSecondInstalment() const;
 

@@ -1,3 +1,5 @@
+#include "foundation/register/leave_file.h"
+#include "personnel/payroll/contract_end.h"
 #include "personnel/payroll/folha.h"
 
 #include <algorithm>
@@ -24,12 +26,25 @@ std::string unreadText(const OpenPayroll& payroll, std::string_view words) {
     return text;
 }
 
-Message confirmSave(const OpenPayroll& payroll) {
+/// What the end of the contract has to do with a payroll that pays what it pays.
+std::string endText(Date end, const OpenPayroll& payroll, bool isPrinted) {
+    std::string text = "O contrato terminou em " + dateText(end) + ", e a rescisão paga " +
+                       paidByTheEnd(payroll.inputs.run) +
+                       ". Gravada esta folha, o cálculo da rescisão desconta o líquido dela, R$ " +
+                       moneyText(payroll.sheet.net) + ".";
+    if (isPrinted)
+        text += " O termo da rescisão já foi impresso: imprima-o de novo depois de gravar.";
+    return text;
+}
+
+Message confirmSave(const OpenPayroll& payroll, std::string detail) {
     constexpr std::string_view kText = "Deseja Gravar Somente o FUNCIONARIO SELECIONADO?";
-    if (!payroll.isRecorded) return question(kSaveTitle, std::string(kText));
-    return riskyQuestion(kSaveTitle, std::string(kText),
-                         "A folha já gravada será substituída." +
-                             unreadText(payroll, "Linha não entendida, que fica como está: "));
+    if (payroll.isRecorded) {
+        detail += std::string(detail.empty() ? "" : "\n") + "A folha já gravada será substituída.";
+        detail += unreadText(payroll, "Linha não entendida, que fica como está: ");
+    }
+    if (detail.empty()) return question(kSaveTitle, std::string(kText));
+    return riskyQuestion(kSaveTitle, std::string(kText), std::move(detail));
 }
 
 Message confirmReopen(const OpenPayroll& payroll) {
@@ -105,14 +120,25 @@ bool Folha::requireNoSecondInstalment() const {
     return false;
 }
 
+bool Folha::confirmSaving() const {
+    std::string detail;
+    if (const auto end = endThatPays(shown_->month, shown_->inputs)) {
+        const auto papers = terminationFileNames(keyOf(shown_->month.employee));
+        const FolderNames names = namesIn(at_.store());
+        detail = endText(*end, *shown_, names.contains(papers.front()));
+    }
+    return at_.person.agrees(confirmSave(*shown_, std::move(detail)));
+}
+
 bool Folha::save() {
     if (!shown_ || !hasAmounts(shown_->sheet)) {
         at_.person.tell(kNothingToSave);
         return false;
     }
-    if (!requireNotSettled(Change::Record) || !at_.person.agrees(confirmSave(*shown_)))
-        return false;
-    return attemptWriting(at_, incorrectData(), [&] {
+    if (!requireNotSettled(Change::Record)) return false;
+    return attempt(at_, incorrectData(), [&] {
+        if (!confirmSaving()) return false;
+        const auto hold = holdFolder(at_);
         requireUnchanged();
         requireSameVacation();
         if (!requireFirstInstalment()) return false;
@@ -133,7 +159,10 @@ bool Folha::computeAll(const std::vector<Employee>& employees, const Progress& p
     for (const Employee& employee : employees) {
         if (names.contains(payrollFileName(keyOf(employee), month_.month, run_)))
             unsaved.recorded.push_back(employee.name);
-        else if (const auto seen = glance(employee, names); seen.payroll)
+        else if (const auto seen = glance(employee, names);
+                 seen.payroll && endThatPays(seen.payroll->month, seen.payroll->inputs))
+            unsaved.paidByTheEnd.push_back(employee.name);
+        else if (seen.payroll)
             std::ranges::move(contentsOf(*seen.payroll, names), std::back_inserter(batch));
         else if (seen.lack == PayrollGlance::Lack::FirstInstalment)
             unsaved.withoutFirst.push_back(employee.name);
@@ -155,6 +184,7 @@ bool Folha::confirmLeftOut(const Unsaved& unsaved, bool hasBatch) const {
     say(std::string(kNoFirstInstalment) + " ", unsaved.withoutFirst);
     say("Sem férias gravadas para este mês: ", unsaved.withoutPeriod);
     say(withoutText(run_), unsaved.without);
+    say("Contrato terminado, a rescisão paga " + paidByTheEnd(run_) + ": ", unsaved.paidByTheEnd);
     const bool leavesOut = !detail.empty();
     say("Já gravados, ficam como estão: ", unsaved.recorded);
     if (!hasBatch) {

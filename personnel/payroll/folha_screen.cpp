@@ -2,6 +2,7 @@
 
 #include "foundation/register/company_register.h"
 #include "foundation/register/employee_register.h"
+#include "personnel/payroll/contract_end.h"
 #include "timecard/month/selected_month.h"
 
 #include <algorithm>
@@ -113,7 +114,13 @@ std::string FolhaScreen::standing() const {
     if (!shown) return std::string(textOf(lack_));
     if (folha_.isChanged()) return "Alterações não gravadas";
     if (!shown->unread.empty()) return "⚠ Gravada com linhas não entendidas: " + shown->unread[0];
-    if (!shown->isRecorded) return "Aberta: ainda não gravada";
+    const auto end = endThatPays(shown->month, shown->inputs);
+    if (!shown->isRecorded)
+        return end ? "Aberta: a rescisão de " + dateText(*end) + " paga " +
+                         paidByTheEnd(folha_.run())
+                   : "Aberta: ainda não gravada";
+    if (!hasMovedOn(*shown) && end)
+        return "Gravada: a rescisão de " + dateText(*end) + " desconta o líquido dela";
     if (!hasMovedOn(*shown))
         return folha_.run() == PayrollRun::Month ? "Gravada: mês fechado para este funcionário"
                                                  : "Gravada";

@@ -1,6 +1,7 @@
 #include "personnel/payroll/payroll_overview.h"
 
 #include "foundation/values/csv.h"
+#include "personnel/payroll/contract_end.h"
 
 #include <algorithm>
 
@@ -30,6 +31,9 @@ std::string_view textOf(PayrollGlance::Lack lack) {
 }
 
 std::string standingOf(const PayrollGlance& seen) {
+    if (seen.payroll && !seen.payroll->isRecorded &&
+        endThatPays(seen.payroll->month, seen.payroll->inputs))
+        return "Aberta; a rescisão paga";
     if (!seen.payroll || !seen.payroll->isRecorded) return std::string(textOf(seen.lack));
     if (!hasMovedOn(*seen.payroll)) return "Gravada";
     if (!seen.payroll->now) return "Gravada; não se calcula mais";

@@ -1,6 +1,6 @@
 #include "foundation/register/leave_file.h"
+#include "personnel/payroll/contract_end.h"
 #include "personnel/payroll/payroll_record.h"
-#include "personnel/payroll/run_inputs.h"
 #include "personnel/payroll/settings_file.h"
 #include "personnel/termination/termination_sheet.h"
 #include "personnel/vacation/vacation_periods.h"
@@ -92,15 +92,6 @@ void takePeriods(TerminationInputs& inputs, VacationLines vacations) {
         std::min(inputs.overduePeriods, facts.doubledPeriods.value_or(inputs.doubledPeriods));
 }
 
-/// What the first instalment of the year has paid.
-Money thirteenthPaid(const Store& store, const EmployeeKey& key, WorkMonth month,
-                     const FolderNames& names) {
-    constexpr PayrollRun kFirst = PayrollRun::ThirteenthFirst;
-    const auto paid = recordedInYear(key, kFirst, month, names);
-    const auto payroll = paid ? loadPayroll(store, key, *paid, kFirst) : std::nullopt;
-    return payroll ? payroll->sheet.net : Money{};
-}
-
 TerminationInputs loadInputs(const Store& store, const CompanyCode& company,
                              const Employee& employee, const FolderNames& names) {
     const EmployeeKey key{company, employee.employeeCode().value()};
@@ -119,7 +110,7 @@ TerminationInputs loadInputs(const Store& store, const CompanyCode& company,
     inputs.events = loadEvents(store, key, companyEvents(store, company).load(), rates, names);
     if (const auto recorded = loadPayroll(store, key, month))
         inputs.typed = typedAmounts(recorded->sheet);
-    inputs.thirteenthPaid = thirteenthPaid(store, key, month, names);
+    inputs.paid = paidBeforeTheEnd(store, key, inputs.record.dates.lastDayWorked.value, names);
     const LeavePeriod span{firstDay(month - std::chrono::months{kMonthsLookedBack}),
                            inputs.record.dates.lastDayWorked.value};
     inputs.history = loadCardHistory(store, company, employee, span, months, names);

@@ -60,7 +60,7 @@ TerminationCase caseOf(const PayrollLaw& law, const TerminationInputs& inputs,
     end.averages = averages + risk;
     end.monthsPay = sheet.base - sheet.amountOf("001");
     end.daysAway = month.part.daysAway;
-    end.thirteenthPaid = inputs.thirteenthPaid;
+    end.before = inputs.paid;
     end.periods = inputs.periods;
     end.absentDays = inputs.history.absences;
     end.overduePeriods = inputs.overduePeriods;
@@ -119,7 +119,10 @@ class SheetLines {
         Lines& debits = sheet_.debits;
         add(debits, "Aviso prévio não cumprido",
             counted(pay_.dates.noticeDays.value, "dia", "dias"), pay_.noticeDeducted);
-        add(debits, "1ª parcela do 13º salário", {}, pay_.thirteenthPaid);
+        add(debits, "1ª parcela do 13º salário", {}, pay_.firstPaid);
+        add(debits, "2ª parcela do 13º salário", {}, pay_.secondPaid);
+        add(debits, "Já pago na folha de " + monthText(), {}, pay_.monthPaid);
+        add(debits, "Férias já pagas e não gozadas", {}, pay_.vacationsPaid);
         add(debits, "INSS", {}, pay_.inssBalance);
         add(debits, "INSS sobre o 13º salário", {}, pay_.inssThirteenth);
         add(debits, "IRRF", {}, {pay_.taxBalance.withheld, pay_.taxBalance.memo});
@@ -130,6 +133,10 @@ class SheetLines {
     void writeDeposits() {
         add(sheet_.deposits, "FGTS da rescisão", {}, pay_.fgts);
         add(sheet_.deposits, "Multa do FGTS", {}, pay_.fgtsFine);
+    }
+
+    [[nodiscard]] std::string monthText() const {
+        return monthTitle(monthOf(pay_.dates.lastDayWorked.value));
     }
 
     [[nodiscard]] std::string overdueText() const {
@@ -164,6 +171,10 @@ void addRemarks(const PayrollLaw& law, const TerminationInputs& inputs, Terminat
     if (!inputs.lastMonth.hours)
         sheet.remarks.push_back("Não há cartão de ponto em " + monthTitle(monthOf(last)) +
                                 ": horas extras e faltas do mês não estão no cálculo.");
+    if (inputs.paid.month.fgtsBase.cents > 0)
+        sheet.remarks.push_back("A folha de " + monthTitle(monthOf(last)) +
+                                " está gravada: o líquido dela é descontado, e o FGTS dela não "
+                                "está neste depósito.");
     if (sheet.pay.fgtsFine.amount.cents > 0 && facts.fgtsAccount.cents == 0)
         sheet.remarks.push_back(
             "O saldo do FGTS não está em Dados para a Folha: a multa é só "

@@ -21,12 +21,12 @@ struct TerminationInputs {
     TerminationRecord record;
     EmployeeMonth lastMonth = {};  ///< the month of the last day worked
     PayrollEvents events = {};
-    TypedAmounts typed = {};        ///< over the last month's recorded payroll
-    CardHistory history = {};       ///< of the last twelve months
-    int overduePeriods = 0;         ///< vacations earned and not taken
-    int doubledPeriods = 0;         ///< of these, past the limit of the concession
-    int overdueDays = 0;            ///< left of periods partly taken; past the limit counted twice
-    Money thirteenthPaid = {};      ///< the year's first instalment
+    TypedAmounts typed = {};   ///< over the last month's recorded payroll
+    CardHistory history = {};  ///< of the last twelve months
+    int overduePeriods = 0;    ///< vacations earned and not taken
+    int doubledPeriods = 0;    ///< of these, past the limit of the concession
+    int overdueDays = 0;       ///< left of periods partly taken; past the limit counted twice
+    PaidBeforeTheEnd paid = {};
     AcquisitionCount periods = {};  ///< of the vacations
 };
 

@@ -138,7 +138,7 @@ TEST_F(PayrollProperties, TheEndOfAContractAddsUpHoweverItComes) {
                             .given = plusDays(2023y / 6 / 1, upTo(1200))};
         end.salary = pay();
         end.monthsPay = {upTo(1) == 0 ? upTo(200000) : -upTo(2000000)};
-        end.thirteenthPaid = {upTo(100000)};
+        end.before.firstInstalment.net = {upTo(100000)};
         end.overduePeriods = upTo(2);
         end.fgtsAccount = pay();
         const TerminationPay once = terminationPay(law, end);

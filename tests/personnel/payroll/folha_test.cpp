@@ -105,6 +105,46 @@ TEST_F(FolhaTest, KeepsTheLinesThatNobodyUnderstands) {
     EXPECT_EQ(files.content.at(kPayroll), typed);
 }
 
+TEST_F(FolhaTest, LeavesToTheEndOfTheContractWhatItPays) {
+    const Employee eva = employee("003", "EVA", "2.500,00");
+    fillCard("003");
+    file("01configAf001") = "**** 20/03/2026\r\n";
+    person.answers = {Yes, No};
+    EXPECT_FALSE(folha.saveAll({ana, eva}, {}));
+    EXPECT_EQ(person.shown.back().detail,
+              "Contrato terminado, a rescisão paga o saldo de salário: ANA");
+    EXPECT_EQ(folha.open(ana), Opened);
+    EXPECT_EQ(folha.shown()->sheet.amountOf("001"), Money{200000});
+    EXPECT_FALSE(folha.save());
+    const std::string asked =
+        "O contrato terminou em 20/03/2026, e a rescisão paga o saldo de salário. Gravada esta "
+        "folha, o cálculo da rescisão desconta o líquido dela, R$ " +
+        moneyText(folha.shown()->sheet.net) + ".";
+    EXPECT_EQ(person.shown.back().detail, asked);
+    EXPECT_FALSE(files.content.contains(kPayroll));
+    file("01TRTC001") = "x";
+    person.answers = {Yes};
+    EXPECT_TRUE(folha.save());
+    EXPECT_EQ(person.shown.back().detail,
+              asked + " O termo da rescisão já foi impresso: imprima-o de novo depois de gravar.");
+    struct Case {
+        WorkMonth month;
+        PayrollRun run;
+        bool isPaidByTheEnd;
+    };
+    for (const Case& one : {Case{kMonth, PayrollRun::ThirteenthFirst, true},
+                            Case{2026y / 11, PayrollRun::ThirteenthFirst, true},
+                            Case{2026y / 2, PayrollRun::ThirteenthFirst, false},
+                            Case{2026y / 2, PayrollRun::Month, false}}) {
+        fillCard("001", one.month);
+        ASSERT_TRUE(folha.load(one.month, one.run));
+        person.answers = {};
+        if (folha.open(ana) != Opened) continue;
+        EXPECT_FALSE(folha.save());
+        EXPECT_EQ(!person.shown.back().detail.empty(), one.isPaidByTheEnd) << monthKey(one.month);
+    }
+}
+
 TEST_F(FolhaTest, RecordsEveryoneInOneBatch) {
     const Employee rui = employee("002", "RUI", "2.000,00");
     const Employee eva = employee("003", "EVA", "2.500,00");

@@ -141,6 +141,58 @@ TEST_F(TerminationSheetTest, TakesWhatTheRecordsSay) {
     EXPECT_EQ(computed.remarks.size(), 2U);
 }
 
+TEST_F(TerminationSheetTest, TakesOffWhatPayrollsOnRecordHavePaid) {
+    record(1, 2);
+    say({"fgts-saldo = 10.000,00", "ferias-vencidas = 0", "vale-dia = 0,00"});
+    const Money net = sheet().net;
+    struct Case {
+        const char* name;
+        const char* lines;
+        const char* debits;  ///< besides those of the end
+        const char* fgts;
+    };
+    // Of the month what was withheld comes back as well: it is in the debits of the end.
+    for (const Case& c : {
+             Case{"01fp0000106-2026.bdx",
+                  "001 SALARIO BASE         1220,01111000 1.500,00\r\n"
+                  "091 INSS                 0000,00001000 112,50\r\n",
+                  "Já pago na folha de junho/2026 1.387,50; ", "452,00"},
+             Case{"01fi0000106-2026.bdx",
+                  "017 13SALARIO INTEGRAL   1000,01110010 1.500,00\r\n"
+                  "095 INSS S/13SAL         0000,00000010 112,50\r\n",
+                  "2ª parcela do 13º salário 1.387,50; ", "452,00"},
+             Case{"01fv0000106-2026.bdx",
+                  "011 SALARIO BASE FERIAS  1000,01110100 4.000,00\r\n"
+                  "093 INSS S/FERIAS        0000,00000100 373,41\r\n",
+                  "Férias já pagas e não gozadas 3.626,59; ", "572,00"},
+         }) {
+        SCOPED_TRACE(c.name);
+        file("01Ferias001") =
+            "10/01/2025  09/01/2026  FERIAS    30  01/07/2026  30/07/2026      N  06-2026\r\n";
+        file(c.name) = c.lines;
+        const TerminationSheet computed = sheet();
+        EXPECT_EQ(textOf(computed.debits),
+                  c.debits + std::string("INSS 112,50; INSS sobre o 13º salário 133,18; "));
+        EXPECT_EQ(moneyText(computed.pay.fgts.amount), c.fgts);
+        EXPECT_EQ(computed.net, net - (computed.deductions - Money{24568}));
+        files.content.erase("/data/" + std::string(c.name));
+    }
+}
+
+TEST_F(TerminationSheetTest, CountsNoVacationOfAPeriodLostByIllness) {
+    record(1, 2);
+    say({"fgts-saldo = 10.000,00", "vale-dia = 0,00"});
+    Leave illness;
+    illness.type = kLeaveTypes[2];
+    illness.firstDay = "01/03/2025";
+    illness.lastDay = "31/12/2025";
+    file("01configAf001").insert(0, encode(illness) + "\r\n");
+    // The periods of 2023 and 2024 stand; that of 2025 is lost, and the next runs since 01/01/2026.
+    const std::string credits = textOf(sheet().credits);
+    EXPECT_NE(credits.find("Férias vencidas, com 1/3 2 períodos "), std::string::npos) << credits;
+    EXPECT_NE(credits.find("Férias proporcionais 7/12 "), std::string::npos) << credits;
+}
+
 TEST_F(TerminationSheetTest, TakesTheLastMonthsCardAndTheAveragesOfTheYear) {
     record(1, 2);
     say({"ferias-vencidas = 0", "vale-dia = 10,00"});
