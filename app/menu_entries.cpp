@@ -106,15 +106,14 @@ MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
     add({contract,
          documentsEntry(
              at, {papers.writer, papers.templateFolders, legal},
-             {Neighbour{contract.icon, QStringLiteral("Contrato"), Qt::Key_F6,
-                        QStringLiteral("documents.contract"), contract.open},
-              Neighbour{forms.icon, QStringLiteral("Relatórios"), Qt::Key_F7,
-                        QStringLiteral("documents.forms"), forms.open},
-              Neighbour{QStringLiteral("leave"), QStringLiteral("Férias"), Qt::Key_F9,
-                        QStringLiteral("documents.vacations"),
+             {Neighbour{"contract", QStringLiteral("Contrato"), Qt::Key_F6, "documents.contract",
+                        contract.open},
+              Neighbour{"forms", QStringLiteral("Relatórios"), Qt::Key_F7, "documents.forms",
+                        forms.open},
+              Neighbour{"leave", QStringLiteral("Férias"), Qt::Key_F9, "documents.vacations",
                         [at, vacations](QWidget* parent) { openVacations(at, vacations, parent); }},
-              Neighbour{QStringLiteral("mirror"), QStringLiteral("Carta de Correção"), Qt::Key_F8,
-                        QStringLiteral("documents.letters"), openLetters}}),
+              Neighbour{"mirror", QStringLiteral("Carta de Correção"), Qt::Key_F8,
+                        "documents.letters", openLetters}}),
          forms});
     add({labelsEntry(at, printing)});
     add({restoreEntry(at, desk.copies)});

@@ -10,7 +10,6 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace winvrx {
@@ -28,10 +27,7 @@ ImpressorarWindow::ImpressorarWindow(Impressorar& screen, QWidget* parent)
       screen_(screen) {
     buildCommands();
     setBody(buildBody());
-    QPushButton* close =
-        addClosingButton(QStringLiteral("&Fechar"), QStringLiteral("impressorar.close"));
-    close->setDefault(true);
-    connect(close, &QPushButton::clicked, this, &ImpressorarWindow::reject);
+    addLeavingButton("impressorar.close", QStringLiteral("&Fechar"))->setDefault(true);
     connectAll();
     resize(kUsualSize);
     refresh();
@@ -39,19 +35,14 @@ ImpressorarWindow::ImpressorarWindow(Impressorar& screen, QWidget* parent)
 }
 
 void ImpressorarWindow::buildCommands() {
-    QToolButton* add =
-        addCommand(QStringLiteral("add"), QStringLiteral("Adicionar Uma Impressora =>>"),
-                   Qt::Key_Insert, QStringLiteral("impressorar.add"));
-    connect(add, &QToolButton::clicked, this, [this] { (void)screen_.add(); });
-    QToolButton* again = addCommand(QStringLiteral("refresh"), QStringLiteral("Atualizar"),
-                                    Qt::Key_F5, QStringLiteral("impressorar.refresh"));
-    connect(again, &QToolButton::clicked, this, &ImpressorarWindow::refresh);
+    addCommand({"add", QStringLiteral("Adicionar Uma Impressora =>>"), Qt::Key_Insert,
+                "impressorar.add", [this] { (void)screen_.add(); }});
+    addCommand({"refresh", QStringLiteral("Atualizar"), Qt::Key_F5, "impressorar.refresh",
+                [this] { refresh(); }});
 }
 
 QWidget* ImpressorarWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* column = new QVBoxLayout(body);
-    look::layOutBody(*column);
+    const auto [body, column] = look::body(this);
     kind_ = new OptionGroup(QStringLiteral("&Impressora dos cartões"),
                             QStringLiteral("impressorar.kind"), 2, body);
     kind_->addOption(kDefault, QStringLiteral("Imprimir direto na Impressora &Padrão"),

@@ -7,7 +7,6 @@
 #include "report/desktop/page_view.h"
 #include "report/desktop/pdf_file_dialog.h"
 
-#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
@@ -36,9 +35,7 @@ PreviewWindow::PreviewWindow(const QString& title, LayoutPainter& painter, PageS
     buildOutputCommands();
     buildPageCommands();
     buildZoomCommands();
-    QPushButton* close =
-        addClosingButton(QStringLiteral("&Fechar"), QStringLiteral("preview.close"));
-    connect(close, &QPushButton::clicked, this, &PreviewWindow::reject);
+    addLeavingButton("preview.close", QStringLiteral("&Fechar"));
     scroll_->setFocus();
     showPage(0);
     showZoom();
@@ -56,24 +53,18 @@ QWidget* PreviewWindow::buildBody(LayoutPainter& painter) {
     return scroll_;
 }
 
-QToolButton* PreviewWindow::command(const char* icon, const QString& text, const QKeySequence& key,
-                                    const char* name) {
-    return addCommand(QLatin1String(icon), text, key,
-                      QStringLiteral("preview.") + QLatin1String(name));
-}
-
 void PreviewWindow::buildOutputCommands() {
-    connect(command("print", QStringLiteral("Imprimir"), QKeySequence::Print, "print"),
-            &QToolButton::clicked, this, &PreviewWindow::printRequested);
-    connect(command("pdf", QStringLiteral("Salvar PDF"), QKeySequence::Save, "pdf"),
-            &QToolButton::clicked, this, &PreviewWindow::choosePdf);
+    addCommand({"print", QStringLiteral("Imprimir"), QKeySequence::Print, "preview.print",
+                [this] { emit printRequested(); }});
+    addCommand({"pdf", QStringLiteral("Salvar PDF"), QKeySequence::Save, "preview.pdf",
+                [this] { choosePdf(); }});
 }
 
 void PreviewWindow::buildPageCommands() {
-    previous_ = command("left", QStringLiteral("Anterior"), Qt::Key_PageUp, "previous");
-    next_ = command("right", QStringLiteral("Próximo"), Qt::Key_PageDown, "next");
-    connect(previous_, &QToolButton::clicked, this, [this] { showPage(page_ - 1); });
-    connect(next_, &QToolButton::clicked, this, [this] { showPage(page_ + 1); });
+    previous_ = addCommand({"left", QStringLiteral("Anterior"), Qt::Key_PageUp, "preview.previous",
+                            [this] { showPage(page_ - 1); }});
+    next_ = addCommand({"right", QStringLiteral("Próximo"), Qt::Key_PageDown, "preview.next",
+                        [this] { showPage(page_ + 1); }});
     connect(new QShortcut(Qt::Key_Home, this), &QShortcut::activated, this,
             [this] { showPage(0); });
     connect(new QShortcut(Qt::Key_End, this), &QShortcut::activated, this,
@@ -81,12 +72,12 @@ void PreviewWindow::buildPageCommands() {
 }
 
 void PreviewWindow::buildZoomCommands() {
-    connect(command("zoom-in", QStringLiteral("Ampliar"), QKeySequence::ZoomIn, "zoomIn"),
-            &QToolButton::clicked, this, [this] { zoomBy(1); });
-    connect(command("zoom-out", QStringLiteral("Reduzir"), QKeySequence::ZoomOut, "zoomOut"),
-            &QToolButton::clicked, this, [this] { zoomBy(-1); });
-    connect(command("sheet", QStringLiteral("Folha inteira"), Qt::CTRL | Qt::Key_0, "wholePage"),
-            &QToolButton::clicked, this, &PreviewWindow::zoomToPage);
+    addCommand({"zoom-in", QStringLiteral("Ampliar"), QKeySequence::ZoomIn, "preview.zoomIn",
+                [this] { zoomBy(1); }});
+    addCommand({"zoom-out", QStringLiteral("Reduzir"), QKeySequence::ZoomOut, "preview.zoomOut",
+                [this] { zoomBy(-1); }});
+    addCommand({"sheet", QStringLiteral("Folha inteira"), Qt::CTRL | Qt::Key_0, "preview.wholePage",
+                [this] { zoomToPage(); }});
 }
 
 int PreviewWindow::pageCount() const {

@@ -38,8 +38,6 @@ class PreviewWindow : public ScreenWindow {
     void buildZoomCommands();
     void buildOutputCommands();
     QWidget* buildBody(LayoutPainter& painter);
-    QToolButton* command(const char* icon, const QString& text, const QKeySequence& key,
-                         const char* name);
     /// A card has a page for each of its faces.
     [[nodiscard]] int pageCount() const;
     [[nodiscard]] QString whichPage() const;

@@ -36,9 +36,7 @@ ScalePanel::ScalePanel(PrintCalibration& calibration, QString paper, QWidget* pa
     : QWidget(parent), calibration_(calibration), paper_(std::move(paper)) {
     auto* column = new QVBoxLayout(this);
     look::layOutPart(*column);
-    printer_ = look::label(QString(), look::TextSize::Hint, this);
-    printer_->setObjectName(QStringLiteral("escala.printer"));
-    printer_->setWordWrap(true);
+    printer_ = look::paragraph(QStringLiteral("escala.printer"), look::TextSize::Hint, this);
     column->addWidget(printer_);
     addFields(*column, figures_, kFigures, "escala.figure");
     addButton(*column, QStringLiteral("&Gravar Escala"), "escala.save", &ScalePanel::saveScale);
@@ -73,9 +71,7 @@ void ScalePanel::addFields(QVBoxLayout& column, Fields& fields,
 
 void ScalePanel::addButton(QVBoxLayout& column, const QString& text, const char* name,
                            void (ScalePanel::*act)()) {
-    auto* button = new QPushButton(text, this);
-    look::name(*button, QLatin1String(name), text);
-    button->setAutoDefault(false);
+    QPushButton* button = look::button(text, QLatin1String(name), this);
     connect(button, &QPushButton::clicked, this, act);
     column.addWidget(button, 0, Qt::AlignLeft);
 }

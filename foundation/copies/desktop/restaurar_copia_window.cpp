@@ -6,10 +6,8 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
-#include <QPushButton>
 #include <QSignalBlocker>
 #include <QSplitter>
-#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -25,12 +23,6 @@ QTreeWidget* table(const QString& objectName, const QString& name, const QString
     QTreeWidget* table = look::table(objectName, name, headings, parent);
     table->header()->setSectionResizeMode(1, QHeaderView::Stretch);
     return table;
-}
-
-QLabel* paragraph(QWidget* parent) {
-    QLabel* label = look::label(QString(), look::TextSize::Body, parent);
-    label->setWordWrap(true);
-    return label;
 }
 
 QString sizeText(std::size_t bytes) {
@@ -68,13 +60,9 @@ RestaurarCopiaWindow::RestaurarCopiaWindow(RestaurarCopia& copies, QWidget* pare
 }
 
 void RestaurarCopiaWindow::addCommands() {
-    QToolButton* restore =
-        addCommand(QStringLiteral("restore"), QStringLiteral("Restaurar"),
-                   QKeySequence(Qt::CTRL | Qt::Key_R), QStringLiteral("restaurar.restore"));
-    connect(restore, &QToolButton::clicked, this, &RestaurarCopiaWindow::restore);
-    QPushButton* close =
-        addClosingButton(QStringLiteral("&Sair"), QStringLiteral("restaurar.close"));
-    connect(close, &QPushButton::clicked, this, &RestaurarCopiaWindow::reject);
+    addCommand({"restore", QStringLiteral("Restaurar"), Qt::CTRL | Qt::Key_R, "restaurar.restore",
+                [this] { restore(); }});
+    addLeavingButton("restaurar.close");
 }
 
 QWidget* RestaurarCopiaWindow::buildBody() {
@@ -94,9 +82,7 @@ QWidget* RestaurarCopiaWindow::buildBody() {
 }
 
 QWidget* RestaurarCopiaWindow::buildList() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(this);
     const QString title = QStringLiteral("Cópias da pasta de dados");
     column->addWidget(look::heading(title, part));
     list_ = table(QStringLiteral("restaurar.list"), title,
@@ -110,13 +96,10 @@ QWidget* RestaurarCopiaWindow::buildList() {
 }
 
 QWidget* RestaurarCopiaWindow::buildPreview() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(this);
     const QString title = QStringLiteral("O que a cópia traz de volta");
     column->addWidget(look::heading(title, part));
-    summary_ = paragraph(part);
-    summary_->setObjectName(QStringLiteral("restaurar.summary"));
+    summary_ = look::paragraph(QStringLiteral("restaurar.summary"), look::TextSize::Body, part);
     column->addWidget(summary_);
     changes_ = table(QStringLiteral("restaurar.changes"), title,
                      {QStringLiteral("Assunto"), QStringLiteral("O que acontece")}, part);

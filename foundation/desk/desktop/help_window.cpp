@@ -4,7 +4,6 @@
 
 #include <QFrame>
 #include <QImage>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QTextBrowser>
 #include <QTimer>
@@ -48,8 +47,7 @@ HelpWindow::HelpWindow(const QUrl& section, QWidget* parent)
     page->setSource(section.adjusted(QUrl::RemoveFragment));
     setBody(page);
     findChild<QFrame*>(QStringLiteral("commandBar"))->hide();
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("ajuda.close"));
-    connect(close, &QPushButton::clicked, this, &HelpWindow::reject);
+    addLeavingButton("ajuda.close");
     // The page has its places only when it is laid out in the window's width.
     QTimer::singleShot(0, page, [page, section] { page->scrollToAnchor(section.fragment()); });
     page->setFocus();

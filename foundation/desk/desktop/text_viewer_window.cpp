@@ -8,8 +8,6 @@
 #include <QPlainTextEdit>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QPushButton>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -32,12 +30,9 @@ QString widestOf(const QStringList& lines) {
 TextViewerWindow::TextViewerWindow(const QString& title, const QString& text, QWidget* parent)
     : ScreenWindow(QStringLiteral("relatorio"), QStringLiteral("Relatório"), parent) {
     setSubtitle(title);
-    QToolButton* print = addCommand(QStringLiteral("print"), QStringLiteral("Imprimir"),
-                                    QKeySequence::Print, QStringLiteral("relatorio.print"));
-    connect(print, &QToolButton::clicked, this, &TextViewerWindow::print);
-    auto* body = new QWidget(this);
-    auto* column = new QVBoxLayout(body);
-    look::layOutBody(*column);
+    addCommand({"print", QStringLiteral("Imprimir"), QKeySequence::Print, "relatorio.print",
+                [this] { print(); }});
+    const auto [body, column] = look::body(this);
     text_ = new QPlainTextEdit(text, body);
     look::name(*text_, QStringLiteral("relatorio.text"), title);
     text_->setReadOnly(true);
@@ -46,9 +41,7 @@ TextViewerWindow::TextViewerWindow(const QString& title, const QString& text, QW
     text_->setFont(look::fixedFont());
     column->addWidget(text_);
     setBody(body);
-    QPushButton* close =
-        addClosingButton(QStringLiteral("&Sair"), QStringLiteral("relatorio.close"));
-    connect(close, &QPushButton::clicked, this, &TextViewerWindow::reject);
+    addLeavingButton("relatorio.close");
     text_->setFocus();
 }
 

@@ -37,14 +37,11 @@ SobreWindow::SobreWindow(const Workplace& at, Browser& browser, std::string log,
     setBody(buildBody());
     resize(look::kSmallWindowSize);
     setState(QStringLiteral("ESC fecha"));
-    connect(addClosingButton(QStringLiteral("&Sair"), QStringLiteral("sobre.close")),
-            &QPushButton::clicked, this, &SobreWindow::reject);
+    addLeavingButton("sobre.close");
 }
 
 QWidget* SobreWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* column = new QVBoxLayout(body);
-    look::layOutBody(*column);
+    const auto [body, column] = look::body(this);
     const std::string folder = at_.session.folder.path().string();
     column->addWidget(
         place(QStringLiteral("&Pasta de dados"), QStringLiteral("sobre.folder"), folder, body));

@@ -52,9 +52,7 @@ EmployeeImportWindow::EmployeeImportWindow(EmployeeImport& import, QWidget* pare
 }
 
 void EmployeeImportWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* column = new QVBoxLayout(body);
-    look::layOutBody(*column);
+    const auto [body, column] = look::body(this);
     onlyProblems_ = new QCheckBox(QStringLiteral("Mostrar somente linhas com &problema"), body);
     look::name(*onlyProblems_, QStringLiteral("importar.onlyProblems"),
                QStringLiteral("Mostrar somente linhas com problema"));
@@ -69,15 +67,13 @@ void EmployeeImportWindow::buildBody() {
 
 void EmployeeImportWindow::buildClosing() {
     const std::size_t count = import_.goodRows();
-    QPushButton* include = addClosingButton(QStringLiteral("&Incluir ") + employees(count),
-                                            QStringLiteral("importar.include"));
-    include->setIcon(look::icon(QStringLiteral("add")));
+    QPushButton* include = addClosingButton(
+        {"add", QStringLiteral("&Incluir ") + employees(count), {}, "importar.include", [this] {
+             this->include();
+         }});
     include->setDefault(count > 0);
     include->setEnabled(count > 0);
-    connect(include, &QPushButton::clicked, this, &EmployeeImportWindow::include);
-    QPushButton* cancel =
-        addClosingButton(QStringLiteral("&Cancelar"), QStringLiteral("importar.cancel"));
-    connect(cancel, &QPushButton::clicked, this, &EmployeeImportWindow::reject);
+    addLeavingButton("importar.cancel", QStringLiteral("&Cancelar"));
 }
 
 void EmployeeImportWindow::fillRows() {

@@ -1,12 +1,12 @@
 #include "foundation/register/desktop/employee_picker.h"
 
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/enter_key.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/search_box.h"
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -14,6 +14,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <type_traits>
 
 namespace winvrx {
 
@@ -49,8 +50,24 @@ EmployeePicker::EmployeePicker(EmployeeList& list, Traits traits, QWidget* paren
     connect(search_, &SearchBox::textChanged, this, [this](const QString& text) {
         list_.searchFor(toUtf8(text));
         narrow();
+        if (traits_.narrows) selectShown();
         emit searched();
+        if (traits_.narrows) emit narrowed();
     });
+}
+
+template <typename Filter>
+void EmployeePicker::choose(Filter filter) {
+    if (!traits_.narrows) {
+        if constexpr (std::is_same_v<Filter, ShiftFilter>)
+            emit shiftChosen(filter);
+        else
+            emit scaleChosen(filter);
+        return;
+    }
+    list_.filterBy(filter);
+    refresh();
+    emit narrowed();
 }
 
 void EmployeePicker::buildFilters(QBoxLayout& column) {
@@ -58,15 +75,9 @@ void EmployeePicker::buildFilters(QBoxLayout& column) {
     for (const ShiftFilter one : traits_.shifts)
         shift_->addItem(one == ShiftFilter::Todos ? toQt(codeOf(one))
                                                   : QStringLiteral("Turno: ") + toQt(codeOf(one)));
-    connect(shift_, &QComboBox::activated, this, [this](int place) {
-        emit shiftChosen(traits_.shifts[static_cast<std::size_t>(place)]);
-    });
-    QLabel* label = look::label(QStringLiteral("Turn&o"), look::TextSize::Body, this);
-    label->setBuddy(shift_);
-    auto* row = new QHBoxLayout;
-    look::layOutPart(*row);
-    row->addWidget(label);
-    row->addWidget(shift_, 1);
+    connect(shift_, &QComboBox::activated, this,
+            [this](int place) { choose(traits_.shifts[static_cast<std::size_t>(place)]); });
+    QHBoxLayout* row = look::captioned(QStringLiteral("Turn&o"), shift_);
     if (traits_.scales) row->addWidget(buildScale(), 1);
     column.addLayout(row);
 }
@@ -85,7 +96,7 @@ QComboBox* EmployeePicker::buildScale() {
         scale_->addItem(QStringLiteral("Escala: ") + toQt(codeOf(one)));
     connect(scale_, &QComboBox::activated, this, [this](int place) {
         const auto scale = static_cast<std::size_t>(place);
-        emit scaleChosen(scale == 0 ? std::nullopt : std::optional(kScales.at(scale - 1)));
+        choose(scale == 0 ? std::nullopt : std::optional(kScales.at(scale - 1)));
     });
     return scale_;
 }
@@ -112,20 +123,16 @@ void EmployeePicker::buildList(QBoxLayout& column) {
         emit ticked();
     });
     connect(rows_, &QListWidget::itemDoubleClicked, this, &EmployeePicker::opened);
-    rows_->installEventFilter(this);
+    onEnter(*rows_, [this] { emit opened(); });
     column.addWidget(rows_, 1);
 }
 
 void EmployeePicker::buildEmptyHint(QBoxLayout& column) {
-    empty_ = look::label(QString(), look::TextSize::Hint, this);
-    empty_->setObjectName(traits_.screen + QStringLiteral(".empty"));
-    empty_->setWordWrap(true);
+    empty_ = look::paragraph(traits_.screen + QStringLiteral(".empty"), look::TextSize::Hint, this);
     column.addWidget(empty_);
-    everyShift_ = new QPushButton(QStringLiteral("Mostrar todos os turnos"), this);
-    look::name(*everyShift_, traits_.screen + QStringLiteral(".everyShift"), everyShift_->text());
-    everyShift_->setAutoDefault(false);
-    connect(everyShift_, &QPushButton::clicked, this,
-            [this] { emit shiftChosen(ShiftFilter::Todos); });
+    everyShift_ = look::button(QStringLiteral("Mostrar todos os turnos"),
+                               traits_.screen + QStringLiteral(".everyShift"), this);
+    connect(everyShift_, &QPushButton::clicked, this, [this] { choose(ShiftFilter::Todos); });
     column.addWidget(everyShift_);
 }
 
@@ -220,15 +227,6 @@ void EmployeePicker::step(int by) {
     while (row >= 0 && row < rows_->count() && rows_->item(row)->isHidden())
         row += by;
     if (row >= 0 && row < rows_->count()) rows_->setCurrentRow(row);
-}
-
-bool EmployeePicker::eventFilter(QObject* watched, QEvent* event) {
-    const int key =
-        event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : Qt::Key_unknown;
-    if (watched != rows_ || (key != Qt::Key_Return && key != Qt::Key_Enter))
-        return QWidget::eventFilter(watched, event);
-    emit opened();
-    return true;
 }
 
 void EmployeePicker::focusList() {

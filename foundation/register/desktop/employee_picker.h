@@ -33,7 +33,9 @@ class EmployeePicker : public QWidget {
         QString screen;  ///< the prefix of the object names: "card.employees", "card.search"
         std::span<const ShiftFilter> shifts = kMenuShiftFilters;
         bool scales = false;  ///< offers the scales as a filter too
-        bool ticks = false;   ///< each employee can be ticked, with the mouse or SPACE
+        /// Narrows the list by itself when a filter is chosen, and then says narrowed().
+        bool narrows = false;
+        bool ticks = false;  ///< each employee can be ticked, with the mouse or SPACE
         /// Offers everyone or only the list's subset: its object name and its caption, where "%1"
         /// is how many they are. Not offered without a caption.
         QString subsetName = {};
@@ -42,8 +44,8 @@ class EmployeePicker : public QWidget {
         std::function<QString(const Employee&)> details = {};
     };
 
-    /// `list` outlives the widget. The picker tells it what is searched for; the filters are set by
-    /// who listens, and then shown by refresh().
+    /// `list` outlives the widget. The picker tells it what is searched for; the filters, where it
+    /// does not narrow by itself, are set by who listens, and then shown by refresh().
     EmployeePicker(EmployeeList& list, Traits traits, QWidget* parent);
 
     /// Shows the list again, on the employee whom it was on, or on the first one shown.
@@ -69,11 +71,10 @@ class EmployeePicker : public QWidget {
     void ticked();
     /// Another text is searched for.
     void searched();
+    /// By a filter or a search; an employee who is shown is selected, if there is one.
+    void narrowed();
     /// ENTER or a double click on an employee.
     void opened();
-
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void buildFilters(QBoxLayout& column);
@@ -81,6 +82,8 @@ class EmployeePicker : public QWidget {
     [[nodiscard]] QComboBox* buildScale();
     [[nodiscard]] QRadioButton* buildSubset(const QString& name, bool only);
     void buildList(QBoxLayout& column);
+    template <typename Filter>
+    void choose(Filter filter);
     void buildEmptyHint(QBoxLayout& column);
     [[nodiscard]] QString textOf(std::size_t position) const;
     void showFilters();

@@ -28,14 +28,12 @@ std::filesystem::path pathOf(const QString& file) {
 }  // namespace
 
 void EmpregadosWindow::addListCommands() {
-    QToolButton* transfer = addCommand(QStringLiteral("company"), QStringLiteral("Transferir"),
-                                       Qt::Key_F6, QStringLiteral("empregados.transfer"));
-    connect(transfer, &QToolButton::clicked, this, &EmpregadosWindow::transfer);
-    QToolButton* move = addCommand(QStringLiteral("sort"), QStringLiteral("Mover"), Qt::Key_F7,
-                                   QStringLiteral("empregados.move"));
-    connect(move, &QToolButton::clicked, this, &EmpregadosWindow::move);
-    QToolButton* list = addCommand(QStringLiteral("sheet"), QStringLiteral("Lista"), Qt::Key_F9,
-                                   QStringLiteral("empregados.listMenu"));
+    addCommand({"company", QStringLiteral("Transferir"), Qt::Key_F6, "empregados.transfer",
+                [this] { transfer(); }});
+    addCommand(
+        {"sort", QStringLiteral("Mover"), Qt::Key_F7, "empregados.move", [this] { move(); }});
+    QToolButton* list =
+        addCommand({"sheet", QStringLiteral("Lista"), Qt::Key_F9, "empregados.listMenu", {}});
     auto* menu = new QMenu(list);
     menu->setObjectName(QStringLiteral("empregados.menu"));
     addToMenu(menu, "sortByName", QStringLiteral("Ordem &alfabética"),

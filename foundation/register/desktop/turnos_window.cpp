@@ -6,12 +6,8 @@
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/look.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
-#include <QPushButton>
-#include <QShortcut>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -34,13 +30,7 @@ QString termsOf(const Employee& employee) {
 
 TurnosWindow::TurnosWindow(Turnos& turnos, QWidget* parent)
     : ScreenWindow(QStringLiteral("turnos"), QStringLiteral("Turnos"), parent), turnos_(turnos) {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kGroupGap);
-    row->addWidget(buildEmployees(), 3);
-    row->addWidget(buildShifts(), 2);
-    setBody(body);
+    setBody({{buildEmployees(), 3}, {buildShifts(), 2}});
     buildCommands();
     turnos_.load();
     if (!turnos_.companyTitle().empty()) setChips({toQt(turnos_.companyTitle())});
@@ -50,17 +40,10 @@ TurnosWindow::TurnosWindow(Turnos& turnos, QWidget* parent)
 }
 
 QWidget* TurnosWindow::buildEmployees() {
-    employees_ = new EmployeePicker(turnos_.list(),
-                                    {.screen = QStringLiteral("turnos"), .details = termsOf}, this);
-    connect(employees_, &EmployeePicker::shiftChosen, this, [this](ShiftFilter shift) {
-        turnos_.list().filterBy(shift);
-        employees_->refresh();
-        showSelected();
-    });
-    connect(employees_, &EmployeePicker::searched, this, [this] {
-        employees_->selectShown();
-        showSelected();
-    });
+    employees_ = new EmployeePicker(
+        turnos_.list(), {.screen = QStringLiteral("turnos"), .narrows = true, .details = termsOf},
+        this);
+    connect(employees_, &EmployeePicker::narrowed, this, &TurnosWindow::showSelected);
     connect(employees_, &EmployeePicker::employeeChosen, this, &TurnosWindow::showSelected);
     connect(employees_, &EmployeePicker::opened, this,
             [this] { shifts_->setFocus(Qt::TabFocusReason); });
@@ -68,16 +51,10 @@ QWidget* TurnosWindow::buildEmployees() {
 }
 
 QWidget* TurnosWindow::buildShifts() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
-    name_ = look::heading(QString(), part);
-    name_->setObjectName(QStringLiteral("turnos.name"));
-    name_->setWordWrap(true);
+    const auto [part, column] = look::part(this);
+    name_ = look::paragraph(QStringLiteral("turnos.name"), look::TextSize::Heading, part);
     column->addWidget(name_);
-    details_ = look::label(QString(), look::TextSize::Hint, part);
-    details_->setObjectName(QStringLiteral("turnos.details"));
-    details_->setWordWrap(true);
+    details_ = look::paragraph(QStringLiteral("turnos.details"), look::TextSize::Hint, part);
     column->addWidget(details_);
     column->addSpacing(look::kGap);
     column->addWidget(look::heading(toQt(kShiftListTitle), part));
@@ -96,17 +73,11 @@ QWidget* TurnosWindow::buildShifts() {
 }
 
 void TurnosWindow::buildCommands() {
-    QToolButton* change = addCommand(QStringLiteral("edit"), QStringLiteral("Alterar Turno"),
-                                     Qt::Key_F2, QStringLiteral("turnos.change"));
-    connect(change, &QToolButton::clicked, this, &TurnosWindow::changeShift);
-    QPushButton* save = addClosingButton(QStringLiteral("&Gravar"), QStringLiteral("turnos.save"));
-    save->setIcon(look::icon(QStringLiteral("save")));
-    save->setDefault(true);
-    auto* saveKey = new QShortcut(QKeySequence::Save, this);
-    connect(saveKey, &QShortcut::activated, this, &TurnosWindow::changeShift);
-    connect(save, &QPushButton::clicked, this, &TurnosWindow::changeShift);
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("turnos.close"));
-    connect(close, &QPushButton::clicked, this, &TurnosWindow::reject);
+    addCommand({"edit", QStringLiteral("Alterar Turno"), Qt::Key_F2, "turnos.change",
+                [this] { changeShift(); }});
+    addDefaultButton({"save", QStringLiteral("&Gravar"), QKeySequence::Save, "turnos.save",
+                      [this] { changeShift(); }});
+    addLeavingButton("turnos.close");
 }
 
 void TurnosWindow::showSelected() {

@@ -191,9 +191,8 @@ void Field::frame(const QString& caption) {
     label_->setBuddy(input_);
     column->addWidget(label_);
     column->addWidget(input_);
-    hint_ = look::label(QString(), look::TextSize::Hint, this);
-    hint_->setObjectName(input_->objectName() + QStringLiteral(".hint"));
-    hint_->setWordWrap(true);
+    hint_ =
+        look::paragraph(input_->objectName() + QStringLiteral(".hint"), look::TextSize::Hint, this);
     hint_->setMinimumHeight(hint_->fontMetrics().height());
     column->addWidget(hint_);
     if (input_->accessibleName().isEmpty()) look::name(*input_, input_->objectName(), caption);

@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 class QComboBox;
 class QGridLayout;
@@ -119,6 +120,15 @@ class Field : public QWidget {
     QString note_;
     QString cut_;  ///< what is said of what the last key or paste had too much
 };
+
+/// The texts of a list as they are stored, for FieldKind::choices.
+template <const auto& List>
+std::vector<Choice> choicesIn() {
+    std::vector<Choice> choices;
+    for (const std::string_view text : List)
+        choices.push_back({std::string(text), std::string(text)});
+    return choices;
+}
 
 /// The caption with its Alt letter marked: the first `letter` in it, whatever its case. A caption
 /// without the letter comes back as it is.

@@ -7,8 +7,10 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QFontDatabase>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QStyle>
 #include <QTreeWidget>
@@ -126,6 +128,44 @@ QLabel* heading(const QString& text, QWidget* parent) {
     return label(text, TextSize::Heading, parent);
 }
 
+QLabel* line(const QString& objectName, TextSize size, QWidget* parent) {
+    QLabel* line = label(QString(), size, parent);
+    line->setObjectName(objectName);
+    return line;
+}
+
+QLabel* paragraph(const QString& objectName, TextSize size, QWidget* parent) {
+    QLabel* paragraph = line(objectName, size, parent);
+    paragraph->setWordWrap(true);
+    return paragraph;
+}
+
+void showText(QLabel& label, const QString& text) {
+    label.setText(text);
+    label.setVisible(!text.isEmpty());
+}
+
+void showWarning(QLabel& label, const QString& text) {
+    showText(label, text.isEmpty() ? text : QStringLiteral("⚠ ") + text);
+}
+
+QHBoxLayout* captioned(const QString& caption, QWidget* input) {
+    QLabel* words = label(caption, TextSize::Body, input->parentWidget());
+    words->setBuddy(input);
+    auto* row = new QHBoxLayout;
+    layOutPart(*row);
+    row->addWidget(words);
+    row->addWidget(input, 1);
+    return row;
+}
+
+QPushButton* button(const QString& text, const QString& objectName, QWidget* parent) {
+    auto* button = new QPushButton(text, parent);
+    name(*button, objectName, text);
+    button->setAutoDefault(false);
+    return button;
+}
+
 QIcon icon(const QString& name) {
     return QIcon(new SvgIconEngine(name, std::nullopt));
 }
@@ -161,6 +201,29 @@ QScrollArea* scrolled(QWidget* content, QWidget* parent) {
     area->setFocusPolicy(Qt::NoFocus);
     area->setWidget(content);
     return area;
+}
+
+Part body(QWidget* parent) {
+    auto* widget = new QWidget(parent);
+    auto* column = new QVBoxLayout(widget);
+    layOutBody(*column);
+    return {widget, column};
+}
+
+Part part(QWidget* parent) {
+    auto* widget = new QWidget(parent);
+    auto* column = new QVBoxLayout(widget);
+    layOutPart(*column);
+    return {widget, column};
+}
+
+QGridLayout* fieldGrid(int columns) {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(kGap);
+    grid->setVerticalSpacing(kSmallGap / 2);
+    for (int column = 0; column < columns; ++column)
+        grid->setColumnStretch(column, 1);
+    return grid;
 }
 
 void layOutBody(QBoxLayout& layout) {

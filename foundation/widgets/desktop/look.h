@@ -10,9 +10,13 @@
 
 class QApplication;
 class QBoxLayout;
+class QGridLayout;
+class QHBoxLayout;
 class QLabel;
+class QPushButton;
 class QScrollArea;
 class QTreeWidget;
+class QVBoxLayout;
 class QWidget;
 
 // How every window looks: colours, sizes, fonts and icons in one place. A window never sets a
@@ -55,6 +59,20 @@ void setTint(QLabel& label, Tint tint);
 /// The heading over a group of fields.
 [[nodiscard]] QLabel* heading(const QString& text, QWidget* parent = nullptr);
 
+/// Labels for what the program says, found by their names: a line, cut where it is too long, and a
+/// paragraph, which is wrapped.
+[[nodiscard]] QLabel* line(const QString& objectName, TextSize size, QWidget* parent);
+[[nodiscard]] QLabel* paragraph(const QString& objectName, TextSize size, QWidget* parent);
+/// Shows the text, or nothing at all where there is none; a warning bears its sign.
+void showText(QLabel& label, const QString& text);
+void showWarning(QLabel& label, const QString& text);
+
+/// The input behind its caption, whose mnemonic leads to it.
+[[nodiscard]] QHBoxLayout* captioned(const QString& caption, QWidget* input);
+
+/// A button within a body, which ENTER does not press from elsewhere.
+[[nodiscard]] QPushButton* button(const QString& text, const QString& objectName, QWidget* parent);
+
 /// An icon of the program's own set, by its file name without ".svg". It takes its colour from the
 /// palette at the moment of painting, so that it turns with light and dark.
 [[nodiscard]] QIcon icon(const QString& name);
@@ -69,6 +87,19 @@ void name(QWidget& widget, const QString& objectName, const QString& spoken);
                                  const QStringList& headings, QWidget* parent);
 /// Lets what does not fit be scrolled. The area has no frame and takes no focus.
 [[nodiscard]] QScrollArea* scrolled(QWidget* content, QWidget* parent);
+
+/// A widget whose children stand in a column.
+struct Part {
+    QWidget* widget;
+    QVBoxLayout* column;
+};
+/// With the margins of a window's body.
+[[nodiscard]] Part body(QWidget* parent);
+/// Within a body: without margins.
+[[nodiscard]] Part part(QWidget* parent);
+
+/// For fields: so many columns of one width.
+[[nodiscard]] QGridLayout* fieldGrid(int columns);
 
 /// Margins and spacing of a window's body.
 void layOutBody(QBoxLayout& layout);

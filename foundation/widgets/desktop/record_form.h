@@ -71,11 +71,7 @@ class RecordForm : public RecordEditor {
     /// Builds the fields of one group, row by row, at the end of `column`.
     template <typename Placements>
     void addGroup(const Placements& placements, int group, QVBoxLayout& column) {
-        auto* grid = new QGridLayout;
-        grid->setHorizontalSpacing(look::kGap);
-        grid->setVerticalSpacing(look::kSmallGap / 2);
-        for (int place = 0; place < kGridColumns; ++place)
-            grid->setColumnStretch(place, 1);
+        QGridLayout* grid = look::fieldGrid(kGridColumns);
         int row = -1;
         int next = 0;
         for (const Placement& place : placements) {

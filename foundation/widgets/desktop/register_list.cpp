@@ -2,11 +2,11 @@
 
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"
+#include "foundation/widgets/desktop/enter_key.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/search_box.h"
 
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -49,7 +49,7 @@ void RegisterList::buildTree(const QString& screen, const QString& title,
     tree_ = look::table(screen + QStringLiteral(".list"), title, headings, pages_);
     tree_->header()->setSectionResizeMode(QHeaderView::Interactive);
     tree_->header()->setSectionResizeMode(kStretched, QHeaderView::Stretch);
-    tree_->installEventFilter(this);
+    onEnter(*tree_, [this] { emit entered(); });
     connect(tree_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (item) emit chosen(static_cast<std::size_t>(tree_->indexOfTopLevelItem(item)));
     });
@@ -57,13 +57,9 @@ void RegisterList::buildTree(const QString& screen, const QString& title,
 }
 
 void RegisterList::buildEmptyPage(const QString& screen) {
-    auto* page = new QWidget(pages_);
-    auto* column = new QVBoxLayout(page);
-    look::layOutPart(*column);
+    const auto [page, column] = look::part(pages_);
     column->addStretch();
-    emptyText_ = look::label(QString(), look::TextSize::Body, page);
-    emptyText_->setObjectName(screen + QStringLiteral(".empty"));
-    emptyText_->setWordWrap(true);
+    emptyText_ = look::paragraph(screen + QStringLiteral(".empty"), look::TextSize::Body, page);
     emptyText_->setAlignment(Qt::AlignCenter);
     column->addWidget(emptyText_);
     first_ = new QPushButton(look::icon(QStringLiteral("add")), QString(), page);
@@ -157,17 +153,6 @@ void RegisterList::moveBy(int rows) {
 
 void RegisterList::takeFocus() {
     tree_->setFocus(Qt::OtherFocusReason);
-}
-
-bool RegisterList::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == tree_ && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            emit entered();
-            return true;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void RegisterList::filter() {

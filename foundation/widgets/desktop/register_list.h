@@ -48,9 +48,6 @@ class RegisterList : public QWidget {
     /// The button of the empty list.
     void firstRequested();
 
-  protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
   private:
     void buildTree(const QString& screen, const QString& title, const QStringList& headings);
     void buildEmptyPage(const QString& screen);

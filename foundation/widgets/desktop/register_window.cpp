@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSplitter>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -32,31 +31,16 @@ RegisterWindow::RegisterWindow(ListScreen& list, const Texts& texts, QWidget* pa
 }
 
 void RegisterWindow::addCommands(const Texts& texts) {
-    const auto named = [this](const char* thing) {
-        return objectName() + QLatin1Char('.') + QLatin1String(thing);
-    };
-    auto* include =
-        addCommand(QStringLiteral("add"), texts.include, Qt::Key_Insert, named("include"));
-    connect(include, &QToolButton::clicked, this, &RegisterWindow::include);
-    change_ = addCommand(QStringLiteral("edit"), texts.change, Qt::Key_F2, named("change"));
-    connect(change_, &QToolButton::clicked, this, &RegisterWindow::change);
-    remove_ = addCommand(QStringLiteral("delete"), QStringLiteral("Excluir"), Qt::Key_Delete,
-                         named("delete"), list_);
-    connect(remove_, &QToolButton::clicked, this, &RegisterWindow::remove);
-    QPushButton* save = addClosingButton(QStringLiteral("&Gravar"), named("save"));
-    save->setIcon(look::icon(QStringLiteral("save")));
-    save->setToolTip(QKeySequence(QKeySequence::Save).toString(QKeySequence::NativeText));
-    save->setDefault(true);
-    connect(save, &QPushButton::clicked, this, &RegisterWindow::save);
-    auto* saveKey = new QShortcut(QKeySequence::Save, this);
-    connect(saveKey, &QShortcut::activated, this, &RegisterWindow::save);
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), named("close"));
-    connect(close, &QPushButton::clicked, this, &RegisterWindow::reject);
-    for (const auto& [key, rows] :
-         {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)}) {
-        auto* move = new QShortcut(key, this);
-        connect(move, &QShortcut::activated, list_, [this, by = rows] { list_->moveBy(by); });
-    }
+    const auto named = [this](const char* thing) { return objectName().toUtf8() + '.' + thing; };
+    addCommand({"add", texts.include, Qt::Key_Insert, named("include"), [this] { include(); }});
+    change_ = addCommand({"edit", texts.change, Qt::Key_F2, named("change"), [this] { change(); }});
+    remove_ = addCommand({"delete", QStringLiteral("Excluir"), Qt::Key_Delete, named("delete"),
+                          [this] { remove(); }, list_});
+    addDefaultButton(
+        {"save", QStringLiteral("&Gravar"), QKeySequence::Save, named("save"), [this] { save(); }})
+        ->setToolTip(QKeySequence(QKeySequence::Save).toString(QKeySequence::NativeText));
+    addLeavingButton(named("close"));
+    addPageKeys([this](int by) { list_->moveBy(by); });
 }
 
 void RegisterWindow::assemble(RecordEditor* form, QWidget* underList, ListRoom room) {
@@ -68,9 +52,7 @@ void RegisterWindow::assemble(RecordEditor* form, QWidget* underList, ListRoom r
     look::layOutBody(*row);
     auto* split = new QSplitter(body);
     split->setChildrenCollapsible(false);
-    auto* left = new QWidget(split);
-    auto* column = new QVBoxLayout(left);
-    look::layOutPart(*column);
+    const auto [left, column] = look::part(split);
     column->addWidget(list_, 1);
     if (underList) column->addWidget(underList);
     split->addWidget(left);

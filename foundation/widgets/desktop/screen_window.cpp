@@ -72,8 +72,7 @@ void ScreenWindow::buildTitleBand(const QString& title) {
     auto* texts = new QVBoxLayout;
     texts->setSpacing(0);
     texts->addWidget(look::label(title, look::TextSize::Title, frame));
-    subtitle_ = look::label(QString(), look::TextSize::Hint, frame);
-    subtitle_->setObjectName(QStringLiteral("subtitle"));
+    subtitle_ = look::line(QStringLiteral("subtitle"), look::TextSize::Hint, frame);
     subtitle_->hide();
     texts->addWidget(subtitle_);
     row->addLayout(texts);
@@ -87,18 +86,16 @@ void ScreenWindow::buildTitleBand(const QString& title) {
 void ScreenWindow::buildCommandBar() {
     commands_ = new CommandBar(this);
     frame_->addWidget(commands_);
-    QToolButton* help = addCommand(QStringLiteral("help"), QStringLiteral("Ajuda"), Qt::Key_F1,
-                                   objectName() + QStringLiteral(".help"));
-    connect(help, &QToolButton::clicked, this, [] {
-        if (openHelp()) openHelp()();
-    });
+    const QByteArray name = objectName().toUtf8() + ".help";
+    addCommand({"help", QStringLiteral("Ajuda"), Qt::Key_F1, name.constData(), [] {
+                    if (openHelp()) openHelp()();
+                }});
 }
 
 void ScreenWindow::buildStateBar() {
     QFrame* frame = band(QStringLiteral("stateBar"), this);
     QHBoxLayout* row = rowIn(frame, look::kGap);
-    state_ = look::label(QString(), look::TextSize::Hint, frame);
-    state_->setObjectName(QStringLiteral("state"));
+    state_ = look::line(QStringLiteral("state"), look::TextSize::Hint, frame);
     state_->setTextFormat(Qt::PlainText);  // it quotes what was typed
     row->addWidget(state_, 1);
     closing_ = new QHBoxLayout;
@@ -108,8 +105,7 @@ void ScreenWindow::buildStateBar() {
 }
 
 void ScreenWindow::setSubtitle(const QString& text) {
-    subtitle_->setText(text);
-    subtitle_->setVisible(!text.isEmpty());
+    look::showText(*subtitle_, text);
 }
 
 void ScreenWindow::setChips(const QStringList& chips) {
@@ -124,17 +120,26 @@ void ScreenWindow::setChips(const QStringList& chips) {
     }
 }
 
-QToolButton* ScreenWindow::addCommand(const QString& icon, const QString& text,
-                                      const QKeySequence& key, const QString& objectName,
-                                      QWidget* within) {
-    QToolButton* button = commands_->add(icon, text, key.toString(QKeySequence::NativeText));
-    button->setObjectName(objectName);
-    if (!key.isEmpty()) {
-        auto* shortcut = new QShortcut(key, within ? within : this);
-        if (within) shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, button, &QToolButton::click);
-    }
+void ScreenWindow::join(QAbstractButton& button, const ScreenCommand& command, QWidget* keyOwner) {
+    if (command.run) connect(&button, &QAbstractButton::clicked, this, command.run);
+    if (command.key.isEmpty()) return;
+    auto* shortcut = new QShortcut(command.key, keyOwner);
+    if (command.within) shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(shortcut, &QShortcut::activated, &button, &QAbstractButton::click);
+}
+
+QToolButton* ScreenWindow::addCommand(const ScreenCommand& command) {
+    QToolButton* button = commands_->add(QLatin1String(command.icon), command.text,
+                                         command.key.toString(QKeySequence::NativeText));
+    button->setObjectName(QLatin1String(command.name));
+    join(*button, command, command.within ? command.within : this);
     return button;
+}
+
+void ScreenWindow::addPageKeys(std::function<void(int by)> step) {
+    for (const auto& [key, by] : {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)})
+        connect(new QShortcut(key, this), &QShortcut::activated, this,
+                [step, rows = by] { step(rows); });
 }
 
 void ScreenWindow::setBody(QWidget* body) {
@@ -143,16 +148,41 @@ void ScreenWindow::setBody(QWidget* body) {
     frame_->insertWidget(2, body_, 1);
 }
 
+void ScreenWindow::setBody(std::initializer_list<BodyPart> parts, int gap) {
+    auto* body = new QWidget(this);
+    auto* row = new QHBoxLayout(body);
+    look::layOutBody(*row);
+    row->setSpacing(gap);
+    for (const BodyPart& part : parts)
+        row->addWidget(part.widget, part.share);
+    setBody(body);
+}
+
 void ScreenWindow::setState(const QString& text) {
     state_->setText(text);
 }
 
-QPushButton* ScreenWindow::addClosingButton(const QString& text, const QString& objectName) {
-    auto* button = new QPushButton(text, this);
-    look::name(*button, objectName, text);
-    button->setAutoDefault(false);
+QPushButton* ScreenWindow::newButton(const ScreenCommand& command, QWidget* parent) {
+    QPushButton* button = look::button(command.text, QLatin1String(command.name), parent);
+    if (*command.icon) button->setIcon(look::icon(QLatin1String(command.icon)));
+    join(*button, command, button);
+    return button;
+}
+
+QPushButton* ScreenWindow::addClosingButton(const ScreenCommand& command) {
+    QPushButton* button = newButton(command, this);
     closing_->addWidget(button);
     return button;
+}
+
+QPushButton* ScreenWindow::addDefaultButton(const ScreenCommand& command) {
+    QPushButton* button = addClosingButton(command);
+    button->setDefault(true);
+    return button;
+}
+
+QPushButton* ScreenWindow::addLeavingButton(const char* name, const QString& text) {
+    return addClosingButton({"", text, {}, name, [this] { reject(); }});
 }
 
 void ScreenWindow::reject() {

@@ -1,12 +1,16 @@
 #pragma once
 
+#include "foundation/widgets/desktop/look.h"
+
 #include <QDialog>
 #include <QKeySequence>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
+#include <initializer_list>
 
+class QAbstractButton;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
@@ -18,15 +22,30 @@ namespace winvrx {
 
 class CommandBar;
 
+/// A command of a screen: what its button shows, the key that gives it and what it does.
+struct ScreenCommand {
+    const char* icon;  ///< of the program's set; "" shows none
+    QString text;
+    QKeySequence key;  ///< empty where it has none
+    const char* name;  ///< the button's object name
+    std::function<void()> run;
+    QWidget* within = nullptr;  ///< its key works only while the focus is in this part
+};
+
+/// A part of a window's body, and its share of the room that is left over.
+struct BodyPart {
+    QWidget* widget;
+    int share = 0;
+};
+
 /// The frame that every screen shares: title band with context chips, command bar, body, and a
 /// state bar with the closing commands.
 ///
 ///     class EmpresaWindow : public ScreenWindow { … };
 ///     EmpresaWindow::EmpresaWindow(…) : ScreenWindow("empresa", tr("Empresas"), parent) {
-///         setBody(buildBody());
-///         auto* include = addCommand("add", "Incluir", Qt::Key_Insert, "empresa.include");
-///         connect(include, &QToolButton::clicked, this, &EmpresaWindow::include);
-///         addClosingButton("&Sair", "empresa.close");
+///         setBody({{buildList(), 1}, {buildForm(), 2}});
+///         addCommand({"add", "Incluir", Qt::Key_Insert, "empresa.include", [this] { … }});
+///         addLeavingButton("empresa.close");
 ///     }
 ///
 /// Keys: F1 opens the help page; Esc closes through `mayClose`; Enter in a field moves to the next
@@ -44,15 +63,23 @@ class ScreenWindow : public QDialog {
     void setSubtitle(const QString& text);
     /// Quiet context at the right of the title: company, work month, shift.
     void setChips(const QStringList& chips);
-    /// A button with icon, text and its key in the command bar. The key works in the whole window,
-    /// or while the focus is `within` a part of it.
-    QToolButton* addCommand(const QString& icon, const QString& text, const QKeySequence& key,
-                            const QString& objectName, QWidget* within = nullptr);
+    /// A button with icon, text and key in the command bar.
+    QToolButton* addCommand(const ScreenCommand& command);
+    /// PAGE UP and PAGE DOWN go one back and one on.
+    void addPageKeys(std::function<void(int by)> step);
     /// What does not fit the screen can be scrolled.
     void setBody(QWidget* body);
+    /// The parts side by side, from the left on.
+    void setBody(std::initializer_list<BodyPart> parts, int gap = look::kGroupGap);
     void setState(const QString& text);
+    /// A button within the body; its key works while it is in sight.
+    [[nodiscard]] QPushButton* newButton(const ScreenCommand& command, QWidget* parent);
     /// At the right of the state bar, in order of adding.
-    QPushButton* addClosingButton(const QString& text, const QString& objectName);
+    QPushButton* addClosingButton(const ScreenCommand& command);
+    /// The one that ENTER presses too.
+    QPushButton* addDefaultButton(const ScreenCommand& command);
+    /// Leaves the window as Esc does.
+    QPushButton* addLeavingButton(const char* name, const QString& text = QStringLiteral("&Sair"));
 
     /// Asked before the window closes; a screen with typed but unrecorded text asks the operator.
     [[nodiscard]] virtual bool mayClose() { return true; }
@@ -67,6 +94,8 @@ class ScreenWindow : public QDialog {
     void buildTitleBand(const QString& title);
     void buildCommandBar();
     void buildStateBar();
+    /// The button does what the command says, and its key presses it.
+    void join(QAbstractButton& button, const ScreenCommand& command, QWidget* keyOwner);
     [[nodiscard]] bool moveOnFromField();
 
     QVBoxLayout* frame_;

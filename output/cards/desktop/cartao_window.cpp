@@ -12,8 +12,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace winvrx {
@@ -44,47 +42,24 @@ CartaoWindow::CartaoWindow(Cartao& cartao, CartaoWindowDesk desk, QWidget* paren
 }
 
 void CartaoWindow::buildCommands() {
-    struct Command {
-        const char* icon;
-        QString text;
-        QKeySequence key;
-        const char* name;
-        const std::function<void(QWidget*)>& screen;
-    };
-    const Command commands[] = {{"stock", QStringLiteral("Tipo de Cartão"), Qt::CTRL | Qt::Key_T,
-                                 "stock", desk_.openStocks},
-                                {"month", QStringLiteral("Mês Trabalho (Todos)"),
-                                 Qt::CTRL | Qt::Key_M, "month", desk_.openWorkMonth},
-                                {"printer-settings", QStringLiteral("Selecionar Impressora"),
-                                 Qt::CTRL | Qt::Key_R, "printer", desk_.openPrinters},
-                                {"align", QStringLiteral("Ajuste de Impressão"),
-                                 Qt::CTRL | Qt::Key_J, "alignment", desk_.openAlignment}};
-    for (const Command& one : commands) {
-        QToolButton* button = addCommand(QLatin1String(one.icon), one.text, one.key,
-                                         QStringLiteral("cartao.") + QLatin1String(one.name));
-        connect(button, &QToolButton::clicked, this,
-                [this, &screen = one.screen] { visit(screen); });
-    }
+    addCommand({"stock", QStringLiteral("Tipo de Cartão"), Qt::CTRL | Qt::Key_T, "cartao.stock",
+                [this] { visit(desk_.openStocks); }});
+    addCommand({"month", QStringLiteral("Mês Trabalho (Todos)"), Qt::CTRL | Qt::Key_M,
+                "cartao.month", [this] { visit(desk_.openWorkMonth); }});
+    addCommand({"printer-settings", QStringLiteral("Selecionar Impressora"), Qt::CTRL | Qt::Key_R,
+                "cartao.printer", [this] { visit(desk_.openPrinters); }});
+    addCommand({"align", QStringLiteral("Ajuste de Impressão"), Qt::CTRL | Qt::Key_J,
+                "cartao.alignment", [this] { visit(desk_.openAlignment); }});
 }
 
 void CartaoWindow::buildClosingButtons() {
-    QPushButton* one =
-        addClosingButton(QStringLiteral("&Imprimir >"), QStringLiteral("cartao.printOne"));
-    one->setIcon(look::icon(QStringLiteral("print")));
-    one->setToolTip(QStringLiteral("Imprimir Somente Um Cartão Selecionado"));
-    one->setDefault(true);
-    connect(one, &QPushButton::clicked, this, &CartaoWindow::printOne);
-    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, one,
-            &QPushButton::click);
-    QPushButton* all =
-        addClosingButton(QStringLiteral("Imprimi&r >>"), QStringLiteral("cartao.printAll"));
-    all->setIcon(look::icon(QStringLiteral("print")));
-    all->setToolTip(QStringLiteral("Imprimir Todos os Cartão da Lista"));
-    connect(all, &QPushButton::clicked, this, &CartaoWindow::printAll);
-    connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P), this),
-            &QShortcut::activated, all, &QPushButton::click);
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("cartao.close"));
-    connect(close, &QPushButton::clicked, this, &CartaoWindow::reject);
+    addDefaultButton({"print", QStringLiteral("&Imprimir >"), QKeySequence::Print,
+                      "cartao.printOne", [this] { printOne(); }})
+        ->setToolTip(QStringLiteral("Imprimir Somente Um Cartão Selecionado"));
+    addClosingButton({"print", QStringLiteral("Imprimi&r >>"), Qt::CTRL | Qt::SHIFT | Qt::Key_P,
+                      "cartao.printAll", [this] { printAll(); }})
+        ->setToolTip(QStringLiteral("Imprimir Todos os Cartão da Lista"));
+    addLeavingButton("cartao.close");
 }
 
 QWidget* CartaoWindow::buildBody() {
@@ -92,7 +67,8 @@ QWidget* CartaoWindow::buildBody() {
     auto* row = new QHBoxLayout(body);
     look::layOutBody(*row);
     row->setSpacing(look::kGroupGap);
-    employees_ = new EmployeePicker(cartao_.list(), {.screen = QStringLiteral("cartao")}, body);
+    employees_ = new EmployeePicker(cartao_.list(),
+                                    {.screen = QStringLiteral("cartao"), .narrows = true}, body);
     employees_->setMinimumWidth(employees_->fontMetrics().averageCharWidth() * kListCharacters);
     row->addWidget(employees_, 2);
     auto* right = new QVBoxLayout;
@@ -106,24 +82,20 @@ QWidget* CartaoWindow::buildBody() {
 }
 
 QWidget* CartaoWindow::buildPreview(QWidget* parent) {
-    auto* part = new QWidget(parent);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(parent);
     column->addWidget(look::heading(QStringLiteral("Cabeçalho do cartão"), part));
     auto* panel = new QFrame(part);
     look::setRole(*panel, "panel");
     auto* inside = new QVBoxLayout(panel);
     look::layOutBody(*inside);
-    header_ = look::label(QString(), look::TextSize::Body, panel);
-    header_->setObjectName(QStringLiteral("cartao.header"));
+    header_ = look::line(QStringLiteral("cartao.header"), look::TextSize::Body, panel);
     header_->setTextFormat(Qt::PlainText);
     header_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     header_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     header_->setWordWrap(true);
     header_->setMinimumHeight(header_->fontMetrics().lineSpacing() * kHeaderLines);
     inside->addWidget(header_);
-    headerHint_ = look::label(QString(), look::TextSize::Hint, panel);
-    headerHint_->setObjectName(QStringLiteral("cartao.headerHint"));
+    headerHint_ = look::line(QStringLiteral("cartao.headerHint"), look::TextSize::Hint, panel);
     inside->addWidget(headerHint_);
     column->addWidget(panel);
     return part;
@@ -135,12 +107,7 @@ void CartaoWindow::connectAll() {
         showPreview();
         showContext();
     });
-    connect(employees_, &EmployeePicker::shiftChosen, this, [this](ShiftFilter shift) {
-        cartao_.list().filterBy(shift);
-        showList();
-    });
-    connect(employees_, &EmployeePicker::searched, this, [this] {
-        employees_->selectShown();
+    connect(employees_, &EmployeePicker::narrowed, this, [this] {
         showPreview();
         showContext();
     });

@@ -86,9 +86,7 @@ OptionGroup* PrintChoicesBox::buildSheetExit() {
 }
 
 QWidget* PrintChoicesBox::buildSheetExitPicture() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(this);
     picture_ = new QLabel(part);
     picture_->setObjectName(QStringLiteral("cartao.sheetExitPicture"));
     column->addWidget(picture_);
@@ -115,9 +113,7 @@ void PrintChoicesBox::changeEvent(QEvent* event) {
 }
 
 QWidget* PrintChoicesBox::buildHeaderChoice() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(this);
     column->addWidget(look::heading(QStringLiteral("# - Impresso Cabeçalho de Cartão:"), part));
     printHeader_ = new QCheckBox(QStringLiteral("Imprimir empresa e funcion&ário"), part);
     look::name(*printHeader_, QStringLiteral("cartao.printHeader"),
@@ -127,9 +123,7 @@ QWidget* PrintChoicesBox::buildHeaderChoice() {
 }
 
 QWidget* PrintChoicesBox::buildPrinterTrays() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(this);
     column->addWidget(look::heading(QStringLiteral("Bandeja Impressora:"), part));
     auto* row = new QHBoxLayout;
     row->setSpacing(look::kGap);

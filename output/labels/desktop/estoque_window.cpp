@@ -9,8 +9,6 @@
 #include "output/cards/desktop/output_choice.h"
 
 #include <QLineEdit>
-#include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace winvrx {
@@ -28,23 +26,15 @@ EstoqueWindow::EstoqueWindow(Etiquetas& labels, QWidget* parent)
     setBody(buildBody());
     setSubtitle(QStringLiteral("Folhas para preencher à mão"));
     setChips({toQt(labels_.company().code) + QLatin1Char(' ') + toQt(labels_.company().name)});
-    QPushButton* go =
-        addClosingButton(QStringLiteral("&Imprimir"), QStringLiteral("estoque.print"));
-    go->setIcon(look::icon(QStringLiteral("print")));
-    go->setDefault(true);
-    connect(go, &QPushButton::clicked, this, &EstoqueWindow::print);
-    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, go,
-            &QPushButton::click);
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("estoque.close"));
-    connect(close, &QPushButton::clicked, this, &EstoqueWindow::reject);
+    addDefaultButton({"print", QStringLiteral("&Imprimir"), QKeySequence::Print, "estoque.print",
+                      [this] { print(); }});
+    addLeavingButton("estoque.close");
     resize(look::kSmallWindowSize);
     form_->setFocus();
 }
 
 QWidget* EstoqueWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* column = new QVBoxLayout(body);
-    look::layOutBody(*column);
+    const auto [body, column] = look::body(this);
     form_ = new OptionGroup(QStringLiteral("Folha:"), QStringLiteral("estoque.form"), 2, body);
     form_->addOption(static_cast<int>(StockForm::Movement),
                      QStringLiteral("&Entradas e saídas de um produto, com saldo"),

@@ -16,9 +16,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSignalBlocker>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace winvrx {
@@ -44,7 +42,7 @@ EtiquetasWindow::EtiquetasWindow(Etiquetas& labels, EtiquetasWindowDesk desk, QW
       desk_(std::move(desk)) {
     labels_.load();
     buildCommands();
-    setBody(buildBody());
+    setBody({{buildPeople(this), 3}, {buildTexts(this), 3}, {buildSheet(this), 4}});
     buildClosingButtons();
     connectAll();
     people_->refresh();
@@ -55,90 +53,52 @@ EtiquetasWindow::EtiquetasWindow(Etiquetas& labels, EtiquetasWindowDesk desk, QW
 }
 
 void EtiquetasWindow::buildCommands() {
-    struct Command {
-        const char* icon;
-        QString text;
-        QKeySequence key;
-        const char* name;
-        const std::function<void(QWidget*)>& screen;
-    };
-    const Command commands[] = {{"edit", QStringLiteral("Textos das Etiquetas"),
-                                 Qt::CTRL | Qt::Key_E, "edit", desk_.openTexts},
-                                {"printer-settings", QStringLiteral("Selecionar Impressora"),
-                                 Qt::CTRL | Qt::Key_R, "printer", desk_.openPrinters},
-                                {"ruler", QStringLiteral("Escala e Calibração"),
-                                 Qt::CTRL | Qt::Key_J, "calibration", desk_.openCalibration},
-                                {"stock", QStringLiteral("Controle de Estoque"),
-                                 Qt::CTRL | Qt::Key_K, "stock", desk_.openStock}};
-    for (const Command& one : commands) {
-        QToolButton* button = addCommand(QLatin1String(one.icon), one.text, one.key,
-                                         QStringLiteral("etiquetas.") + QLatin1String(one.name));
-        connect(button, &QToolButton::clicked, this,
-                [this, &screen = one.screen] { visit(screen); });
-    }
-    QToolButton* frames = addCommand(QStringLiteral("align"), QStringLiteral("Imprimir Teste"),
-                                     Qt::CTRL | Qt::Key_T, QStringLiteral("etiquetas.frames"));
-    frames->setToolTip(QStringLiteral("Molduras em papel comum, para comparar contra a luz"));
-    connect(frames, &QToolButton::clicked, this, [this] { print(&Etiquetas::printFrames); });
+    addCommand({"edit", QStringLiteral("Textos das Etiquetas"), Qt::CTRL | Qt::Key_E,
+                "etiquetas.edit", [this] { visit(desk_.openTexts); }});
+    addCommand({"printer-settings", QStringLiteral("Selecionar Impressora"), Qt::CTRL | Qt::Key_R,
+                "etiquetas.printer", [this] { visit(desk_.openPrinters); }});
+    addCommand({"ruler", QStringLiteral("Escala e Calibração"), Qt::CTRL | Qt::Key_J,
+                "etiquetas.calibration", [this] { visit(desk_.openCalibration); }});
+    addCommand({"stock", QStringLiteral("Controle de Estoque"), Qt::CTRL | Qt::Key_K,
+                "etiquetas.stock", [this] { visit(desk_.openStock); }});
+    addCommand({"align", QStringLiteral("Imprimir Teste"), Qt::CTRL | Qt::Key_T, "etiquetas.frames",
+                [this] { print(&Etiquetas::printFrames); }})
+        ->setToolTip(QStringLiteral("Molduras em papel comum, para comparar contra a luz"));
 }
 
 void EtiquetasWindow::buildClosingButtons() {
-    QPushButton* go =
-        addClosingButton(QStringLiteral("&Imprimir"), QStringLiteral("etiquetas.print"));
-    go->setIcon(look::icon(QStringLiteral("print")));
-    go->setDefault(true);
-    connect(go, &QPushButton::clicked, this, [this] { print(&Etiquetas::print); });
-    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, go,
-            &QPushButton::click);
-    QPushButton* close =
-        addClosingButton(QStringLiteral("&Sair"), QStringLiteral("etiquetas.close"));
-    connect(close, &QPushButton::clicked, this, &EtiquetasWindow::reject);
-}
-
-QWidget* EtiquetasWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kGroupGap);
-    row->addWidget(buildPeople(body), 3);
-    row->addWidget(buildTexts(body), 3);
-    row->addWidget(buildSheet(body), 4);
-    return body;
+    addDefaultButton({"print", QStringLiteral("&Imprimir"), QKeySequence::Print, "etiquetas.print",
+                      [this] { print(&Etiquetas::print); }});
+    addLeavingButton("etiquetas.close");
 }
 
 QWidget* EtiquetasWindow::buildPeople(QWidget* parent) {
     auto* part = new QWidget(parent);
     auto* column = new QVBoxLayout(part);
     look::layOutPart(*column);
-    people_ = new EmployeePicker(labels_.list(),
-                                 {.screen = QStringLiteral("etiquetas"), .ticks = true}, part);
+    people_ = new EmployeePicker(
+        labels_.list(), {.screen = QStringLiteral("etiquetas"), .narrows = true, .ticks = true},
+        part);
     people_->setMinimumWidth(people_->fontMetrics().averageCharWidth() * kListCharacters);
     column->addWidget(people_, 1);
     auto* row = new QHBoxLayout;
     row->setSpacing(look::kGap);
-    for (const bool on : {true, false}) {
-        const QString text =
-            on ? QStringLiteral("Marcar &todos") : QStringLiteral("Desmarca&r todos");
-        auto* button = new QPushButton(text, part);
-        look::name(*button,
-                   on ? QStringLiteral("etiquetas.tickAll") : QStringLiteral("etiquetas.untickAll"),
-                   text);
-        button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, [this, on] {
+    const auto add = [&](const QString& text, const char* name, bool on) {
+        const auto tickShown = [this, on] {
             labels_.list().tickShown(on);
             people_->refresh();
             showContext();
-        });
-        row->addWidget(button);
-    }
+        };
+        row->addWidget(newButton({"", text, {}, name, tickShown}, part));
+    };
+    add(QStringLiteral("Marcar &todos"), "etiquetas.tickAll", true);
+    add(QStringLiteral("Desmarca&r todos"), "etiquetas.untickAll", false);
     column->addLayout(row);
     return part;
 }
 
 QWidget* EtiquetasWindow::buildTexts(QWidget* parent) {
-    auto* part = new QWidget(parent);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(parent);
     kind_ =
         new OptionGroup(QStringLiteral("Etiquetas:"), QStringLiteral("etiquetas.kind"), 2, part);
     kind_->addOption(idOf(LabelKind::Annotations), QStringLiteral("Anotações da &CTPS"),
@@ -163,9 +123,7 @@ QWidget* EtiquetasWindow::buildTexts(QWidget* parent) {
 }
 
 QWidget* EtiquetasWindow::buildSheet(QWidget* parent) {
-    auto* part = new QWidget(parent);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(parent);
     sheets_ =
         new OptionGroup(QStringLiteral("Folha de etiquetas:"), QStringLiteral("etiquetas.sheet"),
                         static_cast<int>(kLabelSheets.size()), part);
@@ -187,9 +145,7 @@ QWidget* EtiquetasWindow::buildSheet(QWidget* parent) {
 }
 
 QWidget* EtiquetasWindow::buildNumbers(QWidget* parent) {
-    auto* part = new QWidget(parent);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(parent);
     copies_ = new Field({.caption = QStringLiteral("Có&pias de cada"),
                          .objectName = QStringLiteral("etiquetas.copies"),
                          .width = kCopiesWidth,
@@ -214,12 +170,7 @@ QWidget* EtiquetasWindow::buildNumbers(QWidget* parent) {
 }
 
 void EtiquetasWindow::connectAll() {
-    connect(people_, &EmployeePicker::shiftChosen, this, [this](ShiftFilter shift) {
-        labels_.list().filterBy(shift);
-        people_->refresh();
-        showContext();
-    });
-    connect(people_, &EmployeePicker::searched, this, [this] { people_->selectShown(); });
+    connect(people_, &EmployeePicker::narrowed, this, &EtiquetasWindow::showContext);
     connect(people_, &EmployeePicker::ticked, this, &EtiquetasWindow::showContext);
     connect(texts_, &QListWidget::itemChanged, this, [this](const QListWidgetItem* item) {
         labels_.tick(static_cast<std::size_t>(texts_->row(item)),

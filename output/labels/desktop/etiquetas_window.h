@@ -35,7 +35,6 @@ class EtiquetasWindow : public ScreenWindow {
   private:
     void buildCommands();
     void buildClosingButtons();
-    [[nodiscard]] QWidget* buildBody();
     [[nodiscard]] QWidget* buildPeople(QWidget* parent);
     [[nodiscard]] QWidget* buildTexts(QWidget* parent);
     [[nodiscard]] QWidget* buildSheet(QWidget* parent);

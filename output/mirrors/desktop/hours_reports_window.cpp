@@ -11,9 +11,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
 #include <QStandardPaths>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace winvrx {
@@ -56,54 +54,41 @@ HoursReportsWindow::HoursReportsWindow(HoursReports& reports,
     employees_->focusList();
 }
 
-QToolButton* HoursReportsWindow::command(const char* icon, const QString& text,
-                                         const QKeySequence& key, const char* name) {
-    return addCommand(QLatin1String(icon), text, key,
-                      QStringLiteral("horas.") + QLatin1String(name));
-}
-
 void HoursReportsWindow::buildCommands() {
-    connect(command("month", QStringLiteral("Mês Trabalho (Todos)"), Qt::CTRL | Qt::Key_M, "month"),
-            &QToolButton::clicked, this, [this] {
-                if (openWorkMonth_) openWorkMonth_(this);
-                reports_.load();
-                employees_->refresh();
-                showPeriod();
-                showContext();
-            });
-    connect(command("mirror", QStringLiteral("Espelho de Ponto"), Qt::CTRL | Qt::Key_I, "mirrors"),
-            &QToolButton::clicked, this, &HoursReportsWindow::printMirrors);
-    connect(command("sheet", QStringLiteral("Folha Manual"), Qt::CTRL | Qt::Key_L, "manual"),
-            &QToolButton::clicked, this, &HoursReportsWindow::printManualSheet);
-    connect(
-        command("preview", QStringLiteral("Ver Resumo"), Qt::CTRL | Qt::Key_R, "overview"),
-        &QToolButton::clicked, this, [this] {
-            make([this](const PageProgress& progress) { return reports_.showOverview(progress); });
-        });
-    connect(command("sheet", QStringLiteral("Espelho em Texto"), Qt::CTRL | Qt::Key_E, "mirror"),
-            &QToolButton::clicked, this, [this] {
-                if (takePeriod()) (void)reports_.showMirrorText(employees_->selected());
-            });
-    connect(command("save", QStringLiteral("Totais em CSV"), Qt::CTRL | Qt::Key_T, "csv"),
-            &QToolButton::clicked, this, &HoursReportsWindow::exportSums);
+    addCommand({"month", QStringLiteral("Mês Trabalho (Todos)"), Qt::CTRL | Qt::Key_M,
+                "horas.month", [this] {
+                    if (openWorkMonth_) openWorkMonth_(this);
+                    reports_.load();
+                    employees_->refresh();
+                    showPeriod();
+                    showContext();
+                }});
+    addCommand({"mirror", QStringLiteral("Espelho de Ponto"), Qt::CTRL | Qt::Key_I, "horas.mirrors",
+                [this] { printMirrors(); }});
+    addCommand({"sheet", QStringLiteral("Folha Manual"), Qt::CTRL | Qt::Key_L, "horas.manual",
+                [this] { printManualSheet(); }});
+    addCommand(
+        {"preview", QStringLiteral("Ver Resumo"), Qt::CTRL | Qt::Key_R, "horas.overview", [this] {
+             make([this](const PageProgress& progress) { return reports_.showOverview(progress); });
+         }});
+    addCommand(
+        {"sheet", QStringLiteral("Espelho em Texto"), Qt::CTRL | Qt::Key_E, "horas.mirror", [this] {
+             if (takePeriod()) (void)reports_.showMirrorText(employees_->selected());
+         }});
+    addCommand({"save", QStringLiteral("Totais em CSV"), Qt::CTRL | Qt::Key_T, "horas.csv",
+                [this] { exportSums(); }});
 }
 
 void HoursReportsWindow::buildClosingButtons() {
-    QPushButton* report =
-        addClosingButton(QStringLiteral("&Gerar Relatório"), QStringLiteral("horas.report"));
-    report->setIcon(look::icon(QStringLiteral("sheet")));
-    report->setDefault(true);
-    connect(report, &QPushButton::clicked, this, [this] {
-        make([this](const PageProgress& progress) { return reports_.report(progress); });
-    });
-    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, report,
-            &QPushButton::click);
-    QPushButton* sides = addClosingButton(QStringLiteral("Espelho nos &Lados do Cartão"),
-                                          QStringLiteral("horas.sides"));
-    sides->setIcon(look::icon(QStringLiteral("card")));
-    connect(sides, &QPushButton::clicked, this, &HoursReportsWindow::printSides);
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("horas.close"));
-    connect(close, &QPushButton::clicked, this, &HoursReportsWindow::reject);
+    addDefaultButton(
+        {"sheet", QStringLiteral("&Gerar Relatório"), QKeySequence::Print, "horas.report", [this] {
+             make([this](const PageProgress& progress) { return reports_.report(progress); });
+         }});
+    addClosingButton(
+        {"card", QStringLiteral("Espelho nos &Lados do Cartão"), {}, "horas.sides", [this] {
+             printSides();
+         }});
+    addLeavingButton("horas.close");
 }
 
 QWidget* HoursReportsWindow::buildBody() {
@@ -111,8 +96,9 @@ QWidget* HoursReportsWindow::buildBody() {
     auto* row = new QHBoxLayout(body);
     look::layOutBody(*row);
     row->setSpacing(look::kGroupGap);
-    employees_ = new EmployeePicker(reports_.list(),
-                                    {.screen = QStringLiteral("horas"), .scales = true}, body);
+    employees_ = new EmployeePicker(
+        reports_.list(), {.screen = QStringLiteral("horas"), .scales = true, .narrows = true},
+        body);
     employees_->setMinimumWidth(employees_->fontMetrics().averageCharWidth() * kListCharacters);
     row->addWidget(employees_, 2);
     auto* right = new QVBoxLayout;
@@ -124,20 +110,7 @@ QWidget* HoursReportsWindow::buildBody() {
     right->addWidget(buildExplanation(body));
     right->addStretch();
     row->addLayout(right, 3);
-    connect(employees_, &EmployeePicker::shiftChosen, this, [this](ShiftFilter shift) {
-        reports_.list().filterBy(shift);
-        employees_->refresh();
-        showContext();
-    });
-    connect(employees_, &EmployeePicker::scaleChosen, this, [this](std::optional<Scale> scale) {
-        reports_.list().filterBy(scale);
-        employees_->refresh();
-        showContext();
-    });
-    connect(employees_, &EmployeePicker::searched, this, [this] {
-        employees_->selectShown();
-        showContext();
-    });
+    connect(employees_, &EmployeePicker::narrowed, this, &HoursReportsWindow::showContext);
     return body;
 }
 
@@ -165,29 +138,22 @@ QWidget* HoursReportsWindow::buildPeriod(QWidget* parent) {
     column->addLayout(dates);
     auto* choices = new QHBoxLayout;
     choices->setSpacing(look::kGap);
-    const auto choice = [&](const QString& text, const QString& name, auto choose) {
-        auto* button = new QPushButton(text, part);
-        look::name(*button, QStringLiteral("horas.") + name, QString(text).remove(u'&'));
-        button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, [this, choose] {
+    const auto choice = [&](const QString& text, const char* name, auto choose) {
+        const auto take = [this, choose] {
             (reports_.*choose)();
             showPeriod();
-        });
-        choices->addWidget(button);
+        };
+        choices->addWidget(newButton({"", text, {}, name, take}, part));
     };
-    choice(QStringLiteral("&Mês de trabalho"), QStringLiteral("wholeMonth"),
-           &HoursReports::chooseMonth);
-    choice(QStringLiteral("&Fechamento do ponto"), QStringLiteral("closing"),
-           &HoursReports::chooseClosing);
+    choice(QStringLiteral("&Mês de trabalho"), "horas.wholeMonth", &HoursReports::chooseMonth);
+    choice(QStringLiteral("&Fechamento do ponto"), "horas.closing", &HoursReports::chooseClosing);
     choices->addStretch();
     column->addLayout(choices);
     return part;
 }
 
 QWidget* HoursReportsWindow::buildExplanation(QWidget* parent) {
-    auto* part = new QWidget(parent);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(parent);
     column->addWidget(look::heading(QStringLiteral("O que cada comando gera"), part));
     const QStringList lines = {
         QStringLiteral("Espelho de Ponto: uma folha para cada funcionário da lista assinar."),

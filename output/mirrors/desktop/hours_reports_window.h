@@ -3,8 +3,6 @@
 #include "foundation/widgets/desktop/screen_window.h"
 #include "output/mirrors/hours_reports.h"
 
-class QToolButton;
-
 namespace winvrx {
 
 class EmployeePicker;
@@ -31,8 +29,6 @@ class HoursReportsWindow : public ScreenWindow {
     [[nodiscard]] QWidget* buildBody();
     [[nodiscard]] QWidget* buildPeriod(QWidget* parent);
     [[nodiscard]] QWidget* buildExplanation(QWidget* parent);
-    [[nodiscard]] QToolButton* command(const char* icon, const QString& text,
-                                       const QKeySequence& key, const char* name);
 
     void showPeriod();
     void showContext();

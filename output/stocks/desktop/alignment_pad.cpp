@@ -57,9 +57,7 @@ QAbstractButton* AlignmentPad::arrow(const QString& text, const char* icon, cons
 
 QWidget* AlignmentPad::buildAxis(const QString& heading, QLineEdit*& box, const char* boxName,
                                  QAbstractButton* back, QAbstractButton* forth) {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(this);
     QLabel* title = look::heading(heading, part);
     title->setAlignment(Qt::AlignHCenter);
     column->addWidget(title);

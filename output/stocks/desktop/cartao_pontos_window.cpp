@@ -6,13 +6,10 @@
 #include "output/stocks/desktop/alignment_pad.h"
 #include "report/desktop/scale_panel.h"
 
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPushButton>
 #include <QSignalBlocker>
 #include <QTabWidget>
-#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -40,10 +37,10 @@ CartaoPontosWindow::CartaoPontosWindow(CartaoPontos& screen, LayoutSource layout
       screen_(screen) {
     screen_.load();
     buildCommands();
-    setBody(buildBody(std::move(layouts)));
-    QPushButton* close =
-        addClosingButton(QStringLiteral("Fecha&r"), QStringLiteral("cartaoPontos.close"));
-    connect(close, &QPushButton::clicked, this, &CartaoPontosWindow::reject);
+    setBody({{buildEntries(this)},
+             {buildSample(std::move(layouts), this), 1},
+             {buildAdjustments(this)}});
+    addLeavingButton("cartaoPontos.close", QStringLiteral("Fecha&r"));
     connectAll();
     resize(look::kWindowSize);
     showEntries();
@@ -52,23 +49,10 @@ CartaoPontosWindow::CartaoPontosWindow(CartaoPontos& screen, LayoutSource layout
 }
 
 void CartaoPontosWindow::buildCommands() {
-    QToolButton* test = addCommand(QStringLiteral("print"), QStringLiteral("Imprimir Teste"),
-                                   QKeySequence::Print, QStringLiteral("cartaoPontos.test"));
-    connect(test, &QToolButton::clicked, this, &CartaoPontosWindow::printTest);
-    QToolButton* reset = addCommand(QStringLiteral("restore"), QStringLiteral("Reset Alinhamentos"),
-                                    Qt::CTRL | Qt::Key_R, QStringLiteral("cartaoPontos.reset"));
-    connect(reset, &QToolButton::clicked, this, &CartaoPontosWindow::reset);
-}
-
-QWidget* CartaoPontosWindow::buildBody(LayoutSource layouts) {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kGroupGap);
-    row->addWidget(buildEntries(body));
-    row->addWidget(buildSample(std::move(layouts), body), 1);
-    row->addWidget(buildAdjustments(body));
-    return body;
+    addCommand({"print", QStringLiteral("Imprimir Teste"), QKeySequence::Print, "cartaoPontos.test",
+                [this] { printTest(); }});
+    addCommand({"restore", QStringLiteral("Reset Alinhamentos"), Qt::CTRL | Qt::Key_R,
+                "cartaoPontos.reset", [this] { reset(); }});
 }
 
 QWidget* CartaoPontosWindow::buildEntries(QWidget* parent) {
@@ -84,9 +68,7 @@ QWidget* CartaoPontosWindow::buildEntries(QWidget* parent) {
 }
 
 QWidget* CartaoPontosWindow::buildSample(LayoutSource layouts, QWidget* parent) {
-    auto* part = new QWidget(parent);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(parent);
     column->addWidget(look::heading(QStringLiteral("Amostra"), part));
     sample_ = new CardSample(std::move(layouts), part);
     column->addWidget(sample_, 1);

@@ -25,7 +25,6 @@ class CartaoPontosWindow : public ScreenWindow {
 
   private:
     void buildCommands();
-    [[nodiscard]] QWidget* buildBody(LayoutSource layouts);
     [[nodiscard]] QWidget* buildEntries(QWidget* parent);
     [[nodiscard]] QWidget* buildSample(LayoutSource layouts, QWidget* parent);
     [[nodiscard]] QWidget* buildAdjustments(QWidget* parent);

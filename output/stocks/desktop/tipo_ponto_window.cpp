@@ -35,28 +35,15 @@ TipoPontoWindow::TipoPontoWindow(TipoPonto& stocks, CardPictures& pictures, QWid
     : ScreenWindow(QStringLiteral("tipoPonto"), QStringLiteral("Tipo de Cartão"), parent),
       stocks_(stocks),
       pictures_(pictures) {
-    setBody(buildBody());
+    options_ =
+        new StockGrid(QStringLiteral("tipoPonto.stocks"), TipoPonto::offered(), pictures_, this);
+    setBody({{options_, 1}, {buildInUse(this)}});
     setState(kState);
-    QPushButton* close =
-        addClosingButton(QStringLiteral("&Fechar"), QStringLiteral("tipoPonto.close"));
-    close->setDefault(true);
-    connect(close, &QPushButton::clicked, this, &TipoPontoWindow::reject);
+    addLeavingButton("tipoPonto.close", QStringLiteral("&Fechar"))->setDefault(true);
     connect(options_, &StockGrid::picked, this, &TipoPontoWindow::choose);
     stocks_.load();
     showCurrent();
     options_->setFocus();
-}
-
-QWidget* TipoPontoWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kGroupGap);
-    options_ =
-        new StockGrid(QStringLiteral("tipoPonto.stocks"), TipoPonto::offered(), pictures_, body);
-    row->addWidget(options_, 1);
-    row->addWidget(buildInUse(body));
-    return body;
 }
 
 QWidget* TipoPontoWindow::buildInUse(QWidget* parent) {
@@ -64,12 +51,10 @@ QWidget* TipoPontoWindow::buildInUse(QWidget* parent) {
     auto* column = new QVBoxLayout(panel);
     look::layOutPart(*column);
     column->addWidget(look::heading(QStringLiteral("Cartão em uso"), panel));
-    current_ = look::label(QString(), look::TextSize::Title, panel);
-    current_->setObjectName(QStringLiteral("tipoPonto.current"));
+    current_ = look::line(QStringLiteral("tipoPonto.current"), look::TextSize::Title, panel);
     column->addWidget(current_);
-    description_ = look::label(QString(), look::TextSize::Body, panel);
-    description_->setObjectName(QStringLiteral("tipoPonto.description"));
-    description_->setWordWrap(true);
+    description_ =
+        look::paragraph(QStringLiteral("tipoPonto.description"), look::TextSize::Body, panel);
     column->addWidget(description_);
     column->addSpacing(look::kMargin);
     sheets_ = new QWidget(panel);
@@ -105,8 +90,7 @@ void TipoPontoWindow::choose(const CardStock* stock) {
 
 void TipoPontoWindow::showCurrent() {
     const CardStock* stock = stocks_.current();
-    current_->setText(toQt(stocks_.label()));
-    current_->setVisible(!current_->text().isEmpty());
+    look::showText(*current_, toQt(stocks_.label()));
     current_->setAccessibleName(QStringLiteral("Cartão em uso: ") + current_->text());
     options_->choose(stock);
     const bool isCard = stock && stock->offered;

@@ -27,7 +27,6 @@ class TipoPontoWindow : public ScreenWindow {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    [[nodiscard]] QWidget* buildBody();
     [[nodiscard]] QWidget* buildInUse(QWidget* parent);
     [[nodiscard]] QLabel* addSheet(QBoxLayout& row, const QString& position, const QString& name);
     void choose(const CardStock* stock);

@@ -19,14 +19,6 @@ namespace {
 
 enum Group { kTerms, kWork, kBooklet };
 
-template <const auto& List>
-std::vector<Choice> choicesIn() {
-    std::vector<Choice> choices;
-    for (const std::string_view text : List)
-        choices.push_back({std::string(text), std::string(text)});
-    return choices;
-}
-
 constexpr FieldKind kKindField{.choices = choicesIn<kContractKinds>};
 constexpr FieldKind kPlaceField{.choices = choicesIn<kBookletPlaces>};
 
@@ -75,14 +67,11 @@ ContractForm::ContractForm(Date today, QWidget* parent) : QWidget(parent), today
     look::layOutPart(*column);
     QGridLayout* terms = addGrid(*column, nullptr);
     addFields(*terms, kTerms);
-    trial_ = look::label(QString(), look::TextSize::Hint, this);
-    trial_->setObjectName(QStringLiteral("contrato.trial"));
+    trial_ = look::line(QStringLiteral("contrato.trial"), look::TextSize::Hint, this);
     column->addWidget(trial_);
     QGridLayout* work = addGrid(*column, "Trabalho e remuneração");
     addFields(*work, kWork);
-    words_ = look::label(QString(), look::TextSize::Body, this);
-    words_->setObjectName(QStringLiteral("contrato.words"));
-    words_->setWordWrap(true);
+    words_ = look::paragraph(QStringLiteral("contrato.words"), look::TextSize::Body, this);
     work->addWidget(words_, 2, kWordsColumn, 1, kGridColumns - kWordsColumn, Qt::AlignVCenter);
     QGridLayout* booklet = addGrid(*column, "Carteira de trabalho");
     addFields(*booklet, kBooklet);
@@ -93,11 +82,7 @@ ContractForm::ContractForm(Date today, QWidget* parent) : QWidget(parent), today
 
 QGridLayout* ContractForm::addGrid(QVBoxLayout& column, const char* title) {
     if (title) column.addWidget(look::heading(QString::fromUtf8(title), this));
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(look::kGap);
-    grid->setVerticalSpacing(look::kSmallGap / 2);
-    for (int place = 0; place < kGridColumns; ++place)
-        grid->setColumnStretch(place, 1);
+    QGridLayout* grid = look::fieldGrid(kGridColumns);
     column.addLayout(grid);
     return grid;
 }
@@ -187,9 +172,7 @@ void ContractForm::showParts(const Contract& contract) {
     field(&Contract::extensionDays).setVisible(contract.hasTrial());
     field(&Contract::ends).setVisible(fixed);
     field(&Contract::reason).setVisible(fixed);
-    const QString ends = endsText(contract);
-    trial_->setText(ends);
-    trial_->setVisible(!ends.isEmpty());
+    look::showText(*trial_, endsText(contract));
     words_->setText(wordsOf(contract.salary));
 }
 

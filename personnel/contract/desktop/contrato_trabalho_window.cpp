@@ -8,12 +8,8 @@
 #include "report/desktop/calibration_window.h"
 
 #include <QApplication>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QShortcut>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace winvrx {
@@ -27,23 +23,15 @@ constexpr int kSideWidth = 288;
 ContratoTrabalhoWindow::ContratoTrabalhoWindow(ContratoTrabalho& command, QWidget* parent)
     : ScreenWindow(QStringLiteral("contrato"), QStringLiteral("Contrato de Trabalho"), parent),
       command_(command) {
-    setBody(buildBody());
+    setBody({{buildEmployees()}, {buildContract(), 1}});
     buildCommands();
-    buildClosingButtons();
-    addKeys();
     refresh();
     employees_->focusList();
 }
 
-QWidget* ContratoTrabalhoWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kGroupGap);
-    employees_ = new EmployeePicker(command_.list(), {.screen = QStringLiteral("contrato")}, body);
+QWidget* ContratoTrabalhoWindow::buildEmployees() {
+    employees_ = new EmployeePicker(command_.list(), {.screen = QStringLiteral("contrato")}, this);
     employees_->setFixedWidth(kSideWidth);
-    row->addWidget(employees_);
-    row->addWidget(buildContract(body), 1);
     connect(employees_, &EmployeePicker::shiftChosen, this, [this](ShiftFilter shift) {
         if (!mayClose()) return employees_->refresh();
         command_.list().filterBy(shift);
@@ -53,15 +41,12 @@ QWidget* ContratoTrabalhoWindow::buildBody() {
     connect(employees_, &EmployeePicker::employeeChosen, this,
             &ContratoTrabalhoWindow::chooseEmployee);
     connect(employees_, &EmployeePicker::opened, this, [this] { form_->focusFirst(); });
-    return body;
+    return employees_;
 }
 
-QWidget* ContratoTrabalhoWindow::buildContract(QWidget* parent) {
-    auto* part = new QWidget(parent);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
-    name_ = look::heading(QString(), part);
-    name_->setObjectName(QStringLiteral("contrato.name"));
+QWidget* ContratoTrabalhoWindow::buildContract() {
+    const auto [part, column] = look::part(this);
+    name_ = look::line(QStringLiteral("contrato.name"), look::TextSize::Heading, part);
     column->addWidget(name_);
     form_ = new ContractForm(command_.today(), part);
     connect(form_, &ContractForm::edited, this, &ContratoTrabalhoWindow::showState);
@@ -72,43 +57,22 @@ QWidget* ContratoTrabalhoWindow::buildContract(QWidget* parent) {
 }
 
 void ContratoTrabalhoWindow::buildCommands() {
-    const auto add = [this](const char* icon, const QString& text, const QKeySequence& key,
-                            const char* name, auto act, QWidget* within = nullptr) {
-        QToolButton* button = addCommand(QLatin1String(icon), text, key,
-                                         QStringLiteral("contrato.") + QLatin1String(name), within);
-        connect(button, &QToolButton::clicked, this, act);
-    };
-    add("print", QStringLiteral("Imprimir CTPS"), QKeySequence::Print, "print",
-        [this] { print(ReportOutput::Printer); });
-    add("preview", QStringLiteral("Visualizar CTPS"), Qt::Key_F7, "preview",
-        [this] { print(ReportOutput::Preview); });
-    add("documents", QStringLiteral("Texto do Contrato"), Qt::Key_F8, "text",
-        [this] { showText(); });
-    add(
-        "delete", QStringLiteral("Excluir"), Qt::Key_Delete, "remove", [this] { remove(); },
-        employees_);
-    add("ruler", QStringLiteral("Calibrar"), Qt::Key_F9, "calibrate", [this] { calibrate(); });
-    add("sheet", QStringLiteral("Carta de Correção NF-e"), Qt::Key_F10, "letter",
-        [this] { emit correctionLetterRequested(); });
-}
-
-void ContratoTrabalhoWindow::buildClosingButtons() {
-    QPushButton* save =
-        addClosingButton(QStringLiteral("Gr&avar"), QStringLiteral("contrato.save"));
-    save->setIcon(look::icon(QStringLiteral("save")));
-    save->setDefault(true);
-    connect(save, &QPushButton::clicked, this, &ContratoTrabalhoWindow::save);
-    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this,
-            &ContratoTrabalhoWindow::save);
-    QPushButton* close =
-        addClosingButton(QStringLiteral("&Sair"), QStringLiteral("contrato.close"));
-    connect(close, &QPushButton::clicked, this, &ContratoTrabalhoWindow::reject);
-}
-
-void ContratoTrabalhoWindow::addKeys() {
-    for (const auto& [key, by] : {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)})
-        connect(new QShortcut(key, this), &QShortcut::activated, employees_,
-                [this, step = by] { employees_->step(step); });
+    addCommand({"print", QStringLiteral("Imprimir CTPS"), QKeySequence::Print, "contrato.print",
+                [this] { print(ReportOutput::Printer); }});
+    addCommand({"preview", QStringLiteral("Visualizar CTPS"), Qt::Key_F7, "contrato.preview",
+                [this] { print(ReportOutput::Preview); }});
+    addCommand({"documents", QStringLiteral("Texto do Contrato"), Qt::Key_F8, "contrato.text",
+                [this] { showText(); }});
+    addCommand({"delete", QStringLiteral("Excluir"), Qt::Key_Delete, "contrato.remove",
+                [this] { remove(); }, employees_});
+    addCommand({"ruler", QStringLiteral("Calibrar"), Qt::Key_F9, "contrato.calibrate",
+                [this] { calibrate(); }});
+    addCommand({"sheet", QStringLiteral("Carta de Correção NF-e"), Qt::Key_F10, "contrato.letter",
+                [this] { emit correctionLetterRequested(); }});
+    addDefaultButton({"save", QStringLiteral("Gr&avar"), QKeySequence::Save, "contrato.save",
+                      [this] { save(); }});
+    addLeavingButton("contrato.close");
+    addPageKeys([this](int by) { employees_->step(by); });
 }
 
 void ContratoTrabalhoWindow::chooseEmployee(std::size_t position) {

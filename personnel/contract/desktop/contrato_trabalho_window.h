@@ -29,11 +29,9 @@ class ContratoTrabalhoWindow : public ScreenWindow {
     bool mayClose() override;
 
   private:
-    [[nodiscard]] QWidget* buildBody();
-    [[nodiscard]] QWidget* buildContract(QWidget* parent);
+    [[nodiscard]] QWidget* buildEmployees();
+    [[nodiscard]] QWidget* buildContract();
     void buildCommands();
-    void buildClosingButtons();
-    void addKeys();
 
     void chooseEmployee(std::size_t position);
     void refresh();

@@ -3,20 +3,16 @@
 #include "foundation/register/desktop/employee_picker.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/faults.h"
+#include "foundation/widgets/desktop/enter_key.h"
 #include "foundation/widgets/desktop/look.h"
 #include "personnel/documents/desktop/paper_form.h"
 #include "personnel/documents/desktop/paper_view.h"
 #include "personnel/documents/documentos.h"
 
-#include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QPushButton>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QTextBrowser>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace winvrx {
@@ -35,14 +31,7 @@ DocumentosWindow::DocumentosWindow(Documentos& screen, const std::vector<Neighbo
       screen_(screen) {
     screen_.load();
     setChips({toQt(screen_.companyTitle())});
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kMargin);
-    row->addWidget(buildEmployees());
-    row->addWidget(buildPapers());
-    row->addWidget(buildText(), 1);
-    setBody(body);
+    setBody({{buildEmployees()}, {buildPapers()}, {buildText(), 1}}, look::kMargin);
     buildCommands(neighbours);
     form_->showPaper();
     textDue_.setSingleShot(true);
@@ -54,28 +43,19 @@ DocumentosWindow::DocumentosWindow(Documentos& screen, const std::vector<Neighbo
 }
 
 void DocumentosWindow::buildCommands(const std::vector<Neighbour>& neighbours) {
-    QToolButton* open = addCommand(QStringLiteral("edit"), QStringLiteral("Abrir no Editor"),
-                                   Qt::Key_F4, QStringLiteral("documents.open"));
-    open->setToolTip(QStringLiteral("Abre o documento no LibreOffice Writer, para mudá-lo (F4)"));
-    connect(open, &QToolButton::clicked, this, [this] { send(&Documentos::show); });
+    addCommand({"edit", QStringLiteral("Abrir no Editor"), Qt::Key_F4, "documents.open",
+                [this] { send(&Documentos::show); }})
+        ->setToolTip(QStringLiteral("Abre o documento no LibreOffice Writer, para mudá-lo (F4)"));
     for (const Neighbour& one : neighbours)
-        connect(addCommand(one.icon, one.text, one.key, one.objectName), &QToolButton::clicked,
-                this, [this, open = one.open] {
-                    open(this);
-                    screen_.load();
-                    employees_->refresh();
-                    showEmployee();
-                });
-    QPushButton* print =
-        addClosingButton(QStringLiteral("&Imprimir"), QStringLiteral("documents.print"));
-    print->setIcon(look::icon(QStringLiteral("print")));
-    print->setDefault(true);
-    connect(print, &QPushButton::clicked, this, [this] { send(&Documentos::print); });
-    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, print,
-            &QPushButton::click);
-    QPushButton* close =
-        addClosingButton(QStringLiteral("&Sair"), QStringLiteral("documents.close"));
-    connect(close, &QPushButton::clicked, this, &DocumentosWindow::reject);
+        addCommand({one.icon, one.text, one.key, one.name, [this, open = one.open] {
+                        open(this);
+                        screen_.load();
+                        employees_->refresh();
+                        showEmployee();
+                    }});
+    addDefaultButton({"print", QStringLiteral("&Imprimir"), QKeySequence::Print, "documents.print",
+                      [this] { send(&Documentos::print); }});
+    addLeavingButton("documents.close");
 }
 
 QWidget* DocumentosWindow::buildEmployees() {
@@ -95,10 +75,8 @@ QWidget* DocumentosWindow::buildEmployees() {
 }
 
 QWidget* DocumentosWindow::buildPapers() {
-    auto* part = new QWidget(this);
+    const auto [part, column] = look::part(this);
     part->setFixedWidth(kFormWidth);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
     column->addWidget(look::heading(QStringLiteral("Documentos"), part));
     papers_ = new QListWidget(part);
     look::name(*papers_, QStringLiteral("documents.papers"), QStringLiteral("Documentos"));
@@ -111,7 +89,7 @@ QWidget* DocumentosWindow::buildPapers() {
     papers_->setCurrentRow(static_cast<int>(screen_.paper()));
     connect(papers_, &QListWidget::currentRowChanged, this, &DocumentosWindow::choosePaper);
     connect(papers_, &QListWidget::itemDoubleClicked, this, [this] { form_->focusFirst(); });
-    papers_->installEventFilter(this);
+    onEnter(*papers_, [this] { form_->focusFirst(); });
     column->addWidget(papers_, 2);
     form_ = new PaperForm(screen_, part);
     connect(form_, &PaperForm::edited, this, [this] { textDue_.start(); });
@@ -120,16 +98,12 @@ QWidget* DocumentosWindow::buildPapers() {
 }
 
 QWidget* DocumentosWindow::buildText() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(this);
     column->addWidget(look::heading(QStringLiteral("Como será impresso"), part));
     text_ = new QTextBrowser(part);
     look::name(*text_, QStringLiteral("documents.text"), QStringLiteral("Como será impresso"));
     column->addWidget(text_, 1);
-    remark_ = look::label(QString(), look::TextSize::Body, part);
-    remark_->setObjectName(QStringLiteral("documents.remark"));
-    remark_->setWordWrap(true);
+    remark_ = look::paragraph(QStringLiteral("documents.remark"), look::TextSize::Body, part);
     look::setTint(*remark_, look::Tint::Warning);
     column->addWidget(remark_);
     return part;
@@ -170,8 +144,7 @@ void DocumentosWindow::showText() {
         text_->clear();
         remark = toQt(explanationOf(fault));
     }
-    remark_->setText(remark.isEmpty() ? remark : QStringLiteral("⚠ ") + remark);
-    remark_->setVisible(!remark.isEmpty());
+    look::showWarning(*remark_, remark);
 }
 
 void DocumentosWindow::send(bool (Documentos::*command)()) {
@@ -179,16 +152,6 @@ void DocumentosWindow::send(bool (Documentos::*command)()) {
     (void)(screen_.*command)();
     showText();
     if (!screen_.blamed().empty()) form_->focus(screen_.blamed());
-}
-
-/// ENTER on a paper goes on to its form.
-bool DocumentosWindow::eventFilter(QObject* watched, QEvent* event) {
-    const int key =
-        event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : Qt::Key_unknown;
-    if (watched != papers_ || (key != Qt::Key_Return && key != Qt::Key_Enter))
-        return ScreenWindow::eventFilter(watched, event);
-    form_->focusFirst();
-    return true;
 }
 
 bool DocumentosWindow::mayClose() {

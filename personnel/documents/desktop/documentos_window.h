@@ -26,10 +26,10 @@ class DocumentosWindow : public ScreenWindow {
   public:
     /// A screen that is opened from this one.
     struct Neighbour {
-        QString icon;
+        const char* icon;
         QString text;
         QKeySequence key;
-        QString objectName;
+        const char* name;
         std::function<void(QWidget* parent)> open;
     };
 
@@ -38,7 +38,6 @@ class DocumentosWindow : public ScreenWindow {
 
   protected:
     bool mayClose() override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void buildCommands(const std::vector<Neighbour>& neighbours);

@@ -5,12 +5,8 @@
 #include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QScrollArea>
-#include <QShortcut>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace winvrx {
@@ -63,14 +59,8 @@ Field* fieldOf(const PayrollFact& fact, QWidget* parent) {
 FolhaDadosWindow::FolhaDadosWindow(FolhaDados& facts, const std::optional<EmployeeCode>& inHand,
                                    QWidget* parent)
     : ScreenWindow(QStringLiteral("folhaDados"), toQt(kFactsTitle), parent), facts_(facts) {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kGroupGap);
-    row->addWidget(buildEmployees(), 2);
-    row->addWidget(look::scrolled(buildFacts(), body), 3);
+    setBody({{buildEmployees(), 2}, {look::scrolled(buildFacts(), this), 3}});
     buildCommands();
-    setBody(body);
     setSubtitle(QStringLiteral("O que a folha e a rescisão precisam além do cadastro"));
     (void)facts_.load();
     employees_->refresh();
@@ -103,8 +93,7 @@ QWidget* FolhaDadosWindow::buildFacts() {
     form_ = new QWidget(this);
     auto* column = new QVBoxLayout(form_);
     look::layOutPart(*column);
-    name_ = look::heading(QString(), form_);
-    name_->setObjectName(QStringLiteral("dados.name"));
+    name_ = look::line(QStringLiteral("dados.name"), look::TextSize::Heading, form_);
     column->addWidget(name_);
     for (const PayrollFact& fact : payrollFactTable()) {
         Field* field = fieldOf(fact, form_);
@@ -119,19 +108,13 @@ QWidget* FolhaDadosWindow::buildFacts() {
 }
 
 void FolhaDadosWindow::buildCommands() {
-    connect(addCommand(QStringLiteral("documents"), QStringLiteral("Cálculo da Rescisão"),
-                       Qt::Key_F8, QStringLiteral("dados.termination")),
-            &QToolButton::clicked, this, [this] {
-                if (facts_.selected()) emit terminationRequested(*facts_.selected());
-            });
-    QPushButton* record = addClosingButton(QStringLiteral("&Gravar"), QStringLiteral("dados.save"));
-    record->setIcon(look::icon(QStringLiteral("save")));
-    record->setDefault(true);
-    connect(record, &QPushButton::clicked, this, &FolhaDadosWindow::save);
-    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this,
-            &FolhaDadosWindow::save);
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("dados.close"));
-    connect(close, &QPushButton::clicked, this, &FolhaDadosWindow::reject);
+    addCommand({"documents", QStringLiteral("Cálculo da Rescisão"), Qt::Key_F8, "dados.termination",
+                [this] {
+                    if (facts_.selected()) emit terminationRequested(*facts_.selected());
+                }});
+    addDefaultButton(
+        {"save", QStringLiteral("&Gravar"), QKeySequence::Save, "dados.save", [this] { save(); }});
+    addLeavingButton("dados.close");
 }
 
 void FolhaDadosWindow::choose(std::size_t position) {

@@ -8,9 +8,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QMenu>
-#include <QPushButton>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QSignalBlocker>
 #include <QToolButton>
 
@@ -60,24 +58,18 @@ QWidget* FolhaOpcoesWindow::buildSettings() {
 }
 
 void FolhaOpcoesWindow::buildCommands() {
-    const auto command = [this](const char* icon, const QString& text, const QKeySequence& key,
-                                const char* name) {
-        return addCommand(QLatin1String(icon), text, key,
-                          QStringLiteral("opcoes.") + QLatin1String(name));
-    };
-    connect(command("restore", QStringLiteral("Opções Usuais"), Qt::Key_F9, "usual"),
-            &QToolButton::clicked, this, [this] {
-                options_.chooseUsual();
-                showChoices();
-            });
-    connect(command("sheet", QStringLiteral("Tabelas Legais"), Qt::Key_F7, "tables"),
-            &QToolButton::clicked, this, &FolhaOpcoesWindow::tablesRequested);
-    connect(command("employees", QStringLiteral("Dados dos Funcionários"), Qt::Key_F8, "facts"),
-            &QToolButton::clicked, this, &FolhaOpcoesWindow::factsRequested);
-    connect(command("payroll", QStringLiteral("Guia do Doméstico"), Qt::Key_F6, "guide"),
-            &QToolButton::clicked, this, &FolhaOpcoesWindow::guideRequested);
-    QToolButton* agencies =
-        command("internet", QStringLiteral("Páginas dos Órgãos"), Qt::Key_F4, "agencies");
+    addCommand({"restore", QStringLiteral("Opções Usuais"), Qt::Key_F9, "opcoes.usual", [this] {
+                    options_.chooseUsual();
+                    showChoices();
+                }});
+    addCommand({"sheet", QStringLiteral("Tabelas Legais"), Qt::Key_F7, "opcoes.tables",
+                [this] { emit tablesRequested(); }});
+    addCommand({"employees", QStringLiteral("Dados dos Funcionários"), Qt::Key_F8, "opcoes.facts",
+                [this] { emit factsRequested(); }});
+    addCommand({"payroll", QStringLiteral("Guia do Doméstico"), Qt::Key_F6, "opcoes.guide",
+                [this] { emit guideRequested(); }});
+    QToolButton* agencies = addCommand(
+        {"internet", QStringLiteral("Páginas dos Órgãos"), Qt::Key_F4, "opcoes.agencies", {}});
     auto* pages = new QMenu(agencies);
     pages->setObjectName(QStringLiteral("opcoes.pages"));
     for (std::size_t page = 0; page < kAgencyPages.size(); ++page)
@@ -87,17 +79,11 @@ void FolhaOpcoesWindow::buildCommands() {
     connect(agencies, &QToolButton::clicked, this, [agencies, pages] {
         pages->popup(agencies->mapToGlobal(QPoint(0, agencies->height())));
     });
-    QPushButton* save = addClosingButton(QStringLiteral("&Gravar"), QStringLiteral("opcoes.save"));
-    save->setIcon(look::icon(QStringLiteral("save")));
-    save->setDefault(true);
-    const auto record = [this] {
-        (void)options_.save();
-        showChoices();
-    };
-    connect(save, &QPushButton::clicked, this, record);
-    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, record);
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("opcoes.close"));
-    connect(close, &QPushButton::clicked, this, &FolhaOpcoesWindow::reject);
+    addDefaultButton({"save", QStringLiteral("&Gravar"), QKeySequence::Save, "opcoes.save", [this] {
+                          (void)options_.save();
+                          showChoices();
+                      }});
+    addLeavingButton("opcoes.close");
 }
 
 void FolhaOpcoesWindow::showChoices() {

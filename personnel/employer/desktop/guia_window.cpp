@@ -5,7 +5,6 @@
 
 #include <QHeaderView>
 #include <QLabel>
-#include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -40,9 +39,7 @@ GuiaWindow::GuiaWindow(const DomesticMonth& month, QWidget* parent)
 }
 
 QWidget* GuiaWindow::buildGuide() {
-    auto* body = new QWidget(this);
-    auto* column = new QVBoxLayout(body);
-    look::layOutBody(*column);
+    const auto [body, column] = look::body(this);
     lines_ = look::table(QStringLiteral("guia.lines"), QStringLiteral("Guia"), headings(), body);
     for (const GuideLine& line : month_.lines())
         addRow(line.employee, line.amounts, false);
@@ -52,9 +49,7 @@ QWidget* GuiaWindow::buildGuide() {
     lines_->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     column->addWidget(lines_, 1);
     column->addWidget(look::heading(QStringLiteral("Memória de cálculo"), body));
-    memo_ = look::label(QString(), look::TextSize::Body, body);
-    memo_->setObjectName(QStringLiteral("guia.memo"));
-    memo_->setWordWrap(true);
+    memo_ = look::paragraph(QStringLiteral("guia.memo"), look::TextSize::Body, body);
     memo_->setAlignment(Qt::AlignTop);
     memo_->setMinimumHeight(memo_->fontMetrics().height() * kMemoLines);
     column->addWidget(memo_);
@@ -77,14 +72,9 @@ void GuiaWindow::addRow(const std::string& name, const GuideAmounts& amounts, bo
 }
 
 void GuiaWindow::buildCommands() {
-    QPushButton* page =
-        addClosingButton(QStringLiteral("&Imprimir Guia"), QStringLiteral("guia.print"));
-    page->setIcon(look::icon(QStringLiteral("print")));
-    page->setDefault(true);
-    page->setShortcut(QKeySequence::Print);
-    connect(page, &QPushButton::clicked, this, &GuiaWindow::pageRequested);
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("guia.close"));
-    connect(close, &QPushButton::clicked, this, &GuiaWindow::reject);
+    addDefaultButton({"print", QStringLiteral("&Imprimir Guia"), QKeySequence::Print, "guia.print",
+                      [this] { emit pageRequested(); }});
+    addLeavingButton("guia.close");
 }
 
 void GuiaWindow::showMemo() {

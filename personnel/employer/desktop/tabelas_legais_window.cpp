@@ -9,10 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
-#include <QShortcut>
 #include <QSignalBlocker>
-#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -36,14 +33,8 @@ QString capitalised(const std::string& heading) {
 
 TabelasLegaisWindow::TabelasLegaisWindow(TabelasLegais& tables, QWidget* parent)
     : ScreenWindow(QStringLiteral("tabelas"), toQt(kLegalTitle), parent), tables_(tables) {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kGroupGap);
-    row->addWidget(buildKinds(body));
-    row->addWidget(buildLines(body), 1);
+    setBody({{buildKinds(this)}, {buildLines(this), 1}});
     buildCommands();
-    setBody(body);
     setSubtitle(QStringLiteral("Valores da lei, com o mês ou o dia desde o qual valem"));
     kinds_->setCurrentRow(0);
     showWarnings();
@@ -51,9 +42,7 @@ TabelasLegaisWindow::TabelasLegaisWindow(TabelasLegais& tables, QWidget* parent)
 }
 
 QWidget* TabelasLegaisWindow::buildKinds(QWidget* parent) {
-    auto* part = new QWidget(parent);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(parent);
     column->addWidget(look::heading(QStringLiteral("Tabelas"), part));
     kinds_ = new QListWidget(part);
     look::name(*kinds_, QStringLiteral("tabelas.kinds"), QStringLiteral("Tabelas"));
@@ -62,20 +51,15 @@ QWidget* TabelasLegaisWindow::buildKinds(QWidget* parent) {
     part->setFixedWidth(kinds_->fontMetrics().averageCharWidth() * kKindCharacters);
     column->addWidget(kinds_, 1);
     connect(kinds_, &QListWidget::currentRowChanged, this, &TabelasLegaisWindow::chooseKind);
-    warnings_ = look::label(QString(), look::TextSize::Hint, part);
-    warnings_->setObjectName(QStringLiteral("tabelas.warnings"));
-    warnings_->setWordWrap(true);
+    warnings_ = look::paragraph(QStringLiteral("tabelas.warnings"), look::TextSize::Hint, part);
     look::setTint(*warnings_, look::Tint::Warning);
     column->addWidget(warnings_);
     return part;
 }
 
 QWidget* TabelasLegaisWindow::buildLines(QWidget* parent) {
-    auto* part = new QWidget(parent);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
-    validity_ = look::heading(QString(), part);
-    validity_->setObjectName(QStringLiteral("tabelas.validity"));
+    const auto [part, column] = look::part(parent);
+    validity_ = look::line(QStringLiteral("tabelas.validity"), look::TextSize::Heading, part);
     column->addWidget(validity_);
     lines_ =
         look::table(QStringLiteral("tabelas.lines"), QStringLiteral("Linhas da tabela"), {}, part);
@@ -92,25 +76,13 @@ QWidget* TabelasLegaisWindow::buildLines(QWidget* parent) {
 }
 
 void TabelasLegaisWindow::buildCommands() {
-    const auto command = [this](const char* icon, const QString& text, const QKeySequence& key,
-                                const char* name, auto slot, QWidget* within = nullptr) {
-        connect(addCommand(QLatin1String(icon), text, key,
-                           QStringLiteral("tabelas.") + QLatin1String(name), within),
-                &QToolButton::clicked, this, slot);
-    };
-    command("add", QStringLiteral("Nova Linha"), Qt::Key_Insert, "new",
-            &TabelasLegaisWindow::startNew);
-    command("delete", QStringLiteral("Excluir Linha"), Qt::Key_Delete, "remove",
-            &TabelasLegaisWindow::removeLine, lines_);
-    QPushButton* record =
-        addClosingButton(QStringLiteral("&Gravar"), QStringLiteral("tabelas.save"));
-    record->setIcon(look::icon(QStringLiteral("save")));
-    record->setDefault(true);
-    connect(record, &QPushButton::clicked, this, &TabelasLegaisWindow::save);
-    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this,
-            &TabelasLegaisWindow::save);
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("tabelas.close"));
-    connect(close, &QPushButton::clicked, this, &TabelasLegaisWindow::reject);
+    addCommand({"add", QStringLiteral("Nova Linha"), Qt::Key_Insert, "tabelas.new",
+                [this] { startNew(); }});
+    addCommand({"delete", QStringLiteral("Excluir Linha"), Qt::Key_Delete, "tabelas.remove",
+                [this] { removeLine(); }, lines_});
+    addDefaultButton({"save", QStringLiteral("&Gravar"), QKeySequence::Save, "tabelas.save",
+                      [this] { save(); }});
+    addLeavingButton("tabelas.close");
 }
 
 std::size_t TabelasLegaisWindow::kind() const {
@@ -261,8 +233,7 @@ void TabelasLegaisWindow::showWarnings() {
     QStringList lines;
     for (const std::string& warning : tables_.warnings(tables_.today()))
         lines << QStringLiteral("⚠ ") + toQt(warning);
-    warnings_->setText(lines.join(QLatin1Char('\n')));
-    warnings_->setVisible(!lines.isEmpty());
+    look::showText(*warnings_, lines.join(QLatin1Char('\n')));
 }
 
 }  // namespace winvrx

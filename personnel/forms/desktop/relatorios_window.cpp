@@ -9,12 +9,8 @@
 #include "foundation/widgets/desktop/register_list.h"
 #include "report/desktop/pdf_file_dialog.h"
 
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
-#include <QPushButton>
-#include <QShortcut>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace winvrx {
@@ -55,7 +51,7 @@ RelatoriosWindow::RelatoriosWindow(Relatorios& reports,
       openWorkMonth_(std::move(openWorkMonth)) {
     reports_.load();
     buildCommands();
-    setBody(buildBody());
+    setBody({{buildKeywords(this)}, {buildForms(this), 1}, {buildEmployees(this)}});
     buildClosingButtons();
     employees_->refresh();
     showForms();
@@ -64,54 +60,29 @@ RelatoriosWindow::RelatoriosWindow(Relatorios& reports,
 }
 
 void RelatoriosWindow::buildCommands() {
-    QToolButton* month = addCommand(QStringLiteral("month"), QStringLiteral("Mês Trabalho (Todos)"),
-                                    Qt::CTRL | Qt::Key_M, QStringLiteral("relatorios.month"));
-    connect(month, &QToolButton::clicked, this, [this] {
-        if (openWorkMonth_) openWorkMonth_(this);
-        reports_.load();
-        employees_->refresh();
-        showContext();
-    });
+    addCommand({"month", QStringLiteral("Mês Trabalho (Todos)"), Qt::CTRL | Qt::Key_M,
+                "relatorios.month", [this] {
+                    if (openWorkMonth_) openWorkMonth_(this);
+                    reports_.load();
+                    employees_->refresh();
+                    showContext();
+                }});
 }
 
 void RelatoriosWindow::buildClosingButtons() {
-    const auto add = [this](const QString& text, const char* name, const QString& tip,
-                            const QKeySequence& key, bool all) {
-        QPushButton* button =
-            addClosingButton(text, QStringLiteral("relatorios.") + QLatin1String(name));
-        button->setIcon(look::icon(QStringLiteral("print")));
-        button->setToolTip(tip + QStringLiteral(" (%1)").arg(key.toString()));
-        connect(button, &QPushButton::clicked, this, [this, all] { print(all); });
-        connect(new QShortcut(key, this), &QShortcut::activated, button, &QPushButton::click);
-        return button;
-    };
-    add(QStringLiteral("Imprimir I&ndividual"), "printOne",
-        QStringLiteral("Para o funcionário selecionado"), QKeySequence::Print, false)
-        ->setDefault(true);
-    add(QStringLiteral("Imprimi&r"), "printAll",
-        QStringLiteral("Para todos os funcionários da lista, uma folha para cada um"),
-        Qt::CTRL | Qt::SHIFT | Qt::Key_P, true);
-    QPushButton* close =
-        addClosingButton(QStringLiteral("&Sair"), QStringLiteral("relatorios.close"));
-    connect(close, &QPushButton::clicked, this, &RelatoriosWindow::reject);
-}
-
-QWidget* RelatoriosWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kGroupGap);
-    row->addWidget(buildKeywords(body));
-    row->addWidget(buildForms(body), 1);
-    row->addWidget(buildEmployees(body));
-    return body;
+    addDefaultButton({"print", QStringLiteral("Imprimir I&ndividual"), QKeySequence::Print,
+                      "relatorios.printOne", [this] { print(false); }})
+        ->setToolTip(QStringLiteral("Para o funcionário selecionado (Ctrl+P)"));
+    addClosingButton({"print", QStringLiteral("Imprimi&r"), Qt::CTRL | Qt::SHIFT | Qt::Key_P,
+                      "relatorios.printAll", [this] { print(true); }})
+        ->setToolTip(QStringLiteral(
+            "Para todos os funcionários da lista, uma folha para cada um (Ctrl+Shift+P)"));
+    addLeavingButton("relatorios.close");
 }
 
 QWidget* RelatoriosWindow::buildKeywords(QWidget* parent) {
-    auto* part = new QWidget(parent);
+    const auto [part, column] = look::part(parent);
     part->setFixedWidth(part->fontMetrics().averageCharWidth() * kKeywordCharacters);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
     QLabel* heading = look::heading(QStringLiteral("&Palavra"), part);
     column->addWidget(heading);
     keywords_ = new QListWidget(part);
@@ -132,9 +103,7 @@ QWidget* RelatoriosWindow::buildKeywords(QWidget* parent) {
 }
 
 QWidget* RelatoriosWindow::buildForms(QWidget* parent) {
-    auto* part = new QWidget(parent);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(parent);
     forms_ = new RegisterList(
         QStringLiteral("relatorios.forms"), QStringLiteral("Relatório"),
         QStringLiteral("Pesquisa Relatório ..."),
@@ -146,9 +115,7 @@ QWidget* RelatoriosWindow::buildForms(QWidget* parent) {
     });
     connect(forms_, &RegisterList::entered, this, [this] { print(false); });
     column->addWidget(forms_, 1);
-    purpose_ = look::label(QString(), look::TextSize::Body, part);
-    purpose_->setObjectName(QStringLiteral("relatorios.purpose"));
-    purpose_->setWordWrap(true);
+    purpose_ = look::paragraph(QStringLiteral("relatorios.purpose"), look::TextSize::Body, part);
     purpose_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     purpose_->setMinimumHeight(purpose_->fontMetrics().lineSpacing() * kPurposeLines);
     column->addWidget(purpose_);
@@ -156,26 +123,17 @@ QWidget* RelatoriosWindow::buildForms(QWidget* parent) {
 }
 
 QWidget* RelatoriosWindow::buildEmployees(QWidget* parent) {
-    auto* part = new QWidget(parent);
+    const auto [part, column] = look::part(parent);
     part->setFixedWidth(part->fontMetrics().averageCharWidth() * kEmployeeCharacters);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
     column->addWidget(look::heading(QStringLiteral("Funcionário"), part));
     employees_ =
         new EmployeePicker(reports_.list(),
                            {.screen = QStringLiteral("relatorios"),
+                            .narrows = true,
                             .details = [this](const Employee& one) { return activityAt(one); }},
                            part);
     column->addWidget(employees_, 1);
-    connect(employees_, &EmployeePicker::shiftChosen, this, [this](ShiftFilter shift) {
-        reports_.list().filterBy(shift);
-        employees_->refresh();
-        showContext();
-    });
-    connect(employees_, &EmployeePicker::searched, this, [this] {
-        employees_->selectShown();
-        showContext();
-    });
+    connect(employees_, &EmployeePicker::narrowed, this, &RelatoriosWindow::showContext);
     face_ = new OptionGroup(QStringLiteral("&Ficha:"), QStringLiteral("relatorios.face"), 1, part);
     face_->addOption(idOf(FormFace::Sheet), QStringLiteral("Uma folha"), QStringLiteral("sheet"));
     face_->addOption(idOf(FormFace::Front), QStringLiteral("Frente"), QStringLiteral("front"));

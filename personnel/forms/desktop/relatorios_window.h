@@ -24,7 +24,6 @@ class RelatoriosWindow : public ScreenWindow {
                      QWidget* parent = nullptr);
 
   private:
-    [[nodiscard]] QWidget* buildBody();
     [[nodiscard]] QWidget* buildKeywords(QWidget* parent);
     [[nodiscard]] QWidget* buildForms(QWidget* parent);
     [[nodiscard]] QWidget* buildEmployees(QWidget* parent);

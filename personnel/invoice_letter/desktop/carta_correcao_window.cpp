@@ -9,9 +9,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPushButton>
 #include <QSignalBlocker>
-#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -63,11 +61,9 @@ QWidget* CartaCorrecaoWindow::buildBody() {
     row->addWidget(files_, 1);
     auto* column = new QVBoxLayout;
     look::layOutPart(*column);
-    heading_ = look::heading(QString(), body);
-    heading_->setObjectName(QStringLiteral("cartaCorrecao.heading"));
+    heading_ = look::line(QStringLiteral("cartaCorrecao.heading"), look::TextSize::Heading, body);
     column->addWidget(heading_);
-    details_ = look::label(QString(), look::TextSize::Body, body);
-    details_->setObjectName(QStringLiteral("cartaCorrecao.details"));
+    details_ = look::line(QStringLiteral("cartaCorrecao.details"), look::TextSize::Body, body);
     details_->setTextFormat(Qt::PlainText);
     details_->setWordWrap(true);
     column->addWidget(details_);
@@ -82,29 +78,18 @@ QWidget* CartaCorrecaoWindow::buildBody() {
 }
 
 void CartaCorrecaoWindow::buildCommands() {
-    const auto add = [this](const char* icon, const QString& text, const QKeySequence& key,
-                            const char* name, auto act) {
-        connect(addCommand(QLatin1String(icon), text, key,
-                           QStringLiteral("cartaCorrecao.") + QLatin1String(name)),
-                &QToolButton::clicked, this, act);
-    };
-    add("folder", QStringLiteral("Escolher Pasta"), Qt::Key_F2, "folder",
-        [this] { chooseFolder(); });
-    add("refresh", QStringLiteral("Atualizar"), Qt::Key_F5, "refresh", [this] {
-        (void)command_.openFolder(command_.folder());
-        showFiles();
-    });
-    add("preview", QStringLiteral("Visualizar"), Qt::Key_F7, "preview",
-        [this] { print(ReportOutput::Preview); });
-    QPushButton* printing =
-        addClosingButton(QStringLiteral("&Imprimir"), QStringLiteral("cartaCorrecao.print"));
-    printing->setIcon(look::icon(QStringLiteral("print")));
-    printing->setShortcut(QKeySequence::Print);
-    printing->setDefault(true);
-    connect(printing, &QPushButton::clicked, this, [this] { print(ReportOutput::Printer); });
-    QPushButton* close =
-        addClosingButton(QStringLiteral("&Sair"), QStringLiteral("cartaCorrecao.close"));
-    connect(close, &QPushButton::clicked, this, &CartaCorrecaoWindow::reject);
+    addCommand({"folder", QStringLiteral("Escolher Pasta"), Qt::Key_F2, "cartaCorrecao.folder",
+                [this] { chooseFolder(); }});
+    addCommand(
+        {"refresh", QStringLiteral("Atualizar"), Qt::Key_F5, "cartaCorrecao.refresh", [this] {
+             (void)command_.openFolder(command_.folder());
+             showFiles();
+         }});
+    addCommand({"preview", QStringLiteral("Visualizar"), Qt::Key_F7, "cartaCorrecao.preview",
+                [this] { print(ReportOutput::Preview); }});
+    addDefaultButton({"print", QStringLiteral("&Imprimir"), QKeySequence::Print,
+                      "cartaCorrecao.print", [this] { print(ReportOutput::Printer); }});
+    addLeavingButton("cartaCorrecao.close");
 }
 
 void CartaCorrecaoWindow::chooseFolder() {

@@ -3,6 +3,7 @@
 #include "foundation/register/desktop/employee_picker.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"
+#include "foundation/widgets/desktop/enter_key.h"
 #include "foundation/widgets/desktop/look.h"
 #include "personnel/leaves/afastamento.h"
 #include "personnel/leaves/desktop/leave_form_panel.h"
@@ -10,9 +11,7 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QPushButton>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QToolButton>
@@ -57,15 +56,8 @@ QTreeWidgetItem* rowOf(const Leave& leave, const std::string& bytes) {
 AfastamentoWindow::AfastamentoWindow(Afastamento& command, QWidget* parent)
     : ScreenWindow(QStringLiteral("afastamento"), QStringLiteral("Afastamento"), parent),
       command_(command) {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kMargin);
-    row->addWidget(buildEmployees());
-    row->addWidget(buildLeaves(), 1);
-    setBody(body);
+    setBody({{buildEmployees()}, {buildLeaves(), 1}}, look::kMargin);
     buildCommands();
-    addKeys();
     refresh();
     employees_->focusList();
 }
@@ -97,9 +89,7 @@ QWidget* AfastamentoWindow::buildEmployees() {
 }
 
 QWidget* AfastamentoWindow::buildLeaves() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(this);
     auto* row = new QHBoxLayout;
     look::layOutPart(*row);
     row->setSpacing(look::kMargin);
@@ -116,11 +106,9 @@ QWidget* AfastamentoWindow::buildLeaves() {
 QLayout* AfastamentoWindow::buildList(QWidget* part) {
     auto* column = new QVBoxLayout;
     look::layOutPart(*column);
-    name_ = look::heading(QString(), part);
-    name_->setObjectName(QStringLiteral("leaves.name"));
+    name_ = look::line(QStringLiteral("leaves.name"), look::TextSize::Heading, part);
     column->addWidget(name_);
-    contradiction_ = look::label(QString(), look::TextSize::Hint, part);
-    contradiction_->setObjectName(QStringLiteral("leaves.contradiction"));
+    contradiction_ = look::line(QStringLiteral("leaves.contradiction"), look::TextSize::Hint, part);
     look::setTint(*contradiction_, look::Tint::Warning);
     column->addWidget(contradiction_);
     leaves_ = look::table(QStringLiteral("leaves.list"), QStringLiteral("Afastamentos"), headings(),
@@ -130,59 +118,37 @@ QLayout* AfastamentoWindow::buildList(QWidget* part) {
     });
     connect(leaves_, &QTreeWidget::itemDoubleClicked, this,
             [this] { form_->focus(LeaveInput::Type); });
-    leaves_->installEventFilter(this);
+    onEnter(*leaves_, [this] { form_->focus(LeaveInput::Type); });
     column->addWidget(leaves_, 1);
     return column;
 }
 
 void AfastamentoWindow::buildCommands() {
-    const auto add = [this](const char* icon, const QString& text, const QKeySequence& key,
-                            const char* name, auto act, QWidget* within = nullptr) {
-        QToolButton* button = addCommand(QLatin1String(icon), text, key,
-                                         QStringLiteral("leaves.") + QLatin1String(name), within);
-        connect(button, &QToolButton::clicked, this, act);
-        return button;
-    };
-    add("add", QStringLiteral("Adicionar Afastamento"), Qt::Key_Insert, "add",
-        [this] { beginOrAdd(); });
-    add("edit", QStringLiteral("Alterar Afastamento"), Qt::Key_F2, "change", [this] { change(); });
-    add(
-        "delete", QStringLiteral("Excluir Afastamento"), Qt::Key_Delete, "remove",
-        [this] { showOutcome(command_.remove()); }, leaves_);
-    activation_ = add("employees", QString(), Qt::Key_F9, "activation", [this] {
-        form_->finishTyping();
-        showOutcome(command_.changeActivation());
-    });
-    add("month", QStringLiteral("Mês de Trabalho"), Qt::Key_F7, "month", [this] {
-        if (command_.confirmLeaving()) emit monthRequested();
-    });
-    add("print", QStringLiteral("Ausências"), QKeySequence::Print, "absences",
-        [this] { emit absencesRequested(false); })
+    addCommand({"add", QStringLiteral("Adicionar Afastamento"), Qt::Key_Insert, "leaves.add",
+                [this] { beginOrAdd(); }});
+    addCommand({"edit", QStringLiteral("Alterar Afastamento"), Qt::Key_F2, "leaves.change",
+                [this] { change(); }});
+    addCommand({"delete", QStringLiteral("Excluir Afastamento"), Qt::Key_Delete, "leaves.remove",
+                [this] { showOutcome(command_.remove()); }, leaves_});
+    activation_ = addCommand({"employees", {}, Qt::Key_F9, "leaves.activation", [this] {
+                                  form_->finishTyping();
+                                  showOutcome(command_.changeActivation());
+                              }});
+    addCommand({"month", QStringLiteral("Mês de Trabalho"), Qt::Key_F7, "leaves.month", [this] {
+                    if (command_.confirmLeaving()) emit monthRequested();
+                }});
+    addCommand({"print", QStringLiteral("Ausências"), QKeySequence::Print, "leaves.absences",
+                [this] { emit absencesRequested(false); }})
         ->setToolTip(QStringLiteral("Ausências do mês de toda a empresa: Ctrl+P numa folha, Ctrl+T "
                                     "em texto"));
     connect(new QShortcut(QKeySequence(QStringLiteral("Ctrl+T")), this), &QShortcut::activated,
             this, [this] { emit absencesRequested(true); });
-    QPushButton* save = addClosingButton(QStringLiteral("&Gravar"), QStringLiteral("leaves.save"));
-    save->setIcon(look::icon(QStringLiteral("save")));
-    save->setDefault(true);
-    const auto record = [this] { command_.chosen() ? change() : beginOrAdd(); };
-    connect(save, &QPushButton::clicked, this, record);
-    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, record);
-    QPushButton* figures = addClosingButton(QStringLiteral("Cálculo da Rescisão"),
-                                            QStringLiteral("leaves.termination"));
-    figures->setIcon(look::icon(QStringLiteral("payroll")));
-    figures->setShortcut(Qt::CTRL | Qt::Key_R);
-    connect(figures, &QPushButton::clicked, this, &AfastamentoWindow::terminationRequested);
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("leaves.close"));
-    connect(close, &QPushButton::clicked, this, &AfastamentoWindow::reject);
-}
-
-void AfastamentoWindow::addKeys() {
-    for (const auto& [key, by] : {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)}) {
-        auto* move = new QShortcut(key, this);
-        connect(move, &QShortcut::activated, employees_,
-                [this, step = by] { employees_->step(step); });
-    }
+    addDefaultButton({"save", QStringLiteral("&Gravar"), QKeySequence::Save, "leaves.save",
+                      [this] { command_.chosen() ? change() : beginOrAdd(); }});
+    addClosingButton({"payroll", QStringLiteral("Cálculo da Rescisão"), Qt::CTRL | Qt::Key_R,
+                      "leaves.termination", [this] { emit terminationRequested(); }});
+    addLeavingButton("leaves.close");
+    addPageKeys([this](int by) { employees_->step(by); });
 }
 
 void AfastamentoWindow::refresh() {
@@ -206,9 +172,7 @@ void AfastamentoWindow::showEmployee() {
     const Employee* one = command_.selected();
     name_->setText(one ? toQt(one->code + " " + one->name)
                        : QStringLiteral("Nenhum funcionário selecionado"));
-    const QString disagree = toQt(command_.contradiction());
-    contradiction_->setText(QStringLiteral("⚠ ") + disagree);
-    contradiction_->setVisible(!disagree.isEmpty());
+    look::showWarning(*contradiction_, toQt(command_.contradiction()));
     activation_->setText(toQt(command_.activationCaption()) + QStringLiteral("  F9"));
     activation_->setToolTip(activation_->text());
     activation_->setAccessibleName(toQt(command_.activationCaption()));
@@ -274,16 +238,6 @@ void AfastamentoWindow::showState() {
     if (!command_.selected()) text.clear();
     if (command_.form().isChanged()) text = QStringLiteral("Alterações não gravadas");
     setState(text);
-}
-
-/// ENTER on a leave goes on to its fields.
-bool AfastamentoWindow::eventFilter(QObject* watched, QEvent* event) {
-    const int key =
-        event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : Qt::Key_unknown;
-    if (watched != leaves_ || (key != Qt::Key_Return && key != Qt::Key_Enter))
-        return ScreenWindow::eventFilter(watched, event);
-    form_->focus(LeaveInput::Type);
-    return true;
 }
 
 bool AfastamentoWindow::mayClose() {

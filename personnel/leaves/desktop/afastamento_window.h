@@ -37,14 +37,12 @@ class AfastamentoWindow : public ScreenWindow {
 
   protected:
     bool mayClose() override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     [[nodiscard]] QWidget* buildEmployees();
     [[nodiscard]] QWidget* buildLeaves();
     [[nodiscard]] QLayout* buildList(QWidget* part);
     void buildCommands();
-    void addKeys();
 
     void chooseEmployee(std::size_t position);
     void chooseLeave(int row);

@@ -20,14 +20,6 @@ namespace winvrx {
 
 namespace {
 
-template <const auto& List>
-std::vector<Choice> choicesIn() {
-    std::vector<Choice> choices;
-    for (const std::string_view text : List)
-        choices.push_back({std::string(text), std::string(text)});
-    return choices;
-}
-
 template <std::string_view (*Meant)(std::string_view)>
 std::string choiceOf(std::string_view stored) {
     return std::string(Meant(stored));
@@ -85,8 +77,7 @@ LeaveFormPanel::LeaveFormPanel(Afastamento& command, QWidget* parent)
     look::layOutPart(*row);
     buildLeave(*row);
     column->addLayout(row);
-    period_ = look::label(QString(), look::TextSize::Hint, this);
-    period_->setObjectName(QStringLiteral("leaves.period"));
+    period_ = look::line(QStringLiteral("leaves.period"), look::TextSize::Hint, this);
     look::setTint(*period_, look::Tint::Warning);
     column->addWidget(period_);
     auto* grid = new QGridLayout;
@@ -160,8 +151,7 @@ void LeaveFormPanel::showNotes(LeaveInput input) {
     field.setNote(input == LeaveInput::LastDay && !form.isTypedOver(input) ? QString() : note);
     const QString finding = toQt(command_.finding(input));
     if (input != LeaveInput::FirstDay) return field.setFinding(finding);
-    period_->setText(finding.isEmpty() ? finding : QStringLiteral("⚠ ") + finding);
-    period_->setVisible(!finding.isEmpty());
+    look::showWarning(*period_, finding);
 }
 
 void LeaveFormPanel::showParts() {

@@ -3,8 +3,6 @@
 #include "personnel/payroll/desktop/evento_form.h"
 #include "personnel/payroll/eventos.h"
 
-#include <QToolButton>
-
 namespace winvrx {
 
 EventosWindow::EventosWindow(Eventos& events, const QString& owner, QWidget* parent)
@@ -22,10 +20,8 @@ EventosWindow::EventosWindow(Eventos& events, const QString& owner, QWidget* par
                      parent) {
     assemble(new EventoForm(events, this), nullptr, ListRoom::Wide);
     setChips({owner});
-    QToolButton* restore = addCommand(QStringLiteral("restore"), QStringLiteral("RESTAURAR PADRÃO"),
-                                      Qt::Key_F9, QStringLiteral("eventos.restore"));
-    connect(restore, &QToolButton::clicked, this,
-            [this, &events] { runOnList([&events] { return events.restoreDefault(); }); });
+    addCommand({"restore", QStringLiteral("RESTAURAR PADRÃO"), Qt::Key_F9, "eventos.restore",
+                [this, &events] { runOnList([&events] { return events.restoreDefault(); }); }});
     openAt(0);
 }
 

@@ -6,11 +6,8 @@
 
 #include <QFileDialog>
 #include <QHeaderView>
-#include <QPushButton>
 #include <QStandardPaths>
-#include <QToolButton>
 #include <QTreeWidget>
-#include <QVBoxLayout>
 
 namespace winvrx {
 
@@ -41,11 +38,7 @@ FolhaVisaoWindow::FolhaVisaoWindow(const FolhaVisao& view, const QStringList& ch
                                    QWidget* parent)
     : ScreenWindow(QStringLiteral("visao"), QStringLiteral("Visão do Mês"), parent), view_(view) {
     setChips(chips);
-    auto* body = new QWidget(this);
-    auto* column = new QVBoxLayout(body);
-    look::layOutBody(*column);
-    column->addWidget(buildTable());
-    setBody(body);
+    setBody({{buildTable()}});
     buildCommands();
     setState(QStringLiteral("Enter volta à folha do funcionário"));
     people_->setFocus();
@@ -73,18 +66,11 @@ QWidget* FolhaVisaoWindow::buildTable() {
 }
 
 void FolhaVisaoWindow::buildCommands() {
-    const auto add = [this](const QString& text, const QKeySequence& key, const char* name,
-                            const QString& ending, Export make) {
-        connect(addCommand(QStringLiteral("save"), text, key,
-                           QStringLiteral("visao.") + QLatin1String(name)),
-                &QToolButton::clicked, this, [this, ending, make] { exportAs(ending, make); });
-    };
-    add(QStringLiteral("Planilha XLSX"), Qt::CTRL | Qt::Key_E, "xlsx", QStringLiteral("xlsx"),
-        &FolhaVisao::exportWorkbook);
-    add(QStringLiteral("CSV"), Qt::CTRL | Qt::Key_T, "csv", QStringLiteral("csv"),
-        &FolhaVisao::exportCsv);
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("visao.close"));
-    connect(close, &QPushButton::clicked, this, &FolhaVisaoWindow::reject);
+    addCommand({"save", QStringLiteral("Planilha XLSX"), Qt::CTRL | Qt::Key_E, "visao.xlsx",
+                [this] { exportAs(QStringLiteral("xlsx"), &FolhaVisao::exportWorkbook); }});
+    addCommand({"save", QStringLiteral("CSV"), Qt::CTRL | Qt::Key_T, "visao.csv",
+                [this] { exportAs(QStringLiteral("csv"), &FolhaVisao::exportCsv); }});
+    addLeavingButton("visao.close");
 }
 
 void FolhaVisaoWindow::choose() {

@@ -11,8 +11,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
-#include <QPushButton>
-#include <QShortcut>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -51,14 +49,7 @@ void fitHeight(QTreeWidget& list) {
 FolhaWindow::FolhaWindow(FolhaScreen& screen, QWidget* parent)
     : ScreenWindow(QStringLiteral("folha"), QStringLiteral("Folha de Pagamento"), parent),
       screen_(screen) {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kMargin);
-    row->addWidget(buildEmployees());
-    row->addWidget(buildSheet(), 1);
-    row->addWidget(buildFigures());
-    setBody(body);
+    setBody({{buildEmployees()}, {buildSheet(), 1}, {buildFigures()}}, look::kMargin);
     buildCommands();
     buildClosingButtons();
     refresh();
@@ -83,26 +74,18 @@ QWidget* FolhaWindow::buildEmployees() {
     });
     connect(employees_, &EmployeePicker::employeeChosen, this, &FolhaWindow::choose);
     connect(employees_, &EmployeePicker::opened, this, &FolhaWindow::enterSheet);
-    for (const auto& [key, by] : {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)}) {
-        auto* move = new QShortcut(key, this);
-        connect(move, &QShortcut::activated, employees_,
-                [this, step = by] { employees_->step(step); });
-    }
+    addPageKeys([this](int by) { employees_->step(by); });
     return employees_;
 }
 
 QWidget* FolhaWindow::buildSheet() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(this);
     auto* heading = new QHBoxLayout;
-    name_ = look::heading(QString(), part);
-    name_->setObjectName(QStringLiteral("folha.name"));
+    name_ = look::line(QStringLiteral("folha.name"), look::TextSize::Heading, part);
     heading->addWidget(name_, 1);
     heading->addWidget(buildRuns(part));
     column->addLayout(heading);
-    standing_ = look::label(QString(), look::TextSize::Hint, part);
-    standing_->setObjectName(QStringLiteral("folha.standing"));
+    standing_ = look::line(QStringLiteral("folha.standing"), look::TextSize::Hint, part);
     column->addWidget(standing_);
     sheet_ = new PaySheetPanel(part);
     connect(sheet_, &PaySheetPanel::turnedTo, this, &FolhaWindow::showMemo);
@@ -124,10 +107,8 @@ QWidget* FolhaWindow::buildRuns(QWidget* parent) {
 }
 
 QWidget* FolhaWindow::buildFigures() {
-    auto* part = new QWidget(this);
+    const auto [part, column] = look::part(this);
     part->setFixedWidth(kFiguresWidth);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
     hours_ = figureList("folha.hours", QStringLiteral("Resumo das horas"), QStringLiteral("Horas"),
                         part);
     column->addWidget(hours_);
@@ -135,54 +116,44 @@ QWidget* FolhaWindow::buildFigures() {
     bases_ =
         figureList("folha.bases", QStringLiteral("Bases e encargos"), QStringLiteral("R$"), part);
     column->addWidget(bases_);
-    warnings_ = look::label(QString(), look::TextSize::Hint, part);
-    warnings_->setObjectName(QStringLiteral("folha.warnings"));
-    warnings_->setWordWrap(true);
+    warnings_ = look::paragraph(QStringLiteral("folha.warnings"), look::TextSize::Hint, part);
     look::setTint(*warnings_, look::Tint::Warning);
     column->addWidget(warnings_);
     column->addStretch();
     return part;
 }
 
-QToolButton* FolhaWindow::command(const char* icon, const QString& text, const QKeySequence& key,
-                                  const char* name) {
-    return addCommand(QLatin1String(icon), text, key,
-                      QStringLiteral("folha.") + QLatin1String(name));
-}
-
 void FolhaWindow::buildCommands() {
-    connect(command("month", QStringLiteral("Mês de Trabalho"), Qt::Key_F7, "month"),
-            &QToolButton::clicked, this, [this] {
-                if (screen_.confirmLeaving()) emit monthRequested();
-            });
-    connect(command("sheet", QStringLiteral("Eventos"), Qt::Key_F8, "catalogue"),
-            &QToolButton::clicked, this, [this] { requestEvents(false); });
-    connect(command("employees", QStringLiteral("Eventos do Funcionário"), Qt::SHIFT | Qt::Key_F8,
-                    "ownCatalogue"),
-            &QToolButton::clicked, this, [this] { requestEvents(true); });
-    connect(command("apply", QStringLiteral("Opções"), Qt::Key_F6, "options"),
-            &QToolButton::clicked, this, [this] {
-                if (screen_.confirmLeaving()) emit optionsRequested();
-            });
-    connect(command("edit", QStringLiteral("Dados"), Qt::SHIFT | Qt::Key_F6, "facts"),
-            &QToolButton::clicked, this, [this] {
-                if (screen_.confirmLeaving()) emit factsRequested();
-            });
-    connect(command("month", QStringLiteral("Visão do Mês"), Qt::Key_F4, "overview"),
-            &QToolButton::clicked, this, [this] {
-                if (screen_.isOpen() && screen_.confirmLeaving()) emit overviewRequested();
-            });
+    const auto leadingTo = [this](void (FolhaWindow::*requested)()) {
+        return [this, requested] {
+            if (screen_.confirmLeaving()) emit(this->*requested)();
+        };
+    };
+    addCommand({"month", QStringLiteral("Mês de Trabalho"), Qt::Key_F7, "folha.month",
+                leadingTo(&FolhaWindow::monthRequested)});
+    addCommand({"sheet", QStringLiteral("Eventos"), Qt::Key_F8, "folha.catalogue",
+                [this] { requestEvents(false); }});
+    addCommand({"employees", QStringLiteral("Eventos do Funcionário"), Qt::SHIFT | Qt::Key_F8,
+                "folha.ownCatalogue", [this] { requestEvents(true); }});
+    addCommand({"apply", QStringLiteral("Opções"), Qt::Key_F6, "folha.options",
+                leadingTo(&FolhaWindow::optionsRequested)});
+    addCommand({"edit", QStringLiteral("Dados"), Qt::SHIFT | Qt::Key_F6, "folha.facts",
+                leadingTo(&FolhaWindow::factsRequested)});
+    addCommand({"month", QStringLiteral("Visão do Mês"), Qt::Key_F4, "folha.overview", [this] {
+                    if (screen_.isOpen() && screen_.confirmLeaving()) emit overviewRequested();
+                }});
     buildPapers();
-    connect(command("search", QStringLiteral("Memória"), Qt::Key_F3, "explain"),
-            &QToolButton::clicked, this, [this] { sheet_->focusMemo(); });
-    reopen_ = command("restore", QStringLiteral("Reabrir Mês"), Qt::Key_F9, "reopen");
-    connect(reopen_, &QToolButton::clicked, this, [this] {
-        if (screen_.reopen()) refresh();
-    });
+    addCommand({"search", QStringLiteral("Memória"), Qt::Key_F3, "folha.explain",
+                [this] { sheet_->focusMemo(); }});
+    reopen_ =
+        addCommand({"restore", QStringLiteral("Reabrir Mês"), Qt::Key_F9, "folha.reopen", [this] {
+                        if (screen_.reopen()) refresh();
+                    }});
 }
 
 void FolhaWindow::buildPapers() {
-    QToolButton* print = command("print", QStringLiteral("Imprimir"), QKeySequence::Print, "print");
+    QToolButton* print =
+        addCommand({"print", QStringLiteral("Imprimir"), QKeySequence::Print, "folha.print", {}});
     auto* papers = new QMenu(print);
     const auto add = [&](const char* text, const QKeySequence& key, const char* name,
                          FolhaPaper paper) {
@@ -208,22 +179,13 @@ void FolhaWindow::turnTo(const std::string& code) {
 }
 
 void FolhaWindow::buildClosingButtons() {
-    QPushButton* all =
-        addClosingButton(QStringLiteral("GRAVAR &TODOS"), QStringLiteral("folha.saveAll"));
-    connect(all, &QPushButton::clicked, this, &FolhaWindow::saveAll);
-    connect(new QShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S, this), &QShortcut::activated, this,
-            &FolhaWindow::saveAll);
-    QPushButton* save =
-        addClosingButton(QStringLiteral("&Gravar Selecionado"), QStringLiteral("folha.save"));
-    save->setIcon(look::icon(QStringLiteral("save")));
-    save->setDefault(true);
-    const auto record = [this] {
-        if (screen_.save()) refresh();
-    };
-    connect(save, &QPushButton::clicked, this, record);
-    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, record);
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("folha.close"));
-    connect(close, &QPushButton::clicked, this, &FolhaWindow::reject);
+    addClosingButton({"", QStringLiteral("GRAVAR &TODOS"), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+                      "folha.saveAll", [this] { saveAll(); }});
+    addDefaultButton(
+        {"save", QStringLiteral("&Gravar Selecionado"), QKeySequence::Save, "folha.save", [this] {
+             if (screen_.save()) refresh();
+         }});
+    addLeavingButton("folha.close");
 }
 
 void FolhaWindow::refresh() {
@@ -241,8 +203,7 @@ void FolhaWindow::refresh() {
     if (screen_.isOpen())
         for (const std::string& text : screen_.folha().warnings())
             warnings << QStringLiteral("⚠ ") + toQt(text);
-    warnings_->setText(warnings.join(QLatin1Char('\n')));
-    warnings_->setVisible(!warnings.isEmpty());
+    look::showText(*warnings_, warnings.join(QLatin1Char('\n')));
     showEmployee();
 }
 

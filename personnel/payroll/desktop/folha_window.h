@@ -54,8 +54,6 @@ class FolhaWindow : public ScreenWindow {
     void buildCommands();
     void buildPapers();
     void buildClosingButtons();
-    QToolButton* command(const char* icon, const QString& text, const QKeySequence& key,
-                         const char* name);
 
     void choose(std::size_t position);
     /// ENTER on an employee: to his events, or what keeps them away.

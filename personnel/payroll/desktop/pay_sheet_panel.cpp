@@ -88,8 +88,7 @@ void showLine(QTreeWidgetItem& row, const PayLine& line, const PaySheet* now) {
 }
 
 QLabel* totalLabel(const char* name, QWidget* parent) {
-    QLabel* label = look::label(QString(), look::TextSize::Body, parent);
-    label->setObjectName(QLatin1String(name));
+    QLabel* label = look::line(QLatin1String(name), look::TextSize::Body, parent);
     return label;
 }
 
@@ -128,8 +127,7 @@ QWidget* PaySheetPanel::buildTotals() {
     row->setSpacing(look::kGroupGap);
     credits_ = totalLabel("folha.credits", totals);
     debits_ = totalLabel("folha.debits", totals);
-    net_ = look::heading(QString(), totals);
-    net_->setObjectName(QStringLiteral("folha.net"));
+    net_ = look::line(QStringLiteral("folha.net"), look::TextSize::Heading, totals);
     row->addWidget(credits_);
     row->addWidget(debits_);
     row->addStretch();

@@ -3,12 +3,9 @@
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/look.h"
 
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPushButton>
 #include <QScrollArea>
-#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -30,16 +27,10 @@ QString amountText(Money amount) {
 
 RescisaoWindow::RescisaoWindow(const Rescisao& command, QWidget* parent)
     : ScreenWindow(QStringLiteral("rescisao"), toQt(kTerminationTitle), parent), command_(command) {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kGroupGap);
-    auto* terms = look::scrolled(buildTerms(body), body);
+    auto* terms = look::scrolled(buildTerms(this), this);
     terms->setFixedWidth(fontMetrics().averageCharWidth() * kTermCharacters);
     terms->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    row->addWidget(terms);
-    row->addWidget(buildLines(body), 1);
-    setBody(body);
+    setBody({{terms}, {buildLines(this), 1}});
     buildCommands();
     const Employee& employee = command_.employee();
     setSubtitle(QStringLiteral("Cada linha tem a sua conta; nada é gravado aqui"));
@@ -71,9 +62,7 @@ QWidget* RescisaoWindow::buildTerms(QWidget* parent) {
 }
 
 QWidget* RescisaoWindow::buildLines(QWidget* parent) {
-    auto* part = new QWidget(parent);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(parent);
     lines_ = look::table(QStringLiteral("rescisao.lines"), QStringLiteral("Verbas"),
                          {QStringLiteral("Verba"), QStringLiteral("Quantidade"),
                           QStringLiteral("Créditos (R$)"), QStringLiteral("Descontos (R$)")},
@@ -136,15 +125,9 @@ void RescisaoWindow::addTotals() {
 }
 
 void RescisaoWindow::buildCommands() {
-    QPushButton* page =
-        addClosingButton(QStringLiteral("&Imprimir Cálculo"), QStringLiteral("rescisao.print"));
-    page->setIcon(look::icon(QStringLiteral("print")));
-    page->setDefault(true);
-    page->setShortcut(QKeySequence::Print);
-    connect(page, &QPushButton::clicked, this, &RescisaoWindow::pageRequested);
-    QPushButton* close =
-        addClosingButton(QStringLiteral("&Sair"), QStringLiteral("rescisao.close"));
-    connect(close, &QPushButton::clicked, this, &RescisaoWindow::reject);
+    addDefaultButton({"print", QStringLiteral("&Imprimir Cálculo"), QKeySequence::Print,
+                      "rescisao.print", [this] { emit pageRequested(); }});
+    addLeavingButton("rescisao.close");
 }
 
 void RescisaoWindow::showMemo() {

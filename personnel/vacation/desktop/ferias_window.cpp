@@ -2,18 +2,15 @@
 
 #include "foundation/register/desktop/employee_picker.h"
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/enter_key.h"
 #include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
 #include "personnel/vacation/ferias.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QPushButton>
-#include <QShortcut>
 #include <QSignalBlocker>
-#include <QToolButton>
 #include <QTreeWidget>
 
 #include <array>
@@ -82,15 +79,8 @@ FeriasWindow::FeriasWindow(Ferias& command, QWidget* parent)
     : ScreenWindow(QStringLiteral("ferias"), QStringLiteral("Período de Aquisição de Férias"),
                    parent),
       command_(command) {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kMargin);
-    row->addWidget(buildEmployees());
-    row->addWidget(buildPeriods(), 1);
-    setBody(body);
+    setBody({{buildEmployees()}, {buildPeriods(), 1}}, look::kMargin);
     buildCommands();
-    addKeys();
     refresh();
     employees_->focusList();
 }
@@ -120,14 +110,10 @@ QWidget* FeriasWindow::buildEmployees() {
 }
 
 QWidget* FeriasWindow::buildPeriods() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
-    name_ = look::heading(QString(), part);
-    name_->setObjectName(QStringLiteral("vacations.name"));
+    const auto [part, column] = look::part(this);
+    name_ = look::line(QStringLiteral("vacations.name"), look::TextSize::Heading, part);
     column->addWidget(name_);
-    dueText_ = look::label(QString(), look::TextSize::Hint, part);
-    dueText_->setObjectName(QStringLiteral("vacations.dueText"));
+    dueText_ = look::line(QStringLiteral("vacations.dueText"), look::TextSize::Hint, part);
     look::setTint(*dueText_, look::Tint::Warning);
     column->addWidget(dueText_);
     rows_ =
@@ -137,16 +123,14 @@ QWidget* FeriasWindow::buildPeriods() {
     });
     connect(rows_, &QTreeWidget::itemDoubleClicked, this,
             [this] { fields_[VacationInput::First]->takeFocus(); });
-    rows_->installEventFilter(this);
+    onEnter(*rows_, [this] { fields_[VacationInput::First]->takeFocus(); });
     column->addWidget(rows_, 1);
     column->addWidget(buildForm(part));
     return part;
 }
 
 QWidget* FeriasWindow::buildForm(QWidget* part) {
-    auto* form = new QWidget(part);
-    auto* column = new QVBoxLayout(form);
-    look::layOutPart(*column);
+    const auto [form, column] = look::part(part);
     auto* row = new QHBoxLayout;
     look::layOutPart(*row);
     for (const Shown& shown : kShown) {
@@ -171,54 +155,31 @@ QWidget* FeriasWindow::buildForm(QWidget* part) {
         showState();
     });
     column->addWidget(thirteenth_);
-    notes_ = look::label(QString(), look::TextSize::Hint, form);
-    notes_->setObjectName(QStringLiteral("vacations.notes"));
+    notes_ = look::line(QStringLiteral("vacations.notes"), look::TextSize::Hint, form);
     column->addWidget(notes_);
     return form;
 }
 
 void FeriasWindow::buildCommands() {
-    const auto add = [this](const char* icon, const QString& text, const QKeySequence& key,
-                            const char* name, auto act, QWidget* within = nullptr) {
-        QToolButton* button =
-            addCommand(QLatin1String(icon), text, key,
-                       QStringLiteral("vacations.") + QLatin1String(name), within);
-        connect(button, &QToolButton::clicked, this, act);
-    };
-    add("apply", QStringLiteral("QUITAR"), Qt::Key_F9, "settle",
-        [this] { showOutcome(command_.settle()); });
-    add("restore", QStringLiteral("Restaurar Quitação"), Qt::Key_F8, "restore",
-        [this] { showOutcome(command_.restoreSettlement()); });
-    add("sheet", QStringLiteral("Provisão"), Qt::Key_F6, "provide",
-        [this] { showOutcome(command_.provide()); });
-    add("print", QStringLiteral("Provisões do Mês"), QKeySequence(Qt::SHIFT | Qt::Key_F6),
-        "provisions", [this] { emit provisionsRequested(); });
-    add(
-        "delete", QStringLiteral("Excluir"), Qt::Key_Delete, "remove",
-        [this] { showOutcome(command_.remove()); }, rows_);
-    add("month", QStringLiteral("Mês de Trabalho"), Qt::Key_F7, "month", [this] {
-        if (command_.confirmLeaving()) emit monthRequested();
-    });
-    add("print", QStringLiteral("Aviso de Férias"), QKeySequence::Print, "notice",
-        [this] { emit noticeRequested(); });
-    QPushButton* save =
-        addClosingButton(QStringLiteral("&Gravar"), QStringLiteral("vacations.save"));
-    save->setIcon(look::icon(QStringLiteral("save")));
-    save->setDefault(true);
-    const auto record = [this] { showOutcome(command_.record()); };
-    connect(save, &QPushButton::clicked, this, record);
-    connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, record);
-    QPushButton* close =
-        addClosingButton(QStringLiteral("&Sair"), QStringLiteral("vacations.close"));
-    connect(close, &QPushButton::clicked, this, &FeriasWindow::reject);
-}
-
-void FeriasWindow::addKeys() {
-    for (const auto& [key, by] : {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)}) {
-        auto* move = new QShortcut(key, this);
-        connect(move, &QShortcut::activated, employees_,
-                [this, step = by] { employees_->step(step); });
-    }
+    addCommand({"apply", QStringLiteral("QUITAR"), Qt::Key_F9, "vacations.settle",
+                [this] { showOutcome(command_.settle()); }});
+    addCommand({"restore", QStringLiteral("Restaurar Quitação"), Qt::Key_F8, "vacations.restore",
+                [this] { showOutcome(command_.restoreSettlement()); }});
+    addCommand({"sheet", QStringLiteral("Provisão"), Qt::Key_F6, "vacations.provide",
+                [this] { showOutcome(command_.provide()); }});
+    addCommand({"print", QStringLiteral("Provisões do Mês"), Qt::SHIFT | Qt::Key_F6,
+                "vacations.provisions", [this] { emit provisionsRequested(); }});
+    addCommand({"delete", QStringLiteral("Excluir"), Qt::Key_Delete, "vacations.remove",
+                [this] { showOutcome(command_.remove()); }, rows_});
+    addCommand({"month", QStringLiteral("Mês de Trabalho"), Qt::Key_F7, "vacations.month", [this] {
+                    if (command_.confirmLeaving()) emit monthRequested();
+                }});
+    addCommand({"print", QStringLiteral("Aviso de Férias"), QKeySequence::Print, "vacations.notice",
+                [this] { emit noticeRequested(); }});
+    addDefaultButton({"save", QStringLiteral("&Gravar"), QKeySequence::Save, "vacations.save",
+                      [this] { showOutcome(command_.record()); }});
+    addLeavingButton("vacations.close");
+    addPageKeys([this](int by) { employees_->step(by); });
 }
 
 void FeriasWindow::refresh() {
@@ -257,9 +218,7 @@ void FeriasWindow::showEmployee() {
     QString name = QStringLiteral("Nenhum funcionário selecionado");
     if (one) name = toQt(one->code + " " + one->name + ", admissão " + one->admission);
     name_->setText(name);
-    const QString due = toQt(command_.dueText());
-    dueText_->setText(QStringLiteral("⚠ ") + due);
-    dueText_->setVisible(!due.isEmpty());
+    look::showWarning(*dueText_, toQt(command_.dueText()));
     showRows();
 }
 
@@ -290,8 +249,7 @@ void FeriasWindow::showNotes() {
     QStringList lines;
     for (const std::string& note : command_.planNotes())
         lines << toQt(note);
-    notes_->setText(lines.join(QLatin1Char('\n')));
-    notes_->setVisible(!lines.isEmpty());
+    look::showText(*notes_, lines.join(QLatin1Char('\n')));
 }
 
 void FeriasWindow::showOutcome(bool done) {
@@ -312,16 +270,6 @@ void FeriasWindow::showState() {
                    : QStringLiteral("Escolha o período, informe o início e tecle Ctrl+S.");
     if (command_.form().isChanged()) text = QStringLiteral("Alterações não gravadas");
     setState(text);
-}
-
-/// ENTER on a period goes on to its fields.
-bool FeriasWindow::eventFilter(QObject* watched, QEvent* event) {
-    const int key =
-        event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : Qt::Key_unknown;
-    if (watched != rows_ || (key != Qt::Key_Return && key != Qt::Key_Enter))
-        return ScreenWindow::eventFilter(watched, event);
-    fields_[VacationInput::First]->takeFocus();
-    return true;
 }
 
 bool FeriasWindow::mayClose() {

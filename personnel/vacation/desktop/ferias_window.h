@@ -35,14 +35,12 @@ class FeriasWindow : public ScreenWindow {
 
   protected:
     bool mayClose() override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     [[nodiscard]] QWidget* buildEmployees();
     [[nodiscard]] QWidget* buildPeriods();
     [[nodiscard]] QWidget* buildForm(QWidget* part);
     void buildCommands();
-    void addKeys();
 
     void chooseEmployee(std::size_t position);
     void choosePeriod(int row);

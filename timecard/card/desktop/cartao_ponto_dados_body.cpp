@@ -16,16 +16,6 @@
 
 namespace winvrx {
 
-QWidget* CartaoPontoDadosWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kMargin);
-    row->addWidget(buildSide());
-    row->addWidget(buildCard(), 1);
-    return body;
-}
-
 QWidget* CartaoPontoDadosWindow::buildSide() {
     side_ = new QWidget(this);
     auto* column = new QVBoxLayout(side_);
@@ -35,11 +25,11 @@ QWidget* CartaoPontoDadosWindow::buildSide() {
         {.screen = QStringLiteral("card"), .shifts = kAllShiftFilters, .scales = true}, side_);
     column->addWidget(employees_, 1);
     column->addWidget(buildHours());
-    auto* summary = new QPushButton(QStringLiteral("Resumo Folha de Ponto"), side_);
-    look::name(*summary, QStringLiteral("card.summary"), summary->text());
-    summary->setAutoDefault(false);
-    leadOn(*summary, QStringLiteral("preview"), Qt::CTRL | Qt::Key_R,
-           &CartaoPontoDadosWindow::summaryRequested);
+    QPushButton* summary =
+        newButton({"preview", QStringLiteral("Resumo Folha de Ponto"), Qt::CTRL | Qt::Key_R,
+                   "card.summary", [this] { leaveFor(&CartaoPontoDadosWindow::summaryRequested); }},
+                  side_);
+    summary->setToolTip(QKeySequence(Qt::CTRL | Qt::Key_R).toString(QKeySequence::NativeText));
     column->addWidget(summary);
     QRadioButton* enter = buildEntryMode(QStringLiteral("Usar Tecla &ENTER"),
                                          QStringLiteral("card.useEnter"), Qt::Key_Return);
@@ -74,9 +64,7 @@ QRadioButton* CartaoPontoDadosWindow::buildEntryMode(const QString& text, const 
 }
 
 QWidget* CartaoPontoDadosWindow::buildCard() {
-    auto* widget = new QWidget(this);
-    auto* column = new QVBoxLayout(widget);
-    look::layOutPart(*column);
+    const auto [widget, column] = look::part(this);
     schedule_ = new SchedulePanel(command_, widget);
     connect(schedule_, &SchedulePanel::edited, this, &CartaoPontoDadosWindow::showState);
     connect(schedule_, &SchedulePanel::saveRequested, this, [this] {
@@ -95,9 +83,7 @@ QWidget* CartaoPontoDadosWindow::buildCard() {
         connectGrid(one);
     }
     column->addLayout(row, 1);
-    unread_ = look::label(QString(), look::TextSize::Hint, this);
-    unread_->setObjectName(QStringLiteral("card.unread"));
-    unread_->setWordWrap(true);
+    unread_ = look::paragraph(QStringLiteral("card.unread"), look::TextSize::Hint, this);
     column->addWidget(unread_);
     return widget;
 }

@@ -14,7 +14,6 @@
 
 #include <QApplication>
 #include <QLabel>
-#include <QPushButton>
 #include <QShortcut>
 #include <QToolButton>
 
@@ -38,7 +37,7 @@ CartaoPontoDadosWindow::CartaoPontoDadosWindow(CartaoPontoDados& command, QWidge
     : ScreenWindow(QStringLiteral("cartaoPontoDados"), QStringLiteral("Aplicação de Ponto"),
                    parent),
       command_(command) {
-    setBody(buildBody());
+    setBody({{buildSide()}, {buildCard(), 1}}, look::kMargin);
     buildCommands();
     connectEmployees();
     addEmployeeKeys();
@@ -77,48 +76,33 @@ void CartaoPontoDadosWindow::connectGrid(HalfMonth which) {
 }
 
 void CartaoPontoDadosWindow::buildCommands() {
-    QToolButton* one = addCommand(QStringLiteral("apply"), QStringLiteral("Aplicar Ponto"),
-                                  Qt::Key_F9, QStringLiteral("card.apply"));
-    one->setToolTip(QStringLiteral("Ctrl+F9 aplica e passa ao próximo funcionário."));
-    connect(one, &QToolButton::clicked, this, &CartaoPontoDadosWindow::apply);
-    QToolButton* all =
-        addCommand(QStringLiteral("employees"), QStringLiteral("Aplicar Ponto p/Todos"),
-                   Qt::SHIFT | Qt::Key_F9, QStringLiteral("card.applyToAll"));
-    connect(all, &QToolButton::clicked, this, &CartaoPontoDadosWindow::applyToAll);
-    QToolButton* record = addCommand(QStringLiteral("save"), QStringLiteral("Gravar"),
-                                     QKeySequence::Save, QStringLiteral("card.save"));
-    connect(record, &QToolButton::clicked, this, &CartaoPontoDadosWindow::save);
-    otherHalf_ = addCommand(QStringLiteral("right"), HalfMonthPanel::nameOf(HalfMonth::Second),
-                            Qt::Key_F6, QStringLiteral("card.otherHalf"));
-    connect(otherHalf_, &QToolButton::clicked, this, [this] {
-        showHalf(otherThan(shown_));
-        half(shown_).grid().goToStart();
-    });
-    QToolButton* month =
-        addCommand(QStringLiteral("month"), QStringLiteral("Configurações Feriados e Horas extras"),
-                   Qt::Key_F7, QStringLiteral("card.monthSettings"));
-    connect(month, &QToolButton::clicked, this,
-            [this] { leaveFor(&CartaoPontoDadosWindow::monthSettingsRequested); });
-    leadOn(*addClosingButton(QStringLiteral("Afasta&mentos  F8"), QStringLiteral("card.leaves")),
-           QStringLiteral("leave"), Qt::Key_F8, &CartaoPontoDadosWindow::leavesRequested);
-    leadOn(*addClosingButton(QStringLiteral("+ Quadro Horário e Escala de Revezamento"),
-                             QStringLiteral("card.rotation")),
-           QStringLiteral("rotation"), Qt::CTRL | Qt::Key_E,
-           &CartaoPontoDadosWindow::rotationRequested);
-    leadOn(*addClosingButton(QStringLiteral("Espelho do Ponto"), QStringLiteral("card.mirror")),
-           QStringLiteral("mirror"), Qt::CTRL | Qt::Key_I,
-           &CartaoPontoDadosWindow::mirrorRequested);
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("card.close"));
-    connect(close, &QPushButton::clicked, this, &CartaoPontoDadosWindow::reject);
-}
-
-void CartaoPontoDadosWindow::leadOn(QPushButton& button, const QString& icon,
-                                    const QKeySequence& key,
-                                    void (CartaoPontoDadosWindow::*requested)()) {
-    button.setIcon(look::icon(icon));
-    button.setToolTip(key.toString(QKeySequence::NativeText));
-    connect(&button, &QPushButton::clicked, this, [this, requested] { leaveFor(requested); });
-    connect(new QShortcut(key, this), &QShortcut::activated, &button, &QPushButton::click);
+    addCommand({"apply", QStringLiteral("Aplicar Ponto"), Qt::Key_F9, "card.apply",
+                [this] { (void)apply(); }})
+        ->setToolTip(QStringLiteral("Ctrl+F9 aplica e passa ao próximo funcionário."));
+    addCommand({"employees", QStringLiteral("Aplicar Ponto p/Todos"), Qt::SHIFT | Qt::Key_F9,
+                "card.applyToAll", [this] { applyToAll(); }});
+    addCommand(
+        {"save", QStringLiteral("Gravar"), QKeySequence::Save, "card.save", [this] { save(); }});
+    otherHalf_ = addCommand(
+        {"right", HalfMonthPanel::nameOf(HalfMonth::Second), Qt::Key_F6, "card.otherHalf", [this] {
+             showHalf(otherThan(shown_));
+             half(shown_).grid().goToStart();
+         }});
+    addCommand({"month", QStringLiteral("Configurações Feriados e Horas extras"), Qt::Key_F7,
+                "card.monthSettings",
+                [this] { leaveFor(&CartaoPontoDadosWindow::monthSettingsRequested); }});
+    // The command bar has no room left for what leads to other screens.
+    const auto leadOn = [this](const ScreenCommand& command) {
+        addClosingButton(command)->setToolTip(command.key.toString(QKeySequence::NativeText));
+    };
+    leadOn({"leave", QStringLiteral("Afasta&mentos  F8"), Qt::Key_F8, "card.leaves",
+            [this] { leaveFor(&CartaoPontoDadosWindow::leavesRequested); }});
+    leadOn({"rotation", QStringLiteral("+ Quadro Horário e Escala de Revezamento"),
+            Qt::CTRL | Qt::Key_E, "card.rotation",
+            [this] { leaveFor(&CartaoPontoDadosWindow::rotationRequested); }});
+    leadOn({"mirror", QStringLiteral("Espelho do Ponto"), Qt::CTRL | Qt::Key_I, "card.mirror",
+            [this] { leaveFor(&CartaoPontoDadosWindow::mirrorRequested); }});
+    addLeavingButton("card.close");
 }
 
 void CartaoPontoDadosWindow::connectEmployees() {
@@ -135,13 +119,7 @@ void CartaoPontoDadosWindow::connectEmployees() {
 }
 
 void CartaoPontoDadosWindow::addEmployeeKeys() {
-    const auto add = [this](int key, int step) {
-        auto* shortcut = new QShortcut(key, this);
-        connect(shortcut, &QShortcut::activated, employees_,
-                [this, step] { employees_->step(step); });
-    };
-    add(Qt::Key_PageUp, -1);
-    add(Qt::Key_PageDown, 1);
+    addPageKeys([this](int by) { employees_->step(by); });
     auto* applyAndGoOn = new QShortcut(Qt::CTRL | Qt::Key_F9, this);
     connect(applyAndGoOn, &QShortcut::activated, this, [this] {
         if (apply()) employees_->step(1);

@@ -50,16 +50,12 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
-    [[nodiscard]] QWidget* buildBody();
     [[nodiscard]] QWidget* buildSide();
     [[nodiscard]] QWidget* buildHours();
     [[nodiscard]] QWidget* buildCard();
     [[nodiscard]] QRadioButton* buildEntryMode(const QString& text, const QString& objectName,
                                                Qt::Key key);
     void buildCommands();
-    /// A button that leads to another screen; the command bar has no room left.
-    void leadOn(QPushButton& button, const QString& icon, const QKeySequence& key,
-                void (CartaoPontoDadosWindow::*requested)());
     void connectEmployees();
     void connectGrid(HalfMonth half);
     void addEmployeeKeys();

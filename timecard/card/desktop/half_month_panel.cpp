@@ -12,10 +12,8 @@ namespace winvrx {
 HalfMonthPanel::HalfMonthPanel(CartaoPontoDados& command, HalfMonth half, QWidget* parent)
     : QWidget(parent), command_(command), half_(half) {
     const QString number = half == HalfMonth::First ? QStringLiteral("1") : QStringLiteral("2");
-    heading_ = look::heading(QString(), this);
-    heading_->setObjectName(QStringLiteral("card.heading") + number);
-    marks_ = look::label(QString(), look::TextSize::Body, this);
-    marks_->setObjectName(QStringLiteral("card.marks") + number);
+    heading_ = look::line(QStringLiteral("card.heading") + number, look::TextSize::Heading, this);
+    marks_ = look::line(QStringLiteral("card.marks") + number, look::TextSize::Body, this);
     look::setTint(*marks_, look::Tint::Warning);
     model_ = new PunchModel(command_, half, this);
     grid_ = new PunchGrid(model_, this);

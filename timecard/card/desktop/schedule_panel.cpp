@@ -45,17 +45,12 @@ SchedulePanel::SchedulePanel(CartaoPontoDados& command, QWidget* parent)
 }
 
 void SchedulePanel::buildTexts() {
-    name_ = look::heading(QString(), this);
-    name_->setObjectName(QStringLiteral("schedule.name"));
-    name_->setWordWrap(true);
+    name_ = look::paragraph(QStringLiteral("schedule.name"), look::TextSize::Heading, this);
     facts_ = look::label(QString(), look::TextSize::Hint, this);
     facts_->setWordWrap(true);
-    weekly_ = look::label(QString(), look::TextSize::Hint, this);
-    weekly_->setObjectName(QStringLiteral("schedule.weekly"));
-    monthly_ = look::label(QString(), look::TextSize::Hint, this);
-    monthly_->setObjectName(QStringLiteral("schedule.monthly"));
-    hint_ = look::label(QString(), look::TextSize::Hint, this);
-    hint_->setObjectName(QStringLiteral("schedule.hint"));
+    weekly_ = look::line(QStringLiteral("schedule.weekly"), look::TextSize::Hint, this);
+    monthly_ = look::line(QStringLiteral("schedule.monthly"), look::TextSize::Hint, this);
+    hint_ = look::line(QStringLiteral("schedule.hint"), look::TextSize::Hint, this);
     look::setTint(*hint_, look::Tint::Warning);
 }
 
@@ -90,8 +85,7 @@ QGridLayout* SchedulePanel::buildTimes() {
     QLabel* weekday = look::label(QStringLiteral("Segunda a se&xta"), look::TextSize::Body, this);
     weekday->setBuddy(times_[0]->input());
     grid->addWidget(weekday, 1, 0);
-    saturday_ = look::label(QString(), look::TextSize::Body, this);
-    saturday_->setObjectName(QStringLiteral("schedule.saturday"));
+    saturday_ = look::line(QStringLiteral("schedule.saturday"), look::TextSize::Body, this);
     saturday_->setBuddy(times_[kFirstSaturdayTime]->input());
     grid->addWidget(saturday_, 2, 0);
     buildSave();
@@ -148,8 +142,7 @@ void SchedulePanel::showTotals() {
     QString finding;
     for (std::size_t position = 0; position < kScheduleTimes && finding.isEmpty(); ++position)
         finding = toQt(command_.schedule().findingAt(position));
-    hint_->setText(finding.isEmpty() ? finding : QStringLiteral("⚠ ") + finding);
-    hint_->setVisible(!finding.isEmpty());
+    look::showWarning(*hint_, finding);
 }
 
 }  // namespace winvrx

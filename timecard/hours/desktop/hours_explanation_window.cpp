@@ -59,17 +59,12 @@ HoursExplanationWindow::HoursExplanationWindow(const HoursSummary& hours, HourCa
     const auto parts = hours.explanation(category, half);
     setBody(buildBody(parts));
     setState(QStringLiteral("Total: ") + toQt(hours.figure(category, half)));
-    QPushButton* close =
-        addClosingButton(QStringLiteral("&Fechar"), QStringLiteral("hoursExplanation.close"));
-    close->setDefault(true);
-    connect(close, &QPushButton::clicked, this, &HoursExplanationWindow::reject);
+    addLeavingButton("hoursExplanation.close", QStringLiteral("&Fechar"))->setDefault(true);
     resize(kSize);
 }
 
 QWidget* HoursExplanationWindow::buildBody(const std::vector<ExplainedPart>& parts) {
-    auto* body = new QWidget(this);
-    auto* column = new QVBoxLayout(body);
-    look::layOutBody(*column);
+    const auto [body, column] = look::body(this);
     if (parts.empty()) {
         column->addWidget(look::label(kNothing, look::TextSize::Body, body));
         column->addStretch();

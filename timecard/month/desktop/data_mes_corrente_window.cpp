@@ -11,9 +11,7 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QToolButton>
 
 #include <algorithm>
@@ -39,29 +37,20 @@ DataMesCorrenteWindow::DataMesCorrenteWindow(DataMesCorrente& command, QWidget* 
 }
 
 void DataMesCorrenteWindow::addCommands() {
-    QToolButton* record = addCommand(QStringLiteral("save"), QStringLiteral("Gravar"),
-                                     QKeySequence::Save, QStringLiteral("month.record"));
-    connect(record, &QToolButton::clicked, this, &DataMesCorrenteWindow::recordMonth);
-    QToolButton* local = addCommand(QStringLiteral("month"), QStringLiteral("Feriados Locais"),
-                                    Qt::Key_F6, QStringLiteral("month.localHolidays"));
-    connect(local, &QToolButton::clicked, this, &DataMesCorrenteWindow::localHolidaysRequested);
-    QToolButton* all =
-        addCommand(QStringLiteral("employees"), QStringLiteral("Atualizar p/Todos os Funcionários"),
-                   Qt::Key_F7, QStringLiteral("month.updateAll"));
-    connect(all, &QToolButton::clicked, this, &DataMesCorrenteWindow::updateAll);
-    offeredRules_ = addCommand(QStringLiteral("restore"), QString(), Qt::Key_F9,
-                               QStringLiteral("month.offeredRules"));
-    connect(offeredRules_, &QToolButton::clicked, this, [this] {
-        command_.takeOfferedRules();
-        rules_->refresh();
-        showState();
-    });
-    QPushButton* confirm =
-        addClosingButton(QStringLiteral("&Confirma"), QStringLiteral("month.confirm"));
-    confirm->setDefault(true);
-    connect(confirm, &QPushButton::clicked, this, &DataMesCorrenteWindow::confirmMonth);
-    QPushButton* close = addClosingButton(QStringLiteral("&Sair"), QStringLiteral("month.close"));
-    connect(close, &QPushButton::clicked, this, &DataMesCorrenteWindow::reject);
+    addCommand({"save", QStringLiteral("Gravar"), QKeySequence::Save, "month.record",
+                [this] { recordMonth(); }});
+    addCommand({"month", QStringLiteral("Feriados Locais"), Qt::Key_F6, "month.localHolidays",
+                [this] { emit localHolidaysRequested(); }});
+    addCommand({"employees", QStringLiteral("Atualizar p/Todos os Funcionários"), Qt::Key_F7,
+                "month.updateAll", [this] { updateAll(); }});
+    offeredRules_ = addCommand({"restore", {}, Qt::Key_F9, "month.offeredRules", [this] {
+                                    command_.takeOfferedRules();
+                                    rules_->refresh();
+                                    showState();
+                                }});
+    addDefaultButton(
+        {"", QStringLiteral("&Confirma"), {}, "month.confirm", [this] { confirmMonth(); }});
+    addLeavingButton("month.close");
 }
 
 QWidget* DataMesCorrenteWindow::buildBody() {
@@ -77,18 +66,10 @@ QWidget* DataMesCorrenteWindow::buildBody() {
 }
 
 QWidget* DataMesCorrenteWindow::buildMonthColumn() {
-    auto* widget = new QWidget(this);
-    auto* column = new QVBoxLayout(widget);
-    look::layOutPart(*column);
+    const auto [widget, column] = look::part(this);
     month_ = new QComboBox(widget);
     look::name(*month_, QStringLiteral("month.month"), QStringLiteral("Mês de Trabalho"));
-    QLabel* label = look::label(QStringLiteral("&Mês de Trabalho"), look::TextSize::Body, widget);
-    label->setBuddy(month_);
-    auto* row = new QHBoxLayout;
-    look::layOutPart(*row);
-    row->addWidget(label);
-    row->addWidget(month_, 1);
-    column->addLayout(row);
+    column->addLayout(look::captioned(QStringLiteral("&Mês de Trabalho"), month_));
     reference_ = new QCheckBox(widget);
     reference_->setObjectName(QStringLiteral("month.reference"));
     column->addWidget(reference_);
@@ -108,14 +89,10 @@ void DataMesCorrenteWindow::connectMonth() {
         (void)command_.chooseNextReference();
         showMonth();
     });
-    for (const auto& [key, step] :
-         {std::pair(Qt::Key_PageUp, -1), std::pair(Qt::Key_PageDown, 1)}) {
-        auto* move = new QShortcut(key, this);
-        connect(move, &QShortcut::activated, this, [this, months = step] {
-            (void)command_.chooseMonth(command_.settings().month + std::chrono::months{months});
-            showMonth();
-        });
-    }
+    addPageKeys([this](int months) {
+        (void)command_.chooseMonth(command_.settings().month + std::chrono::months{months});
+        showMonth();
+    });
 }
 
 void DataMesCorrenteWindow::showMonths() {

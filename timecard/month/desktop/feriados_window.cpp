@@ -1,10 +1,7 @@
 #include "timecard/month/desktop/feriados_window.h"
 
 #include "foundation/widgets/desktop/look.h"
-#include "foundation/widgets/desktop/record_form.h"
-
-#include <QLabel>
-#include <QScrollArea>
+#include "foundation/widgets/desktop/noted_form.h"
 
 #include <array>
 
@@ -17,27 +14,10 @@ constexpr std::array kPlacements = {
     FieldPlacement<LocalHoliday>{&LocalHoliday::name, "name", 'N', 0, 1, 12},
 };
 
-class HolidayForm : public RecordForm<LocalHoliday> {
-  public:
-    HolidayForm(Feriados& holidays, QWidget* window)
-        : RecordForm(holidays, QStringLiteral("feriados"), window) {
-        auto* form = new QWidget(window);
-        auto* column = new QVBoxLayout(form);
-        look::layOutPart(*column);
-        column->addWidget(look::heading(QStringLiteral("Feriado"), form));
-        addGroup(kPlacements, 0, *column);
-        QLabel* note = look::label(
-            QStringLiteral("Dia e mês, como 25/01, valem para todos os anos; com o ano, como "
-                           "25/01/2026, só para essa data. Um mês ainda não gravado já vem com "
-                           "estes feriados marcados; um mês gravado não muda. A lista serve a "
-                           "todas as empresas."),
-            look::TextSize::Hint, form);
-        note->setWordWrap(true);
-        column->addWidget(note);
-        column->addStretch();
-        setWidget(look::scrolled(form, window));
-    }
-};
+const QString kNote = QStringLiteral(
+    "Dia e mês, como 25/01, valem para todos os anos; com o ano, como 25/01/2026, só para essa "
+    "data. Um mês ainda não gravado já vem com estes feriados marcados; um mês gravado não muda. A "
+    "lista serve a todas as empresas.");
 
 }  // namespace
 
@@ -52,7 +32,9 @@ FeriadosWindow::FeriadosWindow(Feriados& holidays, QWidget* parent)
                       .emptyAction = QStringLiteral("Incluir o primeiro"),
                       .headings = {QStringLiteral("Dia"), QStringLiteral("Nome")}},
                      parent) {
-    assemble(new HolidayForm(holidays, this), nullptr);
+    assemble(new NotedForm<LocalHoliday>(holidays, QStringLiteral("feriados"), kPlacements,
+                                         QStringLiteral("Feriado"), kNote, this),
+             nullptr);
     resize(look::kSmallWindowSize);
     openAt(std::nullopt);
 }

@@ -24,23 +24,10 @@ QString withSign(const QString& text) {
     return kOfferSign + QLatin1Char(' ') + text;
 }
 
-QLabel* paragraph(const char* objectName, QWidget* parent) {
-    QLabel* label = look::label(QString(), look::TextSize::Hint, parent);
-    label->setObjectName(QString::fromLatin1(objectName));
-    label->setWordWrap(true);
-    return label;
-}
-
-void showText(QLabel& label, const QString& text) {
-    label.setText(text);
-    label.setVisible(!text.isEmpty());
-}
-
 QPushButton* button(const char* icon, const QString& text, const char* objectName,
                     QWidget* parent) {
-    auto* button = new QPushButton(look::icon(QString::fromLatin1(icon)), text, parent);
-    look::name(*button, QString::fromLatin1(objectName), text);
-    button->setAutoDefault(false);
+    QPushButton* button = look::button(text, QLatin1String(objectName), parent);
+    button->setIcon(look::icon(QLatin1String(icon)));
     return button;
 }
 
@@ -53,23 +40,21 @@ HolidayPanel::HolidayPanel(DataMesCorrente& command, QWidget* parent)
     heading_ = look::heading(QString(), this);
     heading_->setWordWrap(true);
     column->addWidget(heading_);
-    notice_ = paragraph("month.offer", this);
+    notice_ = look::paragraph(QStringLiteral("month.offer"), look::TextSize::Hint, this);
     look::setTint(*notice_, look::Tint::Leave);
     column->addWidget(notice_);
     grid_ = new HolidayGrid(command_, this);
     column->addWidget(grid_);
-    counts_ = look::label(QString(), look::TextSize::Body, this);
-    counts_->setObjectName(QStringLiteral("month.counts"));
-    counts_->setWordWrap(true);
+    counts_ = look::paragraph(QStringLiteral("month.counts"), look::TextSize::Body, this);
     column->addWidget(counts_);
     auto* row = new QHBoxLayout;
     look::layOutPart(*row);
     row->addWidget(buildList(), 1);
     row->addWidget(buildCommands());
     column->addLayout(row, 1);
-    unticked_ = paragraph("month.unticked", this);
+    unticked_ = look::paragraph(QStringLiteral("month.unticked"), look::TextSize::Hint, this);
     column->addWidget(unticked_);
-    unread_ = paragraph("month.unread", this);
+    unread_ = look::paragraph(QStringLiteral("month.unread"), look::TextSize::Hint, this);
     look::setTint(*unread_, look::Tint::Warning);
     column->addWidget(unread_);
     connect(grid_, &HolidayGrid::ticked, this, &HolidayPanel::takeNote);
@@ -81,9 +66,7 @@ HolidayPanel::HolidayPanel(DataMesCorrente& command, QWidget* parent)
 }
 
 QWidget* HolidayPanel::buildList() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(this);
     holidays_ = look::table(QStringLiteral("month.holidays"), QStringLiteral("Feriados"),
                             QStringList(kNameCell + 1), part);
     holidays_->setHeaderHidden(true);
@@ -99,9 +82,7 @@ QWidget* HolidayPanel::buildList() {
 }
 
 QWidget* HolidayPanel::buildCommands() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(this);
     QPushButton* reset = button("clear", QStringLiteral("&Reset."), "month.reset", part);
     QPushButton* restore = button("restore", QStringLiteral("Resta&urar"), "month.restore", part);
     recordTicks_ = new QCheckBox(QStringLiteral("&Gravação"), part);
@@ -138,7 +119,7 @@ void HolidayPanel::refresh() {
 
 void HolidayPanel::showHolidays() {
     const QString notice = toQt(command_.offerNotice());
-    showText(*notice_, notice.isEmpty() ? notice : withSign(notice));
+    look::showText(*notice_, notice.isEmpty() ? notice : withSign(notice));
     grid_->refresh();
     holidays_->clear();
     for (const ListedHoliday& one : command_.holidays()) {
@@ -159,9 +140,9 @@ void HolidayPanel::showUnticked() {
     QStringList days;
     for (const Holiday& one : command_.untickedHolidays())
         days << toQt(dateText(one.date).substr(0, 5) + " " + one.name);
-    showText(*unticked_, days.isEmpty()
-                             ? QString()
-                             : withSign(QStringLiteral("Não marcados: ") + days.join(u", ")));
+    look::showText(*unticked_, days.isEmpty()
+                                   ? QString()
+                                   : withSign(QStringLiteral("Não marcados: ") + days.join(u", ")));
 }
 
 void HolidayPanel::showUnread() {
@@ -170,14 +151,15 @@ void HolidayPanel::showUnread() {
         lines << QStringLiteral("linha %1 “%2”").arg(line.number).arg(toQt(line.text));
     unread_->setToolTip(lines.join(QLatin1Char('\n')));
     if (lines.size() > 1)
-        showText(*unread_, QStringLiteral("⚠ %1 linhas não entendidas, mantidas no registro: %2 …")
-                               .arg(lines.size())
-                               .arg(lines[0]));
+        look::showText(*unread_,
+                       QStringLiteral("⚠ %1 linhas não entendidas, mantidas no registro: %2 …")
+                           .arg(lines.size())
+                           .arg(lines[0]));
     else
-        showText(*unread_,
-                 lines.isEmpty()
-                     ? QString()
-                     : QStringLiteral("⚠ Não entendida, mantida no registro: ") + lines[0]);
+        look::showText(*unread_,
+                       lines.isEmpty()
+                           ? QString()
+                           : QStringLiteral("⚠ Não entendida, mantida no registro: ") + lines[0]);
 }
 
 void HolidayPanel::tickOffer() {

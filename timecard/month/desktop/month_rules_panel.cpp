@@ -87,8 +87,7 @@ void MonthRulesPanel::addClosing(QVBoxLayout& column) {
     grid->addWidget(fixedMonth_, 0, 0);
     grid->addWidget(startDay_, 0, 1);
     addNumber(*grid, 0, 2, kClosingDay);
-    period_ = look::label(QString(), look::TextSize::Hint, this);
-    period_->setObjectName(QStringLiteral("month.period"));
+    period_ = look::line(QStringLiteral("month.period"), look::TextSize::Hint, this);
     grid->addWidget(period_, 0, kColumnsOfNumber + 2);
     grid->setColumnStretch(kColumnsOfNumber + 2, 1);
     column.addLayout(grid);
@@ -134,13 +133,9 @@ void MonthRulesPanel::addOvertime(QVBoxLayout& column) {
         group->addButton(choice);
         column.addWidget(choice);
     }
-    modeNotice_ = look::label(QString(), look::TextSize::Hint, this);
-    modeNotice_->setObjectName(QStringLiteral("month.modeNotice"));
-    modeNotice_->setWordWrap(true);
+    modeNotice_ = look::paragraph(QStringLiteral("month.modeNotice"), look::TextSize::Hint, this);
     column.addWidget(modeNotice_);
-    ownRules_ = look::label(QString(), look::TextSize::Hint, this);
-    ownRules_->setObjectName(QStringLiteral("month.ownRules"));
-    ownRules_->setWordWrap(true);
+    ownRules_ = look::paragraph(QStringLiteral("month.ownRules"), look::TextSize::Hint, this);
     look::setTint(*ownRules_, look::Tint::Warning);
     column.addWidget(ownRules_);
 }
@@ -216,9 +211,7 @@ void MonthRulesPanel::showTexts() {
     differentiated_->setCaption(withMnemonic(command_.differentiatedCaption(), 'P'));
     modeNotice_->setText(toQt(command_.modeNotice()));
     period_->setText(toQt(command_.closingPeriodText()));
-    const QString own = toQt(command_.ownRulesNotice());
-    ownRules_->setText(own.isEmpty() ? own : QStringLiteral("⚠ ") + own);
-    ownRules_->setVisible(!own.isEmpty());
+    look::showWarning(*ownRules_, toQt(command_.ownRulesNotice()));
     for (std::size_t field = 0; field < numbers_.size(); ++field)
         numbers_[field]->setWarning(toQt(command_.findingOf(kMonthNumberFields[field])));
 }

@@ -11,7 +11,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <QToolButton>
@@ -41,7 +40,7 @@ CartaoPontoDadosBWindow::CartaoPontoDadosBWindow(CartaoPontoDadosB& command, QWi
     : ScreenWindow(QStringLiteral("cartaoPontoDadosB"),
                    QStringLiteral("Quadro de Horário de  Trabalho"), parent),
       command_(command) {
-    setBody(buildBody());
+    setBody({{buildSide()}, {buildPages(), 1}}, look::kMargin);
     buildCommands();
     startWithAGroup();
     refresh();
@@ -49,21 +48,9 @@ CartaoPontoDadosBWindow::CartaoPontoDadosBWindow(CartaoPontoDadosB& command, QWi
     employees_->focusList();
 }
 
-QWidget* CartaoPontoDadosBWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kMargin);
-    row->addWidget(buildSide());
-    row->addWidget(buildPages(), 1);
-    return body;
-}
-
 QWidget* CartaoPontoDadosBWindow::buildSide() {
-    auto* side = new QWidget(this);
+    const auto [side, column] = look::part(this);
     side->setFixedWidth(kSideWidth);
-    auto* column = new QVBoxLayout(side);
-    look::layOutPart(*column);
     sideHeading_ = look::heading(QString(), side);
     column->addWidget(sideHeading_);
     column->addLayout(buildScale());
@@ -83,13 +70,7 @@ QLayout* CartaoPontoDadosBWindow::buildScale() {
         (void)command_.filterBy(kScales.at(static_cast<std::size_t>(place)));
         refresh();
     });
-    QLabel* label = look::label(QStringLiteral("Esca&la"), look::TextSize::Body, this);
-    label->setBuddy(scale_);
-    auto* row = new QHBoxLayout;
-    look::layOutPart(*row);
-    row->addWidget(label);
-    row->addWidget(scale_, 1);
-    return row;
+    return look::captioned(QStringLiteral("Esca&la"), scale_);
 }
 
 void CartaoPontoDadosBWindow::buildEmployees() {
@@ -119,33 +100,32 @@ QLayout* CartaoPontoDadosBWindow::buildGroupHeading() {
     auto* row = new QHBoxLayout;
     look::layOutPart(*row);
     row->addWidget(look::heading(QStringLiteral("Grupos"), this), 1);
-    const auto add = [&](const char* text, const char* name, const char* tip) {
-        auto* button = new QPushButton(QString::fromUtf8(text), this);
-        look::name(*button, QString::fromLatin1(name), button->text());
-        button->setToolTip(QString::fromUtf8(tip));
-        button->setAutoDefault(false);
-        row->addWidget(button);
-        return button;
-    };
-    connect(add("EXCLUIR GRUPOS", "rotation.removeGroups", "Todos os que a lista mostra."),
-            &QPushButton::clicked, this, [this] {
-                (void)command_.removeGroups();
-                refresh();
-            });
+    QPushButton* remove = newButton({"",
+                                     QStringLiteral("EXCLUIR GRUPOS"),
+                                     {},
+                                     "rotation.removeGroups",
+                                     [this] {
+                                         (void)command_.removeGroups();
+                                         refresh();
+                                     }},
+                                    this);
+    remove->setToolTip(QStringLiteral("Todos os que a lista mostra."));
+    row->addWidget(remove);
     QPushButton* show =
-        add("&Ver Grupo", "rotation.showGroup", "F4: o do funcionário selecionado na lista acima.");
-    connect(show, &QPushButton::clicked, this, [this] {
-        if (const auto at = employees_->selected()) (void)command_.selectGroupOf(*at);
-        showGroup();
-    });
-    connect(new QShortcut(Qt::Key_F4, show), &QShortcut::activated, show, &QPushButton::click);
+        newButton({"", QStringLiteral("&Ver Grupo"), Qt::Key_F4, "rotation.showGroup",
+                   [this] {
+                       if (const auto at = employees_->selected())
+                           (void)command_.selectGroupOf(*at);
+                       showGroup();
+                   }},
+                  this);
+    show->setToolTip(QStringLiteral("F4: o do funcionário selecionado na lista acima."));
+    row->addWidget(show);
     return row;
 }
 
 QWidget* CartaoPontoDadosBWindow::buildGroups() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(this);
     column->addLayout(buildGroupHeading());
     groups_ = new QListWidget(part);
     look::name(*groups_, QStringLiteral("rotation.groups"), QStringLiteral("Grupos"));
@@ -156,20 +136,14 @@ QWidget* CartaoPontoDadosBWindow::buildGroups() {
     connect(groups_, &QListWidget::currentItemChanged, this, &CartaoPontoDadosBWindow::chooseGroup,
             Qt::QueuedConnection);
     column->addWidget(groups_, 1);
-    noGroups_ = look::label(QString(), look::TextSize::Hint, part);
-    noGroups_->setObjectName(QStringLiteral("rotation.noGroups"));
-    noGroups_->setWordWrap(true);
+    noGroups_ = look::paragraph(QStringLiteral("rotation.noGroups"), look::TextSize::Hint, part);
     column->addWidget(noGroups_);
-    continue_ = new QPushButton(part);
-    look::name(*continue_, QStringLiteral("rotation.continue"), QStringLiteral("Continuar grupos"));
-    continue_->setAutoDefault(false);
-    connect(continue_, &QPushButton::clicked, this, [this] {
-        if (command_.continueGroups()) startWithAGroup();
-        refresh();
-    });
-    // A shortcut of a hidden button does nothing.
-    connect(new QShortcut(Qt::Key_F8, continue_), &QShortcut::activated, continue_,
-            &QPushButton::click);
+    continue_ = newButton({"", QStringLiteral("Continuar grupos"), Qt::Key_F8, "rotation.continue",
+                           [this] {
+                               if (command_.continueGroups()) startWithAGroup();
+                               refresh();
+                           }},
+                          part);
     column->addWidget(continue_);
     column->addStretch();
     return part;
@@ -191,47 +165,40 @@ QWidget* CartaoPontoDadosBWindow::buildPages() {
     return pages_;
 }
 
-QToolButton* CartaoPontoDadosBWindow::addGroupCommand(const char* icon, const char* text,
-                                                      const QKeySequence& key, const char* name,
-                                                      bool (CartaoPontoDadosB::*act)(),
-                                                      QWidget* within) {
-    QToolButton* button = addCommand(QString::fromLatin1(icon), QString::fromUtf8(text), key,
-                                     QString::fromLatin1(name), within);
-    connect(button, &QToolButton::clicked, this, [this, act] {
-        (void)(command_.*act)();
-        refresh();
-    });
+QToolButton* CartaoPontoDadosBWindow::addGroupCommand(const ScreenCommand& command) {
+    QToolButton* button = addCommand(command);
     groupCommands_.push_back(button);
     return button;
 }
 
 void CartaoPontoDadosBWindow::buildCommands() {
-    using Command = CartaoPontoDadosB;
-    addGroupCommand("add", "Criar Novo Grupo", Qt::Key_Insert, "rotation.new", &Command::newGroup);
-    save_ = addCommand(QStringLiteral("save"), QString(), QKeySequence::Save,
-                       QStringLiteral("rotation.save"));
-    connect(save_, &QToolButton::clicked, this, &CartaoPontoDadosBWindow::save);
-    restore_ = addCommand(QStringLiteral("restore"), QStringLiteral("Restaurar Padrão"),
-                          Qt::CTRL | Qt::Key_R, QStringLiteral("rotation.restore"));
-    connect(restore_, &QToolButton::clicked, this, [this] {
-        command_.restoreTable();
-        refresh();
-    });
-    QToolButton* print = addCommand(QStringLiteral("print"), QStringLiteral("Imprimir"),
-                                    QKeySequence::Print, QStringLiteral("rotation.print"));
-    print->setToolTip(QStringLiteral("As escalas mostradas, uma folha por grupo, para a parede."));
-    connect(print, &QToolButton::clicked, this,
-            [this] { (void)command_.printSheets(ReportOutput::Preview); });
-    groupCommands_.push_back(print);
-    addGroupCommand("sheet", "Folha em Texto", Qt::CTRL | Qt::Key_T, "rotation.text",
-                    &Command::printText);
-    addGroupCommand("delete", "EXCLUIR GRUPO", Qt::Key_Delete, "rotation.removeGroup",
-                    &Command::removeGroup, groups_);
-    addGroupCommand("clear", "EXCLUIR PONTO", {}, "rotation.removePunches",
-                    &Command::removePunches);
-    QPushButton* close =
-        addClosingButton(QStringLiteral("&Sair"), QStringLiteral("rotation.close"));
-    connect(close, &QPushButton::clicked, this, &CartaoPontoDadosBWindow::reject);
+    const auto giving = [this](bool (CartaoPontoDadosB::*act)()) {
+        return [this, act] {
+            (void)(command_.*act)();
+            refresh();
+        };
+    };
+    addGroupCommand({"add", QStringLiteral("Criar Novo Grupo"), Qt::Key_Insert, "rotation.new",
+                     giving(&CartaoPontoDadosB::newGroup)});
+    save_ = addCommand({"save", {}, QKeySequence::Save, "rotation.save", [this] { save(); }});
+    restore_ = addCommand({"restore", QStringLiteral("Restaurar Padrão"), Qt::CTRL | Qt::Key_R,
+                           "rotation.restore", [this] {
+                               command_.restoreTable();
+                               refresh();
+                           }});
+    addGroupCommand({"print", QStringLiteral("Imprimir"), QKeySequence::Print, "rotation.print",
+                     [this] { (void)command_.printSheets(ReportOutput::Preview); }})
+        ->setToolTip(QStringLiteral("As escalas mostradas, uma folha por grupo, para a parede."));
+    addGroupCommand({"sheet", QStringLiteral("Folha em Texto"), Qt::CTRL | Qt::Key_T,
+                     "rotation.text", giving(&CartaoPontoDadosB::printText)});
+    addGroupCommand({"delete", QStringLiteral("EXCLUIR GRUPO"), Qt::Key_Delete,
+                     "rotation.removeGroup", giving(&CartaoPontoDadosB::removeGroup), groups_});
+    addGroupCommand({"clear",
+                     QStringLiteral("EXCLUIR PONTO"),
+                     {},
+                     "rotation.removePunches",
+                     giving(&CartaoPontoDadosB::removePunches)});
+    addLeavingButton("rotation.close");
 }
 
 void CartaoPontoDadosBWindow::startWithAGroup() {

@@ -31,7 +31,6 @@ class CartaoPontoDadosBWindow : public ScreenWindow {
     [[nodiscard]] bool mayClose() override { return command_.confirmLeaving(); }
 
   private:
-    [[nodiscard]] QWidget* buildBody();
     [[nodiscard]] QWidget* buildSide();
     [[nodiscard]] QLayout* buildScale();
     void buildEmployees();
@@ -39,9 +38,7 @@ class CartaoPontoDadosBWindow : public ScreenWindow {
     [[nodiscard]] QWidget* buildGroups();
     [[nodiscard]] QWidget* buildPages();
     void buildCommands();
-    QToolButton* addGroupCommand(const char* icon, const char* text, const QKeySequence& key,
-                                 const char* name, bool (CartaoPontoDadosB::*act)(),
-                                 QWidget* within = nullptr);
+    QToolButton* addGroupCommand(const ScreenCommand& command);
 
     void startWithAGroup();
     [[nodiscard]] bool showsTable() const;

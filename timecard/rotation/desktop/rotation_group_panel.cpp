@@ -266,14 +266,12 @@ void RotationGroupPanel::showHint() {
     else if (!command_.groupFinding().empty())
         text = QStringLiteral("⚠ ") + toQt(command_.groupFinding());
     look::setTint(*hint_, plan_->rowCount() == 0 ? look::Tint::Quiet : look::Tint::Warning);
-    hint_->setText(text);
-    hint_->setVisible(!text.isEmpty());
+    look::showText(*hint_, text);
 }
 
 void RotationGroupPanel::showRemarks() {
     const RotationView& view = plan_->view();
-    gaps_->setText(view.gaps.empty() ? QString() : QStringLiteral("⚠ ") + toQt(view.gaps));
-    gaps_->setVisible(!view.gaps.empty());
+    look::showWarning(*gaps_, toQt(view.gaps));
     QStringList lines;
     for (const std::string& note : command_.notes())
         lines << QStringLiteral("⚠ ") + toQt(note);

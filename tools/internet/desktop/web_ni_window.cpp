@@ -8,7 +8,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace winvrx {
@@ -66,18 +65,13 @@ WebNiWindow::WebNiWindow(WebNi& screen, QWidget* parent)
 }
 
 void WebNiWindow::addCommands() {
-    QToolButton* browser =
-        addCommand(QStringLiteral("internet"), QStringLiteral("Abrir Navegador"),
-                   QKeySequence(Qt::CTRL | Qt::Key_B), QStringLiteral("webNi.browser"));
-    connect(browser, &QToolButton::clicked, this, [this] { screen_.openBrowser(); });
-    connect(addClosingButton(QStringLiteral("&Sair"), QStringLiteral("webNi.close")),
-            &QPushButton::clicked, this, &WebNiWindow::reject);
+    addCommand({"internet", QStringLiteral("Abrir Navegador"), Qt::CTRL | Qt::Key_B,
+                "webNi.browser", [this] { screen_.openBrowser(); }});
+    addLeavingButton("webNi.close");
 }
 
 QWidget* WebNiWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* column = new QVBoxLayout(body);
-    look::layOutBody(*column);
+    const auto [body, column] = look::body(this);
     column->setSpacing(look::kGroupGap);
     for (const WebSwitch which : kWebSwitches)
         column->addWidget(buildPart(which, body));
@@ -142,8 +136,7 @@ void WebNiWindow::showState(WebSwitch which) {
     const Part& part = parts_[static_cast<std::size_t>(which)];
     part.state->setText((state.blocked ? QStringLiteral("● ") : QStringLiteral("○ ")) +
                         stateText(state));
-    part.problems->setText(QStringLiteral("⚠ ") + list(state.problems, QStringLiteral(" ")));
-    part.problems->setVisible(!state.problems.empty());
+    look::showWarning(*part.problems, list(state.problems, QStringLiteral(" ")));
 }
 
 void WebNiWindow::showStates() {

@@ -22,10 +22,9 @@ struct PapersWindow : ::testing::Test {
     int opened = 0;
     std::unique_ptr<DrivenWindow<DocumentosWindow>> screen =
         std::make_unique<DrivenWindow<DocumentosWindow>>(
-            desk.screen,
-            std::vector<DocumentosWindow::Neighbour>{
-                {QStringLiteral("contract"), QStringLiteral("Contrato"), Qt::Key_F6,
-                 QStringLiteral("documents.contract"), [this](QWidget*) { ++opened; }}});
+            desk.screen, std::vector<DocumentosWindow::Neighbour>{
+                             {"contract", QStringLiteral("Contrato"), Qt::Key_F6,
+                              "documents.contract", [this](QWidget*) { ++opened; }}});
 
     [[nodiscard]] std::string shownText() const {
         return toUtf8(screen->find<QTextBrowser>("documents.text").toPlainText());
