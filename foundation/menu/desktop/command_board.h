@@ -2,12 +2,13 @@
 
 #include "foundation/desk/desktop/menu_entry.h"
 
-#include <QWidget>
+#include <QScrollArea>
 
 #include <cstddef>
 #include <vector>
 
 class QGridLayout;
+class QLabel;
 class QVBoxLayout;
 
 namespace winvrx {
@@ -15,8 +16,9 @@ namespace winvrx {
 class CommandTile;
 
 /// The commands of the main window as tiles, by subject, as many in a row as have room for their
-/// titles.
-class CommandBoard : public QWidget {
+/// titles. They stand closer where the window is too low for them, and scroll only on a screen that
+/// cannot show them all.
+class CommandBoard : public QScrollArea {
     Q_OBJECT
 
   public:
@@ -33,14 +35,19 @@ class CommandBoard : public QWidget {
 
   private:
     struct Group {
+        QLabel* heading;
         QGridLayout* grid;
         std::vector<CommandTile*> tiles;
     };
 
-    void addGroup(QVBoxLayout& column, const QString& title, const MenuEntries& entries);
+    void addGroup(const QString& title, const MenuEntries& entries);
     [[nodiscard]] CommandTile* makeTile(const MenuEntry& entry, std::size_t place);
-    void layOut(int inRow);
+    /// As many in a row as have room.
+    void layOut(std::size_t spacing);
+    void place(int inRow);
 
+    QWidget* content_;
+    QVBoxLayout* column_;
     std::vector<Group> groups_;
     std::vector<CommandTile*> tiles_;
     int inRow_ = 0;

@@ -11,7 +11,7 @@ namespace winvrx {
 namespace {
 
 constexpr int kCorner = 8;
-constexpr int kTextLeft = look::kMargin + look::kTileIcon + look::kMargin;
+constexpr int kLeastLetters = 24;
 
 QString withoutMnemonic(QString text) {
     return text.remove(QLatin1Char('&'));
@@ -38,21 +38,27 @@ void CommandTile::setStateLine(const QString& text) {
     update();
 }
 
+void CommandTile::setSpacing(const TileSpacing& spacing) {
+    spacing_ = spacing;
+    updateGeometry();
+    update();
+}
+
 void CommandTile::setNext(bool next) {
     next_ = next;
     update();
 }
 
 QSize CommandTile::minimumSizeHint() const {
-    const int lines =
-        fontMetrics().height() + QFontMetrics(look::font(look::TextSize::Hint)).height();
-    return {fontMetrics().averageCharWidth() * 24, lines + look::kGap * 3};
+    const int lines = QFontMetrics(look::font(look::TextSize::Heading)).height() +
+                      QFontMetrics(look::font(look::TextSize::Hint)).height();
+    return {fontMetrics().averageCharWidth() * kLeastLetters, lines + spacing_.padding};
 }
 
 QSize CommandTile::sizeHint() const {
     const QFontMetrics letters(look::font(look::TextSize::Heading));
     const int title = letters.size(Qt::TextShowMnemonic, text()).width();
-    return {kTextLeft + title + look::kMargin, minimumSizeHint().height()};
+    return {textLeft() + title + spacing_.margin, minimumSizeHint().height()};
 }
 
 void CommandTile::paintEvent(QPaintEvent*) {
@@ -69,11 +75,11 @@ void CommandTile::paintEvent(QPaintEvent*) {
         painter.fillPath(shape, look::wash(look::Tint::Accent, palette()));
     painter.setPen(QPen(border, pen, isEnabled() ? Qt::SolidLine : Qt::DashLine));
     painter.drawPath(shape);
-    const QRect iconArea(look::kMargin, (height() - look::kTileIcon) / 2, look::kTileIcon,
-                         look::kTileIcon);
+    const QRect iconArea(spacing_.margin, (height() - spacing_.icon) / 2, spacing_.icon,
+                         spacing_.icon);
     icon().paint(&painter, iconArea, Qt::AlignCenter,
                  isEnabled() ? QIcon::Normal : QIcon::Disabled);
-    paintTexts(painter, rect().adjusted(kTextLeft, 0, -look::kMargin, 0));
+    paintTexts(painter, rect().adjusted(textLeft(), 0, -spacing_.margin, 0));
 }
 
 void CommandTile::paintTexts(QPainter& painter, const QRect& area) const {

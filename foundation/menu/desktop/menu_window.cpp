@@ -7,6 +7,7 @@
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"
 #include "foundation/widgets/desktop/body_area.h"
+#include "foundation/widgets/desktop/enter_key.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/register_list.h"
 #include "foundation/widgets/desktop/search_box.h"
@@ -17,8 +18,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QScrollArea>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -104,12 +103,10 @@ void MenuWindow::buildTitleBand(QVBoxLayout& frame) {
     row->addWidget(mark);
     row->addWidget(look::label(QStringLiteral("Winvrx"), look::TextSize::Title, band));
     row->addStretch(1);
-    companyName_ = look::label(QString(), look::TextSize::Heading, band);
-    companyName_->setObjectName(QStringLiteral("menu.company"));
+    companyName_ = look::line(QStringLiteral("menu.company"), look::TextSize::Heading, band);
     row->addWidget(companyName_);
     row->addStretch(1);
-    today_ = look::label(QString(), look::TextSize::Body, band);
-    today_->setObjectName(QStringLiteral("menu.today"));
+    today_ = look::line(QStringLiteral("menu.today"), look::TextSize::Body, band);
     row->addWidget(today_);
     frame.addWidget(band);
 }
@@ -126,24 +123,15 @@ QWidget* MenuWindow::buildCompanies() {
     look::name(*companies_, QStringLiteral("menu.companies"), QStringLiteral("Lista de empresas"));
     column->addWidget(companies_, 1);
     search_->serve(companies_);
-    auto* filter = new QHBoxLayout;
-    auto* caption = new QLabel(QStringLiteral("T&urno:"), side);
     shift_ = new QComboBox(side);
     look::name(*shift_, QStringLiteral("menu.shift"), QStringLiteral("Turno"));
     for (const ShiftFilter filter : kMenuShiftFilters)
         shift_->addItem(toQt(codeOf(filter)));
     shift_->setCurrentText(toQt(codeOf(ShiftFilter::Todos)));
-    caption->setBuddy(shift_);
-    filter->addWidget(caption);
-    filter->addWidget(shift_, 1);
-    column->addLayout(filter);
+    column->addLayout(look::captioned(QStringLiteral("T&urno:"), shift_));
     connect(search_, &QLineEdit::textChanged, this, &MenuWindow::filterCompanies);
     connect(search_, &QLineEdit::returnPressed, this, &MenuWindow::enterCompany);
-    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
-        auto* enter = new QShortcut(key, companies_);
-        enter->setContext(Qt::WidgetShortcut);
-        connect(enter, &QShortcut::activated, this, &MenuWindow::enterCompany);
-    }
+    onEnter(*companies_, [this] { enterCompany(); });
     connect(companies_, &QListWidget::itemClicked, this, &MenuWindow::selectCompany);
     connect(companies_, &QListWidget::itemActivated, this, &MenuWindow::selectCompany);
     connect(shift_, &QComboBox::currentTextChanged, this, [this](const QString& text) {
@@ -158,7 +146,7 @@ QWidget* MenuWindow::buildCommands() {
     commands_ = new CommandBoard(entries_, this);
     connect(commands_, &CommandBoard::chosen, this,
             [this](std::size_t entry) { open(entries_[entry]); });
-    return look::scrolled(commands_, this);
+    return commands_;
 }
 
 QWidget* MenuWindow::buildOverview() {
@@ -185,18 +173,11 @@ QWidget* MenuWindow::buildOverview() {
 }
 
 QWidget* MenuWindow::buildDataFolder() {
-    auto* part = new QWidget(this);
-    auto* column = new QVBoxLayout(part);
-    look::layOutPart(*column);
+    const auto [part, column] = look::part(this);
     column->addWidget(look::heading(QStringLiteral("(Diretório de Dados)"), part));
-    auto* row = new QHBoxLayout;
-    auto* caption = new QLabel(QStringLiteral("Dri&ve de Origem:"), part);
     drive_ = new QComboBox(part);
     look::name(*drive_, QStringLiteral("menu.drive"), QStringLiteral("Drive de Origem"));
-    caption->setBuddy(drive_);
-    row->addWidget(caption);
-    row->addWidget(drive_, 1);
-    column->addLayout(row);
+    column->addLayout(look::captioned(QStringLiteral("Dri&ve de Origem:"), drive_));
     folder_ = addLines(*column, "menu.folder", look::TextSize::Hint);
     connect(drive_, &QComboBox::textActivated, this, [this](const QString& letter) {
         menu_.useDrive(letter.front().toLatin1());
@@ -217,6 +198,7 @@ bool MenuWindow::start() {
     today_->setText(toQt(dateText(at_.clock.today())) + QStringLiteral(" · Aguarde..."));
     fitToScreen(*this, *body_);
     show();
+    fitToScreen(*this, *commands_);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     menu_.load();
     menu_.selectAsBefore();
