@@ -33,7 +33,12 @@ MenuEntry help(const Workplace& at, Browser& browser) {
             .title = QStringLiteral("&Ajuda"),
             .key = Qt::Key_F1,
             .open = [at, &browser](QWidget*) { openHelp(at, browser); },
-            .state = [](const MonthProgress*) { return QStringLiteral("Como usar cada tela"); }};
+            .state =
+                [](const MonthProgress* progress) {
+                    return progress && progress->employees > 0
+                               ? QStringLiteral("Como usar cada tela")
+                               : QStringLiteral("Primeiros passos: 10 minutos");
+                }};
 }
 
 }  // namespace

@@ -99,7 +99,7 @@ void registerEmployees(Player& player) {
                             "00002"_t, "12/03/2024"_t, "Comercial"_t, "Normal"_t, "1.850,00"_t});
     player.press(Qt::Key_Insert);
     registerPerson(player, {"003"_t, "JOÃO BATISTA LIMA"_t, "VIGIA NOTURNO"_t, "24680/00031-SP"_t,
-                            "00003"_t, "10/01/2022"_t, "Noite"_t});
+                            "00003"_t, "10/01/2022"_t, "Noite"_t, "Normal"_t, "1.900,00"_t});
     player.choose("empregados.list"_t, "001"_t);
     player.openTab("empregados.tabs"_t, "Identificação"_t);
     player.picture("funcionarios"_t);

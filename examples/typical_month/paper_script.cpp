@@ -124,6 +124,34 @@ void printForm(Player& player) {
     player.click("relatorios.close"_t);
 }
 
+/// The figures of the law, what the company settles, and what of an employee only the payroll asks.
+void lookAtPayrollRules(Player& player) {
+    player.click("menu.options.open"_t);
+    player.picture("opcoes"_t);
+    player.press(Qt::Key_F7);
+    player.picture("tabelas"_t);
+    player.press(Qt::Key_Escape);
+    player.press(Qt::Key_F8);
+    player.choose("dados.employees.employees"_t, "001"_t);
+    player.picture("dados-da-folha"_t);
+    player.press(Qt::Key_Escape);
+    player.click("opcoes.close"_t);
+}
+
+/// The vacation periods of who has been there longest, and what 003 gets who was dismissed.
+void lookAtWhatIsOwed(Player& player) {
+    player.click("menu.vacations.open"_t);
+    player.choose("vacations.employees"_t, "001"_t);
+    player.picture("ferias"_t);
+    player.press(Qt::Key_Escape);
+    player.click("menu.leaves.open"_t);
+    player.choose("leaves.employees"_t, "003"_t);
+    player.press(Qt::CTRL | Qt::Key_R);
+    player.picture("rescisao"_t);
+    player.press(Qt::Key_Escape);
+    player.press(Qt::Key_Escape);
+}
+
 }  // namespace
 
 void writePapers(Player& player) {
@@ -132,6 +160,8 @@ void writePapers(Player& player) {
     printPapers(player);
     recordPayroll(player);
     printLabels(player);
+    lookAtPayrollRules(player);
+    lookAtWhatIsOwed(player);
 }
 
 }  // namespace winvrx

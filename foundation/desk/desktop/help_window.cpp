@@ -4,7 +4,6 @@
 
 #include <QFrame>
 #include <QImage>
-#include <QRegularExpression>
 #include <QTextBrowser>
 #include <QTimer>
 #include <QUrl>
@@ -27,12 +26,9 @@ class HelpPage : public QTextBrowser {
 
   protected:
     QVariant loadResource(int type, const QUrl& name) override {
+        if (type == QTextDocument::StyleSheetResource) return {};
         const QVariant found = QTextBrowser::loadResource(type, name);
-        if (type == QTextDocument::HtmlResource) {
-            static const QRegularExpression style(QStringLiteral("<style>.*</style>"),
-                                                  QRegularExpression::DotMatchesEverythingOption);
-            return QString::fromUtf8(found.toByteArray()).remove(style);
-        }
+        if (type == QTextDocument::HtmlResource) return QString::fromUtf8(found.toByteArray());
         if (type != QTextDocument::ImageResource) return found;
         return QImage::fromData(found.toByteArray())
             .scaledToWidth(kPictureWidth, Qt::SmoothTransformation);
