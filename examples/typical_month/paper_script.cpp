@@ -146,10 +146,11 @@ void lookAtWhatIsOwed(Player& player) {
     player.press(Qt::Key_Escape);
     player.click("menu.leaves.open"_t);
     player.choose("leaves.employees"_t, "003"_t);
-    player.press(Qt::CTRL | Qt::Key_R);
+    player.answer("Funcionário Inativo.!"_t, Answer::Ok);
+    player.click("leaves.termination"_t);
     player.picture("rescisao"_t);
     player.press(Qt::Key_Escape);
-    player.press(Qt::Key_Escape);
+    player.click("leaves.close"_t);
 }
 
 }  // namespace
