@@ -37,6 +37,10 @@ class Disk {
     /// Makes the content of these files lasting.
     virtual void flush(const std::vector<std::filesystem::path>& files) = 0;
 
+    /// Lets go of what the system itself keeps of these flushed files, as far as it can, so that
+    /// the next read asks the medium.
+    virtual void forget(const std::vector<std::filesystem::path>&) const {}
+
     /// Gives `from` the name `to` in one step; a plain file of that name is gone, anything else
     /// there is refused.
     virtual void rename(const std::filesystem::path& from, const std::filesystem::path& to) = 0;

@@ -25,13 +25,12 @@ bool isNoRecord(const std::string& name) {
     return isTemporary(name) || name.ends_with(kLockSuffix);
 }
 
-/// The operator knows the record, not the name under which it is being written.
+}  // namespace
+
 path recordOf(const path& file) {
     const std::string name = file.string();
     return isTemporary(name) ? name.substr(0, name.size() - kTemporarySuffix.size()) : name;
 }
-
-}  // namespace
 
 std::unique_ptr<FileSystem> systemFiles() {
     return std::make_unique<DurableFiles>(systemDisk());

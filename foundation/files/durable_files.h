@@ -8,6 +8,9 @@ namespace winvrx {
 /// Ends the name of a file that is still being written.
 inline constexpr std::string_view kTemporarySuffix = ".winvrx-tmp";
 
+/// The operator knows the record, not the name under which it is being written.
+[[nodiscard]] std::filesystem::path recordOf(const std::filesystem::path& file);
+
 /// Safe files on any disk: a file is written under a temporary name beside the old one, flushed,
 /// renamed over it, and the folder is flushed. Whatever happens, a reader finds the old bytes or
 /// the new ones.

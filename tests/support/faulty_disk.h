@@ -20,6 +20,9 @@ class FaultyDisk final : public Disk {
         Power     ///< a PowerCut is thrown there
     };
 
+    /// Done there in place of a failure, if set: what is asked then meets the disk as it is.
+    std::function<void()> event;
+
     FaultyDisk(Disk& disk, int failAt, Failure failure, std::errc error)
         : disk_(disk), failAt_(failAt), failure_(failure), error_(error) {}
 
@@ -49,6 +52,9 @@ class FaultyDisk final : public Disk {
     }
     void flush(const std::vector<std::filesystem::path>& files) override {
         change(FileFault::Operation::Write, files.front(), [&] { disk_.flush(files); });
+    }
+    void forget(const std::vector<std::filesystem::path>& files) const override {
+        disk_.forget(files);
     }
     void rename(const std::filesystem::path& from, const std::filesystem::path& to) override {
         change(FileFault::Operation::Write, to, [&] { disk_.rename(from, to); });
@@ -94,6 +100,10 @@ class FaultyDisk final : public Disk {
 
     void step(FileFault::Operation operation, const std::filesystem::path& path) const {
         const int number = ++operations_;
+        if (event) {
+            if (number == failAt_) event();
+            return;
+        }
         if (number < failAt_ || (number > failAt_ && isPassing())) return;
         if (failure_ == Failure::Power) throw PowerCut{};
         throw FileFault(operation, path, std::make_error_code(error_));

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <cstdio>
 #include <set>
 
@@ -19,13 +20,12 @@ namespace {
 
 using std::filesystem::path;
 
-/// Below the data folder: the records, and what the office keeps of its own.
-constexpr std::array<std::string_view, 4> kFolders = {"", "layouts", "documentos",
-                                                      "documentos/modelos"};
-
-/// Flushed and renamed together: enough to spread the cost, few enough to be held in memory.
-constexpr std::size_t kMostFilesAtOnce = 256;
+/// Flushed and renamed together: enough to spread the cost, few enough to be held in memory, and on
+/// a slow drive few enough for the operator to see the count move.
+constexpr std::size_t kFirstFilesAtOnce = 256;
+constexpr std::size_t kMostFilesAtOnce = 4096;
 constexpr std::uint64_t kMostBytesAtOnce = 16U << 20U;
+constexpr std::chrono::milliseconds kQuickFlush{250};
 
 bool isTransferred(std::string_view name) {
     return isCopiedFile(name) && name != kTransferNoteName && !name.ends_with(kTemporarySuffix) &&
@@ -53,14 +53,14 @@ std::string bytesOf(const Disk& disk, const path& file) {
                     std::make_error_code(std::errc::no_such_file_or_directory));
 }
 
-/// A number of files that are brought over together.
+/// A number of files that are brought over together; counts in `done` those that have come.
 class Batch {
   public:
-    Batch(Disk& disk, path from, path to)
-        : disk_(disk), from_(std::move(from)), to_(std::move(to)) {}
+    Batch(Disk& disk, path from, path to, std::size_t& done)
+        : disk_(disk), from_(std::move(from)), to_(std::move(to)), done_(done) {}
 
     [[nodiscard]] bool isFull() const {
-        return files_.size() >= kMostFilesAtOnce || bytes_ >= kMostBytesAtOnce;
+        return files_.size() >= mostFiles_ || bytes_ >= kMostBytesAtOnce;
     }
 
     void add(const std::string& name) {
@@ -71,27 +71,24 @@ class Batch {
         disk_.write(files_.back().temporary, files_.back().bytes);
     }
 
-    /// Makes what was added the content of the destination's files; returns how many.
-    std::size_t finish() {
-        std::vector<path> temporaries;
+    /// Makes what was added the content of the destination's files.
+    void finish() {
+        if (files_.empty()) return;
+        flush();
         std::set<path> folders;
-        for (const File& file : files_)
-            temporaries.push_back(file.temporary);
-        disk_.flush(temporaries);
         for (const File& file : files_)
             if (disk_.read(file.temporary) != file.bytes)
                 throw FileFault(FileFault::Operation::Write, file.target,
                                 std::make_error_code(std::errc::io_error));
         for (const File& file : files_) {
             disk_.rename(file.temporary, file.target);
+            ++done_;
             folders.insert(file.target.parent_path());
         }
         for (const path& folder : folders)
             disk_.flushFolder(folder);
-        const std::size_t done = files_.size();
         files_.clear();
         bytes_ = 0;
-        return done;
     }
 
     void discard() noexcept {
@@ -112,29 +109,44 @@ class Batch {
         std::string bytes;
     };
 
+    /// What is read after this comes from the drive. A drive that is quick gets more at once.
+    void flush() {
+        std::vector<path> temporaries;
+        for (const File& file : files_)
+            temporaries.push_back(file.temporary);
+        const auto start = std::chrono::steady_clock::now();
+        disk_.flush(temporaries);
+        if (std::chrono::steady_clock::now() - start < kQuickFlush)
+            mostFiles_ = std::min(2 * mostFiles_, kMostFilesAtOnce);
+        disk_.forget(temporaries);
+    }
+
     Disk& disk_;
     path from_;
     path to_;
+    std::size_t& done_;
+    std::size_t mostFiles_ = kFirstFilesAtOnce;
     std::vector<File> files_;
     std::uint64_t bytes_ = 0;
 };
 
 void copyAll(Disk& disk, const TransferPlan& plan, const path& from, const path& to,
              std::size_t& done, const TransferProgress& progress) {
-    Batch batch(disk, from, to);
+    Batch batch(disk, from, to, done);
     try {
-        for (const std::string_view folder : kFolders)
+        for (const std::string_view folder : kTransferFolders)
             if (std::ranges::any_of(plan.copied, [&](const std::string& name) {
                     return path(name).parent_path() == path(folder);
                 }))
                 disk.makeFolder(to / folder);
+        requireMarked(disk, to);  // after it nothing makes a folder
         for (const std::string& name : plan.copied) {
             batch.add(name);
             if (!batch.isFull()) continue;
-            done += batch.finish();
+            batch.finish();
             if (!progress(done, plan.copied.size())) throw TransferCancelled(done);
         }
-        done += batch.finish();
+        batch.finish();
     } catch (...) {
         batch.discard();
         throw;
@@ -184,9 +196,15 @@ TransferFile transferFile(std::string_view bytes) {
     return {.size = bytes.size(), .sum = sumOf(bytes)};
 }
 
+void requireMarked(const Disk& disk, const path& folder) {
+    if (!disk.exists(folder / kBackupMarkerName))
+        throw FileFault(FileFault::Operation::List, folder,
+                        std::make_error_code(std::errc::no_such_file_or_directory));
+}
+
 TransferFiles readFolder(const Disk& disk, const path& folder, const TransferProgress& progress) {
     std::vector<std::pair<std::string, ListedFile>> listed;
-    for (const std::string_view below : kFolders)
+    for (const std::string_view below : kTransferFolders)
         for (const ListedFile& file : disk.list(folder / below))
             if (isTransferred(file.name)) listed.emplace_back(nameBelow(below, file.name), file);
     TransferFiles files;
@@ -227,8 +245,11 @@ void carryOut(Disk& disk, const TransferPlan& plan, const path& from, const path
         copyAll(disk, plan, from, to, done, progress);
         removeAll(disk, plan, to);
     } catch (const FileFault& fault) {
-        throw Fault(fault.what(), fault.explanation() + " Já copiados: " + std::to_string(done) +
-                                      " de " + std::to_string(plan.copied.size()) +
+        const FileFault named(FileFault::Operation::Write, recordOf(fault.file()), fault.cause());
+        const bool isTemporary = named.file() != fault.file();
+        throw Fault(fault.what(), (isTemporary ? named : fault).explanation() +
+                                      " Já copiados: " + std::to_string(done) + " de " +
+                                      std::to_string(plan.copied.size()) +
                                       " arquivos; cada um está inteiro, o antigo ou o novo.");
     }
 }

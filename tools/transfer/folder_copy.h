@@ -3,17 +3,27 @@
 #include "foundation/files/disk.h"
 #include "foundation/values/faults.h"
 
+#include <array>
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // A data folder made the same as another: the records, and the office's own layouts and documents
 // in its sub-folders. Safety copies, locks and files of the run stay where they are.
 
 namespace winvrx {
+
+/// In a data folder: proves that the folder is there and can be written.
+inline constexpr std::string_view kBackupMarkerName = "Backup.bkp";
+
+/// Below the data folder: the records, and what the office keeps of its own.
+inline constexpr std::array<std::string_view, 4> kTransferFolders = {"", "layouts", "documentos",
+                                                                     "documentos/modelos"};
 
 /// In the folder of the removable drive: what both sides were after the last transfer, a line a
 /// file, "01CartaPonto;1926;9d7f3c2a11b0e4f5".
@@ -45,6 +55,10 @@ class TransferCancelled : public Fault {
     explicit TransferCancelled(std::size_t done);
 };
 
+/// Throws FileFault where the folder's marker has gone: its drive was pulled out meanwhile, and the
+/// same path may now be an empty folder of another drive.
+void requireMarked(const Disk& disk, const std::filesystem::path& folder);
+
 /// Reads every file once. Throws FileFault, TransferCancelled.
 [[nodiscard]] TransferFiles readFolder(const Disk& disk, const std::filesystem::path& folder,
                                        const TransferProgress& progress);
@@ -62,10 +76,11 @@ struct TransferPlan {
 [[nodiscard]] TransferPlan planTransfer(const TransferFiles& here, const TransferFiles& there,
                                         const TransferFiles& last);
 
-/// Copies and removes as planned: each file is written under a temporary name, flushed, compared
-/// with what was read and only then renamed over the old one. What goes, goes last. Whenever this
-/// is cut short each file is the old one or the new one, and running it again ends right; the fault
-/// says how many were done. Throws FileFault, TransferCancelled.
+/// Copies and removes as planned, into a folder that is marked: each file is written under a
+/// temporary name, flushed, compared with what was read and only then renamed over the old one.
+/// What goes, goes last. Whenever this is cut short each file is the old one or the new one, and
+/// running it again ends right; the fault says how many were done. Throws FileFault,
+/// TransferCancelled.
 void carryOut(Disk& disk, const TransferPlan& plan, const std::filesystem::path& from,
               const std::filesystem::path& to, const TransferProgress& progress);
 

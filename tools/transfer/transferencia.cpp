@@ -1,6 +1,7 @@
 #include "tools/transfer/transferencia.h"
 
 #include "foundation/copies/copy_name.h"
+#include "foundation/copies/copy_shelf.h"
 #include "foundation/register/company_register.h"
 #include "foundation/values/text.h"
 
@@ -9,6 +10,8 @@
 namespace winvrx {
 
 namespace {
+
+using std::filesystem::path;
 
 constexpr std::string_view kTitle = "Cópia de Segurança da Base de Dados";
 constexpr std::size_t kMostNames = 6;
@@ -80,6 +83,24 @@ void requireWhole(const Archiver& archiver, std::string_view archive, const Tran
     if (!std::ranges::equal(held, files, isSame)) throw DamagedArchive("not what was packed");
 }
 
+/// What lies on a removable drive may come from anywhere, and a link in the place of one of its
+/// folders lead anywhere.
+std::optional<path> linkOn(const path& folder, const path& root) {
+    std::vector<path> places{folder / kCopiesSubfolder};
+    for (const std::string_view below : kTransferFolders)
+        places.push_back((folder / below / "").parent_path());
+    const path top = (root / "").parent_path();
+    for (path above = (folder / "").parent_path(); above != above.root_path() && above != top;
+         above = above.parent_path())
+        places.push_back(above);
+    const auto isLink = [](const path& place) {
+        std::error_code none;
+        return std::filesystem::is_symlink(place, none);
+    };
+    const auto link = std::ranges::find_if(places, isLink);
+    return link == places.end() ? std::nullopt : std::optional(*link);
+}
+
 /// False, too, for a drive that was pulled out.
 bool hasFiles(const FileSystem& files, const std::filesystem::path& folder) {
     try {
@@ -138,6 +159,12 @@ std::optional<Transferencia::Sides> Transferencia::requireSides(TransferDirectio
         at_.person.tell(kSameFolder);
         return std::nullopt;
     }
+    if (const auto link = linkOn(removable.path(), desk_.drives.root(letter))) {
+        at_.person.tell(invalidFolder("Há um atalho (link) no lugar da pasta \"" +
+                                      link->filename().string() +
+                                      "\" da mídia: apague-o e tente de novo."));
+        return std::nullopt;
+    }
     if (direction == TransferDirection::Export) return Sides{inUse, removable, removable};
     return Sides{removable, inUse, removable};
 }
@@ -154,7 +181,11 @@ bool Transferencia::requireMarker(const Sides& sides) {
         writeMarker(sides.from.path());
         at_.files.makeFolder(sides.to.path());
         writeMarker(sides.to.path());
-        if (at_.files.exists(sides.to.file(kBackupMarkerName))) return true;
+        // A drive that went before its folder was made leaves a path into the drive above.
+        const DataFolder& there = sides.removable;
+        const bool isPlugged =
+            pathOnDrive(desk_.drives, there.driveLetter(), kDataFolder) == there.path();
+        if (isPlugged && at_.files.exists(sides.to.file(kBackupMarkerName))) return true;
     } catch (const Fault& fault) {
         at_.log.write(std::string("transfer: ") + fault.what());
         reason = fault.explanation();
@@ -193,6 +224,7 @@ bool Transferencia::carryOver(TransferDirection direction, const Sides& sides) {
         readFolder(desk_.disk, sides.from.path(), desk_.progress("Lendo a origem"));
     const TransferFiles there =
         readFolder(desk_.disk, sides.to.path(), desk_.progress("Lendo o destino"));
+    requireMarked(desk_.disk, sides.from.path());
     const TransferPlan plan = planTransfer(here, there, noteIn(desk_.disk, sides.removable));
     if (!requireRoom(plan, sides.to.path())) return false;
     if (!at_.person.agrees(
@@ -223,6 +255,7 @@ bool Transferencia::backUp() {
         writeMarker(from);
         const auto here = readFolder(desk_.disk, from, desk_.progress("Lendo a origem"));
         desk_.disk.makeFolder(to);
+        writeMarker(to);
         const auto plan =
             planTransfer(here, readFolder(desk_.disk, to, desk_.progress("Lendo o destino")), {});
         if (!requireRoom(plan, to)) return false;

@@ -19,8 +19,6 @@ enum class TransferDirection { Export, Import };
 inline constexpr std::string_view kTransferDirections[] = {"Exportar Dados para o Pendrive?",
                                                            "Importar Dados do Pendrive?"};
 
-/// In a data folder: proves that the folder is there and can be written.
-inline constexpr std::string_view kBackupMarkerName = "Backup.bkp";
 inline constexpr std::string_view kBackupMarkerWord = "Backup";
 /// Below the data folder: the backup within the drive in use.
 inline constexpr std::string_view kBackupSubfolder = "Backup";

@@ -1,10 +1,7 @@
 #include "tools/transfer/transferencia.h"
 
-#include "foundation/files/durable_files.h"
-#include "foundation/register/company.h"
 #include "tests/support/faulty_disk.h"
-#include "tests/support/plain_archiver.h"
-#include "tests/support/test_workplace.h"
+#include "tests/tools/transfer/transfer_desk.h"
 
 #include <gmock/gmock.h>
 
@@ -15,60 +12,13 @@ using ::testing::ElementsAre;
 using testing::FaultyDisk;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using testing::kBelow;
 using testing::MemoryDisk;
+using testing::registerOf;
+using Desk = testing::TransferTrial;
 
-const std::string kBelow = "Users/Public/Documents/Winvrx/";
 const std::string kHere = "/c/" + kBelow;
 const std::string kThere = "/e/" + kBelow;
-
-struct Volumes final : Drives {
-    [[nodiscard]] std::filesystem::path root(char letter) const override {
-        if (letter == 'C') return "/c";
-        if (letter == 'F') return "/c";
-        return letter == 'E' ? "/e" : "";
-    }
-    [[nodiscard]] std::vector<char> letters() const override { return {'C', 'E', 'F'}; }
-};
-
-/// The program with a drive in use and one beside it, on whatever disk.
-struct Desk {
-    Disk& disk;
-    DurableFiles files{std::shared_ptr<Disk>(&disk, [](Disk*) {})};
-    testing::ScriptedOperator person;
-    FixedClock clock{{*parseDate("15/03/2024"), *parseTime("10:20")}};
-    testing::RecordedLog log;
-    Session session;
-    testing::TestHost host;
-    FolderLock lock{disk, host};
-    Workplace at{files, person, clock, log, session, lock};
-    Volumes drives;
-    testing::PlainArchiver archiver;
-    SafetyCopies copies{files, archiver, log};
-    std::optional<std::uint64_t> room;
-    std::size_t cancelAt = 1'000'000;
-    Transferencia screen{at,
-                         {disk, drives, copies, archiver, [this](const auto&) { return room; },
-                          [this](std::string_view step) {
-                              return [this, copying = step == "Copiando"](std::size_t done,
-                                                                          std::size_t) {
-                                  return !copying || done < cancelAt;
-                              };
-                          }}};
-
-    explicit Desk(Disk& on) : disk(on) { session.folder = DataFolder('C', kHere); }
-
-    bool run(TransferDirection direction, const std::string& target = "E") {
-        person.answers = {Answer::Ok, Answer::Ok};
-        return screen.transfer(direction, target);
-    }
-};
-
-std::string registerOf(const std::string& name) {
-    Company company;
-    company.code = "01";
-    company.name = name;
-    return encode(company) + "\r\n";
-}
 
 MemoryDisk::Files office() {
     return {{kHere + "01Empresa", registerOf("PADARIA")},
@@ -246,9 +196,12 @@ TEST(FolderCopy, NamesThatDifferInCapitalsOnly) {
     const TransferFiles here{{"01Empresa", transferFile("new")}};
     const TransferFiles there{{"01EMPRESA", transferFile("old")}};
     const auto plan = planTransfer(here, there, {});
-    MemoryDisk disk(MemoryDisk::Files{{"/a/01Empresa", "new"}, {"/b/01EMPRESA", "old"}});
+    MemoryDisk disk(
+        MemoryDisk::Files{{"/a/01Empresa", "new"}, {"/b/01EMPRESA", "old"}, {"/b/Backup.bkp", ""}});
     carryOut(disk, plan, "/a", "/b", [](std::size_t, std::size_t) { return true; });
-    EXPECT_EQ(disk.files(), (MemoryDisk::Files{{"/a/01Empresa", "new"}, {"/b/01Empresa", "new"}}));
+    EXPECT_EQ(disk.files(),
+              (MemoryDisk::Files{
+                  {"/a/01Empresa", "new"}, {"/b/01Empresa", "new"}, {"/b/Backup.bkp", ""}}));
 }
 
 TEST(FolderCopy, NoteSaysWhatItSaid) {

@@ -99,12 +99,13 @@ BrowserSettings::Outcome LinuxBrowserSettings::applyRule(WebSwitch which, bool b
     try {
         outcome.reached = applyPolicy(desk_.files, root_, which, blocked);
     } catch (const Fault& fault) {
-        if (askForRights(which, blocked))
+        const std::string refusal = askForRights(which, blocked);
+        if (refusal.empty())
             outcome.reached = browsersWithPolicy(desk_.files, root_, which);
         else
             outcome.problems.push_back(
-                "Falta o direito de mudar as regras dos navegadores deste computador. " +
-                fault.explanation());
+                "Falta o direito de mudar as regras dos navegadores deste computador. " + refusal +
+                " " + fault.explanation());
     }
     if (blocked && outcome.reached.empty() && outcome.problems.empty())
         outcome.problems.emplace_back(
@@ -112,16 +113,23 @@ BrowserSettings::Outcome LinuxBrowserSettings::applyRule(WebSwitch which, bool b
     return outcome;
 }
 
-/// The system's own dialog asks for the password.
-bool LinuxBrowserSettings::askForRights(WebSwitch which, bool blocked) const {
+/// The system's own dialog asks for the password; empty where the rules are then as asked for, else
+/// why they are not.
+std::string LinuxBrowserSettings::askForRights(WebSwitch which, bool blocked) const {
     constexpr int kForever = -1;
+    constexpr int kDialogClosed = 126;
+    constexpr int kRefused = 127;
     QProcess helper;
     helper.start(
         QStringLiteral("pkexec"),
         {desk_.programFolder + QStringLiteral("/winvrx-internet"), toQt(wordsOf(which).key),
          blocked ? QStringLiteral("on") : QStringLiteral("off")});
-    return helper.waitForFinished(kForever) && helper.exitStatus() == QProcess::NormalExit &&
-           helper.exitCode() == 0;
+    if (!helper.waitForStarted()) return "Este sistema não tem como pedir a senha (pkexec).";
+    helper.waitForFinished(kForever);
+    const int code = helper.exitStatus() == QProcess::NormalExit ? helper.exitCode() : -1;
+    if (code == 0) return {};
+    if (code == kDialogClosed) return "A senha não foi dada.";
+    return code == kRefused ? "O sistema não deu a autorização." : "A gravação falhou.";
 }
 
 std::vector<std::string> LinuxBrowserSettings::blockedIn(WebSwitch which) const {

@@ -26,7 +26,7 @@ class LinuxBrowserSettings final : public BrowserSettings {
     void applyGnome(bool blocked, QJsonObject& kept, Outcome& outcome);
     void applyKde(bool blocked, QJsonObject& kept, Outcome& outcome);
     [[nodiscard]] Outcome applyRule(WebSwitch which, bool blocked);
-    [[nodiscard]] bool askForRights(WebSwitch which, bool blocked) const;
+    [[nodiscard]] std::string askForRights(WebSwitch which, bool blocked) const;
     [[nodiscard]] std::filesystem::path memory() const;
 
     BrowserSettingsDesk desk_;

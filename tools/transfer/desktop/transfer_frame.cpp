@@ -1,12 +1,14 @@
 #include "tools/transfer/desktop/transfer_frame.h"
 
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/progress.h"
 
 #include <QApplication>
 #include <QBoxLayout>
 #include <QComboBox>
+#include <QDir>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -54,6 +56,34 @@ std::optional<std::uint64_t> freeSpaceAt(const std::filesystem::path& folder) {
     const auto room = std::filesystem::space(folder, fault);
     if (fault) return std::nullopt;
     return room.available;
+}
+
+/// Of the volume whose root this is; empty for a folder within one.
+QString deviceAt(const std::filesystem::path& root) {
+    const QStorageInfo volume(toQt(root.string()));
+    const bool isRoot =
+        !root.empty() && volume.isValid() && QDir(volume.rootPath()) == QDir(toQt(root.string()));
+    return isRoot ? QString::fromUtf8(volume.device()) : QString();
+}
+
+/// What came of it, for the operator.
+Message ejectVolume(const QString& device) {
+    constexpr int kPatience = 30'000;  // milliseconds
+    const auto refused = [](const char* advice) {
+        return refusal("Ejetar", "A unidade não pôde ser ejetada por aqui.", advice);
+    };
+    if (device.isEmpty())
+        return refused("Escolha uma unidade removível ligada, que não seja a unidade em uso.");
+    QProcess command;
+    command.start(QStringLiteral("udisksctl"),
+                  {QStringLiteral("unmount"), QStringLiteral("--block-device"), device});
+    if (!command.waitForStarted()) return refused("Use o gerenciador de arquivos do sistema.");
+    if (command.waitForFinished(kPatience) && command.exitStatus() == QProcess::NormalExit &&
+        command.exitCode() == 0)
+        return notice("Ejetar", "É seguro remover a unidade.");
+    return refused(
+        "O sistema não a soltou: feche o que estiver aberto nela e tente de novo, ou use o "
+        "gerenciador de arquivos do sistema.");
 }
 
 }  // namespace
@@ -164,18 +194,9 @@ void TransferFrame::transfer() {
 }
 
 void TransferFrame::eject() {
-    const std::string letter = letterIn(target_->currentText());
-    const auto root = letter.size() == 1 ? desk_.drives.root(letter[0]) : std::filesystem::path();
-    constexpr int kPatience = 30'000;  // milliseconds
-    QProcess command;
-    command.start(QStringLiteral("udisksctl"),
-                  {QStringLiteral("unmount"), QStringLiteral("--block-device"),
-                   QString::fromUtf8(QStorageInfo(toQt(root.string())).device())});
-    const bool done = !root.empty() && command.waitForFinished(kPatience) &&
-                      command.exitStatus() == QProcess::NormalExit && command.exitCode() == 0;
-    at_.person.tell(done ? notice("Ejetar", "É seguro remover a unidade.")
-                         : refusal("Ejetar", "A unidade não pôde ser ejetada por aqui.",
-                                   "Use o gerenciador de arquivos do sistema."));
+    const std::string letter = upperCase(letterIn(target_->currentText()));
+    const bool isOther = letter.size() == 1 && letter[0] != at_.session.folder.driveLetter();
+    at_.person.tell(ejectVolume(isOther ? deviceAt(desk_.drives.root(letter[0])) : QString()));
     fillDrives();
 }
 

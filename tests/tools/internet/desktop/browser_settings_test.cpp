@@ -144,6 +144,39 @@ TEST_F(BrowserSettingsTest, RulesAreWrittenWhereTheRightIs) {
     EXPECT_FALSE(QFile::exists(rule));
 }
 
+TEST_F(BrowserSettingsTest, HelperIsAskedForOneSwitchAndARefusalIsTold) {
+    const QString commands = folder_.filePath(QStringLiteral("commands"));
+    const QString asked = folder_.filePath(QStringLiteral("asked"));
+    const QString pkexec = commands + QStringLiteral("/pkexec");
+    writeFile(folder_.filePath(QStringLiteral("usr/bin/chromium")), "");
+    writeFile(folder_.filePath(QStringLiteral("etc")), "a file in the folder's place");
+    environment_["PATH"] = qgetenv("PATH");
+    qputenv("PATH", commands.toUtf8());
+    struct Case {
+        const char* ending;
+        const char* said;
+    };
+    for (const Case& one :
+         {Case{"exit 126", "A senha não foi dada."},
+          Case{"exit 127", "O sistema não deu a autorização."},
+          Case{"exit 1", "A gravação falhou."}, Case{"kill -9 $$", "A gravação falhou."},
+          Case{"exit 0", "Nenhum navegador"}, Case{nullptr, "não tem como pedir a senha"}}) {
+        QFile::remove(asked);
+        QFile::remove(pkexec);
+        if (one.ending) {
+            writeFile(pkexec, "#!/bin/sh\nprintf '%s\\n' \"$@\" > '" + asked.toUtf8() + "'\n" +
+                                  one.ending + "\n");
+            QFile::setPermissions(pkexec, QFile::ReadOwner | QFile::ExeOwner);
+        }
+        const auto problems = settings().apply(WebSwitch::Images, true).problems;
+        EXPECT_THAT(problems, ElementsAre(::testing::HasSubstr(one.said)));
+        EXPECT_EQ(contentOf(asked),
+                  one.ending ? QByteArray("/winvrx-internet\nimages\non\n") : "(missing)");
+        EXPECT_EQ(contentOf(folder_.filePath(QStringLiteral("etc"))),
+                  "a file in the folder's place");
+    }
+}
+
 QStringList words(const char* text) {
     return QString::fromLatin1(text).split(u' ');
 }
@@ -153,7 +186,9 @@ TEST(BrowserRuleHelper, TakesNothingButASwitchAndAState) {
         QCoreApplication::applicationDirPath() + QStringLiteral("/winvrx-internet");
     for (const QStringList& arguments :
          {QStringList{}, words("videos"), words("internet on"), words("videos on more"),
-          words("videos ON"), words("../videos on"), words("--help")}) {
+          words("videos ON"), words("../videos on"), words("--help"), words("videos on\n"),
+          words("videos\n on"), words(" on"), words("videos "), words("videos/../images on"),
+          words("videos;id on"), QStringList{QString(100'000, u'v'), QStringLiteral("on")}}) {
         QProcess run;
         run.start(helper, arguments);
         ASSERT_TRUE(run.waitForFinished());

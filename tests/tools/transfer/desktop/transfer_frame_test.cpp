@@ -10,10 +10,16 @@
 #include <gmock/gmock.h>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFile>
 #include <QLabel>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QToolButton>
+
+#ifdef __linux__
+#include <sys/mount.h>
+#endif
+#include <iostream>
 
 namespace winvrx {
 namespace {
@@ -91,6 +97,60 @@ TEST_F(TransferFrameTest, TakesTheRecordsThereAndBack) {
     press(frame, "transfer.archive");
     EXPECT_THAT(desk.person.takeTexts(), ElementsAre("Backup Concluído!", "Backup Concluído!"));
 }
+
+#ifdef __linux__
+
+/// A volume of its own below the drive's folder, under a name that would be an option or a command.
+TEST_F(TransferFrameTest, EjectsTheVolumeOfTheDriveAndNoOther) {
+    const QString asked = folder.filePath(QStringLiteral("asked"));
+    const QString command = folder.filePath(QStringLiteral("udisksctl"));
+    const QByteArray searched = qgetenv("PATH");
+    qputenv("PATH", folder.path().toUtf8());
+    struct Case {
+        const char* target;
+        const char* device;
+        const char* ending;
+        const char* said;
+        bool isAsked;
+    };
+    for (const Case& one : {Case{"E", nullptr, "exit 0", "Escolha uma unidade removível", false},
+                            Case{"C", nullptr, "exit 0", "Escolha uma unidade removível", false},
+                            Case{"", nullptr, "exit 0", "Escolha uma unidade removível", false},
+                            Case{"e", "--help", "exit 0", "É seguro remover", true},
+                            Case{"E", "$(id);x y", "exit 0", "É seguro remover", true},
+                            Case{"E", "stick", "exit 1", "feche o que estiver aberto", true},
+                            Case{"E", "stick", "kill -9 $$", "feche o que estiver aberto", true},
+                            Case{"E", "stick", nullptr, "Use o gerenciador", false}}) {
+        const std::string root = drives.root('E').string();
+        if (one.device && ::mount(one.device, root.c_str(), "tmpfs", 0, "size=64k") != 0) {
+            std::cout << "nothing may be mounted here: not tried: " << one.device << '\n';
+            continue;
+        }
+        QFile::remove(asked);
+        QFile::remove(command);
+        if (one.ending)
+            files->replace(command.toStdString(), "#!/bin/sh\nprintf '%s\\n' \"$@\" > '" +
+                                                      asked.toStdString() + "'\n" + one.ending +
+                                                      "\n");
+        QFile::setPermissions(command, QFile::ReadOwner | QFile::ExeOwner);
+        TransferFrame frame(
+            at, systemTransferDesk(*disk, drives, copies, archiver), [] {}, nullptr);
+        frame.findChild<QComboBox*>(QStringLiteral("transfer.target"))
+            ->setEditText(QLatin1String(one.target));
+        desk.person.shown.clear();
+        press(frame, "transfer.eject");
+        const Message& told = desk.person.shown.at(0);
+        EXPECT_THAT(told.text + told.detail, HasSubstr(one.said));
+        EXPECT_EQ(files->read(asked.toStdString()),
+                  one.isAsked
+                      ? std::optional("unmount\n--block-device\n" + std::string(one.device) + "\n")
+                      : std::nullopt);
+        if (one.device) ::umount(root.c_str());
+    }
+    qputenv("PATH", searched);
+}
+
+#endif
 
 /// Reaches one browser, and has no right to its videos.
 struct OneBrowser final : BrowserSettings {
