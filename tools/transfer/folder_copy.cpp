@@ -66,10 +66,14 @@ class Batch {
     void add(const std::string& name) {
         File file{to_ / name, path(to_ / name).concat(kTemporarySuffix),
                   bytesOf(disk_, from_ / name)};
+        copied_[name] = transferFile(file.bytes);
         bytes_ += file.bytes.size();
         files_.push_back(std::move(file));
         disk_.write(files_.back().temporary, files_.back().bytes);
     }
+
+    /// All that was added.
+    [[nodiscard]] TransferFiles takeCopied() { return std::move(copied_); }
 
     /// Makes what was added the content of the destination's files.
     void finish() {
@@ -127,11 +131,12 @@ class Batch {
     std::size_t& done_;
     std::size_t mostFiles_ = kFirstFilesAtOnce;
     std::vector<File> files_;
+    TransferFiles copied_;
     std::uint64_t bytes_ = 0;
 };
 
-void copyAll(Disk& disk, const TransferPlan& plan, const path& from, const path& to,
-             std::size_t& done, const TransferProgress& progress) {
+TransferFiles copyAll(Disk& disk, const TransferPlan& plan, const path& from, const path& to,
+                      std::size_t& done, const TransferProgress& progress) {
     Batch batch(disk, from, to, done);
     try {
         for (const std::string_view folder : kTransferFolders)
@@ -147,6 +152,7 @@ void copyAll(Disk& disk, const TransferPlan& plan, const path& from, const path&
             if (!progress(done, plan.copied.size())) throw TransferCancelled(done);
         }
         batch.finish();
+        return batch.takeCopied();
     } catch (...) {
         batch.discard();
         throw;
@@ -202,7 +208,8 @@ void requireMarked(const Disk& disk, const path& folder) {
                         std::make_error_code(std::errc::no_such_file_or_directory));
 }
 
-TransferFiles readFolder(const Disk& disk, const path& folder, const TransferProgress& progress) {
+TransferFiles readFolder(const Disk& disk, const path& folder, const TransferProgress& progress,
+                         const TransferFiles* other) {
     std::vector<std::pair<std::string, ListedFile>> listed;
     for (const std::string_view below : kTransferFolders)
         for (const ListedFile& file : disk.list(folder / below))
@@ -210,8 +217,12 @@ TransferFiles readFolder(const Disk& disk, const path& folder, const TransferPro
     TransferFiles files;
     for (const auto& [name, file] : listed) {
         if (!progress(files.size(), listed.size())) throw TransferCancelled(0);
-        files[name] = transferFile(bytesOf(disk, folder / name));
-        files[name].written = file.written;
+        TransferFile& known = files[name];
+        if (!other || other->contains(name))
+            known = transferFile(bytesOf(disk, folder / name));
+        else
+            known.size = file.size;
+        known.written = file.written;
     }
     return files;
 }
@@ -238,12 +249,13 @@ TransferPlan planTransfer(const TransferFiles& here, const TransferFiles& there,
     return plan;
 }
 
-void carryOut(Disk& disk, const TransferPlan& plan, const path& from, const path& to,
-              const TransferProgress& progress) {
+TransferFiles carryOut(Disk& disk, const TransferPlan& plan, const path& from, const path& to,
+                       const TransferProgress& progress) {
     std::size_t done = 0;
     try {
-        copyAll(disk, plan, from, to, done, progress);
+        TransferFiles copied = copyAll(disk, plan, from, to, done, progress);
         removeAll(disk, plan, to);
+        return copied;
     } catch (const FileFault& fault) {
         const FileFault named(FileFault::Operation::Write, recordOf(fault.file()), fault.cause());
         const bool isTemporary = named.file() != fault.file();

@@ -59,9 +59,11 @@ class TransferCancelled : public Fault {
 /// same path may now be an empty folder of another drive.
 void requireMarked(const Disk& disk, const std::filesystem::path& folder);
 
-/// Reads every file once. Throws FileFault, TransferCancelled.
+/// Reads every file once; of those that `other` lacks, where it is given, only what the listing
+/// says, without a sum. Throws FileFault, TransferCancelled.
 [[nodiscard]] TransferFiles readFolder(const Disk& disk, const std::filesystem::path& folder,
-                                       const TransferProgress& progress);
+                                       const TransferProgress& progress,
+                                       const TransferFiles* other = nullptr);
 
 /// What is to be done at the destination.
 struct TransferPlan {
@@ -79,12 +81,13 @@ struct TransferPlan {
 /// Copies and removes as planned, into a folder that is marked: each file is written under a
 /// temporary name, flushed, compared with what was read and only then renamed over the old one.
 /// What goes, goes last. Whenever this is cut short each file is the old one or the new one, and
-/// running it again ends right; the fault says how many were done. Throws FileFault,
-/// TransferCancelled.
-void carryOut(Disk& disk, const TransferPlan& plan, const std::filesystem::path& from,
-              const std::filesystem::path& to, const TransferProgress& progress);
+/// running it again ends right; the fault says how many were done. Returns what was
+/// copied. Throws FileFault, TransferCancelled.
+TransferFiles carryOut(Disk& disk, const TransferPlan& plan, const std::filesystem::path& from,
+                       const std::filesystem::path& to, const TransferProgress& progress);
 
-/// The note's bytes, and what they say; lines that are not understood say nothing.
+/// The note's bytes, of files with sums, and what they say; lines that are not understood say
+/// nothing.
 [[nodiscard]] std::string encodeNote(const TransferFiles& files);
 [[nodiscard]] TransferFiles decodeNote(std::string_view bytes);
 

@@ -220,10 +220,10 @@ bool Transferencia::requireRoom(const TransferPlan& plan, const std::filesystem:
 }
 
 bool Transferencia::carryOver(TransferDirection direction, const Sides& sides) {
-    const TransferFiles here =
-        readFolder(desk_.disk, sides.from.path(), desk_.progress("Lendo a origem"));
     const TransferFiles there =
         readFolder(desk_.disk, sides.to.path(), desk_.progress("Lendo o destino"));
+    const TransferFiles here =
+        readFolder(desk_.disk, sides.from.path(), desk_.progress("Lendo a origem"), &there);
     requireMarked(desk_.disk, sides.from.path());
     const TransferPlan plan = planTransfer(here, there, noteIn(desk_.disk, sides.removable));
     if (!requireRoom(plan, sides.to.path())) return false;
@@ -244,8 +244,10 @@ bool Transferencia::carryOver(TransferDirection direction, const Sides& sides) {
 
 void Transferencia::copyBetween(const Sides& sides, const TransferPlan& plan,
                                 const TransferFiles& here) {
-    carryOut(desk_.disk, plan, sides.from.path(), sides.to.path(), desk_.progress("Copiando"));
-    at_.files.replace(sides.removable.file(kTransferNoteName), encodeNote(here));
+    TransferFiles now =
+        carryOut(desk_.disk, plan, sides.from.path(), sides.to.path(), desk_.progress("Copiando"));
+    now.insert(here.begin(), here.end());  // those that were the same already
+    at_.files.replace(sides.removable.file(kTransferNoteName), encodeNote(now));
 }
 
 bool Transferencia::backUp() {
