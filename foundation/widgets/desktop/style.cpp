@@ -1,8 +1,10 @@
 #include "foundation/widgets/desktop/style.h"
 
 #include "foundation/widgets/desktop/colors.h"
+#include "foundation/widgets/desktop/svg_icon.h"
 
 #include <QAbstractItemView>
+#include <QIcon>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyleFactory>
@@ -117,6 +119,25 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
     if (type == CT_ItemViewItem && qobject_cast<const QTreeView*>(widget))
         size.rheight() += kRowGap;
     return size;
+}
+
+QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                          const QWidget* widget) const {
+    const auto own = [](const QString& name, Tint tint) {
+        return QIcon(new SvgIconEngine(name, tint));
+    };
+    switch (icon) {
+        case SP_MessageBoxInformation:
+            return own(QStringLiteral("information"), Tint::Accent);
+        case SP_MessageBoxQuestion:
+            return own(QStringLiteral("help"), Tint::Accent);
+        case SP_MessageBoxWarning:
+            return own(QStringLiteral("warning"), Tint::Warning);
+        case SP_MessageBoxCritical:
+            return own(QStringLiteral("failure"), Tint::Holiday);
+        default:
+            return QProxyStyle::standardIcon(icon, option, widget);
+    }
 }
 
 }  // namespace winvrx::look

@@ -6,7 +6,8 @@ namespace winvrx::look {
 
 /// The Fusion style with the outlines of fields, lists, check boxes and option buttons drawn in
 /// the palette's border colour: Fusion darkens the window's colour for them, which a dark palette
-/// hides. The rows of tables are higher than their letters, whose accents they would cut.
+/// hides. The rows of tables are higher than their letters, whose accents they would cut. Message
+/// boxes bear icons of the program's own set, which are sharp in every size.
 class Style final : public QProxyStyle {
     Q_OBJECT
 
@@ -22,6 +23,8 @@ class Style final : public QProxyStyle {
     [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option,
                                          const QSize& contents,
                                          const QWidget* widget) const override;
+    [[nodiscard]] QIcon standardIcon(StandardPixmap icon, const QStyleOption* option = nullptr,
+                                     const QWidget* widget = nullptr) const override;
 };
 
 }  // namespace winvrx::look

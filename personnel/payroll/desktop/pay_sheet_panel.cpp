@@ -87,11 +87,6 @@ void showLine(QTreeWidgetItem& row, const PayLine& line, const PaySheet* now) {
     row.setFlags(row.flags() | Qt::ItemIsEditable);
 }
 
-QLabel* totalLabel(const char* name, QWidget* parent) {
-    QLabel* label = look::line(QLatin1String(name), look::TextSize::Body, parent);
-    return label;
-}
-
 }  // namespace
 
 PaySheetPanel::PaySheetPanel(QWidget* parent) : QWidget(parent) {
@@ -125,8 +120,8 @@ QWidget* PaySheetPanel::buildTotals() {
     auto* row = new QHBoxLayout(totals);
     look::layOutPart(*row);
     row->setSpacing(look::kGroupGap);
-    credits_ = totalLabel("folha.credits", totals);
-    debits_ = totalLabel("folha.debits", totals);
+    credits_ = look::line(QStringLiteral("folha.credits"), look::TextSize::Body, totals);
+    debits_ = look::line(QStringLiteral("folha.debits"), look::TextSize::Body, totals);
     net_ = look::line(QStringLiteral("folha.net"), look::TextSize::Heading, totals);
     row->addWidget(credits_);
     row->addWidget(debits_);
