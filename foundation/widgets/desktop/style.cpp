@@ -121,6 +121,12 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
     return size;
 }
 
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* more) const {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, more);
+}
+
 QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option,
                           const QWidget* widget) const {
     const auto own = [](const QString& name, Tint tint) {

@@ -23,6 +23,10 @@ class Style final : public QProxyStyle {
     [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option,
                                          const QSize& contents,
                                          const QWidget* widget) const override;
+    /// The buttons of message boxes bear words alone.
+    [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option = nullptr,
+                                const QWidget* widget = nullptr,
+                                QStyleHintReturn* more = nullptr) const override;
     [[nodiscard]] QIcon standardIcon(StandardPixmap icon, const QStyleOption* option = nullptr,
                                      const QWidget* widget = nullptr) const override;
 };
