@@ -117,7 +117,7 @@ void Ferias::fill(std::optional<std::size_t> row) {
     chosen_ = row;
     blamed_.reset();
     form_ = {};
-    if (!row) return;
+    if (!row || rows_[*row].period.forfeit) return;
     const VacationItem* item = itemOf(rows_[*row]);
     form_ = item && !item->isProvision() ? VacationForm(*item) : VacationForm(rows_[*row].days);
 }

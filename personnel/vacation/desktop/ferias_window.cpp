@@ -58,7 +58,7 @@ QTreeWidgetItem* rowOf(const Ferias& command, const PeriodRow& row) {
     } else {
         texts << QString() << QString() << QString() << QString() << QString() << QString();
     }
-    texts << toQt(dateText(row.period.limit));
+    texts << toQt(row.period.forfeit ? "" : dateText(row.period.limit));
     auto* shown = new QTreeWidgetItem(texts);
     const bool lacksLeave =
         row.line && row.status != PeriodStatus::Provision && !command.hasLeaveOf(row);
@@ -86,14 +86,15 @@ FeriasWindow::FeriasWindow(Ferias& command, QWidget* parent)
 }
 
 QWidget* FeriasWindow::buildEmployees() {
-    employees_ =
-        new EmployeePicker(command_.list(),
-                           {.screen = QStringLiteral("vacations"),
-                            .subsetName = QStringLiteral("due"),
-                            .subsetCaption = QStringLiteral("Férias a vencer em %2 dias (%1)")
-                                                 .arg(QStringLiteral("%1"))
-                                                 .arg(kDueWithinDays)},
-                           this);
+    employees_ = new EmployeePicker(
+        command_.list(),
+        {.screen = QStringLiteral("vacations"),
+         .subsetName = QStringLiteral("due"),
+         // The place of the count stays, for the list to fill.
+         .subsetCaption = QStringLiteral("Férias a vencer em %1 dias (%2)")
+                              .arg(kDueWithinDays)
+                              .replace(QLatin1String("%2"), QLatin1String("%1"))},
+        this);
     employees_->setFixedWidth(kSideWidth);
     connect(employees_, &EmployeePicker::subsetChosen, this, [this](bool only) {
         (void)command_.showOnlyDue(only);
@@ -235,12 +236,14 @@ void FeriasWindow::showRows() {
 }
 
 void FeriasWindow::showForm() {
+    const PeriodRow* row = command_.chosenRow();
+    const bool takesDays = row && !row->period.forfeit;
     for (const auto& [input, field] : fields_) {
         field->setStored(command_.form().text(input));
-        field->setEnabled(command_.chosen().has_value());
+        field->setEnabled(takesDays);
     }
     thirteenth_->setChecked(command_.form().withThirteenth());
-    thirteenth_->setEnabled(command_.chosen().has_value());
+    thirteenth_->setEnabled(takesDays);
     showNotes();
     showState();
 }

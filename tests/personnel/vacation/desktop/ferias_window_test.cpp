@@ -6,6 +6,7 @@
 #include "tests/support/recording_word_processor.h"
 #include "tests/support/window_driver.h"
 
+#include <QAbstractButton>
 #include <QFile>
 #include <QTreeWidget>
 
@@ -66,6 +67,8 @@ TEST_F(VacationWindow, RecordsAVacationWithTheKeyboardAlone) {
     EXPECT_EQ(screen->namelessWidgets(), "");
     EXPECT_EQ(screen->sharedAltLetters(), "");
     EXPECT_EQ(screen->focusName(), "vacations.employees");
+    EXPECT_EQ(screen->find<QAbstractButton>("vacations.due").text(),
+              QStringLiteral("Férias a vencer em 60 dias (1)"));
     EXPECT_THAT(screen->label("vacations.dueText"), HasSubstr("com início até 21/03/2024"));
     screen->press(Qt::Key_Return);
     EXPECT_EQ(screen->focusName(), "vacations.list");
