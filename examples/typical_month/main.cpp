@@ -15,12 +15,14 @@
 #include "output/cards/cartao.h"
 #include "personnel/contract/booklet_box.h"
 #include "player.h"
+#include "tools/internet/browser_settings.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 
 #include <filesystem>
+#include <set>
 
 namespace winvrx {
 
@@ -108,6 +110,24 @@ struct TwoPrinters final : Printers {
     bool openAddDialogue() override { return false; }
 };
 
+/// A browser that is not this computer's.
+class NobodysBrowser final : public BrowserSettings {
+  public:
+    Outcome apply(WebSwitch which, bool blocked) override {
+        blocked ? (void)blocked_.insert(which) : (void)blocked_.erase(which);
+        return {{kName}, {}};
+    }
+    [[nodiscard]] std::vector<std::string> blockedIn(WebSwitch which) const override {
+        if (blocked_.contains(which)) return {kName};
+        return {};
+    }
+    [[nodiscard]] bool openBrowser() override { return false; }
+
+  private:
+    static constexpr const char* kName = "Firefox ESR";
+    std::set<WebSwitch> blocked_;
+};
+
 /// The letters of a desktop, on a machine that has none.
 void chooseFont() {
     QFont font(QStringLiteral("Open Sans"));
@@ -156,9 +176,8 @@ int main(int argc, char** argv) {
          [] { return std::make_unique<TwoPrinters>(); },
          nullptr,
          {},
-         [&] {
-             return std::make_unique<DocumentsInFiles>(folder + QStringLiteral("/documentos"));
-         }});
+         [&] { return std::make_unique<DocumentsInFiles>(folder + QStringLiteral("/documentos")); },
+         std::make_shared<NobodysBrowser>()});
     if (!program.start()) return 1;
     Player player(folder);
     writeMonth(player);

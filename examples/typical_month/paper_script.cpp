@@ -153,6 +153,17 @@ void lookAtWhatIsOwed(Player& player) {
     player.click("leaves.close"_t);
 }
 
+/// One switch that blocks, and what the program says of itself.
+void lookAtTools(Player& player) {
+    player.click("menu.internet.open"_t);
+    player.press(Qt::CTRL | Qt::Key_3);
+    player.picture("internet"_t);
+    player.press(Qt::Key_Escape);
+    player.click("menu.about.open"_t);
+    player.picture("sobre"_t);
+    player.press(Qt::Key_Escape);
+}
+
 }  // namespace
 
 void writePapers(Player& player) {
@@ -163,6 +174,7 @@ void writePapers(Player& player) {
     printLabels(player);
     lookAtPayrollRules(player);
     lookAtWhatIsOwed(player);
+    lookAtTools(player);
 }
 
 }  // namespace winvrx

@@ -47,7 +47,9 @@ constexpr const char* kWindows[] = {"janela-principal",
                                     "espelhos",
                                     "resumo-do-mes",
                                     "relatorios",
-                                    "formulario"};
+                                    "formulario",
+                                    "internet",
+                                    "sobre"};
 
 class TypicalMonth : public ::testing::Test {
   protected:

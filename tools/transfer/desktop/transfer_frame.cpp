@@ -16,6 +16,7 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QStorageInfo>
+#include <QTimer>
 #include <QToolButton>
 
 #include <filesystem>
@@ -114,14 +115,7 @@ void TransferFrame::build() {
     direction_->setMinimumContentsLength(1);
     column->addWidget(direction_);
     column->addWidget(buildTarget());
-    auto* first = new QHBoxLayout;
-    addButton(*first, QStringLiteral("Transferir"), QStringLiteral("transfer.run"),
-              QStringLiteral("Copia todos os dados para a outra unidade, ou de lá para cá"),
-              [this] { transfer(); });
-    addButton(*first, QStringLiteral("Backup"), QStringLiteral("transfer.backup"),
-              QStringLiteral("Copia os dados para a pasta Backup deste mesmo drive"),
-              [this] { (void)screen_.backUp(); });
-    column->addLayout(first);
+    column->addLayout(buildCommands());
 }
 
 QWidget* TransferFrame::buildTarget() {
@@ -140,13 +134,24 @@ QWidget* TransferFrame::buildTarget() {
     target_->installEventFilter(this);
     row->addWidget(source_);
     row->addWidget(target_, 1);
+    return part;
+}
+
+QLayout* TransferFrame::buildCommands() {
+    auto* row = new QHBoxLayout;
+    addButton(*row, QStringLiteral("Transferir"), QStringLiteral("transfer.run"),
+              QStringLiteral("Copia todos os dados para a outra unidade, ou de lá para cá"),
+              [this] { transfer(); });
     addTool(*row, "drive", QStringLiteral("Ejetar"), QStringLiteral("transfer.eject"),
             QStringLiteral("Ejetar: prepara a unidade para ser removida"), [this] { eject(); });
+    addButton(*row, QStringLiteral("Backup"), QStringLiteral("transfer.backup"),
+              QStringLiteral("Copia os dados para a pasta Backup deste mesmo drive"),
+              [this] { (void)screen_.backUp(); });
     addTool(*row, "backup", QStringLiteral("Backup Zip"), QStringLiteral("transfer.archive"),
             QStringLiteral(
                 "Backup Zip: copia os dados para um só arquivo, conferido depois de gravado"),
             [this] { (void)screen_.backUpAsArchive(); });
-    return part;
+    return row;
 }
 
 void TransferFrame::addButton(QBoxLayout& row, const QString& caption, const QString& name,
@@ -178,11 +183,19 @@ void TransferFrame::fillDrives() {
         if (letter != inUse && letter != kDefaultDrive)
             target_->addItem(QLatin1Char(letter) + roomText(desk_.drives.root(letter)));
     if (!typed.isEmpty()) target_->setEditText(typed);
+    target_->lineEdit()->setCursorPosition(0);  // the letter is what is read
 }
 
-/// What is plugged in meanwhile is offered when the list is asked for.
+/// What is plugged in meanwhile is offered when the list is asked for. A letter typed then replaces
+/// what stands there, of which the beginning is seen.
 bool TransferFrame::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn) fillDrives();
+    if (event->type() == QEvent::FocusIn) {
+        fillDrives();
+        QTimer::singleShot(0, this, [line = target_->lineEdit()] {
+            const auto length = static_cast<int>(line->text().size());
+            line->setSelection(length, -length);
+        });
+    }
     return QWidget::eventFilter(watched, event);
 }
 

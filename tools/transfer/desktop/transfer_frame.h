@@ -9,6 +9,7 @@
 class QBoxLayout;
 class QComboBox;
 class QLabel;
+class QLayout;
 
 namespace winvrx {
 
@@ -24,6 +25,7 @@ class TransferFrame final : public QWidget {
   private:
     void build();
     [[nodiscard]] QWidget* buildTarget();
+    [[nodiscard]] QLayout* buildCommands();
     void addButton(QBoxLayout& row, const QString& caption, const QString& name, const QString& tip,
                    std::function<void()> act);
     void addTool(QBoxLayout& row, const char* icon, const QString& spoken, const QString& name,
