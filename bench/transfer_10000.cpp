@@ -94,7 +94,8 @@ int main() {
     Agreeing person;
     ErrorLog log;
     const FixedClock clock({*parseDate("15/03/2024"), {}});
-    Session session{.folder = DataFolder('C', drives.records('C'))};
+    Session session;
+    session.folder = DataFolder('C', drives.records('C'));
     const auto host = systemHost();
     FolderLock lock(*disk, *host);
     const ZipArchiver archiver;

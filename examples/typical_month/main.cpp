@@ -161,21 +161,15 @@ int main(int argc, char** argv) {
     OnlyCopy instance;
     FileUserSettings settings(folder + QStringLiteral("/winvrx.ini"));
     Program program(
-        {drives,
-         clock,
-         log,
-         instance,
-         settings,
-         QApplication::applicationDirPath().toStdString(),
+        {drives, clock, log, instance, settings, QApplication::applicationDirPath().toStdString(),
          [&](std::unique_ptr<ReportEngine> engine) -> std::unique_ptr<ReportEngine> {
              return std::make_unique<PaperInAFile>(std::move(engine), folder.toStdString());
          },
          [](const FileSystem& files) -> std::unique_ptr<TextEditor> {
              return std::make_unique<TextViewer>(files);
          },
-         [] { return std::make_unique<TwoPrinters>(); },
-         nullptr,
-         {},
+         [] { return std::make_unique<TwoPrinters>(); }, nullptr,
+         (folder + QStringLiteral("/winvrx.log")).toStdString(),
          [&] { return std::make_unique<DocumentsInFiles>(folder + QStringLiteral("/documentos")); },
          std::make_shared<NobodysBrowser>()});
     if (!program.start()) return 1;

@@ -156,7 +156,7 @@ void lookAtWhatIsOwed(Player& player) {
 /// One switch that blocks, and what the program says of itself.
 void lookAtTools(Player& player) {
     player.click("menu.internet.open"_t);
-    player.press(Qt::CTRL | Qt::Key_3);
+    player.click("webNi.images.block"_t);
     player.picture("internet"_t);
     player.press(Qt::Key_Escape);
     player.click("menu.about.open"_t);

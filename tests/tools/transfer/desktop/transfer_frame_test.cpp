@@ -12,8 +12,10 @@
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QToolButton>
 
 #ifdef __linux__
@@ -96,6 +98,20 @@ TEST_F(TransferFrameTest, TakesTheRecordsThereAndBack) {
     press(frame, "transfer.backup");
     press(frame, "transfer.archive");
     EXPECT_THAT(desk.person.takeTexts(), ElementsAre("Backup Concluído!", "Backup Concluído!"));
+}
+
+TEST_F(TransferFrameTest, LetterTypedReplacesTheDriveThatIsOffered) {
+    TransferFrame frame(
+        at, systemTransferDesk(*disk, drives, copies, archiver), [] {}, nullptr);
+    frame.show();
+    frame.activateWindow();
+    auto* target = frame.findChild<QComboBox*>(QStringLiteral("transfer.target"));
+    frame.findChild<QComboBox*>(QStringLiteral("transfer.direction"))->setFocus();
+    target->setFocus();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return target->lineEdit()->hasSelectedText(); }));
+    EXPECT_EQ(target->lineEdit()->cursorPosition(), 0);
+    QTest::keyClicks(target, QStringLiteral("x"));
+    EXPECT_EQ(target->currentText(), QStringLiteral("x"));
 }
 
 #ifdef __linux__
