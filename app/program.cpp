@@ -4,6 +4,7 @@
 #include "foundation/desk/desktop/desktop_browser.h"
 #include "foundation/desk/desktop/desktop_text_editor.h"
 #include "foundation/desk/desktop/libre_office.h"
+#include "foundation/files/record_names.h"
 #include "foundation/menu/desktop/menu_window.h"
 #include "foundation/widgets/desktop/progress.h"
 #include "foundation/widgets/desktop/screen_window.h"

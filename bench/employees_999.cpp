@@ -5,6 +5,7 @@
 #include "foundation/desk/desktop/system_clock.h"
 #include "foundation/desk/desktop/xlsx_spreadsheet.h"
 #include "foundation/files/host.h"
+#include "foundation/files/record_names.h"
 #include "foundation/register/desktop/empregados_window.h"
 #include "foundation/register/employee_import.h"
 #include "foundation/register/empregados.h"

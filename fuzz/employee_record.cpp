@@ -1,3 +1,4 @@
+#include "foundation/files/record_names.h"
 #include "foundation/register/employee_register.h"
 #include "foundation/values/faults.h"
 #include "fuzz/invariant.h"

@@ -1,3 +1,4 @@
+#include "foundation/files/record_names.h"
 #include "fuzz/invariant.h"
 #include "output/labels/label_blanks.h"
 #include "output/labels/label_sheet.h"

@@ -1,3 +1,4 @@
+#include "foundation/files/record_names.h"
 #include "fuzz/invariant.h"
 #include "timecard/month/month_settings.h"
 #include "timecard/month/selected_month.h"

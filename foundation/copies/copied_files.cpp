@@ -1,6 +1,6 @@
 #include "foundation/copies/copied_files.h"
 
-#include "foundation/files/data_folder.h"
+#include "foundation/files/record_names.h"
 #include "foundation/register/company_register.h"
 #include "foundation/values/date.h"
 #include "foundation/values/faults.h"

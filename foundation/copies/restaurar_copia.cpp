@@ -1,6 +1,7 @@
 #include "foundation/copies/restaurar_copia.h"
 
 #include "foundation/copies/copied_files.h"
+#include "foundation/files/record_names.h"
 
 #include <algorithm>
 

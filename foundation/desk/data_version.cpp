@@ -1,5 +1,6 @@
 #include "foundation/desk/data_version.h"
 
+#include "foundation/files/record_names.h"
 #include "foundation/values/text.h"
 
 #include <charconv>

@@ -1,6 +1,7 @@
 #include "foundation/menu/menu.h"
 
 #include "foundation/desk/data_version.h"
+#include "foundation/files/record_names.h"
 #include "foundation/register/employee_register.h"
 #include "foundation/values/text.h"
 

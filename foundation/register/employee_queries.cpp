@@ -2,6 +2,7 @@
 
 #include "foundation/files/payroll_file.h"
 #include "foundation/files/record_file.h"
+#include "foundation/files/record_names.h"
 
 #include <algorithm>
 

@@ -2,6 +2,7 @@
 
 #include "foundation/files/data_folder.h"
 #include "foundation/files/line_file.h"
+#include "foundation/files/record_names.h"
 #include "foundation/register/employee.h"
 #include "foundation/values/clock.h"
 

@@ -1,5 +1,6 @@
 #include "foundation/register/employee_transfer.h"
 
+#include "foundation/files/record_names.h"
 #include "foundation/values/faults.h"
 #include "foundation/values/text.h"
 

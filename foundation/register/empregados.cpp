@@ -1,5 +1,6 @@
 #include "foundation/register/empregados.h"
 
+#include "foundation/files/record_names.h"
 #include "foundation/register/dismissal.h"
 #include "foundation/register/employee_checks.h"
 #include "foundation/register/employee_transfer.h"

@@ -1,6 +1,7 @@
 #include "foundation/register/empresa.h"
 
 #include "foundation/files/folder_names.h"
+#include "foundation/files/record_names.h"
 #include "foundation/register/employee_register.h"
 
 #include <algorithm>

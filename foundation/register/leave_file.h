@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/files/line_file.h"
+#include "foundation/files/record_names.h"
 #include "foundation/register/leave_record.h"
 
 #include <array>

@@ -1,5 +1,6 @@
 #include "foundation/register/leave_record.h"
 
+#include "foundation/files/record_names.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "output/labels/label_text.h"
 
+#include "foundation/files/record_names.h"
 #include "foundation/values/text.h"
 #include "output/labels/label_sheet.h"
 

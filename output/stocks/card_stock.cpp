@@ -1,6 +1,7 @@
 #include "output/stocks/card_stock.h"
 
 #include "foundation/files/record_file.h"
+#include "foundation/files/record_names.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>

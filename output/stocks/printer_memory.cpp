@@ -1,6 +1,7 @@
 #include "output/stocks/printer_memory.h"
 
 #include "foundation/files/record_file.h"
+#include "foundation/files/record_names.h"
 #include "foundation/values/text.h"
 
 #include <vector>

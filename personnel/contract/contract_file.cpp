@@ -1,6 +1,7 @@
 #include "personnel/contract/contract_file.h"
 
 #include "foundation/files/record_file.h"
+#include "foundation/files/record_names.h"
 #include "foundation/register/employee_register.h"
 
 #include <algorithm>

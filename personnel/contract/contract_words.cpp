@@ -1,6 +1,7 @@
 #include "personnel/contract/contract_words.h"
 
 #include "foundation/files/folder_names.h"
+#include "foundation/files/record_names.h"
 #include "personnel/contract/amount_in_words.h"
 #include "personnel/contract/contract_file.h"
 #include "timecard/schedule/standard_schedule.h"

@@ -1,5 +1,6 @@
 #include "personnel/documents/documentos.h"
 
+#include "foundation/files/record_names.h"
 #include "foundation/register/company_register.h"
 #include "foundation/register/employee_register.h"
 #include "foundation/values/text.h"

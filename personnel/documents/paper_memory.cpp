@@ -1,5 +1,7 @@
 #include "personnel/documents/paper_memory.h"
 
+#include "foundation/files/record_names.h"
+
 namespace winvrx {
 
 std::optional<std::string> keyOf(const RememberedInput& input) {

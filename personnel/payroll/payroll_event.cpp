@@ -1,5 +1,6 @@
 #include "personnel/payroll/payroll_event.h"
 
+#include "foundation/files/record_names.h"
 #include "foundation/values/text.h"
 #include "timecard/hours/hours_summary.h"
 

@@ -1,6 +1,7 @@
 #include "personnel/payroll/payroll_facts.h"
 
 #include "foundation/files/record_file.h"
+#include "foundation/files/record_names.h"
 #include "foundation/values/text.h"
 
 #include <array>

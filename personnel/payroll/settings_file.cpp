@@ -1,6 +1,7 @@
 #include "personnel/payroll/settings_file.h"
 
 #include "foundation/files/record_file.h"
+#include "foundation/files/record_names.h"
 
 namespace winvrx {
 

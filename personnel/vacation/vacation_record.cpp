@@ -1,5 +1,6 @@
 #include "personnel/vacation/vacation_record.h"
 
+#include "foundation/files/record_names.h"
 #include "foundation/values/input_checks.h"
 #include "foundation/values/text.h"
 

@@ -2,6 +2,7 @@
 
 #include "foundation/copies/safety_copies.h"
 #include "foundation/files/durable_files.h"
+#include "foundation/files/record_names.h"
 #include "foundation/menu/menu.h"
 #include "tests/support/plain_archiver.h"
 

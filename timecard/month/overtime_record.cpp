@@ -1,5 +1,6 @@
 #include "timecard/month/overtime_record.h"
 
+#include "foundation/files/record_names.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>

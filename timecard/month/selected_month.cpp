@@ -1,6 +1,7 @@
 #include "timecard/month/selected_month.h"
 
 #include "foundation/files/record_file.h"
+#include "foundation/files/record_names.h"
 #include "foundation/register/company_register.h"
 
 namespace winvrx {

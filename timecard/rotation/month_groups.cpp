@@ -1,5 +1,6 @@
 #include "timecard/rotation/month_groups.h"
 
+#include "foundation/files/record_names.h"
 #include "foundation/values/faults.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "timecard/rotation/rotation_group.h"
 
+#include "foundation/files/record_names.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "timecard/rotation/rotation_records.h"
 
 #include "foundation/files/folder_names.h"
+#include "foundation/files/record_names.h"
 #include "timecard/month/selected_month.h"
 #include "timecard/rotation/work_table.h"
 

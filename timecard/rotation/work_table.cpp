@@ -1,5 +1,6 @@
 #include "timecard/rotation/work_table.h"
 
+#include "foundation/files/record_names.h"
 #include "timecard/schedule/schedule_hours.h"
 #include "timecard/schedule/typed_time.h"
 

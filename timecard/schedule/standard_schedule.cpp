@@ -1,5 +1,6 @@
 #include "timecard/schedule/standard_schedule.h"
 
+#include "foundation/files/record_names.h"
 #include "timecard/schedule/typed_time.h"
 
 #include <algorithm>

@@ -1,4 +1,5 @@
 // Options of the company, facts of an employee and the month's guide.
+#include "foundation/files/record_names.h"
 #include "personnel/employer/agencies.h"
 #include "personnel/employer/domestic_month.h"
 #include "personnel/employer/folha_dados.h"
