@@ -53,7 +53,7 @@ class ListCommands : public ListChecks<Record> {
             return requireAcceptable(record, &lines_.at(position)) &&
                    this->requireNoDoubt(record, lines_.at(position).record) &&
                    this->at_.person.agrees(questions_.change) && rewrite([&](Lines& lines) {
-                       Line& line = knownLineAsShown(lines, position);
+                       Line& line = knownLineAsShown(lines, lines_, position);
                        line = changedLine(record, line);
                    });
         });
@@ -113,23 +113,6 @@ class ListCommands : public ListChecks<Record> {
         return true;
     }
 
-    /// The line at `position`; throws Fault when it is not the one that the screen shows.
-    [[nodiscard]] Line& lineAsShown(Lines& lines, std::size_t position) const {
-        if (position >= lines.size() || position >= lines_.size() ||
-            lines[position] != lines_[position])
-            throw changedElsewhere("line " + std::to_string(position + 1) + " of the list");
-        return lines[position];
-    }
-
-    /// The same for a line that is to be changed, and so must have a key.
-    [[nodiscard]] Line& knownLineAsShown(Lines& lines, std::size_t position) const {
-        Line& line = lineAsShown(lines, position);
-        if (!line.key())
-            throw Fault("list line without a key: " + line.bytes,
-                        "Esta linha da lista não tem um código válido.");
-        return line;
-    }
-
     /// Deletes the line at `position` and, with `removeFiles`, what belongs to it; that is called
     /// with the lines that stay. `prepare` is called before any change. A disk that refuses the
     /// list must do so before anything is gone, so it is first written as it stands. Then the files
@@ -137,7 +120,7 @@ class ListCommands : public ListChecks<Record> {
     template <typename Prepare, typename RemoveFiles>
     [[nodiscard]] bool erase(std::size_t position, Prepare&& prepare, RemoveFiles&& removeFiles) {
         return rewrite([&](Lines& lines) {
-            (void)lineAsShown(lines, position);
+            (void)lineAsShown(lines, lines_, position);
             prepare();
             write(lines);
             lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(position));

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "foundation/files/record_fields.h"
+#include "foundation/values/faults.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <optional>
 #include <set>
@@ -55,6 +57,28 @@ template <typename Record, typename Key>
     const auto found = std::ranges::find_if(
         lines, [&](const auto& line) { return line.key() && line.key() == key; });
     return found == lines.end() ? nullptr : &*found;
+}
+
+/// The line at `position`; throws Fault when it is not the one that the screen shows there.
+template <typename Record>
+[[nodiscard]] StoredLine<Record>& lineAsShown(std::vector<StoredLine<Record>>& lines,
+                                              const std::vector<StoredLine<Record>>& shown,
+                                              std::size_t position) {
+    if (position >= lines.size() || position >= shown.size() || lines[position] != shown[position])
+        throw changedElsewhere("line " + std::to_string(position + 1) + " of the list");
+    return lines[position];
+}
+
+/// The same for a line that is to be changed, and so must have a key.
+template <typename Record>
+[[nodiscard]] StoredLine<Record>& knownLineAsShown(std::vector<StoredLine<Record>>& lines,
+                                                   const std::vector<StoredLine<Record>>& shown,
+                                                   std::size_t position) {
+    StoredLine<Record>& line = lineAsShown(lines, shown, position);
+    if (!line.key())
+        throw Fault("list line without a key: " + line.bytes,
+                    "Esta linha da lista não tem um código válido.");
+    return line;
 }
 
 /// The lowest code from 1 on that is not among those taken; nullopt when all are.

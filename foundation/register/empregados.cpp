@@ -189,7 +189,7 @@ bool Empregados::change(std::size_t position, const Employee& typed) {
     if (!at_.person.agrees(questions_.change)) return false;
     return run(incorrectData(), [&] {
         auto lines = read();
-        const Line line = knownLineAsShown(lines, position);
+        const Line line = knownLineAsShown(lines, lines_, position);
         Employee changed = typed;
         changed.code = line.record.code;
         changed.status = line.record.status;
@@ -200,8 +200,9 @@ bool Empregados::change(std::size_t position, const Employee& typed) {
         }
         return requireRight(changed, line.record) && requireNoDoubt(changed, line.record) &&
                confirmDespitePayroll(at_.person, desk_.payroll, keyOfLine(line)) &&
-               rewrite(
-                   [&](Lines& now) { lineAsShown(now, position) = lineOf(changed, line.bytes); });
+               rewrite([&](Lines& now) {
+                   lineAsShown(now, lines_, position) = lineOf(changed, line.bytes);
+               });
     });
 }
 
@@ -218,11 +219,11 @@ bool Empregados::transfer(std::size_t position, const CompanyCode& target) {
     if (!at_.person.agrees(questions_.change)) return false;
     return run(incorrectData(), [&] {
         auto lines = read();
-        const Line leaving = knownLineAsShown(lines, position);
+        const Line leaving = knownLineAsShown(lines, lines_, position);
         if (const Message* refusal = transferRefusal(leaving, target)) return refuse(*refusal);
         if (!confirmDespitePayroll(at_.person, desk_.payroll, keyOfLine(leaving))) return false;
         return rewrite([&](Lines& now) {
-            (void)lineAsShown(now, position);
+            (void)lineAsShown(now, lines_, position);
             if (!findLine(loadCompanies(at_.store()), target) || transferRefusal(leaving, target))
                 throw changedElsewhere("company " + target.text());
             EmployeeTransfer(at_.store(), *at_.session.company, target)
@@ -238,7 +239,7 @@ bool Empregados::remove(std::size_t position) {
             removalOf(position, alongWith(filesOf(keysOf(Lines{lines_.at(position)})), "arquivo"));
         if (!at_.person.agrees(named)) return false;
         auto lines = read();
-        const Line chosen = lineAsShown(lines, position);
+        const Line chosen = lineAsShown(lines, lines_, position);
         if (isRotationMember(chosen)) {
             at_.person.tell(kDeletesMember);
             if (!at_.person.agrees(kDeleteDespiteGroup)) return false;

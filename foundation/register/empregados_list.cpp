@@ -86,7 +86,7 @@ bool Empregados::moveTo(std::size_t position, std::string_view typedPlace) {
     if (const Message* refusal = refusalOf(place, lines_.size())) return refuse(*refusal);
     return run(incorrectData(), [&] {
         return rewrite([&](Lines& lines) {
-            (void)lineAsShown(lines, position);
+            (void)lineAsShown(lines, lines_, position);
             if (lines.size() != lines_.size()) throw changedElsewhere("employee list");
             moveLine(lines, position, static_cast<std::size_t>(*place) - 1);
         });
