@@ -35,6 +35,13 @@ std::set<EmployeeCode> EmployeeRegister::codesOfFiles() const {
     return codes;
 }
 
+EmployeeLine requireRegistered(const Store& store, const EmployeeKey& key) {
+    const auto lines = EmployeeRegister(store, key.company).load();
+    const EmployeeLine* line = findLine(lines, key.employee);
+    if (!line) throw changedElsewhere("employee list");
+    return *line;
+}
+
 std::vector<Employee> employeesOf(const std::vector<EmployeeLine>& lines, ShiftFilter filter) {
     std::vector<Employee> chosen;
     for (const EmployeeLine& line : lines)

@@ -46,6 +46,9 @@ class EmployeeRegister {
     LineFile<Employee> list_;
 };
 
+/// The employee's line as it is on record. Throws Fault when no line has his code any more.
+[[nodiscard]] EmployeeLine requireRegistered(const Store& store, const EmployeeKey& key);
+
 /// The employees with a code whose shift passes the filter, in list order.
 [[nodiscard]] std::vector<Employee> employeesOf(const std::vector<EmployeeLine>& lines,
                                                 ShiftFilter filter);

@@ -67,8 +67,7 @@ bool Turnos::change(const Employee& employee, std::optional<Shift> shift) {
 }
 
 EmployeeLine& Turnos::lineOfEmployee(std::vector<EmployeeLine>& lines, const Employee& employee) {
-    const auto line = std::find_if(lines.begin(), lines.end(),
-                                   [&](const EmployeeLine& one) { return one.record == employee; });
+    const auto line = std::ranges::find(lines, employee, &EmployeeLine::record);
     if (line == lines.end()) throw changedElsewhere("employee list");
     return *line;
 }

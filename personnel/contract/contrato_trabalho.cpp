@@ -39,8 +39,7 @@ bool ContratoTrabalho::load() {
         const Employee* one = selected();
         const std::string code = one ? one->code : std::string();
         company_ = loadCompany(at_.store(), company);
-        list_.fill(EmployeeRegister(at_.store(), company).load(),
-                   EmployeeList::leaveMarks(at_.store(), company, namesIn(at_.store()), {}));
+        list_.load(at_.store(), company);
         position_ = list_.positionOf(code);
         if (!position_ && !list_.shown().empty()) position_ = list_.shown().front();
         readSelected();
@@ -131,8 +130,7 @@ void ContratoTrabalho::requireUnchanged() const {
     const auto line = loadContract(at_.store(), key());
     if ((line ? std::optional(line->bytes) : std::nullopt) != bytes_)
         throw employeeChangedElsewhere("contract");
-    if (!findLine(EmployeeRegister(at_.store(), key().company).load(), key().employee))
-        throw changedElsewhere("employee list");
+    (void)requireRegistered(at_.store(), key());
 }
 
 bool ContratoTrabalho::save(const Contract& typed) {

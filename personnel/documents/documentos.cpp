@@ -2,7 +2,6 @@
 
 #include "foundation/files/record_names.h"
 #include "foundation/register/company_register.h"
-#include "foundation/register/employee_register.h"
 #include "foundation/values/text.h"
 #include "personnel/contract/contracted_employee.h"
 
@@ -16,9 +15,7 @@ void Documentos::load() {
         const CompanyCode& company = at_.session.company.value();
         companyTitle_ = titleOf(loadCompanies(at_.store()), company);
         const std::string former = selected() ? selected()->code : std::string();
-        list_.fill(
-            EmployeeRegister(at_.store(), company).load(),
-            EmployeeList::leaveMarks(at_.store(), company, namesIn(at_.store()), std::nullopt));
+        list_.load(at_.store(), company);
         position_ = list_.positionOf(former);
         fill();
     });

@@ -1,7 +1,5 @@
 #include "personnel/employer/folha_dados.h"
 
-#include "foundation/register/employee_register.h"
-
 namespace winvrx {
 
 namespace {
@@ -16,12 +14,8 @@ const char* demandOf(FactKind kind) {
 
 bool FolhaDados::load() {
     selected_.reset();
-    return attempt(at_, incorrectData(), [this] {
-        const Store store = at_.store();
-        const CompanyCode& company = at_.session.company.value();
-        list_.fill(EmployeeRegister(store, company).load(),
-                   EmployeeList::leaveMarks(store, company, namesIn(store), std::nullopt));
-    });
+    return attempt(at_, incorrectData(),
+                   [this] { list_.load(at_.store(), at_.session.company.value()); });
 }
 
 EmployeeKey FolhaDados::key() const {

@@ -93,7 +93,6 @@ class Afastamento {
     void offerToMark(LeavePeriod days);
     [[nodiscard]] EmployeeKey keyAt(std::size_t position) const;
     [[nodiscard]] EmployeeMarks marksOf(const EmployeeKey& key) const;
-    void requireEmployeeOnRecord() const;
 
     [[nodiscard]] bool refuse(std::string_view title, std::string_view text,
                               std::optional<LeaveInput> blamed = {}, std::string detail = {});

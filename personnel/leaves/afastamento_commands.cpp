@@ -286,12 +286,6 @@ bool Afastamento::requireNoTerminationDocument(std::string_view title) {
     return true;
 }
 
-void Afastamento::requireEmployeeOnRecord() const {
-    const EmployeeKey key = keyAt(*position_);
-    const auto lines = EmployeeRegister(at_.store(), key.company).load();
-    if (!findLine(lines, key.employee)) throw changedElsewhere("employee list");
-}
-
 bool Afastamento::confirmDroppedLines() {
     return file_.strays.empty() || at_.person.agrees(dropsLines(file_.strays));
 }
@@ -301,7 +295,7 @@ bool Afastamento::rewrite(const std::function<void(LeaveFile&)>& edit,
     const EmployeeKey key = keyAt(*position_);
     const auto hold = holdFolder(at_);
     if (loadLeaveFile(at_.store(), key) != file_) throw employeeChangedElsewhere("leaves");
-    requireEmployeeOnRecord();
+    (void)requireRegistered(at_.store(), key);
     if (!isAllowed()) return false;
     LeaveFile changed = file_;
     edit(changed);

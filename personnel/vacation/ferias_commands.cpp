@@ -223,9 +223,7 @@ VacationItem Ferias::provision() const {
 void Ferias::write(const std::optional<VacationItem>& item, bool withLeave) {
     const auto hold = holdFolder(at_);
     const EmployeeKey of = key();
-    const auto employees = EmployeeRegister(at_.store(), of.company).load();
-    const EmployeeLine* employee = findLine(employees, of.employee);
-    if (!employee || employee->record.admission != selected()->admission)
+    if (requireRegistered(at_.store(), of).record.admission != selected()->admission)
         throw changedElsewhere("employee list");
     LineFile<VacationItem> file = vacationFile(at_.store(), of);
     VacationLines lines = file.load();
