@@ -46,14 +46,14 @@ auto inRotation(Give give) {
 
 bool moveStart(CartaoPontoDadosB& screen) {
     if (!screen.selectGroup(1)) return false;
-    screen.setFirstDayOff(2);
+    screen.draft().setFirstDayOff(2);
     return screen.saveGroup();
 }
 
 bool recordTable(CartaoPontoDadosB& screen) {
     if (!screen.filterBy(ShiftFilter::Tres)) return false;
-    screen.typeTime(0, 0, "21:00");
-    return screen.saveTable();
+    screen.workTable().typeTime(0, 0, "21:00");
+    return screen.workTable().save();
 }
 
 bool applyToAll(const Workplace& at, const Drives&) {

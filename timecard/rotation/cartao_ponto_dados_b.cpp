@@ -3,9 +3,7 @@
 #include "foundation/files/folder_names.h"
 #include "foundation/register/company_register.h"
 #include "foundation/register/employee_queries.h"
-#include "timecard/hours/hours_format.h"
 #include "timecard/month/selected_month.h"
-#include "timecard/schedule/typed_time.h"
 
 #include <algorithm>
 
@@ -13,19 +11,11 @@ namespace winvrx {
 
 namespace {
 
-constexpr std::string_view kWeekly = " HORAS SEMANAIS";
-const std::string kTableTitle = "Quadro de Horário de  Trabalho";
 const std::string kGroupTitle = "Escala de Revezamento";
 
 const Message kScaleBarsShift = refusal("Aviso", "Dado Incorreto!",
                                         "A escala 12x36 é permitida somente nos turnos 1 e 3. "
                                         "Escolha primeiro um desses turnos.");
-const Message kTableOfEveryShift =
-    failure(kTableTitle,
-            "ERRO!! Não é Possível Gravar na Opção de Turno 'TODOS'! Mude para um Turno "
-            "Específico.");
-const Message kConfirmTable =
-    question("ALTERAÇÃO", "Confirma Gravar o Quadro de Horário de Trabalho?");
 const Message kInNoGroup =
     refusal(kGroupTitle,
             "Este Funcionário NÃO ESTÁ Na Lista em um dos GRUPOS! Para alterar OPÇÃO DE ESCALA "
@@ -33,16 +23,6 @@ const Message kInNoGroup =
 
 constexpr std::string_view kAddToGroup = "S/GRUPO! ADICIONE NO GRUPO";
 constexpr std::string_view kCreateGroup = "S/GRUPO! CRIAR NOVO GRUPO.";
-
-std::optional<Shift> shiftOf(ShiftFilter filter) {
-    return parseShift(codeOf(filter));
-}
-
-/// The first shift that the scale allows where the filter names none.
-Shift tableShiftOf(ShiftFilter filter, Scale scale) {
-    const Shift first = allows(scale, Shift::Unico) ? Shift::Unico : Shift::Um;
-    return shiftOf(filter).value_or(first);
-}
 
 bool hasRoomFor(const RotationGroup& group, const Employee& employee) {
     return group.shift == employee.shiftOr() && group.scale == employee.scaleOr() &&
@@ -52,9 +32,8 @@ bool hasRoomFor(const RotationGroup& group, const Employee& employee) {
 }  // namespace
 
 CartaoPontoDadosB::CartaoPontoDadosB(const Workplace& at, const RotationDesk& desk)
-    : at_(at), desk_(desk), list_(at.session.shiftFilter) {
+    : at_(at), desk_(desk), list_(at.session.shiftFilter), workTable_(at_, list_.shift()) {
     settings_.month = monthOf(at_.clock.today());
-    table_ = recordedTable_ = standardTable(tableShiftOf(list_.shift(), Scale::Normal), {});
 }
 
 bool CartaoPontoDadosB::open() {
@@ -91,9 +70,9 @@ void CartaoPontoDadosB::load(const CompanyCode& company, const MonthSettings& se
     settings_ = settings;
     month_ = std::move(month);
     list_.fill(lines, std::move(marks));
-    list_.filterBy(table_.scale);
+    list_.filterBy(scale());
     keepDraft();
-    loadTable(list_.shift(), table_.scale);
+    workTable_.show(company_, list_.shift(), scale());
 }
 
 void CartaoPontoDadosB::keepDraft() {
@@ -107,64 +86,26 @@ void CartaoPontoDadosB::showGroups() {
     keepDraft();
 }
 
-void CartaoPontoDadosB::loadTable(ShiftFilter shift, Scale scale) {
-    const Shift of = tableShiftOf(shift, scale);
-    recordedTable_ =
-        company_ ? winvrx::loadTable(at_.store(), *company_, of, scale) : standardTable(of, scale);
-    table_ = recordedTable_;
-}
-
 bool CartaoPontoDadosB::narrow(ShiftFilter shift, Scale scale) {
-    const auto one = shiftOf(shift);
+    const auto one = parseShift(codeOf(shift));
     if (one && !allows(scale, *one)) {
         at_.person.tell(kScaleBarsShift);
         return false;
     }
-    if (tableChanged() && !at_.person.agrees(discardTyped())) return false;
+    if (workTable_.changed() && !at_.person.agrees(discardTyped())) return false;
     return attempt(at_, incorrectData(), [&] {
-        loadTable(shift, scale);
+        workTable_.show(company_, shift, scale);
         list_.filterBy(shift);
         list_.filterBy(scale);
     });
 }
 
 bool CartaoPontoDadosB::filterBy(ShiftFilter shift) {
-    return narrow(shift, table_.scale);
+    return narrow(shift, scale());
 }
 
 bool CartaoPontoDadosB::filterBy(Scale scale) {
     return narrow(list_.shift(), scale);
-}
-
-void CartaoPontoDadosB::typeTime(std::size_t row, std::size_t cell, std::string_view text) {
-    table_.rows.at(row).at(cell) = completedTime(text);
-}
-
-std::string CartaoPontoDadosB::weeklyCaption() const {
-    return decimalHours(weeklyHours(table_), Decimals::One).append(kWeekly);
-}
-
-void CartaoPontoDadosB::restoreTable() {
-    table_ = standardTable(table_.shift, table_.scale);
-}
-
-bool CartaoPontoDadosB::saveTable() {
-    if (!company_ || !shiftOf(list_.shift())) {
-        at_.person.tell(company_ ? kTableOfEveryShift : noCompany(at_));
-        return false;
-    }
-    if (const auto finding = findingIn(table_)) {
-        at_.person.tell(refusal(kTableTitle, "Dado Incorreto!", *finding));
-        return false;
-    }
-    if (!at_.person.agrees(kConfirmTable)) return false;
-    return attemptWriting(at_, incorrectData(), [this] {
-        const WorkTable stored =
-            winvrx::loadTable(at_.store(), *company_, table_.shift, table_.scale);
-        if (stored != recordedTable_) throw changedElsewhere("work table", "O quadro foi alterado");
-        winvrx::saveTable(at_.store(), *company_, table_);
-        recordedTable_ = table_;
-    });
 }
 
 const RotationGroup* CartaoPontoDadosB::groupOfMember(const Employee& employee) const {

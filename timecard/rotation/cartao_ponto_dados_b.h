@@ -8,7 +8,7 @@
 #include "timecard/rotation/group_work.h"
 #include "timecard/rotation/month_groups.h"
 #include "timecard/rotation/rotation_sheet.h"
-#include "timecard/rotation/work_table.h"
+#include "timecard/rotation/work_table_edit.h"
 
 #include <functional>
 #include <optional>
@@ -47,18 +47,10 @@ class CartaoPontoDadosB {
     [[nodiscard]] bool filterBy(ShiftFilter shift);
     [[nodiscard]] bool filterBy(Scale scale);
     [[nodiscard]] ShiftFilter shift() const { return list_.shift(); }
-    [[nodiscard]] Scale scale() const { return table_.scale; }
+    [[nodiscard]] Scale scale() const { return workTable_.table().scale; }
 
-    /// Of all shifts ("TODOS") the table of the first that the scale allows is shown.
-    [[nodiscard]] const WorkTable& table() const { return table_; }
-    void typeTime(std::size_t row, std::size_t cell, std::string_view text);
-    /// Why the table cannot be recorded; empty when it can.
-    [[nodiscard]] std::string tableFinding() const { return findingIn(table_).value_or(""); }
-    [[nodiscard]] std::string weeklyCaption() const;  ///< "44,0 HORAS SEMANAIS"
-    [[nodiscard]] bool tableChanged() const { return table_ != recordedTable_; }
-    void restoreTable();  ///< "Restaurar Padrão"
-    /// "Gravar Horário de Trabalho".
-    [[nodiscard]] bool saveTable();
+    [[nodiscard]] WorkTableEdit& workTable() { return workTable_; }
+    [[nodiscard]] const WorkTableEdit& workTable() const { return workTable_; }
 
     /// Those of shift and scale.
     [[nodiscard]] EmployeeList& list() { return list_; }
@@ -71,8 +63,6 @@ class CartaoPontoDadosB {
     /// Those of shift and scale, in the order of their numbers, as they are shown: without those
     /// who may not stay in them. With the scale "Normal" of both rotation scales.
     [[nodiscard]] std::vector<RotationGroup> shownGroups() const;
-    /// "GRUPO-001  5 x 1  Um  3 funcionários".
-    [[nodiscard]] static std::string titleOf(const RotationGroup& group);
     /// What is said of the month's groups: who had to leave one, and lines that nobody understands.
     [[nodiscard]] const std::vector<std::string>& notes() const { return month_.notes(); }
 
@@ -89,7 +79,7 @@ class CartaoPontoDadosB {
     [[nodiscard]] bool groupChanged() const;
     /// Why the group cannot be recorded; empty when it can.
     [[nodiscard]] std::string groupFinding() const;
-    [[nodiscard]] bool changed() const { return tableChanged() || groupChanged(); }
+    [[nodiscard]] bool changed() const { return workTable_.changed() || groupChanged(); }
     /// False when the operator stays with unrecorded changes.
     [[nodiscard]] bool selectGroup(int number);
     /// "Criar Novo Grupo", of the shift and scale shown.
@@ -97,16 +87,8 @@ class CartaoPontoDadosB {
     /// "Adicionar =>" and "Adicionar Funcionários Folguista", by positions in the list.
     [[nodiscard]] bool add(const std::vector<std::size_t>& positions);
     [[nodiscard]] bool addReliefWorker(std::size_t position);
-    /// "<= Remover": a place of the list, or a relief worker.
-    void removePlace(std::size_t place);
-    void removeReliefWorker(std::size_t which);
-    /// "Mover p/ Cima", "Mover p/ Baixo" and dragging. False when there is no such place.
-    [[nodiscard]] bool move(std::size_t from, std::size_t to);
-    /// "Primeira folga da Lista no  mês dia:"; a day that the month lacks is no date.
-    void setFirstDayOff(int day);
-    void setReliefDayOff(std::size_t which, int day);
-    /// The days of the month on which relief worker `which` may be off first.
-    [[nodiscard]] std::vector<Date> daysForRelief(std::size_t which) const;
+    /// What is done to the group being edited alone.
+    [[nodiscard]] GroupDraft draft() { return {draft_, settings_.month}; }
 
     /// The month of the group being edited; empty when none is.
     [[nodiscard]] RotationView view() const;
@@ -134,10 +116,8 @@ class CartaoPontoDadosB {
     void showGroups();  ///< again, as they are on disk
     /// The group being edited as it is on record now; none where it is gone.
     void keepDraft();
-    void loadTable(ShiftFilter shift, Scale scale);
     [[nodiscard]] bool narrow(ShiftFilter shift, Scale scale);
-    /// Of the month, the one being edited as it is.
-    [[nodiscard]] std::vector<RotationGroup> groups() const;
+    /// Of the month, without the one being edited.
     [[nodiscard]] std::vector<RotationGroup> otherGroups() const;
     /// As he is shown; nullptr when he is in none.
     [[nodiscard]] const RotationGroup* groupOfMember(const Employee& employee) const;
@@ -162,8 +142,7 @@ class CartaoPontoDadosB {
     Company heading_;
     MonthSettings settings_;
     EmployeeList list_;
-    WorkTable table_;
-    WorkTable recordedTable_;
+    WorkTableEdit workTable_;
     MonthGroups month_;
     std::optional<RotationGroup> draft_;
 };

@@ -16,28 +16,7 @@ const Message kNeedsRotation =
     refusal("CRIAR NOVO GRUPO", "Escolha a escala do grupo: 5 x 1 ou 12 x 36.");
 const Message kNoNumberLeft = refusal("CRIAR NOVO GRUPO", "O mês já tem 999 grupos.");
 
-std::string_view scaleTitle(Scale scale) {
-    return scale == Scale::TwelveByThirtySix ? "12 x 36" : "5 x 1";
-}
-
-std::optional<Date> dayIn(WorkMonth month, int day) {
-    if (day < 1 || day > daysIn(month)) return std::nullopt;
-    return plusDays(firstDay(month), day - 1);
-}
-
 }  // namespace
-
-std::string CartaoPontoDadosB::titleOf(const RotationGroup& group) {
-    const std::size_t count = group.members().size();
-    return groupName(group.number)
-        .append("  ")
-        .append(scaleTitle(group.scale))
-        .append("  ")
-        .append(codeOf(group.shift))
-        .append("  ")
-        .append(std::to_string(count))
-        .append(count == 1 ? " funcionário" : " funcionários");
-}
 
 std::vector<RotationGroup> CartaoPontoDadosB::otherGroups() const {
     std::vector<RotationGroup> others = month_.groups();
@@ -45,15 +24,10 @@ std::vector<RotationGroup> CartaoPontoDadosB::otherGroups() const {
     return others;
 }
 
-std::vector<RotationGroup> CartaoPontoDadosB::groups() const {
-    std::vector<RotationGroup> all = otherGroups();
-    if (draft_) all.push_back(*draft_);
-    std::ranges::sort(all, {}, &RotationGroup::number);
-    return all;
-}
-
 std::vector<RotationGroup> CartaoPontoDadosB::shownGroups() const {
-    std::vector<RotationGroup> shown = groups();
+    std::vector<RotationGroup> shown = otherGroups();
+    if (draft_) shown.push_back(*draft_);
+    std::ranges::sort(shown, {}, &RotationGroup::number);
     std::erase_if(shown, [this](const RotationGroup& group) {
         return !passes(list_.shift(), group.shift) ||
                (scale() != Scale::Normal && group.scale != scale());
@@ -146,33 +120,6 @@ bool CartaoPontoDadosB::addReliefWorker(std::size_t position) {
     return addMembers([&](RotationGroup& group) {
         return addRelief(group, employee, otherGroups(), settings_.month);
     });
-}
-
-void CartaoPontoDadosB::removePlace(std::size_t place) {
-    if (draft_ && place < draft_->places.size() && draft_->places[place])
-        draft_->remove(EmployeeCode(*draft_->places[place]));
-}
-
-void CartaoPontoDadosB::removeReliefWorker(std::size_t which) {
-    if (draft_ && which < draft_->relief.size())
-        draft_->relief.erase(draft_->relief.begin() + static_cast<std::ptrdiff_t>(which));
-}
-
-bool CartaoPontoDadosB::move(std::size_t from, std::size_t to) {
-    return draft_ && movePlace(*draft_, from, to);
-}
-
-void CartaoPontoDadosB::setFirstDayOff(int day) {
-    if (draft_) draft_->firstDayOff = dayIn(settings_.month, day);
-}
-
-void CartaoPontoDadosB::setReliefDayOff(std::size_t which, int day) {
-    if (draft_ && which < draft_->relief.size())
-        draft_->relief[which].firstDayOff = dayIn(settings_.month, day);
-}
-
-std::vector<Date> CartaoPontoDadosB::daysForRelief(std::size_t which) const {
-    return draft_ ? freeForRelief(*draft_, which, settings_.month) : std::vector<Date>();
 }
 
 }  // namespace winvrx

@@ -27,9 +27,8 @@ std::vector<RotationSheet> CartaoPontoDadosB::requireSheets() {
     std::vector<RotationSheet> sheets;
     for (const RotationGroup& group : groups) {
         MergeWords words;
-        putSchedule(words,
-                    timesOn(winvrx::loadTable(at_.store(), *company_, group.shift, group.scale),
-                            std::chrono::Monday));
+        putSchedule(words, timesOn(loadTable(at_.store(), *company_, group.shift, group.scale),
+                                   std::chrono::Monday));
         sheets.push_back(
             {heading_, group,
              viewOf(group, settings_, month_.names(), month_.absence(), month_.before()),

@@ -70,6 +70,11 @@ void putInList(RotationGroup& group, const EmployeeCode& employee) {
         *vacant = employee;
 }
 
+std::optional<Date> dayIn(WorkMonth month, int day) {
+    if (day < 1 || day > daysIn(month)) return std::nullopt;
+    return plusDays(firstDay(month), day - 1);
+}
+
 bool isIn(WorkMonth month, const std::optional<Date>& date) {
     return date && monthOf(*date) == month;
 }
@@ -106,19 +111,6 @@ Refusal addRelief(RotationGroup& group, const Employee& employee,
     return std::nullopt;
 }
 
-bool movePlace(RotationGroup& group, std::size_t from, std::size_t to) {
-    if (from >= group.places.size() || to >= group.places.size()) return false;
-    const auto begin = group.places.begin();
-    const auto at = [&](std::size_t place) { return begin + static_cast<std::ptrdiff_t>(place); };
-    if (from < to)
-        std::rotate(at(from), at(from + 1), at(to + 1));
-    else
-        std::rotate(at(to), at(from), at(from + 1));
-    while (!group.places.empty() && !group.places.back())
-        group.places.pop_back();
-    return true;
-}
-
 Refusal recordingRefusal(const RotationGroup& group, WorkMonth month) {
     if (group.listed() == 0) return kNobodyListed;
     if (!isIn(month, group.firstDayOff)) return kOutsideMonth;
@@ -129,6 +121,44 @@ Refusal recordingRefusal(const RotationGroup& group, WorkMonth month) {
     }
     if (const auto finding = reliefFinding(group, month)) return refusal(kTitle, *finding);
     return std::nullopt;
+}
+
+void GroupDraft::removePlace(std::size_t place) {
+    if (group_ && place < group_->places.size() && group_->places[place])
+        group_->remove(EmployeeCode(*group_->places[place]));
+}
+
+void GroupDraft::removeReliefWorker(std::size_t which) {
+    if (group_ && which < group_->relief.size())
+        group_->relief.erase(group_->relief.begin() + static_cast<std::ptrdiff_t>(which));
+}
+
+bool GroupDraft::move(std::size_t from, std::size_t to) {
+    if (!group_ || from >= group_->places.size() || to >= group_->places.size()) return false;
+    auto& places = group_->places;
+    const auto at = [&](std::size_t place) {
+        return places.begin() + static_cast<std::ptrdiff_t>(place);
+    };
+    if (from < to)
+        std::rotate(at(from), at(from + 1), at(to + 1));
+    else
+        std::rotate(at(to), at(from), at(from + 1));
+    while (!places.empty() && !places.back())
+        places.pop_back();
+    return true;
+}
+
+void GroupDraft::setFirstDayOff(int day) {
+    if (group_) group_->firstDayOff = dayIn(month_, day);
+}
+
+void GroupDraft::setReliefDayOff(std::size_t which, int day) {
+    if (group_ && which < group_->relief.size())
+        group_->relief[which].firstDayOff = dayIn(month_, day);
+}
+
+std::vector<Date> GroupDraft::daysForRelief(std::size_t which) const {
+    return group_ ? freeForRelief(*group_, which, month_) : std::vector<Date>();
 }
 
 }  // namespace winvrx

@@ -4,6 +4,7 @@
 #include "foundation/register/employee.h"
 #include "timecard/rotation/rotation_group.h"
 
+#include <cstddef>
 #include <optional>
 #include <vector>
 
@@ -21,11 +22,31 @@ using Refusal = std::optional<Message>;
 [[nodiscard]] Refusal addRelief(RotationGroup& group, const Employee& employee,
                                 const std::vector<RotationGroup>& others, WorkMonth month);
 
-/// "Mover p/ Cima", "Mover p/ Baixo" and dragging: the employee at `from` goes to `to`, and those
-/// between move up or down. False when there is no such place.
-[[nodiscard]] bool movePlace(RotationGroup& group, std::size_t from, std::size_t to);
-
 /// What keeps the group from being recorded.
 [[nodiscard]] Refusal recordingRefusal(const RotationGroup& group, WorkMonth month);
+
+/// What the operator does to the group being edited; nothing while there is none.
+class GroupDraft {
+  public:
+    /// Of `month`. The group outlives the object.
+    GroupDraft(std::optional<RotationGroup>& group, WorkMonth month)
+        : group_(group), month_(month) {}
+
+    /// "<= Remover": a place of the list, or a relief worker.
+    void removePlace(std::size_t place);
+    void removeReliefWorker(std::size_t which);
+    /// "Mover p/ Cima", "Mover p/ Baixo" and dragging: the employee at `from` goes to `to`, and
+    /// those between move up or down. False when there is no such place.
+    [[nodiscard]] bool move(std::size_t from, std::size_t to);
+    /// "Primeira folga da Lista no  mês dia:"; a day that the month lacks is no date.
+    void setFirstDayOff(int day);
+    void setReliefDayOff(std::size_t which, int day);
+    /// The days of the month on which relief worker `which` may be off first.
+    [[nodiscard]] std::vector<Date> daysForRelief(std::size_t which) const;
+
+  private:
+    std::optional<RotationGroup>& group_;
+    WorkMonth month_;
+};
 
 }  // namespace winvrx

@@ -86,6 +86,22 @@ std::string groupName(int number) {
     return std::string(kGroupStem) + padded(number, kNumberDigits);
 }
 
+std::string_view scaleTitle(Scale rotation) {
+    return rotation == Scale::TwelveByThirtySix ? "12 x 36" : "5 x 1";
+}
+
+std::string titleOf(const RotationGroup& group) {
+    const std::size_t count = group.members().size();
+    return groupName(group.number)
+        .append("  ")
+        .append(scaleTitle(group.scale))
+        .append("  ")
+        .append(codeOf(group.shift))
+        .append("  ")
+        .append(std::to_string(count))
+        .append(count == 1 ? " funcionário" : " funcionários");
+}
+
 std::size_t mostPlacesOf(Shift shift) {
     return shift == Shift::Um || shift == Shift::Tres ? 3 : kMostPlaces;
 }

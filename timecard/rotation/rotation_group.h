@@ -8,6 +8,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // The groups of a rotation. A company's groups of a work month are the lines of one file,
@@ -49,6 +50,10 @@ struct RotationGroup {
 /// "GRUPO-001".
 [[nodiscard]] std::string groupName(int number);
 inline constexpr int kHighestGroup = 999;
+/// "5 x 1".
+[[nodiscard]] std::string_view scaleTitle(Scale rotation);
+/// "GRUPO-001  5 x 1  Um  3 funcionários".
+[[nodiscard]] std::string titleOf(const RotationGroup& group);
 
 /// The employees that a list of the shift has room for: three in "Um" and "Tres", else six.
 [[nodiscard]] std::size_t mostPlacesOf(Shift shift);

@@ -104,8 +104,7 @@ void addDays(ReportRow& row, std::size_t days, Text textOf) {
 }  // namespace
 
 std::string sheetTitle(const RotationGroup& group) {
-    return std::string("ESCALA DE REVEZAMENTO ") +
-           (group.scale == Scale::FiveByOne ? "5 x 1" : "12 x 36");
+    return std::string("ESCALA DE REVEZAMENTO ").append(scaleTitle(group.scale));
 }
 
 std::vector<std::string> sheetLines(const RotationSheet& sheet) {

@@ -47,23 +47,23 @@ TEST_F(Rotation, NeedsACompanyAndAMonth) {
 }
 
 TEST_F(Rotation, RecordsATableOfOneShift) {
-    screen.restoreTable();
-    EXPECT_FALSE(screen.saveTable());
+    screen.workTable().restore();
+    EXPECT_FALSE(screen.workTable().save());
     EXPECT_THAT(shown(),
                 ElementsAre("ERRO!! Não é Possível Gravar na Opção de Turno 'TODOS'! Mude para um "
                             "Turno Específico."));
-    EXPECT_EQ(screen.weeklyCaption(), "44,0 HORAS SEMANAIS");
+    EXPECT_EQ(screen.workTable().weeklyCaption(), "44,0 HORAS SEMANAIS");
     ASSERT_TRUE(screen.filterBy(ShiftFilter::Tres));
-    screen.typeTime(0, 1, "530");
-    EXPECT_TRUE(screen.tableChanged());
+    screen.workTable().typeTime(0, 1, "530");
+    EXPECT_TRUE(screen.workTable().changed());
     EXPECT_FALSE(screen.filterBy(ShiftFilter::Um)) << "the typed would be lost";
     desk.person.answers = {Answer::Yes};
-    ASSERT_TRUE(screen.saveTable());
+    ASSERT_TRUE(screen.workTable().save());
     EXPECT_EQ(loadTable(desk.store(), kCompany, Shift::Tres, Scale::Normal).rows[0][1], "05:30");
     desk.file("01er.rdx") = "";
-    screen.typeTime(0, 1, "5");
+    screen.workTable().typeTime(0, 1, "5");
     desk.person.answers = {Answer::Yes};
-    EXPECT_FALSE(screen.saveTable()) << "another machine changed it";
+    EXPECT_FALSE(screen.workTable().save()) << "another machine changed it";
     EXPECT_EQ(desk.file("01er.rdx"), "");
 }
 
@@ -119,13 +119,13 @@ TEST_F(Rotation, CaptionsSayWhoHasNoGroup) {
 
 TEST_F(Rotation, WhoLeavesThePlacesOfTheOthersStay) {
     draw({1, 2, 3}, 5);
-    screen.removePlace(1);
+    screen.draft().removePlace(1);
     EXPECT_EQ(screen.view().rows[1].cells[6].letter, "F") << "the third is off on the 7th as ever";
     ASSERT_TRUE(screen.add({at(4)}));
     EXPECT_EQ(screen.view().rows[1].employee, code(4)) << "takes the vacant place";
-    ASSERT_TRUE(screen.move(2, 0));
+    ASSERT_TRUE(screen.draft().move(2, 0));
     EXPECT_EQ(screen.view().rows[0].employee, code(3));
-    EXPECT_FALSE(screen.move(0, 3));
+    EXPECT_FALSE(screen.draft().move(0, 3));
     EXPECT_TRUE(screen.groupChanged());
     EXPECT_EQ(desk.files.content.count("/data/01GRUPO-032024.rdx"), 0U) << "nothing recorded yet";
 }
@@ -133,15 +133,15 @@ TEST_F(Rotation, WhoLeavesThePlacesOfTheOthersStay) {
 TEST_F(Rotation, RecordsOnlyWhatFits) {
     draw({1, 2, 3, 4, 5, 6}, 5, 7, 3);
     EXPECT_FALSE(save()) << "six and one relief worker";
-    screen.removePlace(5);
+    screen.draft().removePlace(5);
     EXPECT_FALSE(save()) << "relief worker off with another";
-    screen.setReliefDayOff(0, 0);
+    screen.draft().setReliefDayOff(0, 0);
     EXPECT_FALSE(save());
-    screen.setFirstDayOff(32);
+    screen.draft().setFirstDayOff(32);
     EXPECT_FALSE(save());
-    screen.setFirstDayOff(5);
-    screen.setReliefDayOff(0, 4);
-    EXPECT_THAT(screen.daysForRelief(0), ElementsAre(Date{2024y / 3 / 4}));
+    screen.draft().setFirstDayOff(5);
+    screen.draft().setReliefDayOff(0, 4);
+    EXPECT_THAT(screen.draft().daysForRelief(0), ElementsAre(Date{2024y / 3 / 4}));
     const auto told = shown();
     ASSERT_EQ(told.size(), 4U);
     EXPECT_THAT(told[0], HasSubstr("segundo folguista"));
@@ -242,7 +242,7 @@ TEST_F(Rotation, ANightTeamGoesThroughCardAndHours) {
 
 TEST_F(AppliedRotation, MovingTheStartAppliesAgain) {
     ASSERT_TRUE(screen.selectGroup(1) && screen.applied());
-    screen.setFirstDayOff(4);
+    screen.draft().setFirstDayOff(4);
     const auto untouched = desk.files.content;
     EXPECT_FALSE(screen.saveGroup());
     EXPECT_EQ(desk.files.content, untouched);
@@ -257,7 +257,7 @@ TEST_F(AppliedRotation, MovingTheStartAppliesAgain) {
 TEST_F(AppliedRotation, ATableThatIsNoneIsNotApplied) {
     desk.file("01er.rdx") = "Unico 5x1   09:0025:00\r\n";
     ASSERT_TRUE(screen.selectGroup(1));
-    screen.setFirstDayOff(4);
+    screen.draft().setFirstDayOff(4);
     const auto untouched = desk.files.content;
     desk.person.answers = {Answer::Ok};
     EXPECT_FALSE(screen.saveGroup());
@@ -274,7 +274,7 @@ TEST_F(AppliedRotation, ATableThatIsNoneIsNotApplied) {
 TEST_F(AppliedRotation, AClosedMonthIsNotTouched) {
     ASSERT_TRUE(screen.selectGroup(1));
     locks.closed = {"001"};
-    screen.setFirstDayOff(4);
+    screen.draft().setFirstDayOff(4);
     const auto untouched = desk.files.content;
     EXPECT_FALSE(screen.saveGroup());
     EXPECT_FALSE(screen.removeGroup());
@@ -282,7 +282,7 @@ TEST_F(AppliedRotation, AClosedMonthIsNotTouched) {
     EXPECT_FALSE(screen.removePunches());
     EXPECT_THAT(shown(), ElementsAre(kClosed, kClosed, kClosed, kClosed));
     EXPECT_EQ(desk.files.content, untouched);
-    screen.setFirstDayOff(5);
+    screen.draft().setFirstDayOff(5);
     ASSERT_TRUE(screen.add({at(4)}));
     EXPECT_TRUE(save()) << "nothing changes for who is closed";
 }

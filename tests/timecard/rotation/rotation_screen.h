@@ -69,10 +69,10 @@ struct RotationScreen : ::testing::Test {
         ASSERT_TRUE(screen.newGroup());
         for (const int number : numbers)
             ASSERT_TRUE(screen.add({at(number)}));
-        screen.setFirstDayOff(day);
+        screen.draft().setFirstDayOff(day);
         if (relief == 0) return;
         ASSERT_TRUE(screen.addReliefWorker(at(relief)));
-        screen.setReliefDayOff(0, reliefDay);
+        screen.draft().setReliefDayOff(0, reliefDay);
     }
 
     [[nodiscard]] bool save() {

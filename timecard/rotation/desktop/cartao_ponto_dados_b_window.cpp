@@ -158,7 +158,7 @@ QWidget* CartaoPontoDadosBWindow::buildPages() {
     connect(group_, &RotationGroupPanel::addReliefRequested, this,
             &CartaoPontoDadosBWindow::addRelief);
     connect(group_, &RotationGroupPanel::edited, this, &CartaoPontoDadosBWindow::showGroup);
-    table_ = new WorkTablePanel(command_, pages_);
+    table_ = new WorkTablePanel(command_.workTable(), pages_);
     pages_->addTab(table_, QStringLiteral("&Quadro de Horário"));
     connect(table_, &WorkTablePanel::edited, this, [this] { showState(); });
     connect(pages_, &QTabWidget::currentChanged, this, &CartaoPontoDadosBWindow::showPage);
@@ -183,7 +183,7 @@ void CartaoPontoDadosBWindow::buildCommands() {
     save_ = addCommand({"save", {}, QKeySequence::Save, "rotation.save", [this] { save(); }});
     restore_ = addCommand({"restore", QStringLiteral("Restaurar Padrão"), Qt::CTRL | Qt::Key_R,
                            "rotation.restore", [this] {
-                               command_.restoreTable();
+                               command_.workTable().restore();
                                refresh();
                            }});
     addGroupCommand({"print", QStringLiteral("Imprimir"), QKeySequence::Print, "rotation.print",
@@ -245,7 +245,7 @@ void CartaoPontoDadosBWindow::showGroups() {
     groups_->clear();
     for (const RotationGroup& one : command_.shownGroups()) {
         const bool isEdited = command_.group() && command_.group()->number == one.number;
-        QString text = toQt(CartaoPontoDadosB::titleOf(one));
+        QString text = toQt(titleOf(one));
         if (isEdited && command_.groupChanged()) text += QStringLiteral("\nnão gravado");
         auto* item = new QListWidgetItem(text, groups_);
         item->setData(Qt::UserRole, one.number);
@@ -277,7 +277,7 @@ void CartaoPontoDadosBWindow::showGroup() {
 void CartaoPontoDadosBWindow::showState(const QString& done) {
     QStringList parts;
     if (!done.isEmpty()) parts << done;
-    if (command_.tableChanged()) parts << QStringLiteral("Quadro não gravado");
+    if (command_.workTable().changed()) parts << QStringLiteral("Quadro não gravado");
     if (command_.groupChanged())
         parts << toQt(groupName(command_.group()->number)) + QStringLiteral(" não gravado");
     if (showsTable())
@@ -304,7 +304,7 @@ void CartaoPontoDadosBWindow::goOn() {
 }
 
 void CartaoPontoDadosBWindow::save() {
-    const bool saved = showsTable() ? command_.saveTable() : command_.saveGroup();
+    const bool saved = showsTable() ? command_.workTable().save() : command_.saveGroup();
     refresh();
     if (saved)
         showState(showsTable() ? QStringLiteral("Quadro gravado")

@@ -121,7 +121,7 @@ QHBoxLayout* RotationGroupPanel::buildList() {
     firstDay_ = buildDays(QStringLiteral("rotation.firstDay"), kFirstDay);
     commands_.push_back(firstDay_);
     connect(firstDay_, &QComboBox::activated, this, [this] {
-        command_.setFirstDayOff(firstDay_->currentData().toInt());
+        command_.draft().setFirstDayOff(firstDay_->currentData().toInt());
         emit edited();
     });
     QLabel* label = look::label(kFirstDay, look::TextSize::Body, this);
@@ -147,7 +147,7 @@ QWidget* RotationGroupPanel::buildRelief() {
             buildDays(QStringLiteral("rotation.reliefDay%1").arg(which + 1),
                       QStringLiteral("Primeira folga do %1º folguista").arg(which + 1));
         connect(days, &QComboBox::activated, this, [this, which, days] {
-            command_.setReliefDayOff(which, days->currentData().toInt());
+            command_.draft().setReliefDayOff(which, days->currentData().toInt());
             emit edited();
         });
         reliefDays_[which] = days;
@@ -214,7 +214,7 @@ void RotationGroupPanel::refresh() {
     select(row);
     fitGrid();
     const auto& group = command_.group();
-    title_->setText(group ? toQt(CartaoPontoDadosB::titleOf(*group)) : QString());
+    title_->setText(group ? toQt(titleOf(*group)) : QString());
     title_->setVisible(group.has_value());
     heading_->setText(listHeading(group ? group->scale : command_.scale()));
     for (QWidget* one : commands_)
@@ -253,7 +253,7 @@ void RotationGroupPanel::showRelief() {
         const ReliefWorker& one = group->relief[which];
         reliefNames_[which]->setText(
             QStringLiteral("Primeira folga de %1:").arg(toQt(one.employee.text())));
-        offer(*reliefDays_[which], command_.daysForRelief(which), one.firstDayOff);
+        offer(*reliefDays_[which], command_.draft().daysForRelief(which), one.firstDayOff);
     }
 }
 
@@ -290,7 +290,7 @@ void RotationGroupPanel::select(int row) {
 void RotationGroupPanel::move(int from, int to) {
     const auto place = plan_->placeAt(from);
     const auto target = plan_->placeAt(to);
-    if (!place || !target || !command_.move(*place, *target)) return;
+    if (!place || !target || !command_.draft().move(*place, *target)) return;
     emit edited();
     select(to);
 }
@@ -302,8 +302,8 @@ void RotationGroupPanel::moveSelected(int by) {
 
 void RotationGroupPanel::removeSelected() {
     const int row = grid_->currentIndex().row();
-    if (const auto place = plan_->placeAt(row)) command_.removePlace(*place);
-    if (const auto which = plan_->reliefAt(row)) command_.removeReliefWorker(*which);
+    if (const auto place = plan_->placeAt(row)) command_.draft().removePlace(*place);
+    if (const auto which = plan_->reliefAt(row)) command_.draft().removeReliefWorker(*which);
     emit edited();
 }
 

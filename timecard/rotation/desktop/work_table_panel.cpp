@@ -19,9 +19,9 @@ constexpr int kTimeLetters = 12;
 
 }  // namespace
 
-WorkTablePanel::WorkTablePanel(CartaoPontoDadosB& command, QWidget* parent)
+WorkTablePanel::WorkTablePanel(WorkTableEdit& edit, QWidget* parent)
     : QWidget(parent),
-      command_(command),
+      edit_(edit),
       title_(look::heading(kTitle, this)),
       whose_(look::label(QString(), look::TextSize::Body, this)),
       weekly_(look::heading(QString(), this)),
@@ -74,7 +74,7 @@ Field* WorkTablePanel::buildTime(std::size_t row, std::size_t cell) {
                   this);
     field->input()->setFixedWidth(kTimeLetters * fontMetrics().averageCharWidth());
     connect(field, &Field::edited, this, [this, row, cell, field] {
-        command_.typeTime(row, cell, toUtf8(field->text()));
+        edit_.typeTime(row, cell, toUtf8(field->text()));
         showTotals();
         emit edited();
     });
@@ -86,7 +86,7 @@ void WorkTablePanel::takeFocus() {
 }
 
 void WorkTablePanel::refresh() {
-    const WorkTable& table = command_.table();
+    const WorkTable& table = edit_.table();
     whose_->setText(QStringLiteral("Turno: ") + toQt(codeOf(table.shift)) +
                     QStringLiteral("  ·  Escala: ") + toQt(codeOf(table.scale)));
     for (std::size_t row = 0; row < kTableRows; ++row)
@@ -96,8 +96,8 @@ void WorkTablePanel::refresh() {
 }
 
 void WorkTablePanel::showTotals() {
-    weekly_->setText(toQt(command_.weeklyCaption()));
-    const QString finding = toQt(command_.tableFinding());
+    weekly_->setText(toQt(edit_.weeklyCaption()));
+    const QString finding = toQt(edit_.finding());
     finding_->setText(finding.isEmpty() ? finding : QStringLiteral("⚠ ") + finding);
 }
 

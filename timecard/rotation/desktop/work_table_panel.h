@@ -1,6 +1,6 @@
 #pragma once
 
-#include "timecard/rotation/cartao_ponto_dados_b.h"
+#include "timecard/rotation/work_table_edit.h"
 
 #include <QWidget>
 
@@ -18,9 +18,9 @@ class WorkTablePanel : public QWidget {
     Q_OBJECT
 
   public:
-    explicit WorkTablePanel(CartaoPontoDadosB& command, QWidget* parent = nullptr);
+    explicit WorkTablePanel(WorkTableEdit& edit, QWidget* parent = nullptr);
 
-    /// Shows the command's table.
+    /// Shows the table as it is typed.
     void refresh();
     void takeFocus();
 
@@ -32,7 +32,7 @@ class WorkTablePanel : public QWidget {
     [[nodiscard]] Field* buildTime(std::size_t row, std::size_t cell);
     void showTotals();
 
-    CartaoPontoDadosB& command_;
+    WorkTableEdit& edit_;
     QLabel* title_ = nullptr;
     QLabel* whose_ = nullptr;
     QLabel* weekly_ = nullptr;
