@@ -3,7 +3,7 @@
 #include "personnel/leaves/termination_dates.h"
 #include "personnel/pay/employer_dues.h"
 #include "personnel/pay/income_tax.h"
-#include "personnel/vacation/vacation_rules.h"
+#include "personnel/pay/vacation_rules.h"
 
 #include <optional>
 

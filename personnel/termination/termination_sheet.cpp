@@ -1,7 +1,7 @@
 #include "personnel/termination/termination_sheet.h"
 
 #include "personnel/pay/partial_month.h"
-#include "personnel/vacation/vacation_rules.h"
+#include "personnel/pay/vacation_rules.h"
 
 #include <algorithm>
 

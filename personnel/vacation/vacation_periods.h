@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/register/leave_calendar.h"
+#include "personnel/pay/vacation_rules.h"
 #include "personnel/vacation/vacation_record.h"
-#include "personnel/vacation/vacation_rules.h"
 
 #include <functional>
 #include <optional>

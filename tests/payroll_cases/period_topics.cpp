@@ -1,7 +1,7 @@
 #include "personnel/pay/termination_pay.h"
 #include "personnel/pay/thirteenth.h"
+#include "personnel/pay/vacation_rules.h"
 #include "personnel/vacation/vacation_pay.h"
-#include "personnel/vacation/vacation_rules.h"
 #include "tests/payroll_cases/topics.h"
 #include "timecard/month/holidays.h"
 

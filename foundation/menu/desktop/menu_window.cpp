@@ -4,12 +4,12 @@
 #include "foundation/menu/desktop/command_tile.h"
 #include "foundation/menu/desktop/company_list.h"
 #include "foundation/menu/desktop/month_view.h"
+#include "foundation/register/desktop/register_list.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"
 #include "foundation/widgets/desktop/body_area.h"
 #include "foundation/widgets/desktop/enter_key.h"
 #include "foundation/widgets/desktop/look.h"
-#include "foundation/widgets/desktop/register_list.h"
 #include "foundation/widgets/desktop/search_box.h"
 
 #include <QCloseEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/register/company.h"
-#include "foundation/widgets/desktop/record_form.h"
+#include "foundation/register/desktop/record_form.h"
 
 namespace winvrx {
 

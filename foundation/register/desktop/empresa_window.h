@@ -1,7 +1,7 @@
 #pragma once
 
+#include "foundation/register/desktop/register_window.h"
 #include "foundation/register/empresa.h"
-#include "foundation/widgets/desktop/register_window.h"
 
 namespace winvrx {
 

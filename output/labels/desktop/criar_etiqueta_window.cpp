@@ -1,7 +1,8 @@
 #include "output/labels/desktop/criar_etiqueta_window.h"
 
+#include "foundation/register/desktop/noted_form.h"
+#include "foundation/register/desktop/record_form.h"
 #include "foundation/widgets/desktop/look.h"
-#include "foundation/widgets/desktop/noted_form.h"
 #include "output/labels/label_sheet.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/widgets/desktop/register_window.h"
+#include "foundation/register/desktop/register_window.h"
 #include "output/labels/criar_etiqueta.h"
 
 namespace winvrx {

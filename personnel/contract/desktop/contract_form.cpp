@@ -1,9 +1,9 @@
 #include "personnel/contract/desktop/contract_form.h"
 
+#include "foundation/register/desktop/record_form.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
-#include "foundation/widgets/desktop/record_form.h"
 #include "personnel/contract/amount_in_words.h"
 
 #include <QGridLayout>

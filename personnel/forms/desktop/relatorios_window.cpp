@@ -1,12 +1,12 @@
 #include "personnel/forms/desktop/relatorios_window.h"
 
 #include "foundation/register/desktop/employee_picker.h"
+#include "foundation/register/desktop/register_list.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/option_group.h"
 #include "foundation/widgets/desktop/progress.h"
-#include "foundation/widgets/desktop/register_list.h"
 #include "report/desktop/pdf_file_dialog.h"
 
 #include <QLabel>

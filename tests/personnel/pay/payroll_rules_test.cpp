@@ -6,7 +6,7 @@
 #include "personnel/pay/partial_month.h"
 #include "personnel/pay/risk_pay.h"
 #include "personnel/pay/thirteenth.h"
-#include "personnel/vacation/vacation_rules.h"
+#include "personnel/pay/vacation_rules.h"
 #include "timecard/month/holiday_offer.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/desk/list_screen.h"
+#include "foundation/register/desktop/register_list.h"
 #include "foundation/widgets/desktop/record_editor.h"
-#include "foundation/widgets/desktop/register_list.h"
 #include "foundation/widgets/desktop/screen_window.h"
 
 #include <functional>

@@ -1,4 +1,4 @@
-#include "personnel/vacation/vacation_rules.h"
+#include "personnel/pay/vacation_rules.h"
 
 #include "personnel/leaves/leave_types.h"
 

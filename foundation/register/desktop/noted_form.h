@@ -1,6 +1,6 @@
 #pragma once
 
-#include "foundation/widgets/desktop/record_form.h"
+#include "foundation/register/desktop/record_form.h"
 
 #include <QLabel>
 #include <QScrollArea>

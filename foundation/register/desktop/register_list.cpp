@@ -1,4 +1,4 @@
-#include "foundation/widgets/desktop/register_list.h"
+#include "foundation/register/desktop/register_list.h"
 
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"

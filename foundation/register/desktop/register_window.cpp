@@ -1,4 +1,4 @@
-#include "foundation/widgets/desktop/register_window.h"
+#include "foundation/register/desktop/register_window.h"
 
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/look.h"
