@@ -1,5 +1,7 @@
 #include "report/code128.h"
 
+#include "foundation/values/digits.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -28,10 +30,6 @@ constexpr std::string_view kStop = "2331112";
 constexpr std::size_t kStartB = 104;
 constexpr std::size_t kStartC = 105;
 constexpr std::size_t kCheckModulus = 103;
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 bool isPrintable(char c) {
     return c >= ' ' && c <= '~';

@@ -1,5 +1,6 @@
 #include "report/print_scale.h"
 
+#include "foundation/values/digits.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>
@@ -12,9 +13,8 @@ namespace {
 constexpr int kHundred = 100;
 constexpr std::size_t kMostDigits = 6;
 
-bool isDigits(std::string_view text) {
-    return !text.empty() && text.size() <= kMostDigits &&
-           std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
+bool isNumber(std::string_view text) {
+    return text.size() <= kMostDigits && isDigits(text);
 }
 
 int numberOf(std::string_view digits) {
@@ -52,7 +52,7 @@ std::optional<int> parseHundredths(std::string_view text) {
     std::string fraction = "00";
     if (mark != std::string_view::npos) fraction = digits.substr(mark + 1);
     if (fraction.size() == 1) fraction += '0';
-    if (!isDigits(whole) || !isDigits(fraction) || fraction.size() != 2) return std::nullopt;
+    if (!isNumber(whole) || !isNumber(fraction) || fraction.size() != 2) return std::nullopt;
     const int value = numberOf(whole) * kHundred + numberOf(fraction);
     return negative ? -value : value;
 }

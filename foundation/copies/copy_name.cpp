@@ -1,5 +1,6 @@
 #include "foundation/copies/copy_name.h"
 
+#include "foundation/values/digits.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>
@@ -16,11 +17,6 @@ constexpr std::string_view kEnding = ".zip";
 constexpr std::string_view kBeforeMark = "-antes";
 constexpr std::size_t kMomentLength = std::string_view("2024-03-15-0812").size();
 constexpr std::size_t kMostDigits = 6;
-
-bool allDigits(std::string_view text) {
-    return !text.empty() &&
-           std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
 
 std::string momentText(Clock::Moment made) {
     const std::string day = dateText(made.date);
@@ -43,7 +39,7 @@ std::optional<Clock::Moment> parseMoment(std::string_view text) {
 int numberIn(std::string_view rest) {
     if (rest.empty()) return 1;
     rest.remove_prefix(1);
-    if (!allDigits(rest) || rest.size() > kMostDigits) return 0;
+    if (!isDigits(rest) || rest.size() > kMostDigits) return 0;
     return std::stoi(std::string(rest));
 }
 

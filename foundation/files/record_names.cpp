@@ -1,6 +1,7 @@
 #include "foundation/files/record_names.h"
 
 #include "foundation/files/payroll_file.h"
+#include "foundation/values/digits.h"
 
 #include <algorithm>
 #include <functional>
@@ -29,8 +30,7 @@ bool isPunchOrPayrollFile(std::string_view name) {
 /// "mmyyyy.pdx" at the end of the name.
 bool isMonthFile(std::string_view name) {
     if (name.size() < 12 || !name.ends_with(".pdx")) return false;
-    const std::string_view month = name.substr(name.size() - 10, 6);
-    return std::all_of(month.begin(), month.end(), [](char c) { return c >= '0' && c <= '9'; });
+    return isDigits(name.substr(name.size() - 10, 6));
 }
 
 bool isGroup(std::string_view name) {

@@ -1,6 +1,7 @@
 #include "foundation/register/leave_record.h"
 
 #include "foundation/files/record_names.h"
+#include "foundation/values/digits.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>
@@ -16,7 +17,7 @@ constexpr Column kInactiveSince{6, 10};
 
 bool isLeave(std::string_view lineBytes) {
     const std::string code = rawFieldOf(lineBytes, kTypeCode);
-    return std::all_of(code.begin(), code.end(), [](char c) { return c >= '0' && c <= '9'; });
+    return std::ranges::all_of(code, isDigit);
 }
 
 }  // namespace

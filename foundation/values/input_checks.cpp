@@ -1,6 +1,7 @@
 #include "foundation/values/input_checks.h"
 
 #include "foundation/values/codes.h"
+#include "foundation/values/digits.h"
 #include "foundation/values/faults.h"
 #include "foundation/values/money.h"
 #include "foundation/values/text.h"
@@ -15,10 +16,6 @@ namespace {
 
 constexpr std::size_t kDateWidth = 10;
 constexpr std::size_t kOccupationDigits = 6;
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 bool isDateCharacter(char c) {
     return isDigit(c) || c == '/' || c == '-' || c == '.';

@@ -1,19 +1,13 @@
 #include "foundation/values/money.h"
 
+#include "foundation/values/digits.h"
 #include "foundation/values/text.h"
-
-#include <algorithm>
 
 namespace winvrx {
 
 namespace {
 
 constexpr std::size_t kMostDigits = 12;
-
-bool isNumber(std::string_view text) {
-    return !text.empty() &&
-           std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
 
 /// The digits of "1.234" or "1234"; nullopt when a point does not stand before three digits.
 std::optional<std::string> wholeDigits(std::string_view text) {
@@ -25,7 +19,7 @@ std::optional<std::string> wholeDigits(std::string_view text) {
         digits.append(group);
         point = next;
     }
-    if (!isNumber(digits) || digits.size() > kMostDigits) return std::nullopt;
+    if (!isDigits(digits) || digits.size() > kMostDigits) return std::nullopt;
     return digits;
 }
 
@@ -40,7 +34,7 @@ std::optional<Money> parseMoney(std::string_view text) {
     std::string cents = "00";
     if (comma != std::string_view::npos) {
         cents = text.substr(comma + 1);
-        if (!isNumber(cents) || cents.size() > 2) return std::nullopt;
+        if (!isDigits(cents) || cents.size() > 2) return std::nullopt;
         cents.resize(2, '0');
     }
     return Money{std::stoll(*whole + cents)};

@@ -1,5 +1,7 @@
 #include "foundation/values/tax_id.h"
 
+#include "foundation/values/digits.h"
+
 #include <algorithm>
 #include <string>
 
@@ -14,9 +16,6 @@ constexpr std::size_t kPisLength = 11;
 constexpr int kCnpjHighestWeight = 9;
 constexpr int kCpfHighestWeight = 11;
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 bool isLetter(char c) {
     return c >= 'A' && c <= 'Z';
 }

@@ -1,5 +1,6 @@
 #include "foundation/values/text.h"
 
+#include "foundation/values/digits.h"
 #include "foundation/values/faults.h"
 
 #include <algorithm>
@@ -201,8 +202,7 @@ std::optional<int> parseWholeNumber(std::string_view text, int lowest, int highe
 
 std::string digitsIn(std::string_view text) {
     std::string digits;
-    std::ranges::copy_if(text, std::back_inserter(digits),
-                         [](char c) { return c >= '0' && c <= '9'; });
+    std::ranges::copy_if(text, std::back_inserter(digits), isDigit);
     return digits;
 }
 

@@ -1,9 +1,9 @@
 #include "personnel/pay/fraction.h"
 
+#include "foundation/values/digits.h"
 #include "foundation/values/faults.h"
 #include "foundation/values/text.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <limits>
 #include <numeric>
@@ -37,10 +37,6 @@ std::int64_t powerOfTen(int exponent) {
     for (int i = 0; i < exponent; ++i)
         power *= 10;
     return power;
-}
-
-bool areDigits(std::string_view text) {
-    return std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
 }
 
 std::string groupedWhole(std::int64_t whole) {
@@ -101,8 +97,8 @@ std::optional<Fraction> parseDecimal(std::string_view text, char point) {
     const std::string_view whole = text.substr(0, place);
     const std::string_view rest =
         place == std::string_view::npos ? std::string_view() : text.substr(place + 1);
-    if (whole.empty() || whole.size() > kMostWholeDigits || rest.size() > kMostDecimals ||
-        !areDigits(whole) || !areDigits(rest) || (place != std::string_view::npos && rest.empty()))
+    if (!isDigits(whole) || whole.size() > kMostWholeDigits || rest.size() > kMostDecimals ||
+        (place != std::string_view::npos && !isDigits(rest)))
         return std::nullopt;
     Fraction value = std::stoll(std::string(whole));
     if (!rest.empty())

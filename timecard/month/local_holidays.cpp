@@ -1,5 +1,6 @@
 #include "timecard/month/local_holidays.h"
 
+#include "foundation/values/digits.h"
 #include "foundation/values/text.h"
 
 namespace winvrx {
@@ -26,8 +27,7 @@ std::string completedHolidayDay(std::string_view typed) {
     const std::string text(trimmed(typed));
     const std::string full = completedDate(text);
     if (parseDate(full)) return full;
-    const bool keypad =
-        text.size() == kKeypadLength && text.find_first_not_of("0123456789") == std::string::npos;
+    const bool keypad = text.size() == kKeypadLength && isDigits(text);
     const std::string inLeapYear =
         completedDate(text + std::string(keypad ? kLeapYear.substr(1) : kLeapYear));
     return parseDate(inLeapYear) ? inLeapYear.substr(0, kShortLength) : text;

@@ -1,5 +1,6 @@
 #include "timecard/month/overtime_rules.h"
 
+#include "foundation/values/digits.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>
@@ -15,13 +16,9 @@ using std::chrono::seconds;
 constexpr int kHighestHours = 24;
 constexpr seconds kHundredth{36};
 
-bool areDigits(std::string_view text) {
-    return std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
-}
-
 /// "30" behind a colon, "5" or "50" behind a comma.
 std::optional<seconds> partOfHour(char sign, std::string_view digits) {
-    if (!areDigits(digits)) return std::nullopt;
+    if (!isDigits(digits)) return std::nullopt;
     const auto number = parseWholeNumber(digits, 0, sign == ':' ? 59 : 99);
     if (!number || digits.size() > 2) return std::nullopt;
     if (sign != ':') return kHundredth * *number * (digits.size() == 1 ? 10 : 1);
