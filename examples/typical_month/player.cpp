@@ -5,20 +5,18 @@
 #include "spoken.h"
 
 #include <QAbstractButton>
-#include <QAbstractItemView>
-#include <QAction>
 #include <QApplication>
-#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QTabWidget>
 #include <QTest>
 #include <QTimer>
 
 #include <cstdlib>
+#include <exception>
+#include <stdexcept>
 
 namespace winvrx {
 
@@ -58,12 +56,6 @@ QString iconName(QMessageBox::Icon icon) {
     return {};
 }
 
-int rowContaining(const QAbstractItemModel& model, const QString& text) {
-    for (int row = 0; row < model.rowCount(); ++row)
-        if (model.index(row, 0).data().toString().contains(text)) return row;
-    return -1;
-}
-
 /// The screen that F1 would not lead to in the help page.
 QString withoutHelp(const QWidget& window) {
     QFile page(QApplication::applicationDirPath() + QStringLiteral("/help/instalacao.htm"));
@@ -94,7 +86,7 @@ void Player::waitNow(const std::function<bool()>& ready) {
 }
 
 void Player::click(const QString& name) {
-    then([this, name] { QTest::mouseClick(find(name), Qt::LeftButton); });
+    then([name] { window().click(name); });
 }
 
 void Player::press(QKeyCombination key) {
@@ -103,102 +95,43 @@ void Player::press(QKeyCombination key) {
 
 /// Tries again while the window is not the active one, as keys go to that.
 void Player::pressNow(QKeyCombination key) {
-    QWidget* window = present();
-    if (!window->isActiveWindow()) return steps_.push_front([this, key] { pressNow(key); });
-    QWidget* focus = window->focusWidget() ? window->focusWidget() : window;
-    QTest::keyClick(focus, key.key(), key.keyboardModifiers());
+    if (!present()->isActiveWindow()) return steps_.push_front([this, key] { pressNow(key); });
+    window().press(key.key(), key.keyboardModifiers());
 }
 
 void Player::trigger(const QString& name) {
-    then([this, name] {
-        auto* action = present()->findChild<QAction*>(name);
-        if (!action) fail(QStringLiteral("no command ") + name);
-        action->trigger();
-    });
+    then([name] { window().trigger(name); });
 }
 
 void Player::chooseFile(const QString& path) {
-    then([this, path] {
-        auto* dialog = qobject_cast<QFileDialog*>(present());
-        if (!dialog) fail(QStringLiteral("no file dialog for ") + path);
-        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
-        QMetaObject::invokeMethod(dialog, "accept");
+    then([path] {
+        window().find<QLineEdit>("fileNameEdit").setText(path);
+        QMetaObject::invokeMethod(present(), "accept");
     });
 }
 
 void Player::type(const QString& name, const QString& text) {
     then([this, name, text] {
-        auto* field = qobject_cast<QLineEdit*>(find(name));
-        if (!field) fail(name + QStringLiteral(" is no text field"));
-        field->setFocus();
-        field->selectAll();
-        QTest::keyClick(field, Qt::Key_Delete);
-        for (const QChar letter : text)
-            QTest::sendKeyEvent(QTest::Click, field, Qt::Key_unknown, QString(letter),
-                                Qt::NoModifier);
-        if (field->text() != text) fail(name + QStringLiteral(" did not take: ") + text);
+        window().type(name, text);
+        if (window().find<QLineEdit>(name).text() != text)
+            fail(name + QStringLiteral(" did not take: ") + text);
     });
 }
 
 void Player::typeCell(const QString& name, int row, int column, const QString& text) {
-    then([this, name, row, column, text] {
-        auto* grid = qobject_cast<QAbstractItemView*>(find(name));
-        if (!grid) fail(name + QStringLiteral(" is no grid"));
-        typeCellNow(*grid, grid->model()->index(row, column), text);
-    });
-}
-
-void Player::typeCellNow(QAbstractItemView& grid, const QModelIndex& cell, const QString& text) {
-    grid.setFocus();
-    grid.setCurrentIndex(cell);
-    QWidget* editor = &grid;
-    for (const QChar letter : text) {
-        QTest::sendKeyEvent(QTest::Click, editor, Qt::Key_unknown, QString(letter), Qt::NoModifier);
-        editor = grid.indexWidget(cell);
-        if (!editor) fail(QStringLiteral("the cell takes no text: ") + text);
-        if (auto* box = qobject_cast<QComboBox*>(editor)) editor = box->lineEdit();
-    }
-    QWidget* offered = QApplication::activePopupWidget();
-    QTest::keyClick(offered ? offered : editor, Qt::Key_Return);
+    then([=] { window().typeCell(name, row, column, text); });
 }
 
 void Player::choose(const QString& name, const QString& text) {
-    then([this, name, text] {
-        QWidget* widget = find(name);
-        if (auto* box = qobject_cast<QComboBox*>(widget)) {
-            const int row = rowContaining(*box->model(), text);
-            if (row < 0) fail(name + QStringLiteral(" does not offer: ") + text);
-            box->setCurrentIndex(row);
-            emit box->activated(row);
-            emit box->textActivated(box->currentText());
-        } else if (auto* view = qobject_cast<QAbstractItemView*>(widget)) {
-            const int row = rowContaining(*view->model(), text);
-            if (row < 0) fail(name + QStringLiteral(" does not list: ") + text);
-            const QModelIndex index = view->model()->index(row, 0);
-            view->scrollTo(index);
-            QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier,
-                              view->visualRect(index).center());
-        } else {
-            fail(name + QStringLiteral(" is no list"));
-        }
-    });
+    then([=] { window().choose(name, text); });
 }
 
 void Player::tick(const QString& name, bool on) {
-    then([this, name, on] {
-        auto* button = qobject_cast<QAbstractButton*>(find(name));
-        if (!button) fail(name + QStringLiteral(" is no button"));
-        if (button->isChecked() != on) button->click();
-    });
+    then([=] { window().tick(name, on); });
 }
 
 void Player::openTab(const QString& name, const QString& title) {
-    then([this, name, title] {
-        auto* tabs = qobject_cast<QTabWidget*>(find(name));
-        if (!tabs) fail(name + QStringLiteral(" has no tabs"));
-        for (int i = 0; i < tabs->count(); ++i)
-            if (tabs->tabText(i).remove(QLatin1Char('&')).contains(title)) tabs->setCurrentIndex(i);
-    });
+    then([=] { window().openTab(name, title); });
 }
 
 void Player::answer(const QString& text, Answer answer) {
@@ -267,7 +200,11 @@ void Player::next() {
     QTimer::singleShot(kStepPause, this, &Player::next);
     // A window has its focus only while it is the active one, as it is under an operator's hands.
     if (QWidget* window = present(); window && !window->isActiveWindow()) window->activateWindow();
-    step();
+    try {
+        step();
+    } catch (const std::exception& fault) {
+        fail(QString::fromUtf8(fault.what()));
+    }
 }
 
 void Player::fail(const QString& reason) const {
@@ -283,18 +220,10 @@ QWidget* Player::present() {
     return nullptr;
 }
 
-QWidget* Player::find(const QString& name) const {
+WidgetDriver Player::window() {
     QWidget* window = present();
-    if (!window) fail(QStringLiteral("no window, wanted: ") + name);
-    auto* found = window->findChild<QWidget*>(name);
-    if (!found) {
-        const auto* box = qobject_cast<QMessageBox*>(window);
-        fail(window->objectName() + QStringLiteral(" has no ") + name +
-             (box ? QStringLiteral("; it says: ") + box->text() + box->informativeText()
-                  : QString()));
-    }
-    if (!found->isEnabled()) fail(name + QStringLiteral(" is disabled"));
-    return found;
+    if (!window) throw std::invalid_argument("no window");
+    return WidgetDriver(*window);
 }
 
 void Player::record(const QString& title, const QString& text, const QString& icon,

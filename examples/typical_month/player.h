@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/desk/operator.h"
+#include "tests/widget_driver/widget_driver.h"
 
 #include <QObject>
 #include <QString>
@@ -8,15 +9,11 @@
 #include <deque>
 #include <functional>
 
-class QAbstractItemView;
-class QModelIndex;
-class QWidget;
-
 namespace winvrx {
 
-/// Plays a script of steps on the windows of a running program, as an operator would: it finds
-/// widgets by their object names, clicks, types and answers message boxes. A step that does not
-/// find what it needs ends the play with a message.
+/// Plays a script of steps on the windows of a running program, as an operator would: a
+/// WidgetDriver clicks and types in the window in front, and message boxes are answered. A step
+/// that does not find what it needs ends the play with a message.
 ///
 /// Steps run from the event loop one after the other, so that a step may open a modal window and
 /// the next ones play in it.
@@ -66,9 +63,9 @@ class Player : public QObject {
     void waitNow(const std::function<bool()>& ready);
     [[noreturn]] void fail(const QString& reason) const;
     [[nodiscard]] static QWidget* present();
-    [[nodiscard]] QWidget* find(const QString& name) const;
+    /// Of the present window. Throws when there is none.
+    [[nodiscard]] static WidgetDriver window();
     void pressNow(QKeyCombination key);
-    void typeCellNow(QAbstractItemView& grid, const QModelIndex& cell, const QString& text);
     void answerNow(const QString& text, Answer answer, int tries);
     void savePicture(QWidget* window, const QString& name);
     [[nodiscard]] QWidget* beside(const QString& objectName) const;

@@ -8,8 +8,6 @@
 #include "timecard/card/desktop/punch_grid.h"
 #include "timecard/month/selected_month.h"
 
-#include <QApplication>
-
 #include <memory>
 #include <string>
 
@@ -51,12 +49,8 @@ struct CardWindow : ::testing::Test {
     }
     /// Types into the cell under the cursor and ends with `key`.
     void enter(const char* text, Qt::Key key = Qt::Key_Return) {
-        for (const char* c = text; *c; ++c) {
-            QWidget* focus = QApplication::focusWidget();
-            QTest::keyClick(focus, *c);
-        }
+        driven->typeHere(text);
         driven->press(key);
-        QCoreApplication::processEvents();
     }
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/values/desktop/qt_text.h"
+#include "tests/widget_driver/widget_driver.h"
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
@@ -10,64 +11,45 @@
 #include <QLineEdit>
 #include <QTabBar>
 #include <QTest>
-#include <QToolButton>
 #include <QWidget>
 
 #include <gtest/gtest.h>
 
 namespace winvrx::testing {
 
-/// Drives a shown window by the object names of its widgets and by key presses.
-class WindowDriver {
+/// The driver of a window that it shows, and what a test reads in it.
+class WindowDriver : public WidgetDriver {
   public:
-    explicit WindowDriver(QWidget& shown) : shown_(shown) {
-        shown_.show();
-        shown_.activateWindow();
-        if (!QTest::qWaitForWindowActive(&shown_)) ADD_FAILURE() << "the window is not active";
-    }
-
-    template <typename Widget = QWidget>
-    [[nodiscard]] Widget& find(const char* name) const {
-        auto* found = shown_.findChild<Widget*>(QString::fromUtf8(name));
-        if (!found) throw std::invalid_argument(std::string("no widget ") + name);
-        return *found;
-    }
-
-    void click(const char* button) const { find<QAbstractButton>(button).click(); }
-
-    /// Replaces the field's text, key by key.
-    void type(const char* name, std::string_view text) const {
-        auto& edit = find<QLineEdit>(name);
-        edit.setFocus();
-        edit.selectAll();
-        QTest::keyClicks(&edit, toQt(text));
+    explicit WindowDriver(QWidget& shown) : WidgetDriver(shown) {
+        window_.show();
+        window_.activateWindow();
+        if (!QTest::qWaitForWindowActive(&window_)) ADD_FAILURE() << "the window is not active";
     }
 
     /// What stands in the field.
     [[nodiscard]] std::string text(const char* field) const {
         return find<QLineEdit>(field).text().toStdString();
     }
-    [[nodiscard]] std::string label(const char* name) const {
+    [[nodiscard]] std::string label(QAnyStringView name) const {
         return find<QLabel>(name).text().toStdString();
     }
     /// What is said under the field.
     [[nodiscard]] std::string hint(const char* name) const {
-        return label((std::string(name) + ".hint").c_str());
+        return label(std::string(name) + ".hint");
     }
     [[nodiscard]] std::string state() const { return label("state"); }
 
-    /// A key press where the focus is.
+    /// A key press where the focus is, and what it sets going.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
-        QTest::keyClick(focus(), key, modifiers);
+        WidgetDriver::press(key, modifiers);
         QApplication::processEvents();
     }
-    void typeHere(std::string_view text) const { QTest::keyClicks(focus(), toQt(text)); }
-    [[nodiscard]] std::string focusName() const { return focus()->objectName().toStdString(); }
+    [[nodiscard]] std::string focusName() const { return focus().objectName().toStdString(); }
 
     /// The widgets that an operator uses and that tests or a screen reader could not find.
     [[nodiscard]] std::string namelessWidgets() const {
         std::string nameless;
-        for (const QWidget* widget : shown_.findChildren<QWidget*>()) {
+        for (const QWidget* widget : window_.findChildren<QWidget*>()) {
             if (!isUsed(*widget)) continue;
             const auto* button = qobject_cast<const QAbstractButton*>(widget);
             const bool named =
@@ -82,11 +64,11 @@ class WindowDriver {
     /// Alt letters that more than one of the visible captions claims, and that so lead nowhere.
     [[nodiscard]] std::string sharedAltLetters() const {
         QStringList captions;
-        for (const auto* button : shown_.findChildren<QAbstractButton*>())
+        for (const auto* button : window_.findChildren<QAbstractButton*>())
             if (button->isVisible()) captions << button->text();
-        for (const auto* label : shown_.findChildren<QLabel*>())
+        for (const auto* label : window_.findChildren<QLabel*>())
             if (label->isVisible() && label->buddy()) captions << label->text();
-        for (const auto* tabs : shown_.findChildren<QTabBar*>())
+        for (const auto* tabs : window_.findChildren<QTabBar*>())
             for (int i = 0; i < tabs->count(); ++i)
                 captions << tabs->tabText(i);
         QString once;
@@ -100,22 +82,16 @@ class WindowDriver {
     }
 
   private:
-    [[nodiscard]] QWidget* focus() const {
-        return shown_.focusWidget() ? shown_.focusWidget() : &shown_;
-    }
-
     /// One of the window's own that takes the focus, and no part of another one.
     [[nodiscard]] bool isUsed(const QWidget& widget) const {
         const QWidget* parent = widget.parentWidget();
-        return widget.window() == &shown_ &&
+        return widget.window() == &window_ &&
                !widget.objectName().startsWith(QLatin1String("qt_")) &&
                widget.focusPolicy() != Qt::NoFocus && widget.isEnabled() && !widget.isHidden() &&
                !widget.inherits("QScrollArea") && !widget.inherits("QTabBar") &&
                !qobject_cast<const QAbstractScrollArea*>(parent) &&
                !qobject_cast<const QLineEdit*>(parent) && !qobject_cast<const QComboBox*>(parent);
     }
-
-    QWidget& shown_;
 };
 
 template <typename Window>

@@ -174,7 +174,7 @@ TEST_F(AlignmentWindow, AnEntryIsShownWithItsOffsetsAndAMissingLayoutSaidSo) {
 
 TEST_F(AlignmentWindow, ScaleIsTypedMeasuredAndNotLostByLeaving) {
     DrivenWindow<CartaoPontosWindow> driven(screen, shippedLayout);
-    driven.find<QTabWidget>("cartaoPontos.tabs").setCurrentIndex(1);
+    driven.openTab("cartaoPontos.tabs", "calibração");
     EXPECT_EQ(driven.label("escala.printer"), "Impressora Epson, neste tipo de cartão");
     driven.type("escala.figure1", "99,5");
     driven.press(Qt::Key_Escape);
@@ -202,7 +202,7 @@ TEST_F(AlignmentWindow, ScaleIsTypedMeasuredAndNotLostByLeaving) {
 TEST_F(AlignmentWindow, EachAltLetterLeadsToOnePlace) {
     DrivenWindow<CartaoPontosWindow> driven(screen, shippedLayout);
     EXPECT_EQ(driven.sharedAltLetters(), "");
-    driven.find<QTabWidget>("cartaoPontos.tabs").setCurrentIndex(1);
+    driven.openTab("cartaoPontos.tabs", "calibração");
     EXPECT_EQ(driven.sharedAltLetters(), "");
     Impressorar choice(desk.at, printers);
     EXPECT_EQ(DrivenWindow<ImpressorarWindow>(choice).sharedAltLetters(), "");

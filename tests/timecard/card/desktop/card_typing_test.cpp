@@ -172,7 +172,7 @@ TEST_F(CardWindow, TheSituationsOpenWhileTyping) {
     grid(1).setCurrentIndex(grid(1).model()->index(0, PunchModel::Situation));
     grid(1).setFocus();
     QTest::keyClick(&grid(1), 'f');
-    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("al"));
+    driven->typeHere("al");
     const auto* box = driven->window.findChild<QComboBox*>(QStringLiteral("punch.situation"));
     ASSERT_NE(box, nullptr);
     EXPECT_TRUE(box->completer()->popup()->isVisible());

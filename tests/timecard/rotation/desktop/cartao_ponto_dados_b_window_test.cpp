@@ -59,13 +59,6 @@ struct RotationWindow : RotationScreen {
     [[nodiscard]] std::string listed(const char* list, int row) {
         return driven->find<QListWidget>(list).item(row)->text().toStdString();
     }
-    void pick(const char* days, const char* text) {
-        auto& box = driven->find<QComboBox>(days);
-        const int at = box.findText(QString::fromUtf8(text));
-        ASSERT_GE(at, 0) << text;
-        box.setCurrentIndex(at);
-        emit box.activated(at);
-    }
 };
 
 TEST_F(RotationWindow, AGroupIsPlannedSeenAndRecordedByKeys) {
@@ -161,11 +154,11 @@ TEST_F(RotationWindow, WhatIsMissingIsSaidAtOnceWithAWord) {
     EXPECT_FALSE(driven->find("rotation.hint").isVisible());
     grid().selectRow(7);
     driven->click("rotation.remove");
-    pick("rotation.firstDay", "04 seg");
+    driven->choose("rotation.firstDay", "04 seg");
     EXPECT_EQ(cell(0, 4) + cell(0, 1), "F");
     grid().selectRow(5);
     driven->click("rotation.remove");
-    pick("rotation.reliefDay1", "03 dom");
+    driven->choose("rotation.reliefDay1", "03 dom");
     EXPECT_EQ(cell(5, 3), "F");
     EXPECT_FALSE(driven->find("rotation.hint").isVisible());
     EXPECT_FALSE(driven->find("rotation.gaps").isVisible());
@@ -173,7 +166,7 @@ TEST_F(RotationWindow, WhatIsMissingIsSaidAtOnceWithAWord) {
 
 TEST_F(RotationWindow, TheTableIsTypedAndRecordedForOneShift) {
     open(ShiftFilter::Tres);
-    driven->find<QTabWidget>("rotation.pages").setCurrentIndex(1);
+    driven->openTab("rotation.pages", "Quadro");
     EXPECT_EQ(driven->text("workTable.time1.1"), "22:00");
     driven->type("workTable.time7.1", "19");
     driven->press(Qt::Key_Return);
