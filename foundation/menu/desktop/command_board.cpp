@@ -5,6 +5,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -47,6 +48,8 @@ CommandBoard::CommandBoard(const MenuEntries& entries, QWidget* parent)
         addGroup(title, entries);
     column_->addStretch(1);
     setWidget(content_);
+    layOut(kSpacings.size() - 1);
+    setMinimumWidth(widestTile() + look::kGap + verticalScrollBar()->sizeHint().width());
     layOut(0);
 }
 
@@ -75,13 +78,17 @@ CommandTile* CommandBoard::makeTile(const MenuEntry& entry, std::size_t place) {
     return tile;
 }
 
+int CommandBoard::widestTile() const {
+    int widest = 1;
+    for (const CommandTile* tile : tiles_)
+        widest = std::max(widest, tile->sizeHint().width());
+    return widest;
+}
+
 void CommandBoard::layOut(std::size_t spacing) {
     const Spacing& now = kSpacings.at(spacing);
-    int widest = 1;
-    for (CommandTile* tile : tiles_) {
+    for (CommandTile* tile : tiles_)
         tile->setSpacing(now.tile);
-        widest = std::max(widest, tile->sizeHint().width());
-    }
     column_->setSpacing(now.gap);
     for (const Group& group : groups_) {
         group.grid->setSpacing(now.gap);
@@ -89,7 +96,7 @@ void CommandBoard::layOut(std::size_t spacing) {
         group.heading->setContentsMargins(0, first ? 0 : now.groupGap, 0, 0);
     }
     const int room = contentsRect().width() - column_->contentsMargins().right();
-    place(std::clamp((room + now.gap) / (widest + now.gap), 1, kMostInRow));
+    place(std::clamp((room + now.gap) / (widestTile() + now.gap), 1, kMostInRow));
     column_->activate();
 }
 

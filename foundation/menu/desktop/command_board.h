@@ -42,6 +42,7 @@ class CommandBoard : public QScrollArea {
 
     void addGroup(const QString& title, const MenuEntries& entries);
     [[nodiscard]] CommandTile* makeTile(const MenuEntry& entry, std::size_t place);
+    [[nodiscard]] int widestTile() const;
     /// As many in a row as have room.
     void layOut(std::size_t spacing);
     void place(int inRow);
