@@ -33,6 +33,11 @@ QString claimPath(const winvrx::Drives& drives, const QString& own) {
 }  // namespace
 
 int main(int argc, char** argv) {
+#ifdef Q_OS_WIN
+    // Title bars and palette follow the dark mode of Windows.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "windows:darkmode=2");
+#endif
     QApplication application(argc, argv);
     winvrx::setUpDesktop(application);
 

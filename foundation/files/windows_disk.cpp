@@ -34,6 +34,24 @@ bool isTaken(DWORD error) {
     return error == ERROR_FILE_EXISTS || error == ERROR_ALREADY_EXISTS;
 }
 
+/// Virus scanners, indexers and backup programs hold a file for a moment after it was written.
+bool isHeld(DWORD error) {
+    return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION ||
+           error == ERROR_ACCESS_DENIED;
+}
+
+/// Tries again for a second while another program holds the file; GetLastError() says why not.
+template <typename Work>
+bool doneWhenFree(const Work& work) {
+    constexpr int kTries = 20;
+    constexpr DWORD kPause = 50;  // milliseconds
+    for (int left = kTries;;) {
+        if (work()) return true;
+        if (--left == 0 || !isHeld(::GetLastError())) return false;
+        ::Sleep(kPause);
+    }
+}
+
 /// Only true links: the placeholders of a folder kept in the cloud are reparse points as well.
 bool isLink(const path& file) {
     WIN32_FIND_DATAW found{};
@@ -50,9 +68,13 @@ void requireNoLink(Operation operation, const path& file) {
 
 class Handle {
   public:
-    Handle(const path& file, DWORD access, DWORD disposition)
-        : handle_(::CreateFileW(file.c_str(), access, kShareAll, nullptr, disposition,
-                                FILE_ATTRIBUTE_NORMAL, nullptr)) {}
+    Handle(const path& file, DWORD access, DWORD disposition) {
+        (void)doneWhenFree([&] {
+            handle_ = ::CreateFileW(file.c_str(), access, kShareAll, nullptr, disposition,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+            return open();
+        });
+    }
     ~Handle() {
         if (open()) ::CloseHandle(handle_);
     }
@@ -63,7 +85,7 @@ class Handle {
     [[nodiscard]] HANDLE get() const { return handle_; }
 
   private:
-    HANDLE handle_;
+    HANDLE handle_ = INVALID_HANDLE_VALUE;
 };
 
 void writeAll(const Handle& out, std::string_view bytes, const path& file) {
@@ -147,13 +169,13 @@ class WindowsDisk final : public StandardFolders {
     /// Written through: the new name lasts when this returns.
     void rename(const path& from, const path& to) override {
         requireNoLink(Operation::Write, to);
-        if (!::MoveFileExW(from.c_str(), to.c_str(),
-                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+        constexpr DWORD kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+        if (!doneWhenFree([&] { return ::MoveFileExW(from.c_str(), to.c_str(), kHow) != 0; }))
             fail(Operation::Write, to);
     }
 
     bool remove(const path& file) override {
-        if (::DeleteFileW(file.c_str())) return true;
+        if (doneWhenFree([&] { return ::DeleteFileW(file.c_str()) != 0; })) return true;
         if (!isMissing(::GetLastError())) fail(Operation::Remove, file);
         return false;
     }

@@ -1,6 +1,7 @@
 #include "timecard/rotation/rotation_plan.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace winvrx {
 
@@ -9,8 +10,8 @@ namespace {
 /// The first three places are relieved by the first of two.
 constexpr std::size_t kHalfOfPlaces = 3;
 
-int floorModulo(long value, int divisor) {
-    const long rest = value % divisor;
+int floorModulo(std::int64_t value, int divisor) {
+    const std::int64_t rest = value % divisor;
     return static_cast<int>(rest < 0 ? rest + divisor : rest);
 }
 
@@ -22,8 +23,8 @@ int phase(Date first, Date date, int rhythm) {
 
 bool isOff(const RotationGroup& group, std::size_t place, Date date) {
     const int rhythm = rhythmOf(group.scale);
-    return group.firstDayOff &&
-           phase(*group.firstDayOff, date, rhythm) == floorModulo(static_cast<long>(place), rhythm);
+    return group.firstDayOff && phase(*group.firstDayOff, date, rhythm) ==
+                                    floorModulo(static_cast<std::int64_t>(place), rhythm);
 }
 
 bool isOff(const ReliefWorker& relief, Date date) {

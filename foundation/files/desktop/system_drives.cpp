@@ -50,7 +50,9 @@ std::map<char, std::filesystem::path> SystemDrives::all() const {
 #ifdef Q_OS_WIN
     for (const QFileInfo& drive : QDir::drives()) {
         const std::string path = drive.absolutePath().toStdString();
-        drives[path.front()] = path;
+        // A reader without a card and a share that is not there have a letter too.
+        if (path.front() == kDefaultDrive || QStorageInfo(drive.absolutePath()).isReady())
+            drives[path.front()] = path;
     }
 #else
     std::vector<std::filesystem::path> mountPoints;
