@@ -61,7 +61,7 @@ class FencedFiles final : public ForwardingFiles {
 
   private:
     void watch(const std::filesystem::path& file) const {
-        const std::string& path = file.native();
+        const std::string path = file.string();
         const bool inside = file.lexically_normal() == file && file.parent_path() == folder_;
         if (!inside || path.find('\0') != std::string::npos) trespasses_.push_back(path);
     }

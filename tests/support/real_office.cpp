@@ -1,22 +1,24 @@
-#ifndef _WIN32
-
 #include "tests/support/real_office.h"
+
+#include "foundation/register/empresa.h"
+#include "tests/support/employee_desk.h"
+
+#include <gtest/gtest.h>
 
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace winvrx::testing {
 
 namespace fs = std::filesystem;
 
 ScratchFolder::ScratchFolder(const fs::path& parent) {
-    std::string pattern = (parent / "winvrx-office-XXXXXX").string();
-    if (!::mkdtemp(pattern.data())) throw std::runtime_error("no folder " + pattern);
-    path_ = pattern;
+    std::random_device dice;
+    do
+        path_ = parent / ("winvrx-office-" + std::to_string(dice()));
+    while (!fs::create_directory(path_));
 }
 
 ScratchFolder::~ScratchFolder() {
@@ -44,25 +46,56 @@ FileTable recordsBelow(const fs::path& root) {
     return recordsOf(files, root);
 }
 
-pid_t startProcess(const std::function<bool()>& work) {
-    const pid_t process = ::fork();
-    if (process < 0) throw std::runtime_error("no process");
-    if (process > 0) return process;
-    bool done = false;
-    try {
-        done = work();
-    } catch (...) {
-        done = false;
-    }
-    ::_exit(done ? 0 : 1);
+bool runOnSystemDisk(const WritingCommand& command, const fs::path& root) {
+    const auto disk = systemDisk();
+    const auto host = systemHost();
+    return runCommand(command, *disk, *host, root).done;
 }
 
-int waitFor(pid_t process) {
-    int status = 0;
-    if (::waitpid(process, &status, 0) != process) throw std::runtime_error("process is lost");
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+bool countUp(const Workplace& at, std::size_t position) {
+    for (int turn = 0; turn < kTurns; ++turn) {
+        TestEditor editor;
+        TestSpreadsheet spreadsheet;
+        TestLocks locks;
+        Empregados people(at, {editor, spreadsheet, locks, locks});
+        people.load();
+        Employee mine = people.lines().at(position).record;
+        if (mine.notes != std::to_string(turn)) return false;
+        mine.notes = std::to_string(turn + 1);
+        if (!people.change(position, mine)) return false;
+
+        Empresa companies(at);
+        bool counted = false;
+        while (!counted) {  // refused when the other process was there since it was shown
+            companies.load();
+            Company shared = companies.lines().at(0).record;
+            shared.telephone = std::to_string(std::stoi(shared.telephone) + 1);
+            counted = companies.change(0, shared);
+        }
+    }
+    return true;
+}
+
+void expectWholeAndRepeatable(const WritingCommand& command, const FileTable& after,
+                              const fs::path& root) {
+    const auto disk = systemDisk();
+    const auto host = systemHost();
+    EXPECT_TRUE(startAgain(*disk, *host, root).done);
+    const FileTable now = recordsBelow(root);
+    ASSERT_EQ(neitherBeforeNorAfter(now, command.before, after), "");
+    if (now == after) return;
+    EXPECT_TRUE(runCommand(command, *disk, *host, root).done);
+    EXPECT_EQ(recordsBelow(root), after);
+}
+
+bool doWork(const std::string& work, const fs::path& root) {
+    if (!work.starts_with("count ")) return runOnSystemDisk(writingCommand(work), root);
+    bool done = false;
+    const WritingCommand count{"count", {}, [&](const Workplace& at, const Drives&) {
+                                   return done = countUp(at, work.back() == '1' ? 1 : 0);
+                               }};
+    (void)runOnSystemDisk(count, root);
+    return done;
 }
 
 }  // namespace winvrx::testing
-
-#endif

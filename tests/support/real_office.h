@@ -1,13 +1,11 @@
 #pragma once
 
-#ifndef _WIN32
-
 #include "tests/support/writing_commands.h"
 
 #include <filesystem>
 #include <functional>
-
-#include <sys/types.h>
+#include <memory>
+#include <string>
 
 namespace winvrx::testing {
 
@@ -32,13 +30,43 @@ void fill(const std::filesystem::path& root, const FileTable& files);
 /// Every file below the folder but locks.
 [[nodiscard]] FileTable recordsBelow(const std::filesystem::path& root);
 
-/// A process that does `work` and ends with 0, or with 1 when it returns false or throws. Who
-/// starts it waits for it.
-[[nodiscard]] pid_t startProcess(const std::function<bool()>& work);
+/// The writing command on this computer's disk.
+bool runOnSystemDisk(const WritingCommand& command, const std::filesystem::path& root);
 
-/// The exit status; -1 when it was killed.
-int waitFor(pid_t process);
+/// Starts the program again after a command was cut short, and gives the command again if it has
+/// not ended.
+void expectWholeAndRepeatable(const WritingCommand& command, const FileTable& after,
+                              const std::filesystem::path& root);
+
+/// Counts up to `kTurns` in the notes of the employee of this position, and in the telephone of the
+/// company, which another process may count up as well. False when a count is not as it was left.
+inline constexpr int kTurns = 500;
+bool countUp(const Workplace& at, std::size_t position);
+
+/// What a process can be started to do: a writing command by its name, or "count 0" and "count 1".
+bool doWork(const std::string& work, const std::filesystem::path& root);
+
+/// A process that does a work and ends with 0, or with 1 when the work returns false or throws.
+class OfficeProcess {
+  public:
+    /// The work has begun when this returns.
+    OfficeProcess(const std::string& work, const std::filesystem::path& root);
+    ~OfficeProcess();
+    OfficeProcess(const OfficeProcess&) = delete;
+    OfficeProcess& operator=(const OfficeProcess&) = delete;
+
+    /// The exit status; -1 when it was killed.
+    int wait();
+    void kill();
+
+  private:
+    struct Handle;
+    std::unique_ptr<Handle> handle_;
+};
+
+#ifndef _WIN32
+/// The same for any work: the exit status, -1 when the process was killed.
+int inOwnProcess(const std::function<bool()>& work);
+#endif
 
 }  // namespace winvrx::testing
-
-#endif
