@@ -209,6 +209,9 @@ void Player::next() {
 
 void Player::fail(const QString& reason) const {
     if (QWidget* window = present()) window->grab().save(folder_ + QStringLiteral("/falha.png"));
+    QFile told(folder_ + QStringLiteral("/falha.txt"));  // Windows may have no console
+    if (told.open(QIODevice::WriteOnly)) told.write(reason.toUtf8());
+    told.close();
     qCritical("typical month: %s", qUtf8Printable(reason));
     std::_Exit(1);
 }

@@ -58,10 +58,9 @@ void expectTold(const Outcome& outcome, std::errc error) {
         EXPECT_THAT(told.detail,
                     ::testing::Not(::testing::AnyOf("", ::testing::HasSubstr(kTemporarySuffix),
                                                     ::testing::HasSubstr("\"\""))));
-    EXPECT_THAT(outcome.logged,
-                ::testing::Contains(::testing::AllOf(
-                    ::testing::ContainsRegex("(ler|gravar|excluir|listar|criar a pasta) /root"),
-                    ::testing::HasSubstr(std::make_error_code(error).message()))));
+    EXPECT_THAT(outcome.logged, ::testing::Contains(::testing::AllOf(
+                                    ::testing::HasSubstr(" /root"),
+                                    ::testing::HasSubstr(std::make_error_code(error).message()))));
 }
 
 TEST_P(EveryCommand, LeavesEachFileWholeWhereverTheDiskFails) {

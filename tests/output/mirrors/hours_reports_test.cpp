@@ -45,7 +45,8 @@ TEST_F(HoursReportsTest, WritesTextOrSpreadsheetAndOpensIt) {
     desk.person.answers = {Answer::Yes};
     EXPECT_TRUE(reports.report());
     EXPECT_THAT(desk.person.takeTexts(), ElementsAre(kForm, kClose));
-    EXPECT_THAT(office.browser.files, ElementsAre("/data/RelHorasExtras.xlsx"));
+    EXPECT_THAT(office.browser.files,
+                ElementsAre((std::filesystem::path("/data") / "RelHorasExtras.xlsx").string()));
     ASSERT_EQ(office.spreadsheet.sheets.size(), 3U);
     EXPECT_EQ(office.spreadsheet.sheets[0].rows.size(), 2U * 31U);
     EXPECT_EQ(office.spreadsheet.sheets[1].rows.size(), 2U);
