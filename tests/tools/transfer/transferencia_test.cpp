@@ -35,7 +35,7 @@ MemoryDisk::Files office() {
 std::map<std::string, std::string> recordsOf(const MemoryDisk& disk, const std::string& side) {
     std::map<std::string, std::string> found;
     for (const auto& [file, bytes] : disk.files()) {
-        const std::string name = file.string();
+        const std::string name = file.generic_string();
         if (!name.starts_with(side)) continue;
         const std::string below = name.substr(side.size());
         if (below.starts_with("Copias") || below == "Backup.bkp" || below == "Transferencia" ||
