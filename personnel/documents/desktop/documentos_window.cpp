@@ -13,6 +13,7 @@
 #include <QListWidget>
 #include <QScrollArea>
 #include <QTextBrowser>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace winvrx {

@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QPushButton>
 #include <QShortcut>
 #include <QToolButton>
 

@@ -6,6 +6,7 @@
 #include "tests/support/window_driver.h"
 
 #include <QRadioButton>
+#include <QToolButton>
 #include <QTreeWidget>
 
 #include <gmock/gmock.h>

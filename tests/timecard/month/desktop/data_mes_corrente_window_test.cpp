@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <QCheckBox>
 #include <QRadioButton>
+#include <QToolButton>
 #include <QTreeWidget>
 
 namespace winvrx {
