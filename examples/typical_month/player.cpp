@@ -1,5 +1,7 @@
 #include "player.h"
 
+#include "native_keys.h"
+
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/screen_window.h"
 #include "spoken.h"
@@ -12,6 +14,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
+#include <QScopedValueRollback>
 #include <QTimer>
 
 #include <cstdlib>
@@ -24,6 +27,8 @@ namespace {
 
 /// Milliseconds between two steps: a timer's, for a pause of none would be a posted event.
 constexpr int kStepPause = 1;
+/// Until a key has come from the computer's keyboard.
+constexpr int kKeyPause = 250;
 constexpr int kPatience = 1000;  ///< steps that may pass before a box is there
 
 QMessageBox::StandardButton buttonOf(Answer answer) {
@@ -96,7 +101,9 @@ void Player::press(QKeyCombination key) {
 /// Tries again while the window is not the active one, as keys go to that.
 void Player::pressNow(QKeyCombination key) {
     if (!present()->isActiveWindow()) return steps_.push_front([this, key] { pressNow(key); });
-    window().press(key.key(), key.keyboardModifiers());
+    if (!pressNatively(key)) return window().press(key.key(), key.keyboardModifiers());
+    still_ = true;
+    QTimer::singleShot(kKeyPause, this, [this] { still_ = false; });
 }
 
 void Player::trigger(const QString& name) {
@@ -178,6 +185,7 @@ void Player::savePicture(QWidget* window, const QString& name) {
                              .arg(folder_)
                              .arg(++pictures_, 2, 10, QLatin1Char('0'))
                              .arg(name);
+    const QScopedValueRollback still(still_, true);
     look::apply(*qApp, look::darkPalette());
     QCoreApplication::sendPostedEvents();
     window->grab().save(stem + QStringLiteral("-escuro.png"));
@@ -193,6 +201,7 @@ int Player::play() {
 
 void Player::next() {
     // The program's own way out; with its last window closed it ends.
+    if (still_) return QTimer::singleShot(kStepPause, this, &Player::next);
     if (steps_.empty()) return QApplication::closeAllWindows();
     const std::function<void()> step = std::move(steps_.front());
     steps_.pop_front();

@@ -77,6 +77,7 @@ class Player : public QObject {
     QString folder_;
     std::deque<std::function<void()>> steps_;
     int pictures_ = 0;
+    bool still_ = false;  ///< no next step now: a picture is taken, or a key is on its way
 };
 
 }  // namespace winvrx
