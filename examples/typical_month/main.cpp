@@ -143,7 +143,8 @@ int main(int argc, char** argv) {
     using namespace winvrx;
     if (qgetenv("QT_QPA_PLATFORM") == "offscreen")
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" WINVRX_SCREEN);
-    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);  // the player would not find its fields
+    QApplication::setAttribute(
+        Qt::AA_DontUseNativeDialogs);  // the player would not find its fields
     QApplication application(argc, argv);
     if (argc != 2) {
         qCritical("usage: typical_month FOLDER");

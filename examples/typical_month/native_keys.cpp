@@ -18,10 +18,14 @@ WORD numberOf(Qt::Key key) {
     if (key >= Qt::Key_F1 && key <= Qt::Key_F12)
         return static_cast<WORD>(VK_F1 + (key - Qt::Key_F1));
     switch (key) {
-        case Qt::Key_Escape: return VK_ESCAPE;
-        case Qt::Key_Insert: return VK_INSERT;
-        case Qt::Key_Right: return VK_RIGHT;
-        default: return static_cast<WORD>(key);
+        case Qt::Key_Escape:
+            return VK_ESCAPE;
+        case Qt::Key_Insert:
+            return VK_INSERT;
+        case Qt::Key_Right:
+            return VK_RIGHT;
+        default:
+            return static_cast<WORD>(key);
     }
 }
 

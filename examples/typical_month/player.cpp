@@ -13,8 +13,8 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QTest>
 #include <QScopedValueRollback>
+#include <QTest>
 #include <QTimer>
 
 #include <cstdlib>

@@ -23,6 +23,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScopedValueRollback>
 #include <QSet>
 #include <QTest>
 #include <QTimer>
