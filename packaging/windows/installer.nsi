@@ -1,6 +1,6 @@
 ; The installer of Winvrx: for this user without rights, or for all users of the computer.
 ; In silence: winvrx-VERSION-instalador.exe /S [/CurrentUser | /AllUsers] [/D=FOLDER]
-Unicode true
+Target amd64-unicode
 SetCompressor /SOLID lzma
 Name "Winvrx"
 OutFile "${OUT}"
@@ -19,7 +19,6 @@ RequestExecutionLevel user
 !include MultiUser.nsh
 !include MUI2.nsh
 !include FileFunc.nsh
-!include x64.nsh
 !include "${FILES}"
 
 !define MUI_ICON "${ICON}"
@@ -59,11 +58,6 @@ VIAddVersionKey /LANG=${LANG_PORTUGUESEBR} "LegalCopyright" ""
 !macroend
 
 Function .onInit
-  ${IfNot} ${RunningX64}
-    MessageBox MB_OK|MB_ICONSTOP "O Winvrx precisa do Windows de 64 bits." /SD IDOK
-    SetErrorLevel 2
-    Quit
-  ${EndIf}
   SetRegView 64
   !insertmacro MULTIUSER_INIT
 FunctionEnd
