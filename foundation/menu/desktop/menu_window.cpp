@@ -15,6 +15,7 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QDir>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -323,8 +324,9 @@ void MenuWindow::showDrive() {
     for (const char letter : menu_.driveLetters())
         drive_->addItem(QString(QLatin1Char(letter)));
     drive_->setCurrentText(QString(QLatin1Char(at_.session.folder.driveLetter())));
-    const QString path = QString::fromStdString(at_.session.folder.path().string());
-    folder_->setText(QString(path).replace(QLatin1Char('/'), QStringLiteral("/\u200B")));
+    const QString path = QDir::toNativeSeparators(toQt(at_.session.folder.path().string()));
+    folder_->setText(
+        QString(path).replace(QDir::separator(), QString(QDir::separator()) + QChar(0x200B)));
     folder_->setToolTip(path);
 }
 
