@@ -135,6 +135,12 @@ class Batch {
     std::uint64_t bytes_ = 0;
 };
 
+/// Two names that differ only in capitals come one after the other.
+std::vector<std::string> twinsTogether(std::vector<std::string> names) {
+    std::ranges::stable_sort(names, {}, [](const std::string& name) { return upperCase(name); });
+    return names;
+}
+
 TransferFiles copyAll(Disk& disk, const TransferPlan& plan, const path& from, const path& to,
                       std::size_t& done, const TransferProgress& progress) {
     Batch batch(disk, from, to, done);
@@ -145,9 +151,13 @@ TransferFiles copyAll(Disk& disk, const TransferPlan& plan, const path& from, co
                 }))
                 disk.makeFolder(to / folder);
         requireMarked(disk, to);  // after it nothing makes a folder
-        for (const std::string& name : plan.copied) {
-            batch.add(name);
-            if (!batch.isFull()) continue;
+        const std::vector<std::string> names = twinsTogether(plan.copied);
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            batch.add(names[i]);
+            // A drive that takes twins for one file is found out before either has its name.
+            const bool twinNext =
+                i + 1 < names.size() && upperCase(names[i]) == upperCase(names[i + 1]);
+            if (!batch.isFull() || twinNext) continue;
             batch.finish();
             if (!progress(done, plan.copied.size())) throw TransferCancelled(done);
         }

@@ -58,10 +58,10 @@ Contents recordsIn(const fs::path& folder) {
 /// pulled; a folder where nothing may be mounted.
 class Stick {
   public:
-    Stick() {
+    explicit Stick(const std::string& size = "size=256k") {
         for (const char* name : {"c", "e", "seen", "outside"})
             fs::create_directories(top() / name);
-        mounted_ = ::mount("tmpfs", root().c_str(), "tmpfs", 0, "size=256k") == 0 &&
+        mounted_ = ::mount("tmpfs", root().c_str(), "tmpfs", 0, size.c_str()) == 0 &&
                    ::mount(root().c_str(), seen().c_str(), nullptr, MS_BIND, nullptr) == 0;
         for (int i = 0; i < 4; ++i)
             put(here() / ("01CartaPonto" + std::to_string(i)), "new " + std::to_string(i));
@@ -225,11 +225,11 @@ TEST(RealVolume, LinkInTheDestinationLeadsNowhere) {
     }
 }
 
-/// Finds a file under any capitals, as the drives of cameras and sticks do, and keeps the first
-/// spelling.
+/// Finds a file below its root under any capitals, as the drives of cameras and sticks do, and
+/// keeps the first spelling.
 class CaselessDisk final : public StandardFolders {
   public:
-    explicit CaselessDisk(Disk& disk) : disk_(disk) {}
+    CaselessDisk(Disk& disk, fs::path root) : disk_(disk), root_(std::move(root)) {}
 
     [[nodiscard]] std::optional<std::string> read(const fs::path& file) const override {
         return disk_.read(kept(file));
@@ -255,6 +255,7 @@ class CaselessDisk final : public StandardFolders {
 
   private:
     [[nodiscard]] fs::path kept(const fs::path& file) const {
+        if (!file.string().starts_with(root_.string())) return file;
         for (const std::string& name : disk_.names(file.parent_path()))
             if (upperCase(name) == upperCase(file.filename().string()))
                 return file.parent_path() / name;
@@ -262,6 +263,7 @@ class CaselessDisk final : public StandardFolders {
     }
 
     Disk& disk_;
+    fs::path root_;
 };
 
 Contents inCapitals(const Contents& records) {
@@ -273,14 +275,28 @@ Contents inCapitals(const Contents& records) {
 
 TEST(RealVolume, NamesInOtherCapitalsAreTheSameFiles) {
     const auto system = systemDisk();
-    CaselessDisk disk(*system);
     const Stick stick;
+    CaselessDisk disk(*system, stick.there());
     fs::rename(stick.there() / "01Empresa", stick.there() / "01EMPRESA");
     fs::rename(stick.there() / "01CartaPonto1", stick.there() / "01cartaponto1");
     for (int time = 0; time < 2; ++time) {
         EXPECT_TRUE(TransferTrial(disk, stick.top()).run(TransferDirection::Export));
         EXPECT_EQ(inCapitals(stick.records()), inCapitals(recordsIn(stick.here())));
     }
+}
+
+TEST(RealVolume, TwoNamesForOneFileThereAreRefusedHoweverManyLieBetween) {
+    constexpr int kMoreThanAreFlushedAtOnce = 300;
+    const auto system = systemDisk();
+    const Stick stick("size=16m");
+    put(stick.here() / "02CARTA", "one");
+    for (int i = 0; i < kMoreThanAreFlushedAtOnce; ++i)
+        put(stick.here() / ("02D" + std::to_string(i)), "x");
+    put(stick.here() / "02carta", "two");
+    CaselessDisk disk(*system, stick.there());
+    EXPECT_FALSE(TransferTrial(disk, stick.top()).run(TransferDirection::Export));
+    EXPECT_FALSE(stick.records().contains("02CARTA"));
+    EXPECT_FALSE(stick.records().contains("02carta"));
 }
 
 }  // namespace
