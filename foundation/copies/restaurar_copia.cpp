@@ -2,6 +2,7 @@
 
 #include "foundation/copies/copied_files.h"
 #include "foundation/files/record_names.h"
+#include "foundation/values/text.h"
 
 #include <algorithm>
 
@@ -18,12 +19,6 @@ Message confirmation(const CopyName& name) {
         "RESTAURAR", "Confirma a Restauração da Cópia de " + momentOfCopy(name) + "?",
         "A pasta de dados volta a ser o que era. O estado de agora é guardado antes, como mais "
         "uma cópia desta lista.");
-}
-
-std::string counted(int count, std::string_view one, std::string_view many) {
-    const bool single = count == 1;
-    return std::to_string(count) + (single ? " arquivo " : " arquivos ") +
-           std::string(single ? one : many);
 }
 
 SubjectChange& entryFor(std::vector<SubjectChange>& changes, std::string subject) {
@@ -60,16 +55,15 @@ std::vector<SubjectChange> bySubject(const std::vector<FileChange>& files) {
 }  // namespace
 
 std::string SubjectChange::text() const {
-    std::string text;
-    const auto add = [&](int count, std::string_view one, std::string_view many) {
-        if (count == 0) return;
-        if (!text.empty()) text += ", ";
-        text += counted(count, one, many);
+    const auto part = [](int count, std::string_view one, std::string_view many) {
+        return count == 0 ? std::string() : countOf(count, one, many);
     };
-    add(different, "volta ao que era", "voltam ao que eram");
-    add(missing, "que falta é trazido de volta", "que faltam são trazidos de volta");
-    add(surplus, "que não existia é excluído", "que não existiam são excluídos");
-    return text;
+    return joined({part(different, "arquivo volta ao que era", "arquivos voltam ao que eram"),
+                   part(missing, "arquivo que falta é trazido de volta",
+                        "arquivos que faltam são trazidos de volta"),
+                   part(surplus, "arquivo que não existia é excluído",
+                        "arquivos que não existiam são excluídos")},
+                  ", ");
 }
 
 std::string originOfCopy(const SafetyCopy& copy) {

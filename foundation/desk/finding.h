@@ -43,10 +43,7 @@ template <typename Record>
 /// "Falta preencher: Nome, Turno."
 template <typename Record>
 [[nodiscard]] std::string missingText(const Findings<Record>& missing) {
-    std::string captions;
-    for (const auto& one : missing)
-        captions.append(captions.empty() ? "" : ", ").append(one.text);
-    return "Falta preencher: " + captions + ".";
+    return "Falta preencher: " + joined(missing, ", ", &Finding<Record>::text) + ".";
 }
 
 /// The texts changed since `before` that no record can hold.

@@ -2,6 +2,7 @@
 
 #include "foundation/desk/finding.h"
 #include "foundation/desk/list_screen.h"
+#include "foundation/values/text.h"
 
 #include <string>
 
@@ -52,10 +53,9 @@ class ListChecks : public ListScreen {
         const auto unstorable = unstorableIn(typed, before);
         if (!unstorable.empty()) return refuseFor(unstorable.front(), incorrectData());
         const auto doubts = doubtsAbout(typed, before);
-        std::string named;
-        for (const auto& doubt : doubts)
-            named.append(named.empty() ? "" : "\n").append(captioned(doubt));
-        if (doubts.empty() || at_.person.agrees(recordDespiteDoubts(named))) return true;
+        if (doubts.empty() ||
+            at_.person.agrees(recordDespiteDoubts(joined(doubts, "\n", captioned<Record>))))
+            return true;
         blamed_ = doubts.front().member;
         return false;
     }

@@ -11,17 +11,11 @@ ListRow unreadRow(std::string_view lineBytes) {
 }
 
 std::string unreadCount(std::size_t lines) {
-    if (lines == 0) return {};
-    return lines == 1 ? ", 1 linha não entendida"
-                      : ", " + std::to_string(lines) + " linhas não entendidas";
+    return alongWith(lines, "linha não entendida", "linhas não entendidas");
 }
 
-std::string countOf(std::size_t count, std::string_view what) {
-    return std::to_string(count) + " " + std::string(what) + (count == 1 ? "" : "s");
-}
-
-std::string alongWith(std::size_t count, std::string_view what) {
-    return count == 0 ? std::string() : ", " + countOf(count, what);
+std::string alongWith(std::size_t count, std::string_view one, std::string_view many) {
+    return count == 0 ? std::string() : ", " + countOf(count, one, many);
 }
 
 Message recordDespiteDoubts(std::string doubts) {

@@ -24,10 +24,9 @@ struct ListRow {
 /// ", 2 linhas não entendidas", to stand behind a count of records; empty for none.
 [[nodiscard]] std::string unreadCount(std::size_t lines);
 
-/// "12 arquivos", "1 arquivo".
-[[nodiscard]] std::string countOf(std::size_t count, std::string_view what);
-/// The same with a comma before it, to stand behind what is deleted; empty for none.
-[[nodiscard]] std::string alongWith(std::size_t count, std::string_view what);
+/// ", 12 arquivos", to stand behind what is deleted; empty for none.
+[[nodiscard]] std::string alongWith(std::size_t count, std::string_view one,
+                                    std::string_view many = {});
 
 /// "Há dados que parecem errados. Gravar assim mesmo?"; `doubts` names them.
 [[nodiscard]] Message recordDespiteDoubts(std::string doubts);

@@ -1,5 +1,7 @@
 #include "foundation/register/employee_checks.h"
 
+#include "foundation/values/text.h"
+
 #include <algorithm>
 #include <array>
 #include <iterator>
@@ -53,9 +55,7 @@ Findings<Employee> doubtfulAge(const Employee& typed, const Employee& before, Da
     const int atWork = ageOn(*birth, admission.value_or(today));
     const std::string then = admission ? " na admissão." : " hoje.";
     if (atWork < 0) return {{&Employee::birthDate, typed.birthDate + " é posterior à admissão."}};
-    if (atWork < kYoungest)
-        return {{&Employee::birthDate,
-                 std::to_string(atWork) + (atWork == 1 ? " ano" : " anos") + then}};
+    if (atWork < kYoungest) return {{&Employee::birthDate, countOf(atWork, "ano") + then}};
     const int now = ageOn(*birth, today);
     if (now > kOldest) return {{&Employee::birthDate, std::to_string(now) + " anos hoje."}};
     return {};

@@ -3,6 +3,7 @@
 #include "foundation/register/company_register.h"
 #include "foundation/register/employee_table.h"
 #include "foundation/register/imported_employee.h"
+#include "foundation/values/text.h"
 
 #include <algorithm>
 
@@ -11,9 +12,9 @@ namespace winvrx {
 namespace {
 
 Message confirmation(std::size_t count) {
-    return question("INCLUSÃO", "Confirma a Inclusão na LISTA DE FUNCIONARIOS?",
-                    count == 1 ? "Será incluído 1 funcionário."
-                               : "Serão incluídos " + std::to_string(count) + " funcionários.");
+    return question(
+        "INCLUSÃO", "Confirma a Inclusão na LISTA DE FUNCIONARIOS?",
+        (count == 1 ? "Será incluído " : "Serão incluídos ") + countOf(count, "funcionário") + ".");
 }
 
 bool hasText(const std::vector<std::string>& row) {

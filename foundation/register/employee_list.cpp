@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <span>
 
 namespace winvrx {
 
@@ -38,9 +39,7 @@ MarkedLeaves markedLeaves(const Store& store, const EmployeeKey& key,
 }
 
 std::string namesText(const std::vector<std::string>& names, std::size_t most) {
-    std::string text;
-    for (std::size_t i = 0; i < std::min(names.size(), most); ++i)
-        text += (i == 0 ? "" : ", ") + names[i];
+    std::string text = joined(std::span(names).first(std::min(names.size(), most)), ", ");
     if (names.size() > most) text += " e mais " + std::to_string(names.size() - most);
     return text;
 }
@@ -99,7 +98,12 @@ bool EmployeeList::isInSubset(const Employee& one) const {
     return subset_.contains(one.employeeCode().value());
 }
 
+const Employee* EmployeeList::selected() const {
+    return selected_ ? &employees_.at(*selected_) : nullptr;
+}
+
 void EmployeeList::filter() {
+    const std::string former = selected() ? selected()->code : "";
     employees_.clear();
     std::ranges::copy_if(everyone_, std::back_inserter(employees_), [this](const Employee& one) {
         return passes(shift_, one.shiftOr()) && (!scale_ || one.scaleOr() == *scale_);
@@ -108,6 +112,7 @@ void EmployeeList::filter() {
     inAll_ = employees_.size();
     inSubset_ = static_cast<std::size_t>(std::ranges::count_if(employees_, isIn));
     if (onlySubset_) std::erase_if(employees_, std::not_fn(isIn));
+    selected_ = positionOf(former);
 }
 
 bool EmployeeList::isShown(std::size_t position) const {

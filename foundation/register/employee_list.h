@@ -100,6 +100,12 @@ class EmployeeList {
     /// The first who bears the code.
     [[nodiscard]] std::optional<std::size_t> positionOf(std::string_view code) const;
 
+    /// The one whom a screen works on, nullopt for nobody. He stays, by his code, while the list is
+    /// filtered and filled again; out of the list, he is no longer selected.
+    void select(std::optional<std::size_t> position) { selected_ = position; }
+    [[nodiscard]] std::optional<std::size_t> selectedPosition() const { return selected_; }
+    [[nodiscard]] const Employee* selected() const;  ///< nullptr when there is none
+
     /// Ticks last while the list is filtered, searched and filled again.
     [[nodiscard]] bool isTicked(std::size_t position) const;
     void tick(std::size_t position, bool on);
@@ -126,6 +132,7 @@ class EmployeeList {
     std::vector<Employee> everyone_;
     Marks marks_;
     std::vector<Employee> employees_;
+    std::optional<std::size_t> selected_;
 };
 
 }  // namespace winvrx

@@ -4,6 +4,7 @@
 #include "foundation/register/dismissal.h"
 #include "foundation/register/employee_checks.h"
 #include "foundation/register/employee_transfer.h"
+#include "foundation/values/text.h"
 
 namespace winvrx {
 

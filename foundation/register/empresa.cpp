@@ -3,6 +3,7 @@
 #include "foundation/files/folder_names.h"
 #include "foundation/files/record_names.h"
 #include "foundation/register/employee_register.h"
+#include "foundation/values/text.h"
 
 #include <algorithm>
 #include <array>

@@ -124,11 +124,9 @@ std::string importNotice(const Employee& employee) {
     const std::array hints = {
         cpfHint(employee.taxId, Entry::Left), pisHint(employee.socialId, Entry::Left),
         occupationHint(employee.occupation, Entry::Left), moneyHint(employee.salary, Entry::Left)};
-    std::string notice;
-    for (const Hint& hint : hints)
-        if (hint.tone == Hint::Tone::Warning)
-            notice.append(notice.empty() ? "" : " ").append(hint.text);
-    return notice;
+    return joined(hints, " ", [](const Hint& hint) {
+        return hint.tone == Hint::Tone::Warning ? hint.text : std::string();
+    });
 }
 
 }  // namespace winvrx

@@ -206,6 +206,10 @@ std::string digitsIn(std::string_view text) {
     return digits;
 }
 
+std::string joined(std::initializer_list<std::string_view> parts, std::string_view between) {
+    return joined<std::initializer_list<std::string_view>>(parts, between);
+}
+
 std::string upperCase(std::string_view utf8) {
     return mapped(utf8, upperOf);
 }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <concepts>
 #include <cstddef>
+#include <functional>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -52,6 +55,27 @@ void appendFitted(std::string& line, std::string_view utf8, std::size_t width);
 
 /// The digits of `text` alone.
 [[nodiscard]] std::string digitsIn(std::string_view text);
+
+/// "1 empresa", "12 empresas"; `many` for a plural that takes more than an "s".
+[[nodiscard]] std::string countOf(std::integral auto count, std::string_view one,
+                                  std::string_view many = {}) {
+    const bool takesS = count != 1 && many.empty();
+    return std::to_string(count).append(" ").append(count == 1 || takesS ? one : many) +
+           (takesS ? "s" : "");
+}
+
+/// The texts of `parts` with `between` between them; empty ones are left out.
+template <typename Parts, typename TextOf = std::identity>
+[[nodiscard]] std::string joined(const Parts& parts, std::string_view between, TextOf textOf = {}) {
+    std::string text;
+    for (const auto& part : parts) {
+        const auto& one = std::invoke(textOf, part);
+        if (!one.empty()) text.append(text.empty() ? "" : between).append(one);
+    }
+    return text;
+}
+[[nodiscard]] std::string joined(std::initializer_list<std::string_view> parts,
+                                 std::string_view between);
 
 /// Upper-case form, Portuguese accented letters included.
 [[nodiscard]] std::string upperCase(std::string_view utf8);

@@ -1,6 +1,5 @@
 #include "output/labels/etiquetas.h"
 
-#include "foundation/desk/list_screen.h"
 #include "foundation/register/company_register.h"
 #include "foundation/values/text.h"
 #include "output/labels/label_blanks.h"

@@ -1,6 +1,5 @@
 #include "personnel/forms/relatorios.h"
 
-#include "foundation/desk/list_screen.h"
 #include "foundation/register/company_register.h"
 #include "foundation/values/text.h"
 #include "personnel/contract/contracted_employee.h"

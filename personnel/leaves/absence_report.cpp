@@ -1,6 +1,5 @@
 #include "personnel/leaves/absence_report.h"
 
-#include "foundation/desk/list_screen.h"
 #include "foundation/desk/text_report.h"
 #include "foundation/register/company_register.h"
 #include "foundation/values/text.h"

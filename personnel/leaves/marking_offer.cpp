@@ -1,6 +1,6 @@
 #include "personnel/leaves/marking_offer.h"
 
-#include "foundation/desk/list_screen.h"
+#include "foundation/values/text.h"
 #include "timecard/punches/leave_marking.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "foundation/copies/desktop/restaurar_copia_window.h"
 
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
 #include "foundation/widgets/desktop/look.h"
 
 #include <QHeaderView>
@@ -118,8 +119,7 @@ void RestaurarCopiaWindow::fillList() {
         item->setToolTip(0, toQt(copy.name.text()));
     }
     list_->setCurrentItem(list_->topLevelItem(0));
-    const int count = list_->topLevelItemCount();
-    setState(count == 1 ? QStringLiteral("1 cópia") : QStringLiteral("%1 cópias").arg(count));
+    setState(toQt(countOf(list_->topLevelItemCount(), "cópia")));
     showPreview();
 }
 

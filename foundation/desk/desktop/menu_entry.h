@@ -32,7 +32,4 @@ struct MenuEntry {
 
 using MenuEntries = std::vector<MenuEntry>;
 
-/// "1 empresa", "2 empresas", for a state line.
-[[nodiscard]] QString counted(int count, const char* one, const char* many);
-
 }  // namespace winvrx

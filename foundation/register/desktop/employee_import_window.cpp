@@ -2,6 +2,7 @@
 
 #include "foundation/register/employee_import.h"
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
 #include "foundation/widgets/desktop/look.h"
 
 #include <QCheckBox>
@@ -34,11 +35,6 @@ look::Tint tintOf(const ImportedRow& row) {
     return row.notice.empty() ? look::Tint::Good : look::Tint::Warning;
 }
 
-QString employees(std::size_t count) {
-    return count == 1 ? QStringLiteral("1 funcionário")
-                      : QStringLiteral("%1 funcionários").arg(count);
-}
-
 }  // namespace
 
 EmployeeImportWindow::EmployeeImportWindow(EmployeeImport& import, QWidget* parent)
@@ -68,7 +64,7 @@ void EmployeeImportWindow::buildBody() {
 void EmployeeImportWindow::buildClosing() {
     const std::size_t count = import_.goodRows();
     QPushButton* include = addClosingButton(
-        {"add", QStringLiteral("&Incluir ") + employees(count), {}, "importar.include", [this] {
+        {"add", toQt("&Incluir " + countOf(count, "funcionário")), {}, "importar.include", [this] {
              this->include();
          }});
     include->setDefault(count > 0);
@@ -103,18 +99,13 @@ void EmployeeImportWindow::changeEvent(QEvent* event) {
 void EmployeeImportWindow::showSummary() {
     const std::size_t good = import_.goodRows();
     const std::size_t bad = import_.rows().size() - good;
-    QString text = QStringLiteral("Nada foi gravado ainda.");
+    std::string text = "Nada foi gravado ainda.";
     if (bad > 0)
-        text += (bad == 1 ? QStringLiteral(" %1 linha com problema fica de fora.")
-                          : QStringLiteral(" %1 linhas com problema ficam de fora."))
-                    .arg(bad);
-    if (!import_.unknownTitles().empty()) {
-        QStringList titles;
-        for (const std::string& title : import_.unknownTitles())
-            titles << toQt(title);
-        text += QStringLiteral(" Colunas não reconhecidas: ") + titles.join(QStringLiteral(", "));
-    }
-    setState(text);
+        text += " " + countOf(bad, "linha com problema fica", "linhas com problema ficam") +
+                " de fora.";
+    if (!import_.unknownTitles().empty())
+        text += " Colunas não reconhecidas: " + joined(import_.unknownTitles(), ", ");
+    setState(toQt(text));
     setSubtitle(QStringLiteral("%1 de %2 linhas prontas").arg(good).arg(import_.rows().size()));
 }
 

@@ -11,6 +11,7 @@
 #include "foundation/register/empresa.h"
 #include "foundation/register/turnos.h"
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
 
 #include <algorithm>
 
@@ -23,13 +24,13 @@ const QString kGroup = QStringLiteral("Cadastros");
 QString companiesState(const Workplace& at) {
     const auto known = std::ranges::count_if(
         loadCompanies(at.store()), [](const CompanyLine& line) { return line.key().has_value(); });
-    return counted(static_cast<int>(known), "empresa", "empresas");
+    return toQt(countOf(known, "empresa"));
 }
 
 QString employeesState(const MonthProgress* progress) {
     if (!progress) return QStringLiteral("Selecione uma empresa");
     if (progress->employees == 0) return QStringLiteral("Incluir o primeiro");
-    return counted(progress->employees, "funcionário", "funcionários");
+    return toQt(countOf(progress->employees, "funcionário"));
 }
 
 MenuEntry companies(const Workplace& at) {

@@ -1,6 +1,5 @@
 #include "output/labels/desktop/etiquetas_window.h"
 
-#include "foundation/desk/list_screen.h"
 #include "foundation/register/desktop/employee_picker.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"

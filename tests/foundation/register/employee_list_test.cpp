@@ -51,6 +51,23 @@ TEST(EmployeeList, ShowsThoseOfShiftScaleAndSearch) {
     }
 }
 
+TEST(EmployeeList, TheOneSelectedStaysByHisCodeAsLongAsTheListHasHim) {
+    const auto ana = lineOf(employee("001", "ANA", "Unico", "Normal"));
+    const auto rui = lineOf(employee("003", "RUI", "Dois", "Normal"));
+    EmployeeList list(ShiftFilter::Todos);
+    EXPECT_EQ(list.selected(), nullptr);
+    list.fill({ana, rui});
+    list.select(1);
+    list.filterBy(ShiftFilter::Dois);
+    EXPECT_EQ(list.selectedPosition(), 0U);
+    list.fill({lineOf(employee("002", "EVA", "Dois", "Normal")), rui});
+    ASSERT_EQ(list.selectedPosition(), 1U);
+    EXPECT_EQ(list.selected()->code, "003");
+    list.filterBy(ShiftFilter::Unico);
+    list.filterBy(ShiftFilter::Todos);
+    EXPECT_EQ(list.selected(), nullptr);
+}
+
 TEST(EmployeeMarks, AreThoseOfTheCompanyAndNoOneFileHidesTheOthers) {
     testing::MemoryFiles files;
     files.content["/data/01configAf001"] = "**** 10/02/2024\r\n";

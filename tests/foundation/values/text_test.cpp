@@ -41,6 +41,16 @@ TEST(Text, SearchIgnoresAccentsAndCase) {
     EXPECT_EQ(upperCase("março às 8"), "MARÇO ÀS 8");
 }
 
+TEST(Text, CountsAndListsAreWorded) {
+    EXPECT_EQ(countOf(0, "dia"), "0 dias");
+    EXPECT_EQ(countOf(1, "mês", "meses"), "1 mês");
+    EXPECT_EQ(countOf(std::size_t{12}, "mês", "meses"), "12 meses");
+    EXPECT_EQ(joined({"", "Taubaté", "", "SP", ""}, "/"), "Taubaté/SP");
+    EXPECT_EQ(joined(std::vector<std::string>(), ", "), "");
+    EXPECT_EQ(joined(std::vector{7, 40}, "; ", [](int number) { return padded(number, 2); }),
+              "07; 40");
+}
+
 TEST(Text, AnyBytesCanBeShown) {
     EXPECT_EQ(readableText("  x\xE3\t\x01\x81\x7F\x80 "), "xã····€");
     EXPECT_EQ(readableText(std::string("a\0b", 3)), "a·b");

@@ -1,6 +1,8 @@
 #include "timecard/rotation/desktop/rotation_entry.h"
 
 #include "foundation/register/employee_queries.h"
+#include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
 #include "timecard/rotation/cartao_ponto_dados_b.h"
 #include "timecard/rotation/desktop/cartao_ponto_dados_b_window.h"
 
@@ -12,7 +14,7 @@ QString stateOf(const Workplace& at, const MonthProgress* progress) {
     if (!progress || !progress->month || !at.session.company)
         return QStringLiteral("Falta o mês de trabalho");
     const auto lines = groupFile(at.store(), *at.session.company, *progress->month).load();
-    return counted(static_cast<int>(groupsIn(lines).size()), "grupo", "grupos");
+    return toQt(countOf(groupsIn(lines).size(), "grupo"));
 }
 
 }  // namespace
