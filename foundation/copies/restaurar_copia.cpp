@@ -86,16 +86,10 @@ CopyPreview RestaurarCopia::preview(const CopyName& copy) const {
 }
 
 bool RestaurarCopia::restore(const std::optional<CopyName>& copy) {
-    if (!copy) {
-        at_.person.tell(kNoneChosen);
-        return false;
-    }
+    if (!copy) return at_.person.refuse(kNoneChosen);
     return attempt(at_, kFailure, [&] {
         const DataFolder& folder = at_.session.folder;
-        if (copies_.changes(folder, *copy).empty()) {
-            at_.person.tell(kNothingToDo);
-            return false;
-        }
+        if (copies_.changes(folder, *copy).empty()) return at_.person.refuse(kNothingToDo);
         if (!at_.person.agrees(confirmation(*copy))) return false;
         const FolderLock::Hold hold = holdFolder(at_);
         // First the month: cut short behind it, the command can still be given again.

@@ -47,8 +47,7 @@ bool ListScreen::confirmDiscardTyped() {
 bool ListScreen::refuse(const Message& message, std::string detail) const {
     Message told = message;
     if (!detail.empty()) told.detail = std::move(detail);
-    at_.person.tell(told);
-    return false;
+    return at_.person.refuse(told);
 }
 
 }  // namespace winvrx

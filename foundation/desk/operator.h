@@ -14,6 +14,11 @@ class Operator {
     virtual Answer ask(const Message& message) = 0;
 
     void tell(const Message& message) { (void)ask(message); }
+    /// Tells why a command is not carried out, and gives false for it to return.
+    [[nodiscard]] bool refuse(const Message& message) {
+        tell(message);
+        return false;
+    }
     [[nodiscard]] bool agrees(const Message& message) { return ask(message) == agreement(message); }
 };
 

@@ -74,9 +74,7 @@ Menu::Menu(const Workplace& at, const Drives& drives, SingleInstance& instance,
       programFolder_(std::move(programFolder)) {}
 
 bool Menu::claimRun() {
-    if (instance_.claim()) return true;
-    at_.person.tell(kAlreadyOpen);
-    return false;
+    return instance_.claim() || at_.person.refuse(kAlreadyOpen);
 }
 
 void Menu::load() {
@@ -225,16 +223,11 @@ void Menu::useDrive(char letter) {
 
 bool Menu::require(MenuNeeds needs) {
     if (needs == MenuNeeds::Nothing) return true;
-    if (!at_.session.company) {
-        at_.person.tell(noCompany(at_));
-        return false;
-    }
+    if (!at_.session.company) return at_.person.refuse(noCompany(at_));
     if (needs == MenuNeeds::Company) return true;
     return attempt(at_, kFailure, [this] {
         const EmployeeRegister employees(at_.store(), *at_.session.company);
-        if (employees.hasEmployees()) return true;
-        at_.person.tell(kNoEmployee);
-        return false;
+        return employees.hasEmployees() || at_.person.refuse(kNoEmployee);
     });
 }
 

@@ -25,10 +25,7 @@ bool hasText(const std::vector<std::string>& row) {
 }  // namespace
 
 bool EmployeeImport::open(const std::filesystem::path& csv) {
-    if (!at_.session.company) {
-        at_.person.tell(noCompany(at_));
-        return false;
-    }
+    if (!at_.session.company) return at_.person.refuse(noCompany(at_));
     return attempt(at_, incorrectData(), [&] {
         const auto bytes = at_.files.read(csv);
         if (!bytes) throw Fault("no file " + csv.string(), "O arquivo não foi encontrado.");

@@ -34,10 +34,7 @@ void Turnos::load() {
 }
 
 bool Turnos::change(const Employee& employee, std::optional<Shift> shift) {
-    if (!shift) {
-        at_.person.tell(noShiftChosen(employee));
-        return false;
-    }
+    if (!shift) return at_.person.refuse(noShiftChosen(employee));
     if (!at_.person.agrees(kConfirmChange)) return false;
     return attempt(at_, incorrectData(), [&] {
         const CompanyCode company = at_.session.company.value();
@@ -45,14 +42,8 @@ bool Turnos::change(const Employee& employee, std::optional<Shift> shift) {
         auto lines = stored.load();
         (void)lineOfEmployee(lines, employee);
         const EmployeeKey key{company, employee.employeeCode().value()};
-        if (rotation_.isMember(key)) {
-            at_.person.tell(kRotationMember);
-            return false;
-        }
-        if (!allows(employee.scaleOr(), *shift)) {
-            at_.person.tell(kBarredByScale);
-            return false;
-        }
+        if (rotation_.isMember(key)) return at_.person.refuse(kRotationMember);
+        if (!allows(employee.scaleOr(), *shift)) return at_.person.refuse(kBarredByScale);
         if (!confirmDespitePayroll(at_.person, payroll_, key)) return false;
         const auto hold = holdFolder(at_);
         lines = stored.load();
