@@ -4,7 +4,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 // The catalogue of printed forms. What each is for stands in docs/glossary.md, and how its layout
 // is drawn in docs/layout-files.md.

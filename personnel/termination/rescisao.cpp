@@ -1,5 +1,7 @@
 #include "personnel/termination/rescisao.h"
 
+#include "personnel/payroll/statement_page.h"
+
 namespace winvrx {
 
 namespace {
@@ -11,6 +13,29 @@ void addLines(Statement& page, const std::vector<TerminationLine>& lines, bool i
         page.lines.push_back(std::move(item));
         page.addMemo(line.memo);
     }
+}
+
+/// What the page says.
+Statement statementOf(const TerminationSheet& sheet, const std::vector<Rescisao::Term>& terms) {
+    Statement page{.title = "Cálculo da rescisão",
+                   .about = sheet.employee.code + " " + sheet.employee.name,
+                   .fileName = "Rescisao-" + sheet.employee.code + ".pdf"};
+    for (const Rescisao::Term& term : terms)
+        page.lines.push_back({.words = term.name + ": " + term.value});
+    page.addHeading("Créditos");
+    addLines(page, sheet.credits, true);
+    page.addHeading("Descontos");
+    addLines(page, sheet.debits, false);
+    page.addHeading("Totais");
+    page.addTotal("Total de créditos", sheet.gross);
+    page.addTotal("Total de descontos", sheet.deductions);
+    page.addTotal("Líquido a receber", sheet.net);
+    page.addHeading("Depósitos na conta do FGTS, que não entram no líquido");
+    addLines(page, sheet.deposits, true);
+    if (!sheet.remarks.empty()) page.addHeading("Observações");
+    for (const std::string& remark : sheet.remarks)
+        page.lines.push_back({.memo = remark});
+    return page;
 }
 
 }  // namespace
@@ -37,30 +62,8 @@ std::vector<Rescisao::Term> Rescisao::terms() const {
         {"Salário", moneyText(sheet_->salary), ""}};
 }
 
-Statement statementOf(const TerminationSheet& sheet, const std::vector<Rescisao::Term>& terms) {
-    Statement page{.title = "Cálculo da rescisão",
-                   .about = sheet.employee.code + " " + sheet.employee.name,
-                   .fileName = "Rescisao-" + sheet.employee.code + ".pdf"};
-    for (const Rescisao::Term& term : terms)
-        page.lines.push_back({.words = term.name + ": " + term.value});
-    page.addHeading("Créditos");
-    addLines(page, sheet.credits, true);
-    page.addHeading("Descontos");
-    addLines(page, sheet.debits, false);
-    page.addHeading("Totais");
-    page.addTotal("Total de créditos", sheet.gross);
-    page.addTotal("Total de descontos", sheet.deductions);
-    page.addTotal("Líquido a receber", sheet.net);
-    page.addHeading("Depósitos na conta do FGTS, que não entram no líquido");
-    addLines(page, sheet.deposits, true);
-    if (!sheet.remarks.empty()) page.addHeading("Observações");
-    for (const std::string& remark : sheet.remarks)
-        page.lines.push_back({.memo = remark});
-    return page;
-}
-
-bool Rescisao::preview(ReportEngine& engine) const {
-    return previewStatement({at_, engine}, statementOf(sheet_.value(), terms()));
+bool Rescisao::preview() const {
+    return previewStatement({at_, engine_}, statementOf(sheet_.value(), terms()));
 }
 
 }  // namespace winvrx

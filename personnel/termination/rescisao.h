@@ -1,7 +1,6 @@
 #pragma once
 
 #include "foundation/desk/command.h"
-#include "personnel/payroll/statement_page.h"
 #include "personnel/termination/termination_sheet.h"
 
 #include <optional>
@@ -11,15 +10,21 @@
 
 namespace winvrx {
 
+class ReportEngine;
+
 inline constexpr std::string_view kTerminationTitle = "Cálculo da Rescisão";
 
 /// The screen of the figures of an employee's end of contract. It writes nothing: what it computes
 /// from is recorded by the leave screen, the register and "Dados para a Folha".
 class Rescisao {
   public:
-    /// `legalFolder` has the delivered tables.
-    Rescisao(const Workplace& at, std::filesystem::path legalFolder, Employee employee)
-        : at_(at), legalFolder_(std::move(legalFolder)), employee_(std::move(employee)) {}
+    /// `legalFolder` has the delivered tables; the engine outlives the screen.
+    Rescisao(const Workplace& at, ReportEngine& engine, std::filesystem::path legalFolder,
+             Employee employee)
+        : at_(at),
+          engine_(engine),
+          legalFolder_(std::move(legalFolder)),
+          employee_(std::move(employee)) {}
 
     /// Reads the records and computes. False, and told in words, where something is missing.
     [[nodiscard]] bool load();
@@ -34,17 +39,14 @@ class Rescisao {
     [[nodiscard]] std::vector<Term> terms() const;
 
     /// Shows the page with the memo of every line. Requires a sheet.
-    [[nodiscard]] bool preview(ReportEngine& engine) const;
+    [[nodiscard]] bool preview() const;
 
   private:
     Workplace at_;
+    ReportEngine& engine_;
     std::filesystem::path legalFolder_;
     Employee employee_;
     std::optional<TerminationSheet> sheet_;
 };
-
-/// What the page says.
-[[nodiscard]] Statement statementOf(const TerminationSheet& sheet,
-                                    const std::vector<Rescisao::Term>& terms);
 
 }  // namespace winvrx

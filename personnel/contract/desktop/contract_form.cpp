@@ -41,8 +41,6 @@ constexpr std::array kPlacements = {
 };
 static_assert(kPlacements.size() == kContractFields.size());
 
-/// What the money field shows beyond the record's text.
-constexpr std::size_t kCurrencySign = 3;
 constexpr int kPlaceColumn = 8;
 constexpr int kWordsColumn = 3;
 
@@ -88,28 +86,13 @@ QGridLayout* ContractForm::addGrid(QVBoxLayout& column, const char* title) {
 }
 
 void ContractForm::addFields(QGridLayout& grid, int group) {
-    int row = -1;
-    int next = 0;
-    for (const Placement& place : kPlacements) {
-        if (place.group != group) continue;
-        if (place.row != row) next = 0;
-        row = place.row;
-        const auto& layout = fieldHolding(kContractFields, place.member);
-        QString caption = withMnemonic(layout.caption, place.mnemonic);
-        if (layout.isRequired) caption += QStringLiteral(" *");
-        auto* made =
-            new Field({.caption = caption,
-                       .objectName = QStringLiteral("contrato.") + QLatin1String(place.name),
-                       .width = layout.column.width + (place.kind.stored ? kCurrencySign : 0),
-                       .kind = place.kind,
-                       .today = today_},
-                      this);
-        grid.addWidget(made, row, next, 1, place.span, Qt::AlignTop);
-        next += place.span;
+    placeGroup(kPlacements, group, grid, [this](const Placement& place) {
+        Field* made = newField(place, QStringLiteral("contrato"), today_, this);
         fields_.push_back({place.member, made});
         connect(made, &Field::edited, this, &ContractForm::follow);
         connect(made, &Field::finished, this, &ContractForm::finished);
-    }
+        return made;
+    });
 }
 
 void ContractForm::addPlace(QGridLayout& grid) {
@@ -177,10 +160,8 @@ void ContractForm::showParts(const Contract& contract) {
 }
 
 void ContractForm::showFindings(const Findings<Contract>& findings) {
-    for (const Placed& placed : fields_) {
-        const auto found = std::ranges::find(findings, placed.member, &Finding<Contract>::member);
-        placed.field->setFinding(found == findings.end() ? QString() : toQt(found->text));
-    }
+    for (const Placed& placed : fields_)
+        placed.field->setFinding(textFor(placed.member, findings));
 }
 
 void ContractForm::focus(std::string Contract::*member) {

@@ -3,26 +3,35 @@
 #include "foundation/register/desktop/employee_picker.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/look.h"
-#include "personnel/contract/contrato_trabalho.h"
 #include "personnel/contract/desktop/contract_form.h"
 #include "report/desktop/calibration_window.h"
 
-#include <QApplication>
 #include <QLabel>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace winvrx {
 
 namespace {
 
-constexpr int kSideWidth = 288;
+/// The trials that end soon; without the files to tell them, what the screen is for.
+QString stateLine(const Workplace& at) {
+    std::string ending;
+    try {
+        if (at.session.company)
+            ending = endingTrialsText(at.store(), *at.session.company, at.clock.today());
+    } catch (const std::exception& fault) {
+        at.log.write(std::string("ending trials: ") + fault.what());
+    }
+    return ending.empty() ? QStringLiteral("Carteira, experiência, texto") : toQt(ending);
+}
 
 }  // namespace
 
-ContratoTrabalhoWindow::ContratoTrabalhoWindow(ContratoTrabalho& command, QWidget* parent)
+ContratoTrabalhoWindow::ContratoTrabalhoWindow(ContratoTrabalho& command, OpenLetters openLetters,
+                                               QWidget* parent)
     : ScreenWindow(QStringLiteral("contrato"), QStringLiteral("Contrato de Trabalho"), parent),
-      command_(command) {
+      command_(command),
+      openLetters_(std::move(openLetters)) {
     setBody({{buildEmployees()}, {buildContract(), 1}});
     buildCommands();
     refresh();
@@ -31,7 +40,7 @@ ContratoTrabalhoWindow::ContratoTrabalhoWindow(ContratoTrabalho& command, QWidge
 
 QWidget* ContratoTrabalhoWindow::buildEmployees() {
     employees_ = new EmployeePicker(command_.list(), {.screen = QStringLiteral("contrato")}, this);
-    employees_->setFixedWidth(kSideWidth);
+    employees_->setFixedWidth(look::kSideWidth);
     connect(employees_, &EmployeePicker::shiftChosen, this, [this](ShiftFilter shift) {
         if (!mayClose()) return employees_->refresh();
         command_.list().filterBy(shift);
@@ -68,7 +77,7 @@ void ContratoTrabalhoWindow::buildCommands() {
     addCommand({"ruler", QStringLiteral("Calibrar"), Qt::Key_F9, "contrato.calibrate",
                 [this] { calibrate(); }});
     addCommand({"sheet", QStringLiteral("Carta de Correção NF-e"), Qt::Key_F10, "contrato.letter",
-                [this] { emit correctionLetterRequested(); }});
+                [this] { openLetters_(this); }});
     addDefaultButton({"save", QStringLiteral("Gr&avar"), QKeySequence::Save, "contrato.save",
                       [this] { save(); }});
     addLeavingButton("contrato.close");
@@ -108,10 +117,6 @@ void ContratoTrabalhoWindow::showState() {
     setState(command_.isRecorded()
                  ? QStringLiteral("Contrato gravado")
                  : QStringLiteral("Contrato ainda não gravado: confira e grave."));
-}
-
-void ContratoTrabalhoWindow::finishTyping() {
-    if (auto* line = qobject_cast<QLineEdit*>(focusWidget())) emit line->editingFinished();
 }
 
 void ContratoTrabalhoWindow::followRefusal() {
@@ -154,6 +159,22 @@ void ContratoTrabalhoWindow::calibrate() {
 bool ContratoTrabalhoWindow::mayClose() {
     finishTyping();
     return !form_->isChanged() || command_.confirmLeaving();
+}
+
+MenuEntry contractEntry(const Workplace& at, const ContractDesk& desk,
+                        const OpenLetters& openLetters) {
+    return {.group = QStringLiteral("Pessoal"),
+            .objectName = QStringLiteral("menu.contract.open"),
+            .icon = QStringLiteral("contract"),
+            .title = QStringLiteral("Contrato"),
+            .needs = MenuNeeds::Employees,
+            .open =
+                [at, desk, openLetters](QWidget* parent) {
+                    ContratoTrabalho contracts(at, desk);
+                    (void)contracts.load();
+                    ContratoTrabalhoWindow(contracts, openLetters, parent).exec();
+                },
+            .state = [at](const MonthProgress*) { return stateLine(at); }};
 }
 
 }  // namespace winvrx

@@ -1,29 +1,27 @@
 #pragma once
 
+#include "foundation/desk/desktop/menu_entry.h"
 #include "foundation/widgets/desktop/screen_window.h"
-#include "report/report_request.h"
-
-#include <string>
+#include "personnel/contract/contrato_trabalho.h"
 
 class QLabel;
 
 namespace winvrx {
 
 class ContractForm;
-class ContratoTrabalho;
 class EmployeePicker;
 
+/// Opens the correction letters of electronic invoices over a window.
+using OpenLetters = std::function<void(QWidget* parent)>;
+
 /// The window of the contract screen: employees at the left, the contract of the one chosen at the
-/// right. `command` outlives it.
+/// right. `command` outlives it; `openLetters` shows the correction letters over it.
 class ContratoTrabalhoWindow : public ScreenWindow {
     Q_OBJECT
 
   public:
-    explicit ContratoTrabalhoWindow(ContratoTrabalho& command, QWidget* parent = nullptr);
-
-  signals:
-    /// Whoever listens shows the correction letters of electronic invoices.
-    void correctionLetterRequested();
+    ContratoTrabalhoWindow(ContratoTrabalho& command, OpenLetters openLetters,
+                           QWidget* parent = nullptr);
 
   protected:
     bool mayClose() override;
@@ -42,14 +40,17 @@ class ContratoTrabalhoWindow : public ScreenWindow {
     void print(ReportOutput output);
     void showText();
     void calibrate();
-    /// Takes what stands in the field with the focus as if it were left.
-    void finishTyping();
     void followRefusal();
 
     ContratoTrabalho& command_;
+    OpenLetters openLetters_;
     EmployeePicker* employees_ = nullptr;
     QLabel* name_ = nullptr;
     ContractForm* form_ = nullptr;
 };
+
+/// The contracts' command of the main window. What `desk` refers to outlives the entry.
+[[nodiscard]] MenuEntry contractEntry(const Workplace& at, const ContractDesk& desk,
+                                      const OpenLetters& openLetters);
 
 }  // namespace winvrx

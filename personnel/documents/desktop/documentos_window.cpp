@@ -7,7 +7,6 @@
 #include "foundation/widgets/desktop/look.h"
 #include "personnel/documents/desktop/paper_form.h"
 #include "personnel/documents/desktop/paper_view.h"
-#include "personnel/documents/documentos.h"
 
 #include <QLabel>
 #include <QListWidget>
@@ -111,14 +110,14 @@ QWidget* DocumentosWindow::buildText() {
 }
 
 void DocumentosWindow::chooseEmployee(std::optional<std::size_t> position) {
-    form_->finishTyping();
+    finishTyping();
     (void)screen_.select(position);
     employees_->select(screen_.selectedPosition());
     showEmployee();
 }
 
 void DocumentosWindow::choosePaper(int row) {
-    form_->finishTyping();
+    finishTyping();
     screen_.choose(static_cast<Paper>(row));
     form_->showPaper();
     showText();
@@ -149,15 +148,31 @@ void DocumentosWindow::showText() {
 }
 
 void DocumentosWindow::send(bool (Documentos::*command)()) {
-    form_->finishTyping();
+    finishTyping();
     (void)(screen_.*command)();
     showText();
     if (!screen_.blamed().empty()) form_->focus(screen_.blamed());
 }
 
 bool DocumentosWindow::mayClose() {
-    form_->finishTyping();
+    finishTyping();
     return screen_.confirmLeaving();
+}
+
+MenuEntry documentsEntry(const Workplace& at, const DocumentsDesk& desk,
+                         const std::vector<DocumentosWindow::Neighbour>& neighbours) {
+    return {
+        .group = QStringLiteral("Pessoal"),
+        .objectName = QStringLiteral("menu.documents.open"),
+        .icon = QStringLiteral("documents"),
+        .title = QStringLiteral("D&ocumentos"),
+        .needs = MenuNeeds::Employees,
+        .open =
+            [at, desk, neighbours](QWidget* parent) {
+                Documentos screen(at, desk);
+                DocumentosWindow(screen, neighbours, parent).exec();
+            },
+        .state = [](const MonthProgress*) { return QStringLiteral("Acordos, avisos e recibos"); }};
 }
 
 }  // namespace winvrx

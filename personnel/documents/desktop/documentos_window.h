@@ -1,6 +1,8 @@
 #pragma once
 
+#include "foundation/desk/desktop/menu_entry.h"
 #include "foundation/widgets/desktop/screen_window.h"
+#include "personnel/documents/documentos.h"
 
 #include <QTimer>
 
@@ -14,7 +16,6 @@ class QTextBrowser;
 
 namespace winvrx {
 
-class Documentos;
 class EmployeePicker;
 class PaperForm;
 
@@ -58,5 +59,10 @@ class DocumentosWindow : public ScreenWindow {
     QLabel* remark_ = nullptr;
     QTimer textDue_;  ///< the text follows the typing, at a pause
 };
+
+/// The documents' command of the main window. `neighbours` are the screens that theirs opens.
+[[nodiscard]] MenuEntry documentsEntry(
+    const Workplace& at, const DocumentsDesk& desk,
+    const std::vector<DocumentosWindow::Neighbour>& neighbours = {});
 
 }  // namespace winvrx

@@ -10,7 +10,6 @@
 #include <QGridLayout>
 #include <QKeySequence>
 #include <QLabel>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace winvrx {
@@ -137,12 +136,6 @@ void PaperForm::focus(const std::string& input) {
 
 void PaperForm::focusFirst() {
     focus(first_);
-}
-
-void PaperForm::finishTyping() {
-    for (const auto& [name, field] : fields_)
-        if (auto* line = qobject_cast<QLineEdit*>(field->input()); line && line->hasFocus())
-            emit line->editingFinished();
 }
 
 }  // namespace winvrx

@@ -29,8 +29,6 @@ class PaperForm : public QWidget {
     void refresh();
     void focus(const std::string& input);
     void focusFirst();
-    /// Takes what stands in the field with the focus as if it were left.
-    void finishTyping();
 
   signals:
     void edited();

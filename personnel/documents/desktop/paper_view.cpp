@@ -2,8 +2,6 @@
 
 #include "foundation/values/desktop/qt_text.h"
 
-#include <QStringList>
-
 namespace winvrx {
 
 namespace {

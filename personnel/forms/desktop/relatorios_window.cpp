@@ -8,6 +8,7 @@
 #include "foundation/widgets/desktop/option_group.h"
 #include "foundation/widgets/desktop/progress.h"
 #include "report/desktop/pdf_file_dialog.h"
+#include "timecard/month/desktop/month_entry.h"
 
 #include <QLabel>
 #include <QListWidget>
@@ -201,6 +202,24 @@ void RelatoriosWindow::print(bool all) {
         (void)reports_.printAll(run);
     else
         (void)reports_.printOne(employees_->selected(), run);
+}
+
+MenuEntry formsEntry(const Workplace& at, ReportEngine& engine) {
+    return {
+        .group = QStringLiteral("Pessoal"),
+        .objectName = QStringLiteral("menu.forms.open"),
+        .icon = QStringLiteral("forms"),
+        .title = QStringLiteral("Relatórios"),
+        .key = Qt::CTRL | Qt::Key_R,
+        .needs = MenuNeeds::Company,
+        .open =
+            [at, &engine](QWidget* parent) {
+                Relatorios reports(at, engine);
+                RelatoriosWindow(
+                    reports, [&at](QWidget* over) { openWorkMonth(at, over); }, parent)
+                    .exec();
+            },
+        .state = [](const MonthProgress*) { return QStringLiteral("Avisos, recibos e fichas"); }};
 }
 
 }  // namespace winvrx

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/desk/desktop/menu_entry.h"
 #include "foundation/widgets/desktop/screen_window.h"
 #include "personnel/forms/relatorios.h"
 
@@ -45,5 +46,8 @@ class RelatoriosWindow : public ScreenWindow {
     OptionGroup* face_ = nullptr;
     OptionGroup* output_ = nullptr;
 };
+
+/// The reports' command of the main window. The engine outlives the entry.
+[[nodiscard]] MenuEntry formsEntry(const Workplace& at, ReportEngine& engine);
 
 }  // namespace winvrx

@@ -3,6 +3,7 @@
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/look.h"
 #include "personnel/invoice_letter/carta_correcao_imprime.h"
+#include "personnel/invoice_letter/desktop/qt_xml_reader.h"
 
 #include <QDateTime>
 #include <QFileDialog>
@@ -10,6 +11,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QSignalBlocker>
+#include <QStandardPaths>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -132,6 +134,14 @@ void CartaCorrecaoWindow::showLetter() {
     const auto count = command_.files().size();
     setState(count == 1 ? QStringLiteral("1 arquivo XML")
                         : QStringLiteral("%1 arquivos XML").arg(count));
+}
+
+void openCorrectionLetters(const Workplace& at, ReportEngine& engine, QWidget* parent) {
+    const QtXmlReader reader;
+    CartaCorrecaoImprime letters(at, {engine, reader});
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
+    (void)letters.openFolder(std::filesystem::path(folder.toStdU16String()));
+    CartaCorrecaoWindow(letters, parent).exec();
 }
 
 }  // namespace winvrx

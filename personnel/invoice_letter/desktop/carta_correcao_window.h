@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/desk/command.h"
 #include "foundation/widgets/desktop/screen_window.h"
 #include "report/report_request.h"
 
@@ -9,6 +10,7 @@ class QTreeWidget;
 namespace winvrx {
 
 class CartaCorrecaoImprime;
+class ReportEngine;
 
 /// The window of the correction letters: the files of a folder at the left, the letter at the
 /// right. `command` outlives it.
@@ -31,5 +33,9 @@ class CartaCorrecaoWindow : public ScreenWindow {
     QLabel* heading_ = nullptr;
     QLabel* details_ = nullptr;
 };
+
+/// Opens the correction letters on the folder of the user's downloads, and returns when the window
+/// is closed.
+void openCorrectionLetters(const Workplace& at, ReportEngine& engine, QWidget* parent);
 
 }  // namespace winvrx

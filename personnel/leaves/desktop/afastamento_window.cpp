@@ -1,16 +1,18 @@
 #include "personnel/leaves/desktop/afastamento_window.h"
 
 #include "foundation/register/desktop/employee_picker.h"
+#include "foundation/register/employee_queries.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"
 #include "foundation/widgets/desktop/enter_key.h"
 #include "foundation/widgets/desktop/look.h"
+#include "personnel/leaves/absence_report.h"
 #include "personnel/leaves/afastamento.h"
 #include "personnel/leaves/desktop/leave_form_panel.h"
 #include "personnel/leaves/desktop/year_strip.h"
+#include "timecard/month/desktop/month_entry.h"
 
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -23,22 +25,14 @@ namespace winvrx {
 
 namespace {
 
-constexpr int kSideWidth = 288;
 const QString kNoMonth =
     QStringLiteral("Escolha primeiro o mês de trabalho em \"Mês de Trabalho\" (F7).");
 
 /// Over the columns of a leave's line, in their order.
-constexpr std::array<const char*, kLeaveFields.size()> kHeadings = {
+constexpr std::array<std::string_view, kLeaveFields.size()> kHeadings = {
     "Tipo",         "Primeiro dia",    "Último dia",    "Duração",
     "Aviso em",     "Início do aviso", "Rescisão",      "Tipo de aviso",
     "Fim do aviso", "Último trabalho", "Pagamento até", "Homologação"};
-
-QStringList headings() {
-    QStringList texts;
-    for (const char* heading : kHeadings)
-        texts << QString::fromUtf8(heading);
-    return texts;
-}
 
 /// The line of a leave, column by column; its tip is the line as it is.
 QTreeWidgetItem* rowOf(const Leave& leave, const std::string& bytes) {
@@ -69,7 +63,7 @@ QWidget* AfastamentoWindow::buildEmployees() {
          .subsetName = QStringLiteral("withLeaves"),
          .subsetCaption = QStringLiteral("Todos com Registro de Afastamento (%1)")},
         this);
-    employees_->setFixedWidth(kSideWidth);
+    employees_->setFixedWidth(look::kSideWidth);
     connect(employees_, &EmployeePicker::subsetChosen, this, [this](bool only) {
         (void)command_.showOnlyWithLeaves(only);
         refresh();
@@ -111,8 +105,8 @@ QLayout* AfastamentoWindow::buildList(QWidget* part) {
     contradiction_ = look::line(QStringLiteral("leaves.contradiction"), look::TextSize::Hint, part);
     look::setTint(*contradiction_, look::Tint::Warning);
     column->addWidget(contradiction_);
-    leaves_ = look::table(QStringLiteral("leaves.list"), QStringLiteral("Afastamentos"), headings(),
-                          part);
+    leaves_ = look::table(QStringLiteral("leaves.list"), QStringLiteral("Afastamentos"),
+                          toQtList(kHeadings), part);
     connect(leaves_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (item) chooseLeave(leaves_->indexOfTopLevelItem(item));
     });
@@ -131,7 +125,7 @@ void AfastamentoWindow::buildCommands() {
     addCommand({"delete", QStringLiteral("Excluir Afastamento"), Qt::Key_Delete, "leaves.remove",
                 [this] { showOutcome(command_.remove()); }, leaves_});
     activation_ = addCommand({"employees", {}, Qt::Key_F9, "leaves.activation", [this] {
-                                  form_->finishTyping();
+                                  finishTyping();
                                   showOutcome(command_.changeActivation());
                               }});
     addCommand({"month", QStringLiteral("Mês de Trabalho"), Qt::Key_F7, "leaves.month", [this] {
@@ -162,7 +156,7 @@ void AfastamentoWindow::refresh() {
 }
 
 void AfastamentoWindow::chooseEmployee(std::size_t position) {
-    form_->finishTyping();
+    finishTyping();
     if (command_.selectedPosition() != position) (void)command_.select(position);
     showEmployee();
 }
@@ -196,7 +190,7 @@ void AfastamentoWindow::showLeaves() {
 }
 
 void AfastamentoWindow::chooseLeave(int row) {
-    form_->finishTyping();
+    finishTyping();
     (void)command_.choose(static_cast<std::size_t>(row));
     // The list is still handling the key or click that moved it.
     QMetaObject::invokeMethod(
@@ -204,7 +198,7 @@ void AfastamentoWindow::chooseLeave(int row) {
 }
 
 void AfastamentoWindow::beginOrAdd() {
-    form_->finishTyping();
+    finishTyping();
     const bool fresh = command_.chosen() && !command_.form().isChanged();
     if (!fresh) return showOutcome(command_.add());
     if (!command_.begin()) return;
@@ -213,7 +207,7 @@ void AfastamentoWindow::beginOrAdd() {
 }
 
 void AfastamentoWindow::change() {
-    form_->finishTyping();
+    finishTyping();
     if (command_.chosen() && !command_.form().isChanged()) return form_->focus(LeaveInput::Type);
     showOutcome(command_.change());
 }
@@ -241,8 +235,48 @@ void AfastamentoWindow::showState() {
 }
 
 bool AfastamentoWindow::mayClose() {
-    form_->finishTyping();
+    finishTyping();
     return command_.confirmLeaving();
+}
+
+void openLeaves(const Workplace& at, const LeavesDesk& desk, QWidget* parent,
+                const std::optional<EmployeeCode>& inHand) {
+    const RecordedAnswers records(at.store());
+    Afastamento leaves(at, records);
+    if (leaves.open() && inHand) (void)leaves.select(*inHand);
+    AfastamentoWindow window(leaves, parent);
+    QObject::connect(&window, &AfastamentoWindow::monthRequested, &window, [&] {
+        openWorkMonth(at, &window);
+        (void)leaves.open();
+        window.refresh();
+    });
+    QObject::connect(&window, &AfastamentoWindow::absencesRequested, &window, [&](bool asText) {
+        if (!leaves.month())
+            (void)leaves.open();
+        else if (asText)
+            (void)showAbsences(at, desk.editor, *leaves.month());
+        else
+            (void)previewAbsences({at, desk.engine}, *leaves.month());
+    });
+    QObject::connect(&window, &AfastamentoWindow::terminationRequested, &window, [&] {
+        if (const Employee* one = leaves.selected())
+            desk.openTermination(&window, *one);
+        else
+            at.person.tell(noEmployeeSelected());
+    });
+    window.exec();
+}
+
+MenuEntry leavesEntry(const Workplace& at, const LeavesDesk& desk) {
+    return {.group = QStringLiteral("Pessoal"),
+            .objectName = QStringLiteral("menu.leaves.open"),
+            .icon = QStringLiteral("leave"),
+            .title = QStringLiteral("Afastame&ntos"),
+            .key = Qt::Key_F10,
+            .needs = MenuNeeds::Employees,
+            .open = [at, desk](QWidget* parent) { openLeaves(at, desk, parent); },
+            .state =
+                [](const MonthProgress*) { return QStringLiteral("Férias, atestados, rescisão"); }};
 }
 
 }  // namespace winvrx

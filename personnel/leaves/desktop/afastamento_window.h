@@ -1,7 +1,11 @@
 #pragma once
 
+#include "foundation/desk/command.h"
+#include "foundation/desk/desktop/menu_entry.h"
+#include "foundation/register/employee.h"
 #include "foundation/widgets/desktop/screen_window.h"
 
+#include <functional>
 #include <optional>
 
 class QLabel;
@@ -14,6 +18,8 @@ namespace winvrx {
 class Afastamento;
 class EmployeePicker;
 class LeaveFormPanel;
+class ReportEngine;
+class TextEditor;
 class YearStrip;
 
 /// The window of the leave screen: employees at the left; the leaves of the one chosen with his
@@ -63,5 +69,20 @@ class AfastamentoWindow : public ScreenWindow {
     LeaveFormPanel* form_ = nullptr;
     QToolButton* activation_ = nullptr;
 };
+
+/// Where the month's absences and the end of a contract are shown. All outlive the entry.
+struct LeavesDesk {
+    ReportEngine& engine;
+    TextEditor& editor;
+    /// Returns when the figures of the employee's end of contract are closed.
+    std::function<void(QWidget* parent, const Employee& employee)> openTermination;
+};
+
+/// Opens the leave screen, on `inHand` where an employee is chosen, and returns when it is closed.
+void openLeaves(const Workplace& at, const LeavesDesk& desk, QWidget* parent,
+                const std::optional<EmployeeCode>& inHand = std::nullopt);
+
+/// The leaves' command of the main window.
+[[nodiscard]] MenuEntry leavesEntry(const Workplace& at, const LeavesDesk& desk);
 
 }  // namespace winvrx

@@ -9,12 +9,10 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 
 #include <array>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace winvrx {
 
@@ -182,12 +180,6 @@ void LeaveFormPanel::follow() {
 
 void LeaveFormPanel::focus(LeaveInput input) {
     fields_[input]->takeFocus();
-}
-
-void LeaveFormPanel::finishTyping() {
-    for (const auto& [input, field] : fields_)
-        if (auto* line = qobject_cast<QLineEdit*>(field->input()); line && line->hasFocus())
-            emit line->editingFinished();
 }
 
 }  // namespace winvrx

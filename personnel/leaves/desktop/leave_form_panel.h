@@ -28,8 +28,6 @@ class LeaveFormPanel : public QWidget {
     /// The same, but what is typed keeps what is said of it.
     void follow();
     void focus(LeaveInput input);
-    /// Takes what stands in the field with the focus as if it were left.
-    void finishTyping();
 
   signals:
     void edited();

@@ -70,7 +70,7 @@ void YearStrip::refresh() {
                            Date{year_, std::chrono::December, std::chrono::day{31}}};
     std::map<QString, QString> words;
     for (const DatedLeave& one : calendar_.leaves()) {
-        if (one.period.first > year.last || one.period.last < year.first) continue;
+        if (!one.period.overlaps(year)) continue;
         words[numberOf(one.leave)] =
             QStringLiteral("<span style=\"color:%1\">■</span> %2 %3")
                 .arg(look::color(tintOf(one.leave), palette()).name(), numberOf(one.leave),

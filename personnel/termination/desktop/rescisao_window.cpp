@@ -126,7 +126,7 @@ void RescisaoWindow::addTotals() {
 
 void RescisaoWindow::buildCommands() {
     addDefaultButton({"print", QStringLiteral("&Imprimir Cálculo"), QKeySequence::Print,
-                      "rescisao.print", [this] { emit pageRequested(); }});
+                      "rescisao.print", [this] { (void)command_.preview(); }});
     addLeavingButton("rescisao.close");
 }
 
@@ -139,6 +139,13 @@ void RescisaoWindow::showMemo() {
             text << toQt(memoText(one));
     memo_->setText(line ? text.join(QLatin1Char('\n'))
                         : QStringLiteral("Escolha uma verba para ver a sua conta."));
+}
+
+void openTermination(const Workplace& at, ReportEngine& engine,
+                     const std::filesystem::path& legalFolder, const Employee& employee,
+                     QWidget* parent) {
+    Rescisao command(at, engine, legalFolder, employee);
+    if (command.load()) RescisaoWindow(command, parent).exec();
 }
 
 }  // namespace winvrx

@@ -16,10 +16,6 @@ class RescisaoWindow : public ScreenWindow {
   public:
     explicit RescisaoWindow(const Rescisao& command, QWidget* parent = nullptr);
 
-  signals:
-    /// Whoever listens shows the page.
-    void pageRequested();
-
   private:
     [[nodiscard]] QWidget* buildTerms(QWidget* parent);
     [[nodiscard]] QWidget* buildLines(QWidget* parent);
@@ -33,5 +29,11 @@ class RescisaoWindow : public ScreenWindow {
     QLabel* memo_ = nullptr;
     std::vector<const TerminationLine*> shown_;  ///< by row; nullptr for a total
 };
+
+/// Shows the figures of the employee's end of contract and returns when their screen is closed;
+/// what is missing on record is told instead. `legalFolder` has the delivered tables.
+void openTermination(const Workplace& at, ReportEngine& engine,
+                     const std::filesystem::path& legalFolder, const Employee& employee,
+                     QWidget* parent);
 
 }  // namespace winvrx

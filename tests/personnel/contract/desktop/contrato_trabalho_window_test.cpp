@@ -18,7 +18,7 @@ struct ContractWindow : ::testing::Test, ContractOffice {
 
     void SetUp() override {
         ASSERT_TRUE(screen.load());
-        screen_ = std::make_unique<DrivenWindow<ContratoTrabalhoWindow>>(screen);
+        screen_ = std::make_unique<DrivenWindow<ContratoTrabalhoWindow>>(screen, OpenLetters());
     }
 };
 

@@ -106,7 +106,9 @@ TEST_F(EmployerWindows, TerminationAndGuideShowEachSum) {
     leave.type(LeaveInput::TerminationType, kTerminationTypes[0]);
     leave.type(LeaveInput::NoticeType, kNoticeTypes[1]);
     file("01configAf001") = encode(leave.leave()) + "\r\n**** \r\n";
-    Rescisao end(at, kLegal, ana);
+    ReportDesk printing;
+    SavingEngine engine(printing);
+    Rescisao end(at, engine, kLegal, ana);
     ASSERT_TRUE(end.load());
     DrivenWindow<RescisaoWindow> screen(end);
     expectUsable(screen);
@@ -114,10 +116,7 @@ TEST_F(EmployerWindows, TerminationAndGuideShowEachSum) {
     EXPECT_EQ(screen.label("rescisao.memo"), "Saldo de salário: 3.000,00 ÷ 30 × 15 = 1.500,00");
     screen.press(Qt::Key_Down);
     EXPECT_TRUE(screen.label("rescisao.memo").starts_with("Aviso prévio indenizado: 3.000,00"));
-    const Statement page = statementOf(*end.sheet(), end.terms());
-    ReportDesk printing;
-    SavingEngine engine(printing);
-    ASSERT_TRUE(previewStatement({printing.office.at, engine}, page));
+    ASSERT_TRUE(end.preview());
     const auto words = printedWords(printing.pdf());
     EXPECT_EQ(words.back().page, 1) << "one page with its memo";
     const auto isPrinted = [&](const std::string& text) {
