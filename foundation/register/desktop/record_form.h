@@ -33,6 +33,46 @@ struct FieldPlacement {
 
 inline constexpr int kGridColumns = 12;
 
+/// `screen` is the prefix of the object name: "empresa".
+template <typename Record>
+[[nodiscard]] Field* newField(const FieldPlacement<Record>& place, const QString& screen,
+                              Date today, QWidget* parent) {
+    const auto& layout = fieldHolding(RecordLayout<Record>::kFields, place.member);
+    QString caption =
+        withMnemonic(place.caption.empty() ? layout.caption : place.caption, place.mnemonic);
+    if (layout.isRequired) caption += QStringLiteral(" *");
+    // What the field shows beyond the record's text needs its room.
+    const std::size_t more =
+        place.kind.stored ? place.kind.completed("0").size() - place.kind.stored("0").size() : 0;
+    return new Field({.caption = caption,
+                      .objectName = screen + QLatin1Char('.') + QLatin1String(place.name),
+                      .width = layout.column.width + more,
+                      .kind = place.kind,
+                      .today = today},
+                     parent);
+}
+
+/// Puts the fields of one group, which `make` makes, into the grid row by row.
+template <typename Placements, typename Make>
+void placeGroup(const Placements& placements, int group, QGridLayout& grid, Make make) {
+    int row = -1;
+    int next = 0;
+    for (const auto& place : placements) {
+        if (place.group != group) continue;
+        if (place.row != row) next = 0;
+        row = place.row;
+        grid.addWidget(make(place), row, next, 1, place.span, Qt::AlignTop);
+        next += place.span;
+    }
+}
+
+/// What is found in the text of the member; empty for nothing.
+template <typename Record>
+[[nodiscard]] QString textFor(std::string Record::*member, const Findings<Record>& findings) {
+    const auto found = std::ranges::find(findings, member, &Finding<Record>::member);
+    return found == findings.end() ? QString() : toQt(found->text);
+}
+
 /// The form of a record that is a table of texts, built from a table of placements.
 template <typename Record>
 class RecordForm : public RecordEditor {
@@ -72,16 +112,8 @@ class RecordForm : public RecordEditor {
     template <typename Placements>
     void addGroup(const Placements& placements, int group, QVBoxLayout& column) {
         QGridLayout* grid = look::fieldGrid(kGridColumns);
-        int row = -1;
-        int next = 0;
-        for (const Placement& place : placements) {
-            if (place.group != group) continue;
-            if (place.row != row) next = 0;
-            row = place.row;
-            grid->addWidget(make(place, column.parentWidget()), row, next, 1, place.span,
-                            Qt::AlignTop);
-            next += place.span;
-        }
+        placeGroup(placements, group, *grid,
+                   [&](const Placement& place) { return make(place, column.parentWidget()); });
         column.addLayout(grid);
     }
 
@@ -97,33 +129,12 @@ class RecordForm : public RecordEditor {
         const Record record = typed();
         auto findings = commands_.wrongIn(record, shown_);
         std::ranges::move(commands_.doubtsAbout(record, shown_), std::back_inserter(findings));
-        for (std::size_t place = 0; place < members_.size(); ++place) {
-            const auto found =
-                std::ranges::find(findings, members_[place], &Finding<Record>::member);
-            fieldAt(place)->setFinding(found == findings.end() ? QString() : toQt(found->text));
-        }
-    }
-
-    [[nodiscard]] static const RecordField<Record>& layoutOf(Member member) {
-        return fieldHolding(RecordLayout<Record>::kFields, member);
+        for (std::size_t place = 0; place < members_.size(); ++place)
+            fieldAt(place)->setFinding(textFor(members_[place], findings));
     }
 
     [[nodiscard]] Field* make(const Placement& place, QWidget* parent) {
-        const RecordField<Record>& layout = layoutOf(place.member);
-        QString caption =
-            withMnemonic(place.caption.empty() ? layout.caption : place.caption, place.mnemonic);
-        if (layout.isRequired) caption += QStringLiteral(" *");
-        // What the field shows beyond the record's text needs its room.
-        const std::size_t more =
-            place.kind.stored ? place.kind.completed("0").size() - place.kind.stored("0").size()
-                              : 0;
-        auto* field =
-            new Field({.caption = caption,
-                       .objectName = screen_ + QLatin1Char('.') + QLatin1String(place.name),
-                       .width = layout.column.width + more,
-                       .kind = place.kind,
-                       .today = commands_.today()},
-                      parent);
+        Field* field = newField(place, screen_, commands_.today(), parent);
         members_.push_back(place.member);
         add(field);
         this->connect(field, &Field::finished, this, [this] { showFindings(); });

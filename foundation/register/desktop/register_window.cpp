@@ -4,7 +4,6 @@
 #include "foundation/widgets/desktop/look.h"
 
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QSplitter>
 #include <QToolButton>
@@ -145,12 +144,8 @@ void RegisterWindow::startNew() {
     form_->focusFirst();
 }
 
-void RegisterWindow::finishField() {
-    if (auto* edit = qobject_cast<QLineEdit*>(focusWidget())) emit edit->editingFinished();
-}
-
 void RegisterWindow::include() {
-    finishField();
+    finishTyping();
     if (current_) return startNew();
     if (!form_->isDirty()) return form_->focusFirst();
     includeTyped();
@@ -164,7 +159,7 @@ void RegisterWindow::includeTyped() {
 
 void RegisterWindow::change() {
     if (!current_) return;
-    finishField();
+    finishTyping();
     if (!form_->isDirty()) return form_->focusFirst();
     if (!form_->save(current_)) return recover();
     refresh(current_);
@@ -178,7 +173,7 @@ void RegisterWindow::remove() {
 
 void RegisterWindow::save() {
     if (current_) return change();
-    finishField();
+    finishTyping();
     includeTyped();
 }
 

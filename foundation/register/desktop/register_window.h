@@ -69,8 +69,6 @@ class RegisterWindow : public ScreenWindow {
     void turnTo(std::optional<std::size_t> position);
     void choose(std::size_t position);
     void startNew();
-    /// As if the field in hand were left: what was typed takes its full form.
-    void finishField();
     void include();
     void includeTyped();
     void change();

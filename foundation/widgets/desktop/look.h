@@ -30,6 +30,7 @@ inline constexpr int kGap = 8;        ///< between a label and its field
 inline constexpr int kMargin = 16;    ///< around a window's body
 inline constexpr int kGroupGap = 24;  ///< between groups
 inline constexpr int kTileIcon = 32;
+inline constexpr int kSideWidth = 288;  ///< of the employees at a window's side
 
 /// What a window with a list or a grid opens with: fits a screen of 1280 x 720.
 inline constexpr QSize kWindowSize(1240, 690);

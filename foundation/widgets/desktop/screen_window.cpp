@@ -162,6 +162,10 @@ void ScreenWindow::setState(const QString& text) {
     state_->setText(text);
 }
 
+void ScreenWindow::finishTyping() {
+    if (auto* line = qobject_cast<QLineEdit*>(focusWidget())) emit line->editingFinished();
+}
+
 QPushButton* ScreenWindow::newButton(const ScreenCommand& command, QWidget* parent) {
     QPushButton* button = look::button(command.text, QLatin1String(command.name), parent);
     if (*command.icon) button->setIcon(look::icon(QLatin1String(command.icon)));

@@ -72,6 +72,8 @@ class ScreenWindow : public QDialog {
     /// The parts side by side, from the left on.
     void setBody(std::initializer_list<BodyPart> parts, int gap = look::kGroupGap);
     void setState(const QString& text);
+    /// As if the field in hand were left: what was typed takes its full form.
+    void finishTyping();
     /// A button within the body; its key works while it is in sight.
     [[nodiscard]] QPushButton* newButton(const ScreenCommand& command, QWidget* parent);
     /// At the right of the state bar, in order of adding.

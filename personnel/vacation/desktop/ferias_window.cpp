@@ -19,7 +19,6 @@ namespace winvrx {
 
 namespace {
 
-constexpr int kSideWidth = 288;
 const QString kNoMonth =
     QStringLiteral("Escolha primeiro o mês de trabalho em \"Mês de Trabalho\" (F7).");
 
@@ -39,13 +38,9 @@ constexpr std::array kShown = {
     Shown{VacationInput::Sold, "sold", "Dias &vendidos", 2, kNumberField},
 };
 
-QStringList headings() {
-    QStringList texts;
-    for (const char* heading : {"Período aquisitivo", "Situação", "Início", "Término", "Vendidos",
-                                "13º", "Mês", "Total líquido", "Limite da concessão"})
-        texts << QString::fromUtf8(heading);
-    return texts;
-}
+constexpr std::array kHeadings = {"Período aquisitivo", "Situação", "Início", "Término",
+                                  "Vendidos",           "13º",      "Mês",    "Total líquido",
+                                  "Limite da concessão"};
 
 QTreeWidgetItem* rowOf(const Ferias& command, const PeriodRow& row) {
     QStringList texts{toQt(dateText(row.period.first) + " a " + dateText(row.period.last)),
@@ -95,7 +90,7 @@ QWidget* FeriasWindow::buildEmployees() {
                               .arg(kDueWithinDays)
                               .replace(QLatin1String("%2"), QLatin1String("%1"))},
         this);
-    employees_->setFixedWidth(kSideWidth);
+    employees_->setFixedWidth(look::kSideWidth);
     connect(employees_, &EmployeePicker::subsetChosen, this, [this](bool only) {
         (void)command_.showOnlyDue(only);
         refresh();
@@ -117,8 +112,8 @@ QWidget* FeriasWindow::buildPeriods() {
     dueText_ = look::line(QStringLiteral("vacations.dueText"), look::TextSize::Hint, part);
     look::setTint(*dueText_, look::Tint::Warning);
     column->addWidget(dueText_);
-    rows_ =
-        look::table(QStringLiteral("vacations.list"), QStringLiteral("Períodos"), headings(), part);
+    rows_ = look::table(QStringLiteral("vacations.list"), QStringLiteral("Períodos"),
+                        toQtList(kHeadings), part);
     connect(rows_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (item) choosePeriod(rows_->indexOfTopLevelItem(item));
     });
@@ -249,10 +244,7 @@ void FeriasWindow::showForm() {
 }
 
 void FeriasWindow::showNotes() {
-    QStringList lines;
-    for (const std::string& note : command_.planNotes())
-        lines << toQt(note);
-    look::showText(*notes_, lines.join(QLatin1Char('\n')));
+    look::showText(*notes_, toQtList(command_.planNotes()).join(QLatin1Char('\n')));
 }
 
 void FeriasWindow::showOutcome(bool done) {

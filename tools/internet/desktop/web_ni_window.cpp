@@ -18,13 +18,6 @@ constexpr auto kWhatItIs =
     "Os bloqueios valem para os navegadores deste computador e servem para desencorajar o uso: não "
     "são uma barreira de segurança. Quem entende de computadores pode desfazê-los.";
 
-QString list(const std::vector<std::string>& texts, const QString& between) {
-    QStringList all;
-    for (const std::string& text : texts)
-        all << toQt(text);
-    return all.join(between);
-}
-
 QString since(std::chrono::nanoseconds moment) {
     const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(moment);
     return QDateTime::fromMSecsSinceEpoch(milliseconds.count())
@@ -32,7 +25,7 @@ QString since(std::chrono::nanoseconds moment) {
 }
 
 QString stateText(const WebNi::State& state) {
-    const QString places = list(state.places, QStringLiteral(", "));
+    const QString places = toQtList(state.places).join(QStringLiteral(", "));
     if (!state.blocked && places.isEmpty()) return QStringLiteral("Liberado.");
     if (!state.blocked)
         return QStringLiteral("Liberado no Winvrx, mas ainda bloqueado em: %1.").arg(places);
@@ -136,7 +129,7 @@ void WebNiWindow::showState(WebSwitch which) {
     const Part& part = parts_[static_cast<std::size_t>(which)];
     part.state->setText((state.blocked ? QStringLiteral("● ") : QStringLiteral("○ ")) +
                         stateText(state));
-    look::showWarning(*part.problems, list(state.problems, QStringLiteral(" ")));
+    look::showWarning(*part.problems, toQtList(state.problems).join(u' '));
 }
 
 void WebNiWindow::showStates() {
