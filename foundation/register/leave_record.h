@@ -23,9 +23,13 @@ struct LeavePeriod {
     Date first;
     Date last;
 
+    [[nodiscard]] int days() const { return daysBetween(first, last) + 1; }
     [[nodiscard]] bool contains(Date date) const { return first <= date && date <= last; }
+    [[nodiscard]] bool overlaps(LeavePeriod other) const {
+        return first <= other.last && other.first <= last;
+    }
     [[nodiscard]] bool touches(WorkMonth month) const {
-        return first <= lastDay(month) && last >= firstDay(month);
+        return overlaps({firstDay(month), lastDay(month)});
     }
 };
 

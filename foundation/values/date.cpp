@@ -125,4 +125,8 @@ Date plusDays(Date date, int days) {
     return std::chrono::sys_days{date} + std::chrono::days{days};
 }
 
+int daysBetween(Date first, Date last) {
+    return static_cast<int>((std::chrono::sys_days{last} - std::chrono::sys_days{first}).count());
+}
+
 }  // namespace winvrx

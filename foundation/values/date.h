@@ -59,5 +59,7 @@ struct TimeOfDay {
 [[nodiscard]] int dayNumber(Date date);
 [[nodiscard]] std::chrono::weekday weekdayOf(Date date);
 [[nodiscard]] Date plusDays(Date date, int days);
+/// Below zero where `last` lies before `first`.
+[[nodiscard]] int daysBetween(Date first, Date last);
 
 }  // namespace winvrx

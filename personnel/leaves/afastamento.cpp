@@ -9,8 +9,6 @@
 #include "timecard/month/selected_month.h"
 #include "timecard/punches/leave_marking.h"
 
-#include <algorithm>
-#include <iterator>
 #include <vector>
 
 namespace winvrx {

@@ -1,15 +1,10 @@
 #include "personnel/leaves/leave_findings.h"
 
 #include <algorithm>
-#include <chrono>
 
 namespace winvrx {
 
 namespace {
-
-bool overlap(LeavePeriod one, LeavePeriod other) {
-    return one.first <= other.last && other.first <= one.last;
-}
 
 /// The first day is named for what the whole period meets.
 std::string ofPeriod(const LeaveForm& form, const LeaveFile& file,
@@ -21,7 +16,7 @@ std::string ofPeriod(const LeaveForm& form, const LeaveFile& file,
     for (std::size_t place = 0; place < file.leaves.size(); ++place) {
         const Leave& other = file.leaves[place].record;
         const auto taken = other.period();
-        if (place != chosen && taken && overlap(*period, *taken))
+        if (place != chosen && taken && period->overlaps(*taken))
             return "Coincide com " + other.type + ", de " + dateText(taken->first) + " a " +
                    dateText(taken->last) + ".";
     }
@@ -33,8 +28,7 @@ std::string ofDays(const LeaveForm& form) {
         return "Número de dias de 0 a " + std::to_string(kMostLeaveDays) + ".";
     const auto period = form.period();
     if (!period || !form.days()) return {};
-    const auto days = std::chrono::sys_days(period->last) - std::chrono::sys_days(period->first);
-    const int count = static_cast<int>(days.count()) + 1;
+    const int count = period->days();
     if (count == std::max(*form.days(), 1)) return {};
     return "O período tem " + std::to_string(count) + (count == 1 ? " dia." : " dias.");
 }

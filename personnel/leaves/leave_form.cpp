@@ -4,7 +4,6 @@
 #include "personnel/leaves/leave_types.h"
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 namespace winvrx {
@@ -59,11 +58,6 @@ std::array<std::string, 2> readDuration(std::string_view stored) {
         rest.erase(0, end + word.size());
     }
     return numbers;
-}
-
-int daysOf(LeavePeriod period) {
-    const auto days = std::chrono::sys_days(period.last) - std::chrono::sys_days(period.first);
-    return static_cast<int>(days.count()) + 1;
 }
 
 }  // namespace
@@ -131,7 +125,7 @@ void LeaveForm::followDays(LeaveInput typed) {
         typedOver_[place(LeaveInput::LastDay)] = true;
     } else if ((typed == LeaveInput::LastDay || typed == LeaveInput::FirstDay) && first && last &&
                *first <= *last && !(days() == 0 && *first == *last)) {
-        put(LeaveInput::Days, std::to_string(daysOf({*first, *last})));
+        put(LeaveInput::Days, std::to_string(LeavePeriod{*first, *last}.days()));
     }
 }
 

@@ -1,7 +1,6 @@
 #include "personnel/leaves/leave_line.h"
 
 #include "foundation/register/leave_file.h"
-#include "foundation/values/text.h"
 #include "personnel/leaves/leave_form.h"
 #include "personnel/leaves/leave_types.h"
 

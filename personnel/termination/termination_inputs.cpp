@@ -32,9 +32,7 @@ int periodsTaken(const LeaveCalendar& leaves) {
     int days = 0;
     for (const DatedLeave& leave : leaves.leaves()) {
         if (!leave.leave.type.starts_with("006")) continue;
-        const auto length =
-            std::chrono::sys_days(leave.period.last) - std::chrono::sys_days(leave.period.first);
-        days += static_cast<int>(length.count()) + 1;
+        days += leave.period.days();
         if (days < kDaysThatFillAPeriod) continue;
         ++periods;
         days = 0;

@@ -75,88 +75,65 @@ TerminationCase caseOf(const PayrollLaw& law, const TerminationInputs& inputs,
     return end;
 }
 
-class SheetLines {
-  public:
-    SheetLines(const TerminationInputs& inputs, TerminationSheet& sheet)
-        : inputs_(inputs), sheet_(sheet), pay_(sheet.pay) {}
+using Lines = std::vector<TerminationLine>;
 
-    void write(const MonthPayCase& month, const PaySheet& lastMonth) {
-        writePay(month);
-        for (const PayLine& line : lastMonth.lines)
-            if (std::ranges::find(kWorkedOut, line.event.code) == kWorkedOut.end())
-                add(line.event.isEarning() ? sheet_.credits : sheet_.debits, line.event.name, {},
-                    {line.amount, line.memo});
-        writeRest();
-        writeDeductions();
-        writeDeposits();
-    }
+/// Nothing for an amount of nothing.
+void add(Lines& lines, std::string words, std::string quantity, const Reckoning& reckoning) {
+    if (reckoning.amount.cents == 0) return;
+    lines.push_back({std::move(words), std::move(quantity), reckoning.amount, reckoning.memo});
+}
 
-  private:
-    using Lines = std::vector<TerminationLine>;
+/// What the last month's sheet earns or takes off beside the salary.
+void addMonth(Lines& lines, const PaySheet& lastMonth, bool earnings) {
+    for (const PayLine& line : lastMonth.lines)
+        if (line.event.isEarning() == earnings &&
+            std::ranges::find(kWorkedOut, line.event.code) == kWorkedOut.end())
+            add(lines, line.event.name, {}, {line.amount, line.memo});
+}
 
-    static void add(Lines& lines, std::string words, std::string quantity,
-                    const Reckoning& reckoning) {
-        if (reckoning.amount.cents == 0) return;
-        lines.push_back({std::move(words), std::move(quantity), reckoning.amount, reckoning.memo});
-    }
+std::string daysText(int days) {
+    return counted(days, "dia", "dias");
+}
 
-    void writePay(const MonthPayCase& month) {
-        add(sheet_.credits, "Saldo de salário", counted(month.part.calendarDays(), "dia", "dias"),
-            pay_.balance);
-    }
+std::string overdueText(const TerminationInputs& inputs) {
+    std::string text;
+    if (inputs.overduePeriods > 0) text = counted(inputs.overduePeriods, "período", "períodos");
+    if (inputs.overdueDays == 0) return text;
+    return text + (text.empty() ? "" : " e ") + daysText(inputs.overdueDays);
+}
 
-    void writeRest() {
-        Lines& credits = sheet_.credits;
-        add(credits, "Aviso prévio indenizado", paidNoticeText(), pay_.notice);
-        add(credits, "13º salário proporcional", twelfthsText(pay_.thirteenthTwelfths),
-            pay_.thirteenth);
-        add(credits, "Férias vencidas, com 1/3", overdueText(), pay_.overdue);
-        add(credits, "Férias proporcionais", twelfthsText(pay_.vacationTwelfths), pay_.vacation);
-        add(credits, "1/3 das férias proporcionais", {}, pay_.vacationThird);
-    }
+Lines creditsOf(const TerminationPay& pay, const TerminationInputs& inputs,
+                const MonthPayCase& month, const PaySheet& lastMonth) {
+    const TerminationDates& dates = pay.dates;
+    Lines lines;
+    add(lines, "Saldo de salário", daysText(month.part.calendarDays()), pay.balance);
+    addMonth(lines, lastMonth, true);
+    add(lines, "Aviso prévio indenizado",
+        daysText(daysBetween(dates.lastDayWorked.value, dates.noticeEnds.value)), pay.notice);
+    add(lines, "13º salário proporcional", twelfthsText(pay.thirteenthTwelfths), pay.thirteenth);
+    add(lines, "Férias vencidas, com 1/3", overdueText(inputs), pay.overdue);
+    add(lines, "Férias proporcionais", twelfthsText(pay.vacationTwelfths), pay.vacation);
+    add(lines, "1/3 das férias proporcionais", {}, pay.vacationThird);
+    return lines;
+}
 
-    void writeDeductions() {
-        Lines& debits = sheet_.debits;
-        add(debits, "Aviso prévio não cumprido",
-            counted(pay_.dates.noticeDays.value, "dia", "dias"), pay_.noticeDeducted);
-        add(debits, "1ª parcela do 13º salário", {}, pay_.firstPaid);
-        add(debits, "2ª parcela do 13º salário", {}, pay_.secondPaid);
-        add(debits, "Já pago na folha de " + monthText(), {}, pay_.monthPaid);
-        add(debits, "Férias já pagas e não gozadas", {}, pay_.vacationsPaid);
-        add(debits, "INSS", {}, pay_.inssBalance);
-        add(debits, "INSS sobre o 13º salário", {}, pay_.inssThirteenth);
-        add(debits, "IRRF", {}, {pay_.taxBalance.withheld, pay_.taxBalance.memo});
-        add(debits, "IRRF sobre o 13º salário", {},
-            {pay_.taxThirteenth.withheld, pay_.taxThirteenth.memo});
-    }
-
-    void writeDeposits() {
-        add(sheet_.deposits, "FGTS da rescisão", {}, pay_.fgts);
-        add(sheet_.deposits, "Multa do FGTS", {}, pay_.fgtsFine);
-    }
-
-    [[nodiscard]] std::string monthText() const {
-        return monthTitle(monthOf(pay_.dates.lastDayWorked.value));
-    }
-
-    [[nodiscard]] std::string overdueText() const {
-        std::string text;
-        if (inputs_.overduePeriods > 0)
-            text = counted(inputs_.overduePeriods, "período", "períodos");
-        if (inputs_.overdueDays == 0) return text;
-        return text + (text.empty() ? "" : " e ") + counted(inputs_.overdueDays, "dia", "dias");
-    }
-
-    [[nodiscard]] std::string paidNoticeText() const {
-        const auto days = std::chrono::sys_days(pay_.dates.noticeEnds.value) -
-                          std::chrono::sys_days(pay_.dates.lastDayWorked.value);
-        return counted(static_cast<int>(days.count()), "dia", "dias");
-    }
-
-    const TerminationInputs& inputs_;
-    TerminationSheet& sheet_;
-    const TerminationPay& pay_;
-};
+Lines debitsOf(const TerminationPay& pay, const PaySheet& lastMonth) {
+    const std::string month = monthTitle(monthOf(pay.dates.lastDayWorked.value));
+    Lines lines;
+    addMonth(lines, lastMonth, false);
+    add(lines, "Aviso prévio não cumprido", daysText(pay.dates.noticeDays.value),
+        pay.noticeDeducted);
+    add(lines, "1ª parcela do 13º salário", {}, pay.firstPaid);
+    add(lines, "2ª parcela do 13º salário", {}, pay.secondPaid);
+    add(lines, "Já pago na folha de " + month, {}, pay.monthPaid);
+    add(lines, "Férias já pagas e não gozadas", {}, pay.vacationsPaid);
+    add(lines, "INSS", {}, pay.inssBalance);
+    add(lines, "INSS sobre o 13º salário", {}, pay.inssThirteenth);
+    add(lines, "IRRF", {}, {pay.taxBalance.withheld, pay.taxBalance.memo});
+    add(lines, "IRRF sobre o 13º salário", {},
+        {pay.taxThirteenth.withheld, pay.taxThirteenth.memo});
+    return lines;
+}
 
 Money sumOf(const std::vector<TerminationLine>& lines) {
     Money sum;
@@ -201,7 +178,10 @@ TerminationSheet terminationSheet(const PayrollLaw& law, const TerminationInputs
         .pay = terminationPay(law, caseOf(law, inputs, month, lastMonth, averages.amount))};
     for (Reckoning* line : {&sheet.pay.notice, &sheet.pay.thirteenth, &sheet.pay.vacation})
         if (line->amount.cents > 0) append(line->memo, averages.memo);
-    SheetLines(inputs, sheet).write(month, lastMonth);
+    sheet.credits = creditsOf(sheet.pay, inputs, month, lastMonth);
+    sheet.debits = debitsOf(sheet.pay, lastMonth);
+    add(sheet.deposits, "FGTS da rescisão", {}, sheet.pay.fgts);
+    add(sheet.deposits, "Multa do FGTS", {}, sheet.pay.fgtsFine);
     sheet.gross = sumOf(sheet.credits);
     sheet.deductions = sumOf(sheet.debits);
     sheet.net = sheet.gross - sheet.deductions;

@@ -7,7 +7,6 @@
 #include "personnel/termination/termination_record.h"
 
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
 
