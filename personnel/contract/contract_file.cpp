@@ -19,8 +19,8 @@ RecordFile fileOf(const Store& store, const EmployeeKey& key) {
 std::optional<EndingTrial> nextEnd(const Employee& employee, const Contract& contract, Date today) {
     const auto first = contract.trialEnd();
     const auto extended = contract.extendedEnd();
-    if (first && *first >= today) return EndingTrial{employee, *first, extended.has_value()};
-    if (extended && *extended >= today) return EndingTrial{employee, *extended, false};
+    if (first && *first >= today) return EndingTrial{employee, *first};
+    if (extended && *extended >= today) return EndingTrial{employee, *extended};
     return std::nullopt;
 }
 

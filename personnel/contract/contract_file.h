@@ -32,7 +32,6 @@ void saveContract(const Store& store, const EmployeeKey& key, const Contract& co
 struct EndingTrial {
     Employee employee;
     Date lastDay;
-    bool canBeExtended;  ///< it is the trial as first agreed, and an extension was agreed upon
 };
 
 /// Within so many days from today, today included.

@@ -6,7 +6,6 @@
 #include "personnel/contract/contract.h"
 
 #include <string>
-#include <string_view>
 
 namespace winvrx {
 

@@ -2,8 +2,6 @@
 
 #include "foundation/files/record_names.h"
 #include "foundation/register/company_register.h"
-#include "foundation/values/text.h"
-#include "personnel/contract/contracted_employee.h"
 
 namespace winvrx {
 

@@ -104,7 +104,7 @@ bool Documentos::requireSoundInputs() {
 }
 
 bool Documentos::confirm() {
-    return at_.person.agrees(question(kTitle, std::string(kindOf(paper_).confirmation), remark()));
+    return at_.person.agrees(question(kTitle, kindOf(paper_).confirmation(), remark()));
 }
 
 bool Documentos::writeAndSend(Send act, const std::vector<FileSystem::NewContent>& files) {

@@ -17,6 +17,7 @@ namespace winvrx {
 namespace {
 
 using Subject = PaperSubject;
+constexpr auto kResigned = TerminationType::Resignation;
 
 struct Offer {
     std::string_view input;
@@ -29,15 +30,11 @@ struct Usual {
     std::string_view text;
 };
 
-TerminationDates reckonedNotice(const Subject& subject,
-                                TerminationType type = TerminationType::WithoutCause) {
+/// Of a notice given today.
+TerminationDates reckonedDates(const Subject& subject, TerminationType type) {
     const auto admission = subject.employee.admissionDate();
     const Date start = admission && *admission <= subject.today ? *admission : subject.today;
     return terminationDates(type, NoticeType::Worked, start, subject.today);
-}
-
-TerminationDates resigned(const Subject& subject) {
-    return reckonedNotice(subject, TerminationType::Resignation);
 }
 
 std::string optionalDate(const std::optional<Date>& date) {
@@ -45,9 +42,11 @@ std::string optionalDate(const std::optional<Date>& date) {
 }
 
 /// A day that the termination on record says, else one reckoned from a notice given today.
-template <std::string Leave::*Member>
-std::string recordedOr(const Subject& subject, std::optional<Date> reckoned) {
-    return subject.termination ? *subject.termination.*Member : optionalDate(reckoned);
+template <std::string Leave::*Recorded, auto Reckoned,
+          TerminationType Type = TerminationType::WithoutCause>
+std::string dayOf(const Subject& subject) {
+    return subject.termination ? *subject.termination.*Recorded
+                               : optionalDate((reckonedDates(subject, Type).*Reckoned).value);
 }
 
 std::string timeOf(const Subject& subject, TimePair DaySchedule::*half,
@@ -75,8 +74,13 @@ std::string noticeOf(const Subject& subject) {
     return paid ? "indenizado" : "trabalhado";
 }
 
+template <TerminationType Type>
+std::string reckonedDays(const Subject& subject) {
+    return std::to_string(reckonedDates(subject, Type).noticeDays.value);
+}
+
 std::string noticeDaysOf(const Subject& subject) {
-    if (!subject.termination) return std::to_string(reckonedNotice(subject).noticeDays.value);
+    if (!subject.termination) return reckonedDays<TerminationType::WithoutCause>(subject);
     const auto type = terminationTypeOf(subject.termination->terminationType);
     const auto admission = subject.employee.admissionDate();
     const auto given = parseDate(subject.termination->noticeGiven);
@@ -115,33 +119,16 @@ const std::array kOffers = {
     Offer{"modalidade", dismissalOf},
     Offer{"tipo_aviso", noticeOf},
     Offer{"dias_aviso", noticeDaysOf},
-    Offer{"inicio_aviso",
-          [](const Subject& s) {
-              return recordedOr<&Leave::noticeBegins>(s, reckonedNotice(s).noticeBegins.value);
-          }},
-    Offer{"fim_aviso",
-          [](const Subject& s) {
-              return recordedOr<&Leave::noticeEnds>(s, reckonedNotice(s).noticeEnds.value);
-          }},
-    Offer{"ultimo_dia",
-          [](const Subject& s) {
-              return recordedOr<&Leave::lastWorked>(s, reckonedNotice(s).lastDayWorked.value);
-          }},
-    Offer{"dias_pedido",
-          [](const Subject& s) { return std::to_string(resigned(s).noticeDays.value); }},
-    Offer{"inicio_pedido",
-          [](const Subject& s) {
-              return recordedOr<&Leave::noticeBegins>(s, resigned(s).noticeBegins.value);
-          }},
-    Offer{"ultimo_pedido",
-          [](const Subject& s) {
-              return recordedOr<&Leave::lastWorked>(s, resigned(s).lastDayWorked.value);
-          }},
-    Offer{"pagamento_ate",
-          [](const Subject& s) {
-              return recordedOr<&Leave::paymentDue>(s, reckonedNotice(s).paymentDue.value);
-          }},
-    Offer{"pago_em", [](const Subject& s) { return recordedOr<&Leave::paymentDue>(s, {}); }},
+    Offer{"inicio_aviso", dayOf<&Leave::noticeBegins, &TerminationDates::noticeBegins>},
+    Offer{"fim_aviso", dayOf<&Leave::noticeEnds, &TerminationDates::noticeEnds>},
+    Offer{"ultimo_dia", dayOf<&Leave::lastWorked, &TerminationDates::lastDayWorked>},
+    Offer{"dias_pedido", reckonedDays<kResigned>},
+    Offer{"inicio_pedido", dayOf<&Leave::noticeBegins, &TerminationDates::noticeBegins, kResigned>},
+    Offer{"ultimo_pedido", dayOf<&Leave::lastWorked, &TerminationDates::lastDayWorked, kResigned>},
+    Offer{"pagamento_ate", dayOf<&Leave::paymentDue, &TerminationDates::paymentDue>},
+    Offer{
+        "pago_em",
+        [](const Subject& s) { return s.termination ? s.termination->paymentDue : std::string(); }},
     Offer{"hora_homologacao", hourOfRatification},
     Offer{"entrada",
           [](const Subject& s) { return timeOf(s, &DaySchedule::morning, &TimePair::entry); }},

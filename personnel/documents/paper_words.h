@@ -6,7 +6,6 @@
 
 #include <map>
 #include <string>
-#include <string_view>
 
 namespace winvrx {
 

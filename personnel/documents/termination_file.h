@@ -1,7 +1,6 @@
 #pragma once
 
 #include "foundation/files/record_file.h"
-#include "foundation/values/date.h"
 #include "personnel/documents/paper_kinds.h"
 #include "personnel/documents/paper_subject.h"
 

@@ -1,7 +1,6 @@
 #include "tools/internet/browser_policies.h"
 
 #include <array>
-#include <span>
 
 namespace winvrx {
 
@@ -91,14 +90,6 @@ std::vector<std::string> browsersWithPolicy(const FileSystem& files,
     for (const RuledBrowser& browser : kBrowsers)
         if (ruleOf(browser.kind, which) && files.exists(ruleFile(root, browser, which)))
             addOnce(names, browser.name);
-    return names;
-}
-
-std::vector<std::string> browsersWithRules(const FileSystem& files,
-                                           const std::filesystem::path& root) {
-    std::vector<std::string> names;
-    for (const RuledBrowser& browser : kBrowsers)
-        if (files.exists(root / browser.program)) addOnce(names, browser.name);
     return names;
 }
 

@@ -23,8 +23,4 @@ std::vector<std::string> applyPolicy(FileSystem& files, const std::filesystem::p
                                                           const std::filesystem::path& root,
                                                           WebSwitch which);
 
-/// The browsers that are installed and follow such rules.
-[[nodiscard]] std::vector<std::string> browsersWithRules(const FileSystem& files,
-                                                         const std::filesystem::path& root);
-
 }  // namespace winvrx

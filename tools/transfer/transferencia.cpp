@@ -3,6 +3,7 @@
 #include "foundation/copies/copy_name.h"
 #include "foundation/copies/copy_shelf.h"
 #include "foundation/register/company_register.h"
+#include "foundation/register/employee_list.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>
@@ -14,7 +15,7 @@ namespace {
 using std::filesystem::path;
 
 constexpr std::string_view kTitle = "Cópia de Segurança da Base de Dados";
-constexpr std::size_t kMostNames = 6;
+constexpr std::size_t kMostNamesOfAKind = 6;
 
 const Message kNotToC = failure("Base de Dados", "Diretório da Mídia Removível não Pode ser 'C'!");
 const Message kOneLetter =
@@ -42,19 +43,10 @@ Message noTarget(char inUse) {
             inUse + "'");
 }
 
-/// "01Empresa, 01CartaPonto e mais 3"
-std::string someOf(const std::vector<std::string>& names) {
-    std::string text;
-    for (std::size_t i = 0; i < std::min(names.size(), kMostNames); ++i)
-        text += (i ? ", " : "") + names[i];
-    if (names.size() > kMostNames) text += " e mais " + std::to_string(names.size() - kMostNames);
-    return text;
-}
-
 std::string paragraph(const char* heading, const std::vector<std::string>& names) {
     if (names.empty()) return {};
     return "\n" + std::string(heading) + " (" + std::to_string(names.size()) +
-           "): " + someOf(names) + ".";
+           "): " + namesText(names, kMostNamesOfAKind) + ".";
 }
 
 /// What the operator is to know before the destination is written over.
