@@ -2,6 +2,7 @@
 
 #include "foundation/files/folder_names.h"
 #include "foundation/files/record_names.h"
+#include "foundation/values/text.h"
 #include "personnel/contract/amount_in_words.h"
 #include "personnel/contract/contract_file.h"
 #include "timecard/schedule/standard_schedule.h"
@@ -20,33 +21,24 @@ std::string textOf(const std::optional<Date>& date) {
     return date ? dateText(*date) : std::string();
 }
 
-void putPair(std::string& text, const TimePair& pair) {
-    if (!pair.complete()) return;
-    text.append(text.empty() ? "" : " e ")
-        .append("das " + timeText(*pair.entry) + " às " + timeText(*pair.exit));
+std::string textOf(const TimePair& pair) {
+    return pair.complete() ? "das " + timeText(*pair.entry) + " às " + timeText(*pair.exit) : "";
 }
 
 /// "segunda a sexta, das 08:00 às 12:00 e das 13:00 às 17:00; sábado, das 08:00 às 12:00".
 std::string textOf(const StandardSchedule& schedule) {
-    const auto timesOf = [](const DaySchedule& day) {
-        std::string text;
-        putPair(text, day.morning);
-        putPair(text, day.afternoon);
-        return text;
+    const auto textOfDay = [](std::string_view name, const DaySchedule& day) {
+        const std::string times = joined({textOf(day.morning), textOf(day.afternoon)}, " e ");
+        return times.empty() ? times : std::string(name) + ", " + times;
     };
-    const std::string week = timesOf(schedule.weekday);
-    const std::string saturday = timesOf(schedule.saturday);
-    std::string text = week.empty() ? "" : "segunda a sexta, " + week;
-    if (!saturday.empty()) text.append(text.empty() ? "" : "; ").append("sábado, " + saturday);
-    return text;
+    return joined(
+        {textOfDay("segunda a sexta", schedule.weekday), textOfDay("sábado", schedule.saturday)},
+        "; ");
 }
 
 std::string addressOf(const Company& company) {
-    std::string text = company.address;
-    for (const std::string& part : {company.district, company.city})
-        if (!part.empty()) text.append(text.empty() ? "" : ", ").append(part);
-    if (!company.state.empty()) text.append(text.empty() ? "" : "/").append(company.state);
-    return text;
+    const std::string place = joined({company.address, company.district, company.city}, ", ");
+    return joined({place, company.state}, "/");
 }
 
 std::string cut(const std::string& text, std::string Contract::*member) {

@@ -36,12 +36,9 @@ ContratoTrabalho::ContratoTrabalho(const Workplace& at, const ContractDesk& desk
 bool ContratoTrabalho::load() {
     return attempt(at_, incorrectData(), [this] {
         const CompanyCode& company = at_.session.company.value();
-        const Employee* one = selected();
-        const std::string code = one ? one->code : std::string();
         company_ = loadCompany(at_.store(), company);
         list_.load(at_.store(), company);
-        position_ = list_.positionOf(code);
-        if (!position_ && !list_.shown().empty()) position_ = list_.shown().front();
+        if (!selected() && !list_.shown().empty()) list_.select(list_.shown().front());
         readSelected();
         endingTrials_ = endingTrialsText(at_.store(), company, at_.clock.today());
         return loadPrinter();
@@ -58,9 +55,10 @@ bool ContratoTrabalho::loadPrinter() {
 }
 
 bool ContratoTrabalho::select(std::optional<std::size_t> position) {
-    const auto before = std::exchange(position_, position);
+    const auto before = list_.selectedPosition();
+    list_.select(position);
     const bool read = attempt(at_, incorrectData(), [this] { readSelected(); });
-    if (!read) position_ = before;
+    if (!read) list_.select(before);
     return read;
 }
 
@@ -71,11 +69,6 @@ void ContratoTrabalho::readSelected() {
                              : Contract();
     bytes_ = line ? std::optional(line->bytes) : std::nullopt;
     blamed_ = nullptr;
-}
-
-const Employee* ContratoTrabalho::selected() const {
-    return position_ && *position_ < list_.employees().size() ? &list_.employees()[*position_]
-                                                              : nullptr;
 }
 
 EmployeeKey ContratoTrabalho::key() const {
@@ -119,9 +112,9 @@ bool ContratoTrabalho::requireSound(const Contract& typed) {
 bool ContratoTrabalho::confirmSaving(const Contract& typed) {
     constexpr std::string_view kText =
         "Confirma Gravar o Contrato de Trabalho do Funcionário Selecionado?";
-    std::string detail = isRecorded() ? "O contrato já gravado será substituído." : "";
-    for (const auto& doubt : doubtsAbout(typed, *selected()))
-        detail.append(detail.empty() ? "" : "\n").append(captioned(doubt));
+    const std::string doubts = joined(doubtsAbout(typed, *selected()), "\n", captioned<Contract>);
+    const std::string detail =
+        joined({isRecorded() ? "O contrato já gravado será substituído." : "", doubts}, "\n");
     return at_.person.agrees(isRecorded() ? riskyQuestion(kTitle, std::string(kText), detail)
                                           : question(kTitle, std::string(kText), detail));
 }

@@ -44,8 +44,8 @@ class ContratoTrabalho {
     /// Loads the contract of the employee at `position` of the list; nullopt for nobody's. False,
     /// and told, when it cannot be read.
     bool select(std::optional<std::size_t> position);
-    [[nodiscard]] const Employee* selected() const;  ///< nullptr when there is none
-    [[nodiscard]] std::optional<std::size_t> selectedPosition() const { return position_; }
+    /// nullptr when there is none.
+    [[nodiscard]] const Employee* selected() const { return list_.selected(); }
     [[nodiscard]] bool isRecorded() const { return bytes_.has_value(); }
     /// The contract on record, or what is proposed for one.
     [[nodiscard]] const Contract& contract() const { return contract_; }
@@ -86,7 +86,6 @@ class ContratoTrabalho {
     Company company_;
     EmployeeList list_;
     std::string endingTrials_;
-    std::optional<std::size_t> position_;
     Contract contract_;
     std::optional<std::string> bytes_;  ///< of the line on record
     std::string Contract::*blamed_ = nullptr;

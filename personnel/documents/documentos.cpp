@@ -2,6 +2,7 @@
 
 #include "foundation/files/record_names.h"
 #include "foundation/register/company_register.h"
+#include "foundation/values/text.h"
 
 namespace winvrx {
 
@@ -12,22 +13,15 @@ void Documentos::load() {
     (void)attempt(at_, incorrectData(), [this] {
         const CompanyCode& company = at_.session.company.value();
         companyTitle_ = titleOf(loadCompanies(at_.store()), company);
-        const std::string former = selected() ? selected()->code : std::string();
         list_.load(at_.store(), company);
-        position_ = list_.positionOf(former);
         fill();
     });
 }
 
-const Employee* Documentos::selected() const {
-    const bool isOnList = position_ && *position_ < list_.employees().size();
-    return isOnList ? &list_.employees()[*position_] : nullptr;
-}
-
 bool Documentos::select(std::optional<std::size_t> position) {
-    if (position == position_) return true;
+    if (position == list_.selectedPosition()) return true;
     if (!confirmLeaving()) return false;
-    position_ = position;
+    list_.select(position);
     return attempt(at_, incorrectData(), [this] { fill(); });
 }
 
@@ -92,7 +86,7 @@ std::string Documentos::remark() const {
     if (kind.terminationStem.empty() || !subject_.termination) return {};
     const std::string bars = "Depois de impresso, o funcionário não pode mais ser reativado.";
     const std::string& unknown = subject_.account.remark;
-    return kind.isOfTerminated && !unknown.empty() ? bars + " " + unknown : bars;
+    return joined({bars, kind.isOfTerminated ? unknown : ""}, " ");
 }
 
 Document Documentos::composedPaper() const {

@@ -43,8 +43,8 @@ class Documentos {
     /// Fills the forms for the employee at `position` of the list; nullopt for none. False when the
     /// operator stays with what is typed, or the records cannot be read.
     [[nodiscard]] bool select(std::optional<std::size_t> position);
-    [[nodiscard]] const Employee* selected() const;  ///< nullptr when there is none
-    [[nodiscard]] std::optional<std::size_t> selectedPosition() const { return position_; }
+    /// nullptr when there is none.
+    [[nodiscard]] const Employee* selected() const { return list_.selected(); }
 
     void choose(Paper paper);
     [[nodiscard]] Paper paper() const { return paper_; }
@@ -93,7 +93,6 @@ class Documentos {
     DocumentsDesk desk_;
     std::string companyTitle_;
     EmployeeList list_;
-    std::optional<std::size_t> position_;
     std::optional<EmployeeKey> key_;
     PaperSubject subject_;
     Paper paper_ = Paper::AvisoPrevio;

@@ -149,16 +149,16 @@ Date fourteenOn(Date birth) {
 }
 
 std::string childrenRemark(const PaperTexts& texts, Date today) {
-    std::string remark;
+    std::vector<std::string> remarks;
     forEachChild(texts, [&](const std::string& name, const std::string& birth) {
         const auto born = parseDate(birth);
         if (!born || fourteenOn(*born) > plusDays(today, kToldBefore)) return;
         const Date end = fourteenOn(*born);
-        remark += (remark.empty() ? "" : " ") + name +
-                  (end <= today ? " completou 14 anos em " : " completa 14 anos em ") +
-                  dateText(end) + ".";
+        remarks.push_back(name +
+                          (end <= today ? " completou 14 anos em " : " completa 14 anos em ") +
+                          dateText(end) + ".");
     });
-    return remark;
+    return joined(remarks, " ");
 }
 
 }  // namespace winvrx

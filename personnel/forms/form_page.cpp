@@ -3,21 +3,11 @@
 #include "foundation/register/merge_fields.h"
 #include "foundation/values/text.h"
 
-#include <initializer_list>
-
 namespace winvrx {
 
 namespace {
 
 constexpr int kMostDays = 31;
-
-/// The parts that hold something, `between` them.
-std::string joined(std::initializer_list<std::string> parts, std::string_view between) {
-    std::string text;
-    for (const std::string& part : parts)
-        if (!part.empty()) text += (text.empty() ? "" : std::string(between)) + part;
-    return text;
-}
 
 std::string postalCodeText(const std::string& code) {
     return code.empty() ? "" : "CEP " + code;

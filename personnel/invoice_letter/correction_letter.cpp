@@ -22,13 +22,6 @@ Fault noLetter(const std::string& sentence) {
     return {"event file: no correction letter", sentence};
 }
 
-std::string listed(const std::vector<std::string>& names) {
-    std::string text;
-    for (const std::string& name : names)
-        text.append(text.empty() ? "" : ", ").append(name);
-    return text;
-}
-
 /// The first `width` characters at most, up to a blank where there is one.
 std::string_view lineOf(std::string_view text, std::size_t width) {
     const std::string_view whole = firstCharacters(text, width);
@@ -67,7 +60,7 @@ void requireAll(const CorrectionLetter& letter, const std::string& type) {
             missing.emplace_back(element.name);
     if (!missing.empty())
         throw noLetter("O arquivo não é o evento de uma carta de correção: falta " +
-                       listed(missing) + ".");
+                       joined(missing, ", ") + ".");
     if (!type.empty() && type != kCorrectionType)
         throw noLetter("O evento do arquivo não é uma carta de correção: o tipo é " +
                        shortened(type) + ", e não 110110.");

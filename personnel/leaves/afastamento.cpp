@@ -4,6 +4,7 @@
 #include "foundation/register/company_register.h"
 #include "foundation/register/dismissal.h"
 #include "foundation/register/employee_register.h"
+#include "foundation/values/text.h"
 #include "personnel/leaves/leave_findings.h"
 #include "personnel/leaves/marking_offer.h"
 #include "timecard/month/selected_month.h"
@@ -44,23 +45,18 @@ void Afastamento::loadList(const CompanyCode& company, WorkMonth month) {
     std::string title = titleOf(loadCompanies(at_.store()), company);
     const FolderNames names = namesIn(at_.store());
     auto marks = monthMarks(at_.store(), company, month, names, payroll_);
-    const std::string chosen = selected() ? selected()->code : "";
     companyTitle_ = std::move(title);
     month_ = month;
     list_.fill(lines, std::move(marks));
     list_.setSubset(employeesWithLeaveFile(company, names));
-    const auto position = list_.positionOf(chosen);
-    show(position, position ? loadLeaveFile(at_.store(), keyAt(*position)) : LeaveFile());
+    show(selected() ? loadLeaveFile(at_.store(), key()) : LeaveFile());
 }
 
 bool Afastamento::narrow(const std::function<void()>& filter) {
     if (!confirmLeaving()) return false;
     return attempt(at_, incorrectData(), [&] {
-        const std::string code = selected() ? selected()->code : "";
-        LeaveFile file = std::move(file_);
         filter();
-        const auto position = list_.positionOf(code);
-        show(position, position ? std::move(file) : LeaveFile());
+        show(selected() ? std::move(file_) : LeaveFile());
     });
 }
 
@@ -81,20 +77,18 @@ std::string_view Afastamento::activationCaption() const {
     return isInactive() ? "Reativar" : "Inativar";
 }
 
-const Employee* Afastamento::selected() const {
-    return position_ ? &list_.employees()[*position_] : nullptr;
-}
-
-EmployeeKey Afastamento::keyAt(std::size_t position) const {
-    return {at_.session.company.value(), list_.employees().at(position).employeeCode().value()};
+EmployeeKey Afastamento::keyOf(const Employee& employee) const {
+    return {at_.session.company.value(), employee.employeeCode().value()};
 }
 
 bool Afastamento::select(std::size_t position) {
     if (!confirmLeaving()) return false;
     return attempt(at_, incorrectData(), [&] {
-        LeaveFile file = loadLeaveFile(at_.store(), keyAt(position));
-        list_.mark(position, marksOf(keyAt(position)));
-        show(position, std::move(file));
+        const EmployeeKey key = keyOf(list_.employees().at(position));
+        LeaveFile file = loadLeaveFile(at_.store(), key);
+        list_.mark(position, marksOf(key));
+        list_.select(position);
+        show(std::move(file));
         if (isInactive()) at_.person.tell(kInactive);
     });
 }
@@ -111,8 +105,7 @@ EmployeeMarks Afastamento::marksOf(const EmployeeKey& key) const {
     return marks;
 }
 
-void Afastamento::show(std::optional<std::size_t> position, LeaveFile file) {
-    position_ = position;
+void Afastamento::show(LeaveFile file) {
     file_ = std::move(file);
     fill(std::nullopt);
 }
@@ -156,8 +149,8 @@ void Afastamento::lookForPunches() {
     LeaveFile planned{.inactiveSince = file_.inactiveSince};
     planned.leaves.push_back(leaveLine(form_.leave()));
     try {
-        const auto days = timedOf(
-            unmarkedDays(at_.store(), payroll_, keyAt(*position_), calendarOf(planned), *period));
+        const auto days =
+            timedOf(unmarkedDays(at_.store(), payroll_, key(), calendarOf(planned), *period));
         if (!days.empty()) punches_ = "Já há horas no cartão em " + datesText(days) + ".";
     } catch (const std::exception& fault) {
         at_.log.write(std::string("punches of a leave not looked up: ") + fault.what());
@@ -165,14 +158,12 @@ void Afastamento::lookForPunches() {
 }
 
 std::string Afastamento::finding(LeaveInput input) const {
-    std::string found = findingFor(input, form_, file_, chosen_);
-    if (input == LeaveInput::FirstDay && !punches_.empty())
-        found += (found.empty() ? "" : " ") + punches_;
-    return found;
+    const std::string found = findingFor(input, form_, file_, chosen_);
+    return input == LeaveInput::FirstDay ? joined({found, punches_}, " ") : found;
 }
 
 void Afastamento::offerToMark(LeavePeriod days) {
-    offerMarking(at_, payroll_, keyAt(*position_), calendar(), days);
+    offerMarking(at_, payroll_, key(), calendar(), days);
 }
 
 bool Afastamento::confirmLeaving() {

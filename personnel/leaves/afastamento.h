@@ -45,8 +45,8 @@ class Afastamento {
     [[nodiscard]] bool select(std::size_t position);
     /// The same by his code, with every shift listed where the filter hides him.
     [[nodiscard]] bool select(const EmployeeCode& employee);
-    [[nodiscard]] std::optional<std::size_t> selectedPosition() const { return position_; }
-    [[nodiscard]] const Employee* selected() const;  ///< nullptr when there is none
+    /// nullptr when there is none.
+    [[nodiscard]] const Employee* selected() const { return list_.selected(); }
     [[nodiscard]] const LeaveFile& file() const { return file_; }
     /// Where the employee is on each day, as the file has it.
     [[nodiscard]] LeaveCalendar calendar() const { return calendarOf(file_); }
@@ -85,12 +85,14 @@ class Afastamento {
   private:
     void loadList(const CompanyCode& company, WorkMonth month);
     [[nodiscard]] bool narrow(const std::function<void()>& filter);
-    void show(std::optional<std::size_t> position, LeaveFile file);
+    void show(LeaveFile file);
     void fill(std::optional<std::size_t> place);
     [[nodiscard]] LeaveCalendar calendarOf(const LeaveFile& file) const;
     /// For the employee chosen, with the leaves as they stand now.
     void offerToMark(LeavePeriod days);
-    [[nodiscard]] EmployeeKey keyAt(std::size_t position) const;
+    [[nodiscard]] EmployeeKey keyOf(const Employee& employee) const;
+    /// Of the employee chosen.
+    [[nodiscard]] EmployeeKey key() const { return keyOf(*selected()); }
     [[nodiscard]] EmployeeMarks marksOf(const EmployeeKey& key) const;
 
     [[nodiscard]] bool refuse(std::string_view title, std::string_view text,
@@ -116,7 +118,6 @@ class Afastamento {
     std::string companyTitle_;
     std::optional<WorkMonth> month_;
     EmployeeList list_;
-    std::optional<std::size_t> position_;
     LeaveFile file_;
     std::optional<std::size_t> chosen_;
     LeaveForm form_;

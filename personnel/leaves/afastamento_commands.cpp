@@ -79,9 +79,8 @@ Message confirmRemoval(const Leave& leave, bool isInactive) {
 }
 
 Message dropsLines(const std::vector<std::string>& lines) {
-    std::string shown;
-    for (const std::string& line : lines)
-        shown.append(shown.empty() ? "" : "\n").append(shortened(readableText(line)));
+    const std::string shown =
+        joined(lines, "\n", [](const std::string& line) { return shortened(readableText(line)); });
     return warning(kScreen,
                    lines.size() == 1
                        ? "O arquivo de afastamentos tem uma linha que não é de afastamento e que "
@@ -107,7 +106,7 @@ bool Afastamento::requireSelection(std::string_view title) {
 }
 
 bool Afastamento::requireOpenMonth() {
-    if (!payroll_.isClosed(keyAt(*position_), month_.value())) return true;
+    if (!payroll_.isClosed(key(), month_.value())) return true;
     at_.person.tell(kClosed);
     return false;
 }
@@ -228,7 +227,7 @@ bool Afastamento::changeActivation() {
             return false;
         const auto place = chosen_;
         loadList(at_.session.company.value(), month_.value());
-        if (position_) fill(place);
+        if (selected()) fill(place);
         if (const auto end = calendar().contractEnd()) offerToMark({plusDays(*end, 1), kLastOfAll});
         return true;
     });
@@ -277,7 +276,7 @@ bool Afastamento::requireDismissal(std::string_view title) {
 }
 
 bool Afastamento::requireNoTerminationDocument(std::string_view title) {
-    for (const std::string& name : terminationFileNames(keyAt(*position_)))
+    for (const std::string& name : terminationFileNames(key()))
         if (at_.files.exists(at_.session.folder.file(name)))
             return refuse(title,
                           "Não é Permitido Ativar! Já Existe Rescisão do Contrato de Trabalho para "
@@ -292,18 +291,18 @@ bool Afastamento::confirmDroppedLines() {
 
 bool Afastamento::rewrite(const std::function<void(LeaveFile&)>& edit,
                           const std::function<bool()>& isAllowed) {
-    const EmployeeKey key = keyAt(*position_);
+    const EmployeeKey employee = key();
     const auto hold = holdFolder(at_);
-    if (loadLeaveFile(at_.store(), key) != file_) throw employeeChangedElsewhere("leaves");
-    (void)requireRegistered(at_.store(), key);
+    if (loadLeaveFile(at_.store(), employee) != file_) throw employeeChangedElsewhere("leaves");
+    (void)requireRegistered(at_.store(), employee);
     if (!isAllowed()) return false;
     LeaveFile changed = file_;
     edit(changed);
     changed.strays.clear();
-    saveLeaveFile(at_.store(), key, encode(changed), at_.clock.now());
+    saveLeaveFile(at_.store(), employee, encode(changed), at_.clock.now());
     file_ = std::move(changed);
-    list_.mark(*position_, marksOf(key));
-    list_.addToSubset(key.employee);
+    list_.mark(*list_.selectedPosition(), marksOf(employee));
+    list_.addToSubset(employee.employee);
     return true;
 }
 

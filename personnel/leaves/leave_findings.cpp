@@ -1,5 +1,7 @@
 #include "personnel/leaves/leave_findings.h"
 
+#include "foundation/values/text.h"
+
 #include <algorithm>
 
 namespace winvrx {
@@ -30,7 +32,7 @@ std::string ofDays(const LeaveForm& form) {
     if (!period || !form.days()) return {};
     const int count = period->days();
     if (count == std::max(*form.days(), 1)) return {};
-    return "O período tem " + std::to_string(count) + (count == 1 ? " dia." : " dias.");
+    return "O período tem " + countOf(count, "dia") + ".";
 }
 
 /// Why nothing can be worked out although everything is typed.

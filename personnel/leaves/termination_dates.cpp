@@ -1,5 +1,7 @@
 #include "personnel/leaves/termination_dates.h"
 
+#include "foundation/values/text.h"
+
 #include <algorithm>
 
 namespace winvrx {
@@ -12,21 +14,16 @@ constexpr int kMostDays = 90;
 constexpr int kMostWorkedDays = 30;
 constexpr int kPaymentDays = 10;
 
-std::string days(int count) {
-    return std::to_string(count) + (count == 1 ? " dia" : " dias");
-}
-
 Explained<int> fullNotice(Date admission, Date given) {
     const int years = fullYearsOfService(admission, given);
     const int owed = kBaseDays + kDaysPerYear * years;
-    std::string rule =
-        "30 + 3 × " + std::to_string(years) + (years == 1 ? " ano" : " anos") + " = " + days(owed);
+    std::string rule = "30 + 3 × " + countOf(years, "ano") + " = " + countOf(owed, "dia");
     if (owed > kMostDays) rule += ", no máximo " + std::to_string(kMostDays);
     return {std::min(owed, kMostDays), rule + ", Lei 12.506/2011"};
 }
 
 std::string after(std::string_view what, Date date, int count) {
-    return std::string(what) + " " + dateText(date) + " + " + days(count);
+    return std::string(what) + " " + dateText(date) + " + " + countOf(count, "dia");
 }
 
 void endAtOnce(TerminationDates& dates, TerminationType type) {
@@ -48,7 +45,8 @@ void halvePaidDays(Explained<int>& notice, int worked) {
     const int half = (notice.value - worked + 1) / 2;
     if (half == 0) return;
     notice.value = worked + half;
-    notice.rule += "; por acordo, metade do que é indenizado = " + days(half) + ", CLT art. 484-A";
+    notice.rule +=
+        "; por acordo, metade do que é indenizado = " + countOf(half, "dia") + ", CLT art. 484-A";
 }
 
 void runNotice(TerminationDates& dates, TerminationType type, NoticeType notice) {
@@ -67,7 +65,8 @@ void runNotice(TerminationDates& dates, TerminationType type, NoticeType notice)
     // Who resigns has no time off to look for other work.
     if (type != TerminationType::Resignation)
         dates.lastDayWorked.rule += ", 2 horas a menos por dia ou 7 dias corridos, CLT art. 488";
-    if (owed > worked) dates.noticeEnds.rule += "; " + days(owed - worked) + " indenizados";
+    if (owed > worked)
+        dates.noticeEnds.rule += "; " + countOf(owed - worked, "dia") + " indenizados";
 }
 
 }  // namespace
@@ -95,7 +94,7 @@ Explained<int> noticeDays(TerminationType type, Date admission, Date given) {
         case TerminationType::MutualFault: {
             const Explained<int> full = fullNotice(admission, given);
             const int half = (full.value + 1) / 2;
-            return {half, full.rule + "; metade por culpa recíproca = " + days(half) +
+            return {half, full.rule + "; metade por culpa recíproca = " + countOf(half, "dia") +
                               ", CLT art. 484, Súmula 14 do TST"};
         }
         case TerminationType::WithoutCause:

@@ -1,5 +1,6 @@
 #include "personnel/termination/termination_sheet.h"
 
+#include "foundation/values/text.h"
 #include "personnel/pay/partial_month.h"
 #include "personnel/pay/vacation_rules.h"
 
@@ -11,10 +12,6 @@ namespace {
 
 /// Of the last month's sheet, what the termination works out by itself.
 constexpr std::array<std::string_view, 3> kWorkedOut = {"001", "091", "092"};
-
-std::string counted(int count, const std::string& one, const std::string& many) {
-    return std::to_string(count) + " " + (count == 1 ? one : many);
-}
 
 std::string twelfthsText(int twelfths) {
     return std::to_string(twelfths) + "/12";
@@ -91,25 +88,22 @@ void addMonth(Lines& lines, const PaySheet& lastMonth, bool earnings) {
             add(lines, line.event.name, {}, {line.amount, line.memo});
 }
 
-std::string daysText(int days) {
-    return counted(days, "dia", "dias");
-}
-
 std::string overdueText(const TerminationInputs& inputs) {
-    std::string text;
-    if (inputs.overduePeriods > 0) text = counted(inputs.overduePeriods, "período", "períodos");
-    if (inputs.overdueDays == 0) return text;
-    return text + (text.empty() ? "" : " e ") + daysText(inputs.overdueDays);
+    const auto textOf = [](int count, std::string_view what) {
+        return count > 0 ? countOf(count, what) : std::string();
+    };
+    return joined({textOf(inputs.overduePeriods, "período"), textOf(inputs.overdueDays, "dia")},
+                  " e ");
 }
 
 Lines creditsOf(const TerminationPay& pay, const TerminationInputs& inputs,
                 const MonthPayCase& month, const PaySheet& lastMonth) {
     const TerminationDates& dates = pay.dates;
     Lines lines;
-    add(lines, "Saldo de salário", daysText(month.part.calendarDays()), pay.balance);
+    add(lines, "Saldo de salário", countOf(month.part.calendarDays(), "dia"), pay.balance);
     addMonth(lines, lastMonth, true);
     add(lines, "Aviso prévio indenizado",
-        daysText(daysBetween(dates.lastDayWorked.value, dates.noticeEnds.value)), pay.notice);
+        countOf(daysBetween(dates.lastDayWorked.value, dates.noticeEnds.value), "dia"), pay.notice);
     add(lines, "13º salário proporcional", twelfthsText(pay.thirteenthTwelfths), pay.thirteenth);
     add(lines, "Férias vencidas, com 1/3", overdueText(inputs), pay.overdue);
     add(lines, "Férias proporcionais", twelfthsText(pay.vacationTwelfths), pay.vacation);
@@ -121,7 +115,7 @@ Lines debitsOf(const TerminationPay& pay, const PaySheet& lastMonth) {
     const std::string month = monthTitle(monthOf(pay.dates.lastDayWorked.value));
     Lines lines;
     addMonth(lines, lastMonth, false);
-    add(lines, "Aviso prévio não cumprido", daysText(pay.dates.noticeDays.value),
+    add(lines, "Aviso prévio não cumprido", countOf(pay.dates.noticeDays.value, "dia"),
         pay.noticeDeducted);
     add(lines, "1ª parcela do 13º salário", {}, pay.firstPaid);
     add(lines, "2ª parcela do 13º salário", {}, pay.secondPaid);

@@ -85,8 +85,8 @@ void ContratoTrabalhoWindow::buildCommands() {
 }
 
 void ContratoTrabalhoWindow::chooseEmployee(std::size_t position) {
-    if (position == command_.selectedPosition()) return;
-    if (!mayClose()) return employees_->select(command_.selectedPosition());
+    if (position == command_.list().selectedPosition()) return;
+    if (!mayClose()) return employees_->select(command_.list().selectedPosition());
     (void)command_.select(position);
     showContract();
 }
@@ -101,7 +101,7 @@ void ContratoTrabalhoWindow::refresh() {
 }
 
 void ContratoTrabalhoWindow::showContract() {
-    employees_->select(command_.selectedPosition());
+    employees_->select(command_.list().selectedPosition());
     const Employee* one = command_.selected();
     name_->setText(one ? toQt(one->code + " " + one->name)
                        : QStringLiteral("Nenhum funcionário selecionado"));

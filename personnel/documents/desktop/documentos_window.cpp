@@ -112,7 +112,7 @@ QWidget* DocumentosWindow::buildText() {
 void DocumentosWindow::chooseEmployee(std::optional<std::size_t> position) {
     finishTyping();
     (void)screen_.select(position);
-    employees_->select(screen_.selectedPosition());
+    employees_->select(screen_.list().selectedPosition());
     showEmployee();
 }
 

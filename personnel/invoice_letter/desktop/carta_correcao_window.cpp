@@ -1,6 +1,7 @@
 #include "personnel/invoice_letter/desktop/carta_correcao_window.h"
 
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
 #include "foundation/widgets/desktop/look.h"
 #include "personnel/invoice_letter/carta_correcao_imprime.h"
 #include "personnel/invoice_letter/desktop/qt_xml_reader.h"
@@ -131,9 +132,7 @@ void CartaCorrecaoWindow::showLetter() {
                                  : QStringLiteral("⚠ Não é uma carta de correção"));
         details_->setText(letter ? detailsOf(*letter) : toQt(command_.finding()));
     }
-    const auto count = command_.files().size();
-    setState(count == 1 ? QStringLiteral("1 arquivo XML")
-                        : QStringLiteral("%1 arquivos XML").arg(count));
+    setState(toQt(countOf(command_.files().size(), "arquivo XML", "arquivos XML")));
 }
 
 void openCorrectionLetters(const Workplace& at, ReportEngine& engine, QWidget* parent) {

@@ -157,12 +157,12 @@ void AfastamentoWindow::refresh() {
 
 void AfastamentoWindow::chooseEmployee(std::size_t position) {
     finishTyping();
-    if (command_.selectedPosition() != position) (void)command_.select(position);
+    if (command_.list().selectedPosition() != position) (void)command_.select(position);
     showEmployee();
 }
 
 void AfastamentoWindow::showEmployee() {
-    employees_->select(command_.selectedPosition());
+    employees_->select(command_.list().selectedPosition());
     const Employee* one = command_.selected();
     name_->setText(one ? toQt(one->code + " " + one->name)
                        : QStringLiteral("Nenhum funcionário selecionado"));
@@ -227,8 +227,7 @@ void AfastamentoWindow::showState() {
     const std::size_t count = command_.file().leaves.size();
     QString text = count == 0
                        ? QStringLiteral("Nenhum afastamento. Preencha os campos e tecle Ins.")
-                   : count == 1 ? QStringLiteral("1 afastamento")
-                                : QStringLiteral("%1 afastamentos").arg(count);
+                       : toQt(countOf(count, "afastamento"));
     if (!command_.selected()) text.clear();
     if (command_.form().isChanged()) text = QStringLiteral("Alterações não gravadas");
     setState(text);

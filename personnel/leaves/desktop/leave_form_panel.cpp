@@ -163,11 +163,9 @@ void LeaveFormPanel::showParts() {
 }
 
 void LeaveFormPanel::refresh() {
-    for (const Shown& shown : kShown) {
+    for (const Shown& shown : kShown)
         fields_[shown.input]->setStored(command_.form().text(shown.input));
-        showNotes(shown.input);
-    }
-    showParts();
+    follow();
 }
 
 void LeaveFormPanel::follow() {

@@ -257,12 +257,12 @@ TEST_F(AfastamentoTest, ListsEveryoneOrThoseWithAFile) {
     EXPECT_EQ(screen_.periodCaption(), "Período : 01/03/2024 á 31/03/2024");
     EXPECT_TRUE(screen_.showOnlyWithLeaves(true));
     EXPECT_EQ(screen_.list().employees().size(), 1U);
-    EXPECT_EQ(screen_.selectedPosition(), 0U);
+    EXPECT_EQ(screen_.list().selectedPosition(), 0U);
     EXPECT_TRUE(screen_.showOnlyWithLeaves(false));
     type(kCertificate);
     desk_.person.answers = {kNo};
     EXPECT_FALSE(screen_.select(1)) << "what is typed would be lost";
-    EXPECT_EQ(screen_.selectedPosition(), 0U);
+    EXPECT_EQ(screen_.list().selectedPosition(), 0U);
     desk_.person.answers = {kYes};
     EXPECT_TRUE(screen_.select(EmployeeCode::parse("002").value()));
     EXPECT_EQ(screen_.selected()->name, "BIA");
