@@ -35,7 +35,9 @@ Bases basesOf(const Store& store, const EmployeeKey& key, WorkMonth month,
         const auto recorded = loadPayroll(store, key, month, run);
         if (!recorded) continue;
         const PaySheet& sheet = recorded->sheet;
-        bases.inss = bases.inss + sheet.base + taxedPay(sheet, PayrollKind::Vacation);
+        if (run == PayrollRun::Month) bases.inss = bases.inss + sheet.base;
+        if (run == PayrollRun::Vacation)
+            bases.inss = bases.inss + taxedPay(sheet, PayrollKind::Vacation);
         if (run == PayrollRun::ThirteenthSecond)
             bases.thirteenth = taxedPay(sheet, PayrollKind::Thirteenth);
         bases.fgts = bases.fgts + sheet.fgtsBase;

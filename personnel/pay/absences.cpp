@@ -21,13 +21,6 @@ Reckoning daysLost(Money salary, int days, std::string words) {
     return Sum(salary).over(kDaysAMonth).times(days).rounded(std::move(words));
 }
 
-Reckoning timeLost(const PayrollLaw& law, const HourBase& base, std::chrono::seconds time) {
-    if (time <= std::chrono::seconds::zero()) return {};
-    Sum sum = Sum(base.pay).over(base.divisor);
-    if (law.settings.hourIsRounded) sum = std::move(sum).inCents();
-    return std::move(sum).hours(time).rounded("Horas de atraso e falta");
-}
-
 int restDaysLost(const std::vector<Date>& absences, const MonthSettings& month) {
     std::set<Date> weeks;
     for (const Date date : absences)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "personnel/pay/hours_pay.h"
 #include "personnel/pay/payroll_law.h"
 #include "personnel/pay/reckoning.h"
 #include "timecard/month/business_days.h"
@@ -11,10 +10,6 @@ namespace winvrx {
 
 /// Days of pay, of thirty in a month, that are lost: for absences, or for weekly rests.
 [[nodiscard]] Reckoning daysLost(Money salary, int days, std::string words);
-
-/// Time that was due and not worked.
-[[nodiscard]] Reckoning timeLost(const PayrollLaw& law, const HourBase& base,
-                                 std::chrono::seconds time);
 
 /// How many rest days the absences of a month lose: of each week from Monday to Sunday with one,
 /// its Sunday and its holidays (Lei 605/1949, art. 6º; Decreto 27.048/1949, art. 11). A rest day

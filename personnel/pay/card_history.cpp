@@ -26,32 +26,24 @@ struct Average {
     int months;
 };
 
-void addOvertime(const PayrollLaw& law, const Average& of, const ExtraHours& hours,
-                 Reckoning& sum) {
-    if (hours.byDay.count() > 0) {
-        const Reckoning day = overtimeAverage(law, of.base, hours.percent, hours.byDay, of.months);
-        sum.amount = sum.amount + day.amount;
-        append(sum.memo, day.memo);
-    }
-    if (hours.byNight.count() > 0) {
-        const Reckoning whole = nightOvertimePay(law, of.base, hours.nightPercent, hours.byNight,
-                                                 "Horas extras noturnas dos meses");
-        const Reckoning night =
-            Sum(whole.amount).over(of.months).rounded("Média de horas extras noturnas");
-        sum.amount = sum.amount + night.amount;
-        append(sum.memo, whole.memo);
-        append(sum.memo, night.memo);
-    }
+Reckoning averageOf(const Reckoning& whole, int months, const char* words) {
+    return following(whole.memo, Sum(whole.amount).over(months).rounded(words));
 }
 
-void addNight(const PayrollLaw& law, const Average& of, std::chrono::seconds hours,
-              Reckoning& sum) {
-    if (hours.count() <= 0) return;
-    const Reckoning whole = nightPremium(law, of.base, hours);
-    const Reckoning night = Sum(whole.amount).over(of.months).rounded("Média do adicional noturno");
-    sum.amount = sum.amount + night.amount;
-    append(sum.memo, whole.memo);
-    append(sum.memo, night.memo);
+Reckoning overtimeOf(const PayrollLaw& law, const Average& of, const ExtraHours& hours) {
+    Reckoning sum;
+    if (hours.byDay.count() > 0)
+        sum = overtimeAverage(law, of.base, hours.percent, hours.byDay, of.months);
+    if (hours.byNight.count() > 0)
+        sum = sum + averageOf(nightOvertimePay(law, of.base, hours.nightPercent, hours.byNight,
+                                               "Horas extras noturnas dos meses"),
+                              of.months, "Média de horas extras noturnas");
+    return sum;
+}
+
+Reckoning nightOf(const PayrollLaw& law, const Average& of, std::chrono::seconds hours) {
+    if (hours.count() <= 0) return {};
+    return averageOf(nightPremium(law, of.base, hours), of.months, "Média do adicional noturno");
 }
 
 }  // namespace
@@ -118,11 +110,8 @@ Reckoning variablePayAverage(const PayrollLaw& law, const MonthPayCase& month,
     minimum.byNight = all[HourCategory::NightExtraMinimum];
     maximum.byDay = all[HourCategory::ExtraMaximum];
     maximum.byNight = all[HourCategory::NightExtraMaximum];
-    Reckoning sum;
-    addOvertime(law, overtime, minimum, sum);
-    addOvertime(law, overtime, maximum, sum);
-    addNight(law, night, all[HourCategory::NormalNight], sum);
-    return sum;
+    return overtimeOf(law, overtime, minimum) + overtimeOf(law, overtime, maximum) +
+           nightOf(law, night, all[HourCategory::NormalNight]);
 }
 
 }  // namespace winvrx

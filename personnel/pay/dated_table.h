@@ -9,9 +9,6 @@
 
 namespace winvrx {
 
-/// Where a day lies among the lines of a table.
-enum class TableCoverage { BeforeFirst, Within, PastLast };
-
 /// The lines of one kind, by the day from which they are valid.
 template <typename Line>
 class DatedTable {
@@ -40,22 +37,14 @@ class DatedTable {
     /// Throws LegalTableFault before the first line, naming from when the table goes.
     [[nodiscard]] const Line& at(Date date) const {
         if (const Line* line = find(date)) return *line;
-        throw LegalTableFault("no " + name_ + " for " + dateText(date),
-                              "Não há " + name_ + " para " + dateText(date) + ": " + beginning());
+        throw LegalTableFault("no " + name_ + " for " + dateText(date), lackText(date));
     }
 
-    /// Past the last line is a day of a later year than that line: such figures are set anew each
-    /// year.
-    [[nodiscard]] TableCoverage coverageOf(Date date) const {
-        if (!find(date)) return TableCoverage::BeforeFirst;
-        return date.year() > lines_.back().from.year() ? TableCoverage::PastLast
-                                                       : TableCoverage::Within;
-    }
-
-    /// "a tabela começa em 01/03/2020."
-    [[nodiscard]] std::string beginning() const {
-        if (lines_.empty()) return "a tabela está vazia.";
-        return "a tabela começa em " + dateText(lines_.front().from) + ".";
+    /// "Não há salário mínimo para 01/02/2020: a tabela começa em 01/03/2020."
+    [[nodiscard]] std::string lackText(Date date) const {
+        return "Não há " + name_ + " para " + dateText(date) + ": a tabela " +
+               (lines_.empty() ? "está vazia."
+                               : "começa em " + dateText(lines_.front().from) + ".");
     }
 
   private:

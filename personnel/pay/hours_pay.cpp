@@ -4,18 +4,9 @@ namespace winvrx {
 
 namespace {
 
-constexpr int kWeekToMonth = 5;
 constexpr int kUrbanPercent = 20;
 constexpr int kRuralPercent = 25;
 constexpr int kMinutesAnHour = 60;
-
-Fraction reducedMinutes() {
-    return {105, 2};
-}
-
-bool isReduced(const PayrollLaw& law) {
-    return law.settings.nightHourIsReduced && law.settings.nightWork == NightWork::Urban;
-}
 
 Sum hourSum(const PayrollLaw& law, const HourBase& base) {
     Sum hour = Sum(base.pay).over(base.divisor);
@@ -26,33 +17,22 @@ Fraction withPercent(int percent) {
     return {100 + percent, 100};
 }
 
+int nightPercent(const PayrollLaw& law) {
+    return law.settings.nightWork == NightWork::Rural ? kRuralPercent : kUrbanPercent;
+}
+
 Sum nightSum(const PayrollLaw& law, Sum sum, std::chrono::seconds clock) {
+    const bool isReduced =
+        law.settings.nightHourIsReduced && law.settings.nightWork == NightWork::Urban;
     sum = std::move(sum).hours(clock);
-    return isReduced(law) ? std::move(sum).times(kMinutesAnHour).over(reducedMinutes()) : sum;
+    return isReduced ? std::move(sum).times(kMinutesAnHour).over({105, 2}) : sum;
 }
 
 }  // namespace
 
-Fraction divisorOf(const Fraction& weeklyHours) {
-    return weeklyHours * kWeekToMonth;
-}
-
-Fraction hourValue(const PayrollLaw& law, const HourBase& base) {
-    return hourSum(law, base).value();
-}
-
 Reckoning overtimePay(const PayrollLaw& law, const HourBase& base, int percent,
                       std::chrono::seconds worked, std::string words) {
     return hourSum(law, base).times(withPercent(percent)).hours(worked).rounded(std::move(words));
-}
-
-Fraction nightHours(const PayrollLaw& law, std::chrono::seconds clock) {
-    const Fraction hours = hoursOf(clock);
-    return isReduced(law) ? hours * kMinutesAnHour / reducedMinutes() : hours;
-}
-
-int nightPercent(const PayrollLaw& law) {
-    return law.settings.nightWork == NightWork::Rural ? kRuralPercent : kUrbanPercent;
 }
 
 Reckoning nightPremium(const PayrollLaw& law, const HourBase& base, std::chrono::seconds clock) {
@@ -64,6 +44,11 @@ Reckoning nightOvertimePay(const PayrollLaw& law, const HourBase& base, int perc
                            std::chrono::seconds clock, std::string words) {
     Sum sum = hourSum(law, base).times(withPercent(percent)).times(withPercent(nightPercent(law)));
     return nightSum(law, std::move(sum), clock).rounded(std::move(words));
+}
+
+Reckoning timeLost(const PayrollLaw& law, const HourBase& base, std::chrono::seconds time) {
+    if (time <= std::chrono::seconds::zero()) return {};
+    return hourSum(law, base).hours(time).rounded("Horas de atraso e falta");
 }
 
 Reckoning restReflex(std::initializer_list<Money> variablePay, int businessDays, int restDays) {

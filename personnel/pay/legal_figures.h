@@ -4,7 +4,6 @@
 #include "personnel/pay/fraction.h"
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
 // What the law sets in reais and per cent, each figure with the month or the day from which it is
@@ -13,10 +12,11 @@
 
 namespace winvrx {
 
-struct MinimumWage {
+/// The minimum wage; what each dependant takes off the base of the IRRF; the discount that may be
+/// taken instead of all legal deductions, zero where there is none.
+struct LegalAmount {
     Date from{};
     Money amount{};
-    std::string source;
 };
 
 struct Bracket {
@@ -29,7 +29,6 @@ inline constexpr Money kNoTop{INT64_MAX};
 struct InssTable {
     Date from{};
     std::vector<Bracket> brackets;  ///< rising; the last top is the ceiling
-    std::string source;
 
     [[nodiscard]] Money ceiling() const { return brackets.back().top; }
 };
@@ -38,27 +37,11 @@ struct SalaryFamily {
     Date from{};
     Money quota{};
     Money limit{};  ///< the highest month's pay that has it
-    std::string source;
 };
 
 struct IncomeTaxTable {
     Date from{};
     std::vector<Bracket> brackets;  ///< rising; the first has the rate 0, the last no top
-    std::string source;
-};
-
-/// What each dependant takes off the base.
-struct DependantDeduction {
-    Date from{};
-    Money amount{};
-    std::string source;
-};
-
-/// The discount that may be taken instead of all legal deductions; zero where there is none.
-struct SimplifiedDiscount {
-    Date from{};
-    Money amount{};
-    std::string source;
 };
 
 /// Lei 9.250/1995, art. 3º-A: up to `fullUpTo` the tax falls by at most `most`, up to `upTo` by
@@ -70,7 +53,6 @@ struct TaxReduction {
     Money upTo{};
     Money start{};
     Fraction rate{};
-    std::string source;
 };
 
 }  // namespace winvrx

@@ -50,10 +50,9 @@ Fraction LegalLine::takeNumber() {
     return number;
 }
 
-std::string LegalLine::takeSource() {
-    std::string source = take("a fonte");
+void LegalLine::requireSource() {
+    (void)take("a fonte");
     if (next_ != cells_.size()) throw fault("há colunas a mais depois da fonte.");
-    return source;
 }
 
 std::vector<LegalLine> legalLines(std::string_view file, std::string_view bytes) {

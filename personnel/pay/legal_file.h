@@ -35,8 +35,8 @@ class LegalLine {
     [[nodiscard]] Date takeDay();
     [[nodiscard]] Money takeMoney();
     [[nodiscard]] Fraction takeNumber();
-    /// The source; the line must end with it.
-    [[nodiscard]] std::string takeSource();
+    /// Throws where the line does not end with its source.
+    void requireSource();
 
     /// Whether only the source is left.
     [[nodiscard]] bool isAtSource() const { return next_ + 1 >= cells_.size(); }

@@ -23,27 +23,30 @@ void requireRising(const LegalLine& line, const std::vector<Bracket>& brackets) 
             throw line.fault("as faixas devem subir em valor e em alíquota.");
 }
 
-MinimumWage minimumWageOf(LegalLine& line) {
-    return {line.takeMonth(), line.takeMoney(), line.takeSource()};
+LegalAmount amountByMonth(LegalLine& line) {
+    return {line.takeMonth(), line.takeMoney()};
+}
+
+LegalAmount amountByDay(LegalLine& line) {
+    return {line.takeDay(), line.takeMoney()};
 }
 
 InssTable inssOf(LegalLine& line) {
-    InssTable table{line.takeMonth(), {}, {}};
+    InssTable table{line.takeMonth(), {}};
     do {
         const Money top = line.takeMoney();
         table.brackets.push_back({top, takeRate(line)});
     } while (!line.isAtSource());
     requireRising(line, table.brackets);
-    table.source = line.takeSource();
     return table;
 }
 
 SalaryFamily salaryFamilyOf(LegalLine& line) {
-    return {line.takeMonth(), line.takeMoney(), line.takeMoney(), line.takeSource()};
+    return {line.takeMonth(), line.takeMoney(), line.takeMoney()};
 }
 
 IncomeTaxTable incomeTaxOf(LegalLine& line) {
-    IncomeTaxTable table{line.takeDay(), {{line.takeMoney(), 0}}, {}};
+    IncomeTaxTable table{line.takeDay(), {{line.takeMoney(), 0}}};
     while (!line.isAtSource()) {
         // "acima; 27,5; 908,73": the last bracket has no top, so it begins with its rate.
         const Money top = line.hasLeft(2) ? kNoTop : line.takeMoney();
@@ -52,29 +55,14 @@ IncomeTaxTable incomeTaxOf(LegalLine& line) {
     }
     if (table.brackets.back().top != kNoTop) throw line.fault("falta a faixa sem limite.");
     requireRising(line, table.brackets);
-    table.source = line.takeSource();
     return table;
 }
 
-DependantDeduction dependantOf(LegalLine& line) {
-    return {line.takeDay(), line.takeMoney(), line.takeSource()};
-}
-
-SimplifiedDiscount simplifiedDiscountOf(LegalLine& line) {
-    return {line.takeDay(), line.takeMoney(), line.takeSource()};
-}
-
 TaxReduction taxReductionOf(LegalLine& line) {
-    TaxReduction reduction{line.takeDay(),
-                           line.takeMoney(),
-                           line.takeMoney(),
-                           line.takeMoney(),
-                           line.takeMoney(),
-                           takeRate(line),
-                           {}};
+    TaxReduction reduction{line.takeDay(),   line.takeMoney(), line.takeMoney(),
+                           line.takeMoney(), line.takeMoney(), takeRate(line)};
     if (reduction.upTo < reduction.fullUpTo)
         throw line.fault("o limite da redução parcial é menor que o da redução total.");
-    reduction.source = line.takeSource();
     return reduction;
 }
 
@@ -84,6 +72,7 @@ void addAll(DatedTable<Line>& table, std::vector<LegalLine> lines, Line (*read)(
     std::vector<Line> added;
     for (LegalLine& line : lines) {
         Line one = read(line);
+        line.requireSource();
         if (std::ranges::find(added, one.from, &Line::from) != added.end())
             throw line.fault("o início " + dateText(one.from) + " já está em outra linha.");
         added.push_back(std::move(one));
@@ -99,20 +88,20 @@ void addKind(LegalTables& tables, std::vector<LegalLine> lines) {
 
 /// In the order of kLegalFiles.
 constexpr std::array<void (*)(LegalTables&, std::vector<LegalLine>), std::size(kLegalFiles)>
-    kReaders = {addKind<&LegalTables::minimumWage, minimumWageOf>,
+    kReaders = {addKind<&LegalTables::minimumWage, amountByMonth>,
                 addKind<&LegalTables::inss, inssOf>,
                 addKind<&LegalTables::salaryFamily, salaryFamilyOf>,
                 addKind<&LegalTables::incomeTax, incomeTaxOf>,
-                addKind<&LegalTables::dependant, dependantOf>,
-                addKind<&LegalTables::simplifiedDiscount, simplifiedDiscountOf>,
+                addKind<&LegalTables::dependant, amountByDay>,
+                addKind<&LegalTables::simplifiedDiscount, amountByDay>,
                 addKind<&LegalTables::taxReduction, taxReductionOf>};
 
+/// Past the last line is a day of a later year: such figures are set anew each year.
 template <typename Line>
 void warn(std::vector<std::string>& warnings, const DatedTable<Line>& table, Date date) {
-    if (table.coverageOf(date) == TableCoverage::BeforeFirst)
-        warnings.push_back("Não há " + table.name() + " para " + dateText(date) + ": " +
-                           table.beginning());
-    else if (table.coverageOf(date) == TableCoverage::PastLast)
+    if (!table.find(date))
+        warnings.push_back(table.lackText(date));
+    else if (date.year() > table.lines().back().from.year())
         warnings.push_back("A última linha de " + table.name() + " vale desde " +
                            dateText(table.lines().back().from) + ". Confira se ainda vale em " +
                            dateText(date) + ".");

@@ -12,12 +12,12 @@
 namespace winvrx {
 
 struct LegalTables {
-    DatedTable<MinimumWage> minimumWage{"salário mínimo"};
+    DatedTable<LegalAmount> minimumWage{"salário mínimo"};
     DatedTable<InssTable> inss{"tabela do INSS"};
     DatedTable<SalaryFamily> salaryFamily{"salário-família"};
     DatedTable<IncomeTaxTable> incomeTax{"tabela do IRRF"};
-    DatedTable<DependantDeduction> dependant{"dedução por dependente"};
-    DatedTable<SimplifiedDiscount> simplifiedDiscount{"desconto simplificado"};
+    DatedTable<LegalAmount> dependant{"dedução por dependente"};
+    DatedTable<LegalAmount> simplifiedDiscount{"desconto simplificado"};
     DatedTable<TaxReduction> taxReduction{"redução do IRRF"};
 
     /// A sentence for each table that has no line of the month's own year, or none at all, for a

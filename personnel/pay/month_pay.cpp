@@ -1,7 +1,6 @@
 #include "personnel/pay/month_pay.h"
 
 #include "personnel/pay/absences.h"
-#include "personnel/pay/family_quota.h"
 #include "personnel/pay/inss.h"
 #include "personnel/pay/usual_deductions.h"
 
@@ -47,38 +46,24 @@ void reckonHours(const PayrollLaw& law, const MonthPayCase& month, const RiskPay
 }
 
 Reckoning inssOf(const PayrollLaw& law, const MonthPayCase& month, Money base) {
-    Reckoning all = inss(law, base + month.vacationBase, month.part.month());
+    const Reckoning all = inss(law, base + month.vacationBase, month.part.month());
     if (month.vacationBase.cents == 0) return all;
-    const Reckoning rest = Sum(all.amount)
-                               .minus(month.vacationInss)
-                               .rounded("INSS sem o que já se descontou nas férias");
-    append(all.memo, rest.memo);
-    return {atLeastZero(rest.amount), all.memo};
-}
-
-/// Whether the advance was taxed when it was paid, in another month than the rest.
-bool isAdvanceTaxedApart(const PayrollLaw& law, const MonthPayCase& month) {
-    return law.settings.incomeTaxMoment == IncomeTaxMoment::EachPayment && month.advancePaid &&
-           monthOf(*month.advancePaid) != monthOf(month.paid);
+    Reckoning rest = following(all.memo, Sum(all.amount)
+                                             .minus(month.vacationInss)
+                                             .rounded("INSS sem o que já se descontou nas férias"));
+    rest.amount = atLeastZero(rest.amount);
+    return rest;
 }
 
 IncomeTax taxOf(const PayrollLaw& law, const MonthPayCase& month, Money base,
                 const MonthDeductions& pay, Money alimony) {
-    const Money apart = isAdvanceTaxedApart(law, month) ? pay.advance.amount : Money{};
-    IncomeTax tax = incomeTax(law, {.kind = TaxedIncome::Month,
-                                    .income = atLeastZero(base - apart) + month.earlier.income,
-                                    .inss = pay.inss.amount + month.earlier.inss,
-                                    .dependants = month.dependants,
-                                    .alimony = alimony,
-                                    .privatePension = month.privatePension,
-                                    .paid = month.paid});
-    if (month.earlier.withheld.cents == 0) return tax;
-    const Reckoning rest = Sum(tax.withheld)
-                               .minus(month.earlier.withheld)
-                               .rounded("IRRF sem o que já se reteve no mês");
-    append(tax.memo, rest.memo);
-    tax.withheld = atLeastZero(rest.amount);
-    return tax;
+    return incomeTax(law, {.kind = TaxedIncome::Month,
+                           .income = base,
+                           .inss = pay.inss.amount,
+                           .dependants = month.dependants,
+                           .alimony = alimony,
+                           .privatePension = month.privatePension,
+                           .paid = month.paid});
 }
 
 /// The IRRF falls by the alimony and the alimony by the IRRF: from that without any tax downwards
@@ -103,15 +88,18 @@ Reckoning alimonyOfNet(const PayrollLaw& law, const MonthPayCase& month, Money b
 Reckoning alimonyOf(const PayrollLaw& law, const MonthPayCase& month, Money base,
                     const MonthDeductions& pay) {
     Reckoning all;
-    const auto add = [&all](const Reckoning& part) {
-        all.amount = all.amount + part.amount;
-        append(all.memo, part.memo);
-    };
-    if (month.alimony.cents > 0) add(Sum(month.alimony).rounded("Pensão alimentícia"));
+    if (month.alimony.cents > 0) all = Sum(month.alimony).rounded("Pensão alimentícia");
     if (month.alimonyOfGross > Fraction(0))
-        add(Sum(base).percent(month.alimonyOfGross).rounded("Pensão alimentícia sobre o bruto"));
-    if (month.alimonyOfNet > Fraction(0)) add(alimonyOfNet(law, month, base, pay, all.amount));
+        all = all +
+              Sum(base).percent(month.alimonyOfGross).rounded("Pensão alimentícia sobre o bruto");
+    if (month.alimonyOfNet > Fraction(0))
+        all = all + alimonyOfNet(law, month, base, pay, all.amount);
     return all;
+}
+
+Reckoning partOf(const Reckoning& whole, const Fraction& share) {
+    if (share == Fraction(1) || whole.amount.cents == 0) return whole;
+    return following(whole.memo, Sum(whole.amount).times(share).rounded("Pelos dias do mês"));
 }
 
 }  // namespace
@@ -123,23 +111,6 @@ RiskPay wholeRiskPay(const PayrollLaw& law, const MonthPayCase& month) {
         unhealthy = unhealthyPay(law, month.unhealthyPercent, month.salary, month.part.month());
     if (month.isDangerous) danger = dangerPay(month.salary);
     return betterRiskPay(std::move(unhealthy), std::move(danger));
-}
-
-Reckoning partOf(const Reckoning& whole, const Fraction& share) {
-    if (share == Fraction(1) || whole.amount.cents == 0) return whole;
-    Reckoning part = Sum(whole.amount).times(share).rounded("Pelos dias do mês");
-    part.memo.insert(part.memo.begin(), whole.memo.begin(), whole.memo.end());
-    return part;
-}
-
-Money MonthEarnings::earned() const {
-    return salary.amount + risk.total() + minimumOvertime.amount + maximumOvertime.amount +
-           night.amount + minimumNightOvertime.amount + maximumNightOvertime.amount +
-           restReflex.amount;
-}
-
-Money MonthEarnings::lost() const {
-    return absences.amount + restsLost.amount + missing.amount;
 }
 
 MonthEarnings monthEarnings(const PayrollLaw& law, const MonthPayCase& month) {
@@ -167,20 +138,6 @@ MonthDeductions monthDeductions(const PayrollLaw& law, const MonthPayCase& month
     pay.tax = taxOf(law, month, base, pay, pay.alimony.amount);
     pay.voucher = transportVoucher(month.salary, month.voucherCost, month.voucherPercent,
                                    law.settings.voucherFollowsDaysWorked ? share : Fraction(1));
-    pay.fgts = fgts(law, base, month.fgtsRate);
-    if (law.settings.isDomesticEmployer)
-        pay.guide = domesticGuide(law, base + month.vacationBase, month.part.month());
-    return pay;
-}
-
-MonthPay monthPay(const PayrollLaw& law, const MonthPayCase& month) {
-    const MonthEarnings earnings = monthEarnings(law, month);
-    const Money base = atLeastZero(earnings.earned() - earnings.lost());
-    MonthPay pay{earnings, monthDeductions(law, month, base), base, {}, {}, {}};
-    pay.credits = pay.earned() + pay.familyQuota.amount;
-    pay.debits =
-        pay.lost() + pay.inss.amount + pay.tax.withheld + pay.voucher.amount + pay.advance.amount;
-    pay.net = pay.credits - pay.debits;
     return pay;
 }
 

@@ -22,13 +22,6 @@ struct ExtraHours {
     std::chrono::seconds byNight{};  ///< clock hours
 };
 
-/// What was paid, in the calendar month of this payment, before it, and withheld of it.
-struct EarlierPayments {
-    Money income;
-    Money inss;
-    Money withheld;
-};
-
 struct MonthPayCase {
     MonthPart part;  ///< of which days the salary is paid
     Date paid{};
@@ -48,14 +41,12 @@ struct MonthPayCase {
     /// Of the tickets: zero, no voucher; nullopt, not known, and the limit is taken.
     std::optional<Money> voucherCost = Money{};
     Fraction advancePercent = 0;
-    std::optional<Date> advancePaid = {};
     int children = 0;             ///< with a right to the salary-family
     int dependants = 0;           ///< of the IRRF
     Money alimony = {};           ///< by court decision; what a share of the pay gives comes on top
     Fraction alimonyOfGross = 0;  ///< per cent of what INSS and IRRF fall on
     Fraction alimonyOfNet = 0;    ///< per cent of that less both, the IRRF less the alimony
     Money privatePension = {};
-    EarlierPayments earlier = {};
     /// Of a vacation in the month: what falls in its INSS, and what is withheld of it already.
     Money vacationBase = {};
     Money vacationInss = {};
@@ -75,9 +66,6 @@ struct MonthEarnings {
     Reckoning absences;
     Reckoning restsLost;
     Reckoning missing;
-
-    [[nodiscard]] Money earned() const;
-    [[nodiscard]] Money lost() const;
 };
 [[nodiscard]] MonthEarnings monthEarnings(const PayrollLaw& law, const MonthPayCase& month);
 
@@ -88,25 +76,12 @@ struct MonthDeductions {
     IncomeTax tax;
     Reckoning voucher;
     Reckoning advance;
-    Reckoning fgts;
-    std::optional<DomesticGuide> guide;  ///< of a domestic employer
 };
-/// `base` is what INSS, IRRF and FGTS fall on.
+/// `base` is what INSS and IRRF fall on.
 [[nodiscard]] MonthDeductions monthDeductions(const PayrollLaw& law, const MonthPayCase& month,
                                               Money base);
 
-struct MonthPay : MonthEarnings, MonthDeductions {
-    Money base;
-    Money credits;  ///< of earnings, before absences
-    Money debits;   ///< of everything taken off, absences among it
-    Money net;      ///< credits − debits
-};
-[[nodiscard]] MonthPay monthPay(const PayrollLaw& law, const MonthPayCase& month);
-
 /// The additions of a whole month.
 [[nodiscard]] RiskPay wholeRiskPay(const PayrollLaw& law, const MonthPayCase& month);
-
-/// The part of a month in its additions.
-[[nodiscard]] Reckoning partOf(const Reckoning& whole, const Fraction& share);
 
 }  // namespace winvrx

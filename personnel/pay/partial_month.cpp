@@ -12,6 +12,16 @@ int divisorOf(const MonthPart& part, PartialMonth method) {
     return method == PartialMonth::MonthLength ? daysIn(part.month()) : kDaysAMonth;
 }
 
+/// Of the calendar, or of a month of thirty days.
+int paidDays(const MonthPart& part, PartialMonth method) {
+    const int calendar = part.calendarDays();
+    if (method != PartialMonth::CommercialDays || calendar == 0) return calendar;
+    const bool endsMonth = part.last == lastDay(part.month());
+    const int end = endsMonth ? kDaysAMonth : std::min(dayNumber(part.last), kDaysAMonth);
+    // A day that was worked is paid, the 31st too.
+    return std::max(1, end - (dayNumber(part.first) - 1) - part.daysAway);
+}
+
 }  // namespace
 
 MonthPart wholeMonth(WorkMonth month) {
@@ -25,15 +35,6 @@ std::optional<MonthPart> employedPart(WorkMonth month, Date admission,
     if (dismissal) part.last = std::min(part.last, *dismissal);
     if (part.first > part.last) return std::nullopt;
     return part;
-}
-
-int paidDays(const MonthPart& part, PartialMonth method) {
-    const int calendar = part.calendarDays();
-    if (method != PartialMonth::CommercialDays || calendar == 0) return calendar;
-    const bool endsMonth = part.last == lastDay(part.month());
-    const int end = endsMonth ? kDaysAMonth : std::min(dayNumber(part.last), kDaysAMonth);
-    // A day that was worked is paid, the 31st too.
-    return std::max(1, end - (dayNumber(part.first) - 1) - part.daysAway);
 }
 
 Fraction paidShare(const MonthPart& part, PartialMonth method) {

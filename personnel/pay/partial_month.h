@@ -29,9 +29,6 @@ struct MonthPart {
 [[nodiscard]] std::optional<MonthPart> employedPart(WorkMonth month, Date admission,
                                                     std::optional<Date> dismissal);
 
-/// Days that are paid: of the calendar, or of a month of thirty days.
-[[nodiscard]] int paidDays(const MonthPart& part, PartialMonth method);
-
 /// The paid part of a month's salary: 1 for a whole month, never more.
 [[nodiscard]] Fraction paidShare(const MonthPart& part, PartialMonth method);
 

@@ -28,8 +28,6 @@ constexpr std::array<std::string_view, 2> kInss = {"Truncar cada faixa", "Arredo
 constexpr std::array<std::string_view, 3> kPartial = {
     "Dias corridos ÷ 30", "Mês comercial de 30 dias", "Dias corridos ÷ dias do mês"};
 constexpr std::array<std::string_view, 2> kReduction = {"Só as férias", "Férias e salário do mês"};
-constexpr std::array<std::string_view, 2> kTaxMoment = {"No fechamento do mês",
-                                                        "Em cada pagamento"};
 constexpr std::array<std::string_view, 2> kCents = {"Arredondar", "Truncar"};
 constexpr std::array<std::string_view, 2> kUnhealthy = {"Salário mínimo", "Salário do empregado"};
 constexpr std::array<std::string_view, 2> kNight = {"Urbano, 20%", "Rural, 25%"};
@@ -80,9 +78,6 @@ constexpr std::array kSettings = {
         "Em mês parcial, o limite de 6% segue o salário dos dias trabalhados.", kNoYes),
     setting<&S::inssRounding>("inss", "Centavos do INSS",
                               "Um ou dois centavos no INSS e, por ele, até um no IRRF.", kInss),
-    setting<&S::incomeTaxMoment>("irrf-quando", "IRRF do adiantamento",
-                                 "\"Em cada pagamento\" tributa o vale pago em outro mês.",
-                                 kTaxMoment),
     setting<&S::taxOfTenRealsIsWaived>("irrf-dez-reais", "Dispensar IRRF de até R$ 10,00",
                                        "Não retém o imposto de até dez reais, salvo no 13º.",
                                        kNoYes),
@@ -108,6 +103,9 @@ constexpr std::array kSettings = {
                               kCents),
 };
 
+/// Of records of before: a choice that changed nothing. It goes with the next recording.
+constexpr std::string_view kGivenUpKey = "irrf-quando";
+
 }  // namespace
 
 std::span<const PayrollSetting> payrollSettings() {
@@ -121,14 +119,15 @@ std::string settingLine(const PayrollSetting& setting, const PayrollSettings& se
 bool takeSettingLine(PayrollSettings& settings, std::string_view line) {
     const std::size_t equals = line.find('=');
     if (equals == std::string_view::npos) return false;
+    const std::string_view key = trimmed(line.substr(0, equals));
     for (const PayrollSetting& setting : kSettings) {
-        if (trimmed(line.substr(0, equals)) != setting.key) continue;
+        if (key != setting.key) continue;
         const auto choice = parseWholeNumber(line.substr(equals + 1), 0,
                                              static_cast<int>(setting.choices.size()) - 1);
         if (choice) setting.choose(settings, static_cast<std::size_t>(*choice));
         return choice.has_value();
     }
-    return false;
+    return key == kGivenUpKey;
 }
 
 }  // namespace winvrx

@@ -27,10 +27,6 @@ enum class VacationReduction {
     Apart,     ///< by the vacation's own income
     WithMonth  ///< by the vacation's income and the month's together
 };
-enum class IncomeTaxMoment {
-    MonthClose,  ///< everything of a month once, when it closes
-    EachPayment  ///< the advance by itself, added up within a calendar month
-};
 enum class CentsRounding { HalfUp, Truncated };
 enum class UnhealthyBase { MinimumWage, Salary };
 enum class NightWork {
@@ -54,7 +50,6 @@ struct PayrollSettings {
     bool simplifiedDiscountOnThirteenth = true;
     VacationReduction vacationReduction = VacationReduction::Apart;
     bool doubledVacationIsTaxed = false;
-    IncomeTaxMoment incomeTaxMoment = IncomeTaxMoment::MonthClose;
     bool hourIsRounded = false;
     NightWork nightWork = NightWork::Urban;
     bool nightHourIsReduced = true;

@@ -9,6 +9,18 @@ namespace {
 constexpr int kMinutesAnHour = 60;
 constexpr int kSecondsAnHour = 3600;
 
+Fraction hoursOf(std::chrono::seconds duration) {
+    return {duration.count(), kSecondsAnHour};
+}
+
+std::string hoursText(std::chrono::seconds duration) {
+    const std::int64_t minutes = duration.count() / kMinutesAnHour;
+    if (duration.count() % kMinutesAnHour != 0) return decimalText(hoursOf(duration), 4) + " h";
+    const std::int64_t rest = minutes % kMinutesAnHour;
+    return std::to_string(minutes / kMinutesAnHour) + (rest < 10 ? ":0" : ":") +
+           std::to_string(rest);
+}
+
 }  // namespace
 
 std::string memoText(const MemoLine& line) {
@@ -19,9 +31,19 @@ void append(Memo& memo, const Memo& more) {
     memo.insert(memo.end(), more.begin(), more.end());
 }
 
+Reckoning operator+(Reckoning sum, const Reckoning& part) {
+    append(sum.memo, part.memo);
+    return {sum.amount + part.amount, std::move(sum.memo)};
+}
+
+Reckoning following(const Memo& steps, const Reckoning& last) {
+    Reckoning whole{last.amount, steps};
+    append(whole.memo, last.memo);
+    return whole;
+}
+
 Reckoning smallerOf(const Reckoning& a, const Reckoning& b, std::string_view words) {
-    Reckoning smaller{std::min(a.amount, b.amount), a.memo};
-    append(smaller.memo, b.memo);
+    Reckoning smaller{std::min(a.amount, b.amount), (a + b).memo};
     smaller.memo.push_back({std::string(words), moneyText(smaller.amount)});
     return smaller;
 }
@@ -36,18 +58,6 @@ Money operator-(Money a, Money b) {
 
 Money atLeastZero(Money money) {
     return std::max(money, Money{});
-}
-
-std::string hoursText(std::chrono::seconds duration) {
-    const std::int64_t minutes = duration.count() / kMinutesAnHour;
-    if (duration.count() % kMinutesAnHour != 0) return decimalText(hoursOf(duration), 4) + " h";
-    const std::int64_t rest = minutes % kMinutesAnHour;
-    return std::to_string(minutes / kMinutesAnHour) + (rest < 10 ? ":0" : ":") +
-           std::to_string(rest);
-}
-
-Fraction hoursOf(std::chrono::seconds duration) {
-    return {duration.count(), kSecondsAnHour};
 }
 
 Sum::Sum(std::initializer_list<Money> terms) {

@@ -41,6 +41,11 @@ struct Reckoning {
 
 void append(Memo& memo, const Memo& more);
 
+/// Both amounts, one explanation behind the other.
+[[nodiscard]] Reckoning operator+(Reckoning sum, const Reckoning& part);
+/// The last of several steps, explained with those before it.
+[[nodiscard]] Reckoning following(const Memo& steps, const Reckoning& last);
+
 /// The smaller, with both explanations and what decides.
 [[nodiscard]] Reckoning smallerOf(const Reckoning& a, const Reckoning& b, std::string_view words);
 
@@ -48,10 +53,6 @@ void append(Memo& memo, const Memo& more);
 [[nodiscard]] Money operator-(Money a, Money b);
 /// `money`, or nothing where it is below zero.
 [[nodiscard]] Money atLeastZero(Money money);
-
-/// "10:00"; "10,01 h" for what has seconds.
-[[nodiscard]] std::string hoursText(std::chrono::seconds duration);
-[[nodiscard]] Fraction hoursOf(std::chrono::seconds duration);
 
 /// A sum as it is worked out: exact to its end, where it is rounded once.
 class Sum {
@@ -65,6 +66,7 @@ class Sum {
     [[nodiscard]] Sum times(const Fraction& factor) &&;
     /// × 7,5%
     [[nodiscard]] Sum percent(const Fraction& rate) &&;
+    /// × 10:00; × 10,01 h where it has seconds
     [[nodiscard]] Sum hours(std::chrono::seconds duration) &&;
     [[nodiscard]] Sum minus(Money amount) &&;
     /// The value so far in whole cents, half up, as some employers round an hour's value.

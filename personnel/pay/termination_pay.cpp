@@ -27,11 +27,9 @@ int finePercent(const TerminationCase& end) {
 }
 
 /// By mutual fault half of it is due (CLT, art. 484; Súmula 14 of the TST).
-Reckoning halved(const TerminationCase& end, Reckoning whole) {
+Reckoning halved(const TerminationCase& end, const Reckoning& whole) {
     if (!isMutual(end)) return whole;
-    const Reckoning half = Sum(whole.amount).over(2).rounded("Metade por culpa recíproca");
-    append(whole.memo, half.memo);
-    return {half.amount, whole.memo};
+    return following(whole.memo, Sum(whole.amount).over(2).rounded("Metade por culpa recíproca"));
 }
 
 int daysOfNoticePaid(const TerminationCase& end, const TerminationDates& dates) {
@@ -41,7 +39,7 @@ int daysOfNoticePaid(const TerminationCase& end, const TerminationDates& dates) 
     return static_cast<int>(paid.count());
 }
 
-Reckoning noticePay(const TerminationCase& end, int days, std::string words) {
+Reckoning daysOfPay(const TerminationCase& end, int days, std::string words) {
     return Sum({end.salary, end.averages}).over(kDaysAMonth).times(days).rounded(std::move(words));
 }
 
@@ -49,11 +47,11 @@ void reckonNotice(const TerminationCase& end, TerminationPay& pay) {
     pay.dates =
         end.dates ? *end.dates : terminationDates(end.type, end.notice, end.admission, end.given);
     if (const int days = daysOfNoticePaid(end, pay.dates); days > 0)
-        pay.notice = noticePay(end, days, "Aviso prévio indenizado");
+        pay.notice = daysOfPay(end, days, "Aviso prévio indenizado");
     if (!pay.notice.memo.empty()) pay.notice.memo.push_back({pay.dates.noticeDays.rule});
     if (isResignation(end) && end.notice == NoticeType::Paid)
         pay.noticeDeducted =
-            noticePay(end, pay.dates.noticeDays.value, "Aviso prévio não cumprido");
+            daysOfPay(end, pay.dates.noticeDays.value, "Aviso prévio não cumprido");
 }
 
 void reckonBalance(const PayrollLaw& law, const TerminationCase& end, TerminationPay& pay) {
@@ -88,18 +86,10 @@ Reckoning overdueVacation(const TerminationCase& end) {
     if (end.doubledPeriods > 0)
         pay.memo.push_back(
             {"Em dobro (CLT, art. 137)", std::to_string(end.doubledPeriods) + " período(s)"});
-    if (end.overdueDays > 0) {
-        const Reckoning days = Sum({end.salary, end.averages})
-                                   .over(kDaysAMonth)
-                                   .times(end.overdueDays)
-                                   .rounded("Férias vencidas, dias restantes");
-        append(pay.memo, days.memo);
-        pay.amount = pay.amount + days.amount;
-    }
+    if (end.overdueDays > 0)
+        pay = pay + daysOfPay(end, end.overdueDays, "Férias vencidas, dias restantes");
     if (pay.amount.cents == 0) return {};
-    const Reckoning third = Sum(pay.amount).over(3).rounded("1/3 das férias vencidas");
-    append(pay.memo, third.memo);
-    return {pay.amount + third.amount, pay.memo};
+    return pay + Sum(pay.amount).over(3).rounded("1/3 das férias vencidas");
 }
 
 void reckonVacation(const TerminationCase& end, TerminationPay& pay) {

@@ -30,15 +30,6 @@ std::size_t placeOf(const PayrollEvent& event) {
     return static_cast<std::size_t>(std::ranges::find(kOrder, event.code) - kOrder.begin());
 }
 
-Reckoning togetherOf(std::initializer_list<const Reckoning*> parts) {
-    Reckoning sum;
-    for (const Reckoning* part : parts) {
-        sum.amount = sum.amount + part->amount;
-        append(sum.memo, part->memo);
-    }
-    return sum;
-}
-
 Reckonings earningsByCode(const MonthEarnings& pay) {
     return {{"001", pay.salary},
             {"002", pay.risk.unhealthy},
@@ -49,7 +40,7 @@ Reckonings earningsByCode(const MonthEarnings& pay) {
             {"008", pay.minimumNightOvertime},
             {"009", pay.maximumNightOvertime},
             {"010", pay.restReflex},
-            {"026", togetherOf({&pay.absences, &pay.restsLost, &pay.missing})}};
+            {"026", pay.absences + pay.restsLost + pay.missing}};
 }
 
 Reckonings deductionsByCode(const MonthDeductions& pay) {
@@ -106,7 +97,7 @@ class SheetWriter {
         }
     }
 
-    [[nodiscard]] PaySheet& sheet() { return sheet_; }
+    [[nodiscard]] const PaySheet& sheet() const { return sheet_; }
 
     [[nodiscard]] PaySheet finished() && {
         std::ranges::stable_sort(sheet_.lines, {},
@@ -130,15 +121,12 @@ void writeMonth(const PayrollLaw& law, const MonthPayCase& month, SheetWriter& w
     writer.take({{"098", pension}});
     writer.take(earningsByCode(monthEarnings(law, month)));
     const Money base = taxedPay(writer.sheet(), PayrollKind::Month);
-    const MonthDeductions deductions = monthDeductions(law, month, base);
-    writer.take(deductionsByCode(deductions));
-    writer.sheet().guide = deductions.guide;
+    writer.take(deductionsByCode(monthDeductions(law, month, base)));
 }
 
 void writeVacation(const PayrollLaw& law, const MonthPayCase& month, const VacationSheet& vacation,
                    SheetWriter& writer) {
-    if (vacation.pay.soldDays > 0 || vacation.pay.doubledDays > 0)
-        writer.addMissing(vacationExtras());
+    if (vacation.soldDays > 0 || vacation.doubledDays > 0) writer.addMissing(vacationExtras());
     writer.open(PayrollKind::Vacation);
     writer.take(vacationEarnings(law, month, vacation));
     const Money taxable = taxedPay(writer.sheet(), PayrollKind::Vacation);
@@ -154,12 +142,16 @@ void writeThirteenth(const PayrollLaw& law, const MonthPayCase& month, const Thi
     writer.take(thirteenthDeductions(law, month, year, total));
 }
 
-/// Of the first instalment its half, of the second what the first did not have.
-Money thirteenthFgtsBase(const PaySheet& sheet) {
-    Money first;
-    for (const std::string_view code : kFirstInstalment)
-        first = first + sheet.amountOf(code);
-    return first + atLeastZero(integralThirteenth(sheet) - sheet.amountOf("032"));
+/// Every taxed line once, whatever payrolls its event belongs to. Of the first instalment of a 13th
+/// its half, of the second what the first did not have.
+Money fgtsBaseOf(const PaySheet& sheet) {
+    Money base;
+    for (const PayLine& line : sheet.lines) {
+        const bool isFirst =
+            std::ranges::find(kFirstInstalment, line.event.code) != kFirstInstalment.end();
+        if (line.event.isEarning() && (line.event.isTaxed() || isFirst)) base = base + line.amount;
+    }
+    return atLeastZero(base - sheet.amountOf(kLostHours) - sheet.amountOf("032"));
 }
 
 }  // namespace
@@ -205,8 +197,7 @@ Money taxedPay(const PaySheet& sheet, PayrollKind payroll) {
 
 void addUp(PaySheet& sheet) {
     sheet.base = taxedPay(sheet, PayrollKind::Month);
-    sheet.fgtsBase =
-        sheet.base + taxedPay(sheet, PayrollKind::Vacation) + thirteenthFgtsBase(sheet);
+    sheet.fgtsBase = fgtsBaseOf(sheet);
     sheet.credits = sheet.debits = {};
     for (const PayLine& line : sheet.lines) {
         Money& side = line.event.isEarning() ? sheet.credits : sheet.debits;
@@ -222,13 +213,7 @@ PaySheet paySheet(const PayrollLaw& law, const PaySheetCase& one,
     if (one.hasMonth) writeMonth(law, month, writer);
     if (one.vacation) writeVacation(law, month, *one.vacation, writer);
     if (one.thirteenth) writeThirteenth(law, month, *one.thirteenth, writer);
-    PaySheet sheet = std::move(writer).finished();
-    sheet.fgts = fgts(law, sheet.fgtsBase, month.fgtsRate);
-    return sheet;
-}
-
-std::span<const std::string_view> computationOrder() {
-    return kOrder;
+    return std::move(writer).finished();
 }
 
 }  // namespace winvrx

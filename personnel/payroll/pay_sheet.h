@@ -4,7 +4,6 @@
 #include "personnel/payroll/payroll_event.h"
 
 #include <map>
-#include <optional>
 #include <span>
 #include <vector>
 
@@ -27,8 +26,6 @@ struct PaySheet {
     std::vector<PayLine> lines;  ///< in the order of the computation
     Money base;                  ///< of the month's INSS, IRRF and FGTS
     Money fgtsBase;              ///< with vacation and 13th
-    Reckoning fgts;
-    std::optional<DomesticGuide> guide = {};
     Money credits;
     Money debits;
     Money net;
@@ -42,7 +39,7 @@ struct PaySheet {
 /// Taxed earnings of a payroll, in a month less the hours that were lost.
 [[nodiscard]] Money taxedPay(const PaySheet& sheet, PayrollKind payroll);
 
-/// Bases and totals from the lines; FGTS and guide are not among them.
+/// Bases and totals from the lines.
 void addUp(PaySheet& sheet);
 
 /// The month as the reference numbers of the events have it: 001 hours a month, 002 per cent, 003
@@ -57,8 +54,4 @@ void addUp(PaySheet& sheet);
 [[nodiscard]] PaySheet paySheet(const PayrollLaw& law, const PaySheetCase& one,
                                 std::span<const PayrollEventLine> events,
                                 const TypedAmounts& typed = {});
-
-/// The codes of the default catalogue in the order in which they are computed.
-[[nodiscard]] std::span<const std::string_view> computationOrder();
-
 }  // namespace winvrx

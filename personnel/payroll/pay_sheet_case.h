@@ -1,7 +1,6 @@
 #pragma once
 
 #include "personnel/pay/month_pay.h"
-#include "personnel/vacation/vacation_pay.h"
 
 #include <optional>
 
@@ -15,16 +14,19 @@ struct ThirteenthSheet {
     Instalment instalment = Instalment::First;
     int twelfths = 12;
     std::optional<int> twelfthsSoFar = {};
-    Money averages = {};
-    Money firstPaid = {};  ///< of the second: what the first paid out
+    Reckoning averages = {};  ///< of overtime and other variable pay
+    Money firstPaid = {};     ///< of the second: what the first paid out
     Date paid{};
-    Memo averagesMemo = {};
 };
 
 struct VacationSheet {
-    VacationCase pay;  ///< salary and additions apart: `pay.salary` is the base salary
     Date start{};
-    Memo averagesMemo = {};
+    int days = 30;            ///< taken
+    int soldDays = 0;         ///< turned into pay
+    int doubledDays = 0;      ///< of those taken, past the limit of the concession
+    Reckoning averages = {};  ///< of the acquisition period
+    Date paid{};
+    Money monthsIncome = {};  ///< where the reduction of the IRRF takes it in
 };
 
 struct PaySheetCase {

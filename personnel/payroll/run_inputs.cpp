@@ -4,6 +4,7 @@
 #include "personnel/pay/thirteenth.h"
 #include "personnel/payroll/pay_sheet.h"
 #include "personnel/payroll/payroll_record.h"
+#include "personnel/vacation/vacation_pay.h"
 #include "personnel/vacation/vacation_periods.h"
 
 #include <algorithm>
@@ -34,35 +35,28 @@ ThirteenthSheet thirteenthSheet(const PayrollLaw& law, const EmployeeMonth& of,
     const auto twelfthsTo = [&](Date last) {
         return thirteenthTwelfths(when.year(), admission, last, inputs.history.absences);
     };
-    const Reckoning averages = variablePayAverage(law, month, inputs.history.recorded);
     const bool isFirst = inputs.run == PayrollRun::ThirteenthFirst;
     return {.instalment = isFirst ? Instalment::First : Instalment::Second,
             .twelfths = twelfthsTo(end),
             .twelfthsSoFar = twelfthsTo(std::min(end, lastDay(when))),
-            .averages = averages.amount,
+            .averages = variablePayAverage(law, month, inputs.history.recorded),
             .firstPaid = inputs.firstPaid.value_or(Money{}),
-            .paid = month.paid,
-            .averagesMemo = averages.memo};
+            .paid = month.paid};
 }
 
 VacationSheet vacationSheet(const PayrollLaw& law, const EmployeeMonth& of, const RunInputs& inputs,
                             const MonthPayCase& month) {
     const VacationItem& item = inputs.vacation.value();
     const LeavePeriod away = item.away().value();
-    const Reckoning averages = variablePayAverage(law, month, inputs.history.recorded);
     const auto period = periodOf(of.employee.admissionDate(), item);
     const bool isTogether = law.settings.vacationReduction == VacationReduction::WithMonth;
-    return {.pay = {.salary = month.salary,
-                    .averages = averages.amount,
-                    .days = item.days(),
-                    .soldDays = item.soldDays(),
-                    .doubledDays = daysPastLimit(period, away.first, item.days()),
-                    .dependants = month.dependants,
-                    .competence = monthOf(away.first),
-                    .paid = vacationPaymentDue(away.first),
-                    .monthsIncome = isTogether ? month.salary : Money{}},
-            .start = away.first,
-            .averagesMemo = averages.memo};
+    return {.start = away.first,
+            .days = item.days(),
+            .soldDays = item.soldDays(),
+            .doubledDays = daysPastLimit(period, away.first, item.days()),
+            .averages = variablePayAverage(law, month, inputs.history.recorded),
+            .paid = vacationPaymentDue(away.first),
+            .monthsIncome = isTogether ? month.salary : Money{}};
 }
 
 /// What the month's INSS takes of vacations: the pay of their days in it, and what was withheld of

@@ -6,20 +6,13 @@ namespace {
 
 constexpr int kEmployerPercent = 20;
 
-Reckoning together(const Reckoning& one, const Reckoning& other) {
-    Reckoning sum{one.amount + other.amount, one.memo};
-    append(sum.memo, other.memo);
-    return sum;
-}
-
 }  // namespace
 
 SheetDues sheetDues(const PayrollLaw& law, const PaySheet& sheet, WorkMonth month,
                     const PayrollFacts& facts) {
     if (law.settings.isDomesticEmployer) {
-        DomesticGuide guide = domesticGuide(law, sheet.base, month);
-        return {together(guide.fgts, guide.reserve), together(guide.employer, guide.accident),
-                std::move(guide)};
+        const DomesticGuide guide = domesticGuide(law, sheet.base, month);
+        return {guide.fgts + guide.reserve, guide.employer + guide.accident, guide};
     }
     const FgtsRate rate = facts.isApprentice ? FgtsRate::Apprentice : FgtsRate::Usual;
     SheetDues dues{fgts(law, sheet.fgtsBase, rate), {}};

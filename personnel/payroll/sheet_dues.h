@@ -1,5 +1,6 @@
 #pragma once
 
+#include "personnel/pay/employer_dues.h"
 #include "personnel/payroll/pay_sheet.h"
 #include "personnel/payroll/payroll_facts.h"
 

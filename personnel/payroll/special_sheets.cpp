@@ -2,6 +2,7 @@
 
 #include "personnel/pay/inss.h"
 #include "personnel/pay/thirteenth.h"
+#include "personnel/vacation/vacation_pay.h"
 
 namespace winvrx {
 
@@ -19,25 +20,17 @@ Reckoning thirdOf(Money pay, std::string words) {
     return Sum(pay).over(3).rounded(std::move(words));
 }
 
-/// Everything that a day of vacation is paid by.
-Money monthlyPay(const VacationSheet& vacation, const RiskPay& risk) {
-    return vacation.pay.salary + risk.total() + vacation.pay.averages;
+/// Days of vacation, paid by all that the month is paid by.
+Reckoning allOf(const MonthPayCase& month, const VacationSheet& vacation, const RiskPay& risk,
+                int days, std::string words) {
+    return daysOf(month.salary + risk.total() + vacation.averages.amount, days, std::move(words));
 }
 
-void addExtras(const VacationSheet& vacation, Money monthly, Reckonings& events) {
-    events["034"] = daysOf(monthly, vacation.pay.soldDays, "Abono pecuniário");
-    events["035"] = thirdOf(events["034"].amount, "1/3 do abono");
-    Reckoning doubled = daysOf(monthly, vacation.pay.doubledDays, "Dobra das férias");
-    const Reckoning third = thirdOf(doubled.amount, "1/3 sobre a dobra");
-    append(doubled.memo, third.memo);
-    events["036"] = {doubled.amount + third.amount, doubled.memo};
-}
-
-Money doubledIncome(const PayrollLaw& law, const VacationSheet& vacation, const RiskPay& risk) {
-    if (!law.settings.doubledVacationIsTaxed) return {};
-    Reckonings events;
-    addExtras(vacation, monthlyPay(vacation, risk), events);
-    return events["036"].amount;
+Reckoning doubledPay(const MonthPayCase& month, const VacationSheet& vacation,
+                     const RiskPay& risk) {
+    const Reckoning doubled =
+        allOf(month, vacation, risk, vacation.doubledDays, "Dobra das férias");
+    return doubled + thirdOf(doubled.amount, "1/3 sobre a dobra");
 }
 
 Reckoning twelfthsOf(Money monthly, int twelfths, std::string words) {
@@ -46,19 +39,14 @@ Reckoning twelfthsOf(Money monthly, int twelfths, std::string words) {
 }
 
 Reckoning halfOf(Money monthly, int twelfths, const std::string& words) {
-    Reckoning whole = twelfthsOf(monthly, twelfths, words);
+    const Reckoning whole = twelfthsOf(monthly, twelfths, words);
     if (whole.amount.cents == 0) return {};
-    const Reckoning half = Sum(whole.amount).over(2).rounded("Metade");
-    append(whole.memo, half.memo);
-    return {half.amount, whole.memo};
+    return following(whole.memo, Sum(whole.amount).over(2).rounded("Metade"));
 }
 
 /// With the explanation of the averages before their line.
-Reckoning explained(const Memo& averages, const Reckoning& line) {
-    if (line.amount.cents == 0) return line;
-    Reckoning whole{line.amount, averages};
-    append(whole.memo, line.memo);
-    return whole;
+Reckoning explained(const Reckoning& averages, const Reckoning& line) {
+    return line.amount.cents == 0 ? line : following(averages.memo, line);
 }
 
 }  // namespace
@@ -66,32 +54,34 @@ Reckoning explained(const Memo& averages, const Reckoning& line) {
 Reckonings vacationEarnings(const PayrollLaw& law, const MonthPayCase& month,
                             const VacationSheet& vacation) {
     const RiskPay risk = wholeRiskPay(law, month);
-    const int days = vacation.pay.days;
+    const int days = vacation.days;
     Reckonings events;
-    events["011"] = daysOf(vacation.pay.salary, days, "Férias");
+    events["011"] = daysOf(month.salary, days, "Férias");
     events["012"] = daysOf(risk.unhealthy.amount, days, "Insalubridade das férias");
     events["015"] =
-        explained(vacation.averagesMemo, daysOf(vacation.pay.averages, days, "Médias das férias"));
+        explained(vacation.averages, daysOf(vacation.averages.amount, days, "Médias das férias"));
     events["016"] = daysOf(risk.danger.amount, days, "Periculosidade das férias");
     events["013"] = thirdOf(events["012"].amount, "1/3 da insalubridade");
     events["014"] = thirdOf(events["011"].amount + events["015"].amount + events["016"].amount,
                             "1/3 de férias");
-    addExtras(vacation, monthlyPay(vacation, risk), events);
+    events["034"] = allOf(month, vacation, risk, vacation.soldDays, "Abono pecuniário");
+    events["035"] = thirdOf(events["034"].amount, "1/3 do abono");
+    events["036"] = doubledPay(month, vacation, risk);
     return events;
 }
 
 Reckonings vacationDeductions(const PayrollLaw& law, const MonthPayCase& month,
                               const VacationSheet& vacation, Money taxable) {
-    const Reckoning contribution = vacationInss(law, taxable, vacation.start, vacation.pay.days);
-    const RiskPay risk = wholeRiskPay(law, month);
+    const Reckoning contribution = vacationInss(law, taxable, vacation.start, vacation.days);
+    Money income = taxable;
+    if (law.settings.doubledVacationIsTaxed)
+        income = income + doubledPay(month, vacation, wholeRiskPay(law, month)).amount;
     const IncomeTax tax = incomeTax(law, {.kind = TaxedIncome::Vacation,
-                                          .income = taxable + doubledIncome(law, vacation, risk),
+                                          .income = income,
                                           .inss = contribution.amount,
                                           .dependants = month.dependants,
-                                          .alimony = vacation.pay.alimony,
-                                          .privatePension = vacation.pay.privatePension,
-                                          .paid = vacation.pay.paid,
-                                          .monthsIncome = vacation.pay.monthsIncome});
+                                          .paid = vacation.paid,
+                                          .monthsIncome = vacation.monthsIncome});
     return {{"093", contribution}, {"094", {tax.withheld, tax.memo}}};
 }
 
@@ -102,14 +92,15 @@ Reckonings thirteenthEarnings(const PayrollLaw& law, const MonthPayCase& month,
     if (year.instalment == Instalment::Second)
         return {{"017", thirteenthOf(month.salary, risk.danger.amount, year.twelfths)},
                 {"020", twelfthsOf(unhealthy, year.twelfths, "Insalubridade no 13º")},
-                {"022", explained(year.averagesMemo,
-                                  twelfthsOf(year.averages, year.twelfths, "Médias no 13º"))}};
+                {"022", explained(year.averages, twelfthsOf(year.averages.amount, year.twelfths,
+                                                            "Médias no 13º"))}};
     const bool isSoFar = law.settings.firstInstalment == FirstInstalment::TwelfthsSoFar;
     const int twelfths = isSoFar ? year.twelfthsSoFar.value_or(year.twelfths) : year.twelfths;
-    return {{"019", halfOf(month.salary, twelfths, "13º salário")},
-            {"018", halfOf(unhealthy, twelfths, "Insalubridade no 13º")},
-            {"021", explained(year.averagesMemo, halfOf(year.averages, twelfths, "Médias no 13º"))},
-            {"033", halfOf(risk.danger.amount, twelfths, "Periculosidade no 13º")}};
+    return {
+        {"019", halfOf(month.salary, twelfths, "13º salário")},
+        {"018", halfOf(unhealthy, twelfths, "Insalubridade no 13º")},
+        {"021", explained(year.averages, halfOf(year.averages.amount, twelfths, "Médias no 13º"))},
+        {"033", halfOf(risk.danger.amount, twelfths, "Periculosidade no 13º")}};
 }
 
 Reckonings thirteenthDeductions(const PayrollLaw& law, const MonthPayCase& month,

@@ -1,11 +1,11 @@
 #include "personnel/pay/absences.h"
 #include "personnel/pay/employer_dues.h"
-#include "personnel/pay/family_quota.h"
 #include "personnel/pay/income_tax.h"
 #include "personnel/pay/inss.h"
 #include "personnel/pay/month_pay.h"
 #include "personnel/pay/usual_deductions.h"
 #include "tests/payroll_cases/topics.h"
+#include "tests/support/pay_events.h"
 #include "timecard/month/holiday_offer.h"
 
 #include <array>
@@ -19,6 +19,7 @@ using Law = const PayrollLaw&;
 using Out = CaseFigures&;
 
 constexpr int kDaysAMonth = 30;
+constexpr int kVoucherPercent = 6;
 
 MonthSettings nationalMonth(WorkMonth month) {
     return proposedSettings(month, calendarHolidays(month));
@@ -55,7 +56,6 @@ void incomeTaxTopic(In in, Law law, Out out) {
 
 void overtimeTopic(In in, Law law, Out out) {
     const HourBase base{in.money({"salario"}) + in.moneyOr({"adicionais"}), in.divisor()};
-    out.addDecimal("valor_hora_4dec", hourValue(law, base) / 100);
     Money extra;
     for (const int percent : in.extraPercents()) {
         const std::string digits = std::to_string(percent);
@@ -79,8 +79,6 @@ void nightTopic(In in, Law law, Out out) {
     plain.nightHourIsReduced = false;
     PayrollSettings rural = plain;
     rural.nightWork = NightWork::Rural;
-    out.addDecimal("valor_hora_4dec", hourValue(law, base) / 100);
-    out.addDecimal("horas_reduzidas_4dec", nightHours(law, clock));
     out.add("adicional_20", nightPremium(law, base, clock));
     out.add("sem_reducao", nightPremium({law.tables, plain}, base, clock));
     out.add("adicional_25", nightPremium({law.tables, rural}, base, clock));
@@ -131,7 +129,7 @@ Fraction shareOf(In in, Law law) {
 void voucherTopic(In in, Law law, Out out) {
     const Money salary = in.money({"salario_base", "salario"});
     const Fraction share = shareOf(in, law);
-    out.add("teto_6", voucherLimit(salary, kVoucherPercent, share));
+    out.add("teto_6", transportVoucher(salary, std::nullopt, kVoucherPercent, share));
     out.add("desconto",
             transportVoucher(salary, in.money({"custo", "vt_custo"}), kVoucherPercent, share));
 }
@@ -193,8 +191,9 @@ MonthPayCase payslipCase(In in, Law law) {
 
 void payslipTopic(In in, Law law, Out out) {
     const MonthPayCase month = payslipCase(in, law);
-    const MonthPay pay = monthPay(law, month);
-    addTax(out, pay.tax, "base_ir");
+    const PaySheet sheet = paySheet(law, {.month = month}, eventsSaying(month));
+    const MonthEarnings pay = monthEarnings(law, month);
+    addTax(out, monthDeductions(law, month, sheet.base).tax, "base_ir");
     out.add("dias_uteis", month.days.businessDays);
     out.add("descansos", month.days.restDays);
     const std::pair<const char*, Money> lines[] = {
@@ -210,13 +209,14 @@ void payslipTopic(In in, Law law, Out out) {
         {"faltas", pay.absences.amount},
         {"dsr_perdido", pay.restsLost.amount},
         {"atrasos", pay.missing.amount},
-        {"base", pay.base},
-        {"sal_familia", pay.familyQuota.amount},
-        {"vt", pay.voucher.amount},
-        {"adiantamento", pay.advance.amount},
-        {"fgts", pay.fgts.amount},
-        {"inss", pay.inss.amount},
-        {"liquido", pay.net}};
+        {"base", sheet.base},
+        {"sal_familia", sheet.amountOf("004")},
+        {"vt", sheet.amountOf("025")},
+        {"adiantamento", sheet.amountOf("031")},
+        {"fgts", fgts(law, sheet.fgtsBase, month.fgtsRate).amount},
+        {"inss", sheet.amountOf("091")},
+        {"irrf", sheet.amountOf("092")},
+        {"liquido", sheet.net}};
     for (const auto& [name, amount] : lines)
         out.add(name, amount);
 }

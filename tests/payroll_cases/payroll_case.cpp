@@ -2,7 +2,6 @@
 
 #include "foundation/values/csv.h"
 #include "foundation/values/text.h"
-#include "personnel/pay/hours_pay.h"
 
 #include <algorithm>
 
@@ -154,7 +153,7 @@ std::chrono::seconds CaseInputs::hours(Keys keys) const {
 
 Fraction CaseInputs::divisor() const {
     const Keys weekly = {"horas_semanais", "jornada_semanal"};
-    if (find(weekly)) return divisorOf(number(weekly));
+    if (find(weekly)) return number(weekly) * 5;
     return numberOr({"divisor"}, 220);
 }
 
@@ -186,10 +185,6 @@ Date CaseInputs::refDay() const {
 
 void CaseFigures::add(std::string name, Money amount) {
     texts_[std::move(name)] = amountText(amount);
-}
-
-void CaseFigures::addDecimal(std::string name, const Fraction& value) {
-    texts_[std::move(name)] = withPoint(decimalText(value, 4));
 }
 
 void CaseFigures::add(std::string name, int count) {

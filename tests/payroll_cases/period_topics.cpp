@@ -1,7 +1,7 @@
 #include "personnel/pay/termination_pay.h"
 #include "personnel/pay/thirteenth.h"
 #include "personnel/pay/vacation_rules.h"
-#include "personnel/vacation/vacation_pay.h"
+#include "personnel/payroll/pay_sheet.h"
 #include "tests/payroll_cases/topics.h"
 #include "timecard/month/holidays.h"
 
@@ -23,26 +23,56 @@ int twelfthsIn(In in) {
     return thirteenthTwelfths(end.year(), in.date({"admissao"}), end);
 }
 
+/// The amounts of some events together.
+Money sumOf(const PaySheet& sheet, std::initializer_list<std::string_view> codes) {
+    Money sum;
+    for (const std::string_view code : codes)
+        sum = sum + sheet.amountOf(code);
+    return sum;
+}
+
+PaySheetCase sheetCase(In in, Date paid) {
+    PaySheetCase one{.month = {.part = wholeMonth(in.refMonth()), .paid = paid}, .hasMonth = false};
+    one.month.salary = in.money({"salario"});
+    one.month.dependants = in.wholeOr({"dependentes", "dep_ir"}, 0);
+    one.month.alimony = in.moneyOr({"pensao", "pensao_alimenticia"});
+    return one;
+}
+
+void addTax(Out out, Law law, const IncomeTaxCase& payment) {
+    const IncomeTax tax = incomeTax(law, payment);
+    out.add("metodo", tax.isSimplified ? "simplificado" : "legal");
+    out.add("base_ir", tax.base);
+    out.add("imposto_tabela", tax.tableTax);
+    out.add("reducao", tax.reduction);
+}
+
 void thirteenthTopic(In in, Law law, Out out) {
-    const Thirteenth pay = thirteenth(
-        law,
-        {.salary = in.money({"salario"}),
-         .averages = in.moneyOr({"medias"}),
-         .twelfths = in.has("avos") ? in.whole({"avos"}) : twelfthsIn(in),
-         .dependants = in.wholeOr({"dependentes", "dep_ir"}, 0),
-         .alimony = in.moneyOr({"pensao", "pensao_alimenticia"}),
-         .paid = in.dateIfAny({"pagamento"}).value_or(secondInstalmentDue(in.refDay().year()))});
-    out.add("total", pay.total);
-    out.add("primeira", pay.first);
-    out.add("inss", pay.inss);
-    out.add("metodo", pay.tax.isSimplified ? "simplificado" : "legal");
-    out.add("base_ir", pay.tax.base);
-    out.add("imposto_tabela", pay.tax.tableTax);
-    out.add("reducao", pay.tax.reduction);
-    out.add("irrf", pay.tax.withheld);
-    out.add("segunda_liquida", pay.second);
-    out.add("fgts_1a", pay.fgtsFirst);
-    out.add("fgts_2a", pay.fgtsSecond);
+    const Date paid = in.dateIfAny({"pagamento"}).value_or(secondInstalmentDue(in.refDay().year()));
+    PaySheetCase one = sheetCase(in, paid);
+    one.thirteenth =
+        ThirteenthSheet{.twelfths = in.has("avos") ? in.whole({"avos"}) : twelfthsIn(in),
+                        .averages = {in.moneyOr({"medias"})},
+                        .paid = paid};
+    const PaySheet first = paySheet(law, one, defaultEvents({}));
+    one.thirteenth->instalment = Instalment::Second;
+    one.thirteenth->firstPaid = first.net;
+    const PaySheet second = paySheet(law, one, defaultEvents({}));
+    const Money total = sumOf(second, {"017", "020", "022"});
+    out.add("total", total);
+    out.add("primeira", first.net);
+    out.add("inss", second.amountOf("095"));
+    addTax(out, law,
+           {.kind = TaxedIncome::Thirteenth,
+            .income = total,
+            .inss = second.amountOf("095"),
+            .dependants = one.month.dependants,
+            .alimony = one.month.alimony,
+            .paid = paid});
+    out.add("irrf", second.amountOf("096"));
+    out.add("segunda_liquida", second.net);
+    out.add("fgts_1a", fgts(law, first.fgtsBase));
+    out.add("fgts_2a", fgts(law, second.fgtsBase));
 }
 
 void twelfthsTopic(In in, Law, Out out) {
@@ -59,31 +89,33 @@ int doubledDays(In in, int days) {
 
 void vacationTopic(In in, Law law, Out out) {
     const int days = in.wholeOr({"dias"}, kWholeVacation);
-    const VacationPay pay = vacationPay(
-        law, {.salary = in.money({"salario"}),
-              .averages = in.moneyOr({"medias"}),
-              .days = days,
-              .soldDays = in.wholeOr({"vendidos"}, 0),
-              .doubledDays = doubledDays(in, days),
-              .dependants = in.wholeOr({"dependentes", "dep_ir"}, 0),
-              .alimony = in.moneyOr({"pensao", "pensao_alimenticia"}),
-              .competence = monthOf(in.dateIfAny({"inicio", "competencia"}).value_or(in.refDay())),
-              .paid = in.dateIfAny({"pagamento"}).value_or(in.refDay())});
-    out.add("ferias", pay.vacation);
-    out.add("terco", pay.third);
-    out.add("abono", pay.sold);
-    out.add("terco_abono", pay.soldThird);
-    out.add("dobra", pay.doubled);
-    out.add("tributavel", pay.taxable);
-    out.add("bruto", pay.gross);
-    out.add("inss", pay.inss);
-    out.add("metodo", pay.tax.isSimplified ? "simplificado" : "legal");
-    out.add("base_ir", pay.tax.base);
-    out.add("imposto_tabela", pay.tax.tableTax);
-    out.add("reducao", pay.tax.reduction);
-    out.add("irrf", pay.tax.withheld);
-    out.add("liquido", pay.net);
-    out.add("fgts", pay.fgts);
+    const Date paid = in.dateIfAny({"pagamento"}).value_or(in.refDay());
+    PaySheetCase one = sheetCase(in, paid);
+    one.vacation = VacationSheet{
+        .start = in.dateIfAny({"inicio", "competencia"}).value_or(firstDay(in.refMonth())),
+        .days = days,
+        .soldDays = in.wholeOr({"vendidos"}, 0),
+        .doubledDays = doubledDays(in, days),
+        .averages = {in.moneyOr({"medias"})},
+        .paid = paid};
+    const PaySheet sheet = paySheet(law, one, defaultEvents({}));
+    out.add("ferias", sumOf(sheet, {"011", "015"}));
+    out.add("terco", sheet.amountOf("014"));
+    out.add("abono", sheet.amountOf("034"));
+    out.add("terco_abono", sheet.amountOf("035"));
+    out.add("dobra", sheet.amountOf("036"));
+    out.add("tributavel", sheet.fgtsBase);
+    out.add("bruto", sheet.credits);
+    out.add("inss", sheet.amountOf("093"));
+    addTax(out, law,
+           {.kind = TaxedIncome::Vacation,
+            .income = sheet.fgtsBase,
+            .inss = sheet.amountOf("093"),
+            .dependants = one.month.dependants,
+            .paid = paid});
+    out.add("irrf", sheet.amountOf("094"));
+    out.add("liquido", sheet.net);
+    out.add("fgts", fgts(law, sheet.fgtsBase));
 }
 
 void vacationDaysTopic(In in, Law, Out out) {

@@ -87,6 +87,8 @@ TEST(Settings, AreEachReadBackAndExplained) {
         EXPECT_FALSE(takeSettingLine(settings, line)) << line;
         EXPECT_EQ(settings, PayrollSettings{}) << line;
     }
+    EXPECT_TRUE(takeSettingLine(settings, "irrf-quando = 1"));  // an earlier version's
+    EXPECT_EQ(settings, PayrollSettings{});
 }
 
 TEST(WeeklyRest, IsLostOnceAWeekWithItsHolidays) {
@@ -140,29 +142,6 @@ TEST(RiskPay, IsTheBetterOne) {
     EXPECT_EQ(pay.unhealthy.amount, Money{64840});
     EXPECT_EQ(pay.danger.amount, Money{});
     EXPECT_EQ(betterRiskPay(unhealthyPay(40, {162100}), dangerPay({300000})).total(), Money{90000});
-}
-
-TEST(MonthPay, TaxesTheAdvanceWhereItWasPaid) {
-    LegalTables tables = tablesOf2026();
-    addLegalLines(tables, "irrf-tabela.txt",
-                  "desde; isento\n01/01/2026; 2.000,00; 3.000,00; 10; 200,00; 20; 500,00; A");
-    addLegalLines(tables, "irrf-dependente.txt", "desde; d\n01/01/2026; 100,00; A");
-    addLegalLines(tables, "irrf-desconto-simplificado.txt", "desde; d\n01/01/2026; 0,00; A");
-    PayrollSettings settings;
-    const PayrollLaw law{tables, settings};
-    MonthPayCase month{.part = wholeMonth(2026y / 3), .paid = 2026y / 4 / 5};
-    month.salary = {1000000};
-    month.advancePercent = 40;
-    month.advancePaid = 2026y / 3 / 20;
-    EXPECT_EQ(monthPay(law, month).tax.withheld,
-              Money{130239});  // (10.000,00 − 988,07) × 20% − 500
-    settings.incomeTaxMoment = IncomeTaxMoment::EachPayment;
-    EXPECT_EQ(monthPay(law, month).tax.withheld, Money{50239});  // (6.000,00 − 988,07) × 20% − 500
-    month.earlier = {{400000}, {}, {30000}};
-    EXPECT_EQ(monthPay(law, month).tax.withheld, Money{100239});
-    EXPECT_FALSE(monthPay(law, month).guide);
-    settings.isDomesticEmployer = true;
-    EXPECT_EQ(monthPay(law, month).guide.value().reserve.amount, Money{32000});
 }
 
 TEST(VacationRules, KnowTwelfthsFractionsAndDates) {

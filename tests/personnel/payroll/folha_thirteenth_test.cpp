@@ -48,7 +48,7 @@ TEST_F(FolhaThirteenthTest, TheSecondInstalmentFollowsTheFirst) {
     EXPECT_EQ(cents("019"), 150000);
     EXPECT_EQ(cents("001"), 0);
     EXPECT_EQ(folha.shown()->sheet.net, Money{150000});
-    EXPECT_EQ(folha.shown()->sheet.fgts.amount, Money{12000});
+    EXPECT_EQ(folha.shown()->sheet.fgtsBase, Money{150000});
 
     load(kDecember, ThirteenthSecond);
     EXPECT_EQ(folha.open(ana), Opened);
@@ -57,7 +57,7 @@ TEST_F(FolhaThirteenthTest, TheSecondInstalmentFollowsTheFirst) {
     EXPECT_EQ(cents("096"), 0);
     EXPECT_EQ(cents("032"), 150000);
     EXPECT_EQ(folha.shown()->sheet.net, Money{125142});
-    EXPECT_EQ(folha.shown()->sheet.fgts.amount, Money{12000});
+    EXPECT_EQ(folha.shown()->sheet.fgtsBase, Money{150000});
 
     // Gone meanwhile, from another screen.
     const std::string first = files.content.at(kFirst);
