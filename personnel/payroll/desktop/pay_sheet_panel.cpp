@@ -3,7 +3,6 @@
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/look.h"
 
-#include <QApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -60,6 +59,15 @@ class AmountDelegate final : public QStyledItemDelegate {
         if (typed != index.data().toString()) take_(index.row(), typed);
     }
 
+  protected:
+    /// What comes to nothing stands back, in the palette of the moment.
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        static const QString nothing = toQt(moneyText({}));
+        if (option->text == nothing)
+            option->palette.setBrush(QPalette::Text, option->palette.placeholderText());
+    }
+
   private:
     Take take_;
 };
@@ -78,11 +86,9 @@ void showLine(QTreeWidgetItem& row, const PayLine& line, const PaySheet* now) {
     row.setText(kDebit, {});
     row.setText(amountColumn(line), toQt(moneyText(line.amount)));
     row.setText(kMark, markOf(line, now));
-    const QBrush quiet = QApplication::palette().brush(QPalette::PlaceholderText);
     for (const Place money : {kCredit, kDebit}) {
         row.setTextAlignment(money, Qt::AlignRight | Qt::AlignVCenter);
         row.setFont(money, look::fixedFont());
-        row.setForeground(money, line.amount.cents == 0 ? quiet : QBrush());
     }
     row.setFlags(row.flags() | Qt::ItemIsEditable);
 }

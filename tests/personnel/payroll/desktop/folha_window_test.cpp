@@ -54,6 +54,32 @@ struct FolhaWindowTest : ::testing::Test {
     }
 };
 
+TEST_F(FolhaWindowTest, ShowsWhatComesToNothingInThePaletteOfTheMoment) {
+    open();
+    auto& events = screen->find<QTreeWidget>("folha.events");
+    QPalette palette = events.palette();
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, Qt::white);
+    palette.setColor(QPalette::Text, Qt::blue);
+    palette.setColor(QPalette::PlaceholderText, Qt::red);
+    events.setPalette(palette);
+    const auto rednessOf = [&](int row) {
+        const auto cell = events.visualItemRect(events.topLevelItem(row));
+        const QImage shown = events.viewport()->grab(cell).toImage();
+        int reddest = -255;
+        for (int y = 0; y < shown.height(); ++y)
+            for (int x = 0; x < shown.width(); ++x) {
+                const QColor pixel = shown.pixelColor(x, y);
+                reddest = std::max(reddest, pixel.red() - pixel.blue());
+            }
+        return reddest;
+    };
+    EXPECT_EQ(row("folha.events", 1)[3], "0,00");
+    EXPECT_GT(rednessOf(1), 60);
+    EXPECT_EQ(row("folha.events", 10)[4], "254,44");
+    EXPECT_LE(rednessOf(10), 0);
+}
+
 TEST_F(FolhaWindowTest, ComputesExplainsTypesOverAndRecordsByKeyboard) {
     open();
     EXPECT_EQ(screen->namelessWidgets(), "");
