@@ -14,6 +14,13 @@ void add(const Store& store, const EmployeeKey& key, std::optional<WorkMonth> mo
     paid.fgtsBase = paid.fgtsBase + recorded->sheet.fgtsBase;
 }
 
+std::optional<Date> recordedEnd(const LeaveCalendar& leaves) {
+    std::optional<Date> last;
+    for (const DatedLeave& one : leaves.leaves())
+        if (one.leave.isTermination()) last = one.leave.lastDayWorked().value_or(one.period.last);
+    return last < leaves.admission() ? std::nullopt : last;
+}
+
 }  // namespace
 
 PaidBeforeTheEnd paidBeforeTheEnd(const Store& store, const EmployeeKey& key, Date last,
@@ -31,20 +38,25 @@ PaidBeforeTheEnd paidBeforeTheEnd(const Store& store, const EmployeeKey& key, Da
     return paid;
 }
 
-std::optional<Date> endThatPays(const EmployeeMonth& of, const RunInputs& inputs) {
-    const auto end = of.leaves.contractEnd();
-    if (!end) return std::nullopt;
+std::optional<EndBeside> endBeside(const EmployeeMonth& of, const RunInputs& inputs) {
+    const auto inForce = of.leaves.contractEnd();
+    const auto last = inForce ? inForce : recordedEnd(of.leaves);
+    if (!last) return std::nullopt;
     const WorkMonth month = of.settings.month;
+    EndBeside end{*last, !inForce};
+    bool isPast = monthOf(*last) <= month;
     switch (inputs.run) {
         case PayrollRun::Month:
-            return monthOf(*end) == month ? end : std::nullopt;
+            end.pays = monthOf(*last) == month;
+            break;
         case PayrollRun::ThirteenthFirst:
         case PayrollRun::ThirteenthSecond:
-            return end->year() == month.year() && monthOf(*end) <= month ? end : std::nullopt;
+            end.pays = isPast && last->year() == month.year();
+            break;
         case PayrollRun::Vacation:
-            return inputs.vacation && inputs.vacation->away()->first > *end ? end : std::nullopt;
+            end.pays = isPast = inputs.vacation && inputs.vacation->away()->first > *last;
     }
-    return std::nullopt;
+    return end.pays || (end.isActive && isPast) ? std::optional(end) : std::nullopt;
 }
 
 std::string paidByTheEnd(PayrollRun run) {

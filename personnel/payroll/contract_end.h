@@ -17,9 +17,15 @@ namespace winvrx {
 [[nodiscard]] PaidBeforeTheEnd paidBeforeTheEnd(const Store& store, const EmployeeKey& key,
                                                 Date last, const FolderNames& names);
 
-/// The last day of a contract whose end pays what the run would pay; nullopt where the payroll
-/// does.
-[[nodiscard]] std::optional<Date> endThatPays(const EmployeeMonth& of, const RunInputs& inputs);
+/// The end of a contract beside a payroll that pays what it pays.
+struct EndBeside {
+    Date last{};
+    bool isActive = false;  ///< a termination is on record of who has not been made inactive
+    bool pays = true;       ///< what the run would pay; not where it lies further back
+};
+/// nullopt where the payroll alone pays. Of who is active the last termination counts, by its last
+/// day worked, unless it is of an earlier contract; from before the run's month too.
+[[nodiscard]] std::optional<EndBeside> endBeside(const EmployeeMonth& of, const RunInputs& inputs);
 
 /// "o saldo de salário", "o 13º salário", "as férias": what the run and the end both could pay.
 [[nodiscard]] std::string paidByTheEnd(PayrollRun run);

@@ -158,13 +158,12 @@ Folha::Opening Folha::open(const Employee& employee) {
             return openPeriods(employee);
         case PayrollGlance::Lack::FirstInstalment:
             at_.person.tell(kFirstBeforeSecond);
-            return Opening::Refused;
+            break;
         case PayrollGlance::Lack::Salary:
             at_.person.tell(noSalary(employee));
-            return Opening::Refused;
+            break;
         case PayrollGlance::Lack::Contract:
             at_.person.tell(noContractDays(employee, month_.month));
-            return Opening::Refused;
     }
     return Opening::Refused;
 }
@@ -194,10 +193,7 @@ bool Folha::compute(const TypedAmounts& typed) {
     if (!requireNotSettled(Change::Record)) return false;
     return attempt(at_, incorrectData(), [&] {
         auto sheet = sheetOf(*shown_, typed);
-        if (!sheet) {
-            at_.person.tell(noContractDays(shown_->month.employee, month_.month));
-            return false;
-        }
+        if (!sheet) return at_.person.refuse(noContractDays(shown_->month.employee, month_.month));
         shown_->sheet = *std::move(sheet);
         return true;
     });

@@ -95,7 +95,8 @@ class Folha {
         std::vector<std::string> without;
         std::vector<std::string> withoutFirst;
         std::vector<std::string> withoutPeriod;
-        std::vector<std::string> paidByTheEnd;  ///< of their contract
+        std::vector<std::string> paidByTheEnd;    ///< of their contract
+        std::vector<std::string> activeAfterEnd;  ///< with a termination on record
         std::vector<std::string> recorded;
     };
 

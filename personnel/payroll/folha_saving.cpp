@@ -27,11 +27,17 @@ std::string unreadText(const OpenPayroll& payroll, std::string_view words) {
 }
 
 /// What the end of the contract has to do with a payroll that pays what it pays.
-std::string endText(Date end, const OpenPayroll& payroll, bool isPrinted) {
-    std::string text = "O contrato terminou em " + dateText(end) + ", e a rescisão paga " +
-                       paidByTheEnd(payroll.inputs.run) +
-                       ". Gravada esta folha, o cálculo da rescisão desconta o líquido dela, R$ " +
-                       moneyText(payroll.sheet.net) + ".";
+std::string endText(const EndBeside& end, const OpenPayroll& payroll, bool isPrinted) {
+    std::string text = end.isActive ? "Há uma rescisão gravada, com o último dia trabalhado em " +
+                                          dateText(end.last) + ", e o funcionário está ativo."
+                                    : "O contrato terminou em " + dateText(end.last) + ",";
+    if (end.pays)
+        text += std::string(end.isActive ? " A" : " e a") + " rescisão paga " +
+                paidByTheEnd(payroll.inputs.run) +
+                ". Gravada esta folha, o cálculo da rescisão desconta o líquido dela, R$ " +
+                moneyText(payroll.sheet.net) + ".";
+    if (end.isActive)
+        text += " Se ele saiu, inative-o antes em Afastamentos; se ficou, exclua ali a rescisão.";
     if (isPrinted)
         text += " O termo da rescisão já foi impresso: imprima-o de novo depois de gravar.";
     return text;
@@ -107,8 +113,7 @@ bool Folha::requireFirstInstalment() const {
         recordedInYear(keyOf(shown_->month.employee), PayrollRun::ThirteenthFirst, month_.month,
                        namesIn(at_.store())))
         return true;
-    at_.person.tell(refusal(kSaveTitle, std::string(kNoFirstInstalment)));
-    return false;
+    return at_.person.refuse(refusal(kSaveTitle, std::string(kNoFirstInstalment)));
 }
 
 bool Folha::requireNoSecondInstalment() const {
@@ -116,13 +121,12 @@ bool Folha::requireNoSecondInstalment() const {
         !recordedInYear(keyOf(shown_->month.employee), PayrollRun::ThirteenthSecond, month_.month,
                         namesIn(at_.store())))
         return true;
-    at_.person.tell(kSecondStands);
-    return false;
+    return at_.person.refuse(kSecondStands);
 }
 
 bool Folha::confirmSaving() const {
     std::string detail;
-    if (const auto end = endThatPays(shown_->month, shown_->inputs)) {
+    if (const auto end = endBeside(shown_->month, shown_->inputs)) {
         const auto papers = terminationFileNames(keyOf(shown_->month.employee));
         const FolderNames names = namesIn(at_.store());
         detail = endText(*end, *shown_, names.contains(papers.front()));
@@ -131,10 +135,7 @@ bool Folha::confirmSaving() const {
 }
 
 bool Folha::save() {
-    if (!shown_ || !hasAmounts(shown_->sheet)) {
-        at_.person.tell(kNothingToSave);
-        return false;
-    }
+    if (!shown_ || !hasAmounts(shown_->sheet)) return at_.person.refuse(kNothingToSave);
     if (!requireNotSettled(Change::Record)) return false;
     return attempt(at_, incorrectData(), [&] {
         if (!confirmSaving()) return false;
@@ -160,8 +161,11 @@ bool Folha::computeAll(const std::vector<Employee>& employees, const Progress& p
         if (names.contains(payrollFileName(keyOf(employee), month_.month, run_)))
             unsaved.recorded.push_back(employee.name);
         else if (const auto seen = glance(employee, names);
-                 seen.payroll && endThatPays(seen.payroll->month, seen.payroll->inputs))
-            unsaved.paidByTheEnd.push_back(employee.name);
+                 const auto end = seen.payroll
+                                      ? endBeside(seen.payroll->month, seen.payroll->inputs)
+                                      : std::nullopt)
+            (end->isActive ? unsaved.activeAfterEnd : unsaved.paidByTheEnd)
+                .push_back(employee.name);
         else if (seen.payroll)
             std::ranges::move(contentsOf(*seen.payroll, names), std::back_inserter(batch));
         else if (seen.lack == PayrollGlance::Lack::FirstInstalment)
@@ -185,14 +189,14 @@ bool Folha::confirmLeftOut(const Unsaved& unsaved, bool hasBatch) const {
     say("Sem férias gravadas para este mês: ", unsaved.withoutPeriod);
     say(withoutText(run_), unsaved.without);
     say("Contrato terminado, a rescisão paga " + paidByTheEnd(run_) + ": ", unsaved.paidByTheEnd);
+    say("Rescisão gravada, funcionário ainda ativo: ", unsaved.activeAfterEnd);
     const bool leavesOut = !detail.empty();
     say("Já gravados, ficam como estão: ", unsaved.recorded);
     if (!hasBatch) {
         Message nothing = kNothingToSave;
         nothing.title = kSaveAllTitle;
         nothing.detail = detail;
-        at_.person.tell(nothing);
-        return false;
+        return at_.person.refuse(nothing);
     }
     return !leavesOut ||
            at_.person.agrees(question(

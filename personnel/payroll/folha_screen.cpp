@@ -6,6 +6,7 @@
 #include "timecard/month/selected_month.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 
 namespace winvrx {
@@ -18,23 +19,14 @@ Message noAmount(std::string_view typed) {
     return message;
 }
 
-std::string_view textOf(PayrollGlance::Lack lack) {
-    switch (lack) {
-        case PayrollGlance::Lack::Nothing:
-            return {};
-        case PayrollGlance::Lack::Card:
-            return "Planilha de Ponto não preenchida neste mês.";
-        case PayrollGlance::Lack::FirstInstalment:
-            return "1º parcela do 13º salário ainda não gravada neste ano.";
-        case PayrollGlance::Lack::Period:
-            return "Sem férias gravadas para este mês.";
-        case PayrollGlance::Lack::Salary:
-            return "Sem salário no cadastro.";
-        case PayrollGlance::Lack::Contract:
-            return "O contrato não tem dias neste mês.";
-    }
-    return {};
-}
+/// By the number of the lack.
+constexpr std::array<std::string_view, 6> kLacks = {
+    "",
+    "Planilha de Ponto não preenchida neste mês.",
+    "1º parcela do 13º salário ainda não gravada neste ano.",
+    "Sem férias gravadas para este mês.",
+    "Sem salário no cadastro.",
+    "O contrato não tem dias neste mês."};
 
 }  // namespace
 
@@ -42,12 +34,11 @@ bool FolhaScreen::open() {
     isOpen_ = attempt(at_, incorrectData(), [this] {
         const auto month = requireSelectedMonth(at_);
         if (!month || !folha_.load(*month, folha_.run())) return false;
-        const std::string chosen = selected() ? selected()->code : "";
         const CompanyCode& code = at_.session.company.value();
         company_ = loadCompany(at_.store(), code);
         list_.fill(EmployeeRegister(at_.store(), code).load(),
                    monthMarks(at_.store(), code, *month, namesIn(at_.store()), locks_));
-        show(list_.positionOf(chosen));
+        show(position());
         return true;
     });
     return isOpen_;
@@ -66,25 +57,20 @@ std::vector<Employee> FolhaScreen::listed() const {
     return employees;
 }
 
-const Employee* FolhaScreen::selected() const {
-    return position_ ? &list_.employees().at(*position_) : nullptr;
-}
-
 std::string_view FolhaScreen::activity(const Employee& employee) const {
     const auto position = list_.positionOf(employee.code);
     return activityOf(employee, position ? list_.marks(*position) : EmployeeMarks{});
 }
 
 void FolhaScreen::show(std::optional<std::size_t> position) {
-    position_ = position;
-    lack_ = position ? folha_.show(list_.employees().at(*position)) : PayrollGlance::Lack::Nothing;
+    list_.select(position);
+    lack_ = position ? folha_.show(*selected()) : PayrollGlance::Lack::Nothing;
 }
 
 bool FolhaScreen::narrow(const std::function<void()>& filter) {
     if (!confirmLeaving()) return false;
-    const std::string code = selected() ? selected()->code : "";
     filter();
-    show(list_.positionOf(code));
+    show(position());
     return true;
 }
 
@@ -98,7 +84,7 @@ bool FolhaScreen::filterBy(std::optional<Scale> scale) {
 
 bool FolhaScreen::chooseRun(PayrollRun run) {
     if (!isOpen_ || !confirmLeaving() || !folha_.load(folha_.month().month, run)) return false;
-    show(position_);
+    show(position());
     return true;
 }
 
@@ -110,17 +96,19 @@ bool FolhaScreen::select(std::size_t position) {
 
 std::string FolhaScreen::standing() const {
     const auto& shown = folha_.shown();
-    if (!position_) return {};
-    if (!shown) return std::string(textOf(lack_));
+    if (!position()) return {};
+    if (!shown) return std::string(kLacks.at(static_cast<std::size_t>(lack_)));
     if (folha_.isChanged()) return "Alterações não gravadas";
     if (!shown->unread.empty()) return "⚠ Gravada com linhas não entendidas: " + shown->unread[0];
-    const auto end = endThatPays(shown->month, shown->inputs);
+    const auto end = endBeside(shown->month, shown->inputs);
+    const std::string last = end ? dateText(end->last) : "";
+    if (end && end->isActive && !shown->isRecorded)
+        return "Aberta: há uma rescisão gravada, de " + last + ", e o funcionário está ativo";
     if (!shown->isRecorded)
-        return end ? "Aberta: a rescisão de " + dateText(*end) + " paga " +
-                         paidByTheEnd(folha_.run())
+        return end ? "Aberta: a rescisão de " + last + " paga " + paidByTheEnd(folha_.run())
                    : "Aberta: ainda não gravada";
-    if (!hasMovedOn(*shown) && end)
-        return "Gravada: a rescisão de " + dateText(*end) + " desconta o líquido dela";
+    if (!hasMovedOn(*shown) && end && end->pays)
+        return "Gravada: a rescisão de " + last + " desconta o líquido dela";
     if (!hasMovedOn(*shown))
         return folha_.run() == PayrollRun::Month ? "Gravada: mês fechado para este funcionário"
                                                  : "Gravada";
@@ -153,7 +141,7 @@ NamedAmounts FolhaScreen::figures() const {
 }
 
 Folha::Opening FolhaScreen::compute() {
-    if (!position_) {
+    if (!position()) {
         at_.person.tell(noEmployeeSelected());
         return Folha::Opening::Refused;
     }
@@ -162,7 +150,7 @@ Folha::Opening FolhaScreen::compute() {
 }
 
 void FolhaScreen::refresh() {
-    show(position_);
+    show(position());
 }
 
 bool FolhaScreen::type(const EventCode& event, std::string_view amount) {
@@ -171,10 +159,7 @@ bool FolhaScreen::type(const EventCode& event, std::string_view amount) {
     typed.erase(event);
     if (!amount.empty()) {
         const auto money = parseMoney(amount);
-        if (!money) {
-            at_.person.tell(noAmount(amount));
-            return false;
-        }
+        if (!money) return at_.person.refuse(noAmount(amount));
         typed.emplace(event, *money);
     }
     return folha_.compute(typed);
@@ -202,7 +187,7 @@ bool FolhaScreen::saveAll(const Folha::Progress& progress) {
     if (!confirmLeaving()) return false;
     const bool done = folha_.saveAll(listed(), progress);
     readMarks();
-    show(position_);
+    show(position());
     return done;
 }
 

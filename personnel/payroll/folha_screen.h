@@ -43,8 +43,9 @@ class FolhaScreen {
     [[nodiscard]] bool chooseRun(PayrollRun run);
     /// Takes the employee at `position` in hand, asking only about typed amounts.
     [[nodiscard]] bool select(std::size_t position);
-    [[nodiscard]] std::optional<std::size_t> position() const { return position_; }
-    [[nodiscard]] const Employee* selected() const;  ///< nullptr when there is none
+    [[nodiscard]] std::optional<std::size_t> position() const { return list_.selectedPosition(); }
+    /// nullptr when there is none
+    [[nodiscard]] const Employee* selected() const { return list_.selected(); }
     /// "Ativo" or "Inativo".
     [[nodiscard]] std::string_view activity(const Employee& employee) const;
     /// Why no sheet is shown, or how it stands: "Gravada", "Aberta", …
@@ -79,7 +80,6 @@ class FolhaScreen {
     Folha folha_;
     EmployeeList list_;
     Company company_;
-    std::optional<std::size_t> position_;
     PayrollGlance::Lack lack_ = PayrollGlance::Lack::Nothing;
     bool isOpen_ = false;
 };

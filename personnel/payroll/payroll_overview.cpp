@@ -12,29 +12,18 @@ namespace {
 constexpr std::array kAmounts = {&OverviewPay::credits, &OverviewPay::debits, &OverviewPay::net,
                                  &OverviewPay::inss, &OverviewPay::fgts};
 
-std::string_view textOf(PayrollGlance::Lack lack) {
-    switch (lack) {
-        case PayrollGlance::Lack::Nothing:
-            return "Aberta";
-        case PayrollGlance::Lack::Card:
-            return "Sem cartão de ponto";
-        case PayrollGlance::Lack::FirstInstalment:
-            return "Sem a 1º parcela";
-        case PayrollGlance::Lack::Period:
-            return "Sem férias gravadas";
-        case PayrollGlance::Lack::Salary:
-            return "Sem salário";
-        case PayrollGlance::Lack::Contract:
-            return "Sem contrato no mês";
-    }
-    return {};
-}
+/// By the number of the lack.
+constexpr std::array<std::string_view, 6> kLacks = {"Aberta",           "Sem cartão de ponto",
+                                                    "Sem a 1º parcela", "Sem férias gravadas",
+                                                    "Sem salário",      "Sem contrato no mês"};
 
 std::string standingOf(const PayrollGlance& seen) {
-    if (seen.payroll && !seen.payroll->isRecorded &&
-        endThatPays(seen.payroll->month, seen.payroll->inputs))
-        return "Aberta; a rescisão paga";
-    if (!seen.payroll || !seen.payroll->isRecorded) return std::string(textOf(seen.lack));
+    if (!seen.payroll || !seen.payroll->isRecorded) {
+        const auto end =
+            seen.payroll ? endBeside(seen.payroll->month, seen.payroll->inputs) : std::nullopt;
+        if (end) return end->isActive ? "Aberta; rescisão gravada" : "Aberta; a rescisão paga";
+        return std::string(kLacks.at(static_cast<std::size_t>(seen.lack)));
+    }
     if (!hasMovedOn(*seen.payroll)) return "Gravada";
     if (!seen.payroll->now) return "Gravada; não se calcula mais";
     return "Gravada; mudou: hoje R$ " + moneyText(seen.payroll->now->net);

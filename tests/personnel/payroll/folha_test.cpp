@@ -145,6 +145,44 @@ TEST_F(FolhaTest, LeavesToTheEndOfTheContractWhatItPays) {
     }
 }
 
+TEST_F(FolhaTest, AsksAboutATerminationOfWhoIsActive) {
+    const auto termination = [this](const char* worked, const char* until) {
+        Leave leave;
+        leave.type = "008 RESCISÃO_CONTRATO_TRABALHO";
+        leave.firstDay = worked;
+        leave.lastDay = until;
+        leave.lastWorked = worked;
+        file("01configAf001") = encode(leave) + "\r\n**** \r\n";
+    };
+    struct Case {
+        const char* worked;
+        const char* until;
+        const char* detail;  ///< the beginning
+    };
+    for (const Case& one :
+         {Case{"20/03/2026", "19/04/2026",
+               "Há uma rescisão gravada, com o último dia trabalhado em 20/03/2026, e o "
+               "funcionário está ativo. A rescisão paga o saldo de salário. Gravada esta folha,"},
+          Case{"10/02/2026", "12/03/2026",
+               "Há uma rescisão gravada, com o último dia trabalhado em 10/02/2026, e o "
+               "funcionário está ativo. Se ele saiu, inative-o antes em Afastamentos;"},
+          Case{"01/04/2026", "01/04/2026", ""}, Case{"10/01/2020", "31/01/2020", ""}}) {
+        SCOPED_TRACE(one.worked);
+        termination(one.worked, one.until);
+        EXPECT_EQ(folha.open(ana), Opened);
+        person.answers = {No};
+        EXPECT_FALSE(folha.save());
+        EXPECT_EQ(person.shown.back().detail.substr(0, std::string_view(one.detail).size()),
+                  one.detail);
+        EXPECT_EQ(person.shown.back().detail.empty(), std::string_view(one.detail).empty());
+        if (std::string_view(one.detail).empty()) continue;
+        person.answers = {Yes};
+        EXPECT_FALSE(folha.saveAll({ana}, {}));
+        EXPECT_EQ(person.shown.back().detail, "Rescisão gravada, funcionário ainda ativo: ANA");
+    }
+    EXPECT_FALSE(files.content.contains(kPayroll));
+}
+
 TEST_F(FolhaTest, RecordsEveryoneInOneBatch) {
     const Employee rui = employee("002", "RUI", "2.000,00");
     const Employee eva = employee("003", "EVA", "2.500,00");
