@@ -3,10 +3,9 @@
 namespace winvrx {
 
 bool openAgencyPage(const Workplace& at, Browser& browser, const AgencyPage& page) {
-    if (browser.openPage(std::string(page.address))) return true;
-    at.person.tell(failure(page.name, "Não foi possível Abrir a Página!",
-                           "Abra no navegador: " + std::string(page.address)));
-    return false;
+    return browser.openPage(std::string(page.address)) ||
+           at.person.refuse(failure(page.name, "Não foi possível Abrir a Página!",
+                                    "Abra no navegador: " + std::string(page.address)));
 }
 
 }  // namespace winvrx

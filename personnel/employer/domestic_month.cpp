@@ -116,8 +116,7 @@ bool DomesticMonth::load() {
     lines_.clear();
     unrecorded_.clear();
     const auto refuse = [this](std::string text, std::string detail) {
-        at_.person.tell(refusal(kGuideTitle, std::move(text), std::move(detail)));
-        return false;
+        return at_.person.refuse(refusal(kGuideTitle, std::move(text), std::move(detail)));
     };
     return attempt(at_, incorrectData(), [&] {
         const Store store = at_.store();

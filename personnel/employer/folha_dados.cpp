@@ -42,19 +42,15 @@ std::vector<std::string> FolhaDados::texts() const {
 
 bool FolhaDados::save(const std::vector<std::string>& typed) {
     blamed_.reset();
-    if (!selected_) {
-        at_.person.tell(noEmployeeSelected());
-        return false;
-    }
+    if (!selected_) return at_.person.refuse(noEmployeeSelected());
     PayrollFacts facts;
     for (std::size_t place = 0; place < typed.size(); ++place) {
         const PayrollFact& fact = payrollFactTable()[place];
         if (fact.take(facts, typed[place])) continue;
         blamed_ = place;
-        at_.person.tell(
+        return at_.person.refuse(
             refusal(kFactsTitle, "Dado Incorreto!",
                     std::string(fact.title) + ": \"" + typed[place] + "\" " + demandOf(fact.kind)));
-        return false;
     }
     if (!at_.person.agrees(question(
             kFactsTitle, "Confirma Gravar os Dados para a Folha?",

@@ -28,10 +28,8 @@ std::string FolhaOpcoes::changesText() const {
 }
 
 bool FolhaOpcoes::save() {
-    if (!isChanged()) {
-        at_.person.tell(refusal(kOptionsTitle, "Não Há Alterações para Gravação!"));
-        return false;
-    }
+    if (!isChanged())
+        return at_.person.refuse(refusal(kOptionsTitle, "Não Há Alterações para Gravação!"));
     if (!at_.person.agrees(
             question(kOptionsTitle, "Confirma Gravar as Opções da Folha?", changesText())))
         return false;

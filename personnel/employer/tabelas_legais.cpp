@@ -173,10 +173,9 @@ bool TabelasLegais::save(std::size_t kind, const std::vector<std::string>& cells
     const auto isBad = [](const std::string& cell) {
         return cell.find_first_of(";\"\t\r\n") != std::string::npos;
     };
-    if (std::ranges::any_of(typed.cells, isBad) || typed.cells.front().starts_with('#')) {
-        at_.person.tell(refused("Aspas, ponto e vírgula e tabulação não entram em uma coluna."));
-        return false;
-    }
+    if (std::ranges::any_of(typed.cells, isBad) || typed.cells.front().starts_with('#'))
+        return at_.person.refuse(
+            refused("Aspas, ponto e vírgula e tabulação não entram em uma coluna."));
     return attempt(at_, incorrectData(), [&] {
         const auto bytes = understood(kind, typed);
         if (!bytes) return false;
@@ -209,12 +208,10 @@ std::optional<std::string> TabelasLegais::understood(std::size_t kind,
 
 bool TabelasLegais::remove(std::size_t kind, std::size_t row) {
     const LegalRow& line = rows(kind).at(row);
-    if (!line.isOwn || !line.from) {
-        at_.person.tell(
+    if (!line.isOwn || !line.from)
+        return at_.person.refuse(
             refusal(kLegalTitle, "As Linhas Entregues com o Programa não se Excluem!",
                     "Grave uma linha sua do mesmo dia: ela fica no lugar da entregue."));
-        return false;
-    }
     if (!at_.person.agrees(riskyQuestion(kLegalTitle, "Confirma Excluir esta Linha da Tabela?",
                                          lineText(line.cells, ';'))))
         return false;

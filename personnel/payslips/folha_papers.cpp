@@ -46,9 +46,8 @@ bool FolhaPapers::requireEmployee() const {
 
 bool FolhaPapers::requireSaved() const {
     const auto& shown = screen_.folha().shown();
-    if (shown && shown->isRecorded && !screen_.folha().isChanged()) return true;
-    at_.person.tell(kNotSaved);
-    return false;
+    return (shown && shown->isRecorded && !screen_.folha().isChanged()) ||
+           at_.person.refuse(kNotSaved);
 }
 
 PaperHeading FolhaPapers::heading() const {
@@ -124,10 +123,7 @@ bool FolhaPapers::showAdvance() {
         if (!requireEmployee()) return false;
         const auto& shown = screen_.folha().shown();
         const Money advance = shown ? shown->sheet.amountOf(kAdvanceEvent) : Money{};
-        if (advance.cents == 0) {
-            at_.person.tell(kNoAdvance);
-            return false;
-        }
+        if (advance.cents == 0) return at_.person.refuse(kNoAdvance);
         Message asked = kPrintReceipt;
         asked.detail = "Adiantamento de Salário: R$ " + moneyText(advance);
         return at_.person.agrees(asked) &&

@@ -43,11 +43,9 @@ bool previewProvisions(const PrintDesk& desk, WorkMonth month) {
             addProvision(line.record, found->record, amount, page);
             total = total + amount;
         }
-        if (page.lines.empty()) {
-            at.person.tell(notice(kTitle, "Não há provisão de férias gravada neste mês.",
-                                  monthTitle(month) + "."));
-            return false;
-        }
+        if (page.lines.empty())
+            return at.person.refuse(notice(kTitle, "Não há provisão de férias gravada neste mês.",
+                                           monthTitle(month) + "."));
         page.addTotal("Total da provisão", total);
         return previewStatement(desk, page);
     });

@@ -3,6 +3,7 @@
 #include "foundation/register/company_register.h"
 #include "foundation/register/merge_fields.h"
 #include "personnel/contract/contracted_employee.h"
+#include "personnel/payslips/paid_employee.h"
 
 namespace winvrx {
 
@@ -19,15 +20,13 @@ bool isVacation(const OpenPayroll& payroll) {
 /// Every line that came to something, an entry each.
 std::vector<MergeWords> linesOf(const PaySheet& sheet) {
     std::vector<MergeWords> lines;
-    for (const PayLine& line : sheet.lines) {
-        if (line.amount.cents == 0) continue;
-        MergeWords words;
-        words.put("codigo", line.event.code);
-        words.put("evento", line.event.name);
-        const std::string amount = "R$ " + moneyText(line.amount);
-        words.put("credito", line.event.isEarning() ? amount : "");
-        words.put("desconto", line.event.isEarning() ? "" : amount);
-        lines.push_back(std::move(words));
+    for (const PayLine* line : paidLines(sheet)) {
+        MergeWords& words = lines.emplace_back();
+        words.put("codigo", line->event.code);
+        words.put("evento", line->event.name);
+        const std::string amount = "R$ " + moneyText(line->amount);
+        words.put("credito", line->event.isEarning() ? amount : "");
+        words.put("desconto", line->event.isEarning() ? "" : amount);
     }
     return lines;
 }
@@ -55,14 +54,12 @@ DocumentWords receiptWords(const Workplace& at, const Company& company,
 
 }  // namespace
 
-bool showRunReceipt(const Workplace& at, const PaperDesk& desk, const OpenPayroll* payroll) {
+bool showRunReceipt(const Workplace& at, const PaperDesk& desk,
+                    const std::optional<OpenPayroll>& payroll) {
     return attempt(at, documentNotPrinted(), [&] {
         const Employee* employee = payroll ? &payroll->month.employee : nullptr;
         if (!requireContractedEmployee(at, employee, employeeIsNeeded())) return false;
-        if (!payroll->isRecorded) {
-            at.person.tell(kNotRecorded);
-            return false;
-        }
+        if (!payroll->isRecorded) return at.person.refuse(kNotRecorded);
         if (!at.person.agrees(kConfirm)) return false;
         const Company company = loadCompany(at.store(), at.session.company.value());
         const char* name = isVacation(*payroll) ? "recibo-ferias.txt" : "recibo-13.txt";

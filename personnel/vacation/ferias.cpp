@@ -2,6 +2,7 @@
 
 #include "foundation/register/company_register.h"
 #include "foundation/register/employee_register.h"
+#include "foundation/values/text.h"
 #include "personnel/leaves/leave_line.h"
 #include "personnel/leaves/leave_types.h"
 #include "personnel/vacation/due_vacations.h"
@@ -30,7 +31,6 @@ void Ferias::loadList(const CompanyCode& company, WorkMonth month) {
     const FolderNames names = namesIn(at_.store());
     auto marks = monthMarks(at_.store(), company, month, names, desk_.payroll);
     const auto due = dueVacations(at_.store(), company, lines, names, today());
-    const std::string chosen = selected() ? selected()->code : "";
     companyTitle_ = std::move(title);
     month_ = month;
     months_ = {};
@@ -39,16 +39,14 @@ void Ferias::loadList(const CompanyCode& company, WorkMonth month) {
         subset.insert(one.employee);
     list_.fill(lines, std::move(marks));
     list_.setSubset(std::move(subset));
-    show(list_.positionOf(chosen));
+    show(selectedPosition());
 }
 
 bool Ferias::narrow(const std::function<void()>& filter) {
     if (!confirmLeaving()) return false;
     return attempt(at_, incorrectData(), [&] {
-        const std::string code = selected() ? selected()->code : "";
-        position_.reset();
         filter();
-        show(list_.positionOf(code));
+        show(selectedPosition());
     });
 }
 
@@ -60,16 +58,8 @@ bool Ferias::showOnlyDue(bool only) {
     return narrow([&] { list_.showOnlySubset(only); });
 }
 
-const Employee* Ferias::selected() const {
-    return position_ ? &list_.employees()[*position_] : nullptr;
-}
-
-EmployeeKey Ferias::keyAt(std::size_t position) const {
-    return {at_.session.company.value(), list_.employees().at(position).employeeCode().value()};
-}
-
 EmployeeKey Ferias::key() const {
-    return keyAt(position_.value());
+    return {at_.session.company.value(), list_.selected()->employeeCode().value()};
 }
 
 bool Ferias::select(std::size_t position) {
@@ -86,7 +76,7 @@ bool Ferias::select(const EmployeeCode& employee) {
 }
 
 void Ferias::show(std::optional<std::size_t> position) {
-    position_ = position;
+    list_.select(position);
     reload();
 }
 
@@ -187,8 +177,7 @@ std::vector<std::string> Ferias::planNotes() {
     if (vacationNoticeDue(*first) < today() && row->status == PeriodStatus::Pending)
         notes.push_back("⚠ O prazo do aviso já passou.");
     if (const int past = daysPastLimit(row->period, *first, *days); past > 0)
-        notes.push_back("⚠ Depois do limite, " + std::to_string(past) +
-                        (past == 1 ? " dia é pago" : " dias são pagos") +
+        notes.push_back("⚠ Depois do limite, " + countOf(past, "dia é pago", "dias são pagos") +
                         " em dobro (CLT, art. 137).");
     if (form_.sold().value_or(0) > 0)
         notes.push_back("O abono é pedido até " + dateText(saleRequestDue(row->period)) +

@@ -49,8 +49,11 @@ class Ferias {
     [[nodiscard]] bool select(std::size_t position);
     /// The same by his code, with every shift listed where the filter hides him.
     [[nodiscard]] bool select(const EmployeeCode& employee);
-    [[nodiscard]] std::optional<std::size_t> selectedPosition() const { return position_; }
-    [[nodiscard]] const Employee* selected() const;  ///< nullptr when there is none
+    [[nodiscard]] std::optional<std::size_t> selectedPosition() const {
+        return list_.selectedPosition();
+    }
+    /// nullptr when there is none
+    [[nodiscard]] const Employee* selected() const { return list_.selected(); }
     /// His key; requires a selected employee.
     [[nodiscard]] EmployeeKey key() const;
 
@@ -95,7 +98,6 @@ class Ferias {
   private:
     void loadList(const CompanyCode& company, WorkMonth month);
     [[nodiscard]] bool narrow(const std::function<void()>& filter);
-    [[nodiscard]] EmployeeKey keyAt(std::size_t position) const;
     void show(std::optional<std::size_t> position);
     void reload();
     void fill(std::optional<std::size_t> row);
@@ -110,7 +112,6 @@ class Ferias {
     [[nodiscard]] bool requireNotSettled();
     [[nodiscard]] bool requireNotPaid();
     [[nodiscard]] bool requireFilled();
-    [[nodiscard]] bool confirmRecording();
     [[nodiscard]] bool confirmPending();
     [[nodiscard]] bool requireDates();
     [[nodiscard]] bool requireFractions();
@@ -130,7 +131,6 @@ class Ferias {
     std::optional<WorkMonth> month_;
     EmployeeList list_;
     SettingsByMonth months_;
-    std::optional<std::size_t> position_;
     VacationLines lines_;  ///< of the employee, as they were read
     LeaveCalendar leaves_;
     std::vector<PeriodRow> rows_;

@@ -60,16 +60,12 @@ std::string periodText(LeavePeriod period) {
 bool Ferias::refuse(std::string_view title, std::string_view text,
                     std::optional<VacationInput> blamed, std::string detail) {
     blamed_ = blamed;
-    at_.person.tell(refusal(title, std::string(text), std::move(detail)));
-    return false;
+    return at_.person.refuse(refusal(title, std::string(text), std::move(detail)));
 }
 
 bool Ferias::requirePeriod() {
     blamed_.reset();
-    if (!selected()) {
-        at_.person.tell(noEmployeeSelected());
-        return false;
-    }
+    if (!selected()) return at_.person.refuse(noEmployeeSelected());
     if (chosen_) return true;
     at_.person.tell(refusal(kScreen, std::string(kNoPeriod)));
     return refuse(kScreen, kSelectPeriod);
@@ -107,10 +103,6 @@ bool Ferias::requireFilled() {
         return refuse(kScreen, "Informe a Data de Término das Férias!", VacationInput::Last);
     return form_.sold() ||
            refuse(kScreen, "Informe a Quantidade de Dias Vendidos!", VacationInput::Sold);
-}
-
-bool Ferias::confirmRecording() {
-    return at_.person.agrees(kConfirmRecording);
 }
 
 bool Ferias::confirmPending() {
@@ -256,8 +248,8 @@ void Ferias::offerToMark(LeavePeriod days) {
 bool Ferias::record() {
     return attempt(at_, incorrectData(), [&] {
         if (!requirePeriod() || !requireNotForfeit() || !requireNotSettled() || !requireNotPaid() ||
-            !requireFilled() || !confirmRecording() || !confirmPending() || !requireDates() ||
-            !requireFractions() || !requireFreeMonth())
+            !requireFilled() || !at_.person.agrees(kConfirmRecording) || !confirmPending() ||
+            !requireDates() || !requireFractions() || !requireFreeMonth())
             return false;
         const VacationItem item = typedItem();
         const LeavePeriod away = item.away().value();
@@ -279,13 +271,11 @@ bool Ferias::record() {
 
 bool Ferias::settle() {
     return attempt(at_, incorrectData(), [&] {
-        if (!requireItem() || !requireNotSettled() || !confirmRecording()) return false;
+        if (!requireItem() || !requireNotSettled() || !at_.person.agrees(kConfirmRecording))
+            return false;
         VacationItem item = *itemOf(*chosenRow());
         const Money net = desk_.netPaid(key(), item.workMonth().value()).value_or(Money{});
-        if (net.cents == 0) {
-            at_.person.tell(kNoNetTotal);
-            return false;
-        }
+        if (net.cents == 0) return at_.person.refuse(kNoNetTotal);
         if (!confirmPending()) return false;
         item.mark = kSettledMark;
         item.net = moneyText(net);
@@ -316,8 +306,8 @@ bool Ferias::restoreSettlement() {
 
 bool Ferias::provide() {
     return attempt(at_, incorrectData(), [&] {
-        if (!requirePeriod() || !requireNotForfeit() || !confirmRecording() || !confirmPending() ||
-            !requireProvision())
+        if (!requirePeriod() || !requireNotForfeit() || !at_.person.agrees(kConfirmRecording) ||
+            !confirmPending() || !requireProvision())
             return false;
         const PeriodRow row = *chosenRow();
         const VacationItem item = provision();

@@ -64,10 +64,33 @@ void print(FolhaPapers& papers, FolhaPaper paper, QWidget* over) {
     }
 }
 
-/// A vacation's and a 13th's have words of their own.
-bool showReceiptOf(const Workplace& at, const PaperDesk& desk, const FolhaScreen& screen) {
-    const auto& shown = screen.folha().shown();
-    return showRunReceipt(at, desk, shown ? &*shown : nullptr);
+/// What the window asks to be opened beside it. After each the screen is read again.
+void connectDoors(FolhaWindow& window, FolhaScreen& screen, const Workplace& at,
+                  const PayrollDesk& desk) {
+    const auto comeBack = [&] {
+        (void)screen.open();
+        window.refresh();
+    };
+    const auto open = [&window, comeBack](auto signal, auto door) {
+        QObject::connect(&window, signal, &window, [door, comeBack] {
+            door();
+            comeBack();
+        });
+    };
+    const auto inHand = [&] {
+        const Employee* one = screen.selected();
+        return one ? one->employeeCode() : std::nullopt;
+    };
+    open(&FolhaWindow::monthRequested, [&] { openWorkMonth(at, &window); });
+    open(&FolhaWindow::timeCardRequested, [&, inHand] { desk.openTimeCard(&window, inHand()); });
+    open(&FolhaWindow::optionsRequested, [&] { desk.openOptions(&window); });
+    open(&FolhaWindow::factsRequested, [&, inHand] { desk.openFacts(&window, inHand()); });
+    QObject::connect(&window, &FolhaWindow::eventsRequested, &window, [&, comeBack](bool own) {
+        openEvents(at, screen, own, &window);
+        comeBack();
+    });
+    QObject::connect(&window, &FolhaWindow::overviewRequested, &window,
+                     [&] { openOverview(at, screen, window); });
 }
 
 }  // namespace
@@ -80,39 +103,14 @@ void openPayroll(const Workplace& at, const PayrollDesk& desk, QWidget* parent) 
     (void)screen.open();
     FolhaWindow window(screen, parent);
     front = &window;
-    const auto comeBack = [&] {
-        (void)screen.open();
-        window.refresh();
-    };
-    QObject::connect(&window, &FolhaWindow::monthRequested, &window, [&] {
-        openWorkMonth(at, &window);
-        comeBack();
-    });
-    QObject::connect(&window, &FolhaWindow::timeCardRequested, &window, [&] {
-        const Employee* one = screen.selected();
-        desk.openTimeCard(&window, one ? one->employeeCode() : std::nullopt);
-        comeBack();
-    });
-    QObject::connect(&window, &FolhaWindow::optionsRequested, &window, [&] {
-        desk.openOptions(&window);
-        comeBack();
-    });
-    QObject::connect(&window, &FolhaWindow::factsRequested, &window, [&] {
-        const Employee* one = screen.selected();
-        desk.openFacts(&window, one ? one->employeeCode() : std::nullopt);
-        comeBack();
-    });
-    QObject::connect(&window, &FolhaWindow::eventsRequested, &window, [&](bool own) {
-        openEvents(at, screen, own, &window);
-        comeBack();
-    });
-    QObject::connect(&window, &FolhaWindow::overviewRequested, &window,
-                     [&] { openOverview(at, screen, window); });
+    connectDoors(window, screen, at, desk);
     FolhaPapers papers(at, {desk.engine, desk.papers.writer}, screen);
     QObject::connect(&window, &FolhaWindow::paperRequested, &window, [&](FolhaPaper paper) {
+        // A vacation's and a 13th's have words of their own.
         if (paper == FolhaPaper::Receipt && screen.folha().run() != PayrollRun::Month)
-            return (void)showReceiptOf(at, desk.papers, screen);
-        print(papers, paper, &window);
+            (void)showRunReceipt(at, desk.papers, screen.folha().shown());
+        else
+            print(papers, paper, &window);
     });
     window.exec();
 }

@@ -224,7 +224,7 @@ TEST_F(PdfPapers, ReceiptsOfVacationAndThirteenthReadBackFromTheirPages) {
         record();
         office.person.answers = {Yes};
         const auto& shown = screen.folha().shown();
-        ASSERT_TRUE(showRunReceipt(office.at, desk, shown ? &*shown : nullptr));
+        ASSERT_TRUE(showRunReceipt(office.at, desk, shown));
     }
     convert();
     for (std::size_t at = 0; at < cases.size(); ++at) {
