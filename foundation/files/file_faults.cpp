@@ -53,6 +53,8 @@ std::string causeText(std::error_code cause) {
         condition == std::errc::read_only_file_system)
         return "não há permissão de gravação ou leitura";
     if (condition == std::errc::no_such_file_or_directory) return "a pasta não foi encontrada";
+    if (condition == std::errc::device_or_resource_busy)
+        return "outro programa está usando o arquivo";
     if (condition == std::errc::io_error) return "o disco não respondeu";
     if (condition == std::errc::is_a_directory) return "há uma pasta com esse nome";
     if (condition == std::errc::file_too_large) return "o arquivo é grande demais";

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <utility>
 
 #ifndef NOMINMAX
 #define NOMINMAX
@@ -21,9 +22,45 @@ using std::filesystem::path;
 constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 constexpr std::size_t kLargestPiece = 1U << 30U;
 
+/// The system's causes, with those of drives and shares that the standard library does not know.
+class WindowsCauses final : public std::error_category {
+  public:
+    [[nodiscard]] const char* name() const noexcept override { return "windows"; }
+    [[nodiscard]] std::string message(int error) const override {
+        return std::system_category().message(error);
+    }
+    [[nodiscard]] std::error_condition default_error_condition(int error) const noexcept override {
+        switch (error) {
+            case ERROR_NOT_READY:
+            case ERROR_NO_MEDIA_IN_DRIVE:
+            case ERROR_MEDIA_CHANGED:
+            case ERROR_WRONG_DISK:
+            case ERROR_DEVICE_NOT_CONNECTED:
+            case ERROR_GEN_FAILURE:
+            case ERROR_READ_FAULT:
+            case ERROR_WRITE_FAULT:
+            case ERROR_SEM_TIMEOUT:  // what a share says that does not answer
+            case ERROR_REM_NOT_LIST:
+            case ERROR_BAD_NETPATH:
+            case ERROR_NETNAME_DELETED:
+            case ERROR_NETWORK_BUSY:
+            case ERROR_NETWORK_UNREACHABLE:
+            case ERROR_NO_NETWORK:
+                return std::errc::io_error;
+            case ERROR_NETWORK_ACCESS_DENIED:
+            case ERROR_LOGON_FAILURE:
+                return std::errc::permission_denied;
+            case ERROR_USER_MAPPED_FILE:
+                return std::errc::device_or_resource_busy;
+            default:
+                return std::system_category().default_error_condition(error);
+        }
+    }
+};
+
 [[noreturn]] void fail(Operation operation, const path& file, DWORD error = ::GetLastError()) {
-    throw FileFault(operation, file,
-                    std::error_code(static_cast<int>(error), std::system_category()));
+    static const WindowsCauses causes;
+    throw FileFault(operation, file, {static_cast<int>(error), causes});
 }
 
 bool isMissing(DWORD error) {
@@ -52,18 +89,20 @@ bool doneWhenFree(const Work& work) {
     }
 }
 
-/// Only true links: the placeholders of a folder kept in the cloud are reparse points as well.
-bool isLink(const path& file) {
+/// Refuses at once what no waiting makes a file that may be used. Of links only true ones: the
+/// placeholders of a folder kept in the cloud are reparse points as well.
+void requirePlain(Operation operation, const path& file) {
     WIN32_FIND_DATAW found{};
     const HANDLE search = ::FindFirstFileW(file.c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return false;
+    if (search == INVALID_HANDLE_VALUE) return;
     ::FindClose(search);
-    return (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
-           found.dwReserved0 == IO_REPARSE_TAG_SYMLINK;
-}
-
-void requireNoLink(Operation operation, const path& file) {
-    if (isLink(file)) throw FileFault(operation, file, FileProblem::Link);
+    if ((found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+        found.dwReserved0 == IO_REPARSE_TAG_SYMLINK)
+        throw FileFault(operation, file, FileProblem::Link);
+    if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+        throw FileFault(operation, file, std::make_error_code(std::errc::is_a_directory));
+    if (operation == Operation::Write && (found.dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0)
+        fail(operation, file, ERROR_ACCESS_DENIED);
 }
 
 class Handle {
@@ -115,7 +154,7 @@ ListedFile listed(const WIN32_FIND_DATAW& found) {
 class WindowsDisk final : public StandardFolders {
   public:
     [[nodiscard]] std::optional<std::string> read(const path& file) const override {
-        requireNoLink(Operation::Read, file);
+        requirePlain(Operation::Read, file);
         const Handle in(file, GENERIC_READ, OPEN_EXISTING);
         if (!in.open()) {
             if (isMissing(::GetLastError())) return std::nullopt;
@@ -138,7 +177,7 @@ class WindowsDisk final : public StandardFolders {
     }
 
     void write(const path& file, std::string_view bytes) override {
-        requireNoLink(Operation::Write, file);
+        requirePlain(Operation::Write, file);
         const Handle out(file, GENERIC_WRITE, CREATE_ALWAYS);
         if (!out.open()) fail(Operation::Write, file);
         writeAll(out, bytes, file);
@@ -168,7 +207,7 @@ class WindowsDisk final : public StandardFolders {
 
     /// Written through: the new name lasts when this returns.
     void rename(const path& from, const path& to) override {
-        requireNoLink(Operation::Write, to);
+        requirePlain(Operation::Write, to);
         constexpr DWORD kHow = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
         if (!doneWhenFree([&] { return ::MoveFileExW(from.c_str(), to.c_str(), kHow) != 0; }))
             fail(Operation::Write, to);
@@ -183,6 +222,14 @@ class WindowsDisk final : public StandardFolders {
     /// Windows has no flush of a folder: renames are written through, and its file systems keep
     /// removals in their journal.
     void flushFolder(const path&) override {}
+
+    /// For the standard library a share that does not answer is a folder that is not there.
+    [[nodiscard]] std::vector<std::string> names(const path& folder) const override {
+        std::vector<std::string> names;
+        for (ListedFile& file : list(folder))
+            names.push_back(std::move(file.name));
+        return names;
+    }
 
     [[nodiscard]] std::vector<ListedFile> list(const path& folder) const override {
         std::vector<ListedFile> files;
