@@ -1,6 +1,5 @@
-#include "foundation/register/empresa.h"
-#include "tests/support/employee_desk.h"
 #include "tests/support/real_office.h"
+#include "tests/support/shared_folder.h"
 
 #include <gmock/gmock.h>
 
@@ -81,38 +80,12 @@ TEST(TwoProcesses, WriteToOneListFiveHundredTimesEachAndLoseNothing) {
     // In memory, where no flush keeps them from meeting often.
     const ScratchFolder scratch(fs::is_directory("/dev/shm") ? "/dev/shm"
                                                              : fs::temp_directory_path());
-    WritingCommand start = writingCommand("change company");
-    start.run = [](const Workplace& at, const Drives&) {
-        Empresa companies(at);
-        companies.load();
-        Company zero = companies.lines().at(0).record;
-        zero.telephone = "0";
-        TestEditor editor;
-        TestSpreadsheet spreadsheet;
-        TestLocks locks;
-        Empregados people(at, {editor, spreadsheet, locks, locks});
-        people.load();
-        bool done = companies.change(0, zero);
-        for (const std::size_t position : {0U, 1U}) {
-            Employee one = people.lines().at(position).record;
-            one.notes = "0";
-            done = done && people.change(position, one);
-        }
-        return done;
-    };
-    fill(scratch.path(), start.before);
-    ASSERT_TRUE(runOnSystemDisk(start, scratch.path()));
+    ASSERT_TRUE(beginCounting(scratch.path()));
     OfficeProcess first("count 0", scratch.path());
     OfficeProcess second("count 1", scratch.path());
     EXPECT_EQ(first.wait(), 0);
     EXPECT_EQ(second.wait(), 0);
-    const FileTable now = recordsBelow(scratch.path());
-    const auto companies = splitLines(now.at(inDataFolder("01Empresa")));
-    EXPECT_EQ(decode<Company>(companies.at(0)).telephone, std::to_string(2 * kTurns));
-    const auto people = splitLines(now.at(inDataFolder("01CartaPonto")));
-    EXPECT_EQ(decode<Employee>(people.at(0)).notes, std::to_string(kTurns));
-    EXPECT_EQ(decode<Employee>(people.at(1)).notes, std::to_string(kTurns));
-    EXPECT_EQ(people.size(), 3U);
+    EXPECT_TRUE(isCountedUp(scratch.path()));
 }
 
 }  // namespace

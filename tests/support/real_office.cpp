@@ -1,7 +1,6 @@
 #include "tests/support/real_office.h"
 
-#include "foundation/register/empresa.h"
-#include "tests/support/employee_desk.h"
+#include "tests/support/shared_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -36,6 +35,12 @@ void fill(const fs::path& root, const FileTable& files) {
     }
 }
 
+void fillDisk(const fs::path& file, std::size_t room) {
+    std::ofstream out(file, std::ios::binary);
+    const auto space = fs::space(file.parent_path()).available;
+    out << std::string(space > room ? space - room : 0, 'x');
+}
+
 FileTable recordsBelow(const fs::path& root) {
     MemoryDisk::Files files;
     for (const auto& entry : fs::recursive_directory_iterator(root)) {
@@ -52,30 +57,6 @@ bool runOnSystemDisk(const WritingCommand& command, const fs::path& root) {
     return runCommand(command, *disk, *host, root).done;
 }
 
-bool countUp(const Workplace& at, std::size_t position) {
-    for (int turn = 0; turn < kTurns; ++turn) {
-        TestEditor editor;
-        TestSpreadsheet spreadsheet;
-        TestLocks locks;
-        Empregados people(at, {editor, spreadsheet, locks, locks});
-        people.load();
-        Employee mine = people.lines().at(position).record;
-        if (mine.notes != std::to_string(turn)) return false;
-        mine.notes = std::to_string(turn + 1);
-        if (!people.change(position, mine)) return false;
-
-        Empresa companies(at);
-        bool counted = false;
-        while (!counted) {  // refused when the other process was there since it was shown
-            companies.load();
-            Company shared = companies.lines().at(0).record;
-            shared.telephone = std::to_string(std::stoi(shared.telephone) + 1);
-            counted = companies.change(0, shared);
-        }
-    }
-    return true;
-}
-
 void expectWholeAndRepeatable(const WritingCommand& command, const FileTable& after,
                               const fs::path& root) {
     const auto disk = systemDisk();
@@ -89,13 +70,14 @@ void expectWholeAndRepeatable(const WritingCommand& command, const FileTable& af
 }
 
 bool doWork(const std::string& work, const fs::path& root) {
-    if (!work.starts_with("count ")) return runOnSystemDisk(writingCommand(work), root);
-    bool done = false;
-    const WritingCommand count{"count", {}, [&](const Workplace& at, const Drives&) {
-                                   return done = countUp(at, work.back() == '1' ? 1 : 0);
-                               }};
-    (void)runOnSystemDisk(count, root);
-    return done;
+    if (work == "begin counting") return beginCounting(root);
+    if (work == "count 0") return countUp(root, 0);
+    if (work == "count 1") return countUp(root, 1);
+    if (work == "is counted up") return isCountedUp(root);
+    if (work == "keep folder") return keepFolder(root);
+    if (work == "is kept out") return isKeptOut(root);
+    if (work == "take over unasked") return takesOverUnasked(root);
+    return runOnSystemDisk(writingCommand(work), root);
 }
 
 }  // namespace winvrx::testing

@@ -27,6 +27,9 @@ class ScratchFolder {
 /// Makes `files` the whole content of the folder.
 void fill(const std::filesystem::path& root, const FileTable& files);
 
+/// Makes a file that leaves its disk room for so many bytes.
+void fillDisk(const std::filesystem::path& file, std::size_t room);
+
 /// Every file below the folder but locks.
 [[nodiscard]] FileTable recordsBelow(const std::filesystem::path& root);
 
@@ -38,12 +41,9 @@ bool runOnSystemDisk(const WritingCommand& command, const std::filesystem::path&
 void expectWholeAndRepeatable(const WritingCommand& command, const FileTable& after,
                               const std::filesystem::path& root);
 
-/// Counts up to `kTurns` in the notes of the employee of this position, and in the telephone of the
-/// company, which another process may count up as well. False when a count is not as it was left.
-inline constexpr int kTurns = 500;
-bool countUp(const Workplace& at, std::size_t position);
-
-/// What a process can be started to do: a writing command by its name, or "count 0" and "count 1".
+/// What a process can be started to do: a writing command by its name, or what shared_folder.h has:
+/// "begin counting", "count 0", "count 1", "is counted up", "keep folder", "is kept out",
+/// "take over unasked".
 bool doWork(const std::string& work, const std::filesystem::path& root);
 
 /// A process that does a work and ends with 0, or with 1 when the work returns false or throws.
