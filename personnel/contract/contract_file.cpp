@@ -34,10 +34,6 @@ bool hasContract(const Store& store, const EmployeeKey& key) {
     return store.files.exists(store.folder.file(contractFileName(key)));
 }
 
-bool hasContract(const FolderNames& names, const EmployeeKey& key) {
-    return names.contains(contractFileName(key));
-}
-
 std::optional<StoredLine<Contract>> loadContract(const Store& store, const EmployeeKey& key) {
     const auto lines = fileOf(store, key).linesIfAny();
     if (!lines) return std::nullopt;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "foundation/files/data_folder.h"
-#include "foundation/files/folder_names.h"
 #include "foundation/files/line_file.h"
 #include "personnel/contract/contract.h"
 
@@ -18,7 +17,6 @@ namespace winvrx {
 
 /// Throws FileFault.
 [[nodiscard]] bool hasContract(const Store& store, const EmployeeKey& key);
-[[nodiscard]] bool hasContract(const FolderNames& names, const EmployeeKey& key);
 
 /// The line on record; nullopt where no contract has been generated. A file without a line is a
 /// contract of which nothing is known. Throws FileFault.

@@ -38,8 +38,7 @@ std::optional<Message> paperRefusal(const Workplace& at, const Employee* employe
 bool requireContractedEmployee(const Workplace& at, const Employee* employee,
                                const Message& noEmployee, bool evenInactive) {
     const auto refusal = paperRefusal(at, employee, noEmployee, evenInactive);
-    if (refusal) at.person.tell(*refusal);
-    return !refusal;
+    return !refusal || at.person.refuse(*refusal);
 }
 
 Message searchAndSelectEmployee() {

@@ -84,8 +84,7 @@ Findings<Contract> ContratoTrabalho::findings(const Contract& typed) const {
 
 bool ContratoTrabalho::refuse(const Message& message, std::string Contract::*blamed) {
     blamed_ = blamed;
-    at_.person.tell(message);
-    return false;
+    return at_.person.refuse(message);
 }
 
 bool ContratoTrabalho::requireEmployee() {

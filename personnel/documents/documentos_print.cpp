@@ -86,9 +86,7 @@ bool Documentos::requireSubject() {
     // The records may have changed since the employee was selected.
     subject_ = loadSubject(at_.store(), key_.value(), *selected(), today());
     loadAccountIfDue();
-    if (!isOfTerminated || subject_.termination) return true;
-    at_.person.tell(kNoTermination);
-    return false;
+    return !isOfTerminated || subject_.termination || at_.person.refuse(kNoTermination);
 }
 
 bool Documentos::requireSoundInputs() {
@@ -96,9 +94,8 @@ bool Documentos::requireSoundInputs() {
         const std::string found = finding(input);
         if (found.empty()) continue;
         blamed_ = input.name;
-        at_.person.tell(
+        return at_.person.refuse(
             refusal(kTitle, "Confira o campo \"" + std::string(input.caption) + "\".", found));
-        return false;
     }
     return true;
 }

@@ -23,6 +23,13 @@ const std::string& textIn(const PaperTexts& texts, std::string_view name) {
     return found == texts.end() ? kNone : found->second;
 }
 
+/// "15 de março de 2024".
+std::string writtenDate(Date date) {
+    const int day = dayNumber(date);
+    return (day == 1 ? "1º" : std::to_string(day)) + " de " + std::string(monthName(date.month())) +
+           " de " + padded(int{date.year()}, 4);
+}
+
 void putInput(MergeWords& words, const PaperInput& input, const std::string& text) {
     const std::string name(input.name);
     words.put(name, text);
@@ -135,12 +142,6 @@ DocumentWords paperWords(const PaperSubject& subject, Paper paper, const PaperTe
     if (paper == Paper::FolhaPonto) all.lists["dias"] = dayRows(words, texts);
     if (paper == Paper::SalarioFamilia) all.lists["filhos"] = childRows(words, texts);
     return all;
-}
-
-std::string writtenDate(Date date) {
-    const int day = dayNumber(date);
-    return (day == 1 ? "1º" : std::to_string(day)) + " de " + std::string(monthName(date.month())) +
-           " de " + padded(int{date.year()}, 4);
 }
 
 Date fourteenOn(Date birth) {

@@ -16,9 +16,6 @@ using PaperTexts = std::map<std::string, std::string, std::less<>>;
 [[nodiscard]] DocumentWords paperWords(const PaperSubject& subject, Paper paper,
                                        const PaperTexts& texts);
 
-/// "15 de março de 2024".
-[[nodiscard]] std::string writtenDate(Date date);
-
 /// The day on which a child born then is fourteen, and no salary-family is paid any more.
 [[nodiscard]] Date fourteenOn(Date birth);
 /// What is to be known of the children typed: who is about to turn 14 or has; empty for none.

@@ -90,8 +90,7 @@ bool Relatorios::printAll(const FormRun& run) {
 }
 
 bool Relatorios::requireForm() const {
-    if (!chosen()) at_.person.tell(kNoForm);
-    return chosen() != nullptr;
+    return chosen() || at_.person.refuse(kNoForm);
 }
 
 std::vector<Employee> Relatorios::requirePeople() const {

@@ -68,14 +68,8 @@ void CartaCorrecaoImprime::keep(const std::string& bytes) {
 }
 
 bool CartaCorrecaoImprime::print(ReportOutput output) {
-    if (!position_) {
-        at_.person.tell(kNoFile);
-        return false;
-    }
-    if (!letter_) {
-        at_.person.tell(noLetter(finding_));
-        return false;
-    }
+    if (!position_) return at_.person.refuse(kNoFile);
+    if (!letter_) return at_.person.refuse(noLetter(finding_));
     if (!at_.person.agrees(question(kCaption,
                                     "Confirma Imprimir a Carta de Correção NF-e Selecionada?",
                                     files_.at(*position_).name)))

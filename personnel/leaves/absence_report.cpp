@@ -139,12 +139,10 @@ bool showAbsences(const Workplace& at, TextEditor& editor, WorkMonth month) {
     return attempt(at, incorrectData(), [&] {
         const auto absences = requireAbsences(at, month);
         if (absences.empty()) return false;
-        if (showReports(
-                at, editor,
-                {{at.session.companyFile("RelAfastamentos.txt"), absenceReport(absences, month)}}))
-            return true;
-        at.person.tell(kNotOpened);
-        return false;
+        return showReports(at, editor,
+                           {{at.session.companyFile("RelAfastamentos.txt"),
+                             absenceReport(absences, month)}}) ||
+               at.person.refuse(kNotOpened);
     });
 }
 

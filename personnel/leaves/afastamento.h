@@ -34,7 +34,6 @@ class Afastamento {
     [[nodiscard]] std::string periodCaption() const;
 
     [[nodiscard]] EmployeeList& list() { return list_; }
-    [[nodiscard]] const EmployeeList& list() const { return list_; }
     /// The list can be narrowed to those with a leave file. Each is false when the operator stays
     /// with what is typed.
     [[nodiscard]] bool showOnlyWithLeaves(bool only);

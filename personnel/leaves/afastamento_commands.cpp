@@ -96,8 +96,7 @@ Message dropsLines(const std::vector<std::string>& lines) {
 bool Afastamento::refuse(std::string_view title, std::string_view text,
                          std::optional<LeaveInput> blamed, std::string detail) {
     blamed_ = blamed;
-    at_.person.tell(refusal(title, std::string(text), std::move(detail)));
-    return false;
+    return at_.person.refuse(refusal(title, std::string(text), std::move(detail)));
 }
 
 bool Afastamento::requireSelection(std::string_view title) {
@@ -106,9 +105,7 @@ bool Afastamento::requireSelection(std::string_view title) {
 }
 
 bool Afastamento::requireOpenMonth() {
-    if (!payroll_.isClosed(key(), month_.value())) return true;
-    at_.person.tell(kClosed);
-    return false;
+    return !payroll_.isClosed(key(), month_.value()) || at_.person.refuse(kClosed);
 }
 
 bool Afastamento::confirmPeriod() {
@@ -151,8 +148,7 @@ bool Afastamento::requireDates(std::string_view title) {
 bool Afastamento::requireNew(const StoredLine<Leave>& line) {
     const bool known = std::ranges::any_of(
         file_.leaves, [&](const StoredLine<Leave>& one) { return one.record == line.record; });
-    if (known) at_.person.tell(kIdentical);
-    return !known;
+    return !known || at_.person.refuse(kIdentical);
 }
 
 bool Afastamento::add() {

@@ -182,8 +182,7 @@ bool Transferencia::requireMarker(const Sides& sides) {
         at_.log.write(std::string("transfer: ") + fault.what());
         reason = fault.explanation();
     }
-    at_.person.tell(invalidFolder(reason));
-    return false;
+    return at_.person.refuse(invalidFolder(reason));
 }
 
 /// What comes must be a data folder whose companies can be read.
@@ -204,11 +203,10 @@ bool Transferencia::requireRoom(const TransferPlan& plan, const std::filesystem:
     const auto room = desk_.freeSpace(to);
     if (!room || *room >= plan.bytes) return true;
     constexpr std::uint64_t kMegabyte = 1U << 20U;
-    at_.person.tell(refusal(kTitle, "Não há espaço livre na unidade de destino.",
-                            "São necessários " + std::to_string(plan.bytes / kMegabyte + 1) +
-                                " MB e há " + std::to_string(*room / kMegabyte) +
-                                " MB livres. Nada foi mudado."));
-    return false;
+    return at_.person.refuse(
+        refusal(kTitle, "Não há espaço livre na unidade de destino.",
+                "São necessários " + std::to_string(plan.bytes / kMegabyte + 1) + " MB e há " +
+                    std::to_string(*room / kMegabyte) + " MB livres. Nada foi mudado."));
 }
 
 bool Transferencia::carryOver(TransferDirection direction, const Sides& sides) {
