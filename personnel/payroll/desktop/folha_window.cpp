@@ -28,6 +28,7 @@ QTreeWidget* figureList(const char* name, const QString& title, const QString& h
                         QWidget* parent) {
     QTreeWidget* list = look::table(QLatin1String(name), title, {title, heading}, parent);
     list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    list->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     return list;
 }
