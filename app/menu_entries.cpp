@@ -41,90 +41,102 @@ MenuEntry help(const Workplace& at, Browser& browser) {
                 }};
 }
 
+/// Opens a room's screen with what it works with, over a window.
+template <typename Open, typename Desk>
+auto opener(const Workplace& at, Open& open, const Desk& desk) {
+    return [at, &open, desk](QWidget* parent, const auto&... inHand) {
+        open(at, desk, parent, inHand...);
+    };
+}
+
+/// What the rooms' screens work with and lead on to. Everything in here holds what it needs.
+struct Rooms {
+    const Workplace& at;
+    const MenuDesk& desk;
+    ReportEngine& engine = desk.printing.engine;
+    std::filesystem::path legal = desk.programFolder / "legal";
+    std::shared_ptr<RotationRecords> rotation =
+        std::make_shared<RotationRecords>(at.store(), at.clock);
+
+    std::function<void(QWidget*, const Employee&)> openEnd =
+        [at = at, legal = legal, &engine = engine](QWidget* parent, const Employee& one) {
+            openTermination(at, engine, legal, one, parent);
+        };
+    RotationOpener openRotation = [at = at, &engine = engine,
+                                   &editor = desk.editor](QWidget* parent) {
+        openRotations(at, engine, editor, parent);
+    };
+    OpenLetters openLetters = [at = at, &engine = engine](QWidget* parent) {
+        openCorrectionLetters(at, engine, parent);
+    };
+
+    PaperDesk papers{desk.writer, [at = at, folder = desk.programFolder] {
+                         return templateFolders(at.session.folder, folder);
+                     }};
+    HoursEntryDesk hours{desk.editor, desk.printing.browser, engine, desk.printing.printers,
+                         rotation};
+    LeavesDesk leaves{engine, desk.editor, openEnd};
+    EmployerDesk employer{legal, desk.printing.browser, engine, openEnd};
+    ContractDesk contracts{engine, desk.printing.printers, desk.writer, papers.templateFolders};
+    DocumentsDesk documents{desk.writer, papers.templateFolders, legal};
+    FeriasEntryDesk vacations{papers,
+                              [at = at](const EmployeeKey& key, WorkMonth month) {
+                                  return vacationNetPaid(at.store(), key, month);
+                              },
+                              [at = at, &engine = engine](WorkMonth month) {
+                                  (void)previewProvisions({at, engine}, month);
+                              }};
+    TimeCardDesk timeCard{
+        rotation,
+        [leaves = leaves](const Workplace& office, QWidget* parent, const auto& inHand) {
+            openLeaves(office, leaves, parent, inHand);
+        },
+        openRotation, opener(at, openHoursReports, hours), opener(at, showHoursSummary, hours)};
+    PayrollDesk payroll{engine,
+                        papers,
+                        legal,
+                        opener(at, openTimeCard, timeCard),
+                        opener(at, openPayrollOptions, employer),
+                        opener(at, openPayrollFacts, employer),
+                        opener(at, openVacations, vacations)};
+};
+
+/// The screens that the documents' one leads on to.
+std::vector<DocumentosWindow::Neighbour> besideDocuments(const Rooms& rooms,
+                                                         const MenuEntry& contract,
+                                                         const MenuEntry& forms) {
+    return {
+        {"contract", QStringLiteral("Contrato"), Qt::Key_F6, "documents.contract", contract.open},
+        {"forms", QStringLiteral("Relatórios"), Qt::Key_F7, "documents.forms", forms.open},
+        {"leave", QStringLiteral("Férias"), Qt::Key_F9, "documents.vacations",
+         [at = rooms.at, vacations = rooms.vacations](QWidget* parent) {
+             openVacations(at, vacations, parent);
+         }},
+        {"mirror", QStringLiteral("Carta de Correção"), Qt::Key_F8, "documents.letters",
+         rooms.openLetters}};
+}
+
 }  // namespace
 
 MenuEntries menuEntries(const Workplace& at, const MenuDesk& desk) {
+    const Rooms rooms{at, desk};
     MenuEntries all;
     const auto add = [&all](const MenuEntries& some) {
         all.insert(all.end(), some.begin(), some.end());
     };
-    const auto rotation = std::make_shared<RotationRecords>(at.store(), at.clock);
-    const auto openRotation = [at, &engine = desk.printing.engine, &editor = desk.editor](
-                                  QWidget* parent) { openRotations(at, engine, editor, parent); };
-    add(registerEntries(at, desk.editor, rotation));
-    add({monthEntry(at)});
-    const CardPrintingDesk& printing = desk.printing;
-    const HoursEntryDesk hours{desk.editor, printing.browser, printing.engine, printing.printers,
-                               rotation};
-    const auto openHours = [at, hours](QWidget* parent) { openHoursReports(at, hours, parent); };
-    const std::filesystem::path legal = desk.programFolder / "legal";
-    const auto openEnd = [at, legal, &engine = printing.engine](QWidget* parent,
-                                                                const Employee& one) {
-        openTermination(at, engine, legal, one, parent);
-    };
-    const LeavesDesk leaves{printing.engine, desk.editor, openEnd};
-    const EmployerDesk employer{legal, printing.browser, printing.engine, openEnd};
-    const PaperDesk papers{desk.writer, [at, folder = desk.programFolder] {
-                               return templateFolders(at.session.folder, folder);
-                           }};
-    const FeriasEntryDesk vacations{papers,
-                                    [at](const EmployeeKey& key, WorkMonth month) {
-                                        return vacationNetPaid(at.store(), key, month);
-                                    },
-                                    [at, &engine = printing.engine](WorkMonth month) {
-                                        (void)previewProvisions({at, engine}, month);
-                                    }};
-    const TimeCardDesk timeCard{
-        rotation,
-        [leaves](const Workplace& office, QWidget* parent, const auto& inHand) {
-            openLeaves(office, leaves, parent, inHand);
-        },
-        openRotation, openHours,
-        [at, hours](QWidget* parent) { showHoursSummary(at, hours, parent); }};
-    add({timeCardEntry(at, timeCard)});
-    add(cardEntries(at, printing));
-    add(hoursEntries(at, hours));
-    add({rotationEntry(at, openRotation)});
-    add({leavesEntry(at, leaves)});
-    add({vacationsEntry(at, vacations)});
-    add({payrollEntry(
-        at, {printing.engine, papers, legal,
-             [at, timeCard](QWidget* parent, const auto& one) {
-                 openTimeCard(at, timeCard, parent, one);
-             },
-             [at, employer](QWidget* parent) { openPayrollOptions(at, employer, parent); },
-             [at, employer](QWidget* parent, const auto& one) {
-                 openPayrollFacts(at, employer, parent, one);
-             },
-             [at, vacations](QWidget* parent, const auto& one) {
-                 openVacations(at, vacations, parent, one);
-             }})});
-    add(employerEntries(at, employer));
-    const ContractDesk contracts{printing.engine, printing.printers, papers.writer,
-                                 papers.templateFolders};
-    const auto openLetters = [at, &engine = printing.engine](QWidget* parent) {
-        openCorrectionLetters(at, engine, parent);
-    };
-    const MenuEntry contract = contractEntry(at, contracts, openLetters);
-    const MenuEntry forms = formsEntry(at, printing.engine);
-    using Neighbour = DocumentosWindow::Neighbour;
-    add({contract,
-         documentsEntry(
-             at, {papers.writer, papers.templateFolders, legal},
-             {Neighbour{"contract", QStringLiteral("Contrato"), Qt::Key_F6, "documents.contract",
-                        contract.open},
-              Neighbour{"forms", QStringLiteral("Relatórios"), Qt::Key_F7, "documents.forms",
-                        forms.open},
-              Neighbour{"leave", QStringLiteral("Férias"), Qt::Key_F9, "documents.vacations",
-                        [at, vacations](QWidget* parent) { openVacations(at, vacations, parent); }},
-              Neighbour{"mirror", QStringLiteral("Carta de Correção"), Qt::Key_F8,
-                        "documents.letters", openLetters}}),
-         forms});
-    add({labelsEntry(at, printing)});
-    add({restoreEntry(at, desk.copies)});
+    add(registerEntries(at, desk.editor, rooms.rotation));
+    add({monthEntry(at), timeCardEntry(at, rooms.timeCard)});
+    add(cardEntries(at, desk.printing));
+    add(hoursEntries(at, rooms.hours));
+    add({rotationEntry(at, rooms.openRotation), leavesEntry(at, rooms.leaves),
+         vacationsEntry(at, rooms.vacations), payrollEntry(at, rooms.payroll)});
+    add(employerEntries(at, rooms.employer));
+    const MenuEntry contract = contractEntry(at, rooms.contracts, rooms.openLetters);
+    const MenuEntry forms = formsEntry(at, desk.printing.engine);
+    add({contract, documentsEntry(at, rooms.documents, besideDocuments(rooms, contract, forms)),
+         forms, labelsEntry(at, desk.printing), restoreEntry(at, desk.copies)});
     if (desk.browsers) add({internetEntry(at, desk.browsers)});
-    add({help(at, printing.browser)});
-    add({aboutEntry(at, printing.browser, desk.logFile)});
+    add({help(at, desk.printing.browser), aboutEntry(at, desk.printing.browser, desk.logFile)});
     return all;
 }
 

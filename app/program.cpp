@@ -20,10 +20,6 @@ namespace winvrx {
 
 namespace {
 
-std::string nativePath(const std::filesystem::path& path) {
-    return path.string();
-}
-
 /// A dialog for one copy, over whatever window is in front.
 SafetyCopies::Progress copyProgress() {
     const auto shown = std::make_shared<Progress>(
@@ -63,7 +59,7 @@ Program::Program(const ProgramDesk& desk)
       engine_(makeEngine()),
       writer_(makeWriter()),
       printers_(desk.printers ? desk.printers() : std::make_unique<SystemPrinters>()),
-      menu_(at_, desk.drives, desk.instance, desk.settings, nativePath(desk.programFolder)),
+      menu_(at_, desk.drives, desk.instance, desk.settings, desk.programFolder.string()),
       window_(std::make_unique<MenuWindow>(
           menu_, at_, calendar_,
           menuEntries(at_, {{*browser_, *engine_, *printers_, [this] { return layoutPlaces(); }},
