@@ -1,19 +1,9 @@
 #include "foundation/copies/daily_copy_files.h"
 
 #include "foundation/copies/copied_files.h"
+#include "foundation/desk/command.h"
 
 namespace winvrx {
-
-void DailyCopyFiles::replace(const std::filesystem::path& file, std::string_view bytes) {
-    beforeChange(file);
-    files_.replace(file, bytes);
-}
-
-void DailyCopyFiles::replaceAll(const std::vector<NewContent>& files) {
-    for (const NewContent& content : files)
-        beforeChange(content.file);
-    files_.replaceAll(files);
-}
 
 bool DailyCopyFiles::remove(const std::filesystem::path& file) {
     beforeChange(file);
@@ -27,16 +17,10 @@ void DailyCopyFiles::beforeChange(const std::filesystem::path& file) {
     const Attempt attempt{folder, clock_.today()};
     if (last_ == attempt) return;
     last_ = attempt;
-    copyOnce();
-}
-
-void DailyCopyFiles::copyOnce() {
-    try {
+    attemptQuietly(log_, "the day's copy", [this] {
         // A folder that was empty is copied when there is something in it.
         if (!copies_.makeDailyCopy(session_.folder, clock_.now())) last_.reset();
-    } catch (const std::exception& fault) {
-        log_.write(std::string("the day's copy: ") + fault.what());
-    }
+    });
 }
 
 }  // namespace winvrx

@@ -19,8 +19,6 @@ class DailyCopyFiles final : public ForwardingFiles {
                    const Clock& clock, Log& log)
         : ForwardingFiles(files), copies_(copies), session_(session), clock_(clock), log_(log) {}
 
-    void replace(const std::filesystem::path& file, std::string_view bytes) override;
-    void replaceAll(const std::vector<NewContent>& files) override;
     bool remove(const std::filesystem::path& file) override;
 
   private:
@@ -31,8 +29,7 @@ class DailyCopyFiles final : public ForwardingFiles {
         [[nodiscard]] bool operator==(const Attempt&) const = default;
     };
 
-    void beforeChange(const std::filesystem::path& file);
-    void copyOnce();
+    void beforeChange(const std::filesystem::path& file) override;
 
     SafetyCopies& copies_;
     const Session& session_;

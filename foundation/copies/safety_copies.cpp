@@ -28,10 +28,8 @@ std::vector<std::string> byFewestFiles(const CopyContents& contents) {
     std::vector<std::string> archives;
     for (const auto& [name, count] : counts)
         archives.push_back(name);
-    std::stable_sort(archives.begin(), archives.end(),
-                     [&](const std::string& left, const std::string& right) {
-                         return counts.at(left) < counts.at(right);
-                     });
+    std::ranges::stable_sort(archives, {},
+                             [&](const std::string& archive) { return counts.at(archive); });
     return archives;
 }
 
@@ -83,9 +81,7 @@ std::optional<SafetyCopies::Made> SafetyCopies::make(const CopyShelf& shelf,
 std::vector<ListedFile> SafetyCopies::copiedFiles(const DataFolder& folder) const {
     std::vector<ListedFile> files = files_.list(folder.path());
     std::erase_if(files, [](const ListedFile& file) { return !isCopiedFile(file.name); });
-    std::sort(files.begin(), files.end(), [](const ListedFile& left, const ListedFile& right) {
-        return left.name < right.name;
-    });
+    std::ranges::sort(files, {}, &ListedFile::name);
     return files;
 }
 
@@ -158,14 +154,10 @@ std::string SafetyCopies::pack(const DataFolder& folder, const std::vector<Liste
 void SafetyCopies::removeOutdated(const CopyShelf& shelf, const CopyName& made, Date today) {
     auto copies = shelf.copies();
     copies.push_back(made);
-    const auto old = outdated(copies, today);
-    if (old.empty()) return;
-    const std::set<std::string> outdatedNames = [&] {
-        std::set<std::string> names;
-        for (const CopyName& copy : old)
-            names.insert(copy.text());
-        return names;
-    }();
+    std::set<std::string> outdatedNames;
+    for (const CopyName& copy : outdated(copies, today))
+        outdatedNames.insert(copy.text());
+    if (outdatedNames.empty()) return;
     std::set<std::string> needed;
     for (const CopyName& copy : copies)
         if (!outdatedNames.contains(copy.text()))

@@ -66,6 +66,16 @@ template <typename Work>
     }
 }
 
+/// Runs what only informs, or what can wait: a fault is logged behind `what`, and told to nobody.
+template <typename Work>
+void attemptQuietly(Log& log, const std::string& what, Work&& work) {
+    try {
+        work();
+    } catch (const std::exception& fault) {
+        log.write(what + ": " + fault.what());
+    }
+}
+
 /// Keeps other writers out of the data folder while the returned value lives; may be nested. Waits
 /// a few seconds for another writer, and asks before it takes over what another computer left
 /// behind. Throws Fault, naming who writes.

@@ -9,21 +9,6 @@ namespace winvrx {
 
 namespace {
 
-/// The number at the start of `text`, which is taken off.
-std::optional<int> takeNumber(std::string_view& text) {
-    int number = 0;
-    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (fault != std::errc{} || number < 0) return std::nullopt;
-    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
-    return number;
-}
-
-bool takeDot(std::string_view& text) {
-    if (!text.starts_with('.')) return false;
-    text.remove_prefix(1);
-    return true;
-}
-
 /// What the run writes and removes again is no change of the records.
 bool isOfTheRun(std::string_view name) {
     return name == kStartMemoryName || name == kSelectedMonthName || name == kReportDatabaseName;
@@ -36,13 +21,16 @@ std::string ProgramVersion::text() const {
 }
 
 std::optional<ProgramVersion> parseProgramVersion(std::string_view text) {
-    const auto major = takeNumber(text);
-    if (!major || !takeDot(text)) return std::nullopt;
-    const auto minor = takeNumber(text);
-    if (!minor || !takeDot(text)) return std::nullopt;
-    const auto patch = takeNumber(text);
-    if (!patch || !text.empty()) return std::nullopt;
-    return ProgramVersion{*major, *minor, *patch};
+    ProgramVersion version;
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    for (int* const part : {&version.major, &version.minor, &version.patch}) {
+        if (part != &version.major && (at == end || *at++ != '.')) return std::nullopt;
+        const auto [after, fault] = std::from_chars(at, end, *part);
+        if (fault != std::errc{} || *part < 0) return std::nullopt;
+        at = after;
+    }
+    return at == end ? std::optional(version) : std::nullopt;
 }
 
 ProgramVersion programVersion() {
@@ -54,17 +42,6 @@ std::optional<ProgramVersion> dataVersion(const FileSystem& files, const DataFol
     if (!bytes) return std::nullopt;
     return parseProgramVersion(
         trimmed(std::string_view(*bytes).substr(0, bytes->find_first_of("\r\n"))));
-}
-
-void VersionedFiles::replace(const std::filesystem::path& file, std::string_view bytes) {
-    beforeChange(file);
-    files_.replace(file, bytes);
-}
-
-void VersionedFiles::replaceAll(const std::vector<NewContent>& files) {
-    for (const NewContent& content : files)
-        beforeChange(content.file);
-    files_.replaceAll(files);
 }
 
 void VersionedFiles::beforeChange(const std::filesystem::path& file) {

@@ -42,11 +42,8 @@ class VersionedFiles final : public ForwardingFiles {
     VersionedFiles(FileSystem& files, const Session& session)
         : ForwardingFiles(files), session_(session) {}
 
-    void replace(const std::filesystem::path& file, std::string_view bytes) override;
-    void replaceAll(const std::vector<NewContent>& files) override;
-
   private:
-    void beforeChange(const std::filesystem::path& file);
+    void beforeChange(const std::filesystem::path& file) override;
 
     const Session& session_;
     std::filesystem::path marked_;

@@ -23,15 +23,14 @@ Message recordDespiteDoubts(std::string doubts) {
 }
 
 void ListScreen::load() {
-    (void)run(incorrectData(), [this] { reread(); });
+    (void)run(incorrectData(), [this] {
+        reread();
+        return true;
+    });
 }
 
 void ListScreen::reloadQuietly() {
-    try {
-        reread();
-    } catch (const std::exception& fault) {
-        at_.log.write(std::string("list not read again: ") + fault.what());
-    }
+    attemptQuietly(at_.log, "list not read again", [this] { reread(); });
 }
 
 std::optional<std::size_t> ListScreen::positionOf(const std::string& bytes) const {

@@ -6,7 +6,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <type_traits>
 #include <vector>
 
 namespace winvrx {
@@ -68,15 +67,11 @@ class ListScreen {
     template <typename Work>
     [[nodiscard]] bool run(const Message& onFailure, Work&& work) {
         failed_ = true;
-        bool done = true;
-        const bool ended = attempt(at_, onFailure, [&] {
-            if constexpr (std::is_void_v<std::invoke_result_t<Work&>>)
-                work();
-            else
-                done = work();
+        return attempt(at_, onFailure, [&] {
+            const bool done = work();
+            failed_ = false;
+            return done;
         });
-        failed_ = !ended;
-        return ended && done;
     }
     /// Tells the operator and gives false, for a command that ends there.
     [[nodiscard]] bool refuse(const Message& message, std::string detail = {}) const;

@@ -17,11 +17,8 @@ namespace winvrx {
 
 inline constexpr char kDefaultDrive = 'C';
 
-/// Folder literals, to be read behind a drive letter.
+/// Folder literal, to be read behind a drive letter.
 inline constexpr std::string_view kDataFolder = ":\\Users\\Public\\Documents\\Winvrx\\";
-inline constexpr std::string_view kInstallationSubfolder =
-    ":\\Users\\Public\\Documents\\Winvrx\\WinvrxOfNew\\";
-inline constexpr std::string_view kProgramFolder = ":\\Program Files (x86)\\Winvrx\\";
 
 /// Where an earlier installation kept its data, in the order in which they are searched.
 inline constexpr std::string_view kEarlierFolders[] = {":\\Arquivos de programas\\Winvrx\\",

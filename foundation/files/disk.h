@@ -55,15 +55,14 @@ class Disk {
     [[nodiscard]] virtual bool exists(const std::filesystem::path& path) const = 0;
 
     /// Names of the files in `folder`; none when there is no such folder.
-    [[nodiscard]] virtual std::vector<std::string> names(
-        const std::filesystem::path& folder) const = 0;
+    [[nodiscard]] virtual std::vector<std::string> names(const std::filesystem::path& folder) const;
 
     /// The same files with size and time, from one pass over the folder.
     [[nodiscard]] virtual std::vector<ListedFile> list(
         const std::filesystem::path& folder) const = 0;
 
     /// Makes the folder and its parents; nothing to do when it stands.
-    virtual void makeFolder(const std::filesystem::path& folder) = 0;
+    virtual void makeFolder(const std::filesystem::path& folder);
 };
 
 /// The disk of this computer.

@@ -1,23 +1,14 @@
 #include "foundation/files/file_faults.h"
 
+#include <array>
+
 namespace winvrx {
 
 namespace {
 
 std::string operationName(FileFault::Operation operation) {
-    switch (operation) {
-        case FileFault::Operation::Read:
-            return "ler";
-        case FileFault::Operation::Write:
-            return "gravar";
-        case FileFault::Operation::Remove:
-            return "excluir";
-        case FileFault::Operation::List:
-            return "listar";
-        case FileFault::Operation::MakeFolder:
-            return "criar a pasta";
-    }
-    return "usar";
+    static constexpr std::array kNames = {"ler", "gravar", "excluir", "listar", "criar a pasta"};
+    return kNames.at(static_cast<std::size_t>(operation));
 }
 
 class FileProblemCategory final : public std::error_category {

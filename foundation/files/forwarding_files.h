@@ -4,7 +4,8 @@
 
 namespace winvrx {
 
-/// Passes everything on to another file system: base of those that stand before one.
+/// Passes everything on to another file system: base of those that stand before one and do
+/// something of their own before a file is written.
 class ForwardingFiles : public FileSystem {
   public:
     explicit ForwardingFiles(FileSystem& files) : files_(files) {}
@@ -14,9 +15,14 @@ class ForwardingFiles : public FileSystem {
         return files_.read(file);
     }
     void replace(const std::filesystem::path& file, std::string_view bytes) override {
+        beforeChange(file);
         files_.replace(file, bytes);
     }
-    void replaceAll(const std::vector<NewContent>& files) override { files_.replaceAll(files); }
+    void replaceAll(const std::vector<NewContent>& files) override {
+        for (const NewContent& content : files)
+            beforeChange(content.file);
+        files_.replaceAll(files);
+    }
     bool remove(const std::filesystem::path& file) override { return files_.remove(file); }
     [[nodiscard]] bool exists(const std::filesystem::path& file) const override {
         return files_.exists(file);
@@ -37,6 +43,9 @@ class ForwardingFiles : public FileSystem {
     }
 
   protected:
+    /// Called for each file that is about to be written.
+    virtual void beforeChange(const std::filesystem::path&) {}
+
     FileSystem& files_;
 };
 

@@ -26,6 +26,7 @@ struct StoredLine {
     Record record;
 
     [[nodiscard]] auto key() const { return keyOf(record); }
+    [[nodiscard]] bool isKnown() const { return key().has_value(); }
     [[nodiscard]] bool operator==(const StoredLine& other) const { return bytes == other.bytes; }
 };
 

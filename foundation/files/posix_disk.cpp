@@ -1,6 +1,5 @@
+#include "foundation/files/disk.h"
 #include "foundation/files/file_faults.h"
-#include "foundation/files/file_system.h"
-#include "foundation/files/standard_folders.h"
 
 #include <algorithm>
 #include <array>
@@ -121,7 +120,7 @@ std::optional<ListedFile> listed(const Folder& folder, const char* name, const p
                           std::chrono::nanoseconds(status.st_mtim.tv_nsec)};
 }
 
-class PosixDisk final : public StandardFolders {
+class PosixDisk final : public Disk {
   public:
     [[nodiscard]] std::optional<std::string> read(const path& file) const override {
         const Descriptor in(file, O_RDONLY | O_NONBLOCK | O_NOFOLLOW);

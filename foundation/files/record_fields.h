@@ -17,7 +17,7 @@ template <typename Record>
 struct RecordField {
     std::string Record::*member;
     Column column;
-    std::string_view caption;
+    std::string_view caption = {};
     bool isRequired = false;  ///< nothing is recorded without it
 };
 

@@ -53,12 +53,11 @@ bool isEventList(std::string_view name) {
 }
 
 std::optional<std::string_view> stemOf(std::string_view name) {
-    for (const std::string_view stem : {kScheduleStem, kOvertimeStem, kLeaveStem, kContractStem,
-                                        kPaperInputsStem, kVacationStem, kTransferStem})
+    for (const std::string_view stem :
+         {kScheduleStem, kOvertimeStem, kLeaveStem, kContractStem, kPaperInputsStem, kVacationStem,
+          kTransferStem, kPayrollFactsStem, kTerminationStems[0], kTerminationStems[1],
+          kTerminationStems[2]})
         if (standsAt(name, 3, stem)) return stem;
-    for (const std::string_view stem : kTerminationStems)
-        if (standsAt(name, 3, stem)) return stem;
-    if (standsAt(name, 3, kPayrollFactsStem)) return kPayrollFactsStem;
     return std::nullopt;
 }
 

@@ -1,6 +1,5 @@
+#include "foundation/files/disk.h"
 #include "foundation/files/file_faults.h"
-#include "foundation/files/file_system.h"
-#include "foundation/files/standard_folders.h"
 
 #include <algorithm>
 #include <array>
@@ -151,7 +150,7 @@ ListedFile listed(const WIN32_FIND_DATAW& found) {
             std::chrono::nanoseconds(static_cast<std::int64_t>(ticks - kTicksBefore1970) * 100)};
 }
 
-class WindowsDisk final : public StandardFolders {
+class WindowsDisk final : public Disk {
   public:
     [[nodiscard]] std::optional<std::string> read(const path& file) const override {
         requirePlain(Operation::Read, file);

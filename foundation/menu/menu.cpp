@@ -91,10 +91,9 @@ void Menu::selectAsBefore() {
     const auto isUsed = [&](const CompanyLine& line) {
         return line.key() && line.key()->text() == used;
     };
-    const auto isKnown = [](const CompanyLine& line) { return line.key().has_value(); };
     auto found = std::ranges::find_if(companies_, isUsed);
-    if (found == companies_.end() && std::ranges::count_if(companies_, isKnown) == 1)
-        found = std::ranges::find_if(companies_, isKnown);
+    if (found == companies_.end() && std::ranges::count_if(companies_, &CompanyLine::isKnown) == 1)
+        found = std::ranges::find_if(companies_, &CompanyLine::isKnown);
     if (found != companies_.end()) select(static_cast<std::size_t>(found - companies_.begin()));
 }
 
@@ -189,11 +188,7 @@ void Menu::reloadCompanies() {
 }
 
 const CompanyLine* Menu::selected() const {
-    const auto found =
-        std::find_if(companies_.begin(), companies_.end(), [this](const CompanyLine& line) {
-            return line.key() && line.key() == at_.session.company;
-        });
-    return found == companies_.end() ? nullptr : &*found;
+    return findLine(companies_, at_.session.company);
 }
 
 void Menu::select(std::size_t position) {
@@ -227,7 +222,7 @@ bool Menu::require(MenuNeeds needs) {
     if (needs == MenuNeeds::Company) return true;
     return attempt(at_, kFailure, [this] {
         const EmployeeRegister employees(at_.store(), *at_.session.company);
-        return employees.hasEmployees() || at_.person.refuse(kNoEmployee);
+        return !employees.load().empty() || at_.person.refuse(kNoEmployee);
     });
 }
 
@@ -244,7 +239,10 @@ bool Menu::offerEarlier(std::string_view literal) {
     bool imported = false;
     (void)attempt(at_, kFailure, [&] {
         if (!at_.files.exists(earlier)) return;
-        if (isDealtWith(at_.store(), literal)) return removeEarlierQuietly(earlier, literal);
+        // What could not be deleted when the operator decided on it goes as soon as it can.
+        if (isDealtWith(at_.store(), literal))
+            return attemptQuietly(at_.log, "earlier data stays",
+                                  [&] { removeEarlier(earlier, literal); });
         if (at_.person.agrees(kUseEarlier)) {
             if (!at_.person.agrees(kConfirmUse)) return;
             importEarlier(earlier);
@@ -285,15 +283,6 @@ void Menu::removeEarlier(const std::filesystem::path& earlier, std::string_view 
         at_.files.remove(note.path());
     else
         note.rewriteValues(noted);
-}
-
-/// What could not be deleted when the operator decided on it goes as soon as it can.
-void Menu::removeEarlierQuietly(const std::filesystem::path& earlier, std::string_view literal) {
-    try {
-        removeEarlier(earlier, literal);
-    } catch (const std::exception& fault) {
-        at_.log.write(std::string("earlier data stays: ") + fault.what());
-    }
 }
 
 void Menu::exit() {

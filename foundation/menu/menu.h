@@ -80,7 +80,6 @@ class Menu {
     void importEarlier(const std::filesystem::path& earlier);
     void importList(const std::filesystem::path& earlier, const CompanyCode& company);
     void removeEarlier(const std::filesystem::path& earlier, std::string_view literal);
-    void removeEarlierQuietly(const std::filesystem::path& earlier, std::string_view literal);
     [[nodiscard]] std::filesystem::path localFolder(char letter) const;
 
     Workplace at_;

@@ -4,20 +4,15 @@
 
 namespace winvrx {
 
-namespace {
-
-std::vector<TextColumn> columns(bool inactive) {
+std::vector<std::string> activityReport(const std::vector<ReportedEmployee>& people, bool inactive,
+                                        Date today) {
     std::vector<TextColumn> columns = {
         {" Nome do Funcionário", 34}, {" Função", 20}, {" Admissão ", 10}};
     if (inactive) columns.push_back({" Demissão ", 10});
-    return columns;
-}
-
-std::vector<std::string> composed(const std::string& title, Date today,
-                                  const std::vector<ReportedEmployee>& people, bool inactive) {
-    TextReport report(columns(inactive));
+    TextReport report(columns);
     report.addLine("(Usar Fonte: Courier New, Tamanho: 10)");
-    report.addLine(title + dateText(today));
+    report.addLine(std::string(" RELATÓRIO DE COLABORADORES ") +
+                   (inactive ? "INATIVOS" : "ATIVOS") + " - " + dateText(today));
     report.addRule();
     report.addTitles();
     report.addRule();
@@ -29,16 +24,6 @@ std::vector<std::string> composed(const std::string& title, Date today,
     }
     report.addRule();
     return report.lines();
-}
-
-}  // namespace
-
-std::vector<std::string> activeReport(const std::vector<ReportedEmployee>& people, Date today) {
-    return composed(" RELATÓRIO DE COLABORADORES ATIVOS - ", today, people, false);
-}
-
-std::vector<std::string> inactiveReport(const std::vector<ReportedEmployee>& people, Date today) {
-    return composed(" RELATÓRIO DE COLABORADORES INATIVOS - ", today, people, true);
 }
 
 }  // namespace winvrx

@@ -17,12 +17,9 @@ struct ReportedEmployee {
     std::optional<Date> inactiveSince;  ///< nullopt while active
 };
 
-/// The lines of the report of the active employees among `people`, in their order, as UTF-8.
-[[nodiscard]] std::vector<std::string> activeReport(const std::vector<ReportedEmployee>& people,
-                                                    Date today);
-
-/// The same of the inactive ones, with the day since which they are.
-[[nodiscard]] std::vector<std::string> inactiveReport(const std::vector<ReportedEmployee>& people,
-                                                      Date today);
+/// The lines of the report of the active or of the inactive ones among `people`, in their order, as
+/// UTF-8; the inactive ones with the day since which they are.
+[[nodiscard]] std::vector<std::string> activityReport(const std::vector<ReportedEmployee>& people,
+                                                      bool inactive, Date today);
 
 }  // namespace winvrx

@@ -25,19 +25,16 @@ Company loadCompany(const Store& store, const CompanyCode& code) {
 }
 
 const CompanyLine* firstCompany(const std::vector<CompanyLine>& lines) {
-    const auto found =
-        std::ranges::find_if(lines, [](const auto& line) { return line.key().has_value(); });
+    const auto found = std::ranges::find_if(lines, &CompanyLine::isKnown);
     return found == lines.end() ? nullptr : &*found;
 }
 
 Message noCompany(const Workplace& at) {
     Message told = refusal("Aviso", "Cadastre Primeiro Uma Empresa!!");
-    try {
+    attemptQuietly(at.log, "company register not read", [&] {
         if (firstCompany(loadCompanies(at.store())))
             told.detail = "Selecione uma empresa na lista.";
-    } catch (const std::exception& fault) {
-        at.log.write(std::string("company register not read: ") + fault.what());
-    }
+    });
     return told;
 }
 

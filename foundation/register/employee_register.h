@@ -35,8 +35,6 @@ class EmployeeRegister {
         return list_.contentOf(lines);
     }
 
-    [[nodiscard]] bool hasEmployees() const { return !load().empty(); }
-
     /// The codes that files in the folder bear, whether a line has them or not.
     [[nodiscard]] std::set<EmployeeCode> codesOfFiles() const;
 

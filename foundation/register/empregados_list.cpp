@@ -112,10 +112,11 @@ bool Empregados::report() {
     return run(incorrectData(), [&] {
         const std::vector<ReportedEmployee> people = reportedEmployees();
         const Date today = at_.clock.today();
-        return showReports(
-                   at_, desk_.editor,
-                   {{at_.session.companyFile("RelAtivos.txt"), activeReport(people, today)},
-                    {at_.session.companyFile("RelInativos.txt"), inactiveReport(people, today)}}) ||
+        return showReports(at_, desk_.editor,
+                           {{at_.session.companyFile("RelAtivos.txt"),
+                             activityReport(people, false, today)},
+                            {at_.session.companyFile("RelInativos.txt"),
+                             activityReport(people, true, today)}}) ||
                refuse(kNotOpened);
     });
 }
@@ -127,6 +128,7 @@ bool Empregados::exportTo(const std::filesystem::path& file) {
         at_.files.replace(file, isWorkbookName(file) ? desk_.spreadsheet.workbookOf(
                                                            {textSheet("Funcionários", table)})
                                                      : csvText(rowsOf(table)));
+        return true;
     });
 }
 

@@ -61,13 +61,9 @@ struct Leave {
     [[nodiscard]] std::optional<Date> lastDayWorked() const;
 };
 
-/// One field of a leave's line. The layout's one place; docs/record-layouts.md shows it with
-/// examples.
-struct LeaveField {
-    std::string Leave::*member;
-    Column column;
-};
+using LeaveField = RecordField<Leave>;
 
+/// The layout's one place; docs/record-layouts.md shows it with examples.
 inline constexpr std::array kLeaveFields = {
     LeaveField{&Leave::type, {1, 30}},
     LeaveField{&Leave::firstDay, {31, 10}},

@@ -27,6 +27,7 @@ namespace winvrx {
 
 namespace {
 
+const std::string kStateOfCommands = "state of the commands";
 constexpr int kSideWidth = 19;  ///< of the columns at the sides, in average capital letters
 
 /// A panel as wide as the side columns are.
@@ -40,24 +41,6 @@ QFrame* sidePanel(QWidget* parent) {
 void fixWidth(QFrame& side) {
     const int usual = side.fontMetrics().horizontalAdvance(QLatin1Char('M')) * kSideWidth;
     side.setFixedWidth(std::max(usual, side.minimumSizeHint().width()));
-}
-
-/// A text of several lines at the end of the column.
-QLabel* addLines(QVBoxLayout& column, const char* name, look::TextSize size) {
-    QLabel* lines = look::label(QString(), size, column.parentWidget());
-    lines->setObjectName(QLatin1String(name));
-    lines->setWordWrap(true);
-    column.addWidget(lines);
-    return lines;
-}
-
-/// For what only informs: a failure is logged, and leaves it out.
-void attemptQuietly(Log& log, const std::function<void()>& work) {
-    try {
-        work();
-    } catch (const std::exception& fault) {
-        log.write(std::string("state of the commands: ") + fault.what());
-    }
 }
 
 QString dayLine(Date date) {
@@ -164,8 +147,10 @@ QWidget* MenuWindow::buildOverview() {
     column->addWidget(offered_);
     month_ = new MonthView(side);
     column->addWidget(month_);
-    counts_ = addLines(*column, "menu.counts", look::TextSize::Body);
-    notices_ = addLines(*column, "menu.notices", look::TextSize::Hint);
+    counts_ = look::paragraph(QStringLiteral("menu.counts"), look::TextSize::Body, side);
+    column->addWidget(counts_);
+    notices_ = look::paragraph(QStringLiteral("menu.notices"), look::TextSize::Hint, side);
+    column->addWidget(notices_);
     column->addStretch(1);
     column->addWidget(buildDataFolder());
     fixWidth(*side);
@@ -179,7 +164,8 @@ QWidget* MenuWindow::buildDataFolder() {
     drive_ = new QComboBox(part);
     look::name(*drive_, QStringLiteral("menu.drive"), QStringLiteral("Drive de Origem"));
     column->addLayout(look::captioned(QStringLiteral("Dri&ve de Origem:"), drive_));
-    folder_ = addLines(*column, "menu.folder", look::TextSize::Hint);
+    folder_ = look::paragraph(QStringLiteral("menu.folder"), look::TextSize::Hint, part);
+    column->addWidget(folder_);
     connect(drive_, &QComboBox::textActivated, this, [this](const QString& letter) {
         menu_.useDrive(letter.front().toLatin1());
         fillCompanies();
@@ -305,11 +291,11 @@ void MenuWindow::showOverview() {
 
 void MenuWindow::showTiles() {
     std::optional<MonthProgress> progress;
-    attemptQuietly(at_.log, [&] { progress = progress_(inWork_); });
+    attemptQuietly(at_.log, kStateOfCommands, [&] { progress = progress_(inWork_); });
     for (std::size_t i = 0; i < entries_.size(); ++i) {
         const MenuEntry& entry = entries_[i];
         QString line;
-        attemptQuietly(at_.log, [&] {
+        attemptQuietly(at_.log, kStateOfCommands, [&] {
             if (entry.state) line = entry.state(progress ? &*progress : nullptr);
         });
         CommandTile& tile = *commands_->tiles()[i];

@@ -96,7 +96,7 @@ TEST(EmployeeRegister, OneCopyAnHourIsKept) {
     EXPECT_EQ(files.content.size(), 2U);
     list.save({}, at("15/03/2024", "11:00"));
     EXPECT_EQ(files.content.size(), 3U);
-    EXPECT_FALSE(list.hasEmployees());
+    EXPECT_TRUE(list.load().empty());
 }
 
 TEST(EmployeeRegister, NothingIsWrittenWhenTheCopyFails) {

@@ -1,6 +1,5 @@
 #ifdef __linux__
 
-#include "foundation/files/standard_folders.h"
 #include "foundation/values/text.h"
 #include "tests/support/faulty_disk.h"
 #include "tests/support/real_office.h"
@@ -227,7 +226,7 @@ TEST(RealVolume, LinkInTheDestinationLeadsNowhere) {
 
 /// Finds a file below its root under any capitals, as the drives of cameras and sticks do, and
 /// keeps the first spelling.
-class CaselessDisk final : public StandardFolders {
+class CaselessDisk final : public Disk {
   public:
     CaselessDisk(Disk& disk, fs::path root) : disk_(disk), root_(std::move(root)) {}
 

@@ -1,10 +1,10 @@
-#include "foundation/files/standard_folders.h"
+#include "foundation/files/disk.h"
 
 #include "foundation/files/file_faults.h"
 
 namespace winvrx {
 
-std::vector<std::string> StandardFolders::names(const std::filesystem::path& folder) const {
+std::vector<std::string> Disk::names(const std::filesystem::path& folder) const {
     std::vector<std::string> names;
     std::error_code error;
     std::filesystem::directory_iterator entry(folder, error);
@@ -15,7 +15,7 @@ std::vector<std::string> StandardFolders::names(const std::filesystem::path& fol
     return names;
 }
 
-void StandardFolders::makeFolder(const std::filesystem::path& folder) {
+void Disk::makeFolder(const std::filesystem::path& folder) {
     std::error_code error;
     std::filesystem::create_directories(folder, error);
     if (error) throw FileFault(FileFault::Operation::MakeFolder, folder, error);
