@@ -4,7 +4,8 @@
 #include "foundation/files/record_names.h"
 #include "foundation/values/text.h"
 
-#include <algorithm>
+#include <array>
+#include <map>
 
 namespace winvrx {
 
@@ -21,35 +22,17 @@ Message confirmation(const CopyName& name) {
         "uma cópia desta lista.");
 }
 
-SubjectChange& entryFor(std::vector<SubjectChange>& changes, std::string subject) {
-    const auto found =
-        std::find_if(changes.begin(), changes.end(),
-                     [&](const SubjectChange& change) { return change.subject == subject; });
-    if (found != changes.end()) return *found;
-    return changes.emplace_back(SubjectChange{.subject = std::move(subject)});
-}
-
 std::vector<SubjectChange> bySubject(const std::vector<FileChange>& files) {
-    std::vector<SubjectChange> changes;
-    for (const FileChange& file : files) {
-        SubjectChange& change = entryFor(changes, subjectOfFile(file.file));
-        switch (file.kind) {
-            case FileChange::Kind::Differs:
-                ++change.different;
-                break;
-            case FileChange::Kind::OnlyInCopy:
-                ++change.missing;
-                break;
-            case FileChange::Kind::OnlyHere:
-                ++change.surplus;
-                break;
-        }
-    }
-    std::stable_sort(changes.begin(), changes.end(),
-                     [](const SubjectChange& left, const SubjectChange& right) {
-                         return left.subject < right.subject;
-                     });
-    return changes;
+    // In the order of FileChange::Kind.
+    static constexpr std::array kCounts = {&SubjectChange::different, &SubjectChange::missing,
+                                           &SubjectChange::surplus};
+    std::map<std::string, SubjectChange> changes;
+    for (const FileChange& file : files)
+        ++(changes[subjectOfFile(file.file)].*kCounts.at(static_cast<std::size_t>(file.kind)));
+    std::vector<SubjectChange> sorted;
+    for (const auto& [subject, change] : changes)
+        sorted.push_back({subject, change.different, change.missing, change.surplus});
+    return sorted;
 }
 
 }  // namespace

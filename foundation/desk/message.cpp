@@ -40,16 +40,8 @@ Answer enterAnswer(const Message& message) {
 }
 
 Answer harmlessAnswer(const Message& message) {
-    switch (message.buttons) {
-        case Buttons::Ok:
-            return Answer::Ok;
-        case Buttons::YesNo:
-            return Answer::No;
-        case Buttons::OkCancel:
-        case Buttons::YesNoCancel:
-            return Answer::Cancel;
-    }
-    return Answer::Ok;
+    if (message.buttons == Buttons::Ok) return Answer::Ok;
+    return message.buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
 }
 
 }  // namespace winvrx

@@ -75,17 +75,9 @@ std::string completedUntil(std::string_view text, Date latest) {
 /// Puts a check of a number in words; `name` is what the number is called: "CPF".
 Hint idHint(IdCheck check, std::string_view name, Entry entry) {
     const std::string number(name);
-    switch (check) {
-        case IdCheck::Empty:
-            return {};
-        case IdCheck::Valid:
-            return {Hint::Tone::Good, number + " válido"};
-        case IdCheck::Wrong:
-            return {Hint::Tone::Warning, number + " não confere."};
-        case IdCheck::TooShort:
-            break;
-    }
-    if (entry == Entry::Typing) return {};
+    if (check == IdCheck::Valid) return {Hint::Tone::Good, number + " válido"};
+    if (check == IdCheck::Wrong) return {Hint::Tone::Warning, number + " não confere."};
+    if (check == IdCheck::Empty || entry == Entry::Typing) return {};
     return {Hint::Tone::Warning, number + " incompleto."};
 }
 

@@ -9,13 +9,8 @@
 
 namespace winvrx {
 
-namespace {
-
-constexpr qint64 kLargest = 1 << 20;
-
-}  // namespace
-
 void FileLog::write(std::string_view entry) noexcept {
+    constexpr qint64 kLargest = 1 << 20;
     try {
         const QFileInfo info(path_);
         QDir().mkpath(info.path());

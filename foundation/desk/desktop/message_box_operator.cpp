@@ -7,67 +7,30 @@
 #include <QProgressDialog>
 #include <QPushButton>
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace winvrx {
 
 namespace {
 
-QMessageBox::Icon iconOf(Icon icon) {
-    switch (icon) {
-        case Icon::None:
-            return QMessageBox::NoIcon;
-        case Icon::Information:
-            return QMessageBox::Information;
-        case Icon::Question:
-            return QMessageBox::Question;
-        case Icon::Exclamation:
-            return QMessageBox::Warning;
-        case Icon::Critical:
-            return QMessageBox::Critical;
-    }
-    return QMessageBox::NoIcon;
-}
+/// In the order of Icon.
+constexpr std::array kIcons = {QMessageBox::NoIcon, QMessageBox::Information, QMessageBox::Question,
+                               QMessageBox::Warning, QMessageBox::Critical};
 
-QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
-    switch (buttons) {
-        case Buttons::Ok:
-            return QMessageBox::Ok;
-        case Buttons::OkCancel:
-            return QMessageBox::Ok | QMessageBox::Cancel;
-        case Buttons::YesNo:
-            return QMessageBox::Yes | QMessageBox::No;
-        case Buttons::YesNoCancel:
-            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-    }
-    return QMessageBox::Ok;
-}
+/// In the order of Buttons.
+constexpr std::array<QMessageBox::StandardButtons, 4> kButtons = {
+    QMessageBox::Ok, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Yes | QMessageBox::No,
+    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel};
 
-QMessageBox::StandardButton buttonOf(Answer answer) {
-    switch (answer) {
-        case Answer::Ok:
-            return QMessageBox::Ok;
-        case Answer::Cancel:
-            return QMessageBox::Cancel;
-        case Answer::Yes:
-            return QMessageBox::Yes;
-        case Answer::No:
-            return QMessageBox::No;
-    }
-    return QMessageBox::Ok;
-}
+/// In the order of Answer.
+constexpr std::array kAnswers = {QMessageBox::Ok, QMessageBox::Cancel, QMessageBox::Yes,
+                                 QMessageBox::No};
 
-Answer answerOf(int button) {
-    switch (button) {
-        case QMessageBox::Yes:
-            return Answer::Yes;
-        case QMessageBox::No:
-            return Answer::No;
-        case QMessageBox::Cancel:
-            return Answer::Cancel;
-        default:
-            return Answer::Ok;
-    }
+template <typename Meanings, typename Value>
+auto meaningOf(const Meanings& meanings, Value value) {
+    return meanings.at(static_cast<std::size_t>(value));
 }
 
 /// Gives "OK" and "Cancelar" a letter each, as "Sim" and "Não" have theirs: a box is answered by
@@ -97,12 +60,13 @@ Answer MessageBoxOperator::ask(const Message& message) {
     box.setTextFormat(Qt::PlainText);
     box.setText(toQt(message.text));
     box.setInformativeText(toQt(message.detail));
-    box.setIcon(iconOf(message.icon));
-    box.setStandardButtons(buttonsOf(message.buttons));
+    box.setIcon(meaningOf(kIcons, message.icon));
+    box.setStandardButtons(meaningOf(kButtons, message.buttons));
     addLetters(box);
-    box.setDefaultButton(buttonOf(enterAnswer(message)));
-    box.setEscapeButton(buttonOf(harmlessAnswer(message)));
-    return answerOf(box.exec());
+    box.setDefaultButton(meaningOf(kAnswers, enterAnswer(message)));
+    box.setEscapeButton(meaningOf(kAnswers, harmlessAnswer(message)));
+    return static_cast<Answer>(std::find(kAnswers.begin(), kAnswers.end(), box.exec()) -
+                               kAnswers.begin());
 }
 
 }  // namespace winvrx

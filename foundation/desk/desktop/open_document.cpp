@@ -4,6 +4,7 @@
 
 #include <QXmlStreamWriter>
 
+#include <array>
 #include <numeric>
 #include <set>
 
@@ -25,17 +26,8 @@ std::string millimetres(int length) {
 }
 
 std::string alignmentOf(const Paragraph& paragraph) {
-    switch (paragraph.side) {
-        case Paragraph::Side::Left:
-            return "start";
-        case Paragraph::Side::Center:
-            return "center";
-        case Paragraph::Side::Right:
-            return "end";
-        case Paragraph::Side::Justified:
-            return "justify";
-    }
-    return {};
+    static constexpr std::array kAlignments = {"start", "center", "end", "justify"};
+    return kAlignments.at(static_cast<std::size_t>(paragraph.side));
 }
 
 std::string styleOf(const Paragraph& paragraph) {
