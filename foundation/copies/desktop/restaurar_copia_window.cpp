@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QLocale>
 #include <QSignalBlocker>
-#include <QSplitter>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -52,7 +51,7 @@ RestaurarCopiaWindow::RestaurarCopiaWindow(RestaurarCopia& copies, QWidget* pare
       copies_(copies) {
     setSubtitle(QStringLiteral("Uma cópia para cada um dos últimos sete dias de uso"));
     addCommands();
-    setBody(buildBody());
+    setSplitBody({buildList(), 1}, {buildPreview(), 1});
     connect(list_, &QTreeWidget::currentItemChanged, this, &RestaurarCopiaWindow::showPreview);
     connect(list_, &QTreeWidget::itemActivated, this, &RestaurarCopiaWindow::restore);
     copies_.load();
@@ -64,22 +63,6 @@ void RestaurarCopiaWindow::addCommands() {
     addCommand({"restore", QStringLiteral("Restaurar"), Qt::CTRL | Qt::Key_R, "restaurar.restore",
                 [this] { restore(); }});
     addLeavingButton("restaurar.close");
-}
-
-QWidget* RestaurarCopiaWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    auto* split = new QSplitter(body);
-    split->setChildrenCollapsible(false);
-    split->addWidget(buildList());
-    split->addWidget(buildPreview());
-    split->setStretchFactor(0, 1);
-    split->setStretchFactor(1, 1);
-    split->setHandleWidth(look::kMargin);
-    split->setSizes({width(), width()});
-    row->addWidget(split);
-    return body;
 }
 
 QWidget* RestaurarCopiaWindow::buildList() {

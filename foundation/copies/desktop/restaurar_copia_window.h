@@ -20,7 +20,6 @@ class RestaurarCopiaWindow : public ScreenWindow {
 
   private:
     void addCommands();
-    [[nodiscard]] QWidget* buildBody();
     [[nodiscard]] QWidget* buildList();
     [[nodiscard]] QWidget* buildPreview();
 

@@ -13,18 +13,13 @@ namespace {
 constexpr int kCorner = 8;
 constexpr int kLeastLetters = 24;
 
-QString withoutMnemonic(QString text) {
-    return text.remove(QLatin1Char('&'));
-}
-
 }  // namespace
 
 CommandTile::CommandTile(const QString& objectName, const QString& icon, const QString& title,
                          const QString& key, QWidget* parent)
     : QAbstractButton(parent), key_(key) {
-    setObjectName(objectName);
+    look::name(*this, objectName, title);
     setText(title);
-    setAccessibleName(withoutMnemonic(title));
     setIcon(look::icon(icon, look::Tint::Accent));
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);

@@ -102,11 +102,9 @@ EmployeeForm::EmployeeForm(Empregados& employees, QWidget* window)
 }
 
 QVBoxLayout& EmployeeForm::addPage(QTabWidget& pages, const QString& title) {
-    auto* page = new QWidget(&pages);
+    const auto [page, column] = look::body(&pages);
     page->setBackgroundRole(QPalette::Base);
     page->setAutoFillBackground(true);
-    auto* column = new QVBoxLayout(page);
-    look::layOutBody(*column);
     column->setAlignment(Qt::AlignTop);
     pages.addTab(look::scrolled(page, &pages), title);
     return *column;

@@ -17,20 +17,17 @@ class EmpregadosWindow : public RegisterWindow {
     EmpregadosWindow(Empregados& empregados, EmployeeImport& import, QWidget* parent = nullptr);
 
   private:
-    using Command = void (EmpregadosWindow::*)();
-
     void addListCommands();
     void addToMenu(QMenu* menu, const char* name, const QString& text, const QKeySequence& key,
-                   Command command);
+                   std::function<void()> run);
+    /// For a command on the whole list.
+    void addToMenu(QMenu* menu, const char* name, const QString& text, const QKeySequence& key,
+                   bool (Empregados::*command)());
 
     void transfer();
     void move();
-    void sortByName();
-    void sortByAdmission();
-    void report();
     void importCsv();
     void exportList();
-    void removeAll();
 
     Empregados& empregados_;
     EmployeeImport& import_;

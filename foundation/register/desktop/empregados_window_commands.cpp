@@ -37,31 +37,37 @@ void EmpregadosWindow::addListCommands() {
     auto* menu = new QMenu(list);
     menu->setObjectName(QStringLiteral("empregados.menu"));
     addToMenu(menu, "sortByName", QStringLiteral("Ordem &alfabética"),
-              QKeySequence(QStringLiteral("Ctrl+Shift+A")), &EmpregadosWindow::sortByName);
+              QKeySequence(QStringLiteral("Ctrl+Shift+A")), &Empregados::sortByName);
     addToMenu(menu, "sortByAdmission", QStringLiteral("Ordem por a&dmissão"),
-              QKeySequence(QStringLiteral("Ctrl+Shift+D")), &EmpregadosWindow::sortByAdmission);
+              QKeySequence(QStringLiteral("Ctrl+Shift+D")), &Empregados::sortByAdmission);
     menu->addSeparator();
     addToMenu(menu, "report", QStringLiteral("&Relatório de ativos e inativos"),
-              QKeySequence::Print, &EmpregadosWindow::report);
+              QKeySequence::Print, &Empregados::report);
     menu->addSeparator();
     addToMenu(menu, "import", QStringLiteral("&Incluir de uma planilha (CSV)…"), QKeySequence::Open,
-              &EmpregadosWindow::importCsv);
+              [this] { importCsv(); });
     addToMenu(menu, "export", QStringLiteral("&Exportar para planilha…"),
-              QKeySequence(QStringLiteral("Ctrl+E")), &EmpregadosWindow::exportList);
+              QKeySequence(QStringLiteral("Ctrl+E")), [this] { exportList(); });
     menu->addSeparator();
     addToMenu(menu, "deleteAll", QStringLiteral("E&xcluir toda a lista…"),
-              QKeySequence(QStringLiteral("Ctrl+Shift+Del")), &EmpregadosWindow::removeAll);
+              QKeySequence(QStringLiteral("Ctrl+Shift+Del")), &Empregados::removeAll);
     list->setMenu(menu);
     list->setPopupMode(QToolButton::InstantPopup);
 }
 
 void EmpregadosWindow::addToMenu(QMenu* menu, const char* name, const QString& text,
-                                 const QKeySequence& key, Command command) {
+                                 const QKeySequence& key, std::function<void()> run) {
     QAction* action = menu->addAction(text);
     action->setObjectName(QStringLiteral("empregados.") + QLatin1String(name));
     action->setShortcut(key);
     addAction(action);
-    connect(action, &QAction::triggered, this, command);
+    connect(action, &QAction::triggered, this, std::move(run));
+}
+
+void EmpregadosWindow::addToMenu(QMenu* menu, const char* name, const QString& text,
+                                 const QKeySequence& key, bool (Empregados::*command)()) {
+    addToMenu(menu, name, text, key,
+              [this, command] { runOnList([&] { return (empregados_.*command)(); }); });
 }
 
 void EmpregadosWindow::transfer() {
@@ -94,18 +100,6 @@ void EmpregadosWindow::move() {
     runOnList([&] { return empregados_.moveTo(*current(), toUtf8(dialog.textValue())); });
 }
 
-void EmpregadosWindow::sortByName() {
-    runOnList([this] { return empregados_.sortByName(); });
-}
-
-void EmpregadosWindow::sortByAdmission() {
-    runOnList([this] { return empregados_.sortByAdmission(); });
-}
-
-void EmpregadosWindow::report() {
-    runOnList([this] { return empregados_.report(); });
-}
-
 void EmpregadosWindow::importCsv() {
     const QString file = QFileDialog::getOpenFileName(
         this, QStringLiteral("Incluir de uma planilha"), documents(),
@@ -132,10 +126,6 @@ void EmpregadosWindow::exportList() {
         file += filter == texts ? QStringLiteral(".csv") : QStringLiteral(".xlsx");
     if (empregados_.exportTo(pathOf(file)))
         setState(QStringLiteral("Exportado para %1").arg(QDir::toNativeSeparators(file)));
-}
-
-void EmpregadosWindow::removeAll() {
-    runOnList([this] { return empregados_.removeAll(); });
 }
 
 }  // namespace winvrx

@@ -22,8 +22,7 @@ namespace {
 const QString kGroup = QStringLiteral("Cadastros");
 
 QString companiesState(const Workplace& at) {
-    const auto known = std::ranges::count_if(
-        loadCompanies(at.store()), [](const CompanyLine& line) { return line.key().has_value(); });
+    const auto known = std::ranges::count_if(loadCompanies(at.store()), &CompanyLine::isKnown);
     return toQt(countOf(known, "empresa"));
 }
 

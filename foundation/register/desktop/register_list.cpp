@@ -62,9 +62,8 @@ void RegisterList::buildEmptyPage(const QString& screen) {
     emptyText_ = look::paragraph(screen + QStringLiteral(".empty"), look::TextSize::Body, page);
     emptyText_->setAlignment(Qt::AlignCenter);
     column->addWidget(emptyText_);
-    first_ = new QPushButton(look::icon(QStringLiteral("add")), QString(), page);
-    first_->setObjectName(screen + QStringLiteral(".first"));
-    first_->setAutoDefault(false);
+    first_ = look::button(QString(), screen + QStringLiteral(".first"), page);
+    first_->setIcon(look::icon(QStringLiteral("add")));
     connect(first_, &QPushButton::clicked, this, &RegisterList::firstRequested);
     column->addWidget(first_, 0, Qt::AlignCenter);
     column->addStretch();

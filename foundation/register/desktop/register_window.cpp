@@ -1,23 +1,15 @@
 #include "foundation/register/desktop/register_window.h"
 
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/widgets/desktop/enter_key.h"
 #include "foundation/widgets/desktop/look.h"
 
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QSplitter>
 #include <QToolButton>
 #include <QVBoxLayout>
 
 namespace winvrx {
-
-namespace {
-
-constexpr int kFormShare = 60;
-constexpr int kThirdShare = 30;
-constexpr int kWideShare = 40;
-
-}  // namespace
 
 RegisterWindow::RegisterWindow(ListScreen& list, const Texts& texts, QWidget* parent)
     : ScreenWindow(texts.screen, texts.title, parent), commands_(list) {
@@ -45,23 +37,10 @@ void RegisterWindow::addCommands(const Texts& texts) {
 void RegisterWindow::assemble(RecordEditor* form, QWidget* underList, ListRoom room) {
     form_ = form;
     connect(form_, &RecordEditor::edited, this, &RegisterWindow::showState);
-    const int listShare = room == ListRoom::Wide ? kWideShare : kThirdShare;
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    auto* split = new QSplitter(body);
-    split->setChildrenCollapsible(false);
-    const auto [left, column] = look::part(split);
+    const auto [left, column] = look::part(this);
     column->addWidget(list_, 1);
     if (underList) column->addWidget(underList);
-    split->addWidget(left);
-    split->addWidget(form->widget());
-    split->setStretchFactor(0, listShare);
-    split->setStretchFactor(1, kFormShare);
-    split->setHandleWidth(look::kMargin);
-    split->setSizes({listShare * width(), kFormShare * width()});
-    row->addWidget(split);
-    setBody(body);
+    setSplitBody({left, room == ListRoom::Wide ? 40 : 30}, {form->widget(), 60});
 }
 
 void RegisterWindow::openAt(std::optional<std::size_t> position) {
@@ -182,8 +161,7 @@ bool RegisterWindow::mayClose() {
 }
 
 void RegisterWindow::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && form_->moveToNextPage(focusWidget())) return;
+    if (isEnter(*event) && form_->moveToNextPage(focusWidget())) return;
     ScreenWindow::keyPressEvent(event);
 }
 

@@ -10,12 +10,6 @@
 
 namespace winvrx {
 
-namespace {
-
-constexpr int kLeastLetters = 5;  ///< of a command on a narrow screen
-
-}  // namespace
-
 /// Its text ends with its key; without that it is what it is called for screen readers.
 class CommandButton : public QToolButton {
   public:
@@ -57,6 +51,7 @@ CommandBar::CommandBar(QWidget* parent) : QFrame(parent), row_(new QHBoxLayout(t
 }
 
 QToolButton* CommandBar::add(const QString& icon, const QString& text, const QString& key) {
+    constexpr int kLeastLetters = 5;  // on a narrow screen
     auto* button = new CommandButton(this);
     look::setRole(*button, "command");
     button->setAccessibleName(text);

@@ -16,9 +16,7 @@ class EnterKey : public QObject {
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key()
-                                                          : Qt::Key_unknown;
-        if (key != Qt::Key_Return && key != Qt::Key_Enter)
+        if (event->type() != QEvent::KeyPress || !isEnter(*static_cast<QKeyEvent*>(event)))
             return QObject::eventFilter(watched, event);
         run_();
         return true;
@@ -29,6 +27,10 @@ class EnterKey : public QObject {
 };
 
 }  // namespace
+
+bool isEnter(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
 
 void onEnter(QWidget& list, std::function<void()> run) {
     new EnterKey(list, std::move(run));

@@ -2,6 +2,7 @@
 
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"
+#include "foundation/widgets/desktop/enter_key.h"
 #include "foundation/widgets/desktop/look.h"
 
 #include <QAbstractItemView>
@@ -77,12 +78,18 @@ QWidget* Field::makeInput() {
 QWidget* Field::makeNotes() {
     notes_ = new QPlainTextEdit;
     notes_->setTabChangesFocus(true);
-    notes_->installEventFilter(this);
     connect(notes_, &QPlainTextEdit::textChanged, this, [this] {
         limitNotes();
         emit edited();
     });
-    if (kind_.lineWidth == 0) return notes_;
+    if (kind_.lineWidth == 0) {
+        // As in every other field.
+        onEnter(*notes_, [this] {
+            QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+            QCoreApplication::sendEvent(this, &enter);
+        });
+        return notes_;
+    }
     notes_->setFont(look::reportFont());
     notes_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     const QFontMetricsF metrics(notes_->font());
@@ -363,23 +370,11 @@ void Field::limitNotes() {
     look::setTint(*hint_, look::Tint::Quiet);
 }
 
-/// Enter leaves the notes, as every other field, unless they are lines. A list without a choice
-/// opens with its first row marked, from where the keys go on.
+/// A list without a choice opens with its first row marked, from where the keys go on.
 bool Field::eventFilter(QObject* watched, QEvent* event) {
-    if (list_ && watched == list_->view() && event->type() == QEvent::Show) markRow();
-    if (watched == notes_ && event->type() == QEvent::KeyPress && kind_.lineWidth == 0) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            QCoreApplication::sendEvent(this, event);
-            return true;
-        }
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
-void Field::markRow() {
-    if (!list_->view()->currentIndex().isValid())
+    if (event->type() == QEvent::Show && !list_->view()->currentIndex().isValid())
         list_->view()->setCurrentIndex(list_->model()->index(0, list_->modelColumn()));
+    return QWidget::eventFilter(watched, event);
 }
 
 QString withMnemonic(std::string_view caption, char letter) {

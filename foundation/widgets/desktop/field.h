@@ -101,7 +101,6 @@ class Field : public QWidget {
     void showHint(Entry entry);
     [[nodiscard]] Hint ownHint(Entry entry) const;
     void complete();
-    void markRow();
     void limitNotes();
 
     FieldKind kind_;

@@ -15,6 +15,8 @@
 #include <QStyle>
 #include <QTreeWidget>
 
+#include <array>
+
 // The icons lie in a static library, which nothing else draws into the program. The macro works
 // only outside of namespaces.
 static void loadIcons() {
@@ -59,19 +61,8 @@ QToolTip { border: 1px solid %2; padding: 4px; }
                                           name(wash(Tint::Accent, palette)));
 }
 
-qreal factorOf(TextSize size) {
-    switch (size) {
-        case TextSize::Title:
-            return 1.5;
-        case TextSize::Heading:
-            return 1.1;
-        case TextSize::Body:
-            return 1.0;
-        case TextSize::Hint:
-            return 0.9;
-    }
-    return 1.0;
-}
+/// Of the usual letters, in the order of TextSize.
+constexpr std::array kFactors = {1.5, 1.1, 1.0, 0.9};
 
 }  // namespace
 
@@ -92,7 +83,7 @@ void setRole(QWidget& widget, const char* role) {
 
 QFont font(TextSize size) {
     QFont font = QApplication::font();
-    font.setPointSizeF(font.pointSizeF() * factorOf(size));
+    font.setPointSizeF(font.pointSizeF() * kFactors.at(static_cast<std::size_t>(size)));
     if (size == TextSize::Title || size == TextSize::Heading) font.setWeight(QFont::DemiBold);
     return font;
 }
@@ -166,11 +157,7 @@ QPushButton* button(const QString& text, const QString& objectName, QWidget* par
     return button;
 }
 
-QIcon icon(const QString& name) {
-    return QIcon(new SvgIconEngine(name, std::nullopt));
-}
-
-QIcon icon(const QString& name, Tint tint) {
+QIcon icon(const QString& name, std::optional<Tint> tint) {
     return QIcon(new SvgIconEngine(name, tint));
 }
 

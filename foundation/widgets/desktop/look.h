@@ -8,6 +8,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 class QApplication;
 class QBoxLayout;
 class QGridLayout;
@@ -76,8 +78,7 @@ void showWarning(QLabel& label, const QString& text);
 
 /// An icon of the program's own set, by its file name without ".svg". It takes its colour from the
 /// palette at the moment of painting, so that it turns with light and dark.
-[[nodiscard]] QIcon icon(const QString& name);
-[[nodiscard]] QIcon icon(const QString& name, Tint tint);
+[[nodiscard]] QIcon icon(const QString& name, std::optional<Tint> tint = {});
 
 /// What tests and screen readers find the widget by; a caption's mnemonic is left out.
 void name(QWidget& widget, const QString& objectName, const QString& spoken);

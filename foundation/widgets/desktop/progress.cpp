@@ -7,18 +7,13 @@
 
 namespace winvrx {
 
-namespace {
-
-constexpr int kPatience = 500;  // milliseconds without progress shown
-constexpr int kMany = 100;      // steps that take longer than that for certain
-
-}  // namespace
-
 Progress::Progress(Words words, QWidget* parent) : words_(std::move(words)), parent_(parent) {}
 
 Progress::~Progress() = default;
 
 bool Progress::show(int done, int total) {
+    constexpr int kPatience = 500;  // milliseconds without progress shown
+    constexpr int kMany = 100;      // steps that take longer than that for certain
     if (!sinceFirstStep_.isValid()) sinceFirstStep_.start();
     if (!dialog_ && total <= kMany && sinceFirstStep_.elapsed() < kPatience) return true;
     if (!dialog_) open(total);

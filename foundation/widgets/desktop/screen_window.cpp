@@ -2,6 +2,7 @@
 
 #include "foundation/widgets/desktop/body_area.h"
 #include "foundation/widgets/desktop/command_bar.h"
+#include "foundation/widgets/desktop/enter_key.h"
 #include "foundation/widgets/desktop/look.h"
 
 #include <QAbstractItemView>
@@ -15,6 +16,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
+#include <QSplitter>
 #include <QToolButton>
 
 #include <utility>
@@ -158,6 +160,18 @@ void ScreenWindow::setBody(std::initializer_list<BodyPart> parts, int gap) {
     setBody(body);
 }
 
+void ScreenWindow::setSplitBody(const BodyPart& left, const BodyPart& right) {
+    auto* split = new QSplitter(this);
+    split->setChildrenCollapsible(false);
+    split->setHandleWidth(look::kMargin);
+    for (const BodyPart& part : {left, right}) {
+        split->addWidget(part.widget);
+        split->setStretchFactor(split->count() - 1, part.share);
+    }
+    split->setSizes({left.share * width(), right.share * width()});
+    setBody({BodyPart{split}});
+}
+
 void ScreenWindow::setState(const QString& text) {
     state_->setText(text);
 }
@@ -214,8 +228,7 @@ bool ScreenWindow::moveOnFromField() {
 }
 
 void ScreenWindow::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && moveOnFromField()) return;
+    if (isEnter(*event) && moveOnFromField()) return;
     QDialog::keyPressEvent(event);
 }
 

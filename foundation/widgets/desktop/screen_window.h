@@ -71,6 +71,8 @@ class ScreenWindow : public QDialog {
     void setBody(QWidget* body);
     /// The parts side by side, from the left on.
     void setBody(std::initializer_list<BodyPart> parts, int gap = look::kGroupGap);
+    /// Two parts whose border can be moved.
+    void setSplitBody(const BodyPart& left, const BodyPart& right);
     void setState(const QString& text);
     /// As if the field in hand were left: what was typed takes its full form.
     void finishTyping();
