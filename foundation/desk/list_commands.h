@@ -4,6 +4,7 @@
 #include "foundation/files/line_file.h"
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -61,8 +62,7 @@ class ListCommands : public ListChecks<Record> {
     [[nodiscard]] bool remove(std::size_t position) override {
         return this->run(incorrectData(), [&] {
             return this->at_.person.agrees(removalOf(position)) &&
-                   erase(
-                       position, [] {}, [](const Lines&) {});
+                   erase(position, [](const Lines&) {});
         });
     }
 
@@ -117,8 +117,10 @@ class ListCommands : public ListChecks<Record> {
     /// with the lines that stay. `prepare` is called before any change. A disk that refuses the
     /// list must do so before anything is gone, so it is first written as it stands. Then the files
     /// go first: cut short, the command can be given again.
-    template <typename Prepare, typename RemoveFiles>
-    [[nodiscard]] bool erase(std::size_t position, Prepare&& prepare, RemoveFiles&& removeFiles) {
+    template <typename RemoveFiles>
+    [[nodiscard]] bool erase(
+        std::size_t position, RemoveFiles&& removeFiles,
+        const std::function<void()>& prepare = [] {}) {
         return rewrite([&](Lines& lines) {
             (void)lineAsShown(lines, lines_, position);
             prepare();

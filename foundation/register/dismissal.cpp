@@ -10,10 +10,6 @@ namespace winvrx {
 
 namespace {
 
-std::string dismissalText(std::optional<Date> inactiveSince) {
-    return inactiveSince ? dateText(*inactiveSince) : std::string();
-}
-
 /// The register with his date of dismissal.
 std::vector<EmployeeLine> withDismissal(std::vector<EmployeeLine> lines, const EmployeeKey& key,
                                         std::string date) {
@@ -49,7 +45,7 @@ void saveLeaveFile(const Store& store, const EmployeeKey& key, std::string_view 
         return store.files.replace(file, leaveFileBytes);
     EmployeeRegister list(store, key.company);
     const auto before = list.load();
-    const auto after = withDismissal(before, key, dismissalText(since));
+    const auto after = withDismissal(before, key, since ? dateText(*since) : "");
     if (after != before) list.save(after, now);
     try {
         store.files.replace(file, leaveFileBytes);

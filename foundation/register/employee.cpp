@@ -7,21 +7,13 @@
 
 namespace winvrx {
 
-namespace {
-
-constexpr std::size_t kShortWeekday = 3;
-
-}  // namespace
-
 std::string searchedText(const Employee& employee) {
-    std::string text;
-    for (const std::string& part : {employee.code, employee.name, employee.function, employee.taxId,
-                                    digitsIn(employee.taxId)})
-        text.append(part).append(" ");
-    return text;
+    return employee.code + " " + employee.name + " " + employee.function + " " + employee.taxId +
+           " " + digitsIn(employee.taxId) + " ";
 }
 
 std::chrono::weekday weeklyRestOf(const Employee& employee) {
+    constexpr std::size_t kShortWeekday = 3;
     const std::string stored = foldedForSearch(firstCharacters(employee.restDay, kShortWeekday));
     for (unsigned day = 0; day < 7; ++day)
         if (foldedForSearch(weekdayShort(std::chrono::weekday(day))) == stored)

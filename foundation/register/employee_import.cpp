@@ -18,8 +18,7 @@ Message confirmation(std::size_t count) {
 }
 
 bool hasText(const std::vector<std::string>& row) {
-    return std::any_of(row.begin(), row.end(),
-                       [](const std::string& cell) { return !cell.empty(); });
+    return std::ranges::any_of(row, [](const std::string& cell) { return !cell.empty(); });
 }
 
 }  // namespace
@@ -67,8 +66,7 @@ void EmployeeImport::judge(const CsvRows& table) {
 }
 
 std::size_t EmployeeImport::goodRows() const {
-    return static_cast<std::size_t>(std::count_if(
-        rows_.begin(), rows_.end(), [](const ImportedRow& row) { return row.isGood(); }));
+    return static_cast<std::size_t>(std::ranges::count_if(rows_, &ImportedRow::isGood));
 }
 
 bool EmployeeImport::include() {

@@ -8,12 +8,6 @@
 
 namespace winvrx {
 
-namespace {
-
-constexpr std::size_t kCodeDigits = 3;
-
-}  // namespace
-
 bool RecordedAnswers::hasClosedMonth(const EmployeeKey& key) const {
     const auto names = store_.files.names(store_.folder.path());
     return std::any_of(names.begin(), names.end(),
@@ -29,7 +23,8 @@ std::set<EmployeeCode> RecordedAnswers::closedIn(const CompanyCode& company, Wor
     std::set<EmployeeCode> closed;
     for (const std::string& name : beginningWith(names, company.text())) {
         if (!isPayrollFile(name)) continue;
-        const auto code = EmployeeCode::parse(name.substr(kPayrollEmployeeStart - 1, kCodeDigits));
+        const auto code =
+            EmployeeCode::parse(name.substr(kPayrollEmployeeStart - 1, EmployeeCode::kDigits));
         if (code && name == payrollFileName({company, *code}, month)) closed.insert(*code);
     }
     return closed;

@@ -245,8 +245,7 @@ bool Empregados::remove(std::size_t position) {
             at_.person.tell(kDeletesMember);
             if (!at_.person.agrees(kDeleteDespiteGroup)) return false;
         }
-        return erase(
-            position, [] {}, [&](const Lines& remaining) { removeFilesOf(chosen, remaining); });
+        return erase(position, [&](const Lines& remaining) { removeFilesOf(chosen, remaining); });
     });
 }
 

@@ -45,8 +45,7 @@ ListRow Empresa::rowOf(const Company& company) const {
 }
 
 std::string Empresa::counts() const {
-    const auto known = static_cast<std::size_t>(
-        std::ranges::count_if(lines_, [](const Line& line) { return line.key().has_value(); }));
+    const auto known = static_cast<std::size_t>(std::ranges::count_if(lines_, &Line::isKnown));
     return countOf(known, "empresa") + unreadCount(lines_.size() - known);
 }
 
@@ -106,11 +105,6 @@ bool Empresa::confirmDeletion(std::size_t position, std::size_t employees) {
     return at_.person.agrees(certain);
 }
 
-bool Empresa::remove(std::size_t position, DeleteOption option) {
-    choose(option);
-    return remove(position);
-}
-
 bool Empresa::remove(std::size_t position) {
     if (isFirst(lines_, position)) return refuse(kFirstCompany);
     return run(incorrectData(), [&] {
@@ -123,8 +117,9 @@ bool Empresa::remove(std::size_t position) {
                 at_.keepStateBefore("excluir a empresa " + titleOf(lines_, chosen.key()));
         };
         return confirmDeletion(position, employees) &&
-               erase(position, prepare,
-                     [&](const Lines& remaining) { removeFilesOf(chosen, remaining); });
+               erase(
+                   position, [&](const Lines& remaining) { removeFilesOf(chosen, remaining); },
+                   prepare);
     });
 }
 

@@ -33,7 +33,6 @@ class Empresa : public ListCommands<Company> {
     /// Deletes the company's files too, never the first company; a session that had it selected
     /// has none afterwards.
     [[nodiscard]] bool remove(std::size_t position) override;
-    [[nodiscard]] bool remove(std::size_t position, DeleteOption option);
 
     [[nodiscard]] Findings<Company> doubtsAbout(const Company& typed,
                                                 const Company& before) const override;

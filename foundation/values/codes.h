@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/values/digits.h"
+
 #include <compare>
 #include <cstddef>
 #include <optional>
@@ -20,9 +22,7 @@ class DigitCode {
 
     /// nullopt unless `text` is exactly the right count of digits.
     [[nodiscard]] static std::optional<DigitCode> parse(std::string_view text) {
-        if (text.size() != Digits) return std::nullopt;
-        for (const char c : text)
-            if (c < '0' || c > '9') return std::nullopt;
+        if (text.size() != Digits || !isDigits(text)) return std::nullopt;
         return DigitCode(std::string(text));
     }
 

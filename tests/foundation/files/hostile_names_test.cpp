@@ -47,7 +47,8 @@ TEST_F(HostileNames, ACompanyLineNamesNoFileOutside) {
     }
     for (std::size_t row = kHostileCodes.size(); row > 0; --row) {
         answerYes(4);
-        EXPECT_TRUE(screen.remove(row, DeleteOption::CompanyAndEmployees));
+        screen.choose(DeleteOption::CompanyAndEmployees);
+        EXPECT_TRUE(screen.remove(row));
     }
     EXPECT_THAT(fenced.trespasses(), IsEmpty());
 }

@@ -80,7 +80,7 @@ TEST_F(EmpresaTest, AnsweringNoLeavesEverything) {
     for (std::size_t yeses = 0; yeses < 4; ++yeses) {
         desk_.person.answers.assign(yeses, Answer::Yes);
         desk_.person.answers.push_back(Answer::No);
-        EXPECT_FALSE(empresa_.remove(1, DeleteOption::CompanyOnly)) << yeses;
+        EXPECT_FALSE(empresa_.remove(1)) << yeses;
     }
     EXPECT_EQ(desk_.files.content, before);
     EXPECT_EQ(codes(), "01 02 03 ");
@@ -100,7 +100,8 @@ TEST_F(EmpresaTest, ChangeKeepsCodeAndOrder) {
 
 TEST_F(EmpresaTest, TheFirstCompanyStays) {
     desk_.person.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
-    EXPECT_FALSE(empresa_.remove(0, DeleteOption::CompanyAndEmployees));
+    empresa_.choose(DeleteOption::CompanyAndEmployees);
+    EXPECT_FALSE(empresa_.remove(0));
     ASSERT_EQ(desk_.person.shown.size(), 1U);
     EXPECT_EQ(desk_.person.shown[0].title, "Excluindo Empresa");
     EXPECT_EQ(desk_.person.shown[0].icon, Icon::Critical);
@@ -129,7 +130,8 @@ TEST_F(EmpresaTest, DeletionAsksWhatItsOptionCallsFor) {
         desk_.files.content = before;
         empresa_.load();
         desk_.person.answers.assign(c.questions.size(), Answer::Yes);
-        EXPECT_TRUE(empresa_.remove(c.position, c.option));
+        empresa_.choose(c.option);
+        EXPECT_TRUE(empresa_.remove(c.position));
         EXPECT_EQ(desk_.person.takeTexts(), c.questions);
         EXPECT_EQ(codes(), c.position == 1 ? "01 03 " : "01 02 ");
         EXPECT_EQ(desk_.files.exists("/data/02CartaPonto"), c.position != 1);
@@ -142,7 +144,7 @@ TEST_F(EmpresaTest, ADeletedCompanyIsNoLongerSelected) {
     addCompanies();
     desk_.session.company = CompanyCode::parse("03");
     desk_.person.answers.assign(2, Answer::Yes);
-    EXPECT_TRUE(empresa_.remove(2, DeleteOption::CompanyOnly));
+    EXPECT_TRUE(empresa_.remove(2));
     EXPECT_EQ(desk_.session.company, std::nullopt);
 }
 
@@ -151,7 +153,7 @@ TEST_F(EmpresaTest, FilesStayWhileAnotherLineBearsTheCode) {
     desk_.file("01Empresa") += encode(empresa_.lines()[1].record) + "\r\n";
     empresa_.load();
     desk_.person.answers.assign(4, Answer::Yes);
-    EXPECT_TRUE(empresa_.remove(3, DeleteOption::CompanyOnly));
+    EXPECT_TRUE(empresa_.remove(3));
     EXPECT_EQ(codes(), "01 02 03 ");
     EXPECT_TRUE(desk_.files.exists("/data/02CartaPonto"));
 }
