@@ -28,10 +28,7 @@ namespace {
 
 MenuEntry help(const Workplace& at, Browser& browser) {
     return {.group = QStringLiteral("Ferramentas"),
-            .objectName = QStringLiteral("menu.help.open"),
-            .icon = QStringLiteral("help"),
-            .title = QStringLiteral("&Ajuda"),
-            .key = Qt::Key_F1,
+            .tile = {"help", QStringLiteral("&Ajuda"), "menu.help.open", Qt::Key_F1},
             .open = [at, &browser](QWidget*) { openHelp(at, browser); },
             .state =
                 [](const MonthProgress* progress) {

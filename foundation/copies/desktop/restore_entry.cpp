@@ -8,10 +8,7 @@ namespace winvrx {
 MenuEntry restoreEntry(const Workplace& at, SafetyCopies& copies) {
     return {
         .group = QStringLiteral("Ferramentas"),
-        .objectName = QStringLiteral("menu.restore.open"),
-        .icon = QStringLiteral("restore"),
-        .title = QStringLiteral("&Restaurar Cópia"),
-        .key = Qt::Key_F8,
+        .tile = {"restore", QStringLiteral("&Restaurar Cópia"), "menu.restore.open", Qt::Key_F8},
         .open =
             [at, &copies](QWidget* parent) {
                 RestaurarCopia screen(at, copies);

@@ -14,14 +14,19 @@ class QWidget;
 
 namespace winvrx {
 
+/// What shows a command in the main window, and the key that gives it.
+struct MenuTile {
+    const char* icon;  ///< of the program's set
+    QString title;     ///< with its mnemonic
+    const char* name;  ///< the tile's object name
+    QKeySequence key{};
+};
+
 /// One command of the main window, written in the room that owns its screen. Without `open` the
 /// screen does not exist yet and the tile is disabled.
 struct MenuEntry {
     QString group;
-    QString objectName;
-    QString icon;
-    QString title;  ///< with its mnemonic
-    QKeySequence key{};
+    MenuTile tile;
     MenuNeeds needs = MenuNeeds::Nothing;
     std::function<void(QWidget* parent)> open{};
     /// The quiet line under the title. The progress is nullptr without a company, or when its files

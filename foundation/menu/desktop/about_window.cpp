@@ -83,9 +83,7 @@ void SobreWindow::open(const std::string& path) {
 
 MenuEntry aboutEntry(const Workplace& at, Browser& browser, const std::string& log) {
     return {.group = QStringLiteral("Ferramentas"),
-            .objectName = QStringLiteral("menu.about.open"),
-            .icon = QStringLiteral("winvrx"),
-            .title = QStringLiteral("Sobre"),
+            .tile = {"winvrx", QStringLiteral("Sobre"), "menu.about.open"},
             .open = [at, &browser,
                      log](QWidget* parent) { SobreWindow(at, browser, log, parent).exec(); },
             .state =

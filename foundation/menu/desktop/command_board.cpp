@@ -67,12 +67,11 @@ void CommandBoard::addGroup(const QString& title, const MenuEntries& entries) {
 }
 
 CommandTile* CommandBoard::makeTile(const MenuEntry& entry, std::size_t place) {
-    auto* tile = new CommandTile(entry.objectName, entry.icon, entry.title,
-                                 entry.key.toString(QKeySequence::NativeText), content_);
+    auto* tile = new CommandTile(entry.tile, content_);
     tile->setEnabled(static_cast<bool>(entry.open));
     connect(tile, &CommandTile::clicked, this, [this, place] { emit chosen(place); });
-    if (entry.open && !entry.key.isEmpty()) {
-        auto* shortcut = new QShortcut(entry.key, this);
+    if (entry.open && !entry.tile.key.isEmpty()) {
+        auto* shortcut = new QShortcut(entry.tile.key, this);
         connect(shortcut, &QShortcut::activated, tile, &CommandTile::click);
     }
     return tile;

@@ -15,12 +15,11 @@ constexpr int kLeastLetters = 24;
 
 }  // namespace
 
-CommandTile::CommandTile(const QString& objectName, const QString& icon, const QString& title,
-                         const QString& key, QWidget* parent)
-    : QAbstractButton(parent), key_(key) {
-    look::name(*this, objectName, title);
-    setText(title);
-    setIcon(look::icon(icon, look::Tint::Accent));
+CommandTile::CommandTile(const MenuTile& shown, QWidget* parent)
+    : QAbstractButton(parent), key_(shown.key.toString(QKeySequence::NativeText)) {
+    look::name(*this, QLatin1String(shown.name), shown.title);
+    setText(shown.title);
+    setIcon(look::icon(QLatin1String(shown.icon), look::Tint::Accent));
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundation/desk/desktop/menu_entry.h"
+
 #include <QAbstractButton>
 
 namespace winvrx {
@@ -16,8 +18,7 @@ class CommandTile : public QAbstractButton {
     Q_OBJECT
 
   public:
-    CommandTile(const QString& objectName, const QString& icon, const QString& title,
-                const QString& key, QWidget* parent = nullptr);
+    explicit CommandTile(const MenuTile& shown, QWidget* parent = nullptr);
 
     void setStateLine(const QString& text);
     void setSpacing(const TileSpacing& spacing);

@@ -34,10 +34,7 @@ QString employeesState(const MonthProgress* progress) {
 
 MenuEntry companies(const Workplace& at) {
     return {.group = kGroup,
-            .objectName = QStringLiteral("menu.companies.open"),
-            .icon = QStringLiteral("company"),
-            .title = QStringLiteral("&Empresas"),
-            .key = Qt::Key_F2,
+            .tile = {"company", QStringLiteral("&Empresas"), "menu.companies.open", Qt::Key_F2},
             .open =
                 [at](QWidget* parent) {
                     Empresa companies(at);
@@ -49,30 +46,25 @@ MenuEntry companies(const Workplace& at) {
 using Rotation = std::shared_ptr<const RotationMembership>;
 
 MenuEntry employees(const Workplace& at, TextEditor& editor, const Rotation& rotation) {
-    return {.group = kGroup,
-            .objectName = QStringLiteral("menu.employees.open"),
-            .icon = QStringLiteral("employees"),
-            .title = QStringLiteral("&Funcionários"),
-            .key = Qt::Key_F3,
-            .needs = MenuNeeds::Company,
-            .open =
-                [at, &editor, rotation](QWidget* parent) {
-                    XlsxSpreadsheet spreadsheet;
-                    const RecordedAnswers records(at.store());
-                    Empregados employees(at, {editor, spreadsheet, *rotation, records});
-                    EmployeeImport import(at);
-                    EmpregadosWindow(employees, import, parent).exec();
-                },
-            .state = employeesState,
-            .step = MonthStep::RegisterEmployees};
+    return {
+        .group = kGroup,
+        .tile = {"employees", QStringLiteral("&Funcionários"), "menu.employees.open", Qt::Key_F3},
+        .needs = MenuNeeds::Company,
+        .open =
+            [at, &editor, rotation](QWidget* parent) {
+                XlsxSpreadsheet spreadsheet;
+                const RecordedAnswers records(at.store());
+                Empregados employees(at, {editor, spreadsheet, *rotation, records});
+                EmployeeImport import(at);
+                EmpregadosWindow(employees, import, parent).exec();
+            },
+        .state = employeesState,
+        .step = MonthStep::RegisterEmployees};
 }
 
 MenuEntry shifts(const Workplace& at, const Rotation& rotation) {
     return {.group = kGroup,
-            .objectName = QStringLiteral("menu.shifts.open"),
-            .icon = QStringLiteral("shifts"),
-            .title = QStringLiteral("&Turnos"),
-            .key = Qt::Key_F9,
+            .tile = {"shifts", QStringLiteral("&Turnos"), "menu.shifts.open", Qt::Key_F9},
             .needs = MenuNeeds::Employees,
             .open =
                 [at, rotation](QWidget* parent) {

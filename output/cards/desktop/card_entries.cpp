@@ -78,19 +78,13 @@ MenuEntries cardEntries(const Workplace& at, const CardPrintingDesk& desk) {
     };
     return {
         {.group = group,
-         .objectName = QStringLiteral("menu.print.open"),
-         .icon = QStringLiteral("print"),
-         .title = QStringLiteral("&Imprimir"),
-         .key = Qt::Key_F6,
+         .tile = {"print", QStringLiteral("&Imprimir"), "menu.print.open", Qt::Key_F6},
          .needs = MenuNeeds::Employees,
          .open = open(ReportOutput::Printer),
          .state = [at](const MonthProgress*) { return stockState(at); },
          .step = MonthStep::PrintCards},
         {.group = group,
-         .objectName = QStringLiteral("menu.sheet.open"),
-         .icon = QStringLiteral("sheet"),
-         .title = QStringLiteral("Fo&lha"),
-         .key = Qt::Key_F7,
+         .tile = {"sheet", QStringLiteral("Fo&lha"), "menu.sheet.open", Qt::Key_F7},
          .needs = MenuNeeds::Employees,
          .open = open(ReportOutput::Preview),
          .state = [](const MonthProgress*) { return QStringLiteral("Ver os cartões na tela"); }}};

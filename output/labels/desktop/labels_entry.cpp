@@ -50,9 +50,7 @@ void openLabels(const Workplace& at, const CardPrintingDesk& desk, QWidget* pare
 
 MenuEntry labelsEntry(const Workplace& at, const CardPrintingDesk& desk) {
     return {.group = QStringLiteral("Ferramentas"),
-            .objectName = QStringLiteral("menu.labels.open"),
-            .icon = QStringLiteral("labels"),
-            .title = QStringLiteral("Eti&quetas"),
+            .tile = {"labels", QStringLiteral("Eti&quetas"), "menu.labels.open"},
             .needs = MenuNeeds::Employees,
             .open = [at, desk](QWidget* parent) { openLabels(at, desk, parent); },
             .state = [](const MonthProgress*) { return QStringLiteral("CTPS e endereços"); }};

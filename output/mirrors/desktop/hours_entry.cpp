@@ -41,17 +41,12 @@ MenuEntries hoursEntries(const Workplace& at, const HoursEntryDesk& desk) {
     const auto open = [at, desk](QWidget* parent) { openHoursReports(at, desk, parent); };
     return {
         {.group = group,
-         .objectName = QStringLiteral("menu.hours.open"),
-         .icon = QStringLiteral("clock"),
-         .title = QStringLiteral("Relatório de &Horas"),
-         .key = Qt::Key_F12,
+         .tile = {"clock", QStringLiteral("Relatório de &Horas"), "menu.hours.open", Qt::Key_F12},
          .needs = MenuNeeds::Employees,
          .open = open,
          .state = [](const MonthProgress*) { return QStringLiteral("Extras, faltas e resumo"); }},
         {.group = group,
-         .objectName = QStringLiteral("menu.mirror.open"),
-         .icon = QStringLiteral("mirror"),
-         .title = QStringLiteral("Espelho"),
+         .tile = {"mirror", QStringLiteral("Espelho"), "menu.mirror.open"},
          .needs = MenuNeeds::Employees,
          .open = open,
          .state = [](const MonthProgress*) { return QStringLiteral("Folha para assinar"); }}};

@@ -164,9 +164,7 @@ bool ContratoTrabalhoWindow::mayClose() {
 MenuEntry contractEntry(const Workplace& at, const ContractDesk& desk,
                         const OpenLetters& openLetters) {
     return {.group = QStringLiteral("Pessoal"),
-            .objectName = QStringLiteral("menu.contract.open"),
-            .icon = QStringLiteral("contract"),
-            .title = QStringLiteral("Contrato"),
+            .tile = {"contract", QStringLiteral("Contrato"), "menu.contract.open"},
             .needs = MenuNeeds::Employees,
             .open =
                 [at, desk, openLetters](QWidget* parent) {

@@ -163,9 +163,7 @@ MenuEntry documentsEntry(const Workplace& at, const DocumentsDesk& desk,
                          const std::vector<DocumentosWindow::Neighbour>& neighbours) {
     return {
         .group = QStringLiteral("Pessoal"),
-        .objectName = QStringLiteral("menu.documents.open"),
-        .icon = QStringLiteral("documents"),
-        .title = QStringLiteral("D&ocumentos"),
+        .tile = {"documents", QStringLiteral("D&ocumentos"), "menu.documents.open"},
         .needs = MenuNeeds::Employees,
         .open =
             [at, desk, neighbours](QWidget* parent) {

@@ -56,16 +56,12 @@ void openPayrollOptions(const Workplace& at, const EmployerDesk& desk, QWidget* 
 MenuEntries employerEntries(const Workplace& at, const EmployerDesk& desk) {
     const QString group = QStringLiteral("Pessoal");
     return {{.group = group,
-             .objectName = QStringLiteral("menu.options.open"),
-             .icon = QStringLiteral("apply"),
-             .title = QStringLiteral("Opções da Folha"),
+             .tile = {"apply", QStringLiteral("Opções da Folha"), "menu.options.open"},
              .needs = MenuNeeds::Company,
              .open = [at, desk](QWidget* parent) { openPayrollOptions(at, desk, parent); },
              .state = [](const MonthProgress*) { return QStringLiteral("Dados, guia e órgãos"); }},
             {.group = group,
-             .objectName = QStringLiteral("menu.tables.open"),
-             .icon = QStringLiteral("sort"),
-             .title = QStringLiteral("Tabelas Legais"),
+             .tile = {"sort", QStringLiteral("Tabelas Legais"), "menu.tables.open"},
              .open = [at, folder = desk.legalFolder](
                          QWidget* parent) { openLegalTables(at, folder, parent); },
              .state = [](const MonthProgress*) { return QStringLiteral("INSS, IRRF, mínimo"); }}};

@@ -207,10 +207,7 @@ void RelatoriosWindow::print(bool all) {
 MenuEntry formsEntry(const Workplace& at, ReportEngine& engine) {
     return {
         .group = QStringLiteral("Pessoal"),
-        .objectName = QStringLiteral("menu.forms.open"),
-        .icon = QStringLiteral("forms"),
-        .title = QStringLiteral("Relatórios"),
-        .key = Qt::CTRL | Qt::Key_R,
+        .tile = {"forms", QStringLiteral("Relatórios"), "menu.forms.open", Qt::CTRL | Qt::Key_R},
         .needs = MenuNeeds::Company,
         .open =
             [at, &engine](QWidget* parent) {

@@ -268,10 +268,7 @@ void openLeaves(const Workplace& at, const LeavesDesk& desk, QWidget* parent,
 
 MenuEntry leavesEntry(const Workplace& at, const LeavesDesk& desk) {
     return {.group = QStringLiteral("Pessoal"),
-            .objectName = QStringLiteral("menu.leaves.open"),
-            .icon = QStringLiteral("leave"),
-            .title = QStringLiteral("Afastame&ntos"),
-            .key = Qt::Key_F10,
+            .tile = {"leave", QStringLiteral("Afastame&ntos"), "menu.leaves.open", Qt::Key_F10},
             .needs = MenuNeeds::Employees,
             .open = [at, desk](QWidget* parent) { openLeaves(at, desk, parent); },
             .state =

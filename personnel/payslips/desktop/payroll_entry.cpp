@@ -118,10 +118,8 @@ void openPayroll(const Workplace& at, const PayrollDesk& desk, QWidget* parent) 
 MenuEntry payrollEntry(const Workplace& at, const PayrollDesk& desk) {
     return {
         .group = QStringLiteral("Pessoal"),
-        .objectName = QStringLiteral("menu.payroll.open"),
-        .icon = QStringLiteral("payroll"),
-        .title = QStringLiteral("Folha de &Pagamento"),
-        .key = Qt::CTRL | Qt::Key_P,
+        .tile = {"payroll", QStringLiteral("Folha de &Pagamento"), "menu.payroll.open",
+                 Qt::CTRL | Qt::Key_P},
         .needs = MenuNeeds::Employees,
         .open = [at, desk](QWidget* parent) { openPayroll(at, desk, parent); },
         .state = [](const MonthProgress*) { return QStringLiteral("Salário, recibos, encargos"); }};

@@ -47,9 +47,7 @@ void openVacations(const Workplace& at, const FeriasEntryDesk& desk, QWidget* pa
 
 MenuEntry vacationsEntry(const Workplace& at, const FeriasEntryDesk& desk) {
     return {.group = QStringLiteral("Pessoal"),
-            .objectName = QStringLiteral("menu.vacations.open"),
-            .icon = QStringLiteral("leave"),
-            .title = QStringLiteral("Féria&s"),
+            .tile = {"leave", QStringLiteral("Féria&s"), "menu.vacations.open"},
             .needs = MenuNeeds::Employees,
             .open = [at, desk](QWidget* parent) { openVacations(at, desk, parent); },
             .state = [at](const MonthProgress*) { return stateOf(at); }};

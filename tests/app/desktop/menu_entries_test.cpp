@@ -37,12 +37,13 @@ struct MenuEntriesTest : ::testing::Test {
 TEST_F(MenuEntriesTest, NoTwoTilesShareAKeyALetterOrAName) {
     std::map<std::string, std::vector<std::string>> owners;
     for (const MenuEntry& entry : entries) {
-        const std::string name = toUtf8(entry.objectName);
+        const MenuTile& tile = entry.tile;
+        const std::string name = tile.name;
         owners["name " + name].push_back(name);
-        if (!entry.key.isEmpty()) owners["key " + toUtf8(entry.key.toString())].push_back(name);
-        const auto letter = entry.title.indexOf(QLatin1Char('&')) + 1;
+        if (!tile.key.isEmpty()) owners["key " + toUtf8(tile.key.toString())].push_back(name);
+        const auto letter = tile.title.indexOf(QLatin1Char('&')) + 1;
         if (letter > 0)
-            owners["Alt+" + toUtf8(entry.title.mid(letter, 1).toUpper())].push_back(name);
+            owners["Alt+" + toUtf8(tile.title.mid(letter, 1).toUpper())].push_back(name);
     }
     EXPECT_GT(owners.size(), 20U);
     for (const auto& [what, names] : owners)

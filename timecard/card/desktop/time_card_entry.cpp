@@ -51,10 +51,7 @@ void openTimeCard(const Workplace& at, const TimeCardDesk& desk, QWidget* parent
 
 MenuEntry timeCardEntry(const Workplace& at, const TimeCardDesk& desk) {
     return {.group = QStringLiteral("Cartão de Ponto"),
-            .objectName = QStringLiteral("menu.timecard.open"),
-            .icon = QStringLiteral("card"),
-            .title = QStringLiteral("&Dados"),
-            .key = Qt::Key_F5,
+            .tile = {"card", QStringLiteral("&Dados"), "menu.timecard.open", Qt::Key_F5},
             .needs = MenuNeeds::Employees,
             .open = [at, desk](QWidget* parent) { openTimeCard(at, desk, parent); },
             .state =

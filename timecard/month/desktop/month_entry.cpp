@@ -22,10 +22,7 @@ void openWorkMonth(const Workplace& at, QWidget* parent) {
 
 MenuEntry monthEntry(const Workplace& at) {
     return {.group = QStringLiteral("Cartão de Ponto"),
-            .objectName = QStringLiteral("menu.month.open"),
-            .icon = QStringLiteral("month"),
-            .title = QStringLiteral("&Mês"),
-            .key = Qt::Key_F4,
+            .tile = {"month", QStringLiteral("&Mês"), "menu.month.open", Qt::Key_F4},
             .needs = MenuNeeds::Company,
             .open = [at](QWidget* parent) { openWorkMonth(at, parent); },
             .state =

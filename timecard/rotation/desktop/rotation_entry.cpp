@@ -27,10 +27,7 @@ void openRotations(const Workplace& at, ReportEngine& engine, TextEditor& editor
 
 MenuEntry rotationEntry(const Workplace& at, std::function<void(QWidget*)> open) {
     return {.group = QStringLiteral("Cartão de Ponto"),
-            .objectName = QStringLiteral("menu.rotation.open"),
-            .icon = QStringLiteral("rotation"),
-            .title = QStringLiteral("Es&calas"),
-            .key = Qt::Key_F11,
+            .tile = {"rotation", QStringLiteral("Es&calas"), "menu.rotation.open", Qt::Key_F11},
             .needs = MenuNeeds::Employees,
             .open = std::move(open),
             .state = [at](const MonthProgress* progress) { return stateOf(at, progress); }};

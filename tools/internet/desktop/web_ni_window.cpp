@@ -141,9 +141,7 @@ void WebNiWindow::showStates() {
 
 MenuEntry internetEntry(const Workplace& at, std::shared_ptr<BrowserSettings> browsers) {
     return {.group = QStringLiteral("Ferramentas"),
-            .objectName = QStringLiteral("menu.internet.open"),
-            .icon = QStringLiteral("internet"),
-            .title = QStringLiteral("Internet"),
+            .tile = {"internet", QStringLiteral("Internet"), "menu.internet.open"},
             .open =
                 [at, browsers](QWidget* parent) {
                     WebNi screen(at, *browsers);

@@ -58,10 +58,8 @@ class MenuWindowTest : public ::testing::Test {
         };
         const QString group = QStringLiteral("Cadastros");
         return {{.group = group,
-                 .objectName = QStringLiteral("menu.employees.open"),
-                 .icon = QStringLiteral("employees"),
-                 .title = QStringLiteral("&Funcionários"),
-                 .key = Qt::Key_F3,
+                 .tile = {"employees", QStringLiteral("&Funcionários"), "menu.employees.open",
+                          Qt::Key_F3},
                  .needs = MenuNeeds::Company,
                  .open = opens("employees"),
                  .state = [](const MonthProgress* progress) -> QString {
@@ -69,16 +67,11 @@ class MenuWindowTest : public ::testing::Test {
                      return QString::number(progress->employees);
                  }},
                 {.group = group,
-                 .objectName = QStringLiteral("menu.timecard.open"),
-                 .icon = QStringLiteral("card"),
-                 .title = QStringLiteral("&Dados"),
-                 .key = Qt::Key_F5,
+                 .tile = {"card", QStringLiteral("&Dados"), "menu.timecard.open", Qt::Key_F5},
                  .needs = MenuNeeds::Employees,
                  .open = opens("card")},
                 {.group = group,
-                 .objectName = QStringLiteral("menu.leaves.open"),
-                 .icon = QStringLiteral("leave"),
-                 .title = QStringLiteral("Afastamentos")}};
+                 .tile = {"leave", QStringLiteral("Afastamentos"), "menu.leaves.open"}}};
     }
 
     std::optional<MonthProgress> progress() {
