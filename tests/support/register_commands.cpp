@@ -77,7 +77,8 @@ std::vector<WritingCommand> registerCommands() {
         {"change company", filledOffice(),
          inEmpresa([third](Empresa& screen) { return screen.change(1, third); })},
         {"delete company", filledOffice(), inEmpresa([](Empresa& screen) {
-             return screen.remove(1, DeleteOption::CompanyAndEmployees);
+             screen.choose(DeleteOption::CompanyAndEmployees);
+             return screen.remove(1);
          })},
         {"end contract", filledOffice(), endContract},
         {"include employee", filledOffice(), inEmpregados([](Empregados& screen) {

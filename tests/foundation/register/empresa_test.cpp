@@ -51,6 +51,11 @@ class EmpresaTest : public ::testing::Test {
     }
 
     TestWorkplace desk_;
+    bool removeWith(DeleteOption option, std::size_t position) {
+        empresa_.choose(option);
+        return empresa_.remove(position);
+    }
+
     Empresa empresa_{desk_.at};
 };
 
@@ -100,8 +105,7 @@ TEST_F(EmpresaTest, ChangeKeepsCodeAndOrder) {
 
 TEST_F(EmpresaTest, TheFirstCompanyStays) {
     desk_.person.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
-    empresa_.choose(DeleteOption::CompanyAndEmployees);
-    EXPECT_FALSE(empresa_.remove(0));
+    EXPECT_FALSE(removeWith(DeleteOption::CompanyAndEmployees, 0));
     ASSERT_EQ(desk_.person.shown.size(), 1U);
     EXPECT_EQ(desk_.person.shown[0].title, "Excluindo Empresa");
     EXPECT_EQ(desk_.person.shown[0].icon, Icon::Critical);
@@ -130,8 +134,7 @@ TEST_F(EmpresaTest, DeletionAsksWhatItsOptionCallsFor) {
         desk_.files.content = before;
         empresa_.load();
         desk_.person.answers.assign(c.questions.size(), Answer::Yes);
-        empresa_.choose(c.option);
-        EXPECT_TRUE(empresa_.remove(c.position));
+        EXPECT_TRUE(removeWith(c.option, c.position));
         EXPECT_EQ(desk_.person.takeTexts(), c.questions);
         EXPECT_EQ(codes(), c.position == 1 ? "01 03 " : "01 02 ");
         EXPECT_EQ(desk_.files.exists("/data/02CartaPonto"), c.position != 1);
@@ -176,7 +179,7 @@ TEST_F(EmpresaTest, FaultsLeaveListAndFilesAsTheyWere) {
     desk_.files.failWritesOn = {"01Empresa"};
     refused([&] { return empresa_.include(named("NOVA")); });
     refused([&] { return empresa_.change(1, named("NOVA")); });
-    refused([&] { return empresa_.remove(1, DeleteOption::CompanyAndEmployees); });
+    refused([&] { return removeWith(DeleteOption::CompanyAndEmployees, 1); });
     EXPECT_NE(desk_.log.entries.back().find("01Empresa"), std::string::npos);
 }
 
@@ -189,7 +192,7 @@ TEST_F(EmpresaTest, AListChangedElsewhereIsNotOverwritten) {
     const auto before = desk_.files.content;
     desk_.person.answers.assign(5, Answer::Yes);
     EXPECT_FALSE(empresa_.change(1, named("MINHA")));
-    EXPECT_FALSE(empresa_.remove(1, DeleteOption::CompanyAndEmployees));
+    EXPECT_FALSE(removeWith(DeleteOption::CompanyAndEmployees, 1));
     EXPECT_EQ(desk_.files.content, before);
     desk_.person.answers = {Answer::Yes};
     EXPECT_TRUE(empresa_.include(named("NOVA")));
@@ -206,14 +209,14 @@ TEST_F(EmpresaTest, TheFirstCompanyIsTheFirstThatIsUnderstood) {
     desk_.file("01Empresa").insert(0, "torn\r\n");
     empresa_.load();
     desk_.person.answers.assign(6, Answer::Yes);
-    EXPECT_FALSE(empresa_.remove(1, DeleteOption::CompanyAndEmployees));
+    EXPECT_FALSE(removeWith(DeleteOption::CompanyAndEmployees, 1));
     EXPECT_EQ(desk_.person.shown.back().title, "Excluindo Empresa");
-    EXPECT_TRUE(empresa_.remove(0, DeleteOption::CompanyOnly)) << "what is no company can go";
+    EXPECT_TRUE(removeWith(DeleteOption::CompanyOnly, 0)) << "what is no company can go";
     EXPECT_EQ(codes(), "01 02 03 ");
     desk_.file("01Empresa") += empresa_.lines()[2].bytes + "\r\n";  // by another computer
     desk_.files.failOn = {"02PadrHor001.pdx"};
     desk_.person.answers.assign(6, Answer::Yes);
-    EXPECT_FALSE(empresa_.remove(1, DeleteOption::CompanyAndEmployees));
+    EXPECT_FALSE(removeWith(DeleteOption::CompanyAndEmployees, 1));
     EXPECT_EQ(codes(), "01 02 03 ") << "the list changes only with a success";
 }
 
