@@ -5,25 +5,21 @@
 // `apply-1000`: flushed, as it is. `apply-1000-varied`: with "Minutos Variados". `rotation-99`: for
 // the members of ninety-nine rotation groups, planned on the way.
 
-#include "bench/timing.h"
-#include "foundation/files/disk.h"
+#include "bench/figure.h"
+#include "bench/office.h"
 #include "foundation/files/durable_files.h"
 #include "foundation/register/employee_register.h"
-#include "tests/support/employees.h"
+#include "tests/support/scratch_folder.h"
 #include "timecard/punches/list_application.h"
 #include "timecard/rotation/rotation_records.h"
 
-#include <algorithm>
-#include <chrono>
-#include <cstdio>
-#include <functional>
-#include <random>
+#include <filesystem>
+#include <vector>
 
 namespace {
 
 using namespace winvrx;
 using namespace std::chrono_literals;
-using std::filesystem::path;
 
 constexpr int kRounds = 9;
 constexpr double kMostRatio = 1.3;
@@ -34,54 +30,38 @@ constexpr int kGroups = 99;
 constexpr int kGroupSize = 6;
 constexpr WorkMonth kMarch = 2024y / 3;
 
-class BenchFolder {
-  public:
-    BenchFolder() : path_("bench-apply-" + std::to_string(std::random_device{}())) {
-        std::filesystem::create_directories(path_);
-    }
-    ~BenchFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    BenchFolder(const BenchFolder&) = delete;
-    BenchFolder& operator=(const BenchFolder&) = delete;
-
-    [[nodiscard]] DataFolder folder() const { return {'C', path_}; }
-
-  private:
-    path path_;
-};
-
-std::vector<EmployeeCode> everyone(int count = EmployeeCode::kHighest) {
+std::vector<EmployeeCode> codesOf(const std::vector<Employee>& people) {
     std::vector<EmployeeCode> codes;
-    for (int number = 1; number <= count; ++number)
-        codes.push_back(*EmployeeCode::fromNumber(number));
+    for (const Employee& one : people)
+        codes.push_back(*EmployeeCode::parse(one.code));
     return codes;
 }
 
-void hire(const Store& store) {
+void record(const Store& store, const CompanyCode& company, const std::vector<Employee>& people) {
     std::vector<EmployeeLine> lines;
+    for (const Employee& one : people)
+        lines.push_back(lineOf(one));
+    store.files.replaceAll({EmployeeRegister(store, company).contentOf(lines)});
+}
+
+std::vector<EmployeeCode> hire(const Store& store) {
+    const auto people = staff("MARIA", {.admission = "12/03/2020"});
+    const auto codes = codesOf(people);
     std::vector<FileSystem::NewContent> schedules;
-    StandardSchedule schedule;
-    schedule.weekday.morning = {parseTime("08:00"), parseTime("12:00")};
-    schedule.weekday.afternoon = {parseTime("13:00"), parseTime("17:00")};
-    for (const EmployeeCode& code : everyone()) {
-        lines.push_back(lineOf(
-            testing::employee(code.text(), "MARIA " + code.text(), {.admission = "12/03/2020"})));
+    for (const EmployeeCode& code : codes)
         schedules.push_back({store.folder.companyFile(kCompany, scheduleFileName(code)),
-                             joinedLines({encode(schedule)})});
-    }
+                             joinedLines({encode(eightHours())})});
     store.files.replaceAll(schedules);
-    store.files.replaceAll({EmployeeRegister(store, kCompany).contentOf(lines)});
+    record(store, kCompany, people);
+    return codes;
 }
 
 /// Ninety-nine groups of five with a relief worker each.
-void drawGroups(const Store& store) {
-    std::vector<EmployeeLine> people;
+std::vector<EmployeeCode> drawGroups(const Store& store) {
+    const auto people = staff("MARIA", {"Unico", "5x1", "12/03/2020"}, kGroups * kGroupSize);
+    const auto codes = codesOf(people);
     GroupLines groups;
-    for (const EmployeeCode& code : everyone(kGroups * kGroupSize)) {
-        people.push_back(lineOf(testing::employee(code.text(), "MARIA " + code.text(),
-                                                  {"Unico", "5x1", "12/03/2020"})));
+    for (const EmployeeCode& code : codes) {
         const int at = (code.number() - 1) % kGroupSize;
         if (at == 0) groups.push_back(lineOf(GroupRecord()));
         RotationGroup group = groupOf(groups.back().record)
@@ -94,50 +74,46 @@ void drawGroups(const Store& store) {
         groups.back() = lineOf(recordOf(group));
     }
     groupFile(store, kRotating, kMarch).save(groups);
-    store.files.replaceAll({EmployeeRegister(store, kRotating).contentOf(people)});
+    record(store, kRotating, people);
+    return codes;
 }
 
 /// Ours and the floor in turn, so that both meet the same disk.
-bool measure(const char* name, const Store& store, const CompanyCode& company, Minutes minutes) {
+bool measure(Figure figure, const Store& store, const CompanyCode& company, Minutes minutes,
+             const std::vector<EmployeeCode>& codes) {
     const RecordedAnswers records(store);
     const FixedClock clock({Date{2024y / 3 / 15}, {}});
     const RotationRecords rotation(store, clock);
     MonthSettings march;
     march.month = kMarch;
-    const auto codes =
-        everyone(company == kRotating ? kGroups * kGroupSize : EmployeeCode::kHighest);
     const ApplicationOrder order{
         .company = company, .settings = march, .minutes = minutes, .situation = {}, .common = {}};
     ListApplication::Batch batch;
-    std::vector<double> ours;
-    std::vector<double> floor;
     for (int round = 0; round <= kRounds; ++round) {
-        const double applied = milliseconds([&] {
+        figure.ours([&] {
             ListApplication application(store, {rotation, records}, order);
             batch = application.fill(codes, {}).value();
             store.files.replaceAll(batch);
         });
-        const double written = milliseconds([&] { store.files.replaceAll(batch); });
-        if (round == 0) continue;  // fills the caches
-        ours.push_back(applied);
-        floor.push_back(written);
+        figure.floor([&] { store.files.replaceAll(batch); });
     }
-    const double ratio = report(name, ours, floor);
-    return batch.size() == codes.size() &&
-           ratio <= (company == kRotating ? kMostRotationRatio : kMostRatio);
+    return figure.report() && batch.size() == codes.size();
 }
 
 }  // namespace
 
 int main() {
-    const BenchFolder bench;
-    const DataFolder folder = bench.folder();
+    const testing::ScratchFolder scratch(".");
+    const DataFolder folder('C', scratch.path());
     const auto files = systemFiles();
     const Store store{*files, folder};
-    hire(store);
-    drawGroups(store);
-    const bool fixed = measure("apply-1000", store, kCompany, Minutes::Fixed);
-    const bool varied = measure("apply-1000-varied", store, kCompany, Minutes::Varied);
-    const bool rotation = measure("rotation-99", store, kRotating, Minutes::Fixed);
+    const auto everyone = hire(store);
+    const auto rotating = drawGroups(store);
+    const bool fixed =
+        measure(Figure("apply-1000", kMostRatio), store, kCompany, Minutes::Fixed, everyone);
+    const bool varied = measure(Figure("apply-1000-varied", kMostRatio), store, kCompany,
+                                Minutes::Varied, everyone);
+    const bool rotation = measure(Figure("rotation-99", kMostRotationRatio), store, kRotating,
+                                  Minutes::Fixed, rotating);
     return fixed && varied && rotation ? 0 : 1;
 }

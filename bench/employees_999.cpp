@@ -1,27 +1,22 @@
 // A company of 999 employees: reading its list beside reading and splitting the same bytes, and
 // what the operator waits for: the window's opening, a keystroke of the search, a sort.
-#include "foundation/desk/desktop/file_log.h"
-#include "foundation/desk/desktop/message_box_operator.h"
-#include "foundation/desk/desktop/system_clock.h"
+#include "bench/desk.h"
+#include "bench/figure.h"
+#include "bench/office.h"
 #include "foundation/desk/desktop/xlsx_spreadsheet.h"
-#include "foundation/files/host.h"
 #include "foundation/files/record_names.h"
 #include "foundation/register/desktop/empregados_window.h"
 #include "foundation/register/employee_import.h"
 #include "foundation/register/empregados.h"
-#include "tests/support/employees.h"
 #include "timecard/rotation/rotation_records.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
-#include <functional>
-#include <sstream>
 #include <vector>
 
 namespace {
@@ -32,25 +27,6 @@ constexpr int kRounds = 15;
 constexpr double kMostMilliseconds = 50;
 constexpr double kMostRatio = 3;
 
-/// The median of some runs, the first of which only fills the caches.
-double milliseconds(const std::function<void()>& work) {
-    std::vector<double> times;
-    for (int round = 0; round <= kRounds; ++round) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        if (round > 0) times.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
-
-struct Agreeing final : Operator {
-    Answer ask(const Message& message) override {
-        return message.buttons == Buttons::YesNo ? Answer::Yes : Answer::Ok;
-    }
-};
-
 struct NoEditor final : TextEditor {
     bool open(const std::filesystem::path&) override { return false; }
 };
@@ -58,12 +34,12 @@ struct NoEditor final : TextEditor {
 std::vector<EmployeeLine> employees() {
     const std::vector<std::string> names = {"CONCEIÇÃO", "D'ÁVILA", "LIMA", "ÁLVARES", "NUNES"};
     std::vector<EmployeeLine> lines;
-    for (int number = 1; number <= EmployeeCode::kHighest; ++number) {
-        Employee one = testing::employee(
-            EmployeeCode::fromNumber(number)->text(),
-            "MARIA " + names[static_cast<std::size_t>(number * 7) % names.size()] + " " +
-                std::to_string(number * 37 % 1000),
-            {.admission = "12/03/20" + std::to_string(10 + number % 14)});
+    int number = 0;
+    for (Employee& one : staff("MARIA", {})) {
+        ++number;
+        one.name = "MARIA " + names[static_cast<std::size_t>(number * 7) % names.size()] + " " +
+                   std::to_string(number * 37 % 1000);
+        one.admission = "12/03/20" + std::to_string(10 + number % 14);
         one.function = "AUXILIAR DE ESCRITÓR";
         one.taxId = "529.982.247-25";
         one.address = "RUA DAS ACÁCIAS, 120";
@@ -87,7 +63,13 @@ std::size_t readAndSplit(const std::filesystem::path& file) {
     return all.size();
 }
 
-bool report(const char* what, double ours) {
+/// What the operator waits for: the median of some runs, the first of which fills the caches.
+template <typename Work>
+bool reportWait(const char* what, Work&& work) {
+    std::vector<double> times;
+    for (int round = 0; round <= kRounds; ++round)
+        times.push_back(milliseconds(work));
+    const double ours = median({times.begin() + 1, times.end()});
     std::printf("bench employees-999 %s=%.1f ms limit=%.0f ms\n", what, ours, kMostMilliseconds);
     return ours < kMostMilliseconds;
 }
@@ -96,10 +78,12 @@ bool measureReading(const Workplace& at) {
     const EmployeeRegister list(at.store(), *at.session.company);
     const auto file = at.session.companyFile(kEmployeeListStem);
     std::size_t read = 0;
-    const double floor = milliseconds([&] { read = readAndSplit(file); });
-    const double ours = milliseconds([&] { read = std::min(read, list.load().size()); });
-    std::printf("bench employees-999 ours=%.2f floor=%.2f ratio=%.2f\n", ours, floor, ours / floor);
-    return read == static_cast<std::size_t>(EmployeeCode::kHighest) && ours / floor <= kMostRatio;
+    Figure figure("employees-999", kMostRatio);
+    for (int round = 0; round <= kRounds; ++round) {
+        figure.floor([&] { read = readAndSplit(file); });
+        figure.ours([&] { read = std::min(read, list.load().size()); });
+    }
+    return figure.report(2) && read == static_cast<std::size_t>(EmployeeCode::kHighest);
 }
 
 bool measureScreen(const Workplace& at) {
@@ -109,22 +93,21 @@ bool measureScreen(const Workplace& at) {
     const RotationRecords rotation(at.store(), at.clock);
     Empregados screen(at, {editor, spreadsheet, rotation, records});
     EmployeeImport import(at);
-    const bool opened = report("open", milliseconds([&] {
-                                   EmpregadosWindow window(screen, import);
-                                   window.show();
-                                   QCoreApplication::processEvents();
-                               }));
+    const bool opened = reportWait("open", [&] {
+        EmpregadosWindow window(screen, import);
+        window.show();
+        QCoreApplication::processEvents();
+    });
     EmpregadosWindow window(screen, import);
     window.show();
     auto* search = window.findChild<QLineEdit*>(QStringLiteral("empregados.search"));
     bool longer = false;
-    const bool searched =
-        report("keystroke", milliseconds([&] {
-                   longer = !longer;
-                   search->setText(longer ? QStringLiteral("davi") : QStringLiteral("dav"));
-                   QCoreApplication::processEvents();
-               }));
-    const bool sorted = report("sort", milliseconds([&] { (void)screen.sortByName(); }));
+    const bool searched = reportWait("keystroke", [&] {
+        longer = !longer;
+        search->setText(longer ? QStringLiteral("davi") : QStringLiteral("dav"));
+        QCoreApplication::processEvents();
+    });
+    const bool sorted = reportWait("sort", [&] { (void)screen.sortByName(); });
     return opened && searched && sorted;
 }
 
@@ -133,18 +116,9 @@ bool measureScreen(const Workplace& at) {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QTemporaryDir folder;
-    const std::filesystem::path path = folder.path().toStdString();
-    const auto files = systemFiles();
-    const auto disk = systemDisk();
-    const auto host = systemHost();
-    FolderLock lock(*disk, *host);
-    Agreeing person;
-    const SystemClock clock;
-    FileLog log(folder.filePath(QStringLiteral("log")));
-    Session session{.folder = DataFolder('C', path), .company = CompanyCode::parse("01")};
-    const Workplace at{*files, person, clock, log, session, lock};
-    EmployeeRegister({*files, session.folder}, *session.company).save(employees(), clock.now());
-    const bool read = measureReading(at);
-    const bool shown = measureScreen(at);
+    BenchDesk desk(folder.path().toStdString(), *parseDate("15/03/2024"));
+    EmployeeRegister(desk.at.store(), *desk.session.company).save(employees(), desk.clock.now());
+    const bool read = measureReading(desk.at);
+    const bool shown = measureScreen(desk.at);
     return read && shown ? 0 : 1;
 }

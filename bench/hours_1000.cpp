@@ -1,11 +1,9 @@
 // The hours of a month of a thousand employees, beside reading the same lines without counting.
-#include "bench/timing.h"
+#include "bench/figure.h"
+#include "bench/office.h"
 #include "timecard/hours/hours.h"
 
-#include <algorithm>
 #include <chrono>
-#include <cstdio>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -63,27 +61,22 @@ int main() {
     const auto all = records();
     const MonthSettings settings = march();
     const Employee employee;
-    StandardSchedule schedule;
-    schedule.weekday = {{parseTime("08:00"), parseTime("12:00")},
-                        {parseTime("13:00"), parseTime("17:00")}};
+    const StandardSchedule schedule = eightHours();
     std::size_t read = 0;
     std::chrono::seconds worked{0};
-    std::vector<double> floors;
-    std::vector<double> times;
-    // In turns, so that whatever else the machine does weighs on both.
-    for (int round = 0; round < kRounds; ++round) {
-        floors.push_back(milliseconds([&] {
+    Figure figure("hours-1000", kMostRatio);
+    for (int round = 0; round <= kRounds; ++round) {
+        figure.floor([&] {
             for (const auto& record : all)
                 read += parsed(record).size();
-        }));
-        times.push_back(milliseconds([&] {
+        });
+        figure.ours([&] {
             for (const auto& record : all) {
                 const WorkTerms terms =
                     workTerms(settings, settings.overtime, schedule, employee, {});
                 worked += periodHours(parsed(record), firstDay(settings.month), terms).worked();
             }
-        }));
+        });
     }
-    const double ratio = report("hours-1000", times, floors);
-    return read > 0 && worked.count() > 0 && ratio <= kMostRatio ? 0 : 1;
+    return figure.report() && read > 0 && worked.count() > 0 ? 0 : 1;
 }

@@ -1,59 +1,25 @@
 // "GRAVAR TODOS" of 999 employees, each with a card, beside writing the same bytes, each file
 // flushed and the folder once.
-#include "bench/timing.h"
-#include "foundation/files/durable_files.h"
+#include "bench/desk.h"
+#include "bench/figure.h"
+#include "bench/office.h"
 #include "foundation/values/text.h"
 #include "personnel/payroll/folha.h"
-#include "tests/support/employees.h"
+#include "tests/support/scratch_folder.h"
 #include "timecard/punches/punch_record.h"
 
+#include <cstdio>
 #include <filesystem>
-#include <random>
+#include <vector>
 
 namespace {
 
 using namespace winvrx;
 using namespace std::chrono_literals;
 
-constexpr int kEmployees = 999;
 constexpr int kRounds = 5;
 constexpr double kMostRatio = 1.5;
 constexpr WorkMonth kMonth = 2026y / 3;
-
-/// Agrees with everything.
-class Agreeing final : public Operator {
-  public:
-    Answer ask(const Message& message) override { return agreement(message); }
-};
-
-class NoLog final : public Log {
-  public:
-    void write(std::string_view entry) noexcept override {
-        std::fprintf(stderr, "%.*s\n", static_cast<int>(entry.size()), entry.data());
-    }
-};
-
-/// Two folders beside the place of the run: the system's temporary one may be memory.
-class BenchFolder {
-  public:
-    BenchFolder() {
-        std::filesystem::create_directories(ours());
-        std::filesystem::create_directories(floor());
-    }
-    ~BenchFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    BenchFolder(const BenchFolder&) = delete;
-    BenchFolder& operator=(const BenchFolder&) = delete;
-
-    [[nodiscard]] std::filesystem::path ours() const { return path_ / "ours"; }
-    [[nodiscard]] std::filesystem::path floor() const { return path_ / "floor"; }
-
-  private:
-    std::filesystem::path path_ =
-        std::filesystem::absolute("bench-payroll-" + std::to_string(std::random_device{}()));
-};
 
 std::string cardOf(int employee) {
     std::string card = "  \r\n";
@@ -65,71 +31,52 @@ std::string cardOf(int employee) {
     return card;
 }
 
-std::vector<Employee> staffIn(const std::filesystem::path& folder, Disk& disk) {
-    std::vector<Employee> staff;
-    for (int number = 1; number <= kEmployees; ++number) {
-        Employee one = testing::employee(padded(number, 3), "FUNCIONARIO " + padded(number, 3));
-        one.admission = "01/02/2020";
+std::vector<Employee> hire(const std::filesystem::path& folder, Disk& disk) {
+    auto people = staff("FUNCIONARIO", {.admission = "01/02/2020"});
+    int number = 0;
+    for (Employee& one : people) {
+        ++number;
         one.salary = moneyText({200000 + number * 700});
         one.dependants = std::to_string(number % 4);
         disk.write(folder / ("01PadrHor" + one.code + ".pdx"), "08:0012:0013:0017:00");
         disk.write(folder / ("01" + one.code + "-" + monthKey(kMonth) + ".bdx"), cardOf(number));
-        staff.push_back(std::move(one));
     }
-    return staff;
+    return people;
 }
 
 /// What was recorded, with the names of the other folder; recorded files go.
-std::vector<FileSystem::NewContent> takeRecorded(const BenchFolder& folders, Disk& disk) {
+std::vector<FileSystem::NewContent> takeRecorded(const std::filesystem::path& from,
+                                                 const std::filesystem::path& to, Disk& disk) {
     std::vector<FileSystem::NewContent> taken;
-    for (const std::string& name : disk.names(folders.ours())) {
+    for (const std::string& name : disk.names(from)) {
         if (name.find("fp00") == std::string::npos) continue;
-        taken.push_back({folders.floor() / name, disk.read(folders.ours() / name).value()});
-        disk.remove(folders.ours() / name);
+        taken.push_back({to / name, disk.read(from / name).value()});
+        disk.remove(from / name);
     }
     return taken;
-}
-
-void writeFlushed(Disk& disk, const std::vector<FileSystem::NewContent>& batch) {
-    for (const FileSystem::NewContent& one : batch) {
-        disk.write(one.file, one.bytes);
-        disk.flush({one.file});
-    }
-    disk.flushFolder(batch.front().file.parent_path());
 }
 
 }  // namespace
 
 int main() {
-    const std::shared_ptr<Disk> disk = systemDisk();
-    const BenchFolder folders;
-    DurableFiles files(disk);
-    Agreeing person;
-    NoLog log;
-    const FixedClock clock({2026y / 4 / 1, {}});
-    const auto host = systemHost();
-    FolderLock lock(*disk, *host);
-    Session session{.folder = DataFolder('C', folders.ours()), .company = CompanyCode::parse("01")};
-    const Workplace at{files, person, clock, log, session, lock};
-    const auto staff = staffIn(folders.ours(), *disk);
-    std::vector<double> times;
-    std::vector<double> floors;
+    // Beside the place of the run: the system's temporary folder may be memory.
+    const testing::ScratchFolder ours(std::filesystem::current_path());
+    const testing::ScratchFolder floor(std::filesystem::current_path());
+    BenchDesk desk(ours.path(), 2026y / 4 / 1);
+    const auto people = hire(ours.path(), *desk.disk);
+    Figure figure("payroll-999", kMostRatio);
     for (int round = 0; round <= kRounds; ++round) {
-        Folha folha(at, WINVRX_LEGAL_FOLDER);
+        Folha folha(desk.at, WINVRX_LEGAL_FOLDER);
         bool done = false;
-        const double time =
-            milliseconds([&] { done = folha.load(kMonth) && folha.saveAll(staff, {}); });
-        const auto recorded = takeRecorded(folders, *disk);
-        if (!done || recorded.size() != staff.size()) {
-            std::printf("bench payroll-999: %zu of %d recorded\n", recorded.size(), kEmployees);
+        figure.ours([&] { done = folha.load(kMonth) && folha.saveAll(people, {}); });
+        const auto recorded = takeRecorded(ours.path(), floor.path(), *desk.disk);
+        if (!done || recorded.size() != people.size()) {
+            std::printf("bench payroll-999: %zu of %zu recorded\n", recorded.size(), people.size());
             return 1;
         }
-        const double floor = milliseconds([&] { writeFlushed(*disk, recorded); });
+        figure.floor([&] { writeFlushed(*desk.disk, recorded); });
         for (const auto& one : recorded)
-            disk->remove(one.file);
-        if (round == 0) continue;
-        times.push_back(time);
-        floors.push_back(floor);
+            desk.disk->remove(one.file);
     }
-    return report("payroll-999", times, floors) > kMostRatio ? 1 : 0;
+    return figure.report() ? 0 : 1;
 }

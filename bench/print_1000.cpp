@@ -2,8 +2,9 @@
 // same strings drawn by a bare QPdfWriter in one font, on as many pages. The memory's floor is the
 // peak after ten cards, in KiB: what a run holds must not grow with the cards.
 
-#include "bench/timing.h"
-#include "foundation/desk/log.h"
+#include "bench/desk.h"
+#include "bench/figure.h"
+#include "foundation/values/text.h"
 #include "output/stocks/card_rows.h"
 #include "report/desktop/qt_report_engine.h"
 
@@ -14,9 +15,7 @@
 #include <QPdfWriter>
 #include <QTemporaryDir>
 
-#include <algorithm>
-#include <chrono>
-#include <cstdio>
+#include <array>
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -36,23 +35,12 @@ constexpr double kMostMemoryRatio = 1.2;
 constexpr int kRounds = 5;
 constexpr int kDays = 31;
 
-class ErrorLog final : public Log {
-  public:
-    void write(std::string_view entry) noexcept override {
-        std::fprintf(stderr, "%.*s\n", static_cast<int>(entry.size()), entry.data());
-    }
-};
-
-std::string twoDigits(int number) {
-    return (number < 10 ? "0" : "") + std::to_string(number);
-}
-
 ReportRows cardOf(int employee) {
     constexpr std::array<const char*, 7> kWeek = {"dom", "seg", "ter", "qua", "qui", "sex", "sáb"};
     ReportRows rows;
     for (int day = 1; day <= kDays; ++day) {
         const bool rest = (day + 4) % 7 == 0;
-        const std::string minutes = twoDigits((day * 7 + employee) % 60);
+        const std::string minutes = padded((day * 7 + employee) % 60, 2);
         const auto time = [&](const char* hour) { return rest ? "" : hour + (":" + minutes); };
         rows.push_back({"COMERCIAL DE ALIMENTOS SÃO JOÃO LTDA",
                         "12.345.678/0001-95",
@@ -68,7 +56,7 @@ ReportRows cardOf(int employee) {
                         "001",
                         "março/2024",
                         std::to_string(day),
-                        twoDigits(day),
+                        padded(day, 2),
                         kWeek[static_cast<std::size_t>(day + 4) % 7],
                         time("08"),
                         time("12"),
@@ -166,16 +154,14 @@ int main(int argc, char** argv) {
     printWithEngine(folder, layouts, kCards);
     const long peakOfMany = peakMemory();
 
-    std::vector<double> ours;
-    std::vector<double> floor;
-    for (int round = 0; round < kRounds; ++round) {
-        ours.push_back(milliseconds([&] { printWithEngine(folder, layouts, kCards); }));
-        floor.push_back(milliseconds([&] { printBare(folder, kCards); }));
+    Figure figure("print-1000", kMostRatio);
+    for (int round = 0; round <= kRounds; ++round) {
+        figure.ours([&] { printWithEngine(folder, layouts, kCards); });
+        figure.floor([&] { printBare(folder, kCards); });
     }
-    const double ratio = report("print-1000", ours, floor);
-    if (peakOfFew == 0) return ratio <= kMostRatio ? 0 : 1;
-    const double memory = static_cast<double>(peakOfMany) / static_cast<double>(peakOfFew);
-    std::printf("bench print-memory ours=%ld floor=%ld ratio=%.2f\n", peakOfMany, peakOfFew,
-                memory);
-    return ratio <= kMostRatio && memory <= kMostMemoryRatio ? 0 : 1;
+    const bool isFast = figure.report();
+    if (peakOfFew == 0) return isFast ? 0 : 1;
+    const bool isSmall = report("print-memory", static_cast<double>(peakOfMany),
+                                static_cast<double>(peakOfFew), kMostMemoryRatio, 0);
+    return isFast && isSmall ? 0 : 1;
 }

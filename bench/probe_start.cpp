@@ -7,18 +7,12 @@
 #include "foundation/files/desktop/system_drives.h"
 #include "foundation/menu/desktop/menu_window.h"
 
+#include "tests/support/only_copy.h"
+
 #include <QApplication>
 
 #include <cstdio>
 #include <cstdlib>
-
-namespace {
-
-struct AlwaysFree final : winvrx::SingleInstance {
-    bool claim() override { return true; }
-};
-
-}  // namespace
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -26,7 +20,7 @@ int main(int argc, char** argv) {
     winvrx::FileLog log(QString::fromLocal8Bit(argv[1]) + QStringLiteral("/winvrx.log"));
     const winvrx::FolderDrives drives(argv[1]);
     const winvrx::SystemClock clock;
-    AlwaysFree instance;
+    winvrx::testing::OnlyCopy instance;
     winvrx::FileUserSettings settings(QString::fromLocal8Bit(argv[1]) +
                                       QStringLiteral("/winvrx.ini"));
     winvrx::Program program(

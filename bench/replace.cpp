@@ -3,17 +3,15 @@
 // `replace-1000`: the same bytes written to the same names, each flushed, the folder flushed once.
 // `replace-1000-nosync`: the same protocol with flushes that do nothing, beside plain writes.
 
-#include "bench/timing.h"
-#include "foundation/files/disk.h"
+#include "bench/desk.h"
+#include "bench/figure.h"
 #include "foundation/files/durable_files.h"
+#include "tests/support/scratch_folder.h"
 
-#include <algorithm>
-#include <array>
-#include <chrono>
-#include <cstdio>
-#include <functional>
-#include <random>
+#include <filesystem>
+#include <memory>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -67,36 +65,6 @@ void writePlain(Disk& disk, const std::vector<FileSystem::NewContent>& batch) {
         disk.write(one.file, one.bytes);
 }
 
-void writeFlushed(Disk& disk, const std::vector<FileSystem::NewContent>& batch) {
-    for (const FileSystem::NewContent& one : batch) {
-        disk.write(one.file, one.bytes);
-        disk.flush({one.file});
-    }
-    disk.flushFolder(batch.front().file.parent_path());
-}
-
-/// A folder of its own for files of ours and of the floor.
-class BenchFolder {
-  public:
-    explicit BenchFolder(const path& parent)
-        : path_(parent / ("bench-replace-" + std::to_string(std::random_device{}()))) {
-        std::filesystem::create_directories(path_ / "ours");
-        std::filesystem::create_directories(path_ / "floor");
-    }
-    ~BenchFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-    BenchFolder(const BenchFolder&) = delete;
-    BenchFolder& operator=(const BenchFolder&) = delete;
-
-    [[nodiscard]] path ours() const { return path_ / "ours"; }
-    [[nodiscard]] path floor() const { return path_ / "floor"; }
-
-  private:
-    path path_;
-};
-
 }  // namespace
 
 int main() {
@@ -106,23 +74,23 @@ int main() {
     // The flushed ones on the disk on which the bench is run: the system's temporary folder may be
     // memory, which has nothing to flush. The others in memory, where nothing but the protocol is
     // measured: file systems flush on a rename by themselves.
-    const BenchFolder onDisk(".");
-    const bool hasMemory = std::filesystem::is_directory("/dev/shm");
-    const BenchFolder inMemory(hasMemory ? path("/dev/shm") : path("."));
-    std::array<std::vector<double>, 4> times;
+    const path memory = std::filesystem::is_directory("/dev/shm") ? "/dev/shm" : ".";
+    const testing::ScratchFolder ours(".");
+    const testing::ScratchFolder floor(".");
+    const testing::ScratchFolder oursInMemory(memory);
+    const testing::ScratchFolder floorInMemory(memory);
+    Figure flushed("replace-1000");
+    Figure nosync("replace-1000-nosync");
     for (int round = 0; round <= kRounds; ++round) {
         const char fill = static_cast<char>('a' + round);
-        const std::array<std::function<void()>, 4> works = {
-            [&, batch = batchIn(onDisk.ours(), fill)] { files.replaceAll(batch); },
-            [&, batch = batchIn(onDisk.floor(), fill)] { writeFlushed(*disk, batch); },
-            [&, batch = batchIn(inMemory.ours(), fill)] { unflushed.replaceAll(batch); },
-            [&, batch = batchIn(inMemory.floor(), fill)] { writePlain(*disk, batch); }};
-        for (std::size_t i = 0; i < works.size(); ++i) {
-            const double time = milliseconds(works[i]);
-            if (round > 0) times[i].push_back(time);
-        }
+        flushed.ours([&, batch = batchIn(ours.path(), fill)] { files.replaceAll(batch); });
+        flushed.floor([&, batch = batchIn(floor.path(), fill)] { writeFlushed(*disk, batch); });
+        nosync.ours(
+            [&, batch = batchIn(oursInMemory.path(), fill)] { unflushed.replaceAll(batch); });
+        nosync.floor(
+            [&, batch = batchIn(floorInMemory.path(), fill)] { writePlain(*disk, batch); });
     }
-    report("replace-1000", times[0], times[1]);
-    report("replace-1000-nosync", times[2], times[3]);
+    flushed.report();
+    nosync.report();
     return 0;
 }

@@ -13,7 +13,6 @@
 // `bench_share --trace` lists the operations and the questions that were agreed to.
 #include "app/desktop_setup.h"
 #include "app/program.h"
-#include "bench/counting_files.h"
 #include "bench/share_office.h"
 #include "foundation/desk/desktop/desktop_text_editor.h"
 #include "foundation/desk/desktop/file_log.h"
@@ -21,6 +20,9 @@
 #include "foundation/files/desktop/system_drives.h"
 #include "foundation/menu/desktop/menu_window.h"
 #include "player.h"
+#include "tests/support/only_copy.h"
+#include "tests/support/test_printers.h"
+#include "tests/support/watched_files.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -45,11 +47,20 @@ struct Need {
     const char* why;
 };
 
-/// What the operator waits for, and what it cannot do without.
+enum class Act {
+    Click,
+    Choose,
+    Command,       ///< a click, and agreement to everything that is asked, up to the end
+    CommandForAll  ///< the same for every employee, so that one expects to wait
+};
+
+/// What the operator does and waits for, and what it cannot do without.
 struct Step {
     const char* name;
+    const char* widget;
     std::vector<Need> needs;
-    bool single = true;  ///< of one employee at most, so that nobody expects to wait
+    Act act = Act::Click;
+    const char* entry = "";  ///< to choose
 
     [[nodiscard]] int least() const {
         return std::accumulate(needs.begin(), needs.end(), 0,
@@ -157,6 +168,37 @@ const std::vector<Need> kCopiesShown = {{1, "the names of the copies"},
                                         {1, "the bytes of one as large as it was"},
                                         {1, "the archive that has its former bytes"}};
 
+const std::vector<Step> kDay = {
+    {"select a company", "menu.companies", kSelect + menu(false), Act::Choose, "NÚMERO 01"},
+    {"open Empresas", "menu.companies.open", kCompanies},
+    {"close Empresas", "empresa.close", menu(false)},
+    {"open Funcionarios", "menu.employees.open", kEmployeesShown},
+    {"close Funcionarios", "empregados.close", menu(false)},
+    {"open Turnos", "menu.shifts.open", kShiftsShown},
+    {"close Turnos", "turnos.close", menu(false)},
+    {"open Mes", "menu.month.open", kMonthShown},
+    {"record the month, first change of the day", "month.record", kMonthRecorded + kDailyCopy,
+     Act::Command},
+    {"record the month again", "month.record", kMonthRecorded, Act::Command},
+    {"confirm the month", "month.confirm", kMonthRecorded + kConfirmed + menu(true)},
+    {"open Dados", "menu.timecard.open", kCardsShown},
+    {"select an employee", "card.employees", kCard + kMarks, Act::Choose, "002"},
+    {"apply to one", "card.apply", kApplied, Act::Command},
+    {"apply to all", "card.applyToAll", kAppliedToAll, Act::CommandForAll},
+    {"close Dados", "card.close", menu(true)},
+    {"open Afastamentos", "menu.leaves.open", kLeavesShown},
+    {"close Afastamentos", "leaves.close", menu(true)},
+    {"open Imprimir", "menu.print.open", kPrintShown},
+    {"open Tipo de Cartao", "cartao.stock", kStockShown},
+    {"close Tipo de Cartao", "tipoPonto.close", kPrintShown},
+    {"open Ajuste de Impressao", "cartao.alignment", kAlignmentShown},
+    {"close Ajuste de Impressao", "cartaoPontos.close", kPrintShown},
+    {"print one", "cartao.printOne", kRun + kCard + kLeaves, Act::Command},
+    {"print all", "cartao.printAll", kRun + kAllCards, Act::CommandForAll},
+    {"close Imprimir", "cartao.close", menu(true)},
+    {"open Restaurar", "menu.restore.open", kCopiesShown},
+    {"close Restaurar", "restaurar.close", menu(true)}};
+
 /// Takes the operations of a step and the time between its beginning and its end.
 class Meter {
   public:
@@ -181,7 +223,8 @@ class Meter {
         const double ratio = count / step.least();
         const double shared =
             count + 1e3 * static_cast<double>(std::clock() - begun_) / CLOCKS_PER_SEC;
-        const bool within = ratio <= kMostRatio && !(step.single && shared >= kMostMilliseconds);
+        const bool within =
+            ratio <= kMostRatio && !(step.act != Act::CommandForAll && shared >= kMostMilliseconds);
         std::printf("bench share %-44s %6.0f %6d %6.2f %5.0f ms%s\n", step.name, count,
                     step.least(), ratio, shared, within ? "" : "  PAST ITS LIMIT");
         for (const std::string& one : asked_)
@@ -212,14 +255,22 @@ class NoPaper final : public ReportEngine {
     [[nodiscard]] int sidesOf(const ReportRequest&) override { return 1; }
 };
 
-struct OnePrinter final : Printers {
-    std::vector<std::string> names() const override { return {"Epson-L3250"}; }
-    std::string defaultName() const override { return "Epson-L3250"; }
-    bool openAddDialogue() override { return false; }
-};
+/// Names what is asked of the disk.
+class CountingFiles final : public testing::WatchedFiles {
+  public:
+    CountingFiles(std::unique_ptr<FileSystem> files, std::vector<std::string>& asked)
+        : WatchedFiles(*files), own_(std::move(files)), asked_(asked) {}
 
-struct OnlyCopy final : SingleInstance {
-    bool claim() override { return true; }
+  private:
+    void atFile(const char* act, const std::filesystem::path& file) const override {
+        asked_.push_back(std::string(act) + " " + file.filename().string());
+    }
+    void atFolder(const char* act, const std::filesystem::path& folder) const override {
+        atFile(act, folder);
+    }
+
+    std::unique_ptr<FileSystem> own_;
+    std::vector<std::string>& asked_;
 };
 
 /// Gives the message box in front the answer that goes on.
@@ -231,89 +282,34 @@ void agree(const Meter& meter) {
         if (QAbstractButton* button = box->button(kind)) return button->click();
 }
 
-/// The work of a day, each step beside what it needs.
-class Day {
-  public:
-    Day(Player& player, Meter& meter) : player_(player), meter_(meter) {}
+/// A command runs to its end within one step of the player, and the boxes it opens are answered
+/// meanwhile by the next.
+void playCommand(Player& player, Meter& meter, const Step& step) {
+    const auto done = std::make_shared<bool>(false);
+    player.then([&, done] {
+        meter.begin();
+        QTest::mouseClick(
+            QApplication::activeModalWidget()->findChild<QWidget*>(QString::fromUtf8(step.widget)),
+            Qt::LeftButton);
+        meter.end(step);
+        *done = true;
+    });
+    player.waitUntil([&, done] {
+        if (!*done) agree(meter);
+        return *done;
+    });
+}
 
-    void write() {
-        step({"select a company", kSelect + menu(false)},
-             [this] { player_.choose(text("menu.companies"), text("PADARIA 01")); });
-        openAndClose("companies", "empresa", {"open Empresas", kCompanies},
-                     {"close Empresas", menu(false)});
-        openAndClose("employees", "empregados", {"open Funcionarios", kEmployeesShown},
-                     {"close Funcionarios", menu(false)});
-        openAndClose("shifts", "turnos", {"open Turnos", kShiftsShown},
-                     {"close Turnos", menu(false)});
-        step({"open Mes", kMonthShown}, [this] { player_.click(text("menu.month.open")); });
-        command("month.record",
-                {"record the month, first change of the day", kMonthRecorded + kDailyCopy});
-        command("month.record", {"record the month again", kMonthRecorded});
-        step({"confirm the month", kMonthRecorded + kConfirmed + menu(true)},
-             [this] { player_.click(text("month.confirm")); });
-        step({"open Dados", kCardsShown}, [this] { player_.click(text("menu.timecard.open")); });
-        step({"select an employee", kCard + kMarks},
-             [this] { player_.choose(text("card.employees"), text("002")); });
-        command("card.apply", {"apply to one", kApplied});
-        command("card.applyToAll", {"apply to all", kAppliedToAll, false});
-        step({"close Dados", menu(true)}, [this] { player_.click(text("card.close")); });
-        openAndClose("leaves", "leaves", {"open Afastamentos", kLeavesShown},
-                     {"close Afastamentos", menu(true)});
-        step({"open Imprimir", kPrintShown}, [this] { player_.click(text("menu.print.open")); });
-        inside(text("cartao.stock"), text("tipoPonto.close"), {"open Tipo de Cartao", kStockShown},
-               {"close Tipo de Cartao", kPrintShown});
-        inside(text("cartao.alignment"), text("cartaoPontos.close"),
-               {"open Ajuste de Impressao", kAlignmentShown},
-               {"close Ajuste de Impressao", kPrintShown});
-        command("cartao.printOne", {"print one", kRun + kCard + kLeaves});
-        command("cartao.printAll", {"print all", kRun + kAllCards, false});
-        step({"close Imprimir", menu(true)}, [this] { player_.click(text("cartao.close")); });
-        openAndClose("restore", "restaurar", {"open Restaurar", kCopiesShown},
-                     {"close Restaurar", menu(true)});
-    }
-
-  private:
-    [[nodiscard]] static QString text(const char* utf8) { return QString::fromUtf8(utf8); }
-
-    void step(const Step& step, const std::function<void()>& play) {
-        player_.then([this] { meter_.begin(); });
-        play();
-        player_.then([this, step] { meter_.end(step); });
-    }
-
-    void openAndClose(const char* entry, const char* screen, const Step& opening,
-                      const Step& closing) {
-        inside(text("menu.%1.open").arg(text(entry)), text(screen) + text(".close"), opening,
-               closing);
-    }
-
-    /// Opens a screen by a button of the one in front, and closes it.
-    void inside(const QString& button, const QString& closingButton, const Step& opening,
-                const Step& closing) {
-        step(opening, [&] { player_.click(button); });
-        step(closing, [&] { player_.click(closingButton); });
-    }
-
-    /// A command of the screen in front, with everything that it asks agreed to, from the click to
-    /// its end.
-    void command(const char* button, const Step& step) {
-        const auto done = std::make_shared<bool>(false);
-        player_.then([this, done, step, name = text(button)] {
-            meter_.begin();
-            QTest::mouseClick(QApplication::activeModalWidget()->findChild<QWidget*>(name),
-                              Qt::LeftButton);
-            meter_.end(step);
-            *done = true;
-        });
-        player_.waitUntil([this, done] {
-            if (!*done) agree(meter_);
-            return *done;
-        });
-    }
-
-    Player& player_;
-    Meter& meter_;
-};
+void play(Player& player, Meter& meter, const Step& step) {
+    if (step.act == Act::Command || step.act == Act::CommandForAll)
+        return playCommand(player, meter, step);
+    player.then([&] { meter.begin(); });
+    if (step.act == Act::Choose)
+        player.choose(step.widget, step.entry);
+    else
+        player.click(step.widget);
+    player.then([&] { meter.end(step); });
+}
 
 }  // namespace
 
@@ -321,34 +317,28 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     setUpDesktop(application);
     QTemporaryDir office;
-    const auto inOffice = [&](const char* name) {
-        return office.filePath(QString::fromLatin1(name)).toStdString();
-    };
-    const FolderDrives drives(inOffice("c"));
-    const DataFolder folder('C', pathOnDrive(drives, 'C', kDataFolder));
-    const auto files = systemFiles();
-    files->makeFolder(folder.path());
-    fillOffice({*files, folder});
+    const FolderDrives drives(office.filePath(QStringLiteral("c")).toStdString());
     const FixedClock clock({*parseDate("15/03/2024"), *parseTime("10:20")});
     FileLog log(office.filePath(QStringLiteral("winvrx.log")));
-    copyYesterday(*files, folder, log);
-    OnlyCopy instance;
+    fillOffice(drives, log);
+    testing::OnlyCopy instance;
     FileUserSettings settings(office.filePath(QStringLiteral("winvrx.ini")));
     settings.keep("empresa", kCompany.text());
     Meter meter(argc == 2 && std::strcmp(argv[1], "--trace") == 0);
     ProgramDesk desk{drives,   clock,    log,
                      instance, settings, QApplication::applicationDirPath().toStdString()};
     desk.engine = [](std::unique_ptr<ReportEngine>) { return std::make_unique<NoPaper>(); };
-    desk.printers = [] { return std::make_unique<OnePrinter>(); };
+    desk.printers = [] { return std::make_unique<testing::TestPrinters>(); };
     desk.files = [&](std::unique_ptr<FileSystem> own) {
         return std::make_unique<CountingFiles>(std::move(own), meter.asked());
     };
     Program program(desk);
     meter.begin();
     if (!program.start()) return 1;
-    meter.end({"start", kStart + menu(false)});
+    meter.end({"start", "", kStart + menu(false)});
     Player player(office.filePath(QStringLiteral("play")));
-    Day(player, meter).write();
+    for (const Step& step : kDay)
+        play(player, meter, step);
     const int played = player.play();
     return played == 0 && !meter.past() ? 0 : 1;
 }

@@ -11,10 +11,7 @@ inline constexpr int kOnLeave = 20;  ///< so many have a leave file
 inline const CompanyCode kCompany = *CompanyCode::parse("01");
 
 /// 99 companies, of which kCompany has 999 employees, each with a schedule and the cards of the 23
-/// months up to March 2024.
-void fillOffice(const Store& store);
-
-/// The safety copy of the 14th of March 2024, made well after the records were written.
-void copyYesterday(FileSystem& files, const DataFolder& folder, Log& log);
+/// months up to March 2024; and the safety copy of the day before the 15th of March 2024.
+void fillOffice(const Drives& drives, Log& log);
 
 }  // namespace winvrx

@@ -1,8 +1,8 @@
 // From process start to the main window shown, with 99 companies. Beside it an empty window, and,
 // to tell Qt's loading of fonts from our own work, a window with one word.
-#include "bench/timing.h"
+#include "bench/figure.h"
+#include "bench/office.h"
 #include "foundation/files/desktop/system_drives.h"
-#include "foundation/register/company_register.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -11,11 +11,10 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <vector>
 
 namespace {
 
-using winvrx::report;
+using namespace winvrx;
 
 constexpr int kRounds = 15;
 
@@ -31,19 +30,11 @@ double untilShown(const QString& program, const QStringList& arguments) {
     return shown && child.exitCode() == 0 ? milliseconds : -1;
 }
 
-void recordCompanies(const std::filesystem::path& driveRoot) {
-    const auto files = winvrx::systemFiles();
-    const winvrx::FolderDrives drives(driveRoot);
-    const winvrx::DataFolder folder('C', winvrx::pathOnDrive(drives, 'C', winvrx::kDataFolder));
+void fill(const std::filesystem::path& driveRoot) {
+    const auto files = systemFiles();
+    const DataFolder folder('C', pathOnDrive(FolderDrives(driveRoot), 'C', kDataFolder));
     files->makeFolder(folder.path());
-    std::vector<winvrx::CompanyLine> lines;
-    for (int number = 1; number <= winvrx::CompanyCode::kHighest; ++number) {
-        winvrx::Company company = winvrx::sampleCompany(*winvrx::parseDate("15/03/2024"));
-        company.code = winvrx::CompanyCode::fromNumber(number)->text();
-        company.name = "PADARIA E CONFEITARIA NÚMERO " + company.code + " LTDA";
-        lines.push_back({winvrx::encode(company), company});
-    }
-    winvrx::companyFile({*files, folder}).save(lines);
+    recordCompanies({*files, folder});
 }
 
 }  // namespace
@@ -52,12 +43,11 @@ int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     const QString folder = QCoreApplication::applicationDirPath();
     QTemporaryDir drive;
-    recordCompanies(drive.path().toStdString());
+    fill(drive.path().toStdString());
     const QString program = folder + QStringLiteral("/probe_start");
     const QString bare = folder + QStringLiteral("/floor_start");
-    std::vector<double> ours;
-    std::vector<double> empty;
-    std::vector<double> oneWord;
+    Figure empty("start");
+    Figure oneWord("start-one-word");
     for (int round = 0; round <= kRounds; ++round) {
         const double times[] = {untilShown(program, {drive.path()}), untilShown(bare, {}),
                                 untilShown(bare, {QStringLiteral("Winvrx")})};
@@ -65,12 +55,10 @@ int main(int argc, char** argv) {
             std::fputs("bench start: a window was not shown\n", stderr);
             return 1;
         }
-        if (round == 0) continue;  // the first round fills the disk cache
-        ours.push_back(times[0]);
-        empty.push_back(times[1]);
-        oneWord.push_back(times[2]);
+        empty.add(times[0], times[1]);
+        oneWord.add(times[0], times[2]);
     }
-    report("start", ours, empty);
-    report("start-one-word", ours, oneWord);
+    empty.report();
+    oneWord.report();
     return 0;
 }

@@ -5,17 +5,19 @@
 // `transfer-10000`: both compare with what the disk holds. `transfer-10000-cached`, without a
 // limit: `diff` reads the copy from the system's memory, where `cp` has just left it.
 
-#include "bench/timing.h"
+#include "bench/desk.h"
+#include "bench/figure.h"
 #include "foundation/copies/desktop/zip_archiver.h"
-#include "foundation/files/durable_files.h"
-#include "foundation/files/host.h"
 #include "foundation/register/company.h"
 #include "foundation/values/text.h"
+#include "tests/support/scratch_folder.h"
 #include "tools/transfer/transferencia.h"
 
 #include <cstdlib>
 #include <filesystem>
-#include <random>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -26,35 +28,13 @@ constexpr int kFiles = 10'000;
 constexpr int kRounds = 5;
 constexpr double kMostRatio = 1.5;
 
-/// Agrees with everything, and shows what went wrong.
-class Agreeing final : public Operator {
-  public:
-    Answer ask(const Message& message) override {
-        if (message.icon != Icon::Information && message.buttons == Buttons::Ok)
-            std::fprintf(stderr, "%s %s\n", message.text.c_str(), message.detail.c_str());
-        return agreement(message);
-    }
-};
-
-class ErrorLog final : public Log {
-  public:
-    void write(std::string_view entry) noexcept override {
-        std::fprintf(stderr, "%.*s\n", static_cast<int>(entry.size()), entry.data());
-    }
-};
-
 /// A folder for each drive beside the place of the run: the system's temporary one may be memory.
 class BenchDrives final : public Drives {
   public:
     BenchDrives() { std::filesystem::create_directories(records('C')); }
-    ~BenchDrives() override {
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
+    [[nodiscard]] path root(char letter) const override {
+        return scratch_.path() / std::string(1, letter);
     }
-    BenchDrives(const BenchDrives&) = delete;
-    BenchDrives& operator=(const BenchDrives&) = delete;
-
-    [[nodiscard]] path root(char letter) const override { return path_ / std::string(1, letter); }
     [[nodiscard]] std::vector<char> letters() const override { return {'C', 'E', 'F'}; }
     [[nodiscard]] path records(char letter) const {
         return pathOnDrive(*this, letter, kDataFolder);
@@ -65,8 +45,7 @@ class BenchDrives final : public Drives {
     }
 
   private:
-    path path_ =
-        std::filesystem::absolute("bench-transfer-" + std::to_string(std::random_device{}()));
+    testing::ScratchFolder scratch_{std::filesystem::current_path()};
 };
 
 /// Of the size of a month's punch record, no two the same.
@@ -94,59 +73,40 @@ bool runs(const std::string& command) {
     return std::system(command.c_str()) == 0;  // NOLINT(cert-env33-c): names of our own
 }
 
-/// Times of one round of `cp -a`, a flush and `diff -r`.
-class PlainCopy {
-  public:
-    PlainCopy(const path& from, path to, const Disk& disk)
-        : from_("'" + from.string() + "' "), copy_(std::move(to)), disk_(disk) {}
-
-    std::vector<double> floor;
-    std::vector<double> cachedFloor;
-
-    bool measure(bool isKept) {
-        const std::string to = "'" + copy_.string() + "'";
-        bool done = true;
-        const auto diff = [&] { done = runs("diff -r " + from_ + to) && done; };
-        const double copied =
-            milliseconds([&] { done = runs("cp -a " + from_ + to + " && sync -f " + to); });
-        const double cached = milliseconds(diff);
-        const double compared = milliseconds([&] {
-            disk_.forget(filesIn(copy_, disk_));
-            diff();
-        });
-        if (!isKept) return done;
-        floor.push_back(copied + compared);
-        cachedFloor.push_back(copied + cached);
-        return done;
-    }
-
-  private:
-    std::string from_;
-    path copy_;
-    const Disk& disk_;
+/// Milliseconds of one round of `cp -a`, a flush and `diff -r`.
+struct PlainCopy {
+    bool done;
+    double copied;
+    double compared;        ///< with what the disk holds
+    double comparedCached;  ///< with what the system's memory holds
 };
+
+PlainCopy copyPlainly(const path& from, const path& to, const Disk& disk) {
+    const std::string both = "'" + from.string() + "' '" + to.string() + "'";
+    PlainCopy copy{true, 0, 0, 0};
+    const auto run = [&](const std::string& command) { copy.done = runs(command) && copy.done; };
+    copy.copied = milliseconds([&] { run("cp -a " + both + " && sync -f '" + to.string() + "'"); });
+    copy.comparedCached = milliseconds([&] { run("diff -r " + both); });
+    copy.compared = milliseconds([&] {
+        disk.forget(filesIn(to, disk));
+        run("diff -r " + both);
+    });
+    return copy;
+}
 
 }  // namespace
 
 int main() {
     const BenchDrives drives;
-    const auto disk = systemDisk();
-    fill(drives.records('C'), *disk);
-    const auto files = systemFiles();
-    Agreeing person;
-    ErrorLog log;
-    const FixedClock clock({*parseDate("15/03/2024"), {}});
-    Session session;
-    session.folder = DataFolder('C', drives.records('C'));
-    const auto host = systemHost();
-    FolderLock lock(*disk, *host);
+    BenchDesk desk(drives.records('C'), *parseDate("15/03/2024"));
+    fill(drives.records('C'), *desk.disk);
     const ZipArchiver archiver;
-    SafetyCopies copies(*files, archiver, log);
-    Transferencia screen({*files, person, clock, log, session, lock},
-                         {*disk, drives, copies, archiver, [](const path&) { return std::nullopt; },
-                          [](std::string_view) { return [](auto, auto) { return true; }; }});
-    PlainCopy plain(drives.records('C'), drives.root('F') / "copy", *disk);
-    std::vector<double> ours;
+    SafetyCopies copies(*desk.files, archiver, desk.log);
+    Transferencia screen(
+        desk.at, {*desk.disk, drives, copies, archiver, [](const path&) { return std::nullopt; },
+                  [](std::string_view) { return [](auto, auto) { return true; }; }});
+    Figure figure("transfer-10000", kMostRatio);
+    Figure cached("transfer-10000-cached");
     bool done = true;
     for (int round = 0; round <= kRounds; ++round) {
         drives.makeEmpty('E');
@@ -155,10 +115,12 @@ int main() {
         const double moved =
             milliseconds([&] { done = screen.transfer(TransferDirection::Export, "E") && done; });
         (void)runs("sync -f .");
-        done = plain.measure(round > 0) && done;  // the first fills the caches
-        if (round > 0) ours.push_back(moved);
+        const auto plain = copyPlainly(drives.records('C'), drives.root('F') / "copy", *desk.disk);
+        done = plain.done && done;
+        figure.add(moved, plain.copied + plain.compared);
+        cached.add(moved, plain.copied + plain.comparedCached);
     }
-    const double ratio = report("transfer-10000", ours, plain.floor);
-    (void)report("transfer-10000-cached", ours, plain.cachedFloor);
-    return done && ratio <= kMostRatio ? 0 : 1;
+    const bool isWithin = figure.report();
+    cached.report();
+    return done && isWithin ? 0 : 1;
 }

@@ -11,10 +11,12 @@
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/faults.h"
 #include "foundation/widgets/desktop/look.h"
-#include "month_script.h"
 #include "output/cards/cartao.h"
 #include "personnel/contract/booklet_box.h"
 #include "player.h"
+#include "scripts.h"
+#include "tests/support/only_copy.h"
+#include "tests/support/test_printers.h"
 #include "tools/internet/browser_settings.h"
 
 #include <QApplication>
@@ -27,10 +29,6 @@
 namespace winvrx {
 
 namespace {
-
-struct OnlyCopy final : SingleInstance {
-    bool claim() override { return true; }
-};
 
 /// In the place of the word processor: a file for each document, of its title.
 class DocumentsInFiles final : public WordProcessor {
@@ -101,14 +99,12 @@ class PaperInAFile final : public ReportEngine {
     std::filesystem::path folder_;
 };
 
-/// Two printers, of which the second is the default one.
-struct TwoPrinters final : Printers {
-    std::vector<std::string> names() const override {
-        return {"HP-LaserJet-Balcao", "Epson-L3250"};
-    }
-    std::string defaultName() const override { return "Epson-L3250"; }
-    bool openAddDialogue() override { return false; }
-};
+std::unique_ptr<Printers> twoPrinters() {
+    auto printers = std::make_unique<testing::TestPrinters>();
+    printers->installed = {"HP-LaserJet-Balcao", "Epson-L3250"};
+    printers->usual = "Epson-L3250";
+    return printers;
+}
 
 /// A browser that is not this computer's.
 class NobodysBrowser final : public BrowserSettings {
@@ -143,8 +139,8 @@ int main(int argc, char** argv) {
     using namespace winvrx;
     if (qgetenv("QT_QPA_PLATFORM") == "offscreen")
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" WINVRX_SCREEN);
-    QApplication::setAttribute(
-        Qt::AA_DontUseNativeDialogs);  // the player would not find its fields
+    // The player would not find the fields of the others.
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication application(argc, argv);
     if (argc != 2) {
         qCritical("usage: typical_month FOLDER");
@@ -160,20 +156,21 @@ int main(int argc, char** argv) {
     const FolderDrives drives((folder + QStringLiteral("/disco-c")).toStdString());
     const FixedClock clock({*parseDate("15/03/2024"), *parseTime("10:20")});
     FileLog log(folder + QStringLiteral("/winvrx.log"));
-    OnlyCopy instance;
+    testing::OnlyCopy instance;
     FileUserSettings settings(folder + QStringLiteral("/winvrx.ini"));
-    Program program(
-        {drives, clock, log, instance, settings, QApplication::applicationDirPath().toStdString(),
-         [&](std::unique_ptr<ReportEngine> engine) -> std::unique_ptr<ReportEngine> {
-             return std::make_unique<PaperInAFile>(std::move(engine), folder.toStdString());
-         },
-         [](const FileSystem& files) -> std::unique_ptr<TextEditor> {
-             return std::make_unique<TextViewer>(files);
-         },
-         [] { return std::make_unique<TwoPrinters>(); }, nullptr,
-         (folder + QStringLiteral("/winvrx.log")).toStdString(),
-         [&] { return std::make_unique<DocumentsInFiles>(folder + QStringLiteral("/documentos")); },
-         std::make_shared<NobodysBrowser>()});
+    ProgramDesk desk{drives,   clock,    log,
+                     instance, settings, QApplication::applicationDirPath().toStdString()};
+    desk.engine = [&](std::unique_ptr<ReportEngine> engine) {
+        return std::make_unique<PaperInAFile>(std::move(engine), folder.toStdString());
+    };
+    desk.editor = [](const FileSystem& files) { return std::make_unique<TextViewer>(files); };
+    desk.printers = twoPrinters;
+    desk.logFile = (folder + QStringLiteral("/winvrx.log")).toStdString();
+    desk.writer = [&] {
+        return std::make_unique<DocumentsInFiles>(folder + QStringLiteral("/documentos"));
+    };
+    desk.browsers = std::make_shared<NobodysBrowser>();
+    Program program(desk);
     if (!program.start()) return 1;
     Player player(folder);
     writeMonth(player);

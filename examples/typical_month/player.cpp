@@ -90,10 +90,6 @@ void Player::waitNow(const std::function<bool()>& ready) {
     if (!ready()) steps_.push_front([this, ready] { waitNow(ready); });
 }
 
-void Player::click(const QString& name) {
-    then([name] { window().click(name); });
-}
-
 void Player::press(QKeyCombination key) {
     then([this, key] { pressNow(key); });
 }
@@ -106,10 +102,6 @@ void Player::pressNow(QKeyCombination key) {
     QTimer::singleShot(kKeyPause, this, [this] { still_ = false; });
 }
 
-void Player::trigger(const QString& name) {
-    then([name] { window().trigger(name); });
-}
-
 void Player::chooseFile(const QString& path) {
     then([path] {
         window().find<QLineEdit>("fileNameEdit").setText(path);
@@ -117,32 +109,26 @@ void Player::chooseFile(const QString& path) {
     });
 }
 
-void Player::type(const QString& name, const QString& text) {
-    then([this, name, text] {
+void Player::type(QAnyStringView name, QAnyStringView text) {
+    then([this, name = name.toString(), text = text.toString()] {
         window().type(name, text);
         if (window().find<QLineEdit>(name).text() != text)
             fail(name + QStringLiteral(" did not take: ") + text);
     });
 }
 
-void Player::typeCell(const QString& name, int row, int column, const QString& text) {
-    then([=] { window().typeCell(name, row, column, text); });
+void Player::answer(QAnyStringView text, Answer answer) {
+    then([this, text = text.toString(), answer] { answerNow(text, answer, kPatience); });
 }
 
-void Player::choose(const QString& name, const QString& text) {
-    then([=] { window().choose(name, text); });
+void Player::confirm(QKeyCombination key, QAnyStringView question) {
+    press(key);
+    answer(question, Answer::Yes);
 }
 
-void Player::tick(const QString& name, bool on) {
-    then([=] { window().tick(name, on); });
-}
-
-void Player::openTab(const QString& name, const QString& title) {
-    then([=] { window().openTab(name, title); });
-}
-
-void Player::answer(const QString& text, Answer answer) {
-    then([this, text, answer] { answerNow(text, answer, kPatience); });
+void Player::confirm(QAnyStringView button, QAnyStringView question) {
+    click(button);
+    answer(question, Answer::Yes);
 }
 
 /// Tries again while there is no box: a button acts on its letter a moment later.
@@ -161,12 +147,22 @@ void Player::answerNow(const QString& text, Answer answer, int tries) {
     QTest::keyClick(button, Qt::Key_Space);
 }
 
-void Player::picture(const QString& name) {
-    then([this, name] { savePicture(present(), name); });
+void Player::picture(QAnyStringView name) {
+    then([this, name = name.toString()] { savePicture(present(), name); });
 }
 
-void Player::pictureBeside(const QString& objectName, const QString& name) {
-    then([this, objectName, name] {
+void Player::look(QAnyStringView name) {
+    picture(name);
+    press(Qt::Key_Escape);
+}
+
+void Player::look(QAnyStringView name, QAnyStringView closingButton) {
+    picture(name);
+    click(closingButton);
+}
+
+void Player::pictureBeside(QAnyStringView objectName, QAnyStringView name) {
+    then([this, objectName = objectName.toString(), name = name.toString()] {
         QWidget* window = beside(objectName);
         savePicture(window, name);
         window->close();

@@ -3,6 +3,7 @@
 #include "foundation/desk/operator.h"
 #include "tests/widget_driver/widget_driver.h"
 
+#include <QAnyStringView>
 #include <QObject>
 #include <QString>
 
@@ -27,27 +28,37 @@ class Player : public QObject {
 
     /// Presses a key where the focus is.
     void press(QKeyCombination key);
-    void click(const QString& name);
-    /// Gives a command of a menu.
-    void trigger(const QString& name);
     /// Picks the file in the file dialog that is open.
     void chooseFile(const QString& path);
-    /// Replaces the text of a field by key presses.
-    void type(const QString& name, const QString& text);
-    /// Types into a cell of a grid and ends with ENTER.
-    void typeCell(const QString& name, int row, int column, const QString& text);
-    /// Picks the entry of a list or combo box whose text contains `text`.
-    void choose(const QString& name, const QString& text);
-    /// Ticks or clears a check box or option button.
-    void tick(const QString& name, bool on);
-    /// Selects a tab by a word of its title.
-    void openTab(const QString& name, const QString& title);
+    /// Replaces the text of a field by key presses, which must leave just that.
+    void type(QAnyStringView name, QAnyStringView text);
+
+    // What a WidgetDriver does.
+    void click(QAnyStringView name) { drive(&WidgetDriver::click, name.toString()); }
+    void trigger(QAnyStringView name) { drive(&WidgetDriver::trigger, name.toString()); }
+    void typeCell(QAnyStringView name, int row, int column, QAnyStringView text) {
+        drive(&WidgetDriver::typeCell, name.toString(), row, column, text.toString());
+    }
+    void choose(QAnyStringView name, QAnyStringView text) {
+        drive(&WidgetDriver::choose, name.toString(), text.toString());
+    }
+    void tick(QAnyStringView name, bool on) { drive(&WidgetDriver::tick, name.toString(), on); }
+    void openTab(QAnyStringView name, QAnyStringView title) {
+        drive(&WidgetDriver::openTab, name.toString(), title.toString());
+    }
+
     /// Answers the message box that is open; its text must begin with `text`.
-    void answer(const QString& text, Answer answer);
+    void answer(QAnyStringView text, Answer answer);
+    /// Presses a key or clicks a button, and answers "Sim".
+    void confirm(QKeyCombination key, QAnyStringView question);
+    void confirm(QAnyStringView button, QAnyStringView question);
     /// Saves the present window in the light and in the dark palette.
-    void picture(const QString& name);
+    void picture(QAnyStringView name);
+    /// The same, and leaves the window: by ESC, or by a button of it.
+    void look(QAnyStringView name);
+    void look(QAnyStringView name, QAnyStringView closingButton);
     /// The same of a window that lies beside it; closes it.
-    void pictureBeside(const QString& objectName, const QString& name);
+    void pictureBeside(QAnyStringView objectName, QAnyStringView name);
     /// Asks again and again until the answer is yes: the next steps begin then.
     void waitUntil(std::function<bool()> ready);
     /// Anything else.
@@ -59,6 +70,10 @@ class Player : public QObject {
     [[nodiscard]] int play();
 
   private:
+    template <typename... Taken, typename... Given>
+    void drive(void (WidgetDriver::*act)(Taken...) const, Given... given) {
+        then([=] { (window().*act)(given...); });
+    }
     void next();
     void waitNow(const std::function<bool()>& ready);
     [[noreturn]] void fail(const QString& reason) const;

@@ -2,6 +2,7 @@
 #include "foundation/copies/restaurar_copia.h"
 #include "foundation/menu/menu.h"
 #include "tests/support/memory_settings.h"
+#include "tests/support/only_copy.h"
 #include "tests/support/plain_archiver.h"
 #include "tests/support/writing_commands.h"
 
@@ -18,10 +19,6 @@ FileTable officeOfAnEarlierVersion() {
     files[kEarlierList] = encode(officeEmployee("007", "ANTIGA")) + "\r\n";
     return files;
 }
-
-struct OnlyCopy final : SingleInstance {
-    bool claim() override { return true; }
-};
 
 /// A started main window and what it does next.
 template <typename Next>

@@ -6,24 +6,11 @@
 
 #include <fstream>
 #include <iterator>
-#include <random>
 #include <stdexcept>
 
 namespace winvrx::testing {
 
 namespace fs = std::filesystem;
-
-ScratchFolder::ScratchFolder(const fs::path& parent) {
-    std::random_device dice;
-    do
-        path_ = parent / ("winvrx-office-" + std::to_string(dice()));
-    while (!fs::create_directory(path_));
-}
-
-ScratchFolder::~ScratchFolder() {
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-}
 
 void fill(const fs::path& root, const FileTable& files) {
     for (const auto& entry : fs::directory_iterator(root))

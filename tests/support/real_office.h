@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/scratch_folder.h"
 #include "tests/support/writing_commands.h"
 
 #include <filesystem>
@@ -8,21 +9,6 @@
 #include <string>
 
 namespace winvrx::testing {
-
-/// A folder of the real disk that is gone at the end.
-class ScratchFolder {
-  public:
-    explicit ScratchFolder(
-        const std::filesystem::path& parent = std::filesystem::temp_directory_path());
-    ~ScratchFolder();
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
-
-  private:
-    std::filesystem::path path_;
-};
 
 /// Makes `files` the whole content of the folder.
 void fill(const std::filesystem::path& root, const FileTable& files);
