@@ -5,8 +5,8 @@ using namespace winvrx;
 using namespace std::chrono_literals;
 using fuzz::require;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const CellBlock block = parseCellBlock(fuzz::textOf(data, size));
+void fuzz::tryBytes(std::string_view bytes) {
+    const CellBlock block = parseCellBlock(bytes);
     require(block.empty() || parseCellBlock(textOf(block) + "\n") == block, "a block comes back");
     CardSheet sheet(blankMonth(2024y / 3));
     const std::string refusal = paste(sheet, 1, PunchCell::MorningEntry, block);
@@ -14,5 +14,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     while (sheet.undo()) {
     }
     require(!sheet.changed(), "a paste is taken back whole");
-    return 0;
 }

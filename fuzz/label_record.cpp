@@ -15,13 +15,9 @@ void requireNarrow(const LabelLines& lines) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    testing::MemoryFiles files;
-    std::string& file =
-        files.content[fuzz::kFolder.companyFile(fuzz::kCompany, kLabelCatalogueName)];
-    file = fuzz::textOf(data, size);
-    const auto before = splitLines(file);
-    const LabelTexts labels = loadLabels({files, fuzz::kFolder}, fuzz::kCompany);
+void fuzz::tryBytes(std::string_view bytes) {
+    fuzz::AnyFile file(fuzz::kFolder.companyFile(fuzz::kCompany, kLabelCatalogueName), bytes);
+    const LabelTexts labels = loadLabels(file.store, fuzz::kCompany);
     Employee employee;
     employee.salary = employee.function = employee.name = "PADEIRO E CONFEITEIRO DE PRIMEIRA";
     MergeWords words = mergeWords({}, employee);
@@ -36,7 +32,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         requireNarrow(labelLines(text));
         requireNarrow(filledLines(text, words));
     }
-    labelFile({files, fuzz::kFolder}, fuzz::kCompany).save(labels);
-    require(splitLines(file) == before, "an unchanged catalogue keeps its lines");
-    return 0;
+    labelFile(file.store, fuzz::kCompany).save(labels);
+    require(file.lines() == file.before, "an unchanged catalogue keeps its lines");
 }

@@ -20,19 +20,16 @@ void requireKept(const std::string& line) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    testing::MemoryFiles files;
-    const std::string bytes(fuzz::textOf(data, size));
-    files.content[fuzz::kFolder.companyFile(fuzz::kCompany, leaveFileName(fuzz::kEmployee))] =
-        bytes;
-    for (const std::string& line : splitLines(bytes))
+void fuzz::tryBytes(std::string_view bytes) {
+    fuzz::AnyFile record(
+        fuzz::kFolder.companyFile(fuzz::kCompany, leaveFileName(fuzz::kKey.employee)), bytes);
+    for (const std::string& line : record.before)
         requireKept(line);
     LeaveFile file = parseLeaveFile(bytes);
     const LeaveFile again = parseLeaveFile(encode(file));
     file.strays.clear();
     require(again == file, "a rewrite keeps the leaves and the status");
-    const LeaveCalendar calendar =
-        loadLeaveCalendar({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee});
+    const LeaveCalendar calendar = loadLeaveCalendar(record.store, fuzz::kKey);
     for (const DatedLeave& one : calendar.leaves()) {
         require(calendar.touches(monthOf(one.period.last)), "a leave holds its own days");
         if (one.away)
@@ -44,5 +41,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (const auto since = inactiveSince(bytes))
         require(since->ok() && calendar.contractEnd() <= since,
                 "an employee is inactive since a day of the calendar, which ends the contract");
-    return 0;
 }

@@ -61,14 +61,14 @@ void checkText(std::string_view bytes) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void fuzz::tryBytes(std::string_view bytes) {
     constexpr std::size_t kHead = 2;
-    if (size < kHead) return 0;
-    const Column column{std::size_t{1} + data[0], std::size_t{1} + data[1]};
-    const std::string_view bytes = fuzz::textOf(data + kHead, size - kHead);
+    if (bytes.size() < kHead) return;
+    const auto number = [](char byte) { return std::size_t{1} + static_cast<unsigned char>(byte); };
+    const Column column{number(bytes[0]), number(bytes[1])};
+    bytes.remove_prefix(kHead);
     checkLines(bytes);
     checkColumn(bytes, column);
     checkTyped(bytes, column);
     checkText(bytes);
-    return 0;
 }

@@ -6,12 +6,9 @@ using namespace winvrx;
 using namespace std::chrono_literals;
 using fuzz::require;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    testing::MemoryFiles files;
-    std::string& file = files.content[fuzz::kFolder.file(kLocalHolidaysName)];
-    file = fuzz::textOf(data, size);
-    const auto before = splitLines(file);
-    const auto lines = localHolidays({files, fuzz::kFolder}).load();
+void fuzz::tryBytes(std::string_view bytes) {
+    fuzz::AnyFile file(fuzz::kFolder.file(kLocalHolidaysName), bytes);
+    const auto lines = localHolidays(file.store).load();
     for (const LocalHolidayLine& line : lines) {
         if (!line.key()) continue;
         require(encode(line.record, line.bytes) == fuzz::widened(line.bytes, kLocalHolidayWidth),
@@ -19,11 +16,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(completedHolidayDay(line.record.day) == line.record.day,
                 "a day is in its full form");
     }
-    localHolidays({files, fuzz::kFolder}).save(lines);
-    require(splitLines(file) == before, "an unchanged list keeps its lines");
+    localHolidays(file.store).save(lines);
+    require(file.lines() == file.before, "an unchanged list keeps its lines");
     for (const WorkMonth month : {2024y / 2, 2024y / 11, 2026y / 1})
-        for (const Holiday& one : offeredHolidays({files, fuzz::kFolder}, month))
+        for (const Holiday& one : offeredHolidays(file.store, month))
             require(monthOf(one.date) == month, "an offer lies in its month");
-    (void)completedHolidayDay(fuzz::textOf(data, size));
-    return 0;
+    (void)completedHolidayDay(bytes);
 }

@@ -16,25 +16,22 @@ bool isBlank(const std::string& line) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    testing::MemoryFiles files;
-    std::string& file = files.content[fuzz::kFolder.file(monthRecordName(kMonth))];
-    file = fuzz::textOf(data, size);
-    const auto before = splitLines(file);
-    MonthSettings settings = loadMonthSettings({files, fuzz::kFolder}, kMonth);
+void fuzz::tryBytes(std::string_view bytes) {
+    fuzz::AnyFile file(fuzz::kFolder.file(monthRecordName(kMonth)), bytes);
+    MonthSettings settings = loadMonthSettings(file.store, kMonth);
 
-    saveMonthSettings({files, fuzz::kFolder}, settings);
-    const auto after = splitLines(file);
+    saveMonthSettings(file.store, settings);
+    const auto& before = file.before;
+    const auto after = file.lines();
     require(after.size() == std::max(before.size(), kKnownLines), "every line is there");
     for (std::size_t line = 0; line < before.size(); ++line)
         require(after[line] == before[line] || (line < kKnownLines && isBlank(before[line])),
                 "an unchanged month keeps its lines");
-    require(loadMonthSettings({files, fuzz::kFolder}, kMonth) == settings, "a month comes back");
+    require(loadMonthSettings(file.store, kMonth) == settings, "a month comes back");
 
     settings.fixedMonth = !settings.fixedMonth;
     settings.closingDay = settings.closingDay % kHighestClosingDay + 1;
     settings.setHoliday(*parseDate("29/03/2024"), !settings.isHoliday(*parseDate("29/03/2024")));
-    saveMonthSettings({files, fuzz::kFolder}, settings);
-    require(loadMonthSettings({files, fuzz::kFolder}, kMonth) == settings, "a change comes back");
-    return 0;
+    saveMonthSettings(file.store, settings);
+    require(loadMonthSettings(file.store, kMonth) == settings, "a change comes back");
 }

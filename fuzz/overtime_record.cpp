@@ -5,30 +5,20 @@ using namespace winvrx;
 using namespace std::chrono_literals;
 using fuzz::require;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void fuzz::tryBytes(std::string_view bytes) {
     constexpr WorkMonth kMonth = 2024y / 3;
-    testing::MemoryFiles files;
-    std::string& file = files.content["/data/01MedHorExtr001"];
-    file = fuzz::textOf(data, size);
-    const auto before = splitLines(file);
-    for (const std::string& line : before)
+    fuzz::AnyFile file("/data/01MedHorExtr001", bytes);
+    for (const std::string& line : file.before)
         if (const auto read = decodeOvertime(line))
             require(encode(*read, line) == fuzz::widened(line, kOvertimeWidth),
                     "an unchanged line keeps its bytes");
 
-    const auto own =
-        loadOvertime({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, kMonth);
+    const auto own = loadOvertime(file.store, fuzz::kKey, kMonth);
     OvertimePercents percents = own.value_or(OvertimePercents());
     percents.minimumPercent = (percents.minimumPercent + 1) % (kHighestPercent + 1);
-    saveOvertime({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, {kMonth, percents});
-    require(
-        loadOvertime({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, kMonth) == percents,
-        "a month's figures come back");
-    const auto after = splitLines(file);
-    require(after.size() == before.size() + (own ? 0 : 1), "every line is there");
-    std::size_t changed = 0;
-    for (std::size_t line = 0; line < before.size(); ++line)
-        if (after[line] != before[line]) ++changed;
-    require(changed == (own ? 1 : 0), "the other lines keep their bytes");
-    return 0;
+    saveOvertime(file.store, fuzz::kKey, {kMonth, percents});
+    require(loadOvertime(file.store, fuzz::kKey, kMonth) == percents,
+            "a month's figures come back");
+    require(file.lines().size() == file.before.size() + (own ? 0 : 1), "every line is there");
+    require(file.changedLines() == 1, "the other lines keep their bytes");
 }

@@ -1,5 +1,4 @@
 #include "timecard/punches/punch_record.h"
-#include "foundation/values/faults.h"
 #include "fuzz/invariant.h"
 
 #include <algorithm>
@@ -16,11 +15,7 @@ void checkLine(const std::string& bytes) {
     const PunchLine line = decodePunchLine(bytes);
     require(encode(line, bytes) == fuzz::widened(bytes, kPunchWidth),
             "an unchanged day keeps its bytes");
-    try {
-        require(decodePunchLine(encode(line)) == line, "a day comes back");
-    } catch (const TextFault&) {
-        // A control character in the file cannot be typed into a new line.
-    }
+    fuzz::requireBack(line, decodePunchLine, "a day comes back");
 }
 
 bool isKept(const std::string& line, const std::vector<std::string>& written) {
@@ -30,26 +25,18 @@ bool isKept(const std::string& line, const std::vector<std::string>& written) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    testing::MemoryFiles files;
-    const auto name = punchFileName({fuzz::kCompany, fuzz::kEmployee}, kMonth);
-    std::string& file = files.content[fuzz::kFolder.file(name)];
-    file = fuzz::textOf(data, size);
-    const auto before = splitLines(file);
-    for (const std::string& line : before)
+void fuzz::tryBytes(std::string_view bytes) {
+    fuzz::AnyFile file(fuzz::kFolder.file(punchFileName(fuzz::kKey, kMonth)), bytes);
+    for (const std::string& line : file.before)
         checkLine(line);
 
-    const auto load = [&] {
-        return findPunchRecord({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, kMonth)
-            .value();
-    };
+    const auto load = [&] { return findPunchRecord(file.store, fuzz::kKey, kMonth).value(); };
     const auto [days, unread] = load();
-    file = editedPunchRecord(file, kMonth, days);
-    const auto written = splitLines(file);
-    for (const std::string& line : before)
+    file.content = editedPunchRecord(file.content, kMonth, days);
+    const auto written = file.lines();
+    for (const std::string& line : file.before)
         require(isKept(line, written), "every line is kept");
     require(written.size() == 1 + days.size() + unread.size(), "no line is doubled");
     const auto [daysBack, unreadBack] = load();
     require(daysBack == days && unreadBack == unread, "a record comes back");
-    return 0;
 }

@@ -19,27 +19,22 @@ std::string unchanged(std::string line) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    testing::MemoryFiles files;
-    std::string& file = files.content["/data/01PadrHor001.pdx"];
-    file = fuzz::textOf(data, size);
-    auto lines = splitLines(file);
-    auto schedule = loadSchedule({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee});
+void fuzz::tryBytes(std::string_view bytes) {
+    fuzz::AnyFile file("/data/01PadrHor001.pdx", bytes);
+    auto lines = file.before;
+    auto schedule = loadSchedule(file.store, fuzz::kKey);
     require(schedule.has_value() != lines.empty(), "a schedule is the first line");
-    if (!schedule) return 0;
+    if (!schedule) return;
 
-    saveSchedule({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, *schedule);
+    saveSchedule(file.store, fuzz::kKey, *schedule);
     lines.front() = unchanged(lines.front());
-    require(splitLines(file) == lines, "an unchanged schedule keeps its bytes");
+    require(file.lines() == lines, "an unchanged schedule keeps its bytes");
     schedule->opaque = fuzz::widened(std::move(schedule->opaque), kOpaqueWidth);
     require(decodeSchedule(encode(*schedule)) == *schedule, "a schedule comes back");
 
     TypedSchedule typed(*schedule);
     require(!typed.changed() && typed.schedule() == *schedule, "showing changes nothing");
     typed.type(1, "12:15");
-    saveSchedule({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}, typed.schedule());
-    require(
-        loadSchedule({files, fuzz::kFolder}, {fuzz::kCompany, fuzz::kEmployee}) == typed.schedule(),
-        "a change comes back");
-    return 0;
+    saveSchedule(file.store, fuzz::kKey, typed.schedule());
+    require(loadSchedule(file.store, fuzz::kKey) == typed.schedule(), "a change comes back");
 }

@@ -7,10 +7,9 @@
 using namespace winvrx;
 using fuzz::require;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void fuzz::tryBytes(std::string_view bytes) {
     try {
-        const auto letter =
-            readCorrectionLetter(QtXmlReader(), std::string(fuzz::textOf(data, size)));
+        const auto letter = readCorrectionLetter(QtXmlReader(), std::string(bytes));
         require(letter.accessKey.size() == 44, "a key has its digits");
         const ReportRows rows = letterRows(letter);
         require(!rows.empty() && rows.size() <= 16, "the lines fit the page");
@@ -19,5 +18,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } catch (const Fault&) {
         // What is no letter is refused.
     }
-    return 0;
 }

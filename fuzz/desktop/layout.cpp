@@ -58,14 +58,13 @@ void check(const Layout& layout) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void fuzz::tryBytes(std::string_view bytes) {
     QBuffer file;
-    file.setData(reinterpret_cast<const char*>(data), static_cast<int>(size));
+    file.setData(bytes.data(), static_cast<int>(bytes.size()));
     file.open(QIODevice::ReadOnly);
     try {
         check(readLayout(file, "fuzz.rpt", cardColumns()));
     } catch (const LayoutFault&) {
         // A damaged layout is refused.
     }
-    return 0;
 }
