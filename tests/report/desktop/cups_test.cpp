@@ -1,12 +1,13 @@
 #include "report/desktop/system_printers.h"
 #include "report/impressorar.h"
-#include "tests/support/print_server.h"
+#include "tests/support/desktop/print_server.h"
 #include "tests/support/printed_text.h"
 #include "tests/support/printing_screen.h"
 #include "tests/support/report_desk.h"
 #include "tests/support/test_browser.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 #include <gmock/gmock.h>
 

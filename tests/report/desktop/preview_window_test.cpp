@@ -1,6 +1,6 @@
 #include "report/desktop/preview_window.h"
 
-#include "tests/support/print_server.h"
+#include "tests/support/desktop/print_server.h"
 #include "tests/support/printed_text.h"
 #include "tests/support/report_desk.h"
 

@@ -1,194 +1,49 @@
 #pragma once
 
-#include <QDir>
-#include <QFile>
-#include <QProcess>
-#include <QStandardPaths>
+#include <QString>
 #include <QTemporaryDir>
-#include <QThread>
 
 #include <memory>
-#include <stdexcept>
 
-#ifndef _WIN32
-#include <unistd.h>
-#endif
-#ifdef __linux__
-#include <sys/prctl.h>
-#include <csignal>
-#endif
+class QProcess;
 
 namespace winvrx::testing {
 
 /// A print server of the tests' own: a cupsd in a scratch folder, reached through a socket there.
 /// The address is set before main(), ahead of the first question for printers, so that no test
-/// meets the printers of the machine; until start() there is none at all.
+/// meets the printers of the machine; until start() there is none at all. What fails throws.
 class PrintServer {
   public:
-    PrintServer() {
-        for (const char* name : {"ppd", "spool", "cache", "state", "tmp", "log"})
-            QDir(folder_.path()).mkdir(QLatin1String(name));
-        const auto all = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
-                         QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
-        QFile::setPermissions(folder_.path(), all);
-        QFile::setPermissions(path("tmp"), all | QFile::WriteGroup | QFile::WriteOther);
-        qputenv("CUPS_SERVER", path("socket").toUtf8());
-        qputenv("CUPS_USER", kUser);
-    }
-    ~PrintServer() { stop(); }
+    PrintServer();
+    ~PrintServer();
     PrintServer(const PrintServer&) = delete;
     PrintServer& operator=(const PrintServer&) = delete;
 
     /// What keeps the server from running here; empty when nothing does.
-    [[nodiscard]] static QString obstacle() {
-#ifdef _WIN32
-        return QStringLiteral("no CUPS on this system");
-#else
-        if (geteuid() != 0) return QStringLiteral("the cups-pdf backend runs as root only");
-        if (!QFile::exists(QStringLiteral("/usr/sbin/cupsd")))
-            return QStringLiteral("cupsd is not installed");
-        if (!QFile::exists(QStringLiteral("/usr/lib/cups/backend/cups-pdf")))
-            return QStringLiteral("cups-pdf is not installed");
-        return {};
-#endif
-    }
+    [[nodiscard]] static QString obstacle();
 
-    void start() {
-        write("cupsd.conf", R"(Listen %1/socket
-Browsing No
-WebInterface No
-DefaultAuthType None
-PreserveJobFiles Yes
-<Location />
-  Order allow,deny
-  Allow all
-</Location>
-<Policy default>
-  <Limit All>
-    Order allow,deny
-    Allow all
-  </Limit>
-</Policy>
-)");
-        write("cups-files.conf", R"(ServerRoot %1
-RequestRoot %1/spool
-CacheDir %1/cache
-StateDir %1/state
-TempDir %1/tmp
-AccessLog %1/log/access
-ErrorLog %1/log/error
-PageLog %1/log/page
-SystemGroup root
-)");
-        daemon_ = std::make_unique<QProcess>();
-#ifdef __linux__
-        daemon_->setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
-#endif
-        daemon_->start(QStringLiteral("/usr/sbin/cupsd"),
-                       {QStringLiteral("-f"), QStringLiteral("-c"), path("cupsd.conf"),
-                        QStringLiteral("-s"), path("cups-files.conf")});
-        waitFor([this] { return QFile::exists(path("socket")); });
-    }
+    void start();
+    void stop();
 
-    void stop() {
-        if (!daemon_) return;
-        daemon_->terminate();
-        daemon_->waitForFinished();
-        daemon_.reset();
-    }
-
-    void addPrinter(const QString& name) {
-        addPrinter(name, kDescription);
-    }
+    void addPrinter(const QString& name);
     /// Like most printers on paper, it prints nothing within 12 points of an A4 sheet's edges.
-    void addPrinterWithMargins(const QString& name) {
-        QFile whole(kDescription);
-        if (!whole.open(QIODevice::ReadOnly)) throw std::runtime_error("no printer description");
-        const QByteArray cut = whole.readAll().replace("*ImageableArea A4/A4: \"0 0 595 842\"",
-                                                       "*ImageableArea A4/A4: \"12 12 583 830\"");
-        QFile description(path("margins.ppd"));
-        if (!cut.contains("12 12 583 830") || !description.open(QIODevice::WriteOnly))
-            throw std::runtime_error("no printer description");
-        description.write(cut);
-        description.close();
-        addPrinter(name, description.fileName());
-    }
-    void makeDefault(const QString& name) {
-        admin({QStringLiteral("-d"), name});
-    }
-    void removePrinter(const QString& name) {
-        admin({QStringLiteral("-x"), name});
-    }
+    void addPrinterWithMargins(const QString& name);
+    void makeDefault(const QString& name);
+    void removePrinter(const QString& name);
 
     /// The PDF that the backend made of the job with this title, once the job is done.
-    [[nodiscard]] QString printedFile(const QString& title) const {
-        const QDir printed(QStringLiteral("/var/spool/cups-pdf/ANONYMOUS"));
-        const auto files = [&] {
-            return printed.entryList({title + QStringLiteral("_*.pdf")}, QDir::Files);
-        };
-        waitFor([&] { return !files().isEmpty() && !isBusy(); });
-        return printed.filePath(files().first());
-    }
+    [[nodiscard]] QString printedFile(const QString& title) const;
 
     /// The document of the last job as the program handed it over.
-    [[nodiscard]] QString lastDocument() const {
-        return lastSpooled("d*");
-    }
+    [[nodiscard]] QString lastDocument() const { return lastSpooled("d*"); }
 
     /// The last job's options as the server records them, which it does when it stops.
-    [[nodiscard]] QByteArray lastOptionsOnStop() {
-        stop();
-        QFile file(lastSpooled("c*"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    [[nodiscard]] QByteArray lastOptionsOnStop();
 
   private:
-    /// A user that the system does not know: the backend files such jobs apart from real users'.
-    static constexpr const char* kUser = "winvrx-test";
-
-    inline static const QString kDescription =
-        QStringLiteral("/usr/share/ppd/cups-pdf/CUPS-PDF_noopt.ppd");
-
-    static void addPrinter(const QString& name, const QString& description) {
-        admin({QStringLiteral("-p"), name, QStringLiteral("-E"), QStringLiteral("-v"),
-               QStringLiteral("cups-pdf:/"), QStringLiteral("-P"), description});
-    }
-
-    [[nodiscard]] QString path(const char* name) const {
-        return folder_.filePath(QLatin1String(name));
-    }
-
-    void write(const char* name, const char* text) const {
-        QFile file(path(name));
-        if (!file.open(QIODevice::WriteOnly)) throw std::runtime_error("no configuration");
-        file.write(QString::fromLatin1(text).arg(folder_.path()).toUtf8());
-    }
-
-    [[nodiscard]] QString lastSpooled(const char* pattern) const {
-        const QDir spool(path("spool"));
-        const auto names = spool.entryList({QLatin1String(pattern)}, QDir::Files, QDir::Name);
-        if (names.isEmpty()) throw std::runtime_error("no job in the spool");
-        return spool.filePath(names.last());
-    }
-
-    static bool isBusy() {
-        QProcess jobs;
-        jobs.start(QStringLiteral("lpstat"), {QStringLiteral("-o")});
-        return !jobs.waitForFinished() || !jobs.readAllStandardOutput().isEmpty();
-    }
-
-    static void admin(const QStringList& arguments) {
-        if (QProcess::execute(QStringLiteral("/usr/sbin/lpadmin"), arguments) != 0)
-            throw std::runtime_error("lpadmin failed");
-    }
-
-    template <typename Condition>
-    static void waitFor(Condition condition) {
-        constexpr int kSteps = 300;
-        for (int i = 0; i < kSteps && !condition(); ++i)
-            QThread::msleep(100);
-        if (!condition()) throw std::runtime_error("the print server does not answer");
-    }
+    [[nodiscard]] QString path(const char* name) const;
+    void write(const char* name, const char* text) const;
+    [[nodiscard]] QString lastSpooled(const char* pattern) const;
 
     QTemporaryDir folder_;
     std::unique_ptr<QProcess> daemon_;

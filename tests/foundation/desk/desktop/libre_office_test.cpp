@@ -2,11 +2,13 @@
 #include "foundation/desk/desktop/libre_office.h"
 
 #include "foundation/desk/desktop/open_document.h"
-#include "tests/support/print_server.h"
+#include "tests/support/desktop/print_server.h"
 #include "tests/support/printed_text.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QImage>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
