@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <vector>
+
 namespace winvrx {
 namespace {
 
@@ -35,14 +37,30 @@ QByteArray manyInks() {
     return texts;
 }
 
-TEST(LayoutReader, NamesTheLineOfADamage) {
-    struct Case {
-        const char* what;
-        QByteArray bytes;
-        const char* prefix;
-        const char* cause;
-    };
-    const Case cases[] = {
+struct Damage {
+    const char* what;
+    QByteArray bytes;
+    const char* prefix;
+    const char* cause;
+};
+
+/// Each is refused with its line and its cause.
+void expectRefused(const std::vector<Damage>& damages) {
+    for (const Damage& one : damages) {
+        SCOPED_TRACE(one.what);
+        try {
+            (void)read(one.bytes);
+            ADD_FAILURE() << "read without a fault";
+        } catch (const LayoutFault& fault) {
+            EXPECT_THAT(fault.what(), StartsWith(one.prefix));
+            EXPECT_THAT(fault.what(), HasSubstr(one.cause));
+            EXPECT_THAT(fault.explanation(), HasSubstr(one.cause));
+        }
+    }
+}
+
+TEST(LayoutReader, RefusesWhatIsNoLayout) {
+    expectRefused({
         {"not XML", "time card", "card.rpt:1: ", ""},
         {"empty", "", "card.rpt:1: ", ""},
         {"cut short", sheet("<g>\n<text x='1' y='2'>a"), "card.rpt:3: ", ""},
@@ -57,6 +75,11 @@ TEST(LayoutReader, NamesTheLineOfADamage) {
          "card.rpt:1: ", "proporções"},
         {"no pitch at all", "<svg width='10mm' height='10mm' viewBox='0 0 1 1'>\n</svg>",
          "card.rpt:2: ", "data-pitch"},
+    });
+}
+
+TEST(LayoutReader, NamesTheLineOfAWrongField) {
+    expectRefused({
         {"unknown field", sheet("\n<text x='1' y='2' data-field='nmoe'/>"),
          "card.rpt:3: ", "\"nmoe\""},
         {"unknown field in a template", sheet("<text x='1' y='2' data-template='a {b}'/>"),
@@ -67,6 +90,11 @@ TEST(LayoutReader, NamesTheLineOfADamage) {
         {"closing brace", sheet("<text x='1' y='2' data-template='nome}'/>"), "card.rpt:2: ", "}"},
         {"field and template", sheet("<text x='1' y='2' data-field='nome' data-template='a'/>"),
          "card.rpt:2: ", "data-field e data-template"},
+    });
+}
+
+TEST(LayoutReader, NamesTheLineOfAWrongGroup) {
+    expectRefused({
         {"missing pitch", sheet("\n\n<g data-rows='31'/>"), "card.rpt:4: ", "data-pitch"},
         {"pitch of nothing", sheet("<g data-rows='31' data-pitch='0'/>"),
          "card.rpt:2: ", "data-pitch"},
@@ -84,6 +112,11 @@ TEST(LayoutReader, NamesTheLineOfADamage) {
         {"unknown block", sheet("<g data-block='footer'/>"), "card.rpt:2: ", "footer"},
         {"block in block", sheet("<g data-block='header'><g data-block='stock'/></g>"),
          "card.rpt:2: ", "dentro"},
+    });
+}
+
+TEST(LayoutReader, NamesTheLineOfAWrongValue) {
+    expectRefused({
         {"bad number", sheet("<text x='left' y='2'>a</text>"), "card.rpt:2: ", "left"},
         {"number without end", sheet("<line x1='inf' y1='2' x2='3' y2='4'/>"),
          "card.rpt:2: ", "inf"},
@@ -103,6 +136,11 @@ TEST(LayoutReader, NamesTheLineOfADamage) {
         {"unknown alignment", sheet("<g text-align='both'/>"), "card.rpt:2: ", "both"},
         {"bad weight", sheet("<text x='1' y='2' font-weight='fat'>a</text>"),
          "card.rpt:2: ", "fat"},
+    });
+}
+
+TEST(LayoutReader, RefusesWhatHasNoEnd) {
+    expectRefused({
         {"number past all paper", sheet("<line x1='1e7' y1='2' x2='3' y2='4'/>"),
          "card.rpt:2: ", "grande demais"},
         {"page of nothing", "<svg width='1e-300mm' height='1e-300mm' viewBox='0 0 1 1'/>",
@@ -126,6 +164,11 @@ TEST(LayoutReader, NamesTheLineOfADamage) {
          "card.rpt:2: ", "20000 elementos"},
         {"inks without end", sheet(manyInks()), "card.rpt:2: ", "200 letras"},
         {"4 MB", sheet(QByteArray(4 << 20, ' ')), "card.rpt: ", "4 MB"},
+    });
+}
+
+TEST(LayoutReader, RefusesWhatCannotBeReadOrDrawn) {
+    expectRefused({
         {"entities in entities",
          "<!DOCTYPE svg [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;'>"
          "<!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;'><!ENTITY d '&c;&c;&c;&c;&c;&c;&c;&c;&c;'>]>" +
@@ -137,18 +180,7 @@ TEST(LayoutReader, NamesTheLineOfADamage) {
         {"what cannot be drawn", sheet("\n<path d='M 0 0'/>"), "card.rpt:3: ", "<path>"},
         {"lines in a text", sheet("<text x='1' y='2'><tspan>a</tspan><tspan>b</tspan></text>"),
          "card.rpt:2: ", "várias linhas"},
-    };
-    for (const Case& one : cases) {
-        SCOPED_TRACE(one.what);
-        try {
-            (void)read(one.bytes);
-            ADD_FAILURE() << "read without a fault";
-        } catch (const LayoutFault& fault) {
-            EXPECT_THAT(fault.what(), StartsWith(one.prefix));
-            EXPECT_THAT(fault.what(), HasSubstr(one.cause));
-            EXPECT_THAT(fault.explanation(), HasSubstr(one.cause));
-        }
-    }
+    });
 }
 
 TEST(LayoutReader, MeasuresInHundredthsOfAMillimetre) {

@@ -11,7 +11,9 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <functional>
 #include <map>
+#include <vector>
 
 #ifndef _WIN32
 #include <sys/resource.h>
@@ -308,69 +310,58 @@ QByteArray databaseDamagedAt(ReportDesk& desk, qsizetype page) {
     return bytes.replace(page * kPage, kPage, QByteArray(kPage, '\xA5'));
 }
 
+struct InItsPlace {
+    const char* name;
+    std::function<void(ReportDesk&)> prepare;
+    bool isKept = true;  ///< what was there, under another name
+};
+
+void expectPrintGoesOn(const InItsPlace& one) {
+    SCOPED_TRACE(one.name);
+    ReportDesk desk;
+    writeFile(desk.folder / "qdb.mdb.old", "kept earlier");
+    one.prepare(desk);
+    const QByteArray before = bytesOf(desk.database);
+    desk.log.entries.clear();
+    ASSERT_EQ(desk.print(2), PrintEnd::Done) << ::testing::PrintToString(desk.log.entries);
+    EXPECT_EQ(columnOfTable(desk, QStringLiteral("nome")).value(0), QStringLiteral("EMPREGADO 2"));
+    EXPECT_EQ(bytesOf(desk.folder / "qdb.mdb.old"), "kept earlier");
+    const auto kept = desk.folder / "qdb.mdb.old2";
+    EXPECT_EQ(std::filesystem::exists(std::filesystem::symlink_status(kept)), one.isKept);
+    EXPECT_EQ(bytesOf(kept), one.isKept ? before : QByteArray());
+    EXPECT_EQ(desk.log.entries.empty(), !one.isKept);
+    EXPECT_FALSE(std::filesystem::exists(desk.folder / "missing.mdb"));
+}
+
 TEST(ReportTable, APrintGoesOnWhateverStandsInItsPlace) {
-    struct Case {
-        const char* name;
-        std::function<void(ReportDesk&)> prepare;
-        bool isKept;  ///< what was there, under another name
-    };
     const auto damaged = [](qsizetype page) {
         return
             [page](ReportDesk& desk) { writeFile(desk.database, databaseDamagedAt(desk, page)); };
     };
-    for (const Case& one : {
-             Case{"no database",
-                  [](ReportDesk& desk) {
-                      writeFile(desk.database, "Standard Jet DB" + QByteArray(9999, 'x'));
-                  },
-                  true},
-             Case{"damage in the first page", damaged(0), true},
-             Case{"damage in the second page", damaged(1), true},
-             Case{"another program's",
-                  [](ReportDesk& desk) {
-                      makeDatabase(desk.database, QStringLiteral("CREATE TABLE clients (name)"));
-                  },
-                  true},
-             Case{"a view of the table's name",
-                  [](ReportDesk& desk) {
-                      makeDatabase(desk.database,
-                                   QStringLiteral("CREATE VIEW Tabela_base AS SELECT 1"));
-                  },
-                  true},
-             Case{"a folder",
-                  [](ReportDesk& desk) {
-                      std::filesystem::create_directory(desk.database);
-                      writeFile(desk.database / "kept", "kept");
-                  },
-                  true},
-             Case{"a link to nothing",
-                  [](ReportDesk& desk) {
-                      std::filesystem::create_symlink("missing.mdb", desk.database);
-                  },
-                  true},
-             Case{"the table of another report",
-                  [](ReportDesk& desk) {
-                      makeDatabase(desk.database,
-                                   QStringLiteral("CREATE TABLE Tabela_base (nome, other)"));
-                  },
-                  false},
-         }) {
-        SCOPED_TRACE(one.name);
-        ReportDesk desk;
-        writeFile(desk.folder / "qdb.mdb.old", "kept earlier");
-        one.prepare(desk);
-        const QByteArray before = bytesOf(desk.database);
-        desk.log.entries.clear();
-        ASSERT_EQ(desk.print(2), PrintEnd::Done) << ::testing::PrintToString(desk.log.entries);
-        EXPECT_EQ(columnOfTable(desk, QStringLiteral("nome")).value(0),
-                  QStringLiteral("EMPREGADO 2"));
-        EXPECT_EQ(bytesOf(desk.folder / "qdb.mdb.old"), "kept earlier");
-        const auto kept = desk.folder / "qdb.mdb.old2";
-        EXPECT_EQ(std::filesystem::exists(std::filesystem::symlink_status(kept)), one.isKept);
-        EXPECT_EQ(bytesOf(kept), one.isKept ? before : QByteArray());
-        EXPECT_EQ(desk.log.entries.empty(), !one.isKept);
-        EXPECT_FALSE(std::filesystem::exists(desk.folder / "missing.mdb"));
-    }
+    const auto made = [](const char* sql) {
+        return [sql](ReportDesk& desk) { makeDatabase(desk.database, QString::fromLatin1(sql)); };
+    };
+    for (const InItsPlace& one : std::vector<InItsPlace>{
+             {"no database",
+              [](ReportDesk& desk) {
+                  writeFile(desk.database, "Standard Jet DB" + QByteArray(9999, 'x'));
+              }},
+             {"damage in the first page", damaged(0)},
+             {"damage in the second page", damaged(1)},
+             {"another program's", made("CREATE TABLE clients (name)")},
+             {"a view of the table's name", made("CREATE VIEW Tabela_base AS SELECT 1")},
+             {"a folder",
+              [](ReportDesk& desk) {
+                  std::filesystem::create_directory(desk.database);
+                  writeFile(desk.database / "kept", "kept");
+              }},
+             {"a link to nothing",
+              [](ReportDesk& desk) {
+                  std::filesystem::create_symlink("missing.mdb", desk.database);
+              }},
+             {"the table of another report", made("CREATE TABLE Tabela_base (nome, other)"),
+              false}})
+        expectPrintGoesOn(one);
 }
 
 TEST(ReportTable, APrintGoesOnWhereNoFileCanBe) {
