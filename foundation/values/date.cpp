@@ -64,6 +64,10 @@ std::string timeText(TimeOfDay time) {
     return padded(minutes / 60, 2) + ":" + padded(minutes % 60, 2);
 }
 
+std::string timeText(const std::optional<TimeOfDay>& time) {
+    return time ? timeText(*time) : std::string();
+}
+
 std::optional<WorkMonth> parseMonthKey(std::string_view text) {
     if (text.size() != 7 || text[2] != '-') return std::nullopt;
     const auto month = digitsAt(text, 0, 2);
@@ -111,6 +115,13 @@ Date lastDay(WorkMonth month) {
 
 int daysIn(WorkMonth month) {
     return dayNumber(lastDay(month));
+}
+
+std::vector<Date> datesOf(WorkMonth month) {
+    std::vector<Date> dates;
+    for (int day = 0; day < daysIn(month); ++day)
+        dates.push_back(plusDays(firstDay(month), day));
+    return dates;
 }
 
 int dayNumber(Date date) {

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // Calendar dates, work months and times of day, as people here write them: day first, 24-hour
 // clock. Parsing is strict: what is not a date is no Date.
@@ -17,6 +18,8 @@ namespace winvrx {
 
 using Date = std::chrono::year_month_day;
 using WorkMonth = std::chrono::year_month;
+
+inline constexpr std::chrono::months kOneMonth{1};
 
 /// Minutes since midnight, 0 to 1439.
 struct TimeOfDay {
@@ -32,6 +35,8 @@ struct TimeOfDay {
 /// "hh:mm" from "00:00" to "23:59"; nullopt for anything else.
 [[nodiscard]] std::optional<TimeOfDay> parseTime(std::string_view text);
 [[nodiscard]] std::string timeText(TimeOfDay time);
+/// Empty where there is none.
+[[nodiscard]] std::string timeText(const std::optional<TimeOfDay>& time);
 
 /// "mm-yyyy", the form in file names; nullopt for anything else.
 [[nodiscard]] std::optional<WorkMonth> parseMonthKey(std::string_view text);
@@ -56,6 +61,8 @@ struct TimeOfDay {
 [[nodiscard]] Date firstDay(WorkMonth month);
 [[nodiscard]] Date lastDay(WorkMonth month);
 [[nodiscard]] int daysIn(WorkMonth month);
+/// Every day of the month, in order.
+[[nodiscard]] std::vector<Date> datesOf(WorkMonth month);
 [[nodiscard]] int dayNumber(Date date);
 [[nodiscard]] std::chrono::weekday weekdayOf(Date date);
 [[nodiscard]] Date plusDays(Date date, int days);

@@ -18,10 +18,6 @@ const PunchField& fieldOf(PunchCell cell) {
     return kPunchFields[static_cast<std::size_t>(cell) + kFieldsBeforeCells];
 }
 
-std::string PunchLine::*memberOf(PunchCell cell) {
-    return fieldOf(cell).member;
-}
-
 bool isCutByDesign(std::string_view situation) {
     const Situation* found = findSituation(situation);
     return found && found->word == situation;
@@ -69,11 +65,11 @@ const PunchLine& CardSheet::line(int day) const {
 }
 
 const std::string& CardSheet::text(int day, PunchCell cell) const {
-    return line(day).*memberOf(cell);
+    return line(day).*fieldOf(cell).member;
 }
 
 std::string& CardSheet::place(int day, PunchCell cell) {
-    return lines_.at(static_cast<std::size_t>(day) - 1).*memberOf(cell);
+    return lines_.at(static_cast<std::size_t>(day) - 1).*fieldOf(cell).member;
 }
 
 void CardSheet::type(int day, PunchCell cell, std::string_view text) {
@@ -141,14 +137,6 @@ std::optional<int> CardSheet::lastEditedDay() const {
     return done_.empty() ? std::nullopt : std::optional(done_.back().front().day);
 }
 
-std::optional<int> CardSheet::undo() {
-    return move(done_, undone_);
-}
-
-std::optional<int> CardSheet::redo() {
-    return move(undone_, done_);
-}
-
 bool CardSheet::isBlank(int day) const {
     return !line(day).hasTimes() && line(day).situation.empty();
 }
@@ -162,8 +150,8 @@ void CardSheet::markRecorded() {
 
 std::string CardSheet::findingAt(int day, PunchCell cell) const {
     const std::string& typed = text(day, cell);
-    if (typed == recorded_.at(static_cast<std::size_t>(day) - 1).*memberOf(cell)) return {};
-    return findingOf(cell, typed);
+    const PunchLine& recorded = recorded_.at(static_cast<std::size_t>(day) - 1);
+    return typed == recorded.*fieldOf(cell).member ? std::string() : findingOf(cell, typed);
 }
 
 std::string CardSheet::noticeAt(int day, PunchCell cell) const {

@@ -75,8 +75,8 @@ class CardSheet {
     [[nodiscard]] std::optional<int> lastEditedDay() const;
     /// Takes back the last edit, or makes the last one taken back again. A day that it touched;
     /// nullopt when there is none.
-    std::optional<int> undo();
-    std::optional<int> redo();
+    std::optional<int> undo() { return move(done_, undone_); }
+    std::optional<int> redo() { return move(undone_, done_); }
 
     /// Why a cell as typed cannot be recorded, in one sentence; empty when it can. What was
     /// recorded before is never a fault.

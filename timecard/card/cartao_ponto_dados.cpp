@@ -2,6 +2,7 @@
 
 #include "foundation/register/company_register.h"
 #include "foundation/register/employee_queries.h"
+#include "foundation/values/text.h"
 #include "timecard/card/cell_block.h"
 #include "timecard/hours/percent_change.h"
 #include "timecard/month/overtime_record.h"
@@ -20,15 +21,6 @@ const Message kNeedsSituation =
 const Message kRecordChanges = question(
     "ALTERAÇÃO", "As alterações deste Funcionário ainda não foram gravadas. Deseja gravá-las?", {},
     Buttons::YesNoCancel);
-
-constexpr std::string_view kWeekly = " HORAS SEMANAIS";
-constexpr std::string_view kMonthly = " HORAS MENSAIS";
-constexpr std::string_view kSaturdayNormal = "Sábado(Normal)";
-constexpr std::string_view kSaturdayExtra = "Sábado(Extra)";
-
-std::string nameOf(const Workplace& at, const CompanyCode& code) {
-    return findCompany(at.store(), code).value_or(Company()).name;
-}
 
 /// ENTER keeps what is recorded of Saturdays, where something is.
 Message saturdayQuestion(const StandardSchedule& recorded) {
@@ -62,7 +54,7 @@ bool CartaoPontoDados::open() {
 
 void CartaoPontoDados::loadList(const CompanyCode& company, const MonthSettings& settings) {
     const auto lines = EmployeeRegister(at_.store(), company).load();
-    std::string name = nameOf(at_, company);
+    std::string name = findCompany(at_.store(), company).value_or(Company()).name;
     const FolderNames names = namesIn(at_.store());
     auto marks = monthMarks(at_.store(), company, settings.month, names, desk_.payroll);
     minutes_ = loadMinutes(at_.store());
@@ -120,14 +112,6 @@ bool CartaoPontoDados::narrow(const std::function<void()>& filter) {
     });
 }
 
-bool CartaoPontoDados::filterBy(ShiftFilter shift) {
-    return narrow([&] { list_.filterBy(shift); });
-}
-
-bool CartaoPontoDados::filterBy(std::optional<Scale> scale) {
-    return narrow([&] { list_.filterBy(scale); });
-}
-
 bool CartaoPontoDados::select(std::size_t position) {
     if (!confirmLeaving()) return false;
     return attempt(at_, incorrectData(), [&] { loadCard(position); });
@@ -151,23 +135,20 @@ std::filesystem::path CartaoPontoDados::punchFile() const {
 
 bool CartaoPontoDados::requireSelection() {
     if (selected()) return true;
-    if (!at_.session.company)
-        at_.person.tell(noCompany(at_));
-    else
-        at_.person.tell(company_ ? noEmployeeSelected() : noMonthChosen());
-    return false;
+    if (!at_.session.company) return at_.person.refuse(noCompany(at_));
+    return at_.person.refuse(company_ ? noEmployeeSelected() : noMonthChosen());
 }
 
 std::string CartaoPontoDados::weeklyCaption() const {
-    return decimalHours(weeklyHours(schedule_.schedule()), Decimals::One).append(kWeekly);
+    return decimalHours(weeklyHours(schedule_.schedule()), Decimals::One) + " HORAS SEMANAIS";
 }
 
 std::string CartaoPontoDados::monthlyCaption() const {
-    return decimalHours(monthlyHours(schedule_.schedule()), Decimals::One).append(kMonthly);
+    return decimalHours(monthlyHours(schedule_.schedule()), Decimals::One) + " HORAS MENSAIS";
 }
 
 std::string_view CartaoPontoDados::saturdayCaption() const {
-    return schedule_.saturdayIsNormal() ? kSaturdayNormal : kSaturdayExtra;
+    return schedule_.saturdayIsNormal() ? "Sábado(Normal)" : "Sábado(Extra)";
 }
 
 bool CartaoPontoDados::saveSchedule() {
@@ -225,8 +206,7 @@ bool CartaoPontoDados::pasteCells(int day, PunchCell cell, std::string_view text
     if (!requireEditable()) return false;
     Message refusal = inPunchEntry(incorrectData());
     refusal.detail = paste(sheet_, day, cell, parseCellBlock(text));
-    if (!refusal.detail.empty()) at_.person.tell(refusal);
-    return refusal.detail.empty();
+    return refusal.detail.empty() || at_.person.refuse(refusal);
 }
 
 std::vector<int> CartaoPontoDados::daysWithoutSituation() const {
@@ -248,10 +228,9 @@ bool CartaoPontoDados::confirmBlankDays() {
     const std::vector<int> days = daysWithoutSituation();
     if (days.empty()) return true;
     Message message = kNeedsSituation;
-    for (const int day : days)
-        message.detail += (message.detail.empty() ? "" : ", ") + sheet_.line(day).label;
-    message.detail += days.size() == 1 ? " ficou" : " ficaram";
-    message.detail +=
+    message.detail =
+        joined(days, ", ", [this](int day) { return sheet_.line(day).label; }) +
+        (days.size() == 1 ? " ficou" : " ficaram") +
         " sem horas e sem situação. 'OK' grava assim mesmo, 'CANCELAR' volta à digitação.";
     return at_.person.agrees(message);
 }
@@ -286,9 +265,7 @@ bool CartaoPontoDados::saveChanges() {
 bool CartaoPontoDados::confirmLeaving() {
     if (!changed()) return true;
     const Answer answer = at_.person.ask(kRecordChanges);
-    if (answer == Answer::Cancel) return false;
-    if (answer == Answer::No) return true;
-    return saveChanges();
+    return answer == Answer::No || (answer == Answer::Yes && saveChanges());
 }
 
 }  // namespace winvrx

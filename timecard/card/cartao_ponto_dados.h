@@ -33,8 +33,12 @@ class CartaoPontoDados {
     [[nodiscard]] EmployeeList& list() { return list_; }
     [[nodiscard]] const EmployeeList& list() const { return list_; }
     /// False when the operator stays with unrecorded changes.
-    [[nodiscard]] bool filterBy(ShiftFilter shift);
-    [[nodiscard]] bool filterBy(std::optional<Scale> scale);
+    [[nodiscard]] bool filterBy(ShiftFilter shift) {
+        return narrow([&] { list_.filterBy(shift); });
+    }
+    [[nodiscard]] bool filterBy(std::optional<Scale> scale) {
+        return narrow([&] { list_.filterBy(scale); });
+    }
 
     /// Loads the card of the employee at `position` of the list. False when the operator stays with
     /// unrecorded changes, or it cannot be read.
@@ -71,7 +75,7 @@ class CartaoPontoDados {
     [[nodiscard]] const std::vector<std::string>& unreadLines() const { return unreadLines_; }
 
     /// The month is closed for the employee selected: "Folha Fechada".
-    [[nodiscard]] bool closed() const;
+    [[nodiscard]] bool closed() const { return marks().closed; }
     /// False when the month is closed, which the operator is then told.
     [[nodiscard]] bool requireEditable();
     /// Puts the cells of a spreadsheet into the sheet, from `day` and `cell` on. False when that

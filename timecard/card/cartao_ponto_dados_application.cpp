@@ -21,8 +21,8 @@ const Message kScheduleNotRecorded = question(
     "O Horário de Trabalho foi alterado e ainda não foi gravado. Deseja gravá-lo e aplicá-lo?");
 
 std::string summaryOf(int filled, std::size_t asked) {
-    return "Ponto aplicado para " + std::to_string(filled) + " de " + std::to_string(asked) +
-           (asked == 1 ? " funcionário." : " funcionários.");
+    return "Ponto aplicado para " + std::to_string(filled) + " de " +
+           countOf(asked, "funcionário") + ".";
 }
 
 /// "Turno: Unico", "Turno: Unico, Escala: 5x1".
@@ -34,14 +34,8 @@ std::string descriptionOf(const EmployeeList& list) {
 
 }  // namespace
 
-bool CartaoPontoDados::closed() const {
-    return marks().closed;
-}
-
 bool CartaoPontoDados::requireEditable() {
-    if (!requireSelection()) return false;
-    if (closed()) at_.person.tell(kClosedMonth);
-    return !closed();
+    return requireSelection() && (!closed() || at_.person.refuse(kClosedMonth));
 }
 
 bool CartaoPontoDados::requireOpenMonth() {

@@ -6,8 +6,6 @@ namespace winvrx {
 
 namespace {
 
-constexpr std::chrono::months kOneMonth{1};
-
 std::vector<PunchLine> blankDays(const DayPeriod& period) {
     std::vector<PunchLine> lines;
     for (Date date = period.first; date <= period.last; date = plusDays(date, 1))

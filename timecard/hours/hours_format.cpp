@@ -27,11 +27,9 @@ std::string sign(seconds duration) {
 
 std::string hoursAndMinutes(seconds duration) {
     const std::int64_t minutes = std::chrono::abs(duration).count() / kSecondsInMinute;
-    std::string text = minutes == 0 ? std::string() : sign(duration);
-    if (minutes / 60 < 10) text += '0';
-    text += std::to_string(minutes / 60) + ":";
-    if (minutes % 60 < 10) text += '0';
-    return text += std::to_string(minutes % 60);
+    return (minutes == 0 ? std::string() : sign(duration)) +
+           padded(static_cast<int>(minutes / 60), 2) + ":" +
+           padded(static_cast<int>(minutes % 60), 2);
 }
 
 }  // namespace

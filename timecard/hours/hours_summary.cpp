@@ -28,36 +28,22 @@ const Caption& entryOf(HourCategory category) {
     return kCaptions[static_cast<std::size_t>(category)];
 }
 
-std::string wordsOf(HourRule rule, const OvertimeRules& rules) {
-    const std::string threshold = thresholdText(rules.threshold) + " hs";
-    switch (rule) {
-        case HourRule::Schedule:
-            return "jornada do dia";
-        case HourRule::WithinSchedule:
-            return "dentro da jornada";
-        case HourRule::Tolerated:
-            return "tolerância: até 5 min por marcação e 10 min no dia";
-        case HourRule::WorkingDay:
-            return "além da jornada";
-        case HourRule::UpToThreshold:
-            return "até " + threshold;
-        case HourRule::AboveThreshold:
-            return "acima de " + threshold;
-        case HourRule::RestDay:
-            return "domingo, feriado ou descanso";
-        case HourRule::OwnRestDay:
-            return "descanso semanal do funcionário";
-        case HourRule::SingleLevel:
-            return "percentual único";
-        case HourRule::MarkedMissing:
-            return "dia marcado como falta: jornada inteira";
-        case HourRule::ShortOfSchedule:
-            return "abaixo da jornada, além da tolerância";
-        case HourRule::PaidRest:
-            return "domingo ou feriado: jornada diária";
-    }
-    return {};
-}
+/// In the order of HourRule; "%" stands for the daily threshold.
+constexpr std::array<std::string_view, 12> kRuleWords = {
+    "jornada do dia",
+    "dentro da jornada",
+    "tolerância: até 5 min por marcação e 10 min no dia",
+    "além da jornada",
+    "até % hs",
+    "acima de % hs",
+    "domingo, feriado ou descanso",
+    "descanso semanal do funcionário",
+    "percentual único",
+    "dia marcado como falta: jornada inteira",
+    "abaixo da jornada, além da tolerância",
+    "domingo ou feriado: jornada diária",
+};
+static_assert(static_cast<std::size_t>(HourRule::PaidRest) + 1 == kRuleWords.size());
 
 /// Why a day away asks for no hours; empty for any other.
 std::string leaveReason(const PunchLine& line, Date date, const WorkTerms& terms) {
@@ -66,10 +52,6 @@ std::string leaveReason(const PunchLine& line, Date date, const WorkTerms& terms
         return {};
     const DatedLeave* leave = terms.leaves.leaveOn(date);
     return "afastamento: " + (leave ? leaveText(*leave) : "nenhum registrado neste dia");
-}
-
-std::string spanText(const ClockSpan& span) {
-    return timeText(span.from) + "–" + timeText(span.to);
 }
 
 }  // namespace
@@ -85,7 +67,9 @@ std::string captionOf(HourCategory category, const OvertimeRules& rules) {
 }
 
 std::string ruleText(const HourPart& part, const OvertimeRules& rules) {
-    std::string text = wordsOf(part.rule, rules);
+    std::string text(kRuleWords[static_cast<std::size_t>(part.rule)]);
+    if (const auto place = text.find('%'); place != std::string::npos)
+        text.replace(place, 1, thresholdText(rules.threshold));
     if (part.span && isNight(part.span->from.sinceMidnight)) text.insert(0, "noturno, ");
     if (const auto percent = percentOf(part.category))
         text += ": " + std::to_string(rules.*percent) + "%";
@@ -127,8 +111,9 @@ std::vector<ExplainedPart> HoursSummary::explanation(HourCategory category,
             add(date, {}, std::chrono::seconds{0}, std::move(reason));
         for (const HourPart& part : dayParts(lines_[at], date, terms_))
             if (part.category == category)
-                add(date, part.span ? spanText(*part.span) : "", part.length,
-                    ruleText(part, rules()));
+                add(date,
+                    part.span ? timeText(part.span->from) + "–" + timeText(part.span->to) : "",
+                    part.length, ruleText(part, rules()));
     }
     return explained;
 }

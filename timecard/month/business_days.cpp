@@ -3,34 +3,19 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <string_view>
 
 namespace winvrx {
 
 namespace {
 
-using namespace std::string_view_literals;
-
-constexpr std::array kOrdinals = {"PRIMEIRO"sv, "SEGUNDO"sv, "TERCEIRO"sv, "QUARTO"sv, "QUINTO"sv};
-constexpr std::string_view kLast = "ÚLTIMO";
-constexpr std::string_view kOrdinalEnd = " Dia Últil do Mes";
-constexpr std::string_view kNumberEnd = "º Dia Útil do Mes de ";
-constexpr std::string_view kTodayIs = "Hoje é o ";
-constexpr std::string_view kTodayIsDay = "Hoje é o(a) ";
-constexpr std::string_view kOfMonthAnd = " do Mês e, ";
-constexpr std::string_view kToday = "Hoje, ";
-constexpr std::string_view kTomorrow = "Para Amanhã, ";
-constexpr std::string_view kDayAfterTomorrow = "Para Depois de Amanhã, ";
-constexpr std::string_view kLater = "Para, ";
-constexpr std::string_view kDay = " dia ";
-constexpr std::string_view kNoBusinessDay = ", não é Dia Útil do Mes";
+constexpr std::array<std::string_view, 5> kOrdinals = {"PRIMEIRO", "SEGUNDO", "TERCEIRO", "QUARTO",
+                                                       "QUINTO"};
 constexpr std::size_t kDaysAhead = 3;
 
 std::vector<Date> businessDaysOf(const MonthSettings& settings) {
-    std::vector<Date> dates;
-    for (int day = 0; day < daysIn(settings.month); ++day) {
-        const Date date = plusDays(firstDay(settings.month), day);
-        if (!isRestDay(settings, date)) dates.push_back(date);
-    }
+    std::vector<Date> dates = datesOf(settings.month);
+    std::erase_if(dates, [&](Date date) { return isRestDay(settings, date); });
     return dates;
 }
 
@@ -45,39 +30,28 @@ std::vector<NamedDay> namedBusinessDays(const MonthSettings& settings) {
     std::vector<NamedDay> named;
     const std::vector<Date> dates = businessDaysOf(settings);
     for (std::size_t i = 0; i < dates.size(); ++i) {
-        const bool isLast = i + 1 == dates.size();
-        if (i < kOrdinals.size() || isLast)
-            named.push_back(
-                {dates[i], true,
-                 std::string(i < kOrdinals.size() ? kOrdinals[i] : kLast).append(kOrdinalEnd)});
-        else
-            named.push_back({dates[i], false,
-                             std::to_string(i + 1)
-                                 .append(kNumberEnd)
-                                 .append(monthName(settings.month.month()))});
+        const bool isEarly = i < kOrdinals.size();
+        const bool hasOrdinal = isEarly || i + 1 == dates.size();
+        const std::string name =
+            hasOrdinal ? std::string(isEarly ? kOrdinals[i] : "ÚLTIMO") + " Dia Últil do Mes"
+                       : std::to_string(i + 1) + "º Dia Útil do Mes de " +
+                             std::string(monthName(settings.month.month()));
+        named.push_back({dates[i], hasOrdinal, name});
     }
     return named;
 }
 
 std::string todayLine(const NamedDay& day) {
-    if (day.hasOrdinal) return std::string(kTodayIs).append(day.name);
-    return std::string(kTodayIsDay)
-        .append(std::to_string(dayNumber(day.date)))
-        .append(kOfMonthAnd)
-        .append(day.name);
-}
-
-std::string_view lookAheadStart(Date today, Date date) {
-    if (date == plusDays(today, 1)) return kTomorrow;
-    return date == plusDays(today, 2) ? kDayAfterTomorrow : kLater;
+    if (day.hasOrdinal) return "Hoje é o " + day.name;
+    return "Hoje é o(a) " + std::to_string(dayNumber(day.date)) + " do Mês e, " + day.name;
 }
 
 std::string lookAheadLine(Date today, const NamedDay& day) {
-    return std::string(lookAheadStart(today, day.date))
-        .append(kDay)
-        .append(dateText(day.date))
-        .append(", ")
-        .append(day.name);
+    const std::string when = day.date == plusDays(today, 1)   ? "Amanhã"
+                             : day.date == plusDays(today, 2) ? "Depois de Amanhã"
+                                                              : "";
+    return (when.empty() ? "Para" : "Para " + when) + ",  dia " + dateText(day.date) + ", " +
+           day.name;
 }
 
 }  // namespace
@@ -95,8 +69,7 @@ std::vector<std::string> businessDayNotices(const MonthSettings& present, const 
                                             Date today) {
     std::vector<std::string> lines;
     if (isRestDay(present, today))
-        lines.push_back(
-            std::string(kToday).append(kDay).append(dateText(today)).append(kNoBusinessDay));
+        lines.push_back("Hoje,  dia " + dateText(today) + ", não é Dia Útil do Mes");
     std::vector<NamedDay> days = namedBusinessDays(present);
     std::ranges::move(namedBusinessDays(next), std::back_inserter(days));
     for (const NamedDay& day : days) {

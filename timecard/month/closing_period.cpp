@@ -4,20 +4,14 @@
 
 namespace winvrx {
 
-namespace {
-
-Date endIn(WorkMonth month, int startDay) {
-    const int lastDayNumber = startDay == 1 ? daysIn(month) : std::min(startDay - 1, daysIn(month));
-    return plusDays(firstDay(month), lastDayNumber - 1);
-}
-
-}  // namespace
-
 DayPeriod closingPeriod(const MonthSettings& settings) {
     const WorkMonth month = settings.month;
     if (settings.fixedMonth) return {firstDay(month), lastDay(month)};
-    const WorkMonth before = month - std::chrono::months{1};
-    return {plusDays(endIn(before, settings.closingDay), 1), endIn(month, settings.closingDay)};
+    const auto endIn = [start = settings.closingDay](WorkMonth one) {
+        const int last = start == 1 ? daysIn(one) : std::min(start - 1, daysIn(one));
+        return plusDays(firstDay(one), last - 1);
+    };
+    return {plusDays(endIn(month - kOneMonth), 1), endIn(month)};
 }
 
 }  // namespace winvrx

@@ -1,5 +1,6 @@
 #include "timecard/month/data_mes_corrente.h"
 
+#include "foundation/values/text.h"
 #include "timecard/month/selected_month.h"
 
 #include <algorithm>
@@ -80,22 +81,13 @@ bool DataMesCorrente::chooseMonth(WorkMonth month) {
 bool DataMesCorrente::chooseNextReference() {
     const WorkMonth present = monthOf(at_.clock.today());
     if (settings_.month < present) return chooseMonth(present);
-    return chooseMonth(settings_.month == present ? present + std::chrono::months{1}
-                                                  : present - std::chrono::months{1});
+    return chooseMonth(settings_.month == present ? present + kOneMonth : present - kOneMonth);
 }
 
 std::optional<Date> DataMesCorrente::dateOfCell(std::size_t cell) const {
     const std::size_t first = holidayCellOf(firstDay(settings_.month));
     if (cell < first || cell > holidayCellOf(lastDay(settings_.month))) return std::nullopt;
     return plusDays(firstDay(settings_.month), static_cast<int>(cell - first));
-}
-
-void DataMesCorrente::tick(Date date, bool holiday) {
-    settings_.setHoliday(date, holiday);
-}
-
-void DataMesCorrente::clearTicks() {
-    settings_.holidayCells.fill(false);
 }
 
 void DataMesCorrente::restoreTicks() {
@@ -105,10 +97,6 @@ void DataMesCorrente::restoreTicks() {
         opened_.holidayCells = settings_.holidayCells;
         if (onDisk_ && record) onDisk_->holidayCells = settings_.holidayCells;
     });
-}
-
-void DataMesCorrente::setRecordTicks(bool on) {
-    settings_.recordTicks = on;
 }
 
 std::vector<ListedHoliday> DataMesCorrente::holidays() const {
@@ -153,25 +141,9 @@ void DataMesCorrente::takeOfferedRules() {
     numbers_ = numbersOf(settings_);
 }
 
-void DataMesCorrente::type(const MonthNumberField& field, std::string text) {
-    numbers_.*field.typed = std::move(text);
-}
-
 void DataMesCorrente::setDifferentiatedPercent(bool on) {
     settings_.overtime.differentiatedPercent = on;
     switched_ = true;
-}
-
-void DataMesCorrente::setMode(OvertimeMode mode) {
-    settings_.overtime.mode = mode;
-}
-
-void DataMesCorrente::setTotalsFormat(TotalsFormat format) {
-    settings_.overtime.totalsFormat = format;
-}
-
-void DataMesCorrente::setFixedMonth(bool fixed) {
-    settings_.fixedMonth = fixed;
 }
 
 bool DataMesCorrente::changed() const {
@@ -203,8 +175,8 @@ bool DataMesCorrente::settleOpenOffer() {
     const auto open = openOffer();
     if (open.empty() || hasRecordedTicks() || !settings_.recordTicks || offerSettled_) return true;
     Message asked = kOfferedHolidays;
-    for (const Holiday& one : open)
-        asked.detail += (asked.detail.empty() ? "" : "\n") + dateText(one.date) + " " + one.name;
+    asked.detail =
+        joined(open, "\n", [](const Holiday& one) { return dateText(one.date) + " " + one.name; });
     const Answer answer = at_.person.ask(asked);
     if (answer == Answer::Yes) tickOffer();
     offerSettled_ = true;

@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace winvrx {
@@ -50,13 +51,13 @@ class DataMesCorrente {
 
     /// The day of a cell of the holiday grid; nullopt outside the month.
     [[nodiscard]] std::optional<Date> dateOfCell(std::size_t cell) const;
-    void tick(Date date, bool holiday);
+    void tick(Date date, bool holiday) { settings_.setHoliday(date, holiday); }
     /// "Reset."
-    void clearTicks();
+    void clearTicks() { settings_.holidayCells.fill(false); }
     /// "Restaurar": the ticks as they are recorded.
     void restoreTicks();
     /// "Gravação": whether recording takes the ticks along. Off, those on record stay.
-    void setRecordTicks(bool on);
+    void setRecordTicks(bool on) { settings_.recordTicks = on; }
 
     /// "Feriados:": the ticked days of the month.
     [[nodiscard]] std::vector<ListedHoliday> holidays() const;
@@ -74,13 +75,15 @@ class DataMesCorrente {
     /// Takes over the overtime rules and the closing period of `offeredRules`.
     void takeOfferedRules();
 
-    void type(const MonthNumberField& field, std::string text);
+    void type(const MonthNumberField& field, std::string text) {
+        numbers_.*field.typed = std::move(text);
+    }
     /// What is wrong with a number as typed, in one sentence; empty when nothing is.
     [[nodiscard]] std::string findingOf(const MonthNumberField& field) const;
     void setDifferentiatedPercent(bool on);
-    void setMode(OvertimeMode mode);
-    void setTotalsFormat(TotalsFormat format);
-    void setFixedMonth(bool fixed);
+    void setMode(OvertimeMode mode) { settings_.overtime.mode = mode; }
+    void setTotalsFormat(TotalsFormat format) { settings_.overtime.totalsFormat = format; }
+    void setFixedMonth(bool fixed) { settings_.fixedMonth = fixed; }
 
     [[nodiscard]] std::string monthCaption() const;    ///< "MARÇO/2024"
     [[nodiscard]] std::string holidayHeading() const;  ///< over the grid

@@ -9,19 +9,10 @@ namespace winvrx {
 
 namespace {
 
-constexpr std::string_view kBeforePresent = "Referente ao Mês: Anterior ao Atual";
-constexpr std::string_view kPresent = "Referente ao Mês: Atual";
-constexpr std::string_view kAfterPresent = "Referente ao Mês: Atual ao Posterior";
-constexpr std::string_view kHolidayHeading = "Selecione os feriados no mês de: ";
 constexpr std::string_view kOpenOffer =
     "Há feriados sugeridos, ainda não marcados. Clique aqui ou use F8 para marcá-los.";
 constexpr std::string_view kTicksNotRecorded =
     "As marcas dos feriados não estão gravadas. Ligue Gravação e grave o mês.";
-constexpr std::string_view kDifferentiatedOff =
-    "Desativado o uso de Percentual de Horas Extras Diárias Normais Diferenciado";
-constexpr std::string_view kBothLevels = "Usar as 2 (duas) Opções de Horas Extras Minima e Máxima.";
-constexpr std::string_view kSingleLevel =
-    "Usar Somente 1 (um) Único Percentual de Horas Extras para ";
 
 }  // namespace
 
@@ -36,7 +27,7 @@ std::string DataMesCorrente::monthCaption() const {
 }
 
 std::string DataMesCorrente::holidayHeading() const {
-    return std::string(kHolidayHeading) + monthCaption();
+    return "Selecione os feriados no mês de: " + monthCaption();
 }
 
 std::string_view DataMesCorrente::offerNotice() const {
@@ -48,8 +39,9 @@ std::string_view DataMesCorrente::offerNotice() const {
 
 std::string_view DataMesCorrente::referenceCaption() const {
     const WorkMonth present = monthOf(at_.clock.today());
-    if (settings_.month == present) return kPresent;
-    return settings_.month < present ? kBeforePresent : kAfterPresent;
+    if (settings_.month == present) return "Referente ao Mês: Atual";
+    return settings_.month < present ? "Referente ao Mês: Anterior ao Atual"
+                                     : "Referente ao Mês: Atual ao Posterior";
 }
 
 bool DataMesCorrente::refersToPresentMonth() const {
@@ -63,14 +55,17 @@ std::string DataMesCorrente::differentiatedCaption() const {
                "de " +
                minimum + "% até " + threshold + " hs Extras diárias. Acima de " + threshold +
                " hs Extras será de " + maximum + "%.";
-    if (switched_) return std::string(kDifferentiatedOff);
+    if (switched_)
+        return "Desativado o uso de Percentual de Horas Extras Diárias Normais Diferenciado";
     return "Usar Percentual de Horas Extras Diárias Normais de " + minimum + "% até " + threshold +
            " hs. Acima de " + threshold + " hs será de " + maximum + "%.";
 }
 
 std::string DataMesCorrente::modeNotice() const {
-    if (settings_.overtime.mode == OvertimeMode::BothLevels) return std::string(kBothLevels);
-    return std::string(kSingleLevel) + numbers_.maximumPercent + "%";
+    if (settings_.overtime.mode == OvertimeMode::BothLevels)
+        return "Usar as 2 (duas) Opções de Horas Extras Minima e Máxima.";
+    return "Usar Somente 1 (um) Único Percentual de Horas Extras para " + numbers_.maximumPercent +
+           "%";
 }
 
 std::string DataMesCorrente::closingPeriodText() const {
@@ -85,9 +80,7 @@ std::string DataMesCorrente::ownRulesNotice() const {
     const auto others = std::ranges::count_if(
         ownPercents_, [&shown](const OvertimePercents& own) { return own != shown; });
     if (others == 0) return {};
-    const std::string people = others == 1 ? "1 funcionário da lista tem"
-                                           : std::to_string(others) + " funcionários da lista têm";
-    return people +
+    return countOf(others, "funcionário da lista tem", "funcionários da lista têm") +
            " horas extras próprias neste mês, diferentes destas. Use Atualizar p/Todos os "
            "Funcionários para igualá-las.";
 }

@@ -1,5 +1,6 @@
 #include "timecard/month/holiday_offer.h"
 
+#include "foundation/values/text.h"
 #include "timecard/month/local_holidays.h"
 
 #include <algorithm>
@@ -26,13 +27,9 @@ MonthSettings proposedSettings(WorkMonth month, const std::vector<Holiday>& offe
 }
 
 std::string holidayNames(const std::vector<Holiday>& holidays, Date date) {
-    std::string names;
-    for (const Holiday& holiday : holidays) {
-        if (holiday.date != date || holiday.name.empty()) continue;
-        if (!names.empty()) names += ", ";
-        names += holiday.name;
-    }
-    return names;
+    return joined(holidays, ", ", [date](const Holiday& holiday) {
+        return holiday.date == date ? holiday.name : std::string();
+    });
 }
 
 }  // namespace winvrx

@@ -6,12 +6,6 @@
 
 namespace winvrx {
 
-namespace {
-
-constexpr std::string_view kFromOffer = "Feriados ainda não confirmados.";
-
-}  // namespace
-
 TimecardCalendar::Seen TimecardCalendar::seen(WorkMonth month) const {
     if (auto record = findMonthRecord(at_.store(), month)) return {record->settings, true};
     return {proposedSettings(month, offeredHolidays(at_.store(), month)), false};
@@ -44,9 +38,8 @@ MonthOverview TimecardCalendar::overview(Date today) const {
     if (selected && chosen.isRecorded) overview.inWork = selected->month;
     overview.businessDays = counts.businessDays;
     overview.restDays = counts.restDays;
-    overview.notices =
-        businessDayNotices(now.settings, seen(present + std::chrono::months{1}).settings, today);
-    if (!now.isRecorded) overview.notices.emplace_back(kFromOffer);
+    overview.notices = businessDayNotices(now.settings, seen(present + kOneMonth).settings, today);
+    if (!now.isRecorded) overview.notices.emplace_back("Feriados ainda não confirmados.");
     return overview;
 }
 

@@ -41,14 +41,9 @@ constexpr LineValue wholeNumber() {
 }
 
 template <auto Member>
-constexpr LineValue percent() {
-    return wholeNumber<Member, 0, kHighestPercent>();
-}
-
+constexpr LineValue kPercent = wholeNumber<Member, 0, kHighestPercent>();
 template <auto Member>
-constexpr LineValue choice() {
-    return wholeNumber<Member, 0, 1>();
-}
+constexpr LineValue kChoice = wholeNumber<Member, 0, 1>();
 
 bool takeThreshold(MonthSettings& settings, std::string_view text) {
     const auto threshold = parseThreshold(text);
@@ -58,18 +53,18 @@ bool takeThreshold(MonthSettings& settings, std::string_view text) {
 
 /// In the order of MonthLine.
 constexpr std::array kLineValues = {
-    percent<&OvertimeRules::minimumPercent>(),
-    percent<&OvertimeRules::nightMinimumPercent>(),
-    percent<&OvertimeRules::maximumPercent>(),
-    percent<&OvertimeRules::nightMaximumPercent>(),
-    choice<&MonthSettings::recordTicks>(),
-    choice<&OvertimeRules::differentiatedPercent>(),
-    choice<&OvertimeRules::mode>(),
-    choice<&OvertimeRules::totalsFormat>(),
+    kPercent<&OvertimeRules::minimumPercent>,
+    kPercent<&OvertimeRules::nightMinimumPercent>,
+    kPercent<&OvertimeRules::maximumPercent>,
+    kPercent<&OvertimeRules::nightMaximumPercent>,
+    kChoice<&MonthSettings::recordTicks>,
+    kChoice<&OvertimeRules::differentiatedPercent>,
+    kChoice<&OvertimeRules::mode>,
+    kChoice<&OvertimeRules::totalsFormat>,
     LineValue{[](const MonthSettings& of) { return thresholdText(of.overtime.threshold); },
               takeThreshold},
     wholeNumber<&MonthSettings::closingDay, 1, kHighestClosingDay>(),
-    choice<&MonthSettings::fixedMonth>(),
+    kChoice<&MonthSettings::fixedMonth>,
 };
 constexpr std::size_t kKnownLines = kHolidayCells + kLineValues.size();
 static_assert(static_cast<std::size_t>(MonthLine::FixedMonth) == kKnownLines);
@@ -131,11 +126,8 @@ void MonthSettings::setHoliday(Date date, bool holiday) {
 }
 
 std::vector<Date> MonthSettings::holidays() const {
-    std::vector<Date> dates;
-    const std::size_t firstCell = holidayCellOf(firstDay(month));
-    for (int day = 0; day < daysIn(month); ++day)
-        if (holidayCells[firstCell + static_cast<std::size_t>(day)])
-            dates.push_back(plusDays(firstDay(month), day));
+    std::vector<Date> dates = datesOf(month);
+    std::erase_if(dates, [this](Date date) { return !isHoliday(date); });
     return dates;
 }
 

@@ -32,17 +32,14 @@ struct Listed {
 };
 
 /// Those with a code whose shift passes the session's filter; none without a company.
-std::vector<Employee> listedEmployees(const Workplace& at) {
-    if (!at.session.company) return {};
-    return employeesOf(EmployeeRegister(at.store(), *at.session.company).load(),
-                       at.session.shiftFilter);
-}
-
 Listed listedIn(const Workplace& at, WorkMonth month, const FolderNames& names) {
     Listed listed;
-    for (const Employee& one : listedEmployees(at)) {
+    if (!at.session.company) return listed;
+    const CompanyCode& company = *at.session.company;
+    const auto lines = EmployeeRegister(at.store(), company).load();
+    for (const Employee& one : employeesOf(lines, at.session.shiftFilter)) {
         const EmployeeCode code = one.employeeCode().value();
-        const bool closed = names.contains(payrollFileName({*at.session.company, code}, month));
+        const bool closed = names.contains(payrollFileName({company, code}, month));
         (closed ? listed.closed : listed.open).emplace(code, one.name);
     }
     return listed;
@@ -50,17 +47,17 @@ Listed listedIn(const Workplace& at, WorkMonth month, const FolderNames& names) 
 
 std::string detailOf(const Workplace& at, const Listed& listed) {
     const std::string company = titleOf(loadCompanies(at.store()), at.session.company);
-    const std::string count = listed.open.size() == 1
-                                  ? "1 funcionário recebe"
-                                  : std::to_string(listed.open.size()) + " funcionários recebem";
+    const std::string count =
+        countOf(listed.open.size(), "funcionário recebe", "funcionários recebem");
     std::string detail =
         company + ", turno " + std::string(codeOf(at.session.shiftFilter)) + ": " + count +
         " os percentuais desta tela no lugar dos que tinham no mês. As outras configurações valem "
         "para todos assim que o mês é gravado.";
-    if (!listed.closed.empty()) detail += "\nFicam como estão, folha fechada:";
-    for (const auto& [code, name] : listed.closed)
-        detail += (code == listed.closed.begin()->first ? " " : ", ") + code.text() + " " + name;
-    return detail;
+    if (listed.closed.empty()) return detail;
+    return detail +
+           "\nFicam como estão, folha fechada: " + joined(listed.closed, ", ", [](const auto& one) {
+               return one.first.text() + " " + one.second;
+           });
 }
 
 Message confirmation(const Workplace& at, WorkMonth month, const Listed& listed) {
@@ -99,11 +96,8 @@ OvertimeUpdate writeFor(const Workplace& at, const OvertimeLine& line,
 bool confirmUpdate(const Workplace& at, WorkMonth month) {
     const Listed listed = listedIn(at, month, namesIn(at.store()));
     if (!listed.open.empty()) return at.person.agrees(confirmation(at, month, listed));
-    if (!at.session.company)
-        at.person.tell(noCompany(at));
-    else
-        at.person.tell(listed.closed.empty() ? kNobodyListed : kAllClosed);
-    return false;
+    if (!at.session.company) return at.person.refuse(noCompany(at));
+    return at.person.refuse(listed.closed.empty() ? kNobodyListed : kAllClosed);
 }
 
 }  // namespace

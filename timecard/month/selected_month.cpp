@@ -26,16 +26,10 @@ Message noMonthChosen() {
 }
 
 std::optional<WorkMonth> requireSelectedMonth(const Workplace& at) {
-    if (!at.session.company) {
-        at.person.tell(noCompany(at));
-        return std::nullopt;
-    }
-    const auto selected = loadSelectedMonth(at.store());
-    if (!selected) {
-        at.person.tell(noMonthChosen());
-        return std::nullopt;
-    }
-    return selected->month;
+    const auto selected = at.session.company ? loadSelectedMonth(at.store()) : std::nullopt;
+    if (selected) return selected->month;
+    at.person.tell(at.session.company ? noMonthChosen() : noCompany(at));
+    return std::nullopt;
 }
 
 }  // namespace winvrx

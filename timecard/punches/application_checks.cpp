@@ -1,6 +1,7 @@
 #include "timecard/punches/application_checks.h"
 
 #include "foundation/values/faults.h"
+#include "foundation/values/text.h"
 
 namespace winvrx {
 
@@ -92,8 +93,7 @@ Message confirmation(const ListApplicationCase& asked) {
     if (asked.sameHours)
         message.detail =
             "O horário é o de " + asked.selected->code + " " + asked.selected->name + ". ";
-    message.detail += "A lista tem " + std::to_string(asked.employees) +
-                      (asked.employees == 1 ? " funcionário." : " funcionários.");
+    message.detail += "A lista tem " + countOf(asked.employees, "funcionário") + ".";
     return message;
 }
 
@@ -118,9 +118,7 @@ bool confirmReplacement(Operator& person, const ApplicationCase& asked) {
 
 bool requireAdmittedBy(Operator& person, const Employee& employee, WorkMonth month) {
     const auto admission = requireAdmission(employee);
-    const bool inTime = !admission || *admission <= lastDay(month);
-    if (!inTime) person.tell(kAdmissionTooLate);
-    return inTime;
+    return !admission || *admission <= lastDay(month) || person.refuse(kAdmissionTooLate);
 }
 
 }  // namespace
@@ -142,8 +140,7 @@ bool confirmApplication(Operator& person, const ApplicationCase& asked) {
     if (!confirmReplacement(person, asked)) return false;
     if (lacksGroup(asked.employee, asked.inGroup)) {
         person.tell(kRotationScale);
-        person.tell(kAddToRotation);
-        return false;
+        return person.refuse(kAddToRotation);
     }
     if (asked.lacksSituation && !person.agrees(kNoSituation)) return false;
     if (asked.onLeave && !person.agrees(kHasLeave)) return false;
@@ -153,17 +150,14 @@ bool confirmApplication(Operator& person, const ApplicationCase& asked) {
 }
 
 bool confirmListApplication(Operator& person, const ListApplicationCase& asked) {
-    const auto refuse = [&person](const Message& message) {
-        person.tell(message);
-        return false;
-    };
-    if (asked.onLeave) return refuse(kModelOnLeave);
-    if (!asked.selected) return refuse(kNoEmployeeLine);
-    if (asked.sameHours && !asked.listed) return refuse(modelNotListed(*asked.selected));
-    if (!requireAdmittedBy(person, *asked.selected, asked.month)) return false;
-    if (asked.sameHours && asked.mixed) return refuse(kMixedList);
-    if (asked.sameHours && asked.everyShift) return refuse(kEveryShift);
-    if (asked.sameHours && asked.lacksSchedule) return refuse(modelLacksSchedule(*asked.selected));
+    if (asked.onLeave) return person.refuse(kModelOnLeave);
+    if (!asked.selected) return person.refuse(kNoEmployeeLine);
+    const Employee& model = *asked.selected;
+    if (asked.sameHours && !asked.listed) return person.refuse(modelNotListed(model));
+    if (!requireAdmittedBy(person, model, asked.month)) return false;
+    if (asked.sameHours && asked.mixed) return person.refuse(kMixedList);
+    if (asked.sameHours && asked.everyShift) return person.refuse(kEveryShift);
+    if (asked.sameHours && asked.lacksSchedule) return person.refuse(modelLacksSchedule(model));
     return person.agrees(withLoss(kErasesAll, asked)) &&
            person.agrees(withLoss(kCertainToReplace, asked)) && person.agrees(confirmation(asked));
 }

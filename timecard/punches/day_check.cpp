@@ -1,5 +1,7 @@
 #include "timecard/punches/day_check.h"
 
+#include "timecard/schedule/schedule_hours.h"
+
 #include <array>
 
 namespace winvrx {
@@ -18,10 +20,6 @@ struct NamedPair {
 /// From one time of day forward to another.
 minutes between(TimeOfDay from, TimeOfDay to) {
     return (to.sinceMidnight - from.sinceMidnight + kDay) % kDay;
-}
-
-minutes lengthOf(const TimePair& pair) {
-    return between(*pair.entry, *pair.exit);
 }
 
 bool isBackwards(TimeOfDay from, TimeOfDay to) {

@@ -2,18 +2,29 @@
 
 #include "foundation/files/file_faults.h"
 #include "foundation/register/employee_list.h"
+#include "foundation/values/text.h"
 #include "timecard/punches/application_checks.h"
 #include "timecard/punches/punch_application.h"
 
 #include <algorithm>
+#include <array>
 
 namespace winvrx {
 
 namespace {
 
-std::filesystem::path scheduleFile(const DataFolder& folder, const EmployeeKey& key) {
-    return folder.companyFile(key.company, scheduleFileName(key.employee));
-}
+/// In the order of Remark.
+constexpr std::array<std::string_view, 9> kRemarkTexts = {
+    "Não aplicado, folha fechada: ",
+    "Não aplicado, inativo antes do mês: ",
+    "Não aplicado, escala de revezamento sem grupo: ",
+    "Não aplicado, admissão depois do mês: ",
+    "Não aplicado, registro que não pode ser lido: ",
+    "Código repetido no cadastro, vale o primeiro: ",
+    "Não está mais no cadastro: ",
+    "Aplicado sem horas, não tem horário de trabalho: ",
+    "Aplicado com afastamento: ",
+};
 
 void requireReadable(const LeaveCalendar& leaves) {
     if (!leaves.unread().empty())
@@ -23,9 +34,7 @@ void requireReadable(const LeaveCalendar& leaves) {
 }
 
 void requireReadable(const StandardSchedule& schedule) {
-    const bool unread = std::any_of(schedule.unread.begin(), schedule.unread.end(),
-                                    [](const std::string& bytes) { return !bytes.empty(); });
-    if (unread)
+    if (std::ranges::any_of(schedule.unread, [](const auto& bytes) { return !bytes.empty(); }))
         throw Fault("standard schedule holds what is no time",
                     "O horário de trabalho tem uma hora que não existe. Corrija-o primeiro.");
 }
@@ -58,30 +67,6 @@ ListApplication::ListApplication(const Store& store, const PunchDesk& desk, Appl
       order_(std::move(order)),
       punchFiles_(store, desk.payroll, order_.settings) {}
 
-std::string_view ListApplication::textOf(Remark remark) {
-    switch (remark) {
-        case Remark::Closed:
-            return "Não aplicado, folha fechada: ";
-        case Remark::Inactive:
-            return "Não aplicado, inativo antes do mês: ";
-        case Remark::NoGroup:
-            return "Não aplicado, escala de revezamento sem grupo: ";
-        case Remark::AdmittedLater:
-            return "Não aplicado, admissão depois do mês: ";
-        case Remark::Unreadable:
-            return "Não aplicado, registro que não pode ser lido: ";
-        case Remark::Repeated:
-            return "Código repetido no cadastro, vale o primeiro: ";
-        case Remark::Gone:
-            return "Não está mais no cadastro: ";
-        case Remark::NoTimes:
-            return "Aplicado sem horas, não tem horário de trabalho: ";
-        case Remark::OnLeave:
-            return "Aplicado com afastamento: ";
-    }
-    return {};
-}
-
 std::optional<ListApplication::Remark> ListApplication::hindrance(
     const Employee& employee, const EmployeeCode& code, const LeaveCalendar& leaves) const {
     const WorkMonth month = order_.settings.month;
@@ -108,15 +93,6 @@ StandardSchedule ListApplication::scheduleOf(const EmployeeCode& code,
     return loadSchedule(store_, {order_.company, code}).value_or(StandardSchedule());
 }
 
-void ListApplication::putSchedule(Batch& batch, const EmployeeCode& code,
-                                  const StandardSchedule& schedule) const {
-    const auto file = scheduleFile(store_.folder, {order_.company, code});
-    auto lines = RecordFile(store_.files, file).lines();
-    if (lines.empty()) lines.emplace_back();
-    lines.front() = encode(schedule, std::move(lines.front()));
-    batch.push_back({file, joinedLines(lines)});
-}
-
 void ListApplication::fillOne(Batch& batch, const Employee& employee, const EmployeeCode& code,
                               const LeaveCalendar& leaves) {
     const RotationMonth* rotation = rotationOf(employee, code);
@@ -135,7 +111,7 @@ void ListApplication::fillOne(Batch& batch, const Employee& employee, const Empl
             return variation_.vary(day, {order_.company, code}, date);
         };
     std::string record = punchRecordBytes(filledMonth(application, order_.settings));
-    if (replaced) putSchedule(batch, code, schedule);
+    if (replaced) batch.push_back(withSchedule(store_, {order_.company, code}, schedule));
     punchFiles_.add(batch, {order_.company, code}, std::move(record));
     if (leavesWorkBlank(schedule)) remarks_[Remark::NoTimes].push_back(employee.name);
     if (leaves.touches(order_.settings.month)) remarks_[Remark::OnLeave].push_back(employee.name);
@@ -200,12 +176,10 @@ std::optional<ListApplication::Batch> ListApplication::fill(const std::vector<Em
 }
 
 std::string ListApplication::remarks(std::size_t mostNames) const {
-    std::string text;
-    for (const auto& [remark, names] : remarks_) {
-        if (!text.empty()) text += '\n';
-        text.append(textOf(remark)).append(namesText(names, mostNames));
-    }
-    return text;
+    return joined(remarks_, "\n", [&](const auto& one) {
+        return std::string(kRemarkTexts[static_cast<std::size_t>(one.first)]) +
+               namesText(one.second, mostNames);
+    });
 }
 
 }  // namespace winvrx

@@ -70,14 +70,11 @@ class ListApplication {
         OnLeave
     };
 
-    [[nodiscard]] static std::string_view textOf(Remark remark);
     [[nodiscard]] std::optional<Remark> hindrance(const Employee& employee,
                                                   const EmployeeCode& code,
                                                   const LeaveCalendar& leaves) const;
     [[nodiscard]] StandardSchedule scheduleOf(const EmployeeCode& code,
                                               const RotationMonth* rotation) const;
-    void putSchedule(Batch& batch, const EmployeeCode& code,
-                     const StandardSchedule& schedule) const;
     /// nullptr for who is on no rotation scale, or in no group.
     [[nodiscard]] const RotationMonth* rotationOf(const Employee& employee,
                                                   const EmployeeCode& code) const;

@@ -5,16 +5,10 @@
 
 namespace winvrx {
 
-namespace {
-
-constexpr int kVaried = 1;
-
-}  // namespace
-
 Minutes loadMinutes(const Store& store) {
     const auto values = RecordFile(store, kMinutesName).values();
-    if (values.empty()) return Minutes::Fixed;
-    return parseWholeNumber(values.front(), kVaried, kVaried) ? Minutes::Varied : Minutes::Fixed;
+    const bool varied = !values.empty() && parseWholeNumber(values.front(), 1, 1);
+    return varied ? Minutes::Varied : Minutes::Fixed;
 }
 
 void saveMinutes(const Store& store, Minutes minutes) {

@@ -1,12 +1,8 @@
 #include "timecard/punches/period_record.h"
 
-#include <chrono>
-
 namespace winvrx {
 
 namespace {
-
-constexpr std::chrono::months kOneMonth{1};
 
 bool isCalendarMonth(const DayPeriod& period) {
     const WorkMonth month = monthOf(period.last);

@@ -4,19 +4,13 @@ namespace winvrx {
 
 namespace {
 
-std::string textOf(const std::optional<TimeOfDay>& time) {
-    return time ? timeText(*time) : std::string();
-}
-
-void putTimes(PunchLine& line, const DaySchedule& day) {
-    line.morningEntry = textOf(day.morning.entry);
-    line.morningExit = textOf(day.morning.exit);
-    line.afternoonEntry = textOf(day.afternoon.entry);
-    line.afternoonExit = textOf(day.afternoon.exit);
-}
-
-void putTimes(PunchLine& line, const DaySchedule& day, Date date, const Application& application) {
-    putTimes(line, application.spread ? application.spread(day, date) : day);
+void putTimes(PunchLine& line, const DaySchedule& standard, Date date,
+              const Application& application) {
+    const DaySchedule day = application.spread ? application.spread(standard, date) : standard;
+    line.morningEntry = timeText(day.morning.entry);
+    line.morningExit = timeText(day.morning.exit);
+    line.afternoonEntry = timeText(day.afternoon.entry);
+    line.afternoonExit = timeText(day.afternoon.exit);
 }
 
 void fillRotation(PunchLine& line, Date date, const Application& application, bool holiday) {

@@ -1,5 +1,6 @@
 #include "timecard/punches/punch_record.h"
 
+#include "foundation/values/digits.h"
 #include "foundation/values/text.h"
 #include "timecard/schedule/typed_time.h"
 
@@ -53,13 +54,9 @@ RecordContent contentOf(const std::vector<std::string>& lines, WorkMonth month) 
 
 int PunchLine::day() const {
     constexpr std::size_t kDigits = 2;
-    if (label.size() <= kDigits || label[kDigits] != '/') return 0;
-    int value = 0;
-    for (std::size_t i = 0; i < kDigits; ++i) {
-        if (label[i] < '0' || label[i] > '9') return 0;
-        value = value * 10 + (label[i] - '0');
-    }
-    return value <= 31 ? value : 0;
+    const auto digits = std::string_view(label).substr(0, kDigits);
+    const bool beginsWithDay = label.size() > kDigits && label[kDigits] == '/' && isDigits(digits);
+    return beginsWithDay ? parseWholeNumber(digits, 0, 31).value_or(0) : 0;
 }
 
 TimePair PunchLine::morning() const {
@@ -107,8 +104,8 @@ std::string closingFileName(const EmployeeKey& key, WorkMonth month) {
 
 std::vector<PunchLine> blankMonth(WorkMonth month) {
     std::vector<PunchLine> lines;
-    for (int day = 0; day < daysIn(month); ++day)
-        lines.emplace_back().label = dayLabel(plusDays(firstDay(month), day));
+    for (const Date date : datesOf(month))
+        lines.emplace_back().label = dayLabel(date);
     return lines;
 }
 

@@ -11,8 +11,6 @@ namespace winvrx {
 
 namespace {
 
-const std::string kGroupTitle = "Escala de Revezamento";
-
 const Message kScaleBarsShift = refusal("Aviso", "Dado Incorreto!",
                                         "A escala 12x36 é permitida somente nos turnos 1 e 3. "
                                         "Escolha primeiro um desses turnos.");
@@ -20,9 +18,6 @@ const Message kInNoGroup =
     refusal(kGroupTitle,
             "Este Funcionário NÃO ESTÁ Na Lista em um dos GRUPOS! Para alterar OPÇÃO DE ESCALA "
             "adicione-o na lista.");
-
-constexpr std::string_view kAddToGroup = "S/GRUPO! ADICIONE NO GRUPO";
-constexpr std::string_view kCreateGroup = "S/GRUPO! CRIAR NOVO GRUPO.";
 
 bool hasRoomFor(const RotationGroup& group, const Employee& employee) {
     return group.shift == employee.shiftOr() && group.scale == employee.scaleOr() &&
@@ -88,24 +83,13 @@ void CartaoPontoDadosB::showGroups() {
 
 bool CartaoPontoDadosB::narrow(ShiftFilter shift, Scale scale) {
     const auto one = parseShift(codeOf(shift));
-    if (one && !allows(scale, *one)) {
-        at_.person.tell(kScaleBarsShift);
-        return false;
-    }
+    if (one && !allows(scale, *one)) return at_.person.refuse(kScaleBarsShift);
     if (workTable_.changed() && !at_.person.agrees(discardTyped())) return false;
     return attempt(at_, incorrectData(), [&] {
         workTable_.show(company_, shift, scale);
         list_.filterBy(shift);
         list_.filterBy(scale);
     });
-}
-
-bool CartaoPontoDadosB::filterBy(ShiftFilter shift) {
-    return narrow(shift, scale());
-}
-
-bool CartaoPontoDadosB::filterBy(Scale scale) {
-    return narrow(list_.shift(), scale);
 }
 
 const RotationGroup* CartaoPontoDadosB::groupOfMember(const Employee& employee) const {
@@ -124,22 +108,17 @@ std::string CartaoPontoDadosB::captionOf(std::size_t position) const {
                       std::ranges::any_of(month_.groups(), [&](const RotationGroup& group) {
                           return !isEdited(group) && hasRoomFor(group, employee);
                       });
-    return std::string(room ? kAddToGroup : kCreateGroup);
+    return room ? "S/GRUPO! ADICIONE NO GRUPO" : "S/GRUPO! CRIAR NOVO GRUPO.";
 }
 
 bool CartaoPontoDadosB::selectGroupOf(std::size_t position) {
     const RotationGroup* group = groupOfMember(list_.employees().at(position));
-    if (!group) at_.person.tell(kInNoGroup);
-    return group && selectGroup(group->number);
+    return group ? selectGroup(group->number) : at_.person.refuse(kInNoGroup);
 }
 
 RotationView CartaoPontoDadosB::view() const {
     return draft_ ? viewOf(*draft_, settings_, month_.names(), month_.absence(), month_.before())
                   : RotationView();
-}
-
-bool CartaoPontoDadosB::confirmLeaving() {
-    return !changed() || at_.person.agrees(discardTyped());
 }
 
 }  // namespace winvrx

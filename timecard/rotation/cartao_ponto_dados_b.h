@@ -44,8 +44,8 @@ class CartaoPontoDadosB {
 
     /// Shift and scale say whose table and which groups and employees are shown. False when the
     /// operator stays with unrecorded changes, or the scale bars the shift.
-    [[nodiscard]] bool filterBy(ShiftFilter shift);
-    [[nodiscard]] bool filterBy(Scale scale);
+    [[nodiscard]] bool filterBy(ShiftFilter shift) { return narrow(shift, scale()); }
+    [[nodiscard]] bool filterBy(Scale scale) { return narrow(list_.shift(), scale); }
     [[nodiscard]] ShiftFilter shift() const { return list_.shift(); }
     [[nodiscard]] Scale scale() const { return workTable_.table().scale; }
 
@@ -109,7 +109,7 @@ class CartaoPontoDadosB {
     [[nodiscard]] bool printSheets(ReportOutput output);
 
     /// Asks before typed but unrecorded changes are left behind.
-    [[nodiscard]] bool confirmLeaving();
+    [[nodiscard]] bool confirmLeaving() { return !changed() || at_.person.agrees(discardTyped()); }
 
   private:
     void load(const CompanyCode& company, const MonthSettings& settings);
@@ -125,7 +125,6 @@ class CartaoPontoDadosB {
         return draft_ && draft_->number == group.number;
     }
     [[nodiscard]] bool requireGroup();
-    [[nodiscard]] bool tellRefusal(const Refusal& refusal);
     [[nodiscard]] GroupWork work() const;
     [[nodiscard]] bool requireOpenMonths(const std::vector<EmployeeCode>& employees);
     [[nodiscard]] bool addMembers(const std::function<Refusal(RotationGroup&)>& adding);

@@ -8,9 +8,7 @@ namespace winvrx {
 
 namespace {
 
-const std::string kTitle = "Escala de Revezamento";
-
-const Message kNoGroup = refusal(kTitle, "Selecione um GRUPO na lista!");
+const Message kNoGroup = refusal(kGroupTitle, "Selecione um GRUPO na lista!");
 const Message kNeedsShift = refusal("CRIAR NOVO GRUPO", "Mude para um Turno Específico.");
 const Message kNeedsRotation =
     refusal("CRIAR NOVO GRUPO", "Escolha a escala do grupo: 5 x 1 ou 12 x 36.");
@@ -42,8 +40,7 @@ bool CartaoPontoDadosB::groupChanged() const {
 }
 
 std::string CartaoPontoDadosB::groupFinding() const {
-    const Refusal refused =
-        draft_ ? recordingRefusal(*draft_, settings_.month) : std::optional<Message>();
+    const Refusal refused = draft_ ? recordingRefusal(*draft_, settings_.month) : std::nullopt;
     return refused ? refused->text : std::string();
 }
 
@@ -56,23 +53,15 @@ bool CartaoPontoDadosB::selectGroup(int number) {
 }
 
 bool CartaoPontoDadosB::newGroup() {
-    if (!company_) {
-        at_.person.tell(noCompany(at_));
-        return false;
-    }
+    if (!company_) return at_.person.refuse(noCompany(at_));
+    if (scale() == Scale::Normal) return at_.person.refuse(kNeedsRotation);
     const auto shift = parseShift(codeOf(list_.shift()));
-    if (!shift || scale() == Scale::Normal) {
-        at_.person.tell(scale() == Scale::Normal ? kNeedsRotation : kNeedsShift);
-        return false;
-    }
+    if (!shift) return at_.person.refuse(kNeedsShift);
     if (groupChanged() && !at_.person.agrees(discardTyped())) return false;
     int number = 1;
     while (month_.find(number))
         ++number;
-    if (number > kHighestGroup) {
-        at_.person.tell(kNoNumberLeft);
-        return false;
-    }
+    if (number > kHighestGroup) return at_.person.refuse(kNoNumberLeft);
     draft_ = RotationGroup{.number = number,
                            .shift = *shift,
                            .scale = scale(),
@@ -81,33 +70,23 @@ bool CartaoPontoDadosB::newGroup() {
 }
 
 bool CartaoPontoDadosB::requireGroup() {
-    if (!draft_) at_.person.tell(kNoGroup);
-    return draft_.has_value();
-}
-
-bool CartaoPontoDadosB::tellRefusal(const Refusal& refusal) {
-    if (refusal) at_.person.tell(*refusal);
-    return refusal.has_value();
+    return draft_ || at_.person.refuse(kNoGroup);
 }
 
 bool CartaoPontoDadosB::addMembers(const std::function<Refusal(RotationGroup&)>& adding) {
     if (!requireGroup()) return false;
     RotationGroup group = *draft_;
-    if (tellRefusal(adding(group))) return false;
+    if (const Refusal refused = adding(group)) return at_.person.refuse(*refused);
     for (const EmployeeCode& code : group.members())
-        if (const std::string reason = month_.strayReason(code, group); !reason.empty()) {
-            at_.person.tell(refusal(kTitle, nameOf(month_.names(), code) + " " + reason + "."));
-            return false;
-        }
+        if (const std::string reason = month_.strayReason(code, group); !reason.empty())
+            return at_.person.refuse(
+                refusal(kGroupTitle, nameOf(month_.names(), code) + " " + reason + "."));
     draft_ = std::move(group);
     return true;
 }
 
 bool CartaoPontoDadosB::add(const std::vector<std::size_t>& positions) {
-    if (positions.empty()) {
-        at_.person.tell(noEmployeeSelected());
-        return false;
-    }
+    if (positions.empty()) return at_.person.refuse(noEmployeeSelected());
     std::vector<Employee> employees;
     for (const std::size_t position : positions)
         employees.push_back(list_.employees().at(position));

@@ -10,11 +10,9 @@ namespace winvrx {
 
 namespace {
 
-const std::string kTitle = "Escala de Revezamento";
-
-const Message kNothingToPrint = refusal(kTitle, "Não há GRUPOS para imprimir.");
-const Message kRecordFirst = refusal(kTitle, "Grave o GRUPO antes de imprimir.");
-const Message kNotOpened = refusal(kTitle, "Ocorreu Erro");
+const Message kNothingToPrint = refusal(kGroupTitle, "Não há GRUPOS para imprimir.");
+const Message kRecordFirst = refusal(kGroupTitle, "Grave o GRUPO antes de imprimir.");
+const Message kNotOpened = refusal(kGroupTitle, "Ocorreu Erro");
 
 }  // namespace
 
@@ -46,10 +44,9 @@ bool CartaoPontoDadosB::printText() {
             std::ranges::move(more, std::back_inserter(lines));
         }
         if (lines.empty()) return false;
-        const bool shown = showReports(
-            at_, desk_.editor, {{at_.session.folder.file(kRotationTextName), std::move(lines)}});
-        if (!shown) at_.person.tell(kNotOpened);
-        return shown;
+        return showReports(at_, desk_.editor,
+                           {{at_.session.folder.file(kRotationTextName), std::move(lines)}}) ||
+               at_.person.refuse(kNotOpened);
     });
 }
 
@@ -59,7 +56,7 @@ bool CartaoPontoDadosB::printSheets(ReportOutput output) {
         if (sheets.empty()) return false;
         ReportPages pages(sheets.size(), [&](std::size_t at) { return sheetRows(sheets[at]); });
         const ReportRequest request{.layoutName = std::string(kRotationLayout),
-                                    .title = kTitle,
+                                    .title = std::string(kGroupTitle),
                                     .columns = sheetColumns(),
                                     .output = output};
         return winvrx::printPages({at_, desk_.engine, {}}, request, pages) == PrintEnd::Done;

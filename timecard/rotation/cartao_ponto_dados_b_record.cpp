@@ -1,4 +1,5 @@
 // Recording, continuing and deleting the month's groups.
+#include "foundation/values/text.h"
 #include "timecard/rotation/cartao_ponto_dados_b.h"
 
 #include <algorithm>
@@ -8,7 +9,6 @@ namespace winvrx {
 
 namespace {
 
-const std::string kTitle = "Escala de Revezamento";
 const std::string kByHand =
     "As alterações feitas à mão nestes cartões serão substituídas pelo ponto da escala: ";
 
@@ -31,7 +31,7 @@ const Message kRemovesPunches = warning(
     "'CANCELAR'!",
     {}, Buttons::OkCancel);
 const Message kPayrollClosed = refusal(
-    kTitle,
+    kGroupTitle,
     "Não é Possível Realizar Esta Operação!! Já Existe Folha de Pagamento Fechada  para este "
     "Funcionário!");
 const Message kNoGroups = refusal("EXCLUIR GRUPOS", "Não há GRUPOS na lista.");
@@ -63,8 +63,7 @@ bool CartaoPontoDadosB::requireOpenMonths(const std::vector<EmployeeCode>& emplo
     if (closed.empty()) return true;
     Message message = kPayrollClosed;
     message.detail = namesOf(closed, month_.names());
-    at_.person.tell(message);
-    return false;
+    return at_.person.refuse(message);
 }
 
 bool CartaoPontoDadosB::applied() const {
@@ -80,17 +79,16 @@ bool CartaoPontoDadosB::confirmRecording(const std::vector<EmployeeCode>& reappl
                                    "Confirma Gravar o " + groupName(draft_->number) + "?");
     if (!reapplied.empty()) asked.detail = kByHand + namesOf(reapplied, month_.names()) + ".";
     const RotationView shown = view();
-    std::vector<std::string> told = shown.remarks;
-    if (!shown.gaps.empty()) told.insert(told.begin(), shown.gaps + ".");
-    for (const std::string& one : told)
-        asked.detail.append(asked.detail.empty() ? "" : "\n").append(one);
+    const std::string gaps = shown.gaps.empty() ? "" : shown.gaps + ".";
+    asked.detail = joined({asked.detail, gaps, joined(shown.remarks, "\n")}, "\n");
     return at_.person.agrees(asked);
 }
 
 bool CartaoPontoDadosB::saveGroup() {
     if (!requireGroup()) return false;
     return attempt(at_, incorrectData(), [this] {
-        if (tellRefusal(recordingRefusal(*draft_, settings_.month))) return false;
+        if (const Refusal refused = recordingRefusal(*draft_, settings_.month))
+            return at_.person.refuse(*refused);
         const auto recorded = month_.recorded(draft_->number);
         auto changed = changedMembers(recorded ? &*recorded : nullptr, *draft_, settings_.month);
         if (!requireOpenMonths(changed)) return false;
@@ -150,7 +148,7 @@ bool CartaoPontoDadosB::remove(const std::vector<RotationGroup>& groups, const s
         asked.title = title;
         asked.detail = listOf(groups) + ".";
         if (groupsToo && !at_.person.agrees(asked)) return false;
-        if (!groupsToo && applied.empty()) return !tellRefusal(kNoPunches);
+        if (!groupsToo && applied.empty()) return at_.person.refuse(kNoPunches);
         Message punches = kRemovesPunches;
         punches.detail = namesOf(applied, month_.names()) + ".";
         if (!applied.empty() && !at_.person.agrees(punches)) return false;
@@ -187,8 +185,7 @@ bool CartaoPontoDadosB::removeGroups() {
     std::vector<RotationGroup> groups;
     for (const RotationGroup& shown : shownGroups())
         if (const auto recorded = month_.recorded(shown.number)) groups.push_back(*recorded);
-    if (groups.empty()) return !tellRefusal(kNoGroups);
-    return remove(groups, "EXCLUIR GRUPOS", true);
+    return groups.empty() ? at_.person.refuse(kNoGroups) : remove(groups, "EXCLUIR GRUPOS", true);
 }
 
 bool CartaoPontoDadosB::removePunches() {

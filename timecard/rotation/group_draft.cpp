@@ -8,47 +8,47 @@ namespace winvrx {
 
 namespace {
 
-const std::string kTitle = "Escala de Revezamento";
-
 const Message kWrongShift =
-    refusal(kTitle,
+    refusal(kGroupTitle,
             "Turno do Grupo não Confere com Item Selecionado! Para INCLUIR Altere o Turno do "
             "Funcionário Selecionado.");
 const Message kWrongScale =
-    refusal(kTitle,
+    refusal(kGroupTitle,
             "Escala do Grupo não Confere com Item Selecionado! Para INCLUIR Altere o Escala do "
             "Funcionário Selecionado.");
 const Message kMostInUm = refusal(
-    kTitle,
+    kGroupTitle,
     "LISTA MÁXIMA de 3 Funcionários pora o Turno UM ! Para SUBSTITUIR remova um ITEM da lista.");
 const Message kMostInTres = refusal(
-    kTitle,
+    kGroupTitle,
     "LISTA MÁXIMA de 3 Funcionários pora o Turno TRES ! Para SUBSTITUIR remova um ITEM da lista.");
-const Message kMostInList = refusal(kTitle, "Lista Máxima de 6 Funcionários");
+const Message kMostInList = refusal(kGroupTitle, "Lista Máxima de 6 Funcionários");
 const Message kNoReliefIn12x36 =
-    refusal(kTitle, "Escala do Grupo não Confere com Item Selecionado!",
+    refusal(kGroupTitle, "Escala do Grupo não Confere com Item Selecionado!",
             "Na escala 12 x 36 as equipes se alternam e não há folguista.");
 const Message kTwoReliefWorkers =
-    refusal(kTitle, "O grupo já tem folguista.",
+    refusal(kGroupTitle, "O grupo já tem folguista.",
             "Remova-o para substituí-lo. Um segundo folguista é para uma lista de seis.");
-const Message kNobodyListed = refusal(kTitle, "Adicione funcionários à lista do grupo.");
+const Message kNobodyListed = refusal(kGroupTitle, "Adicione funcionários à lista do grupo.");
 const Message kOutsideMonth =
-    failure(kTitle,
+    failure(kGroupTitle,
             "ERRO!! Não é Possível Gravar o GRUPO! Data do Mês de Início da Folga não confere com "
             "o Mês de Copetência!");
-const Message kNoReliefDate = refusal(kTitle, "Informe a DATA da Primeira folga do FOLGUISTA!");
+const Message kNoReliefDate =
+    refusal(kGroupTitle, "Informe a DATA da Primeira folga do FOLGUISTA!");
 
 Message alreadyListed(const Employee& employee, int number) {
-    return refusal(kTitle, "Já está na Lista",
+    return refusal(kGroupTitle, "Já está na Lista",
                    employee.code + " " + employee.name + " está em " + groupName(number) + ".");
 }
 
 Message mostInGroup(Shift shift) {
     if (shift == Shift::Um) return kMostInUm;
     if (shift == Shift::Tres) return kMostInTres;
-    return refusal(kTitle, "LISTA MÁXIMA de " + std::to_string(mostPlacesOf(shift)) +
-                               " Funcionários por GRUPO! Para SUBSTITUIR remova um ITEM da lista "
-                               "de FOLGA.");
+    return refusal(kGroupTitle,
+                   "LISTA MÁXIMA de " + std::to_string(mostPlacesOf(shift)) +
+                       " Funcionários por GRUPO! Para SUBSTITUIR remova um ITEM da lista "
+                       "de FOLGA.");
 }
 
 Refusal memberRefusal(const RotationGroup& group, const Employee& employee,
@@ -71,8 +71,8 @@ void putInList(RotationGroup& group, const EmployeeCode& employee) {
 }
 
 std::optional<Date> dayIn(WorkMonth month, int day) {
-    if (day < 1 || day > daysIn(month)) return std::nullopt;
-    return plusDays(firstDay(month), day - 1);
+    const Date date = month / day;
+    return date.ok() ? std::optional(date) : std::nullopt;
 }
 
 bool isIn(WorkMonth month, const std::optional<Date>& date) {
@@ -114,12 +114,12 @@ Refusal addRelief(RotationGroup& group, const Employee& employee,
 Refusal recordingRefusal(const RotationGroup& group, WorkMonth month) {
     if (group.listed() == 0) return kNobodyListed;
     if (!isIn(month, group.firstDayOff)) return kOutsideMonth;
-    if (const auto finding = reliefCountFinding(group)) return refusal(kTitle, *finding);
+    if (const auto finding = reliefCountFinding(group)) return refusal(kGroupTitle, *finding);
     for (const ReliefWorker& one : group.relief) {
         if (!one.firstDayOff) return kNoReliefDate;
         if (!isIn(month, one.firstDayOff)) return kOutsideMonth;
     }
-    if (const auto finding = reliefFinding(group, month)) return refusal(kTitle, *finding);
+    if (const auto finding = reliefFinding(group, month)) return refusal(kGroupTitle, *finding);
     return std::nullopt;
 }
 
@@ -143,8 +143,7 @@ bool GroupDraft::move(std::size_t from, std::size_t to) {
         std::rotate(at(from), at(from + 1), at(to + 1));
     else
         std::rotate(at(to), at(from), at(from + 1));
-    while (!places.empty() && !places.back())
-        places.pop_back();
+    group_->dropVacantEnd();
     return true;
 }
 

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 // What is done to a group before it is recorded. A function that finds a hindrance gives the
@@ -14,6 +15,9 @@
 namespace winvrx {
 
 using Refusal = std::optional<Message>;
+
+/// The title of what is told and asked of groups.
+inline constexpr std::string_view kGroupTitle = "Escala de Revezamento";
 
 /// "Adicionar =>": each takes the first vacant place. `others` are the month's other groups.
 [[nodiscard]] Refusal addToList(RotationGroup& group, const std::vector<Employee>& employees,

@@ -8,25 +8,14 @@
 
 namespace winvrx {
 
-namespace {
-
-constexpr std::chrono::months kOneMonth{1};
-
-std::optional<WorkMonth> lastWithGroups(const FolderNames& names, const CompanyCode& company,
-                                        WorkMonth before) {
-    std::optional<WorkMonth> last;
-    for (const std::string& name : beginningWith(names, company.text() + std::string(kGroupStem)))
-        if (const auto month = monthOfGroupFile(name, company); month && *month < before)
-            last = std::max(last.value_or(*month), *month);
-    return last;
-}
-
-}  // namespace
-
 void MonthGroups::read(const Store& store, const FolderNames& names) {
     lines_ = file(store).load();
-    before_ = groupsIn(groupFile(store, company_.value(), month_ - kOneMonth).load());
-    continuableFrom_ = lines_.empty() ? lastWithGroups(names, *company_, month_) : std::nullopt;
+    before_ = groupsOf(store, company_.value(), month_ - kOneMonth);
+    continuableFrom_.reset();
+    if (lines_.empty())
+        for (const WorkMonth month : monthsWithGroups(names, *company_))
+            if (month < month_)
+                continuableFrom_ = std::max(continuableFrom_.value_or(month), month);
     notes_.clear();
     groups_.clear();
     for (const RotationGroup& group : groupsIn(lines_))
@@ -103,7 +92,7 @@ void MonthGroups::continueFrom(const Store& store, WorkMonth earlier) {
         throw changedElsewhere("rotation groups", "Já há grupos no mês");
     std::vector<std::string> left;
     GroupLines lines;
-    for (RotationGroup group : groupsIn(groupFile(store, company_.value(), earlier).load())) {
+    for (RotationGroup group : groupsOf(store, company_.value(), earlier)) {
         group = continued(withoutStrays(std::move(group), left), month_);
         if (!group.members().empty()) lines.push_back(lineOf(recordOf(group)));
     }

@@ -8,44 +8,30 @@ namespace winvrx {
 
 namespace {
 
-constexpr std::chrono::months kOneMonth{1};
 /// Further back no Sunday is looked at: in 5 x 1 one of six is off.
 constexpr int kMostSundays = 6;
 constexpr int kDaysOfWeek = 7;
 
-bool isOff(const PlanRow& row, int day) {
-    return row.days.at(static_cast<std::size_t>(day)).turn == Turn::Off;
-}
-
-/// The plan's day of the rhythm that a date before the month has: `days` before its first.
-int sameDayOfRhythm(int daysBefore, int rhythm) {
-    const int rest = daysBefore % rhythm;
-    return rest == 0 ? 0 : rhythm - rest;
-}
-
-/// Whether he is off on the day, counted from 0, of the month; before it below 0.
-bool isOffByRhythm(const PlanRow& row, int day, int rhythm) {
-    return isOff(row, day >= 0 ? day : sameDayOfRhythm(-day, rhythm));
+/// Whether he is off on the day, counted from 0, of the month; one before it, below 0, is as the
+/// month's day of the same place in the rhythm.
+bool isOff(const PlanRow& row, int day, int rhythm) {
+    const int same = day >= 0 ? day : (rhythm - -day % rhythm) % rhythm;
+    return row.days.at(static_cast<std::size_t>(same)).turn == Turn::Off;
 }
 
 int sundaysWorkedUpTo(const PlanRow& row, int day, int rhythm) {
     int worked = 0;
-    while (worked < kMostSundays && !isOffByRhythm(row, day - worked * kDaysOfWeek, rhythm))
+    while (worked < kMostSundays && !isOff(row, day - worked * kDaysOfWeek, rhythm))
         ++worked;
     return worked;
 }
 
-std::optional<int> firstOff(const PlanRow& row) {
-    for (std::size_t day = 0; day < row.days.size(); ++day)
-        if (row.days[day].turn == Turn::Off) return static_cast<int>(day);
-    return std::nullopt;
-}
-
-/// Days worked after the last day off.
-std::optional<int> workedAtTheEnd(const PlanRow& row) {
-    for (std::size_t back = 0; back < row.days.size(); ++back)
-        if (row.days[row.days.size() - 1 - back].turn == Turn::Off) return static_cast<int>(back);
-    return std::nullopt;
+/// How many of these days go by before the first one off.
+template <typename Place>
+std::optional<int> workedBeforeOff(Place first, Place end) {
+    const auto off =
+        std::find_if(first, end, [](const auto& day) { return day.turn == Turn::Off; });
+    return off == end ? std::nullopt : std::optional(static_cast<int>(off - first));
 }
 
 std::string listOf(const std::vector<Date>& dates) {
@@ -72,10 +58,9 @@ std::vector<SundayRun> sundayRuns(const RotationGroup& group, WorkMonth month) {
     const int rhythm = rhythmOf(group.scale);
     for (const PlanRow& row : planOf(group, month).rows) {
         SundayRun run{.employee = row.employee};
-        for (int day = 0; day < daysIn(month); ++day) {
-            const Date date = plusDays(firstDay(month), day);
+        for (const Date date : datesOf(month)) {
             if (weekdayOf(date) != std::chrono::Sunday) continue;
-            const int worked = sundaysWorkedUpTo(row, day, rhythm);
+            const int worked = sundaysWorkedUpTo(row, dayNumber(date) - 1, rhythm);
             if (worked > run.worked) run = {row.employee, worked, date};
         }
         if (run.breaksEverySecond()) runs.push_back(run);
@@ -96,8 +81,8 @@ std::vector<BrokenRhythm> brokenRhythms(const std::vector<RotationGroup>& before
     for (const PlanRow& row : planOf(group, month).rows) {
         const auto was = std::ranges::find(earlier, row.employee, &PlanRow::employee);
         if (was == earlier.end()) continue;
-        const auto atTheEnd = workedAtTheEnd(*was);
-        const auto first = firstOff(row);
+        const auto atTheEnd = workedBeforeOff(was->days.rbegin(), was->days.rend());
+        const auto first = workedBeforeOff(row.days.begin(), row.days.end());
         if (atTheEnd && first && *atTheEnd + *first != wanted)
             broken.push_back({row.employee, *atTheEnd + *first, wanted});
     }

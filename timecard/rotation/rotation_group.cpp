@@ -10,7 +10,7 @@ namespace winvrx {
 namespace {
 
 constexpr int kNumberDigits = 3;
-constexpr std::string_view kGroupFileEnd = ".rdx";
+constexpr std::size_t kMonthDigits = 6;
 
 constexpr std::array<std::string GroupRecord::*, kMostPlaces> kPlaces = {
     &GroupRecord::place1, &GroupRecord::place2, &GroupRecord::place3,
@@ -37,8 +37,7 @@ bool takePlaces(RotationGroup& group, const GroupRecord& record) {
         if (!text.empty() && (!employee || group.contains(*employee))) return false;
         group.places.push_back(employee);
     }
-    while (!group.places.empty() && !group.places.back())
-        group.places.pop_back();
+    group.dropVacantEnd();
     return true;
 }
 
@@ -77,9 +76,13 @@ bool RotationGroup::contains(const EmployeeCode& employee) const {
 
 void RotationGroup::remove(const EmployeeCode& employee) {
     std::ranges::replace(places, std::optional(employee), std::optional<EmployeeCode>());
+    dropVacantEnd();
+    std::erase_if(relief, [&](const ReliefWorker& one) { return one.employee == employee; });
+}
+
+void RotationGroup::dropVacantEnd() {
     while (!places.empty() && !places.back())
         places.pop_back();
-    std::erase_if(relief, [&](const ReliefWorker& one) { return one.employee == employee; });
 }
 
 std::string groupName(int number) {
@@ -91,15 +94,9 @@ std::string_view scaleTitle(Scale rotation) {
 }
 
 std::string titleOf(const RotationGroup& group) {
-    const std::size_t count = group.members().size();
-    return groupName(group.number)
-        .append("  ")
-        .append(scaleTitle(group.scale))
-        .append("  ")
-        .append(codeOf(group.shift))
-        .append("  ")
-        .append(std::to_string(count))
-        .append(count == 1 ? " funcionário" : " funcionários");
+    return joined({groupName(group.number), scaleTitle(group.scale), codeOf(group.shift),
+                   countOf(group.members().size(), "funcionário")},
+                  "  ");
 }
 
 std::size_t mostPlacesOf(Shift shift) {
@@ -143,16 +140,19 @@ std::optional<int> keyOf(const GroupRecord& record) {
 
 std::string groupFileName(WorkMonth month) {
     const std::string key = monthKey(month);
-    return std::string(kGroupStem) + key.substr(0, 2) + key.substr(3) + std::string(kGroupFileEnd);
+    return std::string(kGroupStem) + key.substr(0, 2) + key.substr(3) + ".rdx";
 }
 
-std::optional<WorkMonth> monthOfGroupFile(std::string_view name, const CompanyCode& company) {
+std::vector<WorkMonth> monthsWithGroups(const FolderNames& names, const CompanyCode& company) {
     const std::string beginning = company.text() + std::string(kGroupStem);
-    if (!name.starts_with(beginning) || !name.ends_with(kGroupFileEnd)) return std::nullopt;
-    name.remove_prefix(beginning.size());
-    name.remove_suffix(kGroupFileEnd.size());
-    if (name.size() != 6) return std::nullopt;
-    return parseMonthKey(std::string(name.substr(0, 2)) + "-" + std::string(name.substr(2)));
+    std::vector<WorkMonth> months;
+    for (const std::string& name : beginningWith(names, beginning)) {
+        std::string key = name.substr(beginning.size(), kMonthDigits);
+        if (key.size() == kMonthDigits) key.insert(2, "-");
+        const auto month = parseMonthKey(key);
+        if (month && name == company.text() + groupFileName(*month)) months.push_back(*month);
+    }
+    return months;
 }
 
 LineFile<GroupRecord> groupFile(const Store& store, const CompanyCode& company, WorkMonth month) {
@@ -167,6 +167,11 @@ std::vector<RotationGroup> groupsIn(const GroupLines& lines) {
         if (group && std::ranges::none_of(groups, isSame)) groups.push_back(*std::move(group));
     }
     return groups;
+}
+
+std::vector<RotationGroup> groupsOf(const Store& store, const CompanyCode& company,
+                                    WorkMonth month) {
+    return groupsIn(groupFile(store, company, month).load());
 }
 
 }  // namespace winvrx

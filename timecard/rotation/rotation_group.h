@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/files/folder_names.h"
 #include "foundation/files/line_file.h"
 #include "foundation/register/company.h"
 #include "foundation/values/date.h"
@@ -45,6 +46,8 @@ struct RotationGroup {
     [[nodiscard]] bool contains(const EmployeeCode& employee) const;
     /// Takes the employee off the list, or from among the relief workers.
     void remove(const EmployeeCode& employee);
+    /// A list ends with a place that is taken.
+    void dropVacantEnd();
 };
 
 /// "GRUPO-001".
@@ -114,12 +117,15 @@ using GroupLines = std::vector<GroupLine>;
 
 /// "GRUPO-032024.rdx", to be put behind the company code.
 [[nodiscard]] std::string groupFileName(WorkMonth month);
-/// The month of a file name of the company; nullopt for any other name.
-[[nodiscard]] std::optional<WorkMonth> monthOfGroupFile(std::string_view name,
-                                                        const CompanyCode& company);
+/// The months of which a company has a file of groups among these names, in no particular order.
+[[nodiscard]] std::vector<WorkMonth> monthsWithGroups(const FolderNames& names,
+                                                      const CompanyCode& company);
 [[nodiscard]] LineFile<GroupRecord> groupFile(const Store& store, const CompanyCode& company,
                                               WorkMonth month);
 /// The groups among the lines; of two with one number the first.
 [[nodiscard]] std::vector<RotationGroup> groupsIn(const GroupLines& lines);
+/// Those of a company's month on record. Throws FileFault.
+[[nodiscard]] std::vector<RotationGroup> groupsOf(const Store& store, const CompanyCode& company,
+                                                  WorkMonth month);
 
 }  // namespace winvrx

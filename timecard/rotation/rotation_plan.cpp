@@ -71,20 +71,6 @@ int rhythmOf(Scale scale) {
     return scale == Scale::TwelveByThirtySix ? 2 : 6;
 }
 
-std::string_view letterOf(Turn turn) {
-    switch (turn) {
-        case Turn::Off:
-            return "F";
-        case Turn::Relief:
-            return "R";
-        case Turn::Away:
-            return "A";
-        case Turn::Work:
-            break;
-    }
-    return "";
-}
-
 const PlanRow* RotationPlan::rowOf(const EmployeeCode& employee) const {
     const auto row = std::ranges::find(rows, employee, &PlanRow::employee);
     return row == rows.end() ? nullptr : &*row;
@@ -94,8 +80,7 @@ RotationPlan planOf(const RotationGroup& group, WorkMonth month, const Absence& 
     RotationPlan plan{.month = month, .rows = {}, .working = {}};
     const auto add = [&](const EmployeeCode& employee, bool relief, const auto& dayOf) {
         PlanRow row{.employee = employee, .relief = relief, .days = {}};
-        for (int day = 0; day < daysIn(month); ++day) {
-            const Date date = plusDays(firstDay(month), day);
+        for (const Date date : datesOf(month)) {
             PlannedDay planned = dayOf(date);
             if (planned.turn != Turn::Off && absent && absent(employee, date))
                 planned = {.turn = Turn::Away};

@@ -26,9 +26,6 @@ enum class Turn {
     Away     ///< a working day on which he cannot work
 };
 
-/// What the grid writes: "F" for a day off, "R" for relief, "A" for away, nothing for work.
-[[nodiscard]] std::string_view letterOf(Turn turn);
-
 struct PlannedDay {
     Turn turn = Turn::Work;
     std::optional<EmployeeCode> relieved = {};  ///< in whose place
@@ -40,6 +37,10 @@ struct PlanRow {
     EmployeeCode employee;
     bool relief = false;
     std::vector<PlannedDay> days;  ///< one for each day of the month
+
+    [[nodiscard]] const PlannedDay& on(Date date) const {
+        return days.at(static_cast<std::size_t>(dayNumber(date)) - 1);
+    }
 };
 
 /// A group's month: first the list in its order, then the relief workers.

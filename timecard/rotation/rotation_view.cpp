@@ -6,28 +6,20 @@ namespace winvrx {
 
 namespace {
 
-std::string wordOf(const PlannedDay& planned, const RotationView::Day& day,
-                   const MemberNames& names) {
+RotationView::Cell cellOf(const PlannedDay& planned, const RotationView::Day& day,
+                          const MemberNames& names) {
     switch (planned.turn) {
         case Turn::Off:
-            return "Folga";
+            return {planned.turn, "F", "Folga"};
         case Turn::Relief:
-            return "No lugar de " + nameOf(names, planned.relieved.value());
+            return {planned.turn, "R", "No lugar de " + nameOf(names, planned.relieved.value())};
         case Turn::Away:
-            return "Afastado";
+            return {planned.turn, "A", "Afastado"};
         case Turn::Work:
             break;
     }
-    return day.holiday ? "Trabalha no feriado" : "Trabalha";
-}
-
-RotationView::Cell cellOf(const PlannedDay& planned, const RotationView::Day& day,
-                          const MemberNames& names) {
-    RotationView::Cell cell{.turn = planned.turn,
-                            .letter = std::string(letterOf(planned.turn)),
-                            .word = wordOf(planned, day, names)};
-    if (planned.turn == Turn::Work && day.holiday) cell.letter = "T";
-    return cell;
+    if (day.holiday) return {planned.turn, "T", "Trabalha no feriado"};
+    return {planned.turn, "", "Trabalha"};
 }
 
 std::string gapsText(const RotationPlan& plan, std::string_view word) {
@@ -40,28 +32,22 @@ std::string gapsText(const RotationPlan& plan, std::string_view word) {
 }
 
 std::string remarkOn(const SundayRun& run, const MemberNames& names) {
-    std::string text = nameOf(names, run.employee) + ": " + std::to_string(run.worked) +
-                       " domingos seguidos de trabalho até " + dateText(run.last) +
-                       ". Contraria o domingo de folga das mulheres";
-    text += run.breaksEveryThird() ? " e o do comércio." : ".";
-    return text;
+    return nameOf(names, run.employee) + ": " + std::to_string(run.worked) +
+           " domingos seguidos de trabalho até " + dateText(run.last) +
+           ". Contraria o domingo de folga das mulheres" +
+           (run.breaksEveryThird() ? " e o do comércio." : ".");
 }
 
 std::string remarkOn(const BrokenRhythm& broken, const MemberNames& names) {
-    const std::string days = std::to_string(broken.worked);
-    return nameOf(names, broken.employee) + ": trabalha " + days +
-           (broken.worked == 1 ? " dia" : " dias") + " na virada do mês, em vez de " +
-           std::to_string(broken.wanted) + ".";
+    return nameOf(names, broken.employee) + ": trabalha " + countOf(broken.worked, "dia") +
+           " na virada do mês, em vez de " + std::to_string(broken.wanted) + ".";
 }
 
 std::vector<RotationView::Day> daysOf(const MonthSettings& settings) {
     std::vector<RotationView::Day> days;
-    for (int day = 0; day < daysIn(settings.month); ++day) {
-        const Date date = plusDays(firstDay(settings.month), day);
-        const auto weekday = weekdayOf(date);
-        days.push_back({date, std::string(weekdayShort(weekday)), weekday == std::chrono::Sunday,
-                        settings.isHoliday(date)});
-    }
+    for (const Date date : datesOf(settings.month))
+        days.push_back({date, std::string(weekdayShort(weekdayOf(date))),
+                        weekdayOf(date) == std::chrono::Sunday, settings.isHoliday(date)});
     return days;
 }
 

@@ -8,7 +8,6 @@ namespace winvrx {
 
 namespace {
 
-constexpr std::string_view kWeekly = " HORAS SEMANAIS";
 const std::string kTitle = "Quadro de Horário de  Trabalho";
 
 const Message kTableOfEveryShift =
@@ -44,18 +43,14 @@ void WorkTableEdit::typeTime(std::size_t row, std::size_t cell, std::string_view
 }
 
 std::string WorkTableEdit::weeklyCaption() const {
-    return decimalHours(weeklyHours(table_), Decimals::One).append(kWeekly);
+    return decimalHours(weeklyHours(table_), Decimals::One) + " HORAS SEMANAIS";
 }
 
 bool WorkTableEdit::save() {
-    if (!company_ || !parseShift(codeOf(filter_))) {
-        at_.person.tell(company_ ? kTableOfEveryShift : noCompany(at_));
-        return false;
-    }
-    if (const auto wrong = findingIn(table_)) {
-        at_.person.tell(refusal(kTitle, "Dado Incorreto!", *wrong));
-        return false;
-    }
+    if (!company_) return at_.person.refuse(noCompany(at_));
+    if (!parseShift(codeOf(filter_))) return at_.person.refuse(kTableOfEveryShift);
+    if (const auto wrong = findingIn(table_))
+        return at_.person.refuse(refusal(kTitle, "Dado Incorreto!", *wrong));
     if (!at_.person.agrees(kConfirmTable)) return false;
     return attemptWriting(at_, incorrectData(), [this] {
         if (loadTable(at_.store(), *company_, table_.shift, table_.scale) != recorded_)

@@ -1,15 +1,14 @@
 #include "timecard/schedule/schedule_words.h"
 
+#include "foundation/values/text.h"
+
 namespace winvrx {
 
 namespace {
 
 std::string pairText(const TimePair& pair) {
     if (!pair.entry && !pair.exit) return {};
-    const auto shown = [](const std::optional<TimeOfDay>& time) {
-        return time ? timeText(*time) : std::string();
-    };
-    return "Ent:" + shown(pair.entry) + " Saí:" + shown(pair.exit);
+    return "Ent:" + timeText(pair.entry) + " Saí:" + timeText(pair.exit);
 }
 
 std::string mealText(const DaySchedule& schedule) {
@@ -20,9 +19,7 @@ std::string mealText(const DaySchedule& schedule) {
 }  // namespace
 
 void putSchedule(MergeWords& words, const DaySchedule& schedule) {
-    const std::string morning = pairText(schedule.morning);
-    const std::string afternoon = pairText(schedule.afternoon);
-    words.put("horario", morning + (morning.empty() || afternoon.empty() ? "" : " ") + afternoon);
+    words.put("horario", joined({pairText(schedule.morning), pairText(schedule.afternoon)}, " "));
     words.put("refeicao", mealText(schedule));
 }
 

@@ -106,12 +106,18 @@ std::optional<StandardSchedule> loadSchedule(const Store& store, const EmployeeK
     return lines.empty() ? std::nullopt : std::optional(decodeSchedule(lines.front()));
 }
 
-void saveSchedule(const Store& store, const EmployeeKey& key, const StandardSchedule& schedule) {
-    RecordFile record = recordOf(store, key);
+FileSystem::NewContent withSchedule(const Store& store, const EmployeeKey& key,
+                                    const StandardSchedule& schedule) {
+    const RecordFile record = recordOf(store, key);
     std::vector<std::string> lines = record.lines();
     if (lines.empty()) lines.emplace_back();
     lines.front() = encode(schedule, std::move(lines.front()));
-    record.rewrite(lines);
+    return {record.path(), joinedLines(lines)};
+}
+
+void saveSchedule(const Store& store, const EmployeeKey& key, const StandardSchedule& schedule) {
+    const auto content = withSchedule(store, key, schedule);
+    store.files.replace(content.file, content.bytes);
 }
 
 }  // namespace winvrx

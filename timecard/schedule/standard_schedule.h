@@ -65,7 +65,10 @@ inline constexpr std::size_t kFirstSaturdayTime = 4;
 /// nullopt when the employee has no schedule yet.
 [[nodiscard]] std::optional<StandardSchedule> loadSchedule(const Store& store,
                                                            const EmployeeKey& key);
-/// Lines behind the first, if the file has any, stay as they are.
+/// The employee's file with the schedule in it. Lines behind the first, if the file has any, stay
+/// as they are.
+[[nodiscard]] FileSystem::NewContent withSchedule(const Store& store, const EmployeeKey& key,
+                                                  const StandardSchedule& schedule);
 void saveSchedule(const Store& store, const EmployeeKey& key, const StandardSchedule& schedule);
 
 }  // namespace winvrx

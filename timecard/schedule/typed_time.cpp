@@ -1,5 +1,6 @@
 #include "timecard/schedule/typed_time.h"
 
+#include "foundation/values/digits.h"
 #include "foundation/values/text.h"
 
 #include <algorithm>
@@ -15,13 +16,8 @@ constexpr std::size_t kMinuteDigits = 2;
 
 /// One or two digits as a number up to `highest`.
 std::optional<int> shortNumber(std::string_view digits, int highest) {
-    int value = 0;
-    if (digits.empty() || digits.size() > 2) return std::nullopt;
-    for (const char digit : digits) {
-        if (digit < '0' || digit > '9') return std::nullopt;
-        value = value * 10 + (digit - '0');
-    }
-    return value <= highest ? std::optional(value) : std::nullopt;
+    const bool isShort = isDigits(digits) && digits.size() <= 2;
+    return isShort ? parseWholeNumber(digits, 0, highest) : std::nullopt;
 }
 
 /// "8,5": a decimal to one hand, a shortened time to another.

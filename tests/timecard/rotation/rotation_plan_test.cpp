@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <map>
 
 namespace winvrx {
@@ -30,6 +31,10 @@ RotationGroup relieved(std::size_t listed, Date first) {
         group.relief[which].firstDayOff = free.at(which % free.size());
     }
     return group;
+}
+
+std::string letterOf(Turn turn) {
+    return std::array{"", "F", "R", "A"}.at(static_cast<std::size_t>(turn));
 }
 
 /// Who does what over months in a row, each continued from the one before, a letter a day.
