@@ -140,6 +140,15 @@ void showWarning(QLabel& label, const QString& text) {
     showText(label, text.isEmpty() ? text : QStringLiteral("⚠ ") + text);
 }
 
+void showUnread(QLabel& label, const QStringList& lines, const QString& single) {
+    label.setToolTip(tipOf(lines.join(QLatin1Char('\n'))));
+    if (lines.size() < 2)
+        return showWarning(label, lines.isEmpty() ? QString() : single + lines[0]);
+    showWarning(label, QStringLiteral("%1 linhas não entendidas, mantidas no registro: %2 …")
+                           .arg(lines.size())
+                           .arg(lines[0]));
+}
+
 QHBoxLayout* captioned(const QString& caption, QWidget* input) {
     QLabel* words = label(caption, TextSize::Body, input->parentWidget());
     words->setBuddy(input);

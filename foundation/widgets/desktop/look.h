@@ -69,6 +69,9 @@ void setTint(QLabel& label, Tint tint);
 /// Shows the text, or nothing at all where there is none; a warning bears its sign.
 void showText(QLabel& label, const QString& text);
 void showWarning(QLabel& label, const QString& text);
+/// The same of lines of a record that are not understood and are kept: the only one behind what
+/// `single` says of it, of many how many there are and the first. The tool tip has them all.
+void showUnread(QLabel& label, const QStringList& lines, const QString& single);
 
 /// The input behind its caption, whose mnemonic leads to it.
 [[nodiscard]] QHBoxLayout* captioned(const QString& caption, QWidget* input);

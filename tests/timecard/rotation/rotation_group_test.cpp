@@ -21,10 +21,10 @@ TEST(RotationGroup, ComesBackFromItsLine) {
     EXPECT_EQ(encode(recordOf(group), line.bytes), line.bytes);
     EXPECT_EQ(groupFileName(2024y / 3), "GRUPO-032024.rdx");
     const CompanyCode company = *CompanyCode::parse("01");
-    EXPECT_EQ(monthOfGroupFile("01GRUPO-032024.rdx", company), 2024y / 3);
-    for (const char* name : {"02GRUPO-032024.rdx", "01GRUPO-132024.rdx", "01GRUPO-3.rdx",
-                             "01GRUPO-032024.er", "01GRUPO-", "01GRUPO-0320240.rdx"})
-        EXPECT_EQ(monthOfGroupFile(name, company), std::nullopt) << name;
+    const FolderNames names = {"01GRUPO-032024.rdx", "02GRUPO-052024.rdx", "01GRUPO-132024.rdx",
+                               "01GRUPO-3.rdx",      "01GRUPO-062024.er",  "01GRUPO-",
+                               "01GRUPO-0720240.rdx"};
+    EXPECT_EQ(monthsWithGroups(names, company), std::vector{2024y / 3});
 }
 
 TEST(RotationGroup, IsNoneWhereItsLineIsDamaged) {

@@ -6,7 +6,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 
@@ -32,8 +31,6 @@ ApplicationBar::ApplicationBar(CartaoPontoDados& command, QWidget* parent)
     varied_->setToolTip(QStringLiteral(
         "Cada hora muda até 5 minutos de um dia para o outro, até 10 minutos no dia."));
     buildSituation();
-    QLabel* label = look::label(QStringLiteral("Si&tuação"), look::TextSize::Body, this);
-    label->setBuddy(situation_);
     sameHours_->setObjectName(QStringLiteral("card.sameHours"));
     connect(sameHours_, &QCheckBox::toggled, this, &ApplicationBar::showCaption);
     auto* row = new QHBoxLayout(this);
@@ -41,8 +38,7 @@ ApplicationBar::ApplicationBar(CartaoPontoDados& command, QWidget* parent)
     row->addWidget(fixed_);
     row->addWidget(varied_);
     row->addSpacing(look::kGap);
-    row->addWidget(label);
-    row->addWidget(situation_);
+    row->addLayout(look::captioned(QStringLiteral("Si&tuação"), situation_));
     row->addStretch();
     row->addWidget(sameHours_);
 }

@@ -17,14 +17,19 @@
 namespace winvrx {
 
 QWidget* CartaoPontoDadosWindow::buildSide() {
-    side_ = new QWidget(this);
-    auto* column = new QVBoxLayout(side_);
-    look::layOutPart(*column);
+    const auto [side, column] = look::part(this);
+    side_ = side;
     employees_ = new EmployeePicker(
         command_.list(),
         {.screen = QStringLiteral("card"), .shifts = kAllShiftFilters, .scales = true}, side_);
     column->addWidget(employees_, 1);
-    column->addWidget(buildHours());
+    hours_ = new HoursSummaryPanel(this);
+    connect(hours_, &HoursSummaryPanel::percentTyped, this,
+            [this](HourCategory category, const QString& typed) {
+                (void)command_.changePercent(category, toUtf8(typed));
+                showState();
+            });
+    column->addWidget(hours_);
     QPushButton* summary =
         newButton({"preview", QStringLiteral("Resumo Folha de Ponto"), Qt::CTRL | Qt::Key_R,
                    "card.summary", [this] { leaveFor(&CartaoPontoDadosWindow::summaryRequested); }},
@@ -40,16 +45,6 @@ QWidget* CartaoPontoDadosWindow::buildSide() {
                                     QStringLiteral("card.useTab"), Qt::Key_Tab));
     column->addLayout(modes);
     return side_;
-}
-
-QWidget* CartaoPontoDadosWindow::buildHours() {
-    hours_ = new HoursSummaryPanel(this);
-    connect(hours_, &HoursSummaryPanel::percentTyped, this,
-            [this](HourCategory category, const QString& typed) {
-                (void)command_.changePercent(category, toUtf8(typed));
-                showState();
-            });
-    return hours_;
 }
 
 QRadioButton* CartaoPontoDadosWindow::buildEntryMode(const QString& text, const QString& objectName,

@@ -84,11 +84,11 @@ void CartaoPontoDadosWindow::buildCommands() {
                 "card.applyToAll", [this] { applyToAll(); }});
     addCommand(
         {"save", QStringLiteral("Gravar"), QKeySequence::Save, "card.save", [this] { save(); }});
-    otherHalf_ = addCommand(
-        {"right", HalfMonthPanel::nameOf(HalfMonth::Second), Qt::Key_F6, "card.otherHalf", [this] {
-             showHalf(otherThan(shown_));
-             half(shown_).grid().goToStart();
-         }});
+    otherHalf_ =
+        addCommand({"right", toQt(nameOf(HalfMonth::Second)), Qt::Key_F6, "card.otherHalf", [this] {
+                        showHalf(otherThan(shown_));
+                        half(shown_).grid().goToStart();
+                    }});
     addCommand({"month", QStringLiteral("Configurações Feriados e Horas extras"), Qt::Key_F7,
                 "card.monthSettings",
                 [this] { leaveFor(&CartaoPontoDadosWindow::monthSettingsRequested); }});
@@ -156,9 +156,9 @@ void CartaoPontoDadosWindow::layOutHalves() {
     side_->setFixedWidth(isWide() ? kWideSideWidth : kSideWidth);
     hours_->showOnly(isWide() ? std::nullopt : std::optional(shown_));
     const HalfMonth other = otherThan(shown_);
-    otherHalf_->setText(HalfMonthPanel::nameOf(other) + QStringLiteral("  F6"));
+    otherHalf_->setText(toQt(nameOf(other)) + QStringLiteral("  F6"));
     otherHalf_->setToolTip(otherHalf_->text());
-    otherHalf_->setAccessibleName(HalfMonthPanel::nameOf(other));
+    otherHalf_->setAccessibleName(toQt(nameOf(other)));
     otherHalf_->setIcon(
         look::icon(other == HalfMonth::Second ? QStringLiteral("right") : QStringLiteral("left")));
 }
@@ -189,7 +189,8 @@ void CartaoPontoDadosWindow::chooseEmployee(std::size_t position) {
 void CartaoPontoDadosWindow::showCard() {
     employees_->select(command_.selectedPosition());
     schedule_->refresh();
-    showUnread();
+    look::showUnread(*unread_, toQtList(command_.unreadLines()),
+                     QStringLiteral("Linha não entendida, mantida no registro: "));
     layOutHalves();
     showSheet();
 }
@@ -208,23 +209,6 @@ void CartaoPontoDadosWindow::showEdit(std::optional<int> day) {
     showHalf(place);
     half(place).grid().setCurrentIndex(half(place).model().indexOfDay(*day));
     half(place).grid().setFocus();
-}
-
-void CartaoPontoDadosWindow::showUnread() {
-    const auto& lines = command_.unreadLines();
-    QStringList texts;
-    for (const std::string& line : lines)
-        texts << toQt(line);
-    unread_->setToolTip(tipOf(texts.join(QLatin1Char('\n'))));
-    unread_->setVisible(!lines.empty());
-    if (lines.empty())
-        unread_->clear();
-    else if (lines.size() == 1)
-        unread_->setText(QStringLiteral("⚠ Linha não entendida, mantida no registro: ") + texts[0]);
-    else
-        unread_->setText(QStringLiteral("⚠ %1 linhas não entendidas, mantidas no registro: %2 …")
-                             .arg(lines.size())
-                             .arg(texts[0]));
 }
 
 void CartaoPontoDadosWindow::showHours() {

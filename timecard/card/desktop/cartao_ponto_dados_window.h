@@ -51,7 +51,6 @@ class CartaoPontoDadosWindow : public ScreenWindow {
 
   private:
     [[nodiscard]] QWidget* buildSide();
-    [[nodiscard]] QWidget* buildHours();
     [[nodiscard]] QWidget* buildCard();
     [[nodiscard]] QRadioButton* buildEntryMode(const QString& text, const QString& objectName,
                                                Qt::Key key);
@@ -74,7 +73,6 @@ class CartaoPontoDadosWindow : public ScreenWindow {
     void showHours();
     void showState();
     void showStatus();
-    void showUnread();
     void commitEditors();
     bool apply();
     void applyToAll();

@@ -17,7 +17,7 @@ HalfMonthPanel::HalfMonthPanel(CartaoPontoDados& command, HalfMonth half, QWidge
     look::setTint(*marks_, look::Tint::Warning);
     model_ = new PunchModel(command_, half, this);
     grid_ = new PunchGrid(model_, this);
-    look::name(*grid_, QStringLiteral("card.half") + number, number + QStringLiteral("º Quinzena"));
+    look::name(*grid_, QStringLiteral("card.half") + number, toQt(nameOf(half)));
     auto* headings = new QHBoxLayout;
     look::layOutPart(*headings);
     headings->addWidget(heading_);
@@ -30,10 +30,6 @@ HalfMonthPanel::HalfMonthPanel(CartaoPontoDados& command, HalfMonth half, QWidge
     column->addWidget(grid_, 1);
 }
 
-QString HalfMonthPanel::nameOf(HalfMonth half) {
-    return half == HalfMonth::First ? QStringLiteral("1º Quinzena") : QStringLiteral("2º Quinzena");
-}
-
 void HalfMonthPanel::showSheet() {
     const QModelIndex at = grid_->currentIndex();
     model_->refresh();
@@ -41,7 +37,7 @@ void HalfMonthPanel::showSheet() {
 }
 
 void HalfMonthPanel::showHeading() {
-    heading_->setText(nameOf(half_) + QStringLiteral("  ·  ") +
+    heading_->setText(toQt(nameOf(half_)) + QStringLiteral("  ·  ") +
                       toQt(command_.days().totalOf(half_)));
     QStringList marks;
     for (const std::string& text : textsOf(command_.marks()))

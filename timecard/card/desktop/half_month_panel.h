@@ -18,7 +18,6 @@ class HalfMonthPanel : public QWidget {
   public:
     HalfMonthPanel(CartaoPontoDados& command, HalfMonth half, QWidget* parent = nullptr);
 
-    [[nodiscard]] static QString nameOf(HalfMonth half);
     [[nodiscard]] PunchModel& model() const { return *model_; }
     [[nodiscard]] PunchGrid& grid() const { return *grid_; }
 

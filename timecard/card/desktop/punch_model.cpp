@@ -21,22 +21,13 @@ constexpr std::array<const char*, PunchModel::Columns> kHeadings = {
     "Tarde\nSaída", "Extra\nEntrada", "Extra\nSaída", "Obs.",
     "Situação",     "Total",          "Dif."};
 
+/// In the order of DayKind.
+constexpr std::array<std::optional<look::Tint>, 7> kTints = {
+    std::nullopt,        look::Tint::Holiday, look::Tint::RestDay, look::Tint::Leave,
+    look::Tint::Absence, look::Tint::Leave,   std::nullopt};
+
 std::optional<look::Tint> tintOf(DayKind kind) {
-    switch (kind) {
-        case DayKind::Work:
-        case DayKind::OutsideContract:
-            return std::nullopt;
-        case DayKind::Holiday:
-            return look::Tint::Holiday;
-        case DayKind::WeeklyRest:
-            return look::Tint::RestDay;
-        case DayKind::Leave:
-        case DayKind::Excused:
-            return look::Tint::Leave;
-        case DayKind::Absence:
-            return look::Tint::Absence;
-    }
-    return std::nullopt;
+    return kTints.at(static_cast<std::size_t>(kind));
 }
 
 QString shortText(const QString& text) {

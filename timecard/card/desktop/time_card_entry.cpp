@@ -23,28 +23,22 @@ void openTimeCard(const Workplace& at, const TimeCardDesk& desk, QWidget* parent
     CartaoPontoDados card(at, {*desk.rotation, records});
     if (card.open() && inHand) turnTo(card, *inHand);
     CartaoPontoDadosWindow window(card, parent);
-    const auto comeBack = [&] {
-        (void)card.open();
-        window.refresh();
+    using Window = CartaoPontoDadosWindow;
+    const auto lead = [&](void (Window::*requested)(), const std::function<void()>& open) {
+        QObject::connect(&window, requested, &window, [&card, &window, open] {
+            open();
+            (void)card.open();
+            window.refresh();
+        });
     };
-    QObject::connect(&window, &CartaoPontoDadosWindow::monthSettingsRequested, &window, [&] {
-        openWorkMonth(at, &window);
-        comeBack();
-    });
-    QObject::connect(&window, &CartaoPontoDadosWindow::leavesRequested, &window, [&] {
+    lead(&Window::monthSettingsRequested, [&] { openWorkMonth(at, &window); });
+    lead(&Window::leavesRequested, [&] {
         const Employee* one = card.selected();
         desk.openLeaves(at, &window, one ? one->employeeCode() : std::nullopt);
-        comeBack();
     });
-    QObject::connect(&window, &CartaoPontoDadosWindow::rotationRequested, &window, [&] {
-        desk.openRotation(&window);
-        comeBack();
-    });
-    QObject::connect(&window, &CartaoPontoDadosWindow::mirrorRequested, &window, [&] {
-        desk.openMirrors(&window);
-        comeBack();
-    });
-    QObject::connect(&window, &CartaoPontoDadosWindow::summaryRequested, &window,
+    lead(&Window::rotationRequested, [&] { desk.openRotation(&window); });
+    lead(&Window::mirrorRequested, [&] { desk.openMirrors(&window); });
+    QObject::connect(&window, &Window::summaryRequested, &window,
                      [&] { desk.openSummary(&window); });
     window.exec();
 }

@@ -15,19 +15,16 @@ class RotationCalendar;
 using LeavesOpener = std::function<void(const Workplace& at, QWidget* parent,
                                         const std::optional<EmployeeCode>& inHand)>;
 
-/// Opens the rotations over a window.
-using RotationOpener = std::function<void(QWidget* parent)>;
-
-/// Opens the mirrors, or the summary of the hours, over a window.
-using MirrorOpener = std::function<void(QWidget* parent)>;
+/// Opens the rotations, the mirrors or the summary of the hours over a window.
+using ScreenOpener = std::function<void(QWidget* parent)>;
 
 /// What the time card's window leads on to.
 struct TimeCardDesk {
     std::shared_ptr<const RotationCalendar> rotation;
     LeavesOpener openLeaves;
-    RotationOpener openRotation;
-    MirrorOpener openMirrors;
-    MirrorOpener openSummary;
+    ScreenOpener openRotation;
+    ScreenOpener openMirrors;
+    ScreenOpener openSummary;
 };
 
 /// Opens the time card, on `inHand` where an employee is chosen, and returns when it is closed.

@@ -6,7 +6,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 
 namespace winvrx {
@@ -14,39 +14,8 @@ namespace winvrx {
 namespace {
 
 constexpr QSize kSize(720, 520);
-constexpr std::array<const char*, 4> kHeadings = {"Dia", "Das – às", "Horas", "Regra aplicada"};
 constexpr int kRule = 3;
 const QString kNothing = QStringLiteral("Nenhum dia deste período tem horas neste total.");
-
-QString periodName(std::optional<HalfMonth> half) {
-    if (!half) return QStringLiteral("Mês");
-    return *half == HalfMonth::First ? QStringLiteral("1º Quinzena")
-                                     : QStringLiteral("2º Quinzena");
-}
-
-void layOut(QTableWidget& table) {
-    const QFontMetrics letters(look::fixedFont());
-    table.verticalHeader()->hide();
-    table.verticalHeader()->setMinimumSectionSize(letters.height());
-    table.verticalHeader()->setDefaultSectionSize(letters.height() + look::kGap);
-    QHeaderView* columns = table.horizontalHeader();
-    columns->setSectionsClickable(false);
-    columns->setHighlightSections(false);
-    columns->setDefaultAlignment(Qt::AlignCenter);
-    table.resizeColumnsToContents();
-    for (int at = 0; at < kRule; ++at)
-        columns->resizeSection(at, columns->sectionSize(at) + look::kMargin);
-    columns->setStretchLastSection(true);
-    table.horizontalHeaderItem(kRule)->setTextAlignment(Qt::AlignVCenter | Qt::AlignLeft);
-    table.setCurrentCell(0, kRule);
-}
-
-QTableWidgetItem* cell(const std::string& text, int column) {
-    auto* item = new QTableWidgetItem(toQt(text));
-    item->setFont(column == kRule ? look::font(look::TextSize::Body) : look::fixedFont());
-    if (column != kRule) item->setTextAlignment(Qt::AlignCenter);
-    return item;
-}
 
 }  // namespace
 
@@ -54,7 +23,8 @@ HoursExplanationWindow::HoursExplanationWindow(const HoursSummary& hours, HourCa
                                                std::optional<HalfMonth> half, const QString& owner,
                                                QWidget* parent)
     : ScreenWindow(QStringLiteral("hoursExplanation"), toQt(hours.caption(category)), parent) {
-    setSubtitle(periodName(half) + QStringLiteral(": ") + toQt(hours.figure(category, half)));
+    const QString period = half ? toQt(nameOf(*half)) : QStringLiteral("Mês");
+    setSubtitle(period + QStringLiteral(": ") + toQt(hours.figure(category, half)));
     if (!owner.isEmpty()) setChips({owner});
     const auto parts = hours.explanation(category, half);
     setBody(buildBody(parts));
@@ -69,33 +39,27 @@ QWidget* HoursExplanationWindow::buildBody(const std::vector<ExplainedPart>& par
         column->addWidget(look::label(kNothing, look::TextSize::Body, body));
         column->addStretch();
     } else {
-        QTableWidget* table = buildTable(parts);
+        QTreeWidget* table = buildTable(parts);
         column->addWidget(table, 1);
         table->setFocus();
     }
     return body;
 }
 
-QTableWidget* HoursExplanationWindow::buildTable(const std::vector<ExplainedPart>& parts) {
-    auto* table =
-        new QTableWidget(static_cast<int>(parts.size()), static_cast<int>(kHeadings.size()), this);
-    look::name(*table, QStringLiteral("hoursExplanation.parts"),
-               QStringLiteral("Dias e minutos do total"));
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setTabKeyNavigation(false);
-    table->setShowGrid(false);
-    table->setAlternatingRowColors(true);
-    for (int at = 0; at < table->columnCount(); ++at)
-        table->setHorizontalHeaderItem(
-            at, new QTableWidgetItem(QString::fromUtf8(kHeadings[static_cast<std::size_t>(at)])));
-    for (int row = 0; row < table->rowCount(); ++row) {
-        const ExplainedPart& part = parts[static_cast<std::size_t>(row)];
-        const std::array texts = {&part.day, &part.span, &part.length, &part.rule};
-        for (int at = 0; at < table->columnCount(); ++at)
-            table->setItem(row, at, cell(*texts[static_cast<std::size_t>(at)], at));
+QTreeWidget* HoursExplanationWindow::buildTable(const std::vector<ExplainedPart>& parts) {
+    QTreeWidget* table = look::table(QStringLiteral("hoursExplanation.parts"),
+                                     QStringLiteral("Dias e minutos do total"),
+                                     {QStringLiteral("Dia"), QStringLiteral("Das – às"),
+                                      QStringLiteral("Horas"), QStringLiteral("Regra aplicada")},
+                                     this);
+    table->header()->setStretchLastSection(true);
+    for (const ExplainedPart& part : parts) {
+        auto* row = new QTreeWidgetItem(
+            table, {toQt(part.day), toQt(part.span), toQt(part.length), toQt(part.rule)});
+        for (int column = 0; column < kRule; ++column)
+            row->setFont(column, look::fixedFont());
     }
-    layOut(*table);
+    table->setCurrentItem(table->topLevelItem(0));
     return table;
 }
 

@@ -3,7 +3,7 @@
 #include "foundation/widgets/desktop/screen_window.h"
 #include "timecard/hours/hours_summary.h"
 
-class QTableWidget;
+class QTreeWidget;
 
 namespace winvrx {
 
@@ -19,7 +19,7 @@ class HoursExplanationWindow : public ScreenWindow {
 
   private:
     [[nodiscard]] QWidget* buildBody(const std::vector<ExplainedPart>& parts);
-    [[nodiscard]] QTableWidget* buildTable(const std::vector<ExplainedPart>& parts);
+    [[nodiscard]] QTreeWidget* buildTable(const std::vector<ExplainedPart>& parts);
 };
 
 }  // namespace winvrx

@@ -21,16 +21,15 @@ namespace {
 
 struct SummaryColumn {
     std::optional<HalfMonth> half;
-    const char* shortName;
     const char* name;
 };
 
 /// The caption stands for the month.
 constexpr std::array<SummaryColumn, 4> kColumns = {{
-    {std::nullopt, "", "Mês"},
-    {HalfMonth::First, "1º Quinz.", "1º Quinzena"},
-    {HalfMonth::Second, "2º Quinz.", "2º Quinzena"},
-    {std::nullopt, "Mês", "Mês"},
+    {std::nullopt, ""},
+    {HalfMonth::First, "1º Quinz."},
+    {HalfMonth::Second, "2º Quinz."},
+    {std::nullopt, "Mês"},
 }};
 constexpr int kCaption = 0;
 
@@ -66,7 +65,7 @@ HoursSummaryPanel::HoursSummaryPanel(QWidget* parent)
       secondClick_(new QTimer(this)) {
     secondClick_->setSingleShot(true);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
+    look::layOutPart(*column);
     column->setSpacing(look::kSmallGap);
     QLabel* heading = look::heading(QStringLiteral("&Resumo das Horas"), this);
     heading->setBuddy(table_);
@@ -113,7 +112,7 @@ void HoursSummaryPanel::layOutTable() {
     columns->setFixedHeight(rowHeight + look::kSmallGap);
     const QFontMetrics headings(columns->font());
     for (int column = 0; column < table_->columnCount(); ++column) {
-        const QString name = QString::fromUtf8(columnAt(column).shortName);
+        const QString name = QString::fromUtf8(columnAt(column).name);
         table_->setHorizontalHeaderItem(column, new QTableWidgetItem(name));
         columns->resizeSection(
             column, std::max(letters.horizontalAdvance(QLatin1Char('0')) * kFigureHalfDigits / 2,
@@ -153,9 +152,9 @@ void HoursSummaryPanel::showFigure(int row, int column) {
     item->setForeground(quiet ? QApplication::palette().brush(QPalette::PlaceholderText)
                               : QBrush());
     item->setToolTip(percentOf(category) ? kPercentHint : QString());
-    item->setData(Qt::AccessibleTextRole, caption + QStringLiteral(", ") +
-                                              QString::fromUtf8(of.name) + QStringLiteral(": ") +
-                                              figure);
+    const QString period = of.half ? toQt(nameOf(*of.half)) : QStringLiteral("Mês");
+    item->setData(Qt::AccessibleTextRole,
+                  caption + QStringLiteral(", ") + period + QStringLiteral(": ") + figure);
 }
 
 void HoursSummaryPanel::makeRoomForCaptions() {
@@ -186,9 +185,7 @@ void HoursSummaryPanel::waitForSecondClick(int row, int column) {
 }
 
 void HoursSummaryPanel::explain(int row, int column) {
-    const SummaryColumn& of = columnAt(column);
-    HoursExplanationWindow window(hours_, categoryOf(row), of.half, owner_, this);
-    window.exec();
+    HoursExplanationWindow(hours_, categoryOf(row), columnAt(column).half, owner_, this).exec();
 }
 
 void HoursSummaryPanel::askPercent(int row) {

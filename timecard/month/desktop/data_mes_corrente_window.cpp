@@ -1,6 +1,7 @@
 #include "timecard/month/desktop/data_mes_corrente_window.h"
 
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
 #include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/progress.h"
@@ -48,8 +49,9 @@ void DataMesCorrenteWindow::addCommands() {
                                     rules_->refresh();
                                     showState();
                                 }});
-    addDefaultButton(
-        {"", QStringLiteral("&Confirma"), {}, "month.confirm", [this] { confirmMonth(); }});
+    addDefaultButton({"", QStringLiteral("&Confirma"), {}, "month.confirm", [this] {
+                          if (command_.confirm()) accept();
+                      }});
     addLeavingButton("month.close");
 }
 
@@ -152,29 +154,20 @@ void DataMesCorrenteWindow::updateAll() {
     });
     rules_->refresh();
     if (!updated) return;
-    QString state = updated->done < updated->total
-                        ? QStringLiteral("Cancelado: %1 de %2 funcionários atualizados")
-                              .arg(updated->done)
-                              .arg(updated->total)
-                    : updated->total == 1
-                        ? QStringLiteral("1 funcionário atualizado")
-                        : QStringLiteral("%1 funcionários atualizados").arg(updated->total);
+    QString state =
+        updated->done < updated->total
+            ? QStringLiteral("Cancelado: %1 de %2 funcionários atualizados")
+                  .arg(updated->done)
+                  .arg(updated->total)
+            : toQt(countOf(updated->total, "funcionário atualizado", "funcionários atualizados"));
     if (updated->closed > 0) state += QStringLiteral("; %1 com folha fechada").arg(updated->closed);
     setState(state);
-}
-
-void DataMesCorrenteWindow::confirmMonth() {
-    if (command_.confirm()) accept();
 }
 
 void DataMesCorrenteWindow::resizeEvent(QResizeEvent* event) {
     columns_->setDirection(width() < kSideBySide ? QBoxLayout::TopToBottom
                                                  : QBoxLayout::LeftToRight);
     ScreenWindow::resizeEvent(event);
-}
-
-bool DataMesCorrenteWindow::mayClose() {
-    return command_.mayLeave();
 }
 
 }  // namespace winvrx

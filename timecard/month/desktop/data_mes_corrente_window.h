@@ -29,7 +29,7 @@ class DataMesCorrenteWindow : public ScreenWindow {
     void localHolidaysRequested();
 
   protected:
-    bool mayClose() override;
+    [[nodiscard]] bool mayClose() override { return command_.mayLeave(); }
     void resizeEvent(QResizeEvent* event) override;
 
   private:
@@ -43,7 +43,6 @@ class DataMesCorrenteWindow : public ScreenWindow {
     void showState();
     void recordMonth();
     void updateAll();
-    void confirmMonth();
 
     DataMesCorrente& command_;
     QHBoxLayout* columns_ = nullptr;

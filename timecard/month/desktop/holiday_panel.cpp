@@ -62,7 +62,7 @@ HolidayPanel::HolidayPanel(DataMesCorrente& command, QWidget* parent)
     notice_->installEventFilter(this);
     auto* offer = new QShortcut(Qt::Key_F8, this);
     offer->setContext(Qt::WindowShortcut);
-    connect(offer, &QShortcut::activated, this, &HolidayPanel::tickOffer);
+    connect(offer, &QShortcut::activated, this, [this] { give(&DataMesCorrente::tickOffer); });
 }
 
 QWidget* HolidayPanel::buildList() {
@@ -94,14 +94,8 @@ QWidget* HolidayPanel::buildCommands() {
     column->addWidget(restore);
     column->addWidget(recordTicks_);
     column->addStretch();
-    connect(reset, &QPushButton::clicked, this, [this] {
-        command_.clearTicks();
-        takeNote();
-    });
-    connect(restore, &QPushButton::clicked, this, [this] {
-        command_.restoreTicks();
-        takeNote();
-    });
+    connect(reset, &QPushButton::clicked, this, [this] { give(&DataMesCorrente::clearTicks); });
+    connect(restore, &QPushButton::clicked, this, [this] { give(&DataMesCorrente::restoreTicks); });
     connect(recordTicks_, &QCheckBox::toggled, this, [this](bool on) {
         command_.setRecordTicks(on);
         emit edited();
@@ -149,27 +143,18 @@ void HolidayPanel::showUnread() {
     QStringList lines;
     for (const UnreadLine& line : command_.unreadLines())
         lines << QStringLiteral("linha %1 “%2”").arg(line.number).arg(toQt(line.text));
-    unread_->setToolTip(lines.join(QLatin1Char('\n')));
-    if (lines.size() > 1)
-        look::showText(*unread_,
-                       QStringLiteral("⚠ %1 linhas não entendidas, mantidas no registro: %2 …")
-                           .arg(lines.size())
-                           .arg(lines[0]));
-    else
-        look::showText(*unread_,
-                       lines.isEmpty()
-                           ? QString()
-                           : QStringLiteral("⚠ Não entendida, mantida no registro: ") + lines[0]);
-}
-
-void HolidayPanel::tickOffer() {
-    command_.tickOffer();
-    takeNote();
+    look::showUnread(*unread_, lines, QStringLiteral("Não entendida, mantida no registro: "));
 }
 
 bool HolidayPanel::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == notice_ && event->type() == QEvent::MouseButtonRelease) tickOffer();
+    if (watched == notice_ && event->type() == QEvent::MouseButtonRelease)
+        give(&DataMesCorrente::tickOffer);
     return QWidget::eventFilter(watched, event);
+}
+
+void HolidayPanel::give(void (DataMesCorrente::*act)()) {
+    (command_.*act)();
+    takeNote();
 }
 
 void HolidayPanel::takeNote() {

@@ -37,7 +37,7 @@ class HolidayPanel : public QWidget {
     void showHolidays();
     void showUnticked();
     void showUnread();
-    void tickOffer();
+    void give(void (DataMesCorrente::*act)());
     void takeNote();
 
     DataMesCorrente& command_;

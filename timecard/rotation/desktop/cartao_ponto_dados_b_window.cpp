@@ -22,18 +22,6 @@ namespace {
 constexpr int kSideWidth = 288;
 constexpr int kGroupRows = 4;  ///< that the list shows without scrolling
 
-QString scaleText(Scale scale) {
-    switch (scale) {
-        case Scale::Normal:
-            return QStringLiteral("Escala Normal");
-        case Scale::FiveByOne:
-            return QStringLiteral("Escala Revezamento 5 x 1");
-        case Scale::TwelveByThirtySix:
-            return QStringLiteral("Escala Revezamento 12 x 36");
-    }
-    return {};
-}
-
 }  // namespace
 
 CartaoPontoDadosBWindow::CartaoPontoDadosBWindow(CartaoPontoDadosB& command, QWidget* parent)
@@ -64,8 +52,8 @@ QWidget* CartaoPontoDadosBWindow::buildSide() {
 QLayout* CartaoPontoDadosBWindow::buildScale() {
     scale_ = new QComboBox(this);
     look::name(*scale_, QStringLiteral("rotation.scale"), QStringLiteral("Escala"));
-    for (const Scale one : kScales)
-        scale_->addItem(scaleText(one));
+    scale_->addItems({QStringLiteral("Escala Normal"), QStringLiteral("Escala Revezamento 5 x 1"),
+                      QStringLiteral("Escala Revezamento 12 x 36")});  // in the order of kScales
     connect(scale_, &QComboBox::activated, this, [this](int place) {
         (void)command_.filterBy(kScales.at(static_cast<std::size_t>(place)));
         refresh();
@@ -137,6 +125,7 @@ QWidget* CartaoPontoDadosBWindow::buildGroups() {
             Qt::QueuedConnection);
     column->addWidget(groups_, 1);
     noGroups_ = look::paragraph(QStringLiteral("rotation.noGroups"), look::TextSize::Hint, part);
+    noGroups_->setText(QStringLiteral("Nenhum grupo aqui. Crie o primeiro com Ins."));
     column->addWidget(noGroups_);
     continue_ = newButton({"", QStringLiteral("Continuar grupos"), Qt::Key_F8, "rotation.continue",
                            [this] {
@@ -165,13 +154,10 @@ QWidget* CartaoPontoDadosBWindow::buildPages() {
     return pages_;
 }
 
-QToolButton* CartaoPontoDadosBWindow::addGroupCommand(const ScreenCommand& command) {
-    QToolButton* button = addCommand(command);
-    groupCommands_.push_back(button);
-    return button;
-}
-
 void CartaoPontoDadosBWindow::buildCommands() {
+    const auto addGroupCommand = [this](const ScreenCommand& command) {
+        return groupCommands_.emplace_back(addCommand(command));
+    };
     const auto giving = [this](bool (CartaoPontoDadosB::*act)()) {
         return [this, act] {
             (void)(command_.*act)();
@@ -253,7 +239,6 @@ void CartaoPontoDadosBWindow::showGroups() {
         if (isEdited) groups_->setCurrentItem(item);
     }
     const auto from = command_.continuableFrom();
-    noGroups_->setText(QStringLiteral("Nenhum grupo aqui. Crie o primeiro com Ins."));
     noGroups_->setVisible(groups_->count() == 0);
     groups_->setVisible(groups_->count() > 0);
     continue_->setVisible(from.has_value());

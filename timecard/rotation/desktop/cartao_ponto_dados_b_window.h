@@ -38,7 +38,6 @@ class CartaoPontoDadosBWindow : public ScreenWindow {
     [[nodiscard]] QWidget* buildGroups();
     [[nodiscard]] QWidget* buildPages();
     void buildCommands();
-    QToolButton* addGroupCommand(const ScreenCommand& command);
 
     void startWithAGroup();
     [[nodiscard]] bool showsTable() const;

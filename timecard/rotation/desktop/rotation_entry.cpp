@@ -13,8 +13,8 @@ namespace {
 QString stateOf(const Workplace& at, const MonthProgress* progress) {
     if (!progress || !progress->month || !at.session.company)
         return QStringLiteral("Falta o mês de trabalho");
-    const auto lines = groupFile(at.store(), *at.session.company, *progress->month).load();
-    return toQt(countOf(groupsIn(lines).size(), "grupo"));
+    const auto groups = groupsOf(at.store(), *at.session.company, *progress->month);
+    return toQt(countOf(groups.size(), "grupo"));
 }
 
 }  // namespace

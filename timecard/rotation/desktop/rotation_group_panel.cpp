@@ -30,12 +30,6 @@ const QString kWidestDay = QStringLiteral("000");
 constexpr int kFewestRows = 4;
 constexpr int kFewestLines = 3;
 
-QString listHeading(Scale scale) {
-    return scale == Scale::TwelveByThirtySix
-               ? QStringLiteral("Adicionar Funcionários Folgar 12 x 36")
-               : QStringLiteral("Adicionar Funcionários Folgar 5 x 1");
-}
-
 QString dayText(Date date) {
     return QStringLiteral("%1 %2")
         .arg(dayNumber(date), 2, 10, QLatin1Char('0'))
@@ -58,17 +52,12 @@ void offer(QComboBox& box, std::vector<Date> days, const std::optional<Date>& ch
 RotationGroupPanel::RotationGroupPanel(CartaoPontoDadosB& command, QWidget* parent)
     : QWidget(parent),
       command_(command),
-      title_(look::heading(QString(), this)),
-      heading_(look::heading(QString(), this)),
-      hint_(look::label(QString(), look::TextSize::Body, this)),
+      title_(look::line(QStringLiteral("rotation.title"), look::TextSize::Heading, this)),
+      heading_(look::line(QStringLiteral("rotation.heading"), look::TextSize::Heading, this)),
+      hint_(look::paragraph(QStringLiteral("rotation.hint"), look::TextSize::Body, this)),
       plan_(new RotationPlanModel(command, this)),
       grid_(new QTableView(this)),
-      gaps_(look::label(QString(), look::TextSize::Body, this)) {
-    title_->setObjectName(QStringLiteral("rotation.title"));
-    heading_->setObjectName(QStringLiteral("rotation.heading"));
-    hint_->setObjectName(QStringLiteral("rotation.hint"));
-    hint_->setWordWrap(true);
-    gaps_->setObjectName(QStringLiteral("rotation.gaps"));
+      gaps_(look::line(QStringLiteral("rotation.gaps"), look::TextSize::Body, this)) {
     look::setTint(*gaps_, look::Tint::Absence);
     buildGrid();
     buildGridKeys();
@@ -87,15 +76,6 @@ RotationGroupPanel::RotationGroupPanel(CartaoPontoDadosB& command, QWidget* pare
     column->addStretch();
 }
 
-QPushButton* RotationGroupPanel::buildCommand(const QString& text, const QString& objectName,
-                                              const QString& spoken) {
-    auto* button = new QPushButton(text, this);
-    look::name(*button, objectName, spoken);
-    button->setAutoDefault(false);
-    commands_.push_back(button);
-    return button;
-}
-
 QComboBox* RotationGroupPanel::buildDays(const QString& objectName, const QString& spoken) {
     auto* box = new QComboBox(this);
     look::name(*box, objectName, spoken);
@@ -108,8 +88,9 @@ QHBoxLayout* RotationGroupPanel::buildList() {
     auto* row = new QHBoxLayout;
     look::layOutPart(*row);
     const auto add = [&](const char* text, const char* name, auto&& act) {
-        const QString caption = QString::fromUtf8(text);
-        QPushButton* button = buildCommand(caption, QString::fromLatin1(name), caption);
+        QPushButton* button =
+            look::button(QString::fromUtf8(text), QString::fromLatin1(name), this);
+        commands_.push_back(button);
         connect(button, &QPushButton::clicked, this, act);
         row->addWidget(button);
     };
@@ -124,10 +105,7 @@ QHBoxLayout* RotationGroupPanel::buildList() {
         command_.draft().setFirstDayOff(firstDay_->currentData().toInt());
         emit edited();
     });
-    QLabel* label = look::label(kFirstDay, look::TextSize::Body, this);
-    label->setBuddy(firstDay_);
-    row->addWidget(label);
-    row->addWidget(firstDay_);
+    row->addLayout(look::captioned(kFirstDay, firstDay_));
     return row;
 }
 
@@ -136,8 +114,10 @@ QWidget* RotationGroupPanel::buildRelief() {
     auto* row = new QHBoxLayout(relief_);
     look::layOutPart(*row);
     row->addWidget(look::heading(kReliefHeading, relief_));
-    QPushButton* add = buildCommand(QStringLiteral("A&dicionar =>"),
-                                    QStringLiteral("rotation.addRelief"), kReliefHeading);
+    QPushButton* add = look::button(QStringLiteral("A&dicionar =>"),
+                                    QStringLiteral("rotation.addRelief"), relief_);
+    add->setAccessibleName(kReliefHeading);
+    commands_.push_back(add);
     connect(add, &QPushButton::clicked, this, &RotationGroupPanel::addReliefRequested);
     row->addWidget(add);
     row->addStretch();
@@ -216,7 +196,8 @@ void RotationGroupPanel::refresh() {
     const auto& group = command_.group();
     title_->setText(group ? toQt(titleOf(*group)) : QString());
     title_->setVisible(group.has_value());
-    heading_->setText(listHeading(group ? group->scale : command_.scale()));
+    heading_->setText(QStringLiteral("Adicionar Funcionários Folgar ") +
+                      toQt(scaleTitle(group ? group->scale : command_.scale())));
     for (QWidget* one : commands_)
         one->setEnabled(group.has_value());
     showDays();
@@ -234,12 +215,9 @@ void RotationGroupPanel::fitGrid() {
 }
 
 void RotationGroupPanel::showDays() {
-    std::vector<Date> days;
-    const WorkMonth month = command_.settings().month;
-    for (int day = 0; command_.group() && day < daysIn(month); ++day)
-        days.push_back(plusDays(firstDay(month), day));
-    offer(*firstDay_, std::move(days),
-          command_.group() ? command_.group()->firstDayOff : std::nullopt);
+    const auto& group = command_.group();
+    offer(*firstDay_, group ? datesOf(command_.settings().month) : std::vector<Date>(),
+          group ? group->firstDayOff : std::nullopt);
 }
 
 void RotationGroupPanel::showRelief() {

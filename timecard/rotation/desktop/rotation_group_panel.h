@@ -12,7 +12,6 @@ class QComboBox;
 class QHBoxLayout;
 class QLabel;
 class QPlainTextEdit;
-class QPushButton;
 class QTableView;
 
 namespace winvrx {
@@ -39,8 +38,6 @@ class RotationGroupPanel : public QWidget {
     void edited();
 
   private:
-    [[nodiscard]] QPushButton* buildCommand(const QString& text, const QString& objectName,
-                                            const QString& spoken);
     [[nodiscard]] QComboBox* buildDays(const QString& objectName, const QString& spoken);
     [[nodiscard]] QHBoxLayout* buildList();
     [[nodiscard]] QWidget* buildRelief();

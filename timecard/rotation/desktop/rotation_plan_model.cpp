@@ -33,9 +33,9 @@ QString spokenDay(const RotationView::Day& day) {
            (day.holiday ? QStringLiteral(", feriado") : QString());
 }
 
-QFont boldFont() {
+QFont dayFont(bool bold) {
     QFont font = look::font(look::TextSize::Body);
-    font.setBold(true);
+    font.setBold(bold);
     return font;
 }
 
@@ -126,7 +126,7 @@ QVariant RotationPlanModel::data(const QModelIndex& index, int role) const {
         case Qt::TextAlignmentRole:
             return Qt::AlignCenter;
         case Qt::FontRole:
-            return tint ? boldFont() : look::font(look::TextSize::Body);
+            return dayFont(tint.has_value());
         case Qt::ForegroundRole:
             return tint ? QVariant(look::color(*tint, palette)) : QVariant();
         case Qt::BackgroundRole:

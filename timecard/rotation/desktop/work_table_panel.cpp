@@ -22,18 +22,13 @@ constexpr int kTimeLetters = 12;
 WorkTablePanel::WorkTablePanel(WorkTableEdit& edit, QWidget* parent)
     : QWidget(parent),
       edit_(edit),
-      title_(look::heading(kTitle, this)),
-      whose_(look::label(QString(), look::TextSize::Body, this)),
-      weekly_(look::heading(QString(), this)),
-      finding_(look::label(QString(), look::TextSize::Body, this)) {
-    whose_->setObjectName(QStringLiteral("workTable.whose"));
-    weekly_->setObjectName(QStringLiteral("workTable.weekly"));
-    finding_->setObjectName(QStringLiteral("workTable.finding"));
-    finding_->setWordWrap(true);
+      whose_(look::line(QStringLiteral("workTable.whose"), look::TextSize::Body, this)),
+      weekly_(look::line(QStringLiteral("workTable.weekly"), look::TextSize::Heading, this)),
+      finding_(look::paragraph(QStringLiteral("workTable.finding"), look::TextSize::Body, this)) {
     look::setTint(*finding_, look::Tint::Warning);
     auto* column = new QVBoxLayout(this);
     look::layOutBody(*column);
-    column->addWidget(title_);
+    column->addWidget(look::heading(kTitle, this));
     column->addWidget(whose_);
     column->addSpacing(look::kGap);
     column->addLayout(buildTimes());
@@ -97,8 +92,7 @@ void WorkTablePanel::refresh() {
 
 void WorkTablePanel::showTotals() {
     weekly_->setText(toQt(edit_.weeklyCaption()));
-    const QString finding = toQt(edit_.finding());
-    finding_->setText(finding.isEmpty() ? finding : QStringLiteral("⚠ ") + finding);
+    look::showWarning(*finding_, toQt(edit_.finding()));
 }
 
 }  // namespace winvrx

@@ -33,7 +33,6 @@ class WorkTablePanel : public QWidget {
     void showTotals();
 
     WorkTableEdit& edit_;
-    QLabel* title_ = nullptr;
     QLabel* whose_ = nullptr;
     QLabel* weekly_ = nullptr;
     QLabel* finding_ = nullptr;

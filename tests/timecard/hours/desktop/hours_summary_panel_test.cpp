@@ -7,6 +7,7 @@
 #include <QInputDialog>
 #include <QTableWidget>
 #include <QTimer>
+#include <QTreeWidget>
 
 #include <chrono>
 
@@ -73,11 +74,11 @@ struct Panel : ::testing::Test {
             QWidget* shown = QApplication::activeModalWidget();
             if (!shown) return;
             lines.push_back(shown->windowTitle().toStdString());
-            if (auto* parts = shown->findChild<QTableWidget*>())
-                for (int row = 0; row < parts->rowCount(); ++row) {
+            if (auto* parts = shown->findChild<QTreeWidget*>())
+                for (int row = 0; row < parts->topLevelItemCount(); ++row) {
                     QStringList cells;
                     for (int column = 0; column < parts->columnCount(); ++column)
-                        cells << parts->item(row, column)->text();
+                        cells << parts->topLevelItem(row)->text(column);
                     lines.push_back(cells.join(QLatin1Char(' ')).toStdString());
                 }
             QTest::keyClick(shown, Qt::Key_Escape);
