@@ -59,10 +59,8 @@ struct Rooms {
         [at = at, legal = legal, &engine = engine](QWidget* parent, const Employee& one) {
             openTermination(at, engine, legal, one, parent);
         };
-    RotationOpener openRotation = [at = at, &engine = engine,
-                                   &editor = desk.editor](QWidget* parent) {
-        openRotations(at, engine, editor, parent);
-    };
+    ScreenOpener openRotation = [at = at, &engine = engine, &editor = desk.editor](
+                                    QWidget* parent) { openRotations(at, engine, editor, parent); };
     OpenLetters openLetters = [at = at, &engine = engine](QWidget* parent) {
         openCorrectionLetters(at, engine, parent);
     };
