@@ -73,9 +73,7 @@ bool Impressorar::store(const std::string& name) {
 }
 
 bool Impressorar::add() {
-    if (printers_.openAddDialogue()) return true;
-    at_.person.tell(kNoAddDialogue);
-    return false;
+    return printers_.openAddDialogue() || at_.person.refuse(kNoAddDialogue);
 }
 
 }  // namespace winvrx

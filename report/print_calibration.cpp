@@ -2,6 +2,9 @@
 
 #include "report/print_pages.h"
 
+#include <cstdint>
+#include <cstdlib>
+
 namespace winvrx {
 
 namespace {
@@ -22,7 +25,45 @@ std::optional<std::array<int, 4>> hundredthsIn(const std::array<std::string, 4>&
     return values;
 }
 
+/// Half away from zero.
+std::int64_t dividedRounded(std::int64_t dividend, std::int64_t divisor) {
+    const std::int64_t half = divisor / 2;
+    return (dividend + (dividend < 0 ? -half : half)) / divisor;
+}
+
+/// Scale and offset of one direction, as in PrintScale.
+struct AxisScale {
+    int scale;
+    int offset;
+};
+
+/// What brings two marks, printed without any scale or offset and measured from the same edge of
+/// the paper, from where they were found to where they belong; nullopt for distances that no
+/// printer gives.
+std::optional<AxisScale> correctionFor(int nearBelongs, int farBelongs, int nearFound,
+                                       int farFound) {
+    const std::int64_t belongs = farBelongs - nearBelongs;
+    const std::int64_t found = std::int64_t{farFound} - nearFound;
+    if (found <= 0) return std::nullopt;
+    const std::int64_t scale = dividedRounded(belongs * kWholeScale, found);
+    const std::int64_t offset =
+        dividedRounded(nearBelongs * found - std::int64_t{nearFound} * belongs, found);
+    if (scale < kSmallestScale || scale > kLargestScale || std::abs(offset) > kLargestScaleOffset)
+        return std::nullopt;
+    return AxisScale{static_cast<int>(scale), static_cast<int>(offset)};
+}
+
 }  // namespace
+
+std::optional<PrintScale> scaleFrom(const MeasuredSheet& sheet) {
+    const auto across = correctionFor(kCrossNear, kCrossRight, sheet.leftToA, sheet.leftToB);
+    const auto down = correctionFor(kCrossNear, kCrossDown, sheet.topToA, sheet.topToC);
+    if (!across || !down) return std::nullopt;
+    return PrintScale{.horizontalScale = across->scale,
+                      .verticalScale = down->scale,
+                      .horizontalOffset = across->offset,
+                      .verticalOffset = down->offset};
+}
 
 void PrintCalibration::load(PrintScaleKey key, SheetPrinting printing) {
     const PrintScale scale = loadPrintScale(at_.store(), key);
@@ -37,10 +78,9 @@ bool PrintCalibration::type(const std::array<std::string, 4>& figures) {
     for (std::size_t i = 0; values && i < values->size(); ++i)
         scale.*kPrintScaleFields[i].member = (*values)[i];
     if (values && isUsable(scale)) return save(scale);
-    at_.person.tell(
+    return at_.person.refuse(
         refusal(title_, "Dados incorretos!",
                 "A escala vai de 90,00 a 110,00 por cento e o deslocamento de -50,00 a 50,00 mm."));
-    return false;
 }
 
 bool PrintCalibration::typeDistances(const std::array<std::string, 4>& distances) {
@@ -50,10 +90,10 @@ bool PrintCalibration::typeDistances(const std::array<std::string, 4>& distances
         sheet.*kMeasuredDistances[i] = (*values)[i];
     const auto scale = values ? scaleFrom(sheet) : std::nullopt;
     if (scale) return save(*scale);
-    at_.person.tell(refusal(title_, "Dados incorretos!",
-                            "As distâncias medidas não combinam com a folha de calibração. Meça de "
-                            "novo, a partir da borda do papel."));
-    return false;
+    return at_.person.refuse(
+        refusal(title_, "Dados incorretos!",
+                "As distâncias medidas não combinam com a folha de calibração. Meça de novo, a "
+                "partir da borda do papel."));
 }
 
 bool PrintCalibration::save(const PrintScale& scale) {
@@ -79,8 +119,9 @@ bool PrintCalibration::printSheet() {
                                 .output = ReportOutput::Printer,
                                 .printerName = printing_.printerName,
                                 .trays = printing_.trays};
-    ReportPages one(1, [this](std::size_t) { return ReportRows{{key_.printer}}; });
-    return printPages({at_, engine_}, request, one) == PrintEnd::Done;
+    const ReportRows sheet = {{key_.printer}};
+    return printPages({at_, engine_}, request, {1, [&](std::size_t) { return sheet; }}) ==
+           PrintEnd::Done;
 }
 
 }  // namespace winvrx

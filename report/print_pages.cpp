@@ -74,7 +74,7 @@ PrintEnd send(const PrintDesk& desk, const ReportRequest& request, ReportPages& 
 
 }  // namespace
 
-PrintEnd printPages(const PrintDesk& desk, const ReportRequest& request, ReportPages& pages) {
+PrintEnd printPages(const PrintDesk& desk, const ReportRequest& request, ReportPages pages) {
     try {
         return send(desk, request, pages);
     } catch (const std::exception& fault) {
@@ -84,9 +84,8 @@ PrintEnd printPages(const PrintDesk& desk, const ReportRequest& request, ReportP
 }
 
 bool requirePrintingDrive(const Workplace& at, const Message& wrongDrive) {
-    if (upperCase(std::string(1, at.session.folder.driveLetter())) == kPrintingDrive) return true;
-    at.person.tell(wrongDrive);
-    return false;
+    return upperCase(std::string(1, at.session.folder.driveLetter())) == kPrintingDrive ||
+           at.person.refuse(wrongDrive);
 }
 
 Message wrongDrive() {

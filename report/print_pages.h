@@ -21,7 +21,7 @@ struct PrintDesk {
 /// On a printer a layout with two sides is printed in two jobs: all pages on their first side,
 /// then, when the operator has put the sheets back, all on their second.
 [[nodiscard]] PrintEnd printPages(const PrintDesk& desk, const ReportRequest& request,
-                                  ReportPages& pages);
+                                  ReportPages pages);
 
 /// Pages are printed from a data folder on drive "C" only: "Diretório Inválido p/ Impressão! …",
 /// or the screen's own words for it.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <limits>
 
 namespace winvrx {
 
@@ -13,15 +14,9 @@ namespace {
 constexpr int kHundred = 100;
 constexpr std::size_t kMostDigits = 6;
 
-bool isNumber(std::string_view text) {
-    return text.size() <= kMostDigits && isDigits(text);
-}
-
-int numberOf(std::string_view digits) {
-    int number = 0;
-    for (const char digit : digits)
-        number = number * 10 + (digit - '0');
-    return number;
+std::optional<int> numberIn(std::string_view digits) {
+    if (digits.size() > kMostDigits || !isDigits(digits)) return std::nullopt;
+    return parseWholeNumber(digits, 0, std::numeric_limits<int>::max());
 }
 
 bool isWithin(const PrintScaleField& field, int value) {
@@ -48,12 +43,13 @@ std::optional<int> parseHundredths(std::string_view text) {
     const bool negative = digits.starts_with('-');
     if (negative) digits.remove_prefix(1);
     const std::size_t mark = digits.find_first_of(",.");
-    const std::string_view whole = digits.substr(0, mark);
+    const auto whole = numberIn(digits.substr(0, mark));
     std::string fraction = "00";
     if (mark != std::string_view::npos) fraction = digits.substr(mark + 1);
     if (fraction.size() == 1) fraction += '0';
-    if (!isNumber(whole) || !isNumber(fraction) || fraction.size() != 2) return std::nullopt;
-    const int value = numberOf(whole) * kHundred + numberOf(fraction);
+    const auto rest = fraction.size() == 2 ? numberIn(fraction) : std::nullopt;
+    if (!whole || !rest) return std::nullopt;
+    const int value = *whole * kHundred + *rest;
     return negative ? -value : value;
 }
 

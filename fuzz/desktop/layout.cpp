@@ -25,8 +25,6 @@ void check(const Layout& layout, const LayoutText& text) {
     require(text.width.value_or(1) > 0, "a text has room");
     for (const LayoutText::Piece& piece : text.pieces)
         require(piece.column.value_or(0) < layout.columns, "a column exists");
-    for (const std::size_t column : text.unless)
-        require(column < layout.columns, "a column exists");
 }
 
 void check(const Layout&, const LayoutLine& line) {
@@ -49,8 +47,11 @@ void check(const Layout& layout) {
     std::size_t marks = 0;
     for (const LayoutSection& section : layout.sections) {
         marks += section.marks.size();
-        for (const LayoutMark& mark : section.marks)
-            std::visit([&](const auto& one) { check(layout, one); }, mark);
+        for (const LayoutMark& mark : section.marks) {
+            for (const std::size_t column : mark.unless)
+                require(column < layout.columns, "a column exists");
+            std::visit([&](const auto& one) { check(layout, one); }, mark.shape);
+        }
     }
     require(marks <= kMostMarks, "marks are few");
     (void)drawnColumns(layout);

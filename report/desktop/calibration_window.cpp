@@ -7,9 +7,8 @@ namespace winvrx {
 
 CalibrationWindow::CalibrationWindow(PrintCalibration& calibration, const QString& subtitle,
                                      const QString& paper, QWidget* parent)
-    : ScreenWindow(QStringLiteral("calibracao"), QStringLiteral("Escala e calibração"), parent),
-      calibration_(calibration) {
-    scale_ = new ScalePanel(calibration_, paper, this);
+    : ScreenWindow(QStringLiteral("calibracao"), QStringLiteral("Escala e calibração"), parent) {
+    scale_ = new ScalePanel(calibration, paper, this);
     setBody({{scale_}});
     setSubtitle(subtitle);
     setState(QStringLiteral("Cada comando é gravado na hora."));
@@ -18,7 +17,7 @@ CalibrationWindow::CalibrationWindow(PrintCalibration& calibration, const QStrin
 }
 
 bool CalibrationWindow::mayClose() {
-    return !scale_->hasTyped() || calibration_.confirmDiscarding();
+    return scale_->confirmLeaving();
 }
 
 }  // namespace winvrx

@@ -20,7 +20,6 @@ class CalibrationWindow : public ScreenWindow {
     bool mayClose() override;
 
   private:
-    PrintCalibration& calibration_;
     ScalePanel* scale_;
 };
 

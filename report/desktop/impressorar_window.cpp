@@ -43,12 +43,11 @@ void ImpressorarWindow::buildCommands() {
 
 QWidget* ImpressorarWindow::buildBody() {
     const auto [body, column] = look::body(this);
-    kind_ = new OptionGroup(QStringLiteral("&Impressora dos cartões"),
-                            QStringLiteral("impressorar.kind"), 2, body);
-    kind_->addOption(kDefault, QStringLiteral("Imprimir direto na Impressora &Padrão"),
-                     QStringLiteral("default"));
-    kind_->addOption(kInstalled, QStringLiteral("&Selecione uma Impressora Instalada"),
-                     QStringLiteral("installed"));
+    kind_ = new OptionGroup(
+        QStringLiteral("&Impressora dos cartões"), QStringLiteral("impressorar.kind"), 2,
+        {{kDefault, QStringLiteral("Imprimir direto na Impressora &Padrão"), "default"},
+         {kInstalled, QStringLiteral("&Selecione uma Impressora Instalada"), "installed"}},
+        body);
     column->addWidget(kind_);
     list_ = new QListWidget(body);
     look::name(*list_, QStringLiteral("impressorar.printers"),
@@ -127,6 +126,11 @@ void ImpressorarWindow::showChoice() {
     else
         setState(isDefault ? QStringLiteral("Impressora padrão: ") + toQt(screen_.defaultPrinter())
                            : QStringLiteral("A escolha é gravada na hora."));
+}
+
+void openPrinters(const Workplace& at, Printers& printers, QWidget* parent) {
+    Impressorar screen(at, printers);
+    ImpressorarWindow(screen, parent).exec();
 }
 
 }  // namespace winvrx

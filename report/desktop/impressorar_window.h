@@ -9,6 +9,8 @@ namespace winvrx {
 
 class Impressorar;
 class OptionGroup;
+class Printers;
+struct Workplace;
 
 /// The printer screen: the default printer or one of those installed. A choice is stored at once.
 class ImpressorarWindow : public ScreenWindow {
@@ -37,5 +39,8 @@ class ImpressorarWindow : public ScreenWindow {
     QListWidget* list_ = nullptr;
     QLabel* empty_ = nullptr;
 };
+
+/// Opens the screen; returns when it is closed.
+void openPrinters(const Workplace& at, Printers& printers, QWidget* parent);
 
 }  // namespace winvrx

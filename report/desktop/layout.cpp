@@ -8,16 +8,19 @@ namespace winvrx {
 
 namespace {
 
-void collect(const LayoutText& text, std::vector<std::size_t>& columns) {
-    for (const LayoutText::Piece& piece : text.pieces)
-        if (piece.column) columns.push_back(*piece.column);
-    columns.insert(columns.end(), text.unless.begin(), text.unless.end());
-    columns.insert(columns.end(), text.when.begin(), text.when.end());
-}
-
-void collect(const LayoutRect& rect, std::vector<std::size_t>& columns) {
-    if (rect.share) columns.push_back(*rect.share);
-    if (rect.barcode) columns.push_back(*rect.barcode);
+void collect(const LayoutMark& mark, std::vector<std::size_t>& columns) {
+    columns.insert(columns.end(), mark.unless.begin(), mark.unless.end());
+    columns.insert(columns.end(), mark.when.begin(), mark.when.end());
+    const auto add = [&columns](const std::optional<std::size_t>& column) {
+        if (column) columns.push_back(*column);
+    };
+    if (const auto* text = std::get_if<LayoutText>(&mark.shape)) {
+        for (const LayoutText::Piece& piece : text->pieces)
+            add(piece.column);
+    } else if (const auto* rect = std::get_if<LayoutRect>(&mark.shape)) {
+        add(rect->share);
+        add(rect->barcode);
+    }
 }
 
 void makeUnique(std::vector<std::size_t>& columns) {
@@ -26,7 +29,7 @@ void makeUnique(std::vector<std::size_t>& columns) {
 }
 
 bool isOfFirstRow(const LayoutSection& section) {
-    return section.rows == 0 && section.first == 0;
+    return section.place.rows == 0 && section.place.first == 0;
 }
 
 }  // namespace
@@ -42,22 +45,17 @@ PageText pageText(const ReportRows& rows) {
 QRectF cardArea(const Layout& layout) {
     QRectF area;
     for (const LayoutSection& section : layout.sections)
-        if (section.block == LayoutBlock::Stock && section.rows == 0)
+        if (section.place.block == LayoutBlock::Stock && section.place.rows == 0)
             for (const LayoutMark& mark : section.marks)
-                if (const auto* rect = std::get_if<LayoutRect>(&mark)) area |= rect->area;
+                if (const auto* rect = std::get_if<LayoutRect>(&mark.shape)) area |= rect->area;
     return area.isEmpty() ? QRectF(QPointF(), layout.page * kLayoutUnitsPerMillimetre) : area;
 }
 
 DrawnColumns drawnColumns(const Layout& layout) {
     DrawnColumns columns;
     for (const LayoutSection& section : layout.sections)
-        for (const LayoutMark& mark : section.marks) {
-            auto& into = isOfFirstRow(section) ? columns.once : columns.inRows;
-            if (const auto* text = std::get_if<LayoutText>(&mark))
-                collect(*text, into);
-            else if (const auto* rect = std::get_if<LayoutRect>(&mark))
-                collect(*rect, into);
-        }
+        for (const LayoutMark& mark : section.marks)
+            collect(mark, isOfFirstRow(section) ? columns.once : columns.inRows);
     makeUnique(columns.once);
     makeUnique(columns.inRows);
     return columns;

@@ -11,7 +11,6 @@
 #include <QStringList>
 
 #include <cstddef>
-#include <filesystem>
 #include <optional>
 #include <variant>
 #include <vector>
@@ -65,9 +64,7 @@ struct LayoutText {
     std::optional<double> width;  ///< what is longer is squeezed, then cut
     std::optional<Wrap> wrap;     ///< broken into lines of this width instead
     std::vector<Piece> pieces;
-    QString blank;                    ///< written in place of a column that is blank
-    std::vector<std::size_t> unless;  ///< drawn only where these columns are blank
-    std::vector<std::size_t> when;    ///< and only where one of these is not; none: always
+    QString blank;  ///< written in place of a column that is blank
 };
 
 /// An invalid colour draws nothing.
@@ -86,7 +83,13 @@ struct LayoutRect {
     std::optional<std::size_t> barcode;  ///< a column, drawn within it as Code 128 in its fill
 };
 
-using LayoutMark = std::variant<LayoutText, LayoutLine, LayoutRect>;
+struct LayoutMark {
+    using Shape = std::variant<LayoutText, LayoutLine, LayoutRect>;
+
+    Shape shape;
+    std::vector<std::size_t> unless;  ///< drawn only where these columns are blank
+    std::vector<std::size_t> when;    ///< and only where one of these is not; none: always
+};
 
 enum class LayoutBlock {
     Always,
@@ -94,12 +97,19 @@ enum class LayoutBlock {
     Stock    ///< the picture of the pre-printed card, shown in the preview window only
 };
 
-struct LayoutSection {
+/// Where a section's marks come to lie.
+struct LayoutPlace {
     LayoutBlock block = LayoutBlock::Always;
     int side = 0;      ///< the face of the card, 1 or 2; 0: on each
     int first = 0;     ///< the page's row that it begins with, from 0
     int rows = 0;      ///< drawn once for each of the page's rows, at most so often; 0: drawn once
     double pitch = 0;  ///< from one row down to the next
+
+    [[nodiscard]] bool operator==(const LayoutPlace&) const = default;
+};
+
+struct LayoutSection {
+    LayoutPlace place;
     std::vector<LayoutMark> marks;
 };
 

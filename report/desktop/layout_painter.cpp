@@ -8,7 +8,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
 #include <numeric>
 
 namespace winvrx {
@@ -38,10 +37,10 @@ void compose(const LayoutText& text, const PageRow& row, QString& into) {
             into += row[*piece.column].isEmpty() ? text.blank : row[*piece.column];
 }
 
-bool isLeftOut(const LayoutText& text, const PageRow& row) {
+bool isLeftOut(const LayoutMark& mark, const PageRow& row) {
     const auto isBlank = [&](std::size_t column) { return row[column].isEmpty(); };
-    return !std::ranges::all_of(text.unless, isBlank) ||
-           (!text.when.empty() && std::ranges::all_of(text.when, isBlank));
+    return !std::ranges::all_of(mark.unless, isBlank) ||
+           (!mark.when.empty() && std::ranges::all_of(mark.when, isBlank));
 }
 
 /// Takes away the blanks in front: they place a text, and only what is behind them is squeezed.
@@ -108,22 +107,24 @@ void LayoutPainter::paint(QPainter& painter, const PageText& rows, int side) {
 
 void LayoutPainter::paintSections(QPainter& painter, bool stock, const PageText& rows, int side) {
     for (const LayoutSection& section : layout_.sections) {
-        if (section.side != 0 && section.side != side) continue;
-        if (section.block == LayoutBlock::Header && !choice_.header) continue;
-        if ((section.block == LayoutBlock::Stock) == stock) paintSection(painter, section, rows);
+        const LayoutPlace& place = section.place;
+        if (place.side != 0 && place.side != side) continue;
+        if (place.block == LayoutBlock::Header && !choice_.header) continue;
+        if ((place.block == LayoutBlock::Stock) == stock) paintSection(painter, section, rows);
     }
     flush(painter);
 }
 
 void LayoutPainter::paintSection(QPainter& painter, const LayoutSection& section,
                                  const PageText& rows) {
-    const bool isStock = section.block == LayoutBlock::Stock;
-    const int present = isStock ? section.rows : static_cast<int>(rows.size()) - section.first;
-    const int count = section.rows == 0 ? 1 : std::min(section.rows, present);
+    const LayoutPlace& place = section.place;
+    const bool isStock = place.block == LayoutBlock::Stock;
+    const int present = isStock ? place.rows : static_cast<int>(rows.size()) - place.first;
+    const int count = place.rows == 0 ? 1 : std::min(place.rows, present);
     for (int i = 0; i < count; ++i) {
-        const auto position = static_cast<std::size_t>(section.first + i);
+        const auto position = static_cast<std::size_t>(place.first + i);
         const PageRow& row = position < rows.size() ? rows[position] : blank_;
-        const QPointF shift = QPointF(0, i * section.pitch);
+        const QPointF shift = QPointF(0, i * place.pitch);
         for (const LayoutMark& mark : section.marks)
             paintMark(painter, mark, row, shift);
     }
@@ -131,15 +132,16 @@ void LayoutPainter::paintSection(QPainter& painter, const LayoutSection& section
 
 void LayoutPainter::paintMark(QPainter& painter, const LayoutMark& mark, const PageRow& row,
                               QPointF shift) {
-    if (const auto* text = std::get_if<LayoutText>(&mark)) {
+    if (isLeftOut(mark, row)) return;
+    if (const auto* text = std::get_if<LayoutText>(&mark.shape)) {
         write(painter, *text, row, shift);
         return;
     }
     flush(painter);
-    if (const auto* line = std::get_if<LayoutLine>(&mark)) {
+    if (const auto* line = std::get_if<LayoutLine>(&mark.shape)) {
         painter.setPen(penOf(line->stroke, line->strokeWidth));
         painter.drawLine(line->line.translated(shift));
-    } else if (const auto* rect = std::get_if<LayoutRect>(&mark); rect && rect->barcode) {
+    } else if (const auto* rect = std::get_if<LayoutRect>(&mark.shape); rect && rect->barcode) {
         drawBars(painter, rect->area.translated(shift), rect->fill, row[*rect->barcode]);
     } else if (rect) {
         painter.setPen(penOf(rect->stroke, rect->strokeWidth));
@@ -152,7 +154,7 @@ void LayoutPainter::paintMark(QPainter& painter, const LayoutMark& mark, const P
 
 void LayoutPainter::write(QPainter& painter, const LayoutText& text, const PageRow& row,
                           QPointF shift) {
-    if (!layout_.inks[text.ink].colour.isValid() || isLeftOut(text, row)) return;
+    if (!layout_.inks[text.ink].colour.isValid()) return;
     compose(text, row, written_);
     if (written_.isEmpty()) return;
     if (text.wrap)

@@ -2,6 +2,7 @@
 
 #include "foundation/desk/log.h"
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
 #include "foundation/widgets/desktop/progress.h"
 #include "report/desktop/layout.h"
 #include "report/desktop/layout_painter.h"
@@ -60,12 +61,6 @@ Progress::Words progressOf(const PreviewWindow& window, const PageNoun& noun) {
             page + QStringLiteral(" %1 de %2")};
 }
 
-QString sentText(const PageNoun& noun, std::size_t pages) {
-    return QStringLiteral("Enviado à impressora: %1 %2")
-        .arg(pages)
-        .arg(toQt(pages == 1 ? noun.one : noun.many));
-}
-
 }  // namespace
 
 std::vector<std::filesystem::path> layoutFolders(const std::filesystem::path& dataFolder,
@@ -105,38 +100,29 @@ PrintEnd QtReportEngine::print(const ReportRequest& request, ReportPages& pages,
     return end;
 }
 
-PrintEnd QtReportEngine::gather(const ReportRequest& request, const Layout& layout,
-                                ReportPages& pages, const PageProgress& progress,
-                                PageSpool& spool) {
-    ReportTable table(database_(), request.columns, drawnColumns(layout), log_);
-    return forEachPage(request, pages, progress, [&](const ReportRows& rows) {
-        (void)table.exchange(rows);
-        spool.append(rows);
-    });
-}
-
 PrintEnd QtReportEngine::preview(const ReportRequest& request, ReportPages& pages,
                                  const PageProgress& progress, const PrintShown& printShown) {
     const Layout layout = layoutOf(request);
     PageSpool spool;
-    PrintEnd end = gather(request, layout, pages, progress, spool);
+    PrintEnd end = PrintEnd::Done;
+    {
+        ReportTable table(database_(), request.columns, drawnColumns(layout), log_);
+        end = forEachPage(request, pages, progress, [&](const ReportRows& rows) {
+            (void)table.exchange(rows);
+            spool.append(rows);
+        });
+    }
     if (end != PrintEnd::Done || spool.size() == 0) return end;
     LayoutPainter painter(
         layout, {.header = request.printHeader, .stock = true, .alignment = request.alignment});
     PreviewWindow window(toQt(request.title), painter, spool, QApplication::activeWindow());
     window.proposePdf(toQt(request.pdfPath));
-    connectCommands(window, request, spool, printShown, end);
-    window.exec();
-    return end;
-}
-
-void QtReportEngine::connectCommands(PreviewWindow& window, const ReportRequest& request,
-                                     PageSpool& spool, const PrintShown& printShown,
-                                     PrintEnd& end) {
     QObject::connect(&window, &PreviewWindow::printRequested, &window,
                      [&] { end = printFrom(window, request, spool, printShown); });
     QObject::connect(&window, &PreviewWindow::pdfRequested, &window,
                      [&](const QString& path) { savePdf(window, request, spool, path); });
+    window.exec();
+    return end;
 }
 
 /// A print that the operator cancelled leaves the preview open.
@@ -144,13 +130,13 @@ PrintEnd QtReportEngine::printFrom(PreviewWindow& window, const ReportRequest& r
                                    PageSpool& spool, const PrintShown& printShown) {
     Progress shown(progressOf(window, request.noun), &window);
     ReportPages pages = pagesOf(spool);
-    const PrintEnd printed =
-        printShown(pages, [&shown](int done, int total) { return shown.show(done, total); });
+    const PrintEnd printed = printShown(pages, std::ref(shown));
     if (printed == PrintEnd::Failed) {
         window.accept();
         return printed;
     }
-    window.tell(printed == PrintEnd::Done ? sentText(request.noun, spool.size())
+    const std::string sent = countOf(spool.size(), request.noun.one, request.noun.many);
+    window.tell(printed == PrintEnd::Done ? toQt("Enviado à impressora: " + sent)
                                           : QStringLiteral("Impressão cancelada"));
     return PrintEnd::Done;
 }
@@ -162,8 +148,7 @@ void QtReportEngine::savePdf(PreviewWindow& window, ReportRequest request, PageS
     Progress shown(progressOf(window, request.noun), &window);
     ReportPages pages = pagesOf(spool);
     try {
-        const PrintEnd saved = print(
-            request, pages, [&shown](int done, int total) { return shown.show(done, total); });
+        const PrintEnd saved = print(request, pages, std::ref(shown));
         window.tell(saved == PrintEnd::Done ? QStringLiteral("Gravado em %1").arg(path)
                                             : QStringLiteral("Gravação cancelada"));
     } catch (const std::exception& fault) {

@@ -41,12 +41,6 @@ class QtReportEngine final : public ReportEngine {
   private:
     /// Throws ReportFault where the engine is not installed, and LayoutFault.
     [[nodiscard]] Layout layoutOf(const ReportRequest& request) const;
-    /// Fills the spool with the pages, each by way of the table.
-    [[nodiscard]] PrintEnd gather(const ReportRequest& request, const Layout& layout,
-                                  ReportPages& pages, const PageProgress& progress,
-                                  PageSpool& spool);
-    void connectCommands(PreviewWindow& window, const ReportRequest& request, PageSpool& spool,
-                         const PrintShown& printShown, PrintEnd& end);
     [[nodiscard]] PrintEnd printFrom(PreviewWindow& window, const ReportRequest& request,
                                      PageSpool& spool, const PrintShown& printShown);
     void savePdf(PreviewWindow& window, ReportRequest request, PageSpool& spool,

@@ -3,11 +3,9 @@
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
-#include "report/calibration.h"
 
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -95,10 +93,11 @@ void ScalePanel::refresh() {
     showScale();
 }
 
-bool ScalePanel::hasTyped() const {
-    return textsOf(figures_) != shown_ || std::ranges::any_of(distances_, [](const auto* field) {
-               return !field->text().isEmpty();
-           });
+bool ScalePanel::confirmLeaving() {
+    const bool hasTyped =
+        textsOf(figures_) != shown_ ||
+        std::ranges::any_of(distances_, [](const Field* one) { return !one->text().isEmpty(); });
+    return !hasTyped || calibration_.confirmDiscarding();
 }
 
 ScalePanel::Texts ScalePanel::textsOf(const Fields& fields) {

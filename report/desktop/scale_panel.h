@@ -27,8 +27,8 @@ class ScalePanel : public QWidget {
 
     /// Shows the scale on record; what is typed and not recorded gives way.
     void refresh();
-    /// Figures typed and not recorded.
-    [[nodiscard]] bool hasTyped() const;
+    /// Asks before figures typed and not recorded are left behind. True when they may go.
+    [[nodiscard]] bool confirmLeaving();
 
   signals:
     /// A command was carried out, and what is said of it.

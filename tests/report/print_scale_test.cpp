@@ -1,6 +1,6 @@
 #include "report/print_scale.h"
 
-#include "report/calibration.h"
+#include "report/print_calibration.h"
 #include "tests/support/test_workplace.h"
 
 #include <gtest/gtest.h>
@@ -82,24 +82,24 @@ TEST(Calibration, TheCorrectionPutsEveryPlaceWhereItBelongs) {
     for (const auto& [scale, offset] :
          {std::pair(1.0, 0), std::pair(1.0, 150), std::pair(0.985, -220), std::pair(1.02, 480),
           std::pair(1.0999, -1000), std::pair(0.91, 2500)}) {
-        const auto correction =
-            correctionFor({kCrossNear, kCrossDown, foundAt(kCrossNear, scale, offset),
-                           foundAt(kCrossDown, scale, offset)});
+        const auto correction = scaleFrom({.topToA = foundAt(kCrossNear, scale, offset),
+                                           .topToC = foundAt(kCrossDown, scale, offset)});
         ASSERT_TRUE(correction) << scale;
         for (const int place : {500, kCrossNear, 14850, kCrossDown, 29000}) {
-            const double sent = place * (correction->scale / 10000.0) + correction->offset;
+            const double sent =
+                place * (correction->verticalScale / 10000.0) + correction->verticalOffset;
             constexpr double kTolerance = 3;  // 0.03 mm: the scale's last digit over the sheet
             EXPECT_NEAR(sent * scale + offset, place, kTolerance) << scale << " " << place;
         }
     }
-    EXPECT_EQ(correctionFor({3000, 18000, 3000, 18000}), AxisScale());
+    EXPECT_EQ(scaleFrom({}), PrintScale());
 }
 
 TEST(Calibration, ImpossibleDistancesGiveNothing) {
     for (const auto& [near, far] :
          {std::pair(3000, 3000), std::pair(18000, 3000), std::pair(3000, 21000),
           std::pair(3000, 15000), std::pair(9000, 24000), std::pair(0, 0), std::pair(-99, 99)})
-        EXPECT_EQ(correctionFor({3000, 18000, near, far}), std::nullopt) << near << " " << far;
+        EXPECT_EQ(scaleFrom({.leftToA = near, .leftToB = far}), std::nullopt) << near << " " << far;
     EXPECT_EQ(scaleFrom({.topToC = 100}), std::nullopt);
     EXPECT_EQ(scaleFrom({.leftToA = 3100, .leftToB = 18100, .topToA = 3000, .topToC = 26230}),
               (PrintScale{10000, 9901, -100, 30}));

@@ -32,6 +32,13 @@ OptionGroup::OptionGroup(const QString& caption, const QString& objectName, int 
     });
 }
 
+OptionGroup::OptionGroup(const QString& caption, const QString& objectName, int rows,
+                         const std::vector<Option>& options, QWidget* parent)
+    : OptionGroup(caption, objectName, rows, parent) {
+    for (const Option& option : options)
+        addOption(option.id, option.text, option.name);
+}
+
 void OptionGroup::addOption(int id, const QString& text, const QString& name) {
     auto* option = new QRadioButton(text, this);
     look::name(*option, objectName() + QLatin1Char('.') + name, text);

@@ -28,6 +28,8 @@ class Progress {
 
     /// False once the operator has cancelled.
     [[nodiscard]] bool show(int done, int total);
+    /// The same, for who takes a function: std::ref(progress).
+    [[nodiscard]] bool operator()(int done, int total) { return show(done, total); }
 
   private:
     void open(int total);

@@ -101,8 +101,7 @@ void CartaoPontosWindow::connectAll() {
 
 void CartaoPontosWindow::select(int entry) {
     if (entry < 0 || static_cast<std::size_t>(entry) == screen_.selected()) return;
-    if (!scale_->hasTyped() || screen_.calibration().confirmDiscarding())
-        (void)screen_.select(static_cast<std::size_t>(entry));
+    if (scale_->confirmLeaving()) (void)screen_.select(static_cast<std::size_t>(entry));
     showEntries();
     showEntry();
 }
@@ -126,7 +125,7 @@ void CartaoPontosWindow::printTest() {
 }
 
 bool CartaoPontosWindow::mayClose() {
-    return !scale_->hasTyped() || screen_.calibration().confirmDiscarding();
+    return scale_->confirmLeaving();
 }
 
 void CartaoPontosWindow::showEntry() {

@@ -193,9 +193,9 @@ TEST(LayoutReader, MeasuresInHundredthsOfAMillimetre) {
     EXPECT_EQ(layout.page, QSizeF(210, 297));
     EXPECT_EQ(layout.rowPitch, 400);
     ASSERT_EQ(layout.sections.size(), 1U);
-    EXPECT_EQ(layout.sections[0].rows, 31);
-    EXPECT_EQ(layout.sections[0].pitch, 450);
-    const auto& text = std::get<LayoutText>(layout.sections[0].marks.at(0));
+    EXPECT_EQ(layout.sections[0].place.rows, 31);
+    EXPECT_EQ(layout.sections[0].place.pitch, 450);
+    const auto& text = std::get<LayoutText>(layout.sections[0].marks.at(0).shape);
     EXPECT_EQ(text.baseline, QPointF(1300, 800));
     EXPECT_EQ(text.width, 2000);
     EXPECT_EQ(text.anchor, LayoutText::Anchor::End);
@@ -215,7 +215,7 @@ TEST(LayoutReader, TakesWhatADrawingProgramSaves) {
                   ><tspan sodipodi:role="line" x="10" y="25">olá</tspan></text>
           </g>
         </svg>)svg");
-    const auto& text = std::get<LayoutText>(layout.sections.at(0).marks.at(0));
+    const auto& text = std::get<LayoutText>(layout.sections.at(0).marks.at(0).shape);
     EXPECT_EQ(text.baseline, QPointF(500, 500));
     EXPECT_EQ(text.pieces.at(0).literal, QStringLiteral("olá"));
     const Ink ink{{QStringLiteral("Liberation Sans")}, 250, 700, false, QColor(Qt::blue)};
@@ -243,7 +243,7 @@ TEST(LayoutReader, KnowsTheFacesOfACardAndWhereTheirRowsBegin) {
     EXPECT_EQ(layout.sides, 2);
     std::vector<std::array<int, 3>> sections;
     for (const LayoutSection& section : layout.sections)
-        sections.push_back({section.side, section.first, section.rows});
+        sections.push_back({section.place.side, section.place.first, section.place.rows});
     using Section = std::array<int, 3>;
     EXPECT_THAT(sections, ElementsAre(Section{1, 0, 15}, Section{2, 15, 0}, Section{2, 15, 16}));
     EXPECT_THAT(drawnColumns(layout).once, ::testing::IsEmpty());

@@ -1,5 +1,5 @@
-#include "report/calibration.h"
 #include "report/desktop/layout_reader.h"
+#include "report/print_calibration.h"
 #include "tests/support/printed_card.h"
 
 #include <gtest/gtest.h>
@@ -63,7 +63,7 @@ TEST_F(PrintedScale, CalibrationSheetHasItsCrossesInPlace) {
     const auto hasLine = [&sheet](QPointF middle, QPointF reach) {
         return std::ranges::any_of(sheet.sections, [&](const LayoutSection& section) {
             return std::ranges::any_of(section.marks, [&](const LayoutMark& mark) {
-                const auto* line = std::get_if<LayoutLine>(&mark);
+                const auto* line = std::get_if<LayoutLine>(&mark.shape);
                 return line && line->line == QLineF(middle - reach, middle + reach);
             });
         });
