@@ -5,7 +5,6 @@
 #include "bench/office.h"
 #include "foundation/desk/desktop/xlsx_spreadsheet.h"
 #include "output/mirrors/hours_report.h"
-#include "output/mirrors/hours_tables.h"
 #include "tests/support/memory_files.h"
 #include "timecard/hours/employee_hours.h"
 

@@ -3,13 +3,13 @@
 #include "foundation/desk/browser.h"
 #include "foundation/desk/command.h"
 #include "foundation/register/employee.h"
-#include "output/cards/pdf_name.h"
-#include "output/stocks/card_stock.h"
 #include "output/stocks/printer_memory.h"
-#include "report/print_pages.h"
+#include "report/printers.h"
+#include "report/report_engine.h"
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace winvrx {
@@ -42,53 +42,37 @@ struct PrintRun {
     std::function<void()> chooseStock = {};
 };
 
+/// What a screen that prints works with beside the desk. All outlive the screen.
+struct PrintingDesk {
+    Browser& browser;
+    ReportEngine& engine;
+    const Printers& printers;
+};
+
 /// The cards of a run, or other pages of employees, and how they are printed.
 struct CardBatch {
     std::vector<Employee> people;
     std::string companyName;
-    std::string period;     ///< in the names of PDF files: "03-2024"
-    std::string stockCode;  ///< of a stock that the card print knows; empty: the request's layout
+    std::string period;  ///< in the names of PDF files: "03-2024", "21/02/2024 a 20/03/2024"
+    std::string stockCode = {};  ///< of a stock of the card print; empty: the request's layout
     PrintChoices choices;
     ReportRequest request;  ///< without PDF path; its title and noun name the pages
     std::size_t pagesEach = 1;
     /// A page of an employee, counted from 0; called when its turn comes, may throw.
     std::function<ReportRows(const Employee&, std::size_t page)> rowsOf;
+    std::string opening;  ///< title of the offer to open what was saved
 };
 
-/// Sends the cards of a list to printer, preview or PDF files. A failed card ends the run; cards
-/// already printed stay printed.
-class CardRun {
-  public:
-    CardRun(const Workplace& at, ReportEngine& engine, CardBatch batch, const PrintRun& run);
+/// Sends the cards of a list to printer, preview or PDF files, and offers to open the files. A
+/// failed card ends the run; cards already printed stay printed. True when every card was printed;
+/// who was not told why knows, having cancelled.
+[[nodiscard]] bool printCards(const Workplace& at, const PrintingDesk& desk, const CardBatch& batch,
+                              const PrintRun& run);
 
-    /// True when every card was printed; who was not told why knows, having cancelled.
-    [[nodiscard]] bool print();
-    /// The PDF files that `print` has written, in order.
-    [[nodiscard]] const std::vector<std::string>& savedFiles() const { return savedFiles_; }
-
-  private:
-    using People = std::vector<Employee>;
-
-    [[nodiscard]] bool printOneAtATime();
-    [[nodiscard]] bool confirmCard(const Employee& employee);
-    [[nodiscard]] bool printJob(const People& people, LayoutSet set);
-    [[nodiscard]] bool savePdfOfEach(const People& people, LayoutSet set);
-    [[nodiscard]] std::string pdfNameFor(const People& people) const;
-    [[nodiscard]] PdfNaming naming() const { return {batch_.request.title, batch_.period}; }
-    [[nodiscard]] bool choosePdfFolder();
-    [[nodiscard]] bool confirmReplacing();
-
-    [[nodiscard]] ReportRequest requestFor(LayoutSet set) const;
-    [[nodiscard]] bool send(const ReportRequest& request, const People& people,
-                            const PageProgress& progress);
-
-    Workplace at_;
-    ReportEngine& engine_;
-    CardBatch batch_;
-    PrintRun run_;
-    std::string pdfFolder_;
-    std::vector<std::string> savedFiles_;
-};
+/// "CARTÃO PONTO EMPRESA MODELO LTDA 03-2024.pdf", of title, subject and period: a plain file name
+/// whatever subject and period hold.
+[[nodiscard]] std::string pdfNameOf(const std::string& title, std::string_view subject,
+                                    const std::string& period);
 
 /// Offers to open the PDF files that a run has saved, or their folder.
 void offerToOpenPdf(Operator& person, Browser& browser, const std::string& title,

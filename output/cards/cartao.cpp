@@ -2,7 +2,6 @@
 
 #include "foundation/register/company_register.h"
 #include "report/print_pages.h"
-#include "timecard/month/overtime_record.h"
 #include "timecard/month/selected_month.h"
 
 #include <utility>
@@ -11,14 +10,16 @@ namespace winvrx {
 
 namespace {
 
-const Message kNoStock = refusal("IMPRIMIR CARTÃO PONTO", "Selecione um Tipo de Cartão na Lista! ");
-const Message kNoEmployee = refusal("IMPRIMIR CARTÃO PONTO", "Selecione um Funcionário na Lista! ");
-const Message kNoMonth = refusal("IMPRIMIR CARTÃO PONTO", "Informe um Mês de Trabalho!!",
+constexpr auto kPrintTitle = "IMPRIMIR CARTÃO PONTO";
+
+const Message kNoStock = refusal(kPrintTitle, "Selecione um Tipo de Cartão na Lista! ");
+const Message kNoEmployee = refusal(kPrintTitle, "Selecione um Funcionário na Lista! ");
+const Message kNoMonth = refusal(kPrintTitle, "Informe um Mês de Trabalho!!",
                                  "Escolha-o em \"Mês Trabalho (Todos)\" (Ctrl+M).");
 
 Message confirmOne(ReportOutput output) {
-    Message message = question("IMPRIMIR CARTÃO PONTO",
-                               "Este Comando Irá Imprimir o Item Selecionado. Deseja Prosseguir?");
+    Message message =
+        question(kPrintTitle, "Este Comando Irá Imprimir o Item Selecionado. Deseja Prosseguir?");
     if (output == ReportOutput::Preview)
         message.detail = "Com \"Visualizar\" o cartão só aparece na tela; nada é impresso.";
     else if (output == ReportOutput::PdfFile)
@@ -27,7 +28,7 @@ Message confirmOne(ReportOutput output) {
 }
 
 Message confirmOutsiders(const std::vector<std::string>& names) {
-    return question("IMPRIMIR CARTÃO PONTO",
+    return question(kPrintTitle,
                     "Há Funcionários Inativos antes do Mês de Trabalho ou Admitidos depois dele. "
                     "Deseja Imprimir também os Cartões deles?",
                     namesText(names, kMostNames));
@@ -35,8 +36,8 @@ Message confirmOutsiders(const std::vector<std::string>& names) {
 
 }  // namespace
 
-Cartao::Cartao(const Workplace& at, const CartaoDesk& desk)
-    : at_(at), desk_(desk), list_(at.session.shiftFilter) {}
+Cartao::Cartao(const Workplace& at, const PrintingDesk& desk, const AlignmentMemory& alignment)
+    : at_(at), desk_(desk), alignment_(alignment), list_(at.session.shiftFilter) {}
 
 void Cartao::load() {
     (void)attempt(at_, incorrectData(), [this] {
@@ -67,10 +68,8 @@ std::string Cartao::stockLabel() const {
 std::string Cartao::headerPreview(std::optional<std::size_t> position) const {
     if (!month_ || !isShown(position)) return {};
     std::string text;
-    (void)attempt(at_, incorrectData(), [&] {
-        text = headerText(
-            cardOf(list_.employees()[*position], {loadMonthSettings(at_.store(), *month_), {}}));
-    });
+    (void)attempt(at_, incorrectData(),
+                  [&] { text = headerText(loadCard(runMonth(), list_.employees()[*position])); });
     return text;
 }
 
@@ -104,15 +103,8 @@ bool Cartao::requireChoices(bool anyEmployee, const PrintRun& run) {
 
 bool Cartao::print(const std::vector<Employee>& people, const PrintRun& run) {
     (void)remember();
-    std::vector<std::string> saved;
-    const bool printed = attempt(at_, printFailed(), [&] {
-        CardRun cards(at_, desk_.engine, batchOf(people), run);
-        const bool done = cards.print();
-        saved = cards.savedFiles();
-        return done;
-    });
-    offerToOpenPdf(at_.person, desk_.browser, "IMPRIMIR CARTÃO PONTO", saved);
-    return printed;
+    return attempt(at_, printFailed(),
+                   [&] { return printCards(at_, desk_, batchOf(people), run); });
 }
 
 CardBatch Cartao::batchOf(const std::vector<Employee>& people) const {
@@ -122,40 +114,28 @@ CardBatch Cartao::batchOf(const std::vector<Employee>& people) const {
                                 .title = std::string(kCartaoTitle),
                                 .columns = cardColumns(),
                                 .printHeader = choices_.printer.printHeader,
-                                .alignment = loadAlignment(at_.store(), key, desk_.alignment),
+                                .alignment = loadAlignment(at_.store(), key, alignment_),
                                 .exit = choices_.printer.exit,
                                 .noun = cardNoun(),
                                 .printerName = printer_,
                                 .trays = choices_.printer.trays};
-    RunMonth month{loadMonthSettings(at_.store(), *month_), {}};
+    CardRunMonth month = runMonth();
     if (people.size() > 1) month.names = namesIn(at_.store());
-    return {.people = people,
-            .companyName = company_.name,
-            .period = monthKey(*month_),
-            .stockCode = std::string(stock_->code),
-            .choices = choices_,
-            .request = request,
-            .rowsOf = [this, month = std::move(month)](const Employee& one, std::size_t) {
-                return cardRows(cardOf(one, month));
-            }};
+    return {
+        .people = people,
+        .companyName = company_.name,
+        .period = monthKey(*month_),
+        .stockCode = std::string(stock_->code),
+        .choices = choices_,
+        .request = request,
+        .rowsOf = [month = std::move(month)](
+                      const Employee& one, std::size_t) { return cardRows(loadCard(month, one)); },
+        .opening = kPrintTitle};
 }
 
-CardData Cartao::cardOf(const Employee& employee, const RunMonth& run) const {
-    const EmployeeKey key{at_.session.company.value(), employee.employeeCode().value()};
-    MonthSettings settings = run.settings;
-    const auto mayHave = [&](const std::string& name) {
-        return !run.names || run.names->contains(key.company.text() + name);
-    };
-    if (mayHave(overtimeFileName(key.employee)))
-        settings.overtime = overtimeOf(at_.store(), key, settings);
-    return {.company = company_,
-            .employee = employee,
-            .settings = std::move(settings),
-            .schedule = loadSchedule(at_.store(), key),
-            .punches = loadPunches(at_.store(), key, *month_),
-            .leaves = mayHave(leaveFileName(key.employee))
-                          ? loadLeaveCalendar(at_.store(), key, employee.admissionDate())
-                          : LeaveCalendar({}, employee.admissionDate())};
+CardRunMonth Cartao::runMonth() const {
+    return {at_.store(), at_.session.company.value(), company_,
+            loadMonthSettings(at_.store(), *month_)};
 }
 
 }  // namespace winvrx

@@ -2,14 +2,11 @@
 
 #include "foundation/desk/browser.h"
 #include "foundation/desk/command.h"
-#include "foundation/files/folder_names.h"
 #include "foundation/register/company.h"
 #include "foundation/register/employee_list.h"
 #include "output/cards/card_run.h"
 #include "output/stocks/card_alignment.h"
 #include "output/stocks/card_rows.h"
-#include "report/printers.h"
-#include "timecard/month/month_settings.h"
 
 #include <optional>
 #include <string>
@@ -20,14 +17,6 @@ namespace winvrx {
 
 inline constexpr std::string_view kCartaoTitle = "CARTÃO PONTO";
 
-/// What the printing screen works with beside the desk. All outlive the screen.
-struct CartaoDesk {
-    Browser& browser;
-    ReportEngine& engine;
-    const Printers& printers;
-    const AlignmentMemory& alignment;
-};
-
 /// The time-card printing screen.
 ///
 /// Prints the cards of those whom the list shows, in file order. The month is read once a run, a
@@ -35,7 +24,8 @@ struct CartaoDesk {
 /// printed.
 class Cartao {
   public:
-    Cartao(const Workplace& at, const CartaoDesk& desk);
+    /// `alignment` outlives the screen.
+    Cartao(const Workplace& at, const PrintingDesk& desk, const AlignmentMemory& alignment);
 
     /// Reads company, employees, work month, stock, printer and what the screen remembers again.
     void load();
@@ -44,7 +34,6 @@ class Cartao {
     bool remember();
 
     [[nodiscard]] EmployeeList& list() { return list_; }
-    [[nodiscard]] const EmployeeList& list() const { return list_; }
     [[nodiscard]] const Company& company() const { return company_; }
     /// The stock's display name; empty when none is chosen.
     [[nodiscard]] std::string stockLabel() const;
@@ -71,16 +60,12 @@ class Cartao {
     [[nodiscard]] bool requireChoices(bool anyEmployee, const PrintRun& run);
     [[nodiscard]] bool print(const std::vector<Employee>& people, const PrintRun& run);
     [[nodiscard]] CardBatch batchOf(const std::vector<Employee>& people) const;
-    /// What the cards of a run have in common.
-    struct RunMonth {
-        MonthSettings settings;
-        /// Of the folder, to tell who has leaves or percentages of his own; nullopt for one card.
-        std::optional<FolderNames> names;
-    };
-    [[nodiscard]] CardData cardOf(const Employee& employee, const RunMonth& run) const;
+    /// The work month, which is chosen, with what its cards have in common.
+    [[nodiscard]] CardRunMonth runMonth() const;
 
     Workplace at_;
-    CartaoDesk desk_;
+    PrintingDesk desk_;
+    const AlignmentMemory& alignment_;
     PrintChoices choices_;
     PrinterMemory remembered_;
     EmployeeList list_;

@@ -93,11 +93,10 @@ Hint labelTextHint(std::string_view shown, Entry) {
         return hint;
     const std::size_t lines = labelLines(storedLabelText(shown)).size();
     const std::string count = countOf(lines, "linha");
-    std::string tooSmall;
-    for (const LabelSheet& sheet : kLabelSheets)
-        if (lines > sheet.lines)
-            tooSmall += (tooSmall.empty() ? "" : "; ") + std::string(sheet.name) + " (" +
-                        std::to_string(sheet.lines) + ")";
+    const std::string tooSmall = joined(kLabelSheets, "; ", [lines](const LabelSheet& sheet) {
+        if (lines <= sheet.lines) return std::string();
+        return std::string(sheet.name) + " (" + std::to_string(sheet.lines) + ")";
+    });
     return tooSmall.empty() ? Hint{Hint::Tone::Good, count + ": cabe em todas as folhas"}
                             : Hint{Hint::Tone::Warning, count + ": não cabe em " + tooSmall};
 }

@@ -24,30 +24,14 @@ const Message kConfirmFrames =
 constexpr std::size_t kMostNamed = 8;
 
 Message tooLong(const std::vector<std::string>& lines, std::size_t count) {
-    std::string detail;
-    for (const std::string& line : lines)
-        detail += (detail.empty() ? "" : "\n") + line;
+    std::string detail = joined(lines, "\n");
     if (count > lines.size()) detail += "\ne mais " + countOf(count - lines.size(), "etiqueta");
     return refusal("Aviso", "O Texto não Cabe na Etiqueta!", detail);
-}
-
-std::string dayInNames(Date day) {
-    std::string text = dateText(day);
-    std::ranges::replace(text, '/', '-');
-    return text;
 }
 
 void append(LabelLines& lines, const std::string& line) {
     for (std::string& part : wrappedLine(line))
         lines.push_back(std::move(part));
-}
-
-/// The parts that are not empty, parted by a dash.
-std::string joined(std::initializer_list<std::string> parts) {
-    std::string text;
-    for (const std::string& part : parts)
-        if (!part.empty()) text += (text.empty() ? "" : " - ") + part;
-    return text;
 }
 
 }  // namespace
@@ -56,7 +40,7 @@ LabelLines addressLines(const Employee& employee) {
     LabelLines lines;
     append(lines, "NOME: " + employee.name);
     append(lines, " CTPS: " + employee.workBooklet);
-    const std::string place = joined({employee.district, employee.city, employee.state});
+    const std::string place = joined({employee.district, employee.city, employee.state}, " - ");
     for (const std::string& line : {employee.address, place})
         if (!line.empty()) append(lines, line);
     append(lines, "CEP: " + employee.postalCode);
@@ -65,7 +49,7 @@ LabelLines addressLines(const Employee& employee) {
     return lines;
 }
 
-Etiquetas::Etiquetas(const Workplace& at, const EtiquetasDesk& desk, std::string_view sheetName)
+Etiquetas::Etiquetas(const Workplace& at, const PrintingDesk& desk, std::string_view sheetName)
     : at_(at), desk_(desk), list_(at.session.shiftFilter) {
     choices_.sheet = labelSheetNamed(sheetName).value_or(0);
     choices_.day = dateText(at.clock.today());
@@ -140,9 +124,9 @@ std::string Etiquetas::nameOf(std::size_t label) const {
 }
 
 bool Etiquetas::requireTicks() {
-    if (labels().labels > 0) return true;
-    at_.person.tell(choices_.kind == LabelKind::Addresses ? noEmployeeSelected() : kNoText);
-    return false;
+    return labels().labels > 0 ||
+           at_.person.refuse(choices_.kind == LabelKind::Addresses ? noEmployeeSelected()
+                                                                   : kNoText);
 }
 
 bool Etiquetas::requireFitting(const LabelRun& labels) {
@@ -157,8 +141,7 @@ bool Etiquetas::requireFitting(const LabelRun& labels) {
                         "\", é demais para uma etiqueta de " + std::to_string(labels.sheet.lines) +
                         " linhas.");
     }
-    if (count > 0) at_.person.tell(tooLong(named, count));
-    return count == 0;
+    return count == 0 || at_.person.refuse(tooLong(named, count));
 }
 
 bool Etiquetas::print(const PrintRun& run) {
@@ -174,9 +157,7 @@ bool Etiquetas::printFrames(const PrintRun& run) {
     if (choices_.output == ReportOutput::Printer && !at_.person.agrees(kConfirmFrames))
         return false;
     return attempt(at_, printFailed(), [&] {
-        const LabelSheet& chosen = sheet();
-        return send(labelRequest(), {1, [&chosen](std::size_t) { return labelFrames(chosen); }},
-                    run);
+        return send(labelRequest(), {1, [this](std::size_t) { return labelFrames(sheet()); }}, run);
     });
 }
 
@@ -200,11 +181,11 @@ ReportRequest Etiquetas::labelRequest() const {
 
 bool Etiquetas::send(ReportRequest request, ReportPages pages, const PrintRun& run) {
     request.printerName = printer_;
-    request.pdfPath = pdfNameOf(company_.name, {request.title, dayInNames(at_.clock.today())});
+    request.pdfPath = pdfNameOf(request.title, company_.name, dateText(at_.clock.today()));
     const bool toPdf = request.output == ReportOutput::PdfFile;
     if (toPdf) request.pdfPath = run.choosePdf ? run.choosePdf(request.pdfPath) : std::string();
     if (request.pdfPath.empty()) return false;
-    if (printPages({at_, desk_.engine, run.progress}, request, pages) != PrintEnd::Done)
+    if (printPages({at_, desk_.engine, run.progress}, request, std::move(pages)) != PrintEnd::Done)
         return false;
     if (toPdf) offerToOpenPdf(at_.person, desk_.browser, request.title, {request.pdfPath});
     return true;

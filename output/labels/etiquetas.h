@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/desk/browser.h"
 #include "foundation/desk/command.h"
 #include "foundation/register/company.h"
 #include "foundation/register/employee_list.h"
@@ -8,9 +7,7 @@
 #include "output/labels/label_pages.h"
 #include "output/labels/stock_sheet.h"
 #include "report/print_scale.h"
-#include "report/printers.h"
 
-#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -20,13 +17,6 @@ namespace winvrx {
 
 inline constexpr std::string_view kEtiquetasTitle = "ETIQUETAS";
 inline constexpr std::string_view kLabelProgressTitle = "IMPRIMINDO ETIQUETA CTPS";
-
-/// What the label screen works with beside the desk. All outlive the screen.
-struct EtiquetasDesk {
-    Browser& browser;
-    ReportEngine& engine;
-    const Printers& printers;
-};
 
 enum class LabelKind {
     Annotations,  ///< the ticked texts, of nobody or of each ticked employee
@@ -49,7 +39,7 @@ struct LabelChoices {
 class Etiquetas {
   public:
     /// `sheetName` is the sheet that is offered; an unknown one offers the first.
-    Etiquetas(const Workplace& at, const EtiquetasDesk& desk, std::string_view sheetName);
+    Etiquetas(const Workplace& at, const PrintingDesk& desk, std::string_view sheetName);
 
     /// Reads company, employees, catalogue and printer again; what is ticked stays ticked.
     void load();
@@ -89,7 +79,7 @@ class Etiquetas {
     [[nodiscard]] ReportRequest labelRequest() const;
 
     Workplace at_;
-    EtiquetasDesk desk_;
+    PrintingDesk desk_;
     EmployeeList list_;
     LabelChoices choices_;
     Company company_;

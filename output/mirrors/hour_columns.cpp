@@ -1,9 +1,8 @@
 #include "output/mirrors/hour_columns.h"
 
 #include "foundation/values/text.h"
+#include "output/stocks/card_rows.h"
 #include "timecard/hours/hours_summary.h"
-
-#include <array>
 
 namespace winvrx {
 
@@ -64,16 +63,12 @@ std::vector<HourColumn> summaryColumns(const OvertimeRules& rules) {
 
 std::string workedTimes(const MirrorDay& day) {
     if (!day.line.hasTimes()) return " " + day.situation;
-    const PunchLine& line = day.line;
-    const std::array<const std::string*, 6> times = {&line.morningEntry,   &line.morningExit,
-                                                     &line.afternoonEntry, &line.afternoonExit,
-                                                     &line.extraEntry,     &line.extraExit};
     constexpr std::size_t kTimeWidth = 5;
     std::string text;
-    text.reserve(times.size() * (kTimeWidth + 1));
-    for (const std::string* time : times) {
+    text.reserve(kPunchTimes.size() * (kTimeWidth + 1));
+    for (const auto time : kPunchTimes) {
         if (!text.empty()) text += ' ';
-        appendFitted(text, *time, kTimeWidth);
+        appendFitted(text, day.line.*time, kTimeWidth);
     }
     return text;
 }

@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 // The columns of hours in text reports and spreadsheets, titled with the rates that hold.

@@ -4,8 +4,6 @@
 #include "report/print_pages.h"
 #include "report/printers.h"
 
-#include <algorithm>
-
 namespace winvrx {
 
 /// What is printed of everyone: the question before it, its layout, its rows.
@@ -36,13 +34,10 @@ Message confirmation(const std::string& title, const std::string& text, ReportOu
     return message;
 }
 
-/// "03-2024", or "21-02-2024 a 20-03-2024".
+/// "03-2024", or "21/02/2024 a 20/03/2024".
 std::string periodInNames(const DayPeriod& period) {
     const WorkMonth month = monthOf(period.first);
-    if (period == DayPeriod{firstDay(month), lastDay(month)}) return monthKey(month);
-    std::string text = dateText(period.first) + " a " + dateText(period.last);
-    std::ranges::replace(text, '/', '-');
-    return text;
+    return period == calendarMonth(month) ? monthKey(month) : periodText(period);
 }
 
 }  // namespace
@@ -54,14 +49,8 @@ bool HoursReports::printMirrors(const PrintChoices& choices, const PrintRun& run
                           "espelhos.rpt",
                           {"espelho", "espelhos"},
                           mirrorRows};
-    if (!requirePeriod() ||
-        !at_.person.agrees(confirmation(form.title, form.question, choices.output)) ||
-        !requirePrintingDrive())
-        return false;
-    return attempt(at_, printFailed(), [&] {
-        const People people = recordedOf(confirmPeople());
-        return !people.empty() && print(form, people, choices, run);
-    });
+    return requirePeriod() &&
+           print(form, choices, run, [this] { return recordedOf(confirmPeople()); });
 }
 
 bool HoursReports::printManualSheet(std::optional<std::size_t> position,
@@ -72,18 +61,8 @@ bool HoursReports::printManualSheet(std::optional<std::size_t> position,
                           "espelho.rpt",
                           {},
                           manualRows};
-    if (!requirePeriod()) return false;
-    if (!position || !list_.isShown(*position)) {
-        at_.person.tell(noEmployeeSelected());
-        return false;
-    }
-    if (!at_.person.agrees(confirmation(form.title, form.question, choices.output)) ||
-        !requirePrintingDrive())
-        return false;
-    return attempt(at_, printFailed(), [&] {
-        const People people = withoutMissingGroups({list_.employees()[*position]});
-        return !people.empty() && print(form, people, choices, run);
-    });
+    const Employee* employee = requirePeriod() ? requireSelected(position) : nullptr;
+    return employee && print(form, choices, run, [&] { return withoutMissingGroups({*employee}); });
 }
 
 HoursReports::People HoursReports::recordedOf(const People& people) {
@@ -99,8 +78,20 @@ HoursReports::People HoursReports::recordedOf(const People& people) {
     return recorded;
 }
 
-bool HoursReports::print(const MirrorForm& form, const People& people, const PrintChoices& choices,
-                         const PrintRun& run) {
+bool HoursReports::print(const MirrorForm& form, const PrintChoices& choices, const PrintRun& run,
+                         const std::function<People()>& whom) {
+    if (!at_.person.agrees(confirmation(form.title, form.question, choices.output)) ||
+        !requirePrintingDrive())
+        return false;
+    return attempt(at_, printFailed(), [&] {
+        const People people = whom();
+        return !people.empty() && printCards(at_, {desk_.browser, desk_.engine, desk_.printers},
+                                             batchOf(form, people, choices), run);
+    });
+}
+
+CardBatch HoursReports::batchOf(const MirrorForm& form, const People& people,
+                                const PrintChoices& choices) {
     std::vector<MirrorPeriod> pages;
     for (const DayPeriod& page : mirrorPages(*period_))
         pages.emplace_back(at_.store(), at_.session.company.value(), page);
@@ -110,20 +101,17 @@ bool HoursReports::print(const MirrorForm& form, const People& people, const Pri
     request.columns = mirrorColumns();
     request.noun = form.noun;
     request.printerName = loadPrinterName(at_.store());
-    CardBatch batch{.people = people,
-                    .companyName = company_.name,
-                    .period = periodInNames(*period_),
-                    .stockCode = {},
-                    .choices = choices,
-                    .request = std::move(request),
-                    .pagesEach = pages.size(),
-                    .rowsOf = [&](const Employee& one, std::size_t page) {
-                        return form.rowsOf(company_, pages[page].of(one));
-                    }};
-    CardRun mirrors(at_, desk_.engine, std::move(batch), run);
-    const bool printed = mirrors.print();
-    offerToOpenPdf(at_.person, desk_.browser, form.title, mirrors.savedFiles());
-    return printed;
+    const std::size_t pagesEach = pages.size();
+    return {.people = people,
+            .companyName = company_.name,
+            .period = periodInNames(*period_),
+            .choices = choices,
+            .request = std::move(request),
+            .pagesEach = pagesEach,
+            .rowsOf = [this, rowsOf = form.rowsOf, pages = std::move(pages)](
+                          const Employee& one,
+                          std::size_t page) { return rowsOf(company_, pages[page].of(one)); },
+            .opening = form.title};
 }
 
 }  // namespace winvrx

@@ -1,5 +1,6 @@
 #include "output/mirrors/hours_overview.h"
 
+#include "foundation/values/text.h"
 #include "output/mirrors/hours_reports.h"
 #include "report/print_pages.h"
 #include "report/printers.h"
@@ -49,9 +50,9 @@ std::string totalsText(const std::vector<OverviewLine>& lines, TotalsFormat form
         sum.extra += line.extra;
         sum.normal += line.normal;
     }
-    return std::to_string(lines.size()) + (lines.size() == 1 ? " funcionário" : " funcionários") +
-           " · Faltas " + formatted(sum.missing, format) + " · Extras " +
-           formatted(sum.extra, format) + " · Normais " + formatted(sum.normal, format);
+    return countOf(lines.size(), "funcionário") + " · Faltas " + formatted(sum.missing, format) +
+           " · Extras " + formatted(sum.extra, format) + " · Normais " +
+           formatted(sum.normal, format);
 }
 
 OverviewLine lineOf(const MirrorSheet& sheet) {
@@ -73,8 +74,7 @@ std::vector<ReportRows> overviewPages(const OverviewHeading& heading,
     const TotalsFormat format = heading.format;
     const std::size_t count =
         std::max<std::size_t>((lines.size() + kLinesOnPage - 1) / kLinesOnPage, 1);
-    const std::string period =
-        dateText(heading.period.first) + " a " + dateText(heading.period.last);
+    const std::string period = periodText(heading.period);
     const std::string totals = totalsText(lines, format);
     std::vector<ReportRows> pages(count);
     for (std::size_t at = 0; at < lines.size(); ++at) {
@@ -113,10 +113,10 @@ bool HoursReports::showOverview(const PageProgress& progress) {
         sortByAttention(lines);
         const auto made = overviewPages(
             {company_, *period_, mirrorPeriod().lastMonth().overtime.totalsFormat}, lines);
-        ReportPages pages(made.size(), [&made](std::size_t at) { return made[at]; });
+        const auto page = [&made](std::size_t at) { return made[at]; };
         ReportRequest request = overviewRequest();
         request.printerName = loadPrinterName(at_.store());
-        return printPages({at_, desk_.engine}, request, pages) == PrintEnd::Done;
+        return printPages({at_, desk_.engine}, request, {made.size(), page}) == PrintEnd::Done;
     });
 }
 

@@ -3,9 +3,7 @@
 #include "foundation/desk/text_report.h"
 #include "foundation/register/company_register.h"
 #include "foundation/values/csv.h"
-#include "foundation/values/text.h"
 #include "output/mirrors/hours_report.h"
-#include "output/mirrors/hours_tables.h"
 #include "report/print_pages.h"
 #include "timecard/month/selected_month.h"
 #include "timecard/punches/application_checks.h"
@@ -55,14 +53,14 @@ void HoursReports::load() {
         company_ = loadCompany(at_.store(), company);
         const auto selected = loadSelectedMonth(at_.store());
         month_ = selected ? std::optional(selected->month) : std::nullopt;
-        if (!period_ && month_) period_ = DayPeriod{firstDay(*month_), lastDay(*month_)};
+        if (!period_ && month_) period_ = calendarMonth(*month_);
         list_.load(at_.store(), company);
     });
 }
 
 void HoursReports::chooseMonth() {
     if (month_)
-        period_ = DayPeriod{firstDay(*month_), lastDay(*month_)};
+        period_ = calendarMonth(*month_);
     else
         at_.person.tell(noMonthChosen());
 }
@@ -83,15 +81,22 @@ bool HoursReports::choosePeriod(std::string_view first, std::string_view last) {
     return true;
 }
 
-Message HoursReports::noPeriod() {
-    return refusal(kTitle, "Informe o Período do Relatório!",
-                   "Duas datas, como 01/03/2024 e 31/03/2024, a segunda não antes da primeira e no "
-                   "máximo um ano depois dela.");
+void HoursReports::refusePeriod() {
+    at_.person.tell(
+        refusal(kTitle, "Informe o Período do Relatório!",
+                "Duas datas, como 01/03/2024 e 31/03/2024, a segunda não antes da primeira e no "
+                "máximo um ano depois dela."));
 }
 
 bool HoursReports::requirePeriod() {
     if (!period_) refusePeriod();
     return period_.has_value();
+}
+
+const Employee* HoursReports::requireSelected(std::optional<std::size_t> position) {
+    if (position && list_.isShown(*position)) return &list_.employees()[*position];
+    at_.person.tell(noEmployeeSelected());
+    return nullptr;
 }
 
 HoursReports::People HoursReports::confirmPeople() {
@@ -144,8 +149,7 @@ bool HoursReports::forEachSheet(const PageProgress& progress,
         take(std::move(sheet));
         if (progress && !progress(++done, static_cast<int>(people.size()))) return false;
     }
-    if (!recorded) at_.person.tell(kNoData);
-    return recorded;
+    return recorded || at_.person.refuse(kNoData);
 }
 
 bool HoursReports::report(const PageProgress& progress) {
@@ -162,9 +166,8 @@ bool HoursReports::writeText(const PageProgress& progress) {
     HoursReport report(*period_, mirrorPeriod().lastMonth().overtime);
     if (!forEachSheet(progress, [&](const MirrorSheet& sheet) { report.add(sheet); })) return false;
     const auto path = at_.session.folder.file(kHoursReportName);
-    if (showReports(at_, desk_.editor, {{path, std::move(report).lines()}})) return true;
-    at_.person.tell(notShown(path.string()));
-    return false;
+    return showReports(at_, desk_.editor, {{path, std::move(report).lines()}}) ||
+           at_.person.refuse(notShown(path.string()));
 }
 
 bool HoursReports::writeWorkbook(const PageProgress& progress) {
@@ -179,30 +182,21 @@ bool HoursReports::writeWorkbook(const PageProgress& progress) {
         const auto hold = holdFolder(at_);
         at_.files.replace(path, bytes);
     }
-    if (desk_.browser.open(path.string())) return true;
-    at_.person.tell(workbookNotOpened(path.string()));
-    return false;
+    return desk_.browser.open(path.string()) || at_.person.refuse(workbookNotOpened(path.string()));
 }
 
 bool HoursReports::showMirrorText(std::optional<std::size_t> position) {
-    if (!requirePeriod()) return false;
-    if (!position || !list_.isShown(*position)) {
-        at_.person.tell(noEmployeeSelected());
-        return false;
-    }
-    const Employee& employee = list_.employees()[*position];
-    return attempt(at_, incorrectData(), [&] {
-        if (withoutMissingGroups({employee}).empty()) return false;
-        const MirrorSheet sheet = mirrorPeriod().of(employee);
-        if (!sheet.recorded) {
-            at_.person.tell(kNoData);
-            return false;
-        }
-        const auto path = at_.session.folder.file(kMirrorTextName);
-        if (showReports(at_, desk_.editor, {{path, mirrorText(company_, sheet)}})) return true;
-        at_.person.tell(notShown(path.string()));
-        return false;
-    });
+    const Employee* employee = requirePeriod() ? requireSelected(position) : nullptr;
+    return employee && attempt(at_, incorrectData(), [&] {
+               if (withoutMissingGroups({*employee}).empty()) return false;
+               const MirrorSheet sheet = mirrorPeriod().of(*employee);
+               if (!sheet.recorded) return at_.person.refuse(kNoData);
+               const auto path = at_.session.folder.file(kMirrorTextName);
+               if (showReports(at_, desk_.editor, {{path, mirrorText(company_, sheet)}}))
+                   return true;
+               at_.person.tell(notShown(path.string()));
+               return false;
+           });
 }
 
 bool HoursReports::exportSums(const std::filesystem::path& file, const PageProgress& progress) {

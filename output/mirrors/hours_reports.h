@@ -57,7 +57,7 @@ class HoursReports {
     /// Days as typed; false, and nothing taken, for what is no range of at most a year.
     [[nodiscard]] bool choosePeriod(std::string_view first, std::string_view last);
     /// "Informe o Período do Relatório!"
-    void refusePeriod() { at_.person.tell(noPeriod()); }
+    void refusePeriod();
 
     /// "Deseja Gerar o Relatório Em EXCEL ou ARQUIVO TEXTO ?": writes it and has it opened.
     [[nodiscard]] bool report(const PageProgress& progress = {});
@@ -84,8 +84,9 @@ class HoursReports {
   private:
     using People = std::vector<Employee>;
 
-    [[nodiscard]] static Message noPeriod();
     [[nodiscard]] bool requirePeriod();
+    /// The employee whom the list shows at `position`; nullptr once the operator has been told.
+    [[nodiscard]] const Employee* requireSelected(std::optional<std::size_t> position);
     /// Those who are in the rotation schedule where their scale asks for it; of the others the
     /// operator is told.
     [[nodiscard]] People withoutMissingGroups(const People& people);
@@ -102,11 +103,13 @@ class HoursReports {
     /// Those of whom the period has a record.
     [[nodiscard]] People recordedOf(const People& people);
     [[nodiscard]] CardBatch sidesBatch(const PrintChoices& choices);
-    [[nodiscard]] ReportRows sidesRows(const Employee& employee, const MonthSettings& month) const;
     [[nodiscard]] bool printBothSides(const CardBatch& batch, const Employee& employee);
     struct MirrorForm;
-    [[nodiscard]] bool print(const MirrorForm& form, const People& people,
-                             const PrintChoices& choices, const PrintRun& run);
+    /// Asks, and prints the form of those whom `whom` then names.
+    [[nodiscard]] bool print(const MirrorForm& form, const PrintChoices& choices,
+                             const PrintRun& run, const std::function<People()>& whom);
+    [[nodiscard]] CardBatch batchOf(const MirrorForm& form, const People& people,
+                                    const PrintChoices& choices);
 
     Workplace at_;
     HoursReportsDesk desk_;

@@ -55,7 +55,7 @@ void noteByHand(std::vector<std::string>& notes, const MirrorSheet& sheet) {
 std::vector<std::string> mirrorNotes(const MirrorSheet& sheet) {
     std::vector<std::string> notes;
     for (const DatedLeave& one : sheet.leaves.leaves())
-        if (one.period.first <= sheet.period.last && one.period.last >= sheet.period.first)
+        if (one.period.overlaps({sheet.period.first, sheet.period.last}))
             notes.push_back("Afastamento: " + leaveText(one));
     noteByHand(notes, sheet);
     for (const MirrorDay& day : sheet.days) {

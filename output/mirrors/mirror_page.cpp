@@ -2,6 +2,7 @@
 
 #include "foundation/values/text.h"
 #include "output/mirrors/hour_columns.h"
+#include "output/stocks/card_rows.h"
 #include "timecard/punches/situation.h"
 #include "timecard/schedule/schedule_words.h"
 
@@ -43,15 +44,16 @@ std::string workingTimes(const MirrorSheet& sheet) {
     return words.at("horario");
 }
 
-ReportRow headerCells(const Company& company, const MirrorSheet& sheet) {
+ReportRow headerCells(const Company& company, const MirrorSheet& sheet,
+                      const std::vector<HourColumn>& columns) {
     MergeWords words = mergeWords(company, sheet.employee);
     words.put("empresa_endereco", addressText(company));
-    words.put("periodo", dateText(sheet.period.first) + " a " + dateText(sheet.period.last));
+    words.put("periodo", periodText(sheet.period));
     words.put("jornada", workingTimes(sheet));
     ReportRow cells;
     for (const std::string_view name : kHeader)
         cells.push_back(words.at(name));
-    for (const HourColumn& column : hourColumns(sheet.overtime))
+    for (const HourColumn& column : columns)
         cells.emplace_back(trimmed(column.title));
     return cells;
 }
@@ -67,30 +69,28 @@ std::vector<std::string> notesOf(const MirrorSheet& sheet) {
     return notes;
 }
 
-/// Worked, then the columns of hours; blank for none where `blankZero`.
-void addHours(ReportRow& row, const HourTotals& hours, const OvertimeRules& rules, bool blankZero) {
-    const auto add = [&](std::chrono::seconds length) {
-        row.push_back(blankZero && length.count() == 0 ? std::string()
-                                                       : formatted(length, rules.totalsFormat));
-    };
-    add(hours.worked());
-    for (const HourColumn& column : hourColumns(rules))
-        add(column.of(hours));
+/// Worked, then the columns of hours.
+template <typename Shown>
+void addHours(ReportRow& row, const HourTotals& hours, const std::vector<HourColumn>& columns,
+              Shown shown) {
+    row.push_back(shown(hours.worked()));
+    for (const HourColumn& column : columns)
+        row.push_back(shown(column.of(hours)));
 }
 
 std::string timesText(const DaySchedule& day) {
-    std::string text;
-    for (const auto& time :
-         {day.morning.entry, day.morning.exit, day.afternoon.entry, day.afternoon.exit})
-        if (time) text.append(text.empty() ? "" : " ").append(timeText(*time));
-    return text;
+    const std::array times = {day.morning.entry, day.morning.exit, day.afternoon.entry,
+                              day.afternoon.exit};
+    return joined(times, " ",
+                  [](const auto& time) { return time ? timeText(*time) : std::string(); });
 }
 
 ReportRow dayCells(const MirrorDay& day) {
-    const PunchLine& line = day.line;
-    return {line.label,          timesText(day.contracted), line.morningEntry, line.morningExit,
-            line.afternoonEntry, line.afternoonExit,        line.extraEntry,   line.extraExit,
-            day.situation};
+    ReportRow cells = {day.line.label, timesText(day.contracted)};
+    for (const auto time : kPunchTimes)
+        cells.push_back(day.line.*time);
+    cells.push_back(day.situation);
+    return cells;
 }
 
 ReportRow blankDayCells(const MirrorDay& day) {
@@ -131,20 +131,24 @@ std::vector<DayPeriod> mirrorPages(const DayPeriod& period) {
 }
 
 ReportRows mirrorRows(const Company& company, const MirrorSheet& sheet) {
-    ReportRow same = headerCells(company, sheet);
-    addHours(same, sheet.totals, sheet.overtime, false);
+    const std::vector<HourColumn> columns = hourColumns(sheet.overtime);
+    const TotalsFormat format = sheet.overtime.totalsFormat;
+    ReportRow same = headerCells(company, sheet, columns);
+    addHours(same, sheet.totals, columns, [=](auto sum) { return formatted(sum, format); });
     append(same, notesOf(sheet));
     ReportRows rows;
     for (const MirrorDay& day : sheet.days) {
         ReportRow& row = rows.emplace_back(same);
         append(row, dayCells(day));
-        addHours(row, day.hours, sheet.overtime, true);
+        addHours(row, day.hours, columns, [=](auto length) {
+            return length.count() == 0 ? std::string() : formatted(length, format);
+        });
     }
     return rows;
 }
 
 ReportRows manualRows(const Company& company, const MirrorSheet& sheet) {
-    ReportRow same = headerCells(company, sheet);
+    ReportRow same = headerCells(company, sheet, hourColumns(sheet.overtime));
     same.resize(same.size() + 1 + kHours + kNotes);
     ReportRows rows;
     for (const MirrorDay& day : sheet.days) {

@@ -32,6 +32,14 @@ void putDay(MirrorDay& day, PunchLine&& line, Date date, const WorkTerms& terms,
 
 }  // namespace
 
+std::string periodText(const DayPeriod& period) {
+    return dateText(period.first) + " a " + dateText(period.last);
+}
+
+DayPeriod calendarMonth(WorkMonth month) {
+    return {firstDay(month), lastDay(month)};
+}
+
 MirrorPeriod::MirrorPeriod(const Store& store, const CompanyCode& company, const DayPeriod& period)
     : store_(store), company_(company), period_(period) {
     for (WorkMonth month = monthOf(period.first); month <= monthOf(period.last);

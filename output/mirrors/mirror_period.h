@@ -15,6 +15,11 @@
 
 namespace winvrx {
 
+/// "01/03/2024 a 31/03/2024".
+[[nodiscard]] std::string periodText(const DayPeriod& period);
+/// The month from its first day to its last.
+[[nodiscard]] DayPeriod calendarMonth(WorkMonth month);
+
 /// One day of an employee.
 struct MirrorDay {
     Date date;
@@ -43,7 +48,6 @@ class MirrorPeriod {
     /// Reads the settings of the months. `period` does not end before it begins. Throws FileFault.
     MirrorPeriod(const Store& store, const CompanyCode& company, const DayPeriod& period);
 
-    [[nodiscard]] const DayPeriod& days() const { return period_; }
     /// Of the month in which the period ends.
     [[nodiscard]] const MonthSettings& lastMonth() const { return months_.back(); }
 

@@ -4,7 +4,6 @@
 #include "output/stocks/card_rows.h"
 #include "report/print_pages.h"
 #include "report/printers.h"
-#include "timecard/month/overtime_record.h"
 
 #include <algorithm>
 
@@ -40,12 +39,8 @@ bool HoursReports::printSides(const PrintChoices& choices, const PrintRun& run,
     return attempt(at_, printFailed(), [&] {
         CardBatch batch = sidesBatch(choices);
         if (batch.people.empty()) return false;
-        if (choices.output != ReportOutput::Printer) {
-            CardRun cards(at_, desk_.engine, std::move(batch), run);
-            const bool printed = cards.print();
-            offerToOpenPdf(at_.person, desk_.browser, kPrinting, cards.savedFiles());
-            return printed;
-        }
+        if (choices.output != ReportOutput::Printer)
+            return printCards(at_, {desk_.browser, desk_.engine, desk_.printers}, batch, run);
         batch.request.output = ReportOutput::Printer;
         int done = 0;
         return std::ranges::all_of(batch.people, [&](const Employee& one) {
@@ -60,9 +55,9 @@ bool HoursReports::printBothSides(const CardBatch& batch, const Employee& employ
     ReportRequest request = batch.request;
     for (const SheetSides side : {SheetSides::First, SheetSides::Second}) {
         request.sides = side;
-        ReportPages page(1, [&](std::size_t at) { return batch.rowsOf(employee, at); });
+        const auto card = [&](std::size_t at) { return batch.rowsOf(employee, at); };
         if (at_.person.agrees(ready(side)) &&
-            printPages({at_, desk_.engine}, request, page) == PrintEnd::Done)
+            printPages({at_, desk_.engine}, request, {1, card}) == PrintEnd::Done)
             continue;
         if (side == SheetSides::Second) at_.person.tell(kOneSideOnly);
         return false;
@@ -86,26 +81,16 @@ CardBatch HoursReports::sidesBatch(const PrintChoices& choices) {
     request.exit = printer.exit;
     request.noun = cardNoun();
     request.trays = printer.trays;
-    return {.people = recordedOf(confirmPeople()),
-            .companyName = company_.name,
-            .period = monthKey(*month_),
-            .stockCode = {},
-            .choices = choices,
-            .request = std::move(request),
-            .rowsOf = [this, settings = loadMonthSettings(store, *month_)](
-                          const Employee& one, std::size_t) { return sidesRows(one, settings); }};
-}
-
-ReportRows HoursReports::sidesRows(const Employee& employee, const MonthSettings& month) const {
-    const EmployeeKey key{at_.session.company.value(), employee.employeeCode().value()};
-    MonthSettings settings = month;
-    settings.overtime = overtimeOf(at_.store(), key, month);
-    return cardRows({.company = company_,
-                     .employee = employee,
-                     .settings = std::move(settings),
-                     .schedule = loadSchedule(at_.store(), key),
-                     .punches = loadPunches(at_.store(), key, *month_),
-                     .leaves = loadLeaveCalendar(at_.store(), key, employee.admissionDate())});
+    return {
+        .people = recordedOf(confirmPeople()),
+        .companyName = company_.name,
+        .period = monthKey(*month_),
+        .choices = choices,
+        .request = std::move(request),
+        .rowsOf = [month = CardRunMonth{store, at_.session.company.value(), company_,
+                                        loadMonthSettings(store, *month_)}](
+                      const Employee& one, std::size_t) { return cardRows(loadCard(month, one)); },
+        .opening = kPrinting};
 }
 
 }  // namespace winvrx

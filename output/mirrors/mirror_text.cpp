@@ -1,6 +1,7 @@
 // The mirror as text.
 #include "foundation/values/text.h"
 #include "output/mirrors/hours_report.h"
+#include "output/stocks/card_rows.h"
 #include "timecard/hours/hours_format.h"
 #include "timecard/hours/hours_summary.h"
 
@@ -21,12 +22,10 @@ constexpr std::array kFigures = {HourCategory::NormalDay, HourCategory::NormalNi
                                  HourCategory::Missing};
 
 std::string dayLine(const MirrorDay& day, TotalsFormat format) {
-    const PunchLine& line = day.line;
-    const bool worked = line.hasTimes();
-    std::string text = line.label;
-    for (const std::string* time : {&line.morningEntry, &line.morningExit, &line.afternoonEntry,
-                                    &line.afternoonExit, &line.extraEntry, &line.extraExit})
-        text += fitted(*time, kTimeWidth);
+    const bool worked = day.line.hasTimes();
+    std::string text = day.line.label;
+    for (const auto time : kPunchTimes)
+        text += fitted(day.line.*time, kTimeWidth);
     text += fitted(" " + (worked ? std::string("Normal") : day.situation), kSituationColumn);
     for (const HourCategory category : kFigures) {
         const bool blank = !worked && day.hours[category].count() == 0;
@@ -44,7 +43,7 @@ std::vector<std::string> mirrorText(const Company& company, const MirrorSheet& s
         "ESPELHO DE PONTO",
         company.name + "   CNPJ: " + company.taxId,
         employee.code + " " + employee.name + "   " + employee.function,
-        "Período: " + dateText(sheet.period.first) + " a " + dateText(sheet.period.last),
+        "Período: " + periodText(sheet.period),
         "",
         std::string(kTitles)};
     for (const MirrorDay& day : sheet.days)

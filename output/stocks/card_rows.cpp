@@ -1,10 +1,12 @@
 #include "output/stocks/card_rows.h"
 
 #include "foundation/values/text.h"
+#include "timecard/month/overtime_record.h"
 #include "timecard/punches/situation.h"
 #include "timecard/schedule/schedule_words.h"
 
 #include <chrono>
+#include <utility>
 
 namespace winvrx {
 
@@ -42,15 +44,6 @@ std::string shortened(std::string situation) {
     return unjustified ? std::string(kSituationUnjustifiedShort) : situation;
 }
 
-void putTimes(ReportRow& row, const PunchLine& line) {
-    row[cardColumn("ent1")] = line.morningEntry;
-    row[cardColumn("sai1")] = line.morningExit;
-    row[cardColumn("ent2")] = line.afternoonEntry;
-    row[cardColumn("sai2")] = line.afternoonExit;
-    row[cardColumn("ent3")] = line.extraEntry;
-    row[cardColumn("sai3")] = line.extraExit;
-}
-
 /// Fills in the rows from the punches, then the sums that only the last of them completes.
 class PunchWriter {
   public:
@@ -66,7 +59,8 @@ class PunchWriter {
             row[cardColumn("situacao")] = shortened(situationOf(line, date, terms_));
             return;
         }
-        putTimes(row, line);
+        for (std::size_t at = 0; at < kPunchTimes.size(); ++at)
+            row[cardColumn("ent1") + at] = line.*kPunchTimes[at];
         const std::chrono::seconds worked = dayHours(line, date, terms_).worked();
         if (worked > worked.zero()) row[cardColumn("horas")] = shown(worked);
         (dayNumber(date) <= kFirstHalfEnd ? firstHalf_ : secondHalf_) += worked;
@@ -111,6 +105,24 @@ std::string situationOf(const PunchLine& line, Date date, const WorkTerms& terms
     if (weekday == std::chrono::Sunday || weekday == terms.restDay)
         return std::string(kSituationWeeklyRest);
     return {};
+}
+
+CardData loadCard(const CardRunMonth& run, const Employee& employee) {
+    const EmployeeKey key{run.companyCode, employee.employeeCode().value()};
+    const auto mayHave = [&](const std::string& name) {
+        return !run.names || run.names->contains(key.company.text() + name);
+    };
+    MonthSettings settings = run.settings;
+    if (mayHave(overtimeFileName(key.employee)))
+        settings.overtime = overtimeOf(run.store, key, settings);
+    return {.company = run.company,
+            .employee = employee,
+            .settings = std::move(settings),
+            .schedule = loadSchedule(run.store, key),
+            .punches = loadPunches(run.store, key, run.settings.month),
+            .leaves = mayHave(leaveFileName(key.employee))
+                          ? loadLeaveCalendar(run.store, key, employee.admissionDate())
+                          : LeaveCalendar({}, employee.admissionDate())};
 }
 
 std::string headerText(const CardData& card) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/files/folder_names.h"
 #include "foundation/register/company.h"
 #include "foundation/register/employee.h"
 #include "foundation/register/leave_calendar.h"
@@ -20,6 +21,11 @@
 namespace winvrx {
 
 inline constexpr int kCardLines = 31;
+
+/// The times of a day, in the order of the card.
+inline constexpr std::array kPunchTimes = {&PunchLine::morningEntry,   &PunchLine::morningExit,
+                                           &PunchLine::afternoonEntry, &PunchLine::afternoonExit,
+                                           &PunchLine::extraEntry,     &PunchLine::extraExit};
 
 /// The columns of `Tabela_base` for a card. Header values stand in every row of a card; day values
 /// in the row of their day.
@@ -54,6 +60,19 @@ struct CardData {
     std::optional<std::vector<PunchLine>> punches;  ///< nullopt: none were applied
     LeaveCalendar leaves = {};                      ///< with the admission
 };
+
+/// What the cards of a run have in common.
+struct CardRunMonth {
+    Store store;
+    CompanyCode companyCode;
+    Company company;
+    MonthSettings settings;
+    /// Of the folder, to tell who has leaves or percentages of his own; nullopt: each card looks.
+    std::optional<FolderNames> names = {};
+};
+
+/// Reads an employee's card of the month. Throws FileFault.
+[[nodiscard]] CardData loadCard(const CardRunMonth& run, const Employee& employee);
 
 /// The header block as the screen shows it, captions included, in lines.
 [[nodiscard]] std::string headerText(const CardData& card);

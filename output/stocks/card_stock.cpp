@@ -2,7 +2,6 @@
 
 #include "foundation/files/record_file.h"
 #include "foundation/files/record_names.h"
-#include "foundation/values/text.h"
 
 #include <algorithm>
 

@@ -2,10 +2,11 @@
 
 #include "foundation/register/company_register.h"
 #include "foundation/values/text.h"
-#include "output/stocks/sample_card.h"
+#include "output/stocks/card_rows.h"
 #include "report/print_pages.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace winvrx {
@@ -34,11 +35,57 @@ Offsets moved(Offsets offsets, Direction direction) {
     return offsets;
 }
 
+/// In the middle of each half of the month.
+constexpr std::array<std::size_t, 2> kMonthRows = {7, 22};
+
+DaySchedule sampleTimes() {
+    return {.morning = {parseTime("08:00"), parseTime("12:00")},
+            .afternoon = {parseTime("13:00"), parseTime("17:00")}};
+}
+
+std::vector<PunchLine> samplePunches(WorkMonth month) {
+    std::vector<PunchLine> lines = blankMonth(month);
+    for (PunchLine& line : lines) {
+        line.morningEntry = "08:00";
+        line.morningExit = "12:00";
+        line.afternoonEntry = "13:00";
+        line.afternoonExit = "17:00";
+        line.extraEntry = "18:00";
+        line.extraExit = "19:00";
+    }
+    for (const std::size_t row : kMonthRows) {
+        PunchLine said;
+        said.label = lines.at(row).label;
+        said.situation = monthTitle(month);
+        lines.at(row) = said;
+    }
+    return lines;
+}
+
+/// A card with a time in every place of nearly every day, to align the print by. It belongs to
+/// nobody. The month, "novembro/2026", stands in its header block and once among the days of each
+/// half, so that a card without the header block and the back of a card say it too.
+ReportRows sampleCardRows(const Company& company, WorkMonth month) {
+    Employee employee;
+    employee.code = "000";
+    employee.name = "CARTÃO DE TESTE";
+    employee.function = "TESTE DE ALINHAMENTO";
+    employee.admission = dateText(firstDay(month));
+    MonthSettings settings;
+    settings.month = month;
+    StandardSchedule schedule;
+    schedule.weekday = sampleTimes();
+    return cardRows({.company = company,
+                     .employee = employee,
+                     .settings = settings,
+                     .schedule = schedule,
+                     .punches = samplePunches(month)});
+}
+
 }  // namespace
 
 std::string lineOffsetText(int lines) {
-    if (lines == 0) return "nenhuma";
-    return std::to_string(lines) + (lines == 1 ? " Linha" : " Linhas");
+    return lines == 0 ? "nenhuma" : countOf(lines, "Linha");
 }
 
 CartaoPontos::CartaoPontos(const Workplace& at, const CartaoPontosDesk& desk)
@@ -122,22 +169,18 @@ std::string CartaoPontos::printer() const {
 
 bool CartaoPontos::printTest() {
     if (!at_.person.agrees(confirmTest(stock()))) return false;
-    return print({.layoutName = layoutName(),
-                  .title = "Imprimir Teste",
-                  .columns = cardColumns(),
-                  .printHeader = feed_.printHeader,
-                  .alignment = alignment(),
-                  .exit = feed_.exit,
-                  .noun = cardNoun()},
-                 sampleRows());
-}
-
-bool CartaoPontos::print(ReportRequest request, const ReportRows& rows) {
-    request.output = ReportOutput::Printer;
-    request.printerName = printer_;
-    request.trays = feed_.trays;
-    ReportPages one(1, [&rows](std::size_t) { return rows; });
-    return printPages({at_, desk_.engine}, request, one) == PrintEnd::Done;
+    const ReportRequest request{.layoutName = layoutName(),
+                                .title = "Imprimir Teste",
+                                .columns = cardColumns(),
+                                .printHeader = feed_.printHeader,
+                                .alignment = alignment(),
+                                .exit = feed_.exit,
+                                .noun = cardNoun(),
+                                .output = ReportOutput::Printer,
+                                .printerName = printer_,
+                                .trays = feed_.trays};
+    const auto card = [this](std::size_t) { return sampleRows(); };
+    return printPages({at_, desk_.engine}, request, {1, card}) == PrintEnd::Done;
 }
 
 std::string CartaoPontos::layoutName() const {

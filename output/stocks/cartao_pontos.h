@@ -80,7 +80,6 @@ class CartaoPontos {
 
   private:
     void readSelected();
-    [[nodiscard]] bool print(ReportRequest request, const ReportRows& rows);
 
     Workplace at_;
     CartaoPontosDesk desk_;

@@ -6,7 +6,6 @@
 
 #include <array>
 #include <string>
-#include <string_view>
 
 // What a company's printing screen remembers from one day to the next: the kind of printer in
 // `ImpressoraTipo` and how the cards are fed in `Impresstec`, both behind the company code and with

@@ -39,7 +39,7 @@ bool rememberChoices(const Workplace& at, const Drives&) {
     const TestPrinters printers;
     const AlignmentMemory memory;
     TestBrowser browser;
-    Cartao screen(at, {browser, engine, printers, memory});
+    Cartao screen(at, {browser, engine, printers}, memory);
     screen.load();
     screen.choices().printer.exit = SheetExit::FaceUp;
     screen.choices().printer.trays[0] = "Manual";

@@ -56,7 +56,7 @@ class CartaoTest : public ::testing::Test {
     TestPrinters printers;
     AlignmentMemory alignment;
     TestBrowser browser;
-    Cartao screen{desk.at, {browser, engine, printers, alignment}};
+    Cartao screen{desk.at, {browser, engine, printers}, alignment};
 };
 
 class CartaoOpened : public CartaoTest {

@@ -1,6 +1,5 @@
 #include "output/cards/desktop/card_entries.h"
 
-#include "foundation/register/employee_queries.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "output/cards/cartao.h"
 #include "output/cards/desktop/cartao_window.h"
@@ -12,7 +11,6 @@
 #include "output/stocks/tipo_ponto.h"
 #include "report/desktop/impressorar_window.h"
 #include "report/desktop/layout_reader.h"
-#include "report/impressorar.h"
 #include "timecard/month/desktop/month_entry.h"
 
 #include <memory>
@@ -27,12 +25,12 @@ class CardScreens {
     CardScreens(const Workplace& at, const CardPrintingDesk& desk) : at_(at), desk_(desk) {}
 
     void openCards(QWidget* parent, ReportOutput output) {
-        Cartao cards(at_, {desk_.browser, desk_.engine, desk_.printers, alignment_});
+        Cartao cards(at_, {desk_.browser, desk_.engine, desk_.printers}, alignment_);
         cards.choices().output = output;
         const CartaoWindowDesk screens{
             .openStocks = [this](QWidget* over) { openStocks(over); },
             .openWorkMonth = [this](QWidget* over) { openWorkMonth(at_, over); },
-            .openPrinters = [this](QWidget* over) { openPrinters(over); },
+            .openPrinters = [this](QWidget* over) { openPrinters(at_, desk_.printers, over); },
             .openAlignment = [this](QWidget* over) { openAlignment(over); }};
         CartaoWindow(cards, screens, parent).exec();
     }
@@ -42,11 +40,6 @@ class CardScreens {
         TipoPonto stocks(at_);
         CardPictures pictures(desk_.layoutFolders, at_.log);
         TipoPontoWindow(stocks, pictures, parent).exec();
-    }
-
-    void openPrinters(QWidget* parent) {
-        Impressorar printers(at_, desk_.printers);
-        ImpressorarWindow(printers, parent).exec();
     }
 
     void openAlignment(QWidget* parent) {

@@ -9,7 +9,6 @@
 #include "output/cards/desktop/print_choices_box.h"
 
 #include <QFrame>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -21,11 +20,6 @@ namespace {
 constexpr int kHeaderLines = 6;
 constexpr int kListCharacters = 46;
 
-QString countText(std::size_t cards) {
-    return cards == 1 ? QStringLiteral("1 cartão")
-                      : QStringLiteral("%1 cartões").arg(static_cast<qulonglong>(cards));
-}
-
 }  // namespace
 
 CartaoWindow::CartaoWindow(Cartao& cartao, CartaoWindowDesk desk, QWidget* parent)
@@ -34,7 +28,7 @@ CartaoWindow::CartaoWindow(Cartao& cartao, CartaoWindowDesk desk, QWidget* paren
       desk_(std::move(desk)) {
     cartao_.load();
     buildCommands();
-    setBody(buildBody());
+    setBody({{buildEmployees(), 2}, {buildPage(), 3}});
     buildClosingButtons();
     connectAll();
     showList();
@@ -62,23 +56,21 @@ void CartaoWindow::buildClosingButtons() {
     addLeavingButton("cartao.close");
 }
 
-QWidget* CartaoWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kGroupGap);
+QWidget* CartaoWindow::buildEmployees() {
     employees_ = new EmployeePicker(cartao_.list(),
-                                    {.screen = QStringLiteral("cartao"), .narrows = true}, body);
+                                    {.screen = QStringLiteral("cartao"), .narrows = true}, this);
     employees_->setMinimumWidth(employees_->fontMetrics().averageCharWidth() * kListCharacters);
-    row->addWidget(employees_, 2);
-    auto* right = new QVBoxLayout;
-    right->setSpacing(look::kGroupGap);
-    right->addWidget(buildPreview(body));
-    choices_ = new PrintChoicesBox(cartao_.choices(), body);
-    right->addWidget(choices_);
-    right->addStretch();
-    row->addLayout(right, 3);
-    return body;
+    return employees_;
+}
+
+QWidget* CartaoWindow::buildPage() {
+    const auto [part, column] = look::part(this);
+    column->setSpacing(look::kGroupGap);
+    column->addWidget(buildPreview(part));
+    choices_ = new PrintChoicesBox(cartao_.choices(), part);
+    column->addWidget(choices_);
+    column->addStretch();
+    return part;
 }
 
 QWidget* CartaoWindow::buildPreview(QWidget* parent) {
@@ -144,10 +136,8 @@ void CartaoWindow::printAll() {
 }
 
 PrintRun CartaoWindow::runWith(Progress* progress) {
-    PrintRun run = pdfAsking(this);
+    PrintRun run = pdfAsking(this, progress);
     run.chooseStock = [this] { visit(desk_.openStocks); };
-    if (progress)
-        run.progress = [progress](int done, int total) { return progress->show(done, total); };
     return run;
 }
 
@@ -182,7 +172,7 @@ void CartaoWindow::showContext() {
               cartao_.month() ? toQt(monthTitle(*cartao_.month()))
                               : QStringLiteral("Sem mês de trabalho"),
               toQt(codeOf(cartao_.list().shift()))});
-    setState(QStringList{countText(cartao_.list().shown().size()),
+    setState(QStringList{toQt(countOf(cartao_.list().shown().size(), "cartão", "cartões")),
                          stock.isEmpty() ? QStringLiteral("sem tipo de cartão") : stock,
                          central ? QStringLiteral("Central") : QStringLiteral("Lateral"), printer}
                  .join(QStringLiteral(" · ")));

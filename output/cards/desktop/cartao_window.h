@@ -4,8 +4,6 @@
 #include "output/cards/cartao.h"
 
 #include <functional>
-#include <optional>
-#include <string>
 
 class QLabel;
 
@@ -37,7 +35,8 @@ class CartaoWindow : public ScreenWindow {
   private:
     void buildCommands();
     void buildClosingButtons();
-    [[nodiscard]] QWidget* buildBody();
+    [[nodiscard]] QWidget* buildEmployees();
+    [[nodiscard]] QWidget* buildPage();
     [[nodiscard]] QWidget* buildPreview(QWidget* parent);
     void connectAll();
 

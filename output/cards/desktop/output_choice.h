@@ -5,6 +5,8 @@
 
 namespace winvrx {
 
+class Progress;
+
 /// Where pages go: the preview, a printer, one PDF file or, where that is offered, one for each
 /// employee.
 class OutputChoice : public OptionGroup {
@@ -16,11 +18,12 @@ class OutputChoice : public OptionGroup {
     OutputChoice(const QString& objectName, QWidget* parent, Pdf pdf = Pdf::ForEachToo);
 
     void showOutput(const PrintChoices& choices);
-    /// Puts the choice into `choices`.
-    void takeInto(PrintChoices& choices) const;
+    /// Where to; the others are the usual ones.
+    [[nodiscard]] PrintChoices choices() const;
 };
 
-/// Asks for PDF files in dialogues over `parent`, which outlives the run.
-[[nodiscard]] PrintRun pdfAsking(QWidget* parent);
+/// Asks for PDF files in dialogues over `parent`, and tells `progress` where there is one. Both
+/// outlive the run.
+[[nodiscard]] PrintRun pdfAsking(QWidget* parent, Progress* progress = nullptr);
 
 }  // namespace winvrx

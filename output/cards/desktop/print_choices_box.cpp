@@ -5,12 +5,12 @@
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/option_group.h"
 #include "output/cards/desktop/output_choice.h"
+#include "report/print_pages.h"
 
 #include <QCheckBox>
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -20,19 +20,30 @@ namespace {
 
 constexpr QSize kPictureSize(120, 40);
 
-template <typename Choice>
-constexpr int idOf(Choice choice) {
-    return static_cast<int>(choice);
-}
-
 }  // namespace
 
 PrintChoicesBox::PrintChoicesBox(const PrintChoices& choices, QWidget* parent)
     : QWidget(parent),
       output_(new OutputChoice(QStringLiteral("cartao.output"), this)),
-      mode_(buildMode()),
-      tray_(buildTray()),
-      sheetExit_(buildSheetExit()) {
+      mode_(new OptionGroup(
+          QStringLiteral("Opção de Impressão do Cartão:"), QStringLiteral("cartao.mode"), 2,
+          {{PrintMode::OneRun, QStringLiteral("Imprimir &Todos de Uma só Vez"), "oneRun"},
+           {PrintMode::OneAtATime, QStringLiteral("Imprimir Todos I&ntermitente (Um de cada Vez)"),
+            "oneAtATime"}},
+          this)),
+      tray_(new OptionGroup(QStringLiteral("Posição Cartão na Bandeja:"),
+                            QStringLiteral("cartao.tray"), 2,
+                            {{TrayPosition::Central, QStringLiteral("&Central"), "central"},
+                             {TrayPosition::Lateral, QStringLiteral("&Lateral"), "lateral"}},
+                            this)),
+      sheetExit_(new OptionGroup(
+          QStringLiteral("Cartões de dois lados saem com a face:"),
+          QStringLiteral("cartao.cardOutput"), 2,
+          {{SheetExit::FaceDown, QStringLiteral("Impressa para &baixo"), "faceDown"},
+           {SheetExit::FaceUp, QStringLiteral("Impressa para cima"), "faceUp"}},
+          this)) {
+    sheetExit_->setToolTip(QStringLiteral(
+        "Define a ordem do segundo lado. Se a bandeja imprime a face de baixo, escolha a outra."));
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(look::kGroupGap);
@@ -52,39 +63,6 @@ PrintChoicesBox::PrintChoicesBox(const PrintChoices& choices, QWidget* parent)
     connectAll();
 }
 
-OptionGroup* PrintChoicesBox::buildMode() {
-    auto* group = new OptionGroup(QStringLiteral("Opção de Impressão do Cartão:"),
-                                  QStringLiteral("cartao.mode"), 2, this);
-    group->addOption(idOf(PrintMode::OneRun), QStringLiteral("Imprimir &Todos de Uma só Vez"),
-                     QStringLiteral("oneRun"));
-    group->addOption(idOf(PrintMode::OneAtATime),
-                     QStringLiteral("Imprimir Todos I&ntermitente (Um de cada Vez)"),
-                     QStringLiteral("oneAtATime"));
-    return group;
-}
-
-OptionGroup* PrintChoicesBox::buildTray() {
-    auto* group = new OptionGroup(QStringLiteral("Posição Cartão na Bandeja:"),
-                                  QStringLiteral("cartao.tray"), 2, this);
-    group->addOption(idOf(TrayPosition::Central), QStringLiteral("&Central"),
-                     QStringLiteral("central"));
-    group->addOption(idOf(TrayPosition::Lateral), QStringLiteral("&Lateral"),
-                     QStringLiteral("lateral"));
-    return group;
-}
-
-OptionGroup* PrintChoicesBox::buildSheetExit() {
-    auto* group = new OptionGroup(QStringLiteral("Cartões de dois lados saem com a face:"),
-                                  QStringLiteral("cartao.cardOutput"), 2, this);
-    group->setToolTip(QStringLiteral(
-        "Define a ordem do segundo lado. Se a bandeja imprime a face de baixo, escolha a outra."));
-    group->addOption(idOf(SheetExit::FaceDown), QStringLiteral("Impressa para &baixo"),
-                     QStringLiteral("faceDown"));
-    group->addOption(idOf(SheetExit::FaceUp), QStringLiteral("Impressa para cima"),
-                     QStringLiteral("faceUp"));
-    return group;
-}
-
 QWidget* PrintChoicesBox::buildSheetExitPicture() {
     const auto [part, column] = look::part(this);
     picture_ = new QLabel(part);
@@ -96,7 +74,7 @@ QWidget* PrintChoicesBox::buildSheetExitPicture() {
 }
 
 void PrintChoicesBox::showSheetExit() {
-    const auto exit = static_cast<SheetExit>(sheetExit_->chosen());
+    const auto exit = sheetExit_->chosenAs<SheetExit>();
     const bool down = exit == SheetExit::FaceDown;
     picture_->setPixmap(
         look::icon(down ? QStringLiteral("sheets-face-down") : QStringLiteral("sheets-face-up"))
@@ -142,10 +120,10 @@ QWidget* PrintChoicesBox::buildPrinterTrays() {
 
 void PrintChoicesBox::showChoices(const PrintChoices& choices) {
     const QSignalBlocker quiet(this);
-    mode_->choose(idOf(choices.mode));
+    mode_->choose(choices.mode);
     output_->showOutput(choices);
-    tray_->choose(idOf(choices.printer.tray));
-    sheetExit_->choose(idOf(choices.printer.exit));
+    tray_->choose(choices.printer.tray);
+    sheetExit_->choose(choices.printer.exit);
     showSheetExit();
     printHeader_->setChecked(choices.printer.printHeader);
     for (std::size_t at = 0; at < trays_.size(); ++at)
@@ -163,10 +141,10 @@ void PrintChoicesBox::connectAll() {
 }
 
 PrintChoices PrintChoicesBox::choices() const {
-    PrintChoices choices{.mode = static_cast<PrintMode>(mode_->chosen())};
-    output_->takeInto(choices);
-    choices.printer = {.exit = static_cast<SheetExit>(sheetExit_->chosen()),
-                       .tray = static_cast<TrayPosition>(tray_->chosen()),
+    PrintChoices choices = output_->choices();
+    choices.mode = mode_->chosenAs<PrintMode>();
+    choices.printer = {.exit = sheetExit_->chosenAs<SheetExit>(),
+                       .tray = tray_->chosenAs<TrayPosition>(),
                        .trays = {},
                        .printHeader = printHeader_->isChecked()};
     for (std::size_t at = 0; at < trays_.size(); ++at)

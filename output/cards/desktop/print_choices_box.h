@@ -35,9 +35,6 @@ class PrintChoicesBox : public QWidget {
     void changeEvent(QEvent* event) override;
 
   private:
-    [[nodiscard]] OptionGroup* buildMode();
-    [[nodiscard]] OptionGroup* buildTray();
-    [[nodiscard]] OptionGroup* buildSheetExit();
     [[nodiscard]] QWidget* buildSheetExitPicture();
     /// How the sheets of the chosen option go back into the tray.
     void showSheetExit();

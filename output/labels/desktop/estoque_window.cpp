@@ -8,7 +8,6 @@
 #include "foundation/widgets/desktop/progress.h"
 #include "output/cards/desktop/output_choice.h"
 
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 namespace winvrx {
@@ -35,13 +34,13 @@ EstoqueWindow::EstoqueWindow(Etiquetas& labels, QWidget* parent)
 
 QWidget* EstoqueWindow::buildBody() {
     const auto [body, column] = look::body(this);
-    form_ = new OptionGroup(QStringLiteral("Folha:"), QStringLiteral("estoque.form"), 2, body);
-    form_->addOption(static_cast<int>(StockForm::Movement),
-                     QStringLiteral("&Entradas e saídas de um produto, com saldo"),
-                     QStringLiteral("movement"));
-    form_->addOption(static_cast<int>(StockForm::Count),
-                     QStringLiteral("&Contagem de produtos por data"), QStringLiteral("count"));
-    form_->choose(static_cast<int>(StockForm::Movement));
+    form_ = new OptionGroup(
+        QStringLiteral("Folha:"), QStringLiteral("estoque.form"), 2,
+        {{StockForm::Movement, QStringLiteral("&Entradas e saídas de um produto, com saldo"),
+          "movement"},
+         {StockForm::Count, QStringLiteral("&Contagem de produtos por data"), "count"}},
+        body);
+    form_->choose(StockForm::Movement);
     column->addWidget(form_);
     subject_ = new Field({.caption = QStringLiteral("Produto, &local ou grupo"),
                           .objectName = QStringLiteral("estoque.subject"),
@@ -67,18 +66,14 @@ void EstoqueWindow::print() {
     const auto sheets = parseWholeNumber(toUtf8(sheets_->text()), 1, kMostLabelCopies);
     sheets_->setFinding(sheets ? QString() : QStringLiteral("De 1 a 99."));
     if (!sheets) return sheets_->takeFocus();
-    PrintChoices chosen;
-    output_->takeInto(chosen);
     Progress progress({QStringLiteral("estoque.progress"), QStringLiteral("IMPRIMINDO"),
                        QStringLiteral("Folha %1 de %2")},
                       this);
-    PrintRun run = pdfAsking(this);
-    run.progress = [&progress](int done, int total) { return progress.show(done, total); };
-    (void)labels_.printStockSheets({.form = static_cast<StockForm>(form_->chosen()),
+    (void)labels_.printStockSheets({.form = form_->chosenAs<StockForm>(),
                                     .subject = subject_->stored(),
                                     .sheets = static_cast<std::size_t>(*sheets),
-                                    .output = chosen.output},
-                                   run);
+                                    .output = output_->choices().output},
+                                   pdfAsking(this, &progress));
 }
 
 }  // namespace winvrx

@@ -1,5 +1,6 @@
 #include "output/labels/desktop/etiquetas_window.h"
 
+#include "foundation/register/company_register.h"
 #include "foundation/register/desktop/employee_picker.h"
 #include "foundation/values/desktop/qt_text.h"
 #include "foundation/values/text.h"
@@ -8,11 +9,16 @@
 #include "foundation/widgets/desktop/option_group.h"
 #include "foundation/widgets/desktop/progress.h"
 #include "output/cards/desktop/output_choice.h"
+#include "output/labels/criar_etiqueta.h"
+#include "output/labels/desktop/criar_etiqueta_window.h"
+#include "output/labels/desktop/estoque_window.h"
 #include "output/labels/desktop/sheet_view.h"
+#include "report/desktop/calibration_window.h"
+#include "report/desktop/impressorar_window.h"
+#include "report/print_calibration.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -28,11 +34,6 @@ constexpr std::size_t kCopiesWidth = 2;
 constexpr int kListCharacters = 38;
 
 constexpr FieldKind kDayField{.hint = dateHint, .completed = completedDate};
-
-template <typename Choice>
-constexpr int idOf(Choice choice) {
-    return static_cast<int>(choice);
-}
 
 }  // namespace
 
@@ -99,13 +100,12 @@ QWidget* EtiquetasWindow::buildPeople(QWidget* parent) {
 
 QWidget* EtiquetasWindow::buildTexts(QWidget* parent) {
     const auto [part, column] = look::part(parent);
-    kind_ =
-        new OptionGroup(QStringLiteral("Etiquetas:"), QStringLiteral("etiquetas.kind"), 2, part);
-    kind_->addOption(idOf(LabelKind::Annotations), QStringLiteral("Anotações da &CTPS"),
-                     QStringLiteral("annotations"));
-    kind_->addOption(idOf(LabelKind::Addresses), QStringLiteral("&Nome e endereço"),
-                     QStringLiteral("addresses"));
-    kind_->choose(idOf(labels_.choices().kind));
+    kind_ = new OptionGroup(
+        QStringLiteral("Etiquetas:"), QStringLiteral("etiquetas.kind"), 2,
+        {{LabelKind::Annotations, QStringLiteral("Anotações da &CTPS"), "annotations"},
+         {LabelKind::Addresses, QStringLiteral("&Nome e endereço"), "addresses"}},
+        part);
+    kind_->choose(labels_.choices().kind);
     column->addWidget(kind_);
     QLabel* heading = look::heading(QStringLiteral("Te&xtos"), part);
     column->addWidget(heading);
@@ -130,7 +130,7 @@ QWidget* EtiquetasWindow::buildSheet(QWidget* parent) {
     for (std::size_t at = 0; at < kLabelSheets.size(); ++at)
         sheets_->addOption(static_cast<int>(at), toQt(kLabelSheets[at].name),
                            QString::number(static_cast<qulonglong>(at + 1)));
-    sheets_->choose(static_cast<int>(labels_.choices().sheet));
+    sheets_->choose(labels_.choices().sheet);
     column->addWidget(sheets_);
     auto* row = new QHBoxLayout;
     row->setSpacing(look::kGroupGap);
@@ -212,15 +212,11 @@ void EtiquetasWindow::visit(const std::function<void(QWidget*)>& screen) {
 }
 
 void EtiquetasWindow::print(bool (Etiquetas::*give)(const PrintRun& run)) {
-    PrintChoices chosen;
-    output_->takeInto(chosen);
-    labels_.choices().output = chosen.output;
+    labels_.choices().output = output_->choices().output;
     Progress progress({QStringLiteral("etiquetas.progress"), toQt(kLabelProgressTitle),
                        QStringLiteral("Folha %1 de %2")},
                       this);
-    PrintRun run = pdfAsking(this);
-    run.progress = [&progress](int done, int total) { return progress.show(done, total); };
-    (void)(labels_.*give)(run);
+    (void)(labels_.*give)(pdfAsking(this, &progress));
 }
 
 void EtiquetasWindow::showTexts() {
@@ -249,6 +245,45 @@ void EtiquetasWindow::showContext() {
                          labels_.printerName().empty() ? QStringLiteral("impressora padrão")
                                                        : toQt(labels_.printerName())}
                  .join(QStringLiteral(" · ")));
+}
+
+namespace {
+
+void openTexts(const Workplace& at, QWidget* parent) {
+    if (!at.session.company) return at.person.tell(noCompany(at));
+    CriarEtiqueta texts(at);
+    CriarEtiquetaWindow(texts, parent).exec();
+}
+
+void openCalibration(const Workplace& at, const CardPrintingDesk& desk, Etiquetas& labels,
+                     QWidget* parent) {
+    PrintCalibration calibration(at, desk.engine, "Ajuste de Impressão");
+    if (!attempt(at, incorrectData(), [&] {
+            calibration.load(labels.scaleKey(), {.printerName = labels.printerName()});
+        }))
+        return;
+    CalibrationWindow(calibration, toQt(labels.sheet().name), QStringLiteral("nesta folha"), parent)
+        .exec();
+}
+
+void openLabels(const Workplace& at, const CardPrintingDesk& desk, QWidget* parent) {
+    Etiquetas labels(at, {desk.browser, desk.engine, desk.printers}, kMenuLabelSheet);
+    const EtiquetasWindowDesk screens{
+        .openTexts = [&](QWidget* over) { openTexts(at, over); },
+        .openPrinters = [&](QWidget* over) { openPrinters(at, desk.printers, over); },
+        .openCalibration = [&](QWidget* over) { openCalibration(at, desk, labels, over); },
+        .openStock = [&](QWidget* over) { EstoqueWindow(labels, over).exec(); }};
+    EtiquetasWindow(labels, screens, parent).exec();
+}
+
+}  // namespace
+
+MenuEntry labelsEntry(const Workplace& at, const CardPrintingDesk& desk) {
+    return {.group = QStringLiteral("Ferramentas"),
+            .tile = {"labels", QStringLiteral("Eti&quetas"), "menu.labels.open"},
+            .needs = MenuNeeds::Employees,
+            .open = [at, desk](QWidget* parent) { openLabels(at, desk, parent); },
+            .state = [](const MonthProgress*) { return QStringLiteral("CTPS e endereços"); }};
 }
 
 }  // namespace winvrx

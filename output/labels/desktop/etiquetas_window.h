@@ -1,11 +1,11 @@
 #pragma once
 
 #include "foundation/widgets/desktop/screen_window.h"
+#include "output/cards/desktop/card_entries.h"
 #include "output/labels/etiquetas.h"
 
 #include <functional>
 
-class QLabel;
 class QListWidget;
 
 namespace winvrx {
@@ -58,5 +58,8 @@ class EtiquetasWindow : public ScreenWindow {
     Field* day_ = nullptr;
     OutputChoice* output_ = nullptr;
 };
+
+/// The labels' command of the main window.
+[[nodiscard]] MenuEntry labelsEntry(const Workplace& at, const CardPrintingDesk& desk);
 
 }  // namespace winvrx

@@ -7,6 +7,8 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 namespace winvrx {
 
@@ -101,30 +103,16 @@ void SheetView::mousePressEvent(QMouseEvent* event) {
 void SheetView::keyPressEvent(QKeyEvent* event) {
     const auto across = static_cast<long>(sheet_.columns);
     const auto last = static_cast<long>(sheet_.labels()) - 1;
-    auto place = static_cast<long>(first_);
-    switch (event->key()) {
-        case Qt::Key_Left:
-            --place;
-            break;
-        case Qt::Key_Right:
-            ++place;
-            break;
-        case Qt::Key_Up:
-            place -= across;
-            break;
-        case Qt::Key_Down:
-            place += across;
-            break;
-        case Qt::Key_Home:
-            place = 0;
-            break;
-        case Qt::Key_End:
-            place = last;
-            break;
-        default:
-            QWidget::keyPressEvent(event);
-            return;
-    }
+    const auto at = static_cast<long>(first_);
+    const std::array<std::pair<int, long>, 6> places = {{{Qt::Key_Left, at - 1},
+                                                         {Qt::Key_Right, at + 1},
+                                                         {Qt::Key_Up, at - across},
+                                                         {Qt::Key_Down, at + across},
+                                                         {Qt::Key_Home, 0},
+                                                         {Qt::Key_End, last}}};
+    const auto* const found = std::ranges::find(places, event->key(), &std::pair<int, long>::first);
+    if (found == places.end()) return QWidget::keyPressEvent(event);
+    const long place = found->second;
     if (place >= 0 && place <= last) emit picked(static_cast<std::size_t>(place));
 }
 

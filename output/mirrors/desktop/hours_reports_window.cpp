@@ -1,11 +1,14 @@
 #include "output/mirrors/desktop/hours_reports_window.h"
 
+#include "foundation/desk/desktop/xlsx_spreadsheet.h"
 #include "foundation/register/desktop/employee_picker.h"
 #include "foundation/values/desktop/qt_text.h"
+#include "foundation/values/text.h"
 #include "foundation/widgets/desktop/field.h"
 #include "foundation/widgets/desktop/look.h"
 #include "foundation/widgets/desktop/progress.h"
 #include "output/cards/desktop/output_choice.h"
+#include "timecard/month/desktop/month_entry.h"
 
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -23,19 +26,25 @@ constexpr std::size_t kDateWidth = 10;
 
 constexpr FieldKind kDayField{.hint = dateHint, .completed = completedDate};
 
-QString countText(std::size_t people) {
-    return people == 1 ? QStringLiteral("1 funcionário")
-                       : QStringLiteral("%1 funcionários").arg(static_cast<qulonglong>(people));
-}
-
-}  // namespace
-
+/// How far a report is.
 Progress hoursProgress(QWidget* parent) {
     return Progress({QStringLiteral("horas.progress"), QStringLiteral("GERANDO RELATÓRIO"),
                      QStringLiteral("Funcionário %1 de %2"),
                      QStringLiteral("Gravando os dados de %1 funcionários…")},
                     parent);
 }
+
+/// The reports with a spreadsheet of their own.
+struct OpenReports {
+    OpenReports(const Workplace& at, const HoursEntryDesk& desk)
+        : reports(at, {desk.editor, spreadsheet, desk.browser, desk.engine, desk.printers,
+                       *desk.rotation}) {}
+
+    XlsxSpreadsheet spreadsheet;
+    HoursReports reports;
+};
+
+}  // namespace
 
 HoursReportsWindow::HoursReportsWindow(HoursReports& reports,
                                        std::function<void(QWidget* parent)> openWorkMonth,
@@ -46,7 +55,7 @@ HoursReportsWindow::HoursReportsWindow(HoursReports& reports,
       openWorkMonth_(std::move(openWorkMonth)) {
     reports_.load();
     buildCommands();
-    setBody(buildBody());
+    setBody({{buildEmployees(), 2}, {buildChoices(), 3}});
     buildClosingButtons();
     employees_->refresh();
     showPeriod();
@@ -67,10 +76,8 @@ void HoursReportsWindow::buildCommands() {
                 [this] { printMirrors(); }});
     addCommand({"sheet", QStringLiteral("Folha Manual"), Qt::CTRL | Qt::Key_L, "horas.manual",
                 [this] { printManualSheet(); }});
-    addCommand(
-        {"preview", QStringLiteral("Ver Resumo"), Qt::CTRL | Qt::Key_R, "horas.overview", [this] {
-             make([this](const PageProgress& progress) { return reports_.showOverview(progress); });
-         }});
+    addCommand({"preview", QStringLiteral("Ver Resumo"), Qt::CTRL | Qt::Key_R, "horas.overview",
+                [this] { make(&HoursReports::showOverview); }});
     addCommand(
         {"sheet", QStringLiteral("Espelho em Texto"), Qt::CTRL | Qt::Key_E, "horas.mirror", [this] {
              if (takePeriod()) (void)reports_.showMirrorText(employees_->selected());
@@ -80,10 +87,8 @@ void HoursReportsWindow::buildCommands() {
 }
 
 void HoursReportsWindow::buildClosingButtons() {
-    addDefaultButton(
-        {"sheet", QStringLiteral("&Gerar Relatório"), QKeySequence::Print, "horas.report", [this] {
-             make([this](const PageProgress& progress) { return reports_.report(progress); });
-         }});
+    addDefaultButton({"sheet", QStringLiteral("&Gerar Relatório"), QKeySequence::Print,
+                      "horas.report", [this] { make(&HoursReports::report); }});
     addClosingButton(
         {"card", QStringLiteral("Espelho nos &Lados do Cartão"), {}, "horas.sides", [this] {
              printSides();
@@ -91,27 +96,25 @@ void HoursReportsWindow::buildClosingButtons() {
     addLeavingButton("horas.close");
 }
 
-QWidget* HoursReportsWindow::buildBody() {
-    auto* body = new QWidget(this);
-    auto* row = new QHBoxLayout(body);
-    look::layOutBody(*row);
-    row->setSpacing(look::kGroupGap);
+QWidget* HoursReportsWindow::buildEmployees() {
     employees_ = new EmployeePicker(
         reports_.list(), {.screen = QStringLiteral("horas"), .scales = true, .narrows = true},
-        body);
+        this);
     employees_->setMinimumWidth(employees_->fontMetrics().averageCharWidth() * kListCharacters);
-    row->addWidget(employees_, 2);
-    auto* right = new QVBoxLayout;
-    right->setSpacing(look::kGroupGap);
-    right->addWidget(buildPeriod(body));
-    output_ = new OutputChoice(QStringLiteral("horas.output"), body);
-    output_->showOutput({});
-    right->addWidget(output_);
-    right->addWidget(buildExplanation(body));
-    right->addStretch();
-    row->addLayout(right, 3);
     connect(employees_, &EmployeePicker::narrowed, this, &HoursReportsWindow::showContext);
-    return body;
+    return employees_;
+}
+
+QWidget* HoursReportsWindow::buildChoices() {
+    const auto [part, column] = look::part(this);
+    column->setSpacing(look::kGroupGap);
+    column->addWidget(buildPeriod(part));
+    output_ = new OutputChoice(QStringLiteral("horas.output"), part);
+    output_->showOutput({});
+    column->addWidget(output_, 0, Qt::AlignLeft);
+    column->addWidget(buildExplanation(part));
+    column->addStretch();
+    return part;
 }
 
 QWidget* HoursReportsWindow::buildPeriod(QWidget* parent) {
@@ -156,14 +159,19 @@ QWidget* HoursReportsWindow::buildExplanation(QWidget* parent) {
     const auto [part, column] = look::part(parent);
     column->addWidget(look::heading(QStringLiteral("O que cada comando gera"), part));
     const QStringList lines = {
-        QStringLiteral("Espelho de Ponto: uma folha para cada funcionário da lista assinar."),
-        QStringLiteral("Folha Manual: a mesma folha, do funcionário selecionado, sem horários."),
-        QStringLiteral("Gerar Relatório: horas extras e faltas dia a dia, resumo e afastamentos, "
-                       "em planilha ou texto."),
-        QStringLiteral("Ver Resumo: uma página com as faltas e extras de todos; quem precisa de "
-                       "atenção vem primeiro."),
-        QStringLiteral("Espelho em Texto: os dias do funcionário selecionado."),
-        QStringLiteral("Totais em CSV: uma linha por funcionário, para o escritório da folha.")};
+        QStringLiteral(
+            "<b>Espelho de Ponto</b>: uma folha para cada funcionário da lista assinar."),
+        QStringLiteral("<b>Espelho nos Lados do Cartão</b>: o mês de trabalho no cartão, uma "
+                       "quinzena em cada lado."),
+        QStringLiteral("<b>Folha Manual</b>: a folha do espelho, do funcionário selecionado, sem "
+                       "horários."),
+        QStringLiteral("<b>Gerar Relatório</b>: horas extras e faltas dia a dia, resumo e "
+                       "afastamentos, em planilha ou texto."),
+        QStringLiteral("<b>Ver Resumo</b>: uma página com as faltas e extras de todos; quem "
+                       "precisa de atenção vem primeiro."),
+        QStringLiteral("<b>Espelho em Texto</b>: os dias do funcionário selecionado."),
+        QStringLiteral("<b>Totais em CSV</b>: uma linha por funcionário, para o escritório da "
+                       "folha.")};
     for (const QString& line : lines) {
         QLabel* text = look::label(line, look::TextSize::Body, part);
         text->setWordWrap(true);
@@ -194,11 +202,10 @@ bool HoursReportsWindow::requireTakenPeriod() {
     return false;
 }
 
-template <typename Make>
-void HoursReportsWindow::make(Make&& make) {
+void HoursReportsWindow::make(bool (HoursReports::*report)(const PageProgress& progress)) {
     if (!requireTakenPeriod()) return;
     Progress progress = hoursProgress(this);
-    (void)make([&progress](int done, int total) { return progress.show(done, total); });
+    (void)(reports_.*report)(std::ref(progress));
 }
 
 void HoursReportsWindow::printMirrors() {
@@ -207,29 +214,19 @@ void HoursReportsWindow::printMirrors() {
         {QStringLiteral("horas.progress"), QStringLiteral("IMPRIMINDO ESPELHO DE PONTO"),
          QStringLiteral("Folha %1 de %2")},
         this);
-    PrintRun run = pdfAsking(this);
-    run.progress = [&progress](int done, int total) { return progress.show(done, total); };
-    PrintChoices choices;
-    output_->takeInto(choices);
-    (void)reports_.printMirrors(choices, run);
+    (void)reports_.printMirrors(output_->choices(), pdfAsking(this, &progress));
 }
 
 void HoursReportsWindow::printManualSheet() {
     if (!requireTakenPeriod()) return;
-    PrintChoices choices;
-    output_->takeInto(choices);
-    (void)reports_.printManualSheet(employees_->selected(), choices, pdfAsking(this));
+    (void)reports_.printManualSheet(employees_->selected(), output_->choices(), pdfAsking(this));
 }
 
 void HoursReportsWindow::printSides() {
     Progress progress({QStringLiteral("horas.progress"), QStringLiteral("Imprimindo Ponto"),
                        QStringLiteral("Cartão %1 de %2")},
                       this);
-    PrintRun run = pdfAsking(this);
-    run.progress = [&progress](int done, int total) { return progress.show(done, total); };
-    PrintChoices choices;
-    output_->takeInto(choices);
-    (void)reports_.printSides(choices, run,
+    (void)reports_.printSides(output_->choices(), pdfAsking(this, &progress),
                               [this](const std::string& line) { setState(toQt(line)); });
     showPeriod();
     showContext();
@@ -242,9 +239,8 @@ void HoursReportsWindow::exportSums() {
                                                       folder + QStringLiteral("/horas.csv"),
                                                       QStringLiteral("CSV (*.csv)"));
     if (file.isEmpty()) return;
-    make([&](const PageProgress& progress) {
-        return reports_.exportSums(std::filesystem::path(file.toStdU16String()), progress);
-    });
+    Progress progress = hoursProgress(this);
+    (void)reports_.exportSums(std::filesystem::path(file.toStdU16String()), std::ref(progress));
 }
 
 void HoursReportsWindow::showContext() {
@@ -254,7 +250,37 @@ void HoursReportsWindow::showContext() {
               reports_.month() ? toQt(monthTitle(*reports_.month()))
                                : QStringLiteral("Sem mês de trabalho"),
               toQt(codeOf(reports_.list().shift()))});
-    setState(countText(reports_.list().shown().size()) + QStringLiteral(" no relatório"));
+    setState(toQt(countOf(reports_.list().shown().size(), "funcionário") + " no relatório"));
+}
+
+void openHoursReports(const Workplace& at, const HoursEntryDesk& desk, QWidget* parent) {
+    OpenReports open(at, desk);
+    HoursReportsWindow(
+        open.reports, [&at](QWidget* over) { openWorkMonth(at, over); }, parent)
+        .exec();
+}
+
+void showHoursSummary(const Workplace& at, const HoursEntryDesk& desk, QWidget* parent) {
+    OpenReports open(at, desk);
+    open.reports.load();
+    Progress progress = hoursProgress(parent);
+    (void)open.reports.showOverview(std::ref(progress));
+}
+
+MenuEntries hoursEntries(const Workplace& at, const HoursEntryDesk& desk) {
+    const QString group = QStringLiteral("Cartão de Ponto");
+    const auto open = [at, desk](QWidget* parent) { openHoursReports(at, desk, parent); };
+    return {
+        {.group = group,
+         .tile = {"clock", QStringLiteral("Relatório de &Horas"), "menu.hours.open", Qt::Key_F12},
+         .needs = MenuNeeds::Employees,
+         .open = open,
+         .state = [](const MonthProgress*) { return QStringLiteral("Extras, faltas e resumo"); }},
+        {.group = group,
+         .tile = {"mirror", QStringLiteral("Espelho"), "menu.mirror.open"},
+         .needs = MenuNeeds::Employees,
+         .open = open,
+         .state = [](const MonthProgress*) { return QStringLiteral("Folha para assinar"); }}};
 }
 
 }  // namespace winvrx

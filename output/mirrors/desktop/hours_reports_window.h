@@ -1,17 +1,16 @@
 #pragma once
 
+#include "foundation/desk/desktop/menu_entry.h"
 #include "foundation/widgets/desktop/screen_window.h"
 #include "output/mirrors/hours_reports.h"
+
+#include <memory>
 
 namespace winvrx {
 
 class EmployeePicker;
 class Field;
 class OutputChoice;
-class Progress;
-
-/// How far a report is.
-[[nodiscard]] Progress hoursProgress(QWidget* parent);
 
 /// The hours reports: employees at the left, the period and what to make of it at the right.
 class HoursReportsWindow : public ScreenWindow {
@@ -26,7 +25,8 @@ class HoursReportsWindow : public ScreenWindow {
   private:
     void buildCommands();
     void buildClosingButtons();
-    [[nodiscard]] QWidget* buildBody();
+    [[nodiscard]] QWidget* buildEmployees();
+    [[nodiscard]] QWidget* buildChoices();
     [[nodiscard]] QWidget* buildPeriod(QWidget* parent);
     [[nodiscard]] QWidget* buildExplanation(QWidget* parent);
 
@@ -36,8 +36,7 @@ class HoursReportsWindow : public ScreenWindow {
     [[nodiscard]] bool takePeriod();
     /// The same, and says so.
     [[nodiscard]] bool requireTakenPeriod();
-    template <typename Make>
-    void make(Make&& make);
+    void make(bool (HoursReports::*report)(const PageProgress& progress));
     /// "Espelho de Ponto" of everyone, or "Folha Manual" of the employee selected.
     void printMirrors();
     void printManualSheet();
@@ -52,5 +51,23 @@ class HoursReportsWindow : public ScreenWindow {
     Field* last_ = nullptr;
     OutputChoice* output_ = nullptr;
 };
+
+/// What the hours reports open things with. All outlive the entry.
+struct HoursEntryDesk {
+    TextEditor& editor;
+    Browser& browser;
+    ReportEngine& engine;
+    const Printers& printers;
+    std::shared_ptr<const RotationCalendar> rotation;
+};
+
+/// Opens the screen of the hours reports.
+void openHoursReports(const Workplace& at, const HoursEntryDesk& desk, QWidget* parent);
+
+/// Shows the work month at a glance: bars of everyone's hours.
+void showHoursSummary(const Workplace& at, const HoursEntryDesk& desk, QWidget* parent);
+
+/// The commands of the main window: the reports, and the mirror, which the same screen prints.
+[[nodiscard]] MenuEntries hoursEntries(const Workplace& at, const HoursEntryDesk& desk);
 
 }  // namespace winvrx

@@ -8,8 +8,6 @@
 #include <memory>
 #include <optional>
 
-class QLabel;
-
 namespace winvrx {
 
 class LayoutPainter;

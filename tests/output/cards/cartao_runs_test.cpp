@@ -1,6 +1,7 @@
 // Runs that end in PDF files, and cards of two sides.
 #include "output/cards/cartao.h"
 
+#include "report/print_pages.h"
 #include "tests/support/printing_screen.h"
 
 #include <gtest/gtest.h>

@@ -309,7 +309,7 @@ TEST_F(CartaoOpened, WhatTheScreenRemembersIsWrittenWhenItChanged) {
     screen.load();
     EXPECT_EQ(screen.choices().printer.tray, TrayPosition::Lateral) << "typed and not yet written";
     EXPECT_TRUE(screen.remember());
-    Cartao reopened(desk.at, {browser, engine, printers, alignment});
+    Cartao reopened(desk.at, {browser, engine, printers}, alignment);
     reopened.load();
     EXPECT_EQ(reopened.choices().printer.tray, TrayPosition::Lateral);
 }

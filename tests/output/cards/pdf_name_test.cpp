@@ -1,4 +1,4 @@
-#include "output/cards/pdf_name.h"
+#include "output/cards/card_run.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +6,6 @@
 
 namespace winvrx {
 namespace {
-
-const PdfNaming kMarch{"CARTÃO PONTO", "03-2024"};
 
 TEST(PdfName, LeadsNowhereElse) {
     struct Case {
@@ -19,14 +17,11 @@ TEST(PdfName, LeadsNowhereElse) {
                             Case{"C:\\A*?\"<>|", "CARTÃO PONTO 001 C--A------ 03-2024.pdf"},
                             Case{"A\nB\x7f", "CARTÃO PONTO 001 A-B- 03-2024.pdf"},
                             Case{"", "CARTÃO PONTO 001 03-2024.pdf"}}) {
-        Employee employee;
-        employee.code = "001";
-        employee.name = one.name;
-        EXPECT_EQ(pdfNameOf(employee, kMarch), one.file);
+        EXPECT_EQ(pdfNameOf("CARTÃO PONTO", std::string("001 ") + one.name, "03-2024"), one.file);
         const std::filesystem::path path = std::filesystem::path("/home") / one.file;
         EXPECT_EQ(path.lexically_normal().parent_path(), "/home") << one.name;
     }
-    EXPECT_LT(pdfNameOf(std::string(500, 'x'), kMarch).size(), 200U);
+    EXPECT_LT(pdfNameOf("CARTÃO PONTO", std::string(500, 'x'), "03-2024").size(), 200U);
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "output/mirrors/hours_report.h"
 
-#include "output/mirrors/hours_tables.h"
 #include "output/stocks/card_rows.h"
 #include "tests/support/hours_office.h"
 #include "timecard/hours/employee_hours.h"
@@ -30,7 +29,7 @@ struct HoursReportTest : ::testing::Test {
     }
     [[nodiscard]] std::vector<std::string> report(const char* first, const char* last) {
         const MirrorPeriod period = days(first, last);
-        HoursReport made(period.days(), period.lastMonth().overtime);
+        HoursReport made({*parseDate(first), *parseDate(last)}, period.lastMonth().overtime);
         for (const Employee& one : people())
             made.add(period.of(one));
         return std::move(made).lines();

@@ -132,7 +132,7 @@ class PrintingScreen : public Cups {
     SystemPrinters printers_;
     AlignmentMemory alignment_;
     TestBrowser browser_;
-    Cartao screen_{office_.at, {browser_, desk_.engine, printers_, alignment_}};
+    Cartao screen_{office_.at, {browser_, desk_.engine, printers_}, alignment_};
 };
 
 TEST_F(PrintingScreen, PrintsTheSecondSideBackwards) {

@@ -51,7 +51,7 @@ class CartaoWindowTest : public ::testing::Test {
     TestPrinters printers;
     AlignmentMemory alignment;
     testing::TestBrowser browser;
-    Cartao cartao{desk.at, {browser, engine, printers, alignment}};
+    Cartao cartao{desk.at, {browser, engine, printers}, alignment};
 };
 
 TEST_F(CartaoWindowTest, ChoicesReachThePrintedJob) {

@@ -2,7 +2,7 @@
 
 #include "foundation/desk/desktop/xlsx_spreadsheet.h"
 #include "output/mirrors/hours_overview.h"
-#include "output/mirrors/hours_tables.h"
+#include "output/mirrors/hours_report.h"
 #include "report/desktop/qt_report_engine.h"
 #include "tests/support/hours_office.h"
 #include "tests/support/printed_text.h"
