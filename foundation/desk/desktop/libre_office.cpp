@@ -1,10 +1,13 @@
 #include "foundation/desk/desktop/libre_office.h"
 
 #include "foundation/desk/desktop/open_document.h"
+#include "foundation/desk/desktop/windows_programs.h"
 #include "foundation/values/desktop/qt_text.h"
 
+#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QPrinterInfo>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -16,19 +19,32 @@ namespace {
 
 constexpr int kPatience = 60'000;  // milliseconds for a document at the program's end
 
+/// Empty when there is none.
+QString foundProgram() {
+    QString program = QStandardPaths::findExecutable(QStringLiteral("soffice"));
+#ifdef Q_OS_WIN
+    if (program.isEmpty()) program = registeredLibreOffice();
+#endif
+    return program;
+}
+
 /// Throws Fault when there is none.
 QString installedProgram() {
-    const QString name = QStringLiteral("soffice");
-    QString program = QStandardPaths::findExecutable(name);
-#ifdef Q_OS_WIN
-    // Its set-up leaves the search path alone.
-    if (program.isEmpty())
-        program = QStandardPaths::findExecutable(
-            name, {qEnvironmentVariable("ProgramFiles") + QStringLiteral("/LibreOffice/program")});
-#endif
+    QString program = foundProgram();
     if (program.isEmpty())
         throw Fault("soffice: not found", "O LibreOffice Writer não está instalado.");
     return program;
+}
+
+/// Another word processor that Windows opens such documents with.
+bool openedByAssociation(const QString& path) {
+#ifdef Q_OS_WIN
+    return !programOf(u'.' + QFileInfo(path).suffix()).isEmpty() &&
+           QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+#else
+    (void)path;
+    return false;
+#endif
 }
 
 Fault notStarted() {
@@ -96,6 +112,7 @@ void LibreOffice::printFile(const std::filesystem::path& file, const std::string
 }
 
 void LibreOffice::open(const QString& path) {
+    if (foundProgram().isEmpty() && openedByAssociation(path)) return;
     if (!QProcess::startDetached(installedProgram(), {QStringLiteral("--nologo"), path}))
         throw notStarted();
 }

@@ -11,9 +11,10 @@
 
 namespace winvrx {
 
-/// LibreOffice Writer, started by its command `soffice`. It works while the program goes on; the
-/// documents lie in a folder of the run's own, so that what is shown has to be saved elsewhere to
-/// outlive the run.
+/// LibreOffice Writer, started by its command `soffice`; on Windows a document is shown by another
+/// program that is registered for it where there is no LibreOffice. It works while the program goes
+/// on; the documents lie in a folder of the run's own, so that what is shown has to be saved
+/// elsewhere to outlive the run.
 class LibreOffice final : public WordProcessor {
   public:
     /// `onFailure` is told of a document that the word processor gave up after `print` returned.
