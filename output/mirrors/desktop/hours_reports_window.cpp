@@ -134,7 +134,7 @@ QWidget* HoursReportsWindow::buildPeriod(QWidget* parent) {
         connect(made, &Field::finished, this, [this] { (void)takePeriod(); });
         return made;
     };
-    first_ = field(QStringLiteral("&De"), QStringLiteral("first"));
+    first_ = field(QStringLiteral("D&e"), QStringLiteral("first"));
     last_ = field(QStringLiteral("&Até"), QStringLiteral("last"));
     last_->input()->setProperty("lastField", true);
     dates->addStretch();
@@ -148,8 +148,8 @@ QWidget* HoursReportsWindow::buildPeriod(QWidget* parent) {
         };
         choices->addWidget(newButton({"", text, {}, name, take}, part));
     };
-    choice(QStringLiteral("&Mês de trabalho"), "horas.wholeMonth", &HoursReports::chooseMonth);
-    choice(QStringLiteral("&Fechamento do ponto"), "horas.closing", &HoursReports::chooseClosing);
+    choice(QStringLiteral("Mês de &trabalho"), "horas.wholeMonth", &HoursReports::chooseMonth);
+    choice(QStringLiteral("Fe&chamento do ponto"), "horas.closing", &HoursReports::chooseClosing);
     choices->addStretch();
     column->addLayout(choices);
     return part;
