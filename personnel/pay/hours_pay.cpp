@@ -8,6 +8,14 @@ constexpr int kUrbanPercent = 20;
 constexpr int kRuralPercent = 25;
 constexpr int kMinutesAnHour = 60;
 
+Fraction reducedMinutes() {
+    return {105, 2};
+}
+
+bool isReduced(const PayrollLaw& law) {
+    return law.settings.nightHourIsReduced && law.settings.nightWork == NightWork::Urban;
+}
+
 Sum hourSum(const PayrollLaw& law, const HourBase& base) {
     Sum hour = Sum(base.pay).over(base.divisor);
     return law.settings.hourIsRounded ? std::move(hour).inCents() : hour;
@@ -22,13 +30,20 @@ int nightPercent(const PayrollLaw& law) {
 }
 
 Sum nightSum(const PayrollLaw& law, Sum sum, std::chrono::seconds clock) {
-    const bool isReduced =
-        law.settings.nightHourIsReduced && law.settings.nightWork == NightWork::Urban;
     sum = std::move(sum).hours(clock);
-    return isReduced ? std::move(sum).times(kMinutesAnHour).over({105, 2}) : sum;
+    return isReduced(law) ? std::move(sum).times(kMinutesAnHour).over(reducedMinutes()) : sum;
 }
 
 }  // namespace
+
+Fraction hourValue(const PayrollLaw& law, const HourBase& base) {
+    return hourSum(law, base).value();
+}
+
+Fraction nightHours(const PayrollLaw& law, std::chrono::seconds clock) {
+    const Fraction hours = hoursOf(clock);
+    return isReduced(law) ? hours * kMinutesAnHour / reducedMinutes() : hours;
+}
 
 Reckoning overtimePay(const PayrollLaw& law, const HourBase& base, int percent,
                       std::chrono::seconds worked, std::string words) {

@@ -18,13 +18,19 @@ struct HourBase {
     Fraction divisor;  ///< above zero
 };
 
+/// In cents and parts of a cent.
+[[nodiscard]] Fraction hourValue(const PayrollLaw& law, const HourBase& base);
+
+/// Clock hours as hours of night work: of 52 minutes 30 seconds each (CLT, art. 73 par. 1), or as
+/// they are where work is rural or the company does not reduce them.
+[[nodiscard]] Fraction nightHours(const PayrollLaw& law, std::chrono::seconds clock);
+
 /// Hours with `percent` added to each (CF, art. 7º, XVI; Súmula 264).
 [[nodiscard]] Reckoning overtimePay(const PayrollLaw& law, const HourBase& base, int percent,
                                     std::chrono::seconds worked, std::string words);
 
-/// What night work adds: 20% (CLT, art. 73), rural 25% (Lei 5.889/1973, art. 7º), on hours of 52
-/// minutes 30 seconds each (CLT, art. 73 par. 1), or of the clock where work is rural or the
-/// company does not reduce them.
+/// What night work adds: 20% (CLT, art. 73), rural 25% (Lei 5.889/1973, art. 7º), on the hours
+/// that `nightHours` gives.
 [[nodiscard]] Reckoning nightPremium(const PayrollLaw& law, const HourBase& base,
                                      std::chrono::seconds clock);
 

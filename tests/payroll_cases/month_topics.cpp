@@ -56,6 +56,7 @@ void incomeTaxTopic(In in, Law law, Out out) {
 
 void overtimeTopic(In in, Law law, Out out) {
     const HourBase base{in.money({"salario"}) + in.moneyOr({"adicionais"}), in.divisor()};
+    out.addDecimal("valor_hora_4dec", hourValue(law, base) / 100);
     Money extra;
     for (const int percent : in.extraPercents()) {
         const std::string digits = std::to_string(percent);
@@ -79,6 +80,8 @@ void nightTopic(In in, Law law, Out out) {
     plain.nightHourIsReduced = false;
     PayrollSettings rural = plain;
     rural.nightWork = NightWork::Rural;
+    out.addDecimal("valor_hora_4dec", hourValue(law, base) / 100);
+    out.addDecimal("horas_reduzidas_4dec", nightHours(law, clock));
     out.add("adicional_20", nightPremium(law, base, clock));
     out.add("sem_reducao", nightPremium({law.tables, plain}, base, clock));
     out.add("adicional_25", nightPremium({law.tables, rural}, base, clock));

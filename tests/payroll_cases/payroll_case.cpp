@@ -187,6 +187,10 @@ void CaseFigures::add(std::string name, Money amount) {
     texts_[std::move(name)] = amountText(amount);
 }
 
+void CaseFigures::addDecimal(std::string name, const Fraction& value) {
+    texts_[std::move(name)] = withPoint(decimalText(value, 4));
+}
+
 void CaseFigures::add(std::string name, int count) {
     texts_[std::move(name)] = std::to_string(count);
 }

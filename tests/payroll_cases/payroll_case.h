@@ -101,6 +101,8 @@ class CaseFigures {
     void add(std::string name, int count);
     void add(std::string name, Date date);
     void add(std::string name, std::string text) { texts_[std::move(name)] = std::move(text); }
+    /// With four digits behind the point.
+    void addDecimal(std::string name, const Fraction& value);
     /// A figure whose name begins so and goes on with digits and words of its own.
     void addAny(std::string beginning, Money amount);
 
