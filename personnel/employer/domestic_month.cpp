@@ -135,18 +135,20 @@ bool DomesticMonth::load() {
 Statement DomesticMonth::statement() const {
     Statement page{.title = "Guia do empregador doméstico (DAE)",
                    .about = monthTitle(month_) + " · pagamento até " + dateText(due()),
-                   .fileName = "Guia-" + monthKey(month_) + ".pdf"};
+                   .fileName = "Guia-" + monthKey(month_) + ".pdf",
+                   .creditHeading = "",
+                   .debitHeading = "Valor (R$)"};
     page.addHeading("Total da guia");
     const GuideAmounts sum = total();
     for (const GuideFigure& figure : kGuideFigures)
         page.lines.push_back(
-            {.words = std::string(figure.name), .credit = moneyText(sum.*figure.member)});
+            {.words = std::string(figure.name), .debit = moneyText(sum.*figure.member)});
     page.addTotal("A recolher", sum.total());
     for (const GuideLine& line : lines_) {
         page.addHeading(line.employee);
         for (const GuideFigure& figure : kGuideFigures)
             page.lines.push_back({.words = std::string(figure.name),
-                                  .credit = moneyText(line.amounts.*figure.member)});
+                                  .debit = moneyText(line.amounts.*figure.member)});
         page.addMemo(line.memo);
         page.addTotal("Total", line.amounts.total());
     }

@@ -25,7 +25,8 @@ constexpr std::array kLineColumns = {LineColumn{"grupo", &StatementLine::heading
                                      LineColumn{"memoria", &StatementLine::memo}};
 
 std::vector<std::string> columnNames() {
-    std::vector<std::string> names = {"titulo", "razao", "cnpj", "sobre", "folha"};
+    std::vector<std::string> names = {
+        "titulo", "razao", "cnpj", "sobre", "folha", "titulo_creditos", "titulo_descontos"};
     for (const LineColumn& column : kLineColumns)
         names.emplace_back(column.name);
     return names;
@@ -37,8 +38,13 @@ ReportRows sheetOf(const Statement& statement, const Company& company, std::size
     const std::size_t last = std::min(first + kLinesOnAStatement, statement.lines.size());
     ReportRows rows;
     for (std::size_t at = first; at < last; ++at) {
-        ReportRow row = {statement.title, company.name, company.taxId, statement.about,
-                         std::to_string(sheet + 1) + " de " + std::to_string(sheets)};
+        ReportRow row = {statement.title,
+                         company.name,
+                         company.taxId,
+                         statement.about,
+                         std::to_string(sheet + 1) + " de " + std::to_string(sheets),
+                         statement.creditHeading,
+                         statement.debitHeading};
         for (const LineColumn& column : kLineColumns)
             row.push_back(statement.lines[at].*column.member);
         rows.push_back(std::move(row));

@@ -29,6 +29,8 @@ struct Statement {
     std::string title;
     std::string about;     ///< whom, or which month it is of
     std::string fileName;  ///< proposed for a PDF
+    std::string creditHeading = "Créditos (R$)";
+    std::string debitHeading = "Descontos (R$)";  ///< of the column of totals too
     std::vector<StatementLine> lines = {};
 
     void addHeading(std::string text);

@@ -17,7 +17,7 @@ void addProvision(const Employee& employee, const VacationItem& item, Money amou
     page.lines.push_back({.words = employee.code + " " + employee.name + ", " +
                                    item.acquisitionFirst + " a " + item.acquisitionLast,
                           .quantity = std::to_string(item.grantedDays()) + " dias",
-                          .credit = moneyText(amount)});
+                          .debit = moneyText(amount)});
     page.lines.push_back(
         {.memo = "Férias " + moneyText(pay) + " + 1/3 " + moneyText(amount - pay)});
 }
@@ -32,7 +32,9 @@ bool previewProvisions(const PrintDesk& desk, WorkMonth month) {
         const FolderNames names = namesIn(store);
         Statement page{.title = "Provisão de férias",
                        .about = monthTitle(month),
-                       .fileName = "Provisao-" + company.text() + "-" + monthKey(month) + ".pdf"};
+                       .fileName = "Provisao-" + company.text() + "-" + monthKey(month) + ".pdf",
+                       .creditHeading = "",
+                       .debitHeading = "Valor (R$)"};
         Money total;
         for (const EmployeeLine& line : EmployeeRegister(store, company).load()) {
             if (!line.key()) continue;
