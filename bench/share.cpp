@@ -76,7 +76,8 @@ std::vector<Need> menu(bool inWork) {
                                {1, "the record of the next month, for the notices"},
                                {1, "the local holidays, for the one that has no record"},
                                {1, "the employees, for their number"},
-                               {1, "the card stock"}};
+                               {1, "the card stock"},
+                               {1, "sizes and times of the leave files: vacations due"}};
     if (inWork) needs.push_back({1, "the folder's names, for the number of filled cards"});
     return needs;
 }
@@ -86,6 +87,7 @@ std::vector<Need> operator+(std::vector<Need> left, const std::vector<Need>& rig
     return left;
 }
 
+const std::vector<Need> kDueLooked = {{kOnLeave, "the leave files: vacations due"}};
 const std::vector<Need> kStart = {{1, "the folder is made if need be"},
                                   {1, "what a crash left half-written"},
                                   {2, "the drive's letter: looked for, written"},
@@ -169,7 +171,8 @@ const std::vector<Need> kCopiesShown = {{1, "the names of the copies"},
                                         {1, "the archive that has its former bytes"}};
 
 const std::vector<Step> kDay = {
-    {"select a company", "menu.companies", kSelect + menu(false), Act::Choose, "NÚMERO 01"},
+    {"select a company", "menu.companies", kSelect + menu(false) + kDueLooked, Act::Choose,
+     "NÚMERO 01"},
     {"open Empresas", "menu.companies.open", kCompanies},
     {"close Empresas", "empresa.close", menu(false)},
     {"open Funcionarios", "menu.employees.open", kEmployeesShown},
@@ -335,7 +338,7 @@ int main(int argc, char** argv) {
     Program program(desk);
     meter.begin();
     if (!program.start()) return 1;
-    meter.end({"start", "", kStart + menu(false)});
+    meter.end({"start", "", kStart + menu(false) + kDueLooked});
     Player player(office.filePath(QStringLiteral("play")));
     for (const Step& step : kDay)
         play(player, meter, step);

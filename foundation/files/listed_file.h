@@ -11,6 +11,8 @@ struct ListedFile {
     std::string name;
     std::uint64_t size = 0;
     std::chrono::nanoseconds written{};  ///< since 1970, by the clock of the disk's own system
+
+    [[nodiscard]] bool operator==(const ListedFile&) const = default;
 };
 
 }  // namespace winvrx

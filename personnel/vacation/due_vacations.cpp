@@ -1,6 +1,9 @@
 #include "personnel/vacation/due_vacations.h"
 
+#include "foundation/files/record_names.h"
+
 #include <algorithm>
+#include <array>
 
 namespace winvrx {
 
@@ -10,6 +13,20 @@ namespace {
 bool mayBeDue(Date admission, const LeaveCalendar& leaves, Date today) {
     return dueVacation({admission}, today, {}) ||
            dueVacation(acquisitionCount(admission, leaves, {}), today, {});
+}
+
+/// Of a company's file, behind its code.
+bool isReadHere(std::string_view name) {
+    return std::ranges::any_of(
+        std::array{kEmployeeListStem, kLeaveStem, kVacationStem},
+        [stem = name.substr(2)](std::string_view one) { return stem.starts_with(one); });
+}
+
+std::string textOf(const std::vector<EmployeeDue>& due) {
+    if (due.empty()) return "Nada a vencer em 60 dias";
+    const auto soonest =
+        std::ranges::min(due, {}, [](const EmployeeDue& one) { return one.due.lastStart; });
+    return std::to_string(due.size()) + " a vencer, a partir de " + dateText(soonest.due.lastStart);
 }
 
 }  // namespace
@@ -34,13 +51,20 @@ std::vector<EmployeeDue> dueVacations(const Store& store, const CompanyCode& com
     return found;
 }
 
-std::string dueState(const Store& store, const CompanyCode& company, Date today) {
-    const auto due = dueVacations(store, company, EmployeeRegister(store, company).load(),
-                                  namesIn(store), today);
-    if (due.empty()) return "Nada a vencer em 60 dias";
-    const auto soonest =
-        std::ranges::min(due, {}, [](const EmployeeDue& one) { return one.due.lastStart; });
-    return std::to_string(due.size()) + " a vencer, a partir de " + dateText(soonest.due.lastStart);
+const std::string& DueState::text(const Store& store, const CompanyCode& company, Date today) {
+    Seen now{store.folder.path(), company.text(), today};
+    FolderNames names;
+    for (const ListedFile& file : store.files.list(now.folder)) {
+        names.insert(file.name);
+        if (file.name.starts_with(now.company) && isReadHere(file.name)) now.files.push_back(file);
+    }
+    std::ranges::sort(now.files, {}, &ListedFile::name);
+    if (now != seen_) {
+        const auto employees = EmployeeRegister(store, company).load();
+        text_ = textOf(dueVacations(store, company, employees, names, today));
+        seen_ = std::move(now);
+    }
+    return text_;
 }
 
 }  // namespace winvrx

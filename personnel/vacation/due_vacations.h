@@ -1,9 +1,11 @@
 #pragma once
 
 #include "foundation/files/folder_names.h"
+#include "foundation/files/listed_file.h"
 #include "foundation/register/employee_register.h"
 #include "personnel/vacation/vacation_periods.h"
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -22,7 +24,26 @@ struct EmployeeDue {
                                                     const std::vector<EmployeeLine>& employees,
                                                     const FolderNames& names, Date today);
 
-/// "2 a vencer até 20/01/2027"; what is said where none is, or nothing can be read.
-[[nodiscard]] std::string dueState(const Store& store, const CompanyCode& company, Date today);
+/// What the main window says of them behind every screen. On a share each file costs a millisecond:
+/// they are read again only where the listing of the folder tells of a change.
+class DueState {
+  public:
+    /// "2 a vencer, a partir de 20/01/2027"; what is said where none is. Throws FileFault.
+    [[nodiscard]] const std::string& text(const Store& store, const CompanyCode& company,
+                                          Date today);
+
+  private:
+    struct Seen {
+        std::filesystem::path folder{};
+        std::string company{};
+        Date today{};
+        std::vector<ListedFile> files{};  ///< that the text depends on
+
+        [[nodiscard]] bool operator==(const Seen&) const = default;
+    };
+
+    Seen seen_;
+    std::string text_;
+};
 
 }  // namespace winvrx

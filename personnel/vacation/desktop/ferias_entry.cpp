@@ -7,14 +7,16 @@
 #include "personnel/vacation/ferias.h"
 #include "timecard/month/desktop/month_entry.h"
 
+#include <memory>
+
 namespace winvrx {
 
 namespace {
 
-QString stateOf(const Workplace& at) {
+QString stateOf(const Workplace& at, DueState& due) {
     if (!at.session.company) return QStringLiteral("Períodos e vencimentos");
     try {
-        return toQt(dueState(at.store(), *at.session.company, at.clock.today()));
+        return toQt(due.text(at.store(), *at.session.company, at.clock.today()));
     } catch (const std::exception& fault) {
         at.log.write(std::string("due vacations not looked up: ") + fault.what());
         return QStringLiteral("Períodos e vencimentos");
@@ -50,7 +52,8 @@ MenuEntry vacationsEntry(const Workplace& at, const FeriasEntryDesk& desk) {
             .tile = {"leave", QStringLiteral("Féria&s"), "menu.vacations.open"},
             .needs = MenuNeeds::Employees,
             .open = [at, desk](QWidget* parent) { openVacations(at, desk, parent); },
-            .state = [at](const MonthProgress*) { return stateOf(at); }};
+            .state = [at, due = std::make_shared<DueState>()](
+                         const MonthProgress*) { return stateOf(at, *due); }};
 }
 
 }  // namespace winvrx

@@ -328,8 +328,9 @@ TEST_F(FeriasTest, ListsWhatIsDue) {
     EXPECT_EQ(screen_.dueText(),
               "Vencem em 60 dias: 30 dias do período de 20/04/2022 a 19/04/2023, com início até "
               "21/03/2024 para não pagar em dobro.");
+    DueState due;
     const auto state = [&] {
-        return dueState(desk_.store(), CompanyCode::parse("01").value(), desk_.clock.now().date);
+        return due.text(desk_.store(), CompanyCode::parse("01").value(), desk_.clock.now().date);
     };
     EXPECT_EQ(state(), "1 a vencer, a partir de 21/03/2024");
     EXPECT_TRUE(screen_.showOnlyDue(true));
@@ -338,6 +339,11 @@ TEST_F(FeriasTest, ListsWhatIsDue) {
     EXPECT_EQ(screen_.selected()->name, "ANA");
     desk_.file("01configAf003") = "**** 01/03/2024\r\n";
     EXPECT_EQ(state(), "Nada a vencer em 60 dias");
+    desk_.file("01configAf003") = "****           \r\n";  // as long as before
+    EXPECT_EQ(state(), "1 a vencer, a partir de 21/03/2024");
+    const int reads = desk_.files.reads;
+    EXPECT_EQ(state(), "1 a vencer, a partir de 21/03/2024");
+    EXPECT_EQ(desk_.files.reads, reads) << "nothing has changed";
 }
 
 }  // namespace
