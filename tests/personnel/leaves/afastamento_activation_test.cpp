@@ -99,21 +99,29 @@ TEST_F(AfastamentoTest, ReactivatesUnlessATerminationDocumentStands) {
     EXPECT_THAT(file(), ::testing::EndsWith("**** \r\n"));
 }
 
-TEST_F(AfastamentoTest, OffersTheCardsThatALeaveComesTooLateFor) {
-    const EmployeeKey key{*CompanyCode::parse("01"), *EmployeeCode::parse("001")};
-    for (const auto month : {2024y / 3, 2024y / 4}) {
-        auto lines = blankMonth(month);
-        for (PunchLine& line : lines)
-            line.morningEntry = "08:00";
-        desk_.file(punchFileName(key, month)) = editedPunchRecord("", month, lines);
+/// ANA's cards of March and April are filled, every day at eight.
+struct FilledCards : AfastamentoTest {
+    void SetUp() override {
+        AfastamentoTest::SetUp();
+        for (const auto month : {2024y / 3, 2024y / 4}) {
+            auto lines = blankMonth(month);
+            for (PunchLine& line : lines)
+                line.morningEntry = "08:00";
+            desk_.file(punchFileName(key, month)) = editedPunchRecord("", month, lines);
+        }
+        record({});
+        start();
     }
-    const auto marked = [&](WorkMonth month, int day) {
+    [[nodiscard]] std::string marked(WorkMonth month, int day) {
         const auto line =
             loadPunches(desk_.store(), key, month)->at(static_cast<std::size_t>(day) - 1);
         return line.situation + (line.hasTimes() ? " timed" : "");
-    };
-    record({});
-    start();
+    }
+
+    const EmployeeKey key{*CompanyCode::parse("01"), *EmployeeCode::parse("001")};
+};
+
+TEST_F(FilledCards, AreOfferedToALeaveThatComesTooLate) {
     type({{Type, "007 ATESTADO_DECALRAÇÃO"}, {FirstDay, "30/03/2024"}, {Days, "3"}});
     screen_.lookForPunches();
     EXPECT_EQ(screen_.finding(FirstDay),
@@ -136,9 +144,9 @@ TEST_F(AfastamentoTest, OffersTheCardsThatALeaveComesTooLateFor) {
     desk_.person.answers = {kYes};
     EXPECT_TRUE(screen_.change());
     EXPECT_EQ(desk_.person.shown.size(), 1U) << "every day is marked already";
+}
 
-    record({});
-    start();
+TEST_F(FilledCards, AreOfferedAgainWhenTheContractEnds) {
     const Leave end = termination();
     type({{Type, end.type},
           {FirstDay, end.firstDay},

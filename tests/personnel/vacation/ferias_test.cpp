@@ -49,6 +49,16 @@ class FeriasTest : public ::testing::Test {
         screen_.form().type(Days, days);
         screen_.form().type(Sold, sold);
     }
+    /// 24 of BIA's 30 days, ten of them sold, in March's work; the first row is chosen.
+    void recordMostOfAPeriod() {
+        type("10/04/2024", "14", "10");
+        screen_.form().payThirteenth(true);
+        answer({Yes});
+        ASSERT_TRUE(screen_.record());
+        (void)told();
+        answer({Yes});
+        ASSERT_TRUE(screen_.choose(0));
+    }
     void answer(std::deque<Answer> answers) { desk_.person.answers = std::move(answers); }
     [[nodiscard]] Texts told() { return desk_.person.takeTexts(); }
     [[nodiscard]] Texts rowTexts() const {
@@ -145,17 +155,13 @@ TEST_F(FeriasTest, WarnsOfPendingPeriodsAndGoesOn) {
     EXPECT_EQ(rowTexts(), (Texts{"30Dias  -  Quitar ", "30Dias  - Pendente"}));
 }
 
-TEST_F(FeriasTest, RecordsSettlesRestoresAndRemoves) {
-    type("10/04/2024", "14", "10");
-    screen_.form().payThirteenth(true);
-    answer({Yes});
-    EXPECT_TRUE(screen_.record());
+TEST_F(FeriasTest, RecordsAPartOfAPeriodWithItsLeave) {
+    recordMostOfAPeriod();
     EXPECT_EQ(desk_.files.content.at(kFile),
               "01/02/2023  31/01/2024  FERIAS    30  10/04/2024  23/04/2024  10  S  03-2024" +
                   std::string(25, ' ') + "\r\n");
     EXPECT_TRUE(desk_.file("01configAf002").starts_with("006 F"));
     EXPECT_EQ(rowTexts(), (Texts{"24Dias  -  Quitar ", "6Dias  - Pendente", "30Dias  - Pendente"}));
-    ASSERT_TRUE(screen_.choose(0));
     EXPECT_TRUE(screen_.hasLeaveOf(screen_.rows()[0]));
 
     // What is left belongs to another month, and to other days.
@@ -166,11 +172,12 @@ TEST_F(FeriasTest, RecordsSettlesRestoresAndRemoves) {
     type("24/04/2024", "6");
     answer({Yes});
     EXPECT_FALSE(screen_.record());
-    EXPECT_EQ(told(), (Texts{kConfirm, kConfirm, "Já há férias gravadas nestes dias.", kConfirm,
+    EXPECT_EQ(told(), (Texts{kConfirm, "Já há férias gravadas nestes dias.", kConfirm,
                              "Já há férias gravadas neste mês de trabalho."}));
+}
 
-    answer({Yes});
-    ASSERT_TRUE(screen_.choose(0));
+TEST_F(FeriasTest, SettlesOnceWhatThePayrollHasRecorded) {
+    recordMostOfAPeriod();
     answer({Yes});
     EXPECT_FALSE(screen_.settle());
     EXPECT_EQ(desk_.person.shown.back().icon, Icon::Critical);
@@ -194,9 +201,10 @@ TEST_F(FeriasTest, RecordsSettlesRestoresAndRemoves) {
     EXPECT_EQ(rowTexts().front(), "24Dias  -  Quitar ");
     ASSERT_TRUE(screen_.choose(0));
     EXPECT_FALSE(screen_.restoreSettlement());
+}
 
-    // Changed, the leave follows; removed, it goes.
-    paid_.reset();
+TEST_F(FeriasTest, TheLeaveFollowsAChangeAndARemoval) {
+    recordMostOfAPeriod();
     type("08/04/2024", "20", "10");
     answer({Yes});
     EXPECT_TRUE(screen_.record());

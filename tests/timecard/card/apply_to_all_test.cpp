@@ -56,75 +56,72 @@ struct ApplyToAll : CardScreen {
     }
 };
 
-TEST_F(ApplyToAll, ChecksInOrder) {
-    struct Case {
-        const char* what;
-        std::vector<std::string> shown;
-        std::vector<Answer> answers = {};
-        bool sameHours = true;
-        ShiftFilter filter = ShiftFilter::Unico;
-        const char* scaleOfCaio = "Norma";
-        bool selected = true;
-        const char* admission = "01/02/2020";
-        bool onLeave = false;
-        bool done = false;
-        bool scheduled = true;
-        bool hidden = false;
-    };
-    constexpr Answer kOk = Answer::Ok, kYes = Answer::Yes, kNo = Answer::No,
-                     kCancel = Answer::Cancel;
-    constexpr auto kTodos = ShiftFilter::Todos;
-    const char* after = "01/04/2024";
-    for (const Case& c : std::vector<Case>{
-             {.what = "leave",
-              .shown = {kOnLeave},
-              .filter = kTodos,
-              .scaleOfCaio = "5x1",
-              .admission = after,
-              .onLeave = true},
-             {.what = "nobody",
-             .shown = {kNoLine},
-             .filter = ShiftFilter::Tres,
-             .scaleOfCaio = "",
-             .selected = false},
-             {.what = "admitted later",
-             .shown = {kDates},
-             .filter = kTodos,
-             .scaleOfCaio = "5x1",
-             .admission = after},
-             {.what = "shifts differ", .shown = {kMixed}, .filter = kTodos},
-             {.what = "scales differ", .shown = {kMixed}, .scaleOfCaio = "5x1"},
-             {.what = "the model is not in the list",
-             .shown = {kNoLine},
-             .scaleOfCaio = "12x36",
-             .hidden = true},
-             {.what = "no schedule to be everyone's", .shown = {kNoSchedule}, .scheduled = false},
-             {.what = "own hours, none of his own",
-             .shown = {kErases, kCertain, kOwnHours},
-             .answers = {kOk, kOk, kNo},
-             .sameHours = false,
-             .scheduled = false,
-             .hidden = true},
-             {.what = "erases, cancelled", .shown = {kErases}, .answers = {kCancel}},
-             {.what = "certain, cancelled",
-             .shown = {kErases, kCertain},
-             .answers = {kOk, kCancel}},
-             {.what = "not confirmed",
-             .shown = {kErases, kCertain, kSameHours},
-             .answers = {kOk, kOk, kNo}},
-             {.what = "same hours",
-             .shown = {kErases, kCertain, kSameHours},
-             .answers = {kOk, kOk, kYes},
-             .done = true},
-             {.what = "own hours, not confirmed",
-             .shown = {kErases, kCertain, kOwnHours},
-             .answers = {kOk, kOk, kNo},
-             .sameHours = false,
-             .scaleOfCaio = "5x1"},
-             {.what = "own hours, leave",
-             .shown = {kOnLeave},
-             .sameHours = false,
-             .onLeave = true}}) {
+/// What stands when the command is given, what is answered, and what is shown then.
+struct Case {
+    const char* what;
+    std::vector<std::string> shown;
+    std::vector<Answer> answers = {};
+    bool sameHours = true;
+    ShiftFilter filter = ShiftFilter::Unico;
+    const char* scaleOfCaio = "Norma";
+    bool selected = true;
+    const char* admission = "01/02/2020";
+    bool onLeave = false;
+    bool done = false;
+    bool scheduled = true;
+    bool hidden = false;
+};
+
+constexpr Answer kOk = Answer::Ok, kYes = Answer::Yes, kNo = Answer::No, kCancel = Answer::Cancel;
+constexpr auto kTodos = ShiftFilter::Todos;
+constexpr const char* kAfter = "01/04/2024";
+
+const std::vector<Case> kChecks = {
+    {.what = "leave",
+     .shown = {kOnLeave},
+     .filter = kTodos,
+     .scaleOfCaio = "5x1",
+     .admission = kAfter,
+     .onLeave = true},
+    {.what = "nobody",
+     .shown = {kNoLine},
+     .filter = ShiftFilter::Tres,
+     .scaleOfCaio = "",
+     .selected = false},
+    {.what = "admitted later",
+     .shown = {kDates},
+     .filter = kTodos,
+     .scaleOfCaio = "5x1",
+     .admission = kAfter},
+    {.what = "shifts differ", .shown = {kMixed}, .filter = kTodos},
+    {.what = "scales differ", .shown = {kMixed}, .scaleOfCaio = "5x1"},
+    {.what = "the model is not in the list",
+     .shown = {kNoLine},
+     .scaleOfCaio = "12x36",
+     .hidden = true},
+    {.what = "no schedule to be everyone's", .shown = {kNoSchedule}, .scheduled = false},
+    {.what = "own hours, none of his own",
+     .shown = {kErases, kCertain, kOwnHours},
+     .answers = {kOk, kOk, kNo},
+     .sameHours = false,
+     .scheduled = false,
+     .hidden = true},
+    {.what = "erases, cancelled", .shown = {kErases}, .answers = {kCancel}},
+    {.what = "certain, cancelled", .shown = {kErases, kCertain}, .answers = {kOk, kCancel}},
+    {.what = "not confirmed", .shown = {kErases, kCertain, kSameHours}, .answers = {kOk, kOk, kNo}},
+    {.what = "same hours",
+     .shown = {kErases, kCertain, kSameHours},
+     .answers = {kOk, kOk, kYes},
+     .done = true},
+    {.what = "own hours, not confirmed",
+     .shown = {kErases, kCertain, kOwnHours},
+     .answers = {kOk, kOk, kNo},
+     .sameHours = false,
+     .scaleOfCaio = "5x1"},
+    {.what = "own hours, leave", .shown = {kOnLeave}, .sameHours = false, .onLeave = true}};
+
+struct ApplyToAllChecks : ApplyToAll {
+    void arrange(const Case& c) {
         Employee ana = employee("001", "ANA", "Unico", "Norma");
         ana.admission = c.admission;
         hire({ana, employee("003", "CAIO", "Unico", c.scaleOfCaio),
@@ -137,6 +134,12 @@ TEST_F(ApplyToAll, ChecksInOrder) {
         if (c.selected) {
             ASSERT_TRUE(screen.select(0));
         }
+    }
+};
+
+TEST_F(ApplyToAllChecks, GoInOrder) {
+    for (const Case& c : kChecks) {
+        arrange(c);
         const auto untouched = desk.files.content;
         desk.person.shown.clear();
         desk.person.answers.assign(c.answers.begin(), c.answers.end());

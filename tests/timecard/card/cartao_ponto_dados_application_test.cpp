@@ -70,71 +70,76 @@ struct Situated {
     const char* inactiveSince = "";
 };
 
-TEST_F(CardScreen, ApplicationChecksInOrder) {
-    struct Case {
-        const char* what;
-        Situated ana;
-        std::vector<Answer> answers;
-        std::vector<std::string> shown;
-        bool done;
-    };
-    constexpr Answer kOk = Answer::Ok, kYes = Answer::Yes, kNo = Answer::No,
-                     kCancel = Answer::Cancel;
-    // Everything that asks or refuses, at once: the first refusal hides the others.
-    const Situated troubled{true, "12x36", true, false, true, "01/02/2020", false};
-    for (const Case& c : std::vector<Case>{
-             {"nothing special", {}, {kYes}, {kConfirmed}, true},
-             {"not confirmed", {}, {kNo}, {kConfirmed}, false},
-             {"closed", {.applied = true, .closed = true}, {}, {kClosed}, false},
-             {"applied, cancelled", {.applied = true}, {kCancel}, {kAlready, kReplace}, false},
-             {"applied", {.applied = true}, {kOk, kYes}, {kAlready, kReplace, kConfirmed}, true},
-             {"rotation", {.scale = "12x36"}, {}, {kScale, kGroup}, false},
-             {"rotation, admitted later",
-              {.scale = "5x1", .scheduled = false, .onLeave = true, .admission = "01/05/2024"},
-              {},
-              {kScale, kGroup},
-              false},
-             {"in a group", {.scale = "5x1", .inGroup = true}, {kYes}, {kConfirmed}, true},
-             {"no situation, cancelled", {.scheduled = false}, {kCancel}, {kSituation}, false},
-             {"no situation", {.scheduled = false}, {kOk, kYes}, {kSituation, kConfirmed}, true},
-             {"leave, cancelled", {.onLeave = true}, {kCancel}, {kLeave}, false},
-             {"leave", {.onLeave = true}, {kOk, kYes}, {kLeave, kConfirmed}, true},
-             {"leave, admitted later",
-              {.onLeave = true, .admission = "01/04/2024"},
-              {kOk},
-              {kLeave, kDates},
-              false},
-             {"inactive before, cancelled",
-              {.inactiveSince = "29/02/2024"},
-              {kCancel},
-              {kInactive},
-              false},
-             {"inactive before",
-              {.inactiveSince = "29/02/2024"},
-              {kOk, kYes},
-              {kInactive, kConfirmed},
-              true},
-             {"inactive in the month", {.inactiveSince = "01/03/2024"}, {kYes}, {kConfirmed}, true},
-             {"first of next month", {.admission = "01/04/2024"}, {}, {kDates}, false},
-             {"last of this month", {.admission = "31/03/2024"}, {kYes}, {kConfirmed}, true},
-             {"impossible date", {.admission = "31/02/2024"}, {}, {kFailed}, false},
-             {"all of it, to the end",
-              troubled,
-              {kOk, kOk, kYes},
-              {kAlready, kReplace, kLeave, kConfirmed},
-              true}}) {
-        Employee ana = employee("001", "ANA", "Unico", c.ana.scale);
-        ana.admission = c.ana.admission;
+struct Application {
+    const char* what;
+    Situated ana;
+    std::vector<Answer> answers;
+    std::vector<std::string> shown;
+    bool done;
+};
+
+constexpr Answer kOk = Answer::Ok, kYes = Answer::Yes, kNo = Answer::No, kCancel = Answer::Cancel;
+// Everything that asks or refuses, at once: the first refusal hides the others.
+const Situated kTroubled{true, "12x36", true, false, true, "01/02/2020", false};
+
+const std::vector<Application> kApplications = {
+    {"nothing special", {}, {kYes}, {kConfirmed}, true},
+    {"not confirmed", {}, {kNo}, {kConfirmed}, false},
+    {"closed", {.applied = true, .closed = true}, {}, {kClosed}, false},
+    {"applied, cancelled", {.applied = true}, {kCancel}, {kAlready, kReplace}, false},
+    {"applied", {.applied = true}, {kOk, kYes}, {kAlready, kReplace, kConfirmed}, true},
+    {"rotation", {.scale = "12x36"}, {}, {kScale, kGroup}, false},
+    {"rotation, admitted later",
+     {.scale = "5x1", .scheduled = false, .onLeave = true, .admission = "01/05/2024"},
+     {},
+     {kScale, kGroup},
+     false},
+    {"in a group", {.scale = "5x1", .inGroup = true}, {kYes}, {kConfirmed}, true},
+    {"no situation, cancelled", {.scheduled = false}, {kCancel}, {kSituation}, false},
+    {"no situation", {.scheduled = false}, {kOk, kYes}, {kSituation, kConfirmed}, true},
+    {"leave, cancelled", {.onLeave = true}, {kCancel}, {kLeave}, false},
+    {"leave", {.onLeave = true}, {kOk, kYes}, {kLeave, kConfirmed}, true},
+    {"leave, admitted later",
+     {.onLeave = true, .admission = "01/04/2024"},
+     {kOk},
+     {kLeave, kDates},
+     false},
+    {"inactive before, cancelled", {.inactiveSince = "29/02/2024"}, {kCancel}, {kInactive}, false},
+    {"inactive before",
+     {.inactiveSince = "29/02/2024"},
+     {kOk, kYes},
+     {kInactive, kConfirmed},
+     true},
+    {"inactive in the month", {.inactiveSince = "01/03/2024"}, {kYes}, {kConfirmed}, true},
+    {"first of next month", {.admission = "01/04/2024"}, {}, {kDates}, false},
+    {"last of this month", {.admission = "31/03/2024"}, {kYes}, {kConfirmed}, true},
+    {"impossible date", {.admission = "31/02/2024"}, {}, {kFailed}, false},
+    {"all of it, to the end",
+     kTroubled,
+     {kOk, kOk, kYes},
+     {kAlready, kReplace, kLeave, kConfirmed},
+     true}};
+
+struct ApplicationChecks : CardScreen {
+    void arrange(const Situated& now) {
+        Employee ana = employee("001", "ANA", "Unico", now.scale);
+        ana.admission = now.admission;
         hire({ana});
         asked.locks = {};
-        if (c.ana.closed) asked.locks.closed = {"001"};
+        if (now.closed) asked.locks.closed = {"001"};
         asked.rotations.months.clear();
-        if (c.ana.inGroup) asked.rotations.months[*EmployeeCode::parse("001")].days.resize(31);
+        if (now.inGroup) asked.rotations.months[*EmployeeCode::parse("001")].days.resize(31);
         desk.file(kLeaves) =
-            leaveBytes(c.ana.onLeave ? kVacation : std::vector<Leave>(), c.ana.inactiveSince);
+            leaveBytes(now.onLeave ? kVacation : std::vector<Leave>(), now.inactiveSince);
         desk.files.content.erase("/data/" + kPunches);
-        if (c.ana.applied) desk.file(kPunches) = "  \r\n01/sex/mar07:00\r\n";
-        desk.file(kSchedule) = c.ana.scheduled ? "08:0012:0013:0017:00\r\n" : "";
+        if (now.applied) desk.file(kPunches) = "  \r\n01/sex/mar07:00\r\n";
+        desk.file(kSchedule) = now.scheduled ? "08:0012:0013:0017:00\r\n" : "";
+    }
+};
+
+TEST_F(ApplicationChecks, GoInOrder) {
+    for (const Application& c : kApplications) {
+        arrange(c.ana);
         openOn(0);
         const auto untouched = desk.files.content;
         desk.person.shown.clear();
