@@ -26,7 +26,9 @@ std::string textOf(const std::vector<EmployeeDue>& due) {
     if (due.empty()) return "Nada a vencer em 60 dias";
     const auto soonest =
         std::ranges::min(due, {}, [](const EmployeeDue& one) { return one.due.lastStart; });
-    return std::to_string(due.size()) + " a vencer, a partir de " + dateText(soonest.due.lastStart);
+    const std::string first = dateText(soonest.due.lastStart);
+    if (due.size() == 1) return "1 vence em " + first;
+    return std::to_string(due.size()) + " vencem, a 1ª em " + first;
 }
 
 }  // namespace

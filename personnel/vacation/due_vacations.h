@@ -28,7 +28,7 @@ struct EmployeeDue {
 /// they are read again only where the listing of the folder tells of a change.
 class DueState {
   public:
-    /// "2 a vencer, a partir de 20/01/2027"; what is said where none is. Throws FileFault.
+    /// "2 vencem, a 1ª em 20/01/2027"; what is said where none is. Throws FileFault.
     [[nodiscard]] const std::string& text(const Store& store, const CompanyCode& company,
                                           Date today);
 

@@ -340,7 +340,7 @@ TEST_F(FeriasTest, ListsWhatIsDue) {
     const auto state = [&] {
         return due.text(desk_.store(), CompanyCode::parse("01").value(), desk_.clock.now().date);
     };
-    EXPECT_EQ(state(), "1 a vencer, a partir de 21/03/2024");
+    EXPECT_EQ(state(), "1 vence em 21/03/2024");
     EXPECT_TRUE(screen_.showOnlyDue(true));
     EXPECT_EQ(screen_.list().employees().size(), 1U);
     EXPECT_TRUE(screen_.select(EmployeeCode::parse("001").value()));
@@ -348,9 +348,9 @@ TEST_F(FeriasTest, ListsWhatIsDue) {
     desk_.file("01configAf003") = "**** 01/03/2024\r\n";
     EXPECT_EQ(state(), "Nada a vencer em 60 dias");
     desk_.file("01configAf003") = "****           \r\n";  // as long as before
-    EXPECT_EQ(state(), "1 a vencer, a partir de 21/03/2024");
+    EXPECT_EQ(state(), "1 vence em 21/03/2024");
     const int reads = desk_.files.reads;
-    EXPECT_EQ(state(), "1 a vencer, a partir de 21/03/2024");
+    EXPECT_EQ(state(), "1 vence em 21/03/2024");
     EXPECT_EQ(desk_.files.reads, reads) << "nothing has changed";
 }
 
