@@ -17,6 +17,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdlib>
 #include <exception>
 #include <stdexcept>
@@ -170,9 +171,12 @@ void Player::pictureBeside(QAnyStringView objectName, QAnyStringView name) {
 }
 
 QWidget* Player::beside(const QString& objectName) const {
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->isVisible() && window->objectName() == objectName) return window;
-    fail(QStringLiteral("no window ") + objectName);
+    QWidgetList windows = QApplication::topLevelWidgets();
+    windows.removeIf([&](const QWidget* window) {
+        return !window->isVisible() || window->objectName() != objectName;
+    });
+    if (windows.isEmpty()) fail(QStringLiteral("no window ") + objectName);
+    return std::ranges::min(windows, {}, &QWidget::windowTitle);
 }
 
 void Player::savePicture(QWidget* window, const QString& name) {

@@ -30,6 +30,8 @@ QString widestOf(const QStringList& lines) {
 TextViewerWindow::TextViewerWindow(const QString& title, const QString& text, QWidget* parent)
     : ScreenWindow(QStringLiteral("relatorio"), QStringLiteral("Relatório"), parent) {
     setSubtitle(title);
+    // Several may be open, and wait in the printer's queue.
+    setWindowTitle(windowTitle() + u' ' + title);
     addCommand({"print", QStringLiteral("Imprimir"), QKeySequence::Print, "relatorio.print",
                 [this] { print(); }});
     const auto [body, column] = look::body(this);
