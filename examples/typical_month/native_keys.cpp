@@ -4,9 +4,6 @@
 
 #include <vector>
 
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
 #include <windows.h>
 
 namespace winvrx {

@@ -6,9 +6,6 @@
 #include <cstdint>
 #include <utility>
 
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
 #include <windows.h>
 
 namespace winvrx {

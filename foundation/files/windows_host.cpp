@@ -3,9 +3,6 @@
 #include <array>
 #include <charconv>
 
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
 #include <windows.h>
 
 namespace winvrx {

@@ -7,9 +7,6 @@
 #include <array>
 #include <stdexcept>
 
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
 #include <windows.h>
 
 // Windows copies no process: the test program is started again, with the work in its environment.

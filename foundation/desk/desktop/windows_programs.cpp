@@ -8,9 +8,6 @@
 
 #include <array>
 
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
 #include <windows.h>
 
 #include <shlwapi.h>

@@ -13,9 +13,6 @@
 #include <thread>
 #include <vector>
 
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
 #include <windows.h>
 
 namespace winvrx {

@@ -8,9 +8,6 @@
 #include <string>
 #include <utility>
 
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
 #include <windows.h>
 
 #include <aclapi.h>
