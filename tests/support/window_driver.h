@@ -107,6 +107,8 @@ class DrivenWindow : public WindowHolder<Window>, public WindowDriver {
     explicit DrivenWindow(Arguments&&... arguments)
         : WindowHolder<Window>{Window(std::forward<Arguments>(arguments)...)},
           WindowDriver(resized(this->window)) {}
+    /// A window of the program is closed, and its fields left, before it goes.
+    ~DrivenWindow() { this->window.hide(); }
 
   private:
     static QWidget& resized(QWidget& window) {

@@ -15,6 +15,8 @@
 #include <QTabWidget>
 #include <QToolButton>
 
+#include <functional>
+
 namespace winvrx {
 
 namespace {
@@ -160,7 +162,7 @@ void CartaoPontoDadosBWindow::buildCommands() {
     };
     const auto giving = [this](bool (CartaoPontoDadosB::*act)()) {
         return [this, act] {
-            (void)(command_.*act)();
+            (void)std::invoke(act, command_);  // .* is compiled wrongly by GCC 12's sanitizers here
             refresh();
         };
     };
