@@ -122,7 +122,7 @@ MenuEntry payrollEntry(const Workplace& at, const PayrollDesk& desk) {
                  Qt::CTRL | Qt::Key_P},
         .needs = MenuNeeds::Employees,
         .open = [at, desk](QWidget* parent) { openPayroll(at, desk, parent); },
-        .state = [](const MonthProgress*) { return QStringLiteral("Salário, recibos, encargos"); }};
+        .state = [](const MonthProgress*) { return QStringLiteral("Salário e recibos"); }};
 }
 
 }  // namespace winvrx
