@@ -110,10 +110,10 @@ const std::vector<Need> kMonthShown = {{1, "which month is in use"},
                                        {1, "the folder's names: own percentages, closed months"}};
 /// Under the folder's lock.
 const std::vector<Need> kMonthRecorded = {{1, "the record as it is now"}, {1, "the record"}};
-const std::vector<Need> kDailyCopy = {{1, "the names of the copies"},
-                                      {1, "sizes and times in the data folder"},
-                                      {1, "what the copy of yesterday holds"},
-                                      {1, "the copy"}};
+const std::vector<Need> kDailyCopy = {
+    {1, "the names of the copies"},          {1, "sizes and times in the data folder"},
+    {1, "what the copy of yesterday holds"}, {1, "the copy"},
+    {1, "which version's data these are"},   {1, "this version's, from now on"}};
 const std::vector<Need> kConfirmed = {{1, "which month is in use"}};
 const std::vector<Need> kCard = {{1, "the schedule"}, {1, "own percentages"}, {1, "the punches"}};
 const std::vector<Need> kMarks = {{1, "the leave file"}, {1, "a payroll is looked for"}};
@@ -171,8 +171,7 @@ const std::vector<Need> kCopiesShown = {{1, "the names of the copies"},
                                         {1, "the archive that has its former bytes"}};
 
 const std::vector<Step> kDay = {
-    {"select a company", "menu.companies", kSelect + menu(false) + kDueLooked, Act::Choose,
-     "NÚMERO 01"},
+    {"select a company", "menu.companies", kSelect + menu(false), Act::Choose, "NÚMERO 01"},
     {"open Empresas", "menu.companies.open", kCompanies},
     {"close Empresas", "empresa.close", menu(false)},
     {"open Funcionarios", "menu.employees.open", kEmployeesShown},

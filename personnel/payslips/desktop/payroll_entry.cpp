@@ -116,13 +116,12 @@ void openPayroll(const Workplace& at, const PayrollDesk& desk, QWidget* parent) 
 }
 
 MenuEntry payrollEntry(const Workplace& at, const PayrollDesk& desk) {
-    return {
-        .group = QStringLiteral("Pessoal"),
-        .tile = {"payroll", QStringLiteral("Folha de &Pagamento"), "menu.payroll.open",
-                 Qt::CTRL | Qt::Key_P},
-        .needs = MenuNeeds::Employees,
-        .open = [at, desk](QWidget* parent) { openPayroll(at, desk, parent); },
-        .state = [](const MonthProgress*) { return QStringLiteral("Salário e recibos"); }};
+    return {.group = QStringLiteral("Pessoal"),
+            .tile = {"payroll", QStringLiteral("Folha de &Pagamento"), "menu.payroll.open",
+                     Qt::CTRL | Qt::Key_P},
+            .needs = MenuNeeds::Employees,
+            .open = [at, desk](QWidget* parent) { openPayroll(at, desk, parent); },
+            .state = [](const MonthProgress*) { return QStringLiteral("Salário e recibos"); }};
 }
 
 }  // namespace winvrx
