@@ -34,8 +34,7 @@ DaySchedule scheduledOn(std::chrono::weekday weekday, const WorkTerms& terms) {
     return terms.saturdayIsNormal ? terms.saturday : DaySchedule();
 }
 
-DayMeaning meaningFor(const PunchLine& line, Standing standing) {
-    const DayMeaning marked = meaningOf(line.situation);
+DayMeaning meaningFor(const PunchLine& line, DayMeaning marked, Standing standing) {
     if (marked != DayMeaning::Work || standing != Standing::OnLeave) return marked;
     return line.hasTimes() ? DayMeaning::Excused : DayMeaning::Leave;
 }
@@ -44,7 +43,7 @@ DayTerms dayTerms(const PunchLine& line, Date date, Standing standing, const Wor
     const DayMeaning marked = meaningOf(line.situation);
     const std::chrono::weekday weekday = weekdayOf(date);
     DayTerms day;
-    day.meaning = meaningFor(line, standing);
+    day.meaning = meaningFor(line, marked, standing);
     day.paidRest = weekday == std::chrono::Sunday || terms.isHoliday(date);
     if (day.paidRest || marked == DayMeaning::Holiday || marked == DayMeaning::WeeklyRest)
         day.rest = HourRule::RestDay;
@@ -177,7 +176,7 @@ void walk(const PunchLine& line, Date date, const WorkTerms& terms, Visit visit)
 }  // namespace
 
 DayMeaning meaningOn(const PunchLine& line, Date date, const WorkTerms& terms) {
-    return meaningFor(line, terms.leaves.standingOn(date));
+    return meaningFor(line, meaningOf(line.situation), terms.leaves.standingOn(date));
 }
 
 DaySchedule contractedTimes(const PunchLine& line, Date date, const WorkTerms& terms) {

@@ -29,8 +29,8 @@ bool hasHalfMinutes(std::string_view text) {
 }  // namespace
 
 std::optional<TimeOfDay> parseTypedTime(std::string_view text) {
-    if (text.empty() || hasHalfMinutes(text)) return std::nullopt;
     if (const auto time = parseTime(text)) return time;
+    if (text.empty() || hasHalfMinutes(text)) return std::nullopt;
     const std::size_t separator = text.find_first_of(kSeparators);
     std::string_view hours = text.substr(0, separator);
     std::string_view minutes = "0";
