@@ -1,8 +1,8 @@
 #include "foundation/copies/safety_copies.h"
 #include "foundation/files/durable_files.h"
+#include "tests/support/commands/writing_commands.h"
 #include "tests/support/faulty_disk.h"
 #include "tests/support/plain_archiver.h"
-#include "tests/support/writing_commands.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "tests/support/commands/writing_commands.h"
 #include "tests/support/scratch_folder.h"
-#include "tests/support/writing_commands.h"
 
 #include <filesystem>
 #include <functional>

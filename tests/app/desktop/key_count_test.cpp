@@ -2,7 +2,7 @@
 #include "app/program.h"
 #include "foundation/files/desktop/system_drives.h"
 #include "foundation/menu/desktop/menu_window.h"
-#include "tests/support/filled_office.h"
+#include "tests/support/commands/filled_office.h"
 #include "tests/support/memory_settings.h"
 #include "tests/support/real_office.h"
 #include "tests/support/test_workplace.h"

@@ -4,13 +4,13 @@
 #include "foundation/menu/desktop/command_board.h"
 #include "foundation/menu/desktop/command_tile.h"
 #include "foundation/values/desktop/qt_text.h"
+#include "tests/support/commands/writing_commands.h"
 #include "tests/support/employee_desk.h"
 #include "tests/support/plain_archiver.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/recording_word_processor.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
-#include "tests/support/writing_commands.h"
 
 #include <QScrollBar>
 

@@ -1,4 +1,4 @@
-#include "tests/support/writing_commands.h"
+#include "tests/support/commands/writing_commands.h"
 
 #include "foundation/copies/safety_copies.h"
 #include "foundation/files/durable_files.h"

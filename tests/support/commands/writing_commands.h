@@ -1,7 +1,7 @@
 #pragma once
 
 #include "foundation/desk/command.h"
-#include "tests/support/filled_office.h"
+#include "tests/support/commands/filled_office.h"
 #include "tests/support/memory_disk.h"
 #include "tests/support/test_workplace.h"
 

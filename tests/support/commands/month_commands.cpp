@@ -1,5 +1,5 @@
 // What the screens of the work month and of the holidays write.
-#include "tests/support/writing_commands.h"
+#include "tests/support/commands/writing_commands.h"
 #include "timecard/month/data_mes_corrente.h"
 #include "timecard/month/feriados.h"
 

@@ -3,9 +3,9 @@
 #include "foundation/register/employee_import.h"
 #include "foundation/register/empresa.h"
 #include "foundation/register/turnos.h"
+#include "tests/support/commands/writing_commands.h"
 #include "tests/support/employee_desk.h"
 #include "tests/support/leave_files.h"
-#include "tests/support/writing_commands.h"
 
 namespace winvrx::testing {
 

@@ -1,5 +1,5 @@
 // What the screen of the browser switches writes in the data folder.
-#include "tests/support/writing_commands.h"
+#include "tests/support/commands/writing_commands.h"
 #include "tools/internet/web_ni.h"
 
 namespace winvrx::testing {

@@ -1,8 +1,8 @@
 // What the screens of the time card and of its printing write.
 #include "output/stocks/tipo_ponto.h"
+#include "tests/support/commands/writing_commands.h"
 #include "tests/support/leave_files.h"
 #include "tests/support/test_punch_desk.h"
-#include "tests/support/writing_commands.h"
 #include "timecard/card/cartao_ponto_dados.h"
 #include "timecard/punches/leave_marking.h"
 

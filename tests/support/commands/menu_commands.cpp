@@ -1,10 +1,10 @@
 // What the main window writes, and the safety copies.
 #include "foundation/copies/restaurar_copia.h"
 #include "foundation/menu/menu.h"
+#include "tests/support/commands/writing_commands.h"
 #include "tests/support/memory_settings.h"
 #include "tests/support/only_copy.h"
 #include "tests/support/plain_archiver.h"
-#include "tests/support/writing_commands.h"
 
 namespace winvrx::testing {
 

@@ -3,8 +3,8 @@
 #include "personnel/documents/documentos.h"
 #include "personnel/leaves/leave_form.h"
 #include "personnel/leaves/leave_types.h"
+#include "tests/support/commands/writing_commands.h"
 #include "tests/support/recording_word_processor.h"
-#include "tests/support/writing_commands.h"
 
 namespace winvrx::testing {
 

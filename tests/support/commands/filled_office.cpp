@@ -1,4 +1,4 @@
-#include "tests/support/filled_office.h"
+#include "tests/support/commands/filled_office.h"
 
 #include "foundation/files/record_file.h"
 #include "foundation/register/company.h"

@@ -1,8 +1,8 @@
 // What the leave screen writes.
 #include "personnel/leaves/afastamento.h"
 #include "personnel/leaves/leave_types.h"
+#include "tests/support/commands/writing_commands.h"
 #include "tests/support/employee_desk.h"
-#include "tests/support/writing_commands.h"
 
 namespace winvrx::testing {
 

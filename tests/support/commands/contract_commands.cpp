@@ -1,7 +1,7 @@
 // What the contract screen and the correction letters write.
 #include "personnel/invoice_letter/carta_correcao_imprime.h"
+#include "tests/support/commands/writing_commands.h"
 #include "tests/support/contract_office.h"
-#include "tests/support/writing_commands.h"
 
 namespace winvrx::testing {
 

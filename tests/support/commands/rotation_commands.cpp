@@ -1,8 +1,8 @@
 // What the screen of the rotations writes, and the commands that change its groups elsewhere.
+#include "tests/support/commands/writing_commands.h"
 #include "tests/support/employee_desk.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_punch_desk.h"
-#include "tests/support/writing_commands.h"
 #include "timecard/card/cartao_ponto_dados.h"
 #include "timecard/rotation/cartao_ponto_dados_b.h"
 #include "timecard/rotation/rotation_records.h"

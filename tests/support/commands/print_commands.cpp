@@ -4,12 +4,12 @@
 #include "output/mirrors/hours_reports.h"
 #include "output/stocks/cartao_pontos.h"
 #include "report/impressorar.h"
+#include "tests/support/commands/writing_commands.h"
 #include "tests/support/hours_office.h"
 #include "tests/support/recording_engine.h"
 #include "tests/support/test_browser.h"
 #include "tests/support/test_printers.h"
 #include "tests/support/test_punch_desk.h"
-#include "tests/support/writing_commands.h"
 
 namespace winvrx::testing {
 

@@ -4,8 +4,8 @@
 #include "personnel/employer/tabelas_legais.h"
 #include "personnel/payroll/eventos.h"
 #include "personnel/payroll/folha.h"
+#include "tests/support/commands/writing_commands.h"
 #include "tests/support/employees.h"
-#include "tests/support/writing_commands.h"
 
 namespace winvrx::testing {
 

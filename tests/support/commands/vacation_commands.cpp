@@ -1,8 +1,8 @@
 // What the vacation screen writes.
 #include "personnel/vacation/ferias.h"
+#include "tests/support/commands/writing_commands.h"
 #include "tests/support/employee_desk.h"
 #include "tests/support/employees.h"
-#include "tests/support/writing_commands.h"
 
 namespace winvrx::testing {
 
