@@ -8,14 +8,6 @@ constexpr int kUrbanPercent = 20;
 constexpr int kRuralPercent = 25;
 constexpr int kMinutesAnHour = 60;
 
-Fraction reducedMinutes() {
-    return {105, 2};
-}
-
-bool isReduced(const PayrollLaw& law) {
-    return law.settings.nightHourIsReduced && law.settings.nightWork == NightWork::Urban;
-}
-
 Sum hourSum(const PayrollLaw& law, const HourBase& base) {
     Sum hour = Sum(base.pay).over(base.divisor);
     return law.settings.hourIsRounded ? std::move(hour).inCents() : hour;
@@ -30,8 +22,10 @@ int nightPercent(const PayrollLaw& law) {
 }
 
 Sum nightSum(const PayrollLaw& law, Sum sum, std::chrono::seconds clock) {
+    const bool isReduced =
+        law.settings.nightHourIsReduced && law.settings.nightWork == NightWork::Urban;
     sum = std::move(sum).hours(clock);
-    return isReduced(law) ? std::move(sum).times(kMinutesAnHour).over(reducedMinutes()) : sum;
+    return isReduced ? std::move(sum).times(kMinutesAnHour).over({105, 2}) : sum;
 }
 
 }  // namespace
@@ -41,8 +35,7 @@ Fraction hourValue(const PayrollLaw& law, const HourBase& base) {
 }
 
 Fraction nightHours(const PayrollLaw& law, std::chrono::seconds clock) {
-    const Fraction hours = hoursOf(clock);
-    return isReduced(law) ? hours * kMinutesAnHour / reducedMinutes() : hours;
+    return nightSum(law, Sum(Money{1}), clock).value();
 }
 
 Reckoning overtimePay(const PayrollLaw& law, const HourBase& base, int percent,

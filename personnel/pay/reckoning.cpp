@@ -9,6 +9,10 @@ namespace {
 constexpr int kMinutesAnHour = 60;
 constexpr int kSecondsAnHour = 3600;
 
+Fraction hoursOf(std::chrono::seconds duration) {
+    return {duration.count(), kSecondsAnHour};
+}
+
 std::string hoursText(std::chrono::seconds duration) {
     const std::int64_t minutes = duration.count() / kMinutesAnHour;
     if (duration.count() % kMinutesAnHour != 0) return decimalText(hoursOf(duration), 4) + " h";
@@ -18,10 +22,6 @@ std::string hoursText(std::chrono::seconds duration) {
 }
 
 }  // namespace
-
-Fraction hoursOf(std::chrono::seconds duration) {
-    return {duration.count(), kSecondsAnHour};
-}
 
 std::string memoText(const MemoLine& line) {
     return line.figures.empty() ? line.words : line.words + ": " + line.figures;

@@ -54,8 +54,6 @@ void append(Memo& memo, const Memo& more);
 /// `money`, or nothing where it is below zero.
 [[nodiscard]] Money atLeastZero(Money money);
 
-[[nodiscard]] Fraction hoursOf(std::chrono::seconds duration);
-
 /// A sum as it is worked out: exact to its end, where it is rounded once.
 class Sum {
   public:
